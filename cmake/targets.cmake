@@ -1,0 +1,37 @@
+# What every target of the project shares: warnings, sanitizers, the test framework.
+
+find_package(Threads REQUIRED)
+
+add_library(qv_options INTERFACE)
+target_compile_options(qv_options INTERFACE -Wall -Wextra -Wshadow=local -Werror)
+if(QV_SANITIZE)
+    target_compile_options(qv_options INTERFACE -fsanitize=address,undefined
+                           -fno-sanitize-recover=all -fno-omit-frame-pointer -O1)
+    target_link_options(qv_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(WIN32)
+    # The library's modules export by declaration, and Windows 7 is the oldest system they run on.
+    target_compile_definitions(qv_options INTERFACE _WIN32_WINNT=0x0601 WINVER=0x0601
+                               _WIN32_IE=0x0700 NOMINMAX _AFXDLL _MBCS)
+endif()
+
+# A portable core library: no include path but src itself, so that a window header cannot slip in.
+function(qv_add_core name)
+    cmake_parse_arguments(ARG "" "" "DEPENDS" ${ARGN})
+    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+    if(NOT sources)
+        add_library(${name} INTERFACE)
+        return()
+    endif()
+    add_library(${name} STATIC ${sources})
+    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+    target_link_libraries(${name} PRIVATE qv_options PUBLIC ${ARG_DEPENDS})
+endfunction()
+
+# GoogleTest from the distribution's sources, built with whichever compiler this tree uses.
+set(INSTALL_GTEST OFF)
+set(gtest_force_shared_crt ON)
+add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
+foreach(target gtest gtest_main gmock gmock_main)
+    set_target_properties(${target} PROPERTIES CXX_STANDARD 17)
+endforeach()
