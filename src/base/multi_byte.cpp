@@ -95,6 +95,17 @@ std::size_t MultiByte::CharBytes(const char* psz) const {
     return 1;
 }
 
+std::size_t MultiByte::PrefixBytes(const char* psz, std::size_t nMost) const {
+    std::size_t nBytes = 0;
+    while (const std::size_t nChar = CharBytes(psz + nBytes)) {
+        if (nBytes + nChar > nMost) {
+            break;
+        }
+        nBytes += nChar;
+    }
+    return nBytes;
+}
+
 // The folded value of the character at psz, which moves behind it; 0 at the terminator, where it
 // stays. Bytes that form no UTF-8 character get values behind every character.
 std::uint32_t MultiByte::NextFolded(const char*& psz) const {

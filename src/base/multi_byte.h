@@ -35,6 +35,9 @@ public:
     // Bytes of the character at psz, 0 at the terminator.
     std::size_t CharBytes(const char* psz) const;
 
+    // Bytes of the longest start of psz that has at most nMost bytes and splits no character.
+    std::size_t PrefixBytes(const char* psz, std::size_t nMost) const;
+
 private:
     enum class Kind { SingleByte, DoubleByte, Utf8 };
 

@@ -1,7 +1,7 @@
 // QVCustCtrl: base of the controls that paint themselves entirely. It gives them one initialisation
-// path for a control in a dialog template and one made from code, a default window style that can be
-// adjusted before creation, and flicker-free painting: a derived class sees only Draw on a memory
-// device context, and each pixel of the screen is written once a paint.
+// path for a control in a dialog template and one made from code, a default window style that can
+// be adjusted before creation, and flicker-free painting: a derived class sees only Draw on a
+// memory device context, and each pixel of the screen is written once a paint.
 
 #pragma once
 
@@ -21,8 +21,8 @@ public:
     void ModifyDefStyle(DWORD dwRemove, DWORD dwAdd);
 
     // Makes the control ready. From a dialog, attaches it to the item nID of pParent; 0 if there is
-    // none. On a control that has a window already (made by Create, which calls this itself) gives 1
-    // at once. A derived class calls this first, then sets itself up; a 0 from it fails Create.
+    // none. On a control that has a window already (made by Create, which calls this itself) gives
+    // 1 at once. A derived class calls this first, then sets itself up; a 0 from it fails Create.
     virtual int Initialize(UINT nID, CWnd* pParent);
     // A child window at rect (client pixels of pParent), in the default style. 1, or 0 on failure.
     virtual int Create(UINT nID, const CRect& rect, CWnd* pParent);

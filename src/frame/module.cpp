@@ -39,7 +39,7 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE hInstance, DWORD dwReason, LPVOID) {
     return TRUE;
 }
 
-extern "C" CDynLinkLibrary* WINAPI InitQVControlExtensionDLL() {
+extern "C" CDynLinkLibrary* InitQVControlExtensionDLL() {
     try {
         return new CDynLinkLibrary(extensionDLL, FALSE);
     } catch (CMemoryException* pException) {

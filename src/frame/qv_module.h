@@ -10,4 +10,4 @@
 // Call once from a module state other than the one that loaded the library, before the first use of
 // one of its resources or dialogs. Gives the new chain entry, which the framework owns, or null
 // without memory. A second call adds a second entry and does no harm.
-extern "C" QV_CONTROLS_API CDynLinkLibrary* WINAPI InitQVControlExtensionDLL();
+extern "C" QV_CONTROLS_API CDynLinkLibrary* InitQVControlExtensionDLL();

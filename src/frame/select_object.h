@@ -36,8 +36,7 @@ private:
 // Remembers text and background colour.
 class ColorGuard {
 public:
-    explicit ColorGuard(CDC& dc)
-        : m_dc(dc), m_crText(dc.GetTextColor()), m_crBk(dc.GetBkColor()) {}
+    explicit ColorGuard(CDC& dc) : m_dc(dc), m_crText(dc.GetTextColor()), m_crBk(dc.GetBkColor()) {}
     ~ColorGuard() {
         m_dc.SetTextColor(m_crText);
         m_dc.SetBkColor(m_crBk);

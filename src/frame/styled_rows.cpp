@@ -1,13 +1,17 @@
 #include "frame/styled_rows.h"
 
-int QVStyleTable::AddStyle(COLORREF crText, COLORREF crBk) { return m_aStyles.Add(crText, crBk); }
+int QVStyleTable::AddStyle(COLORREF crText, COLORREF crBk) {
+    return m_aStyles.Add(crText, crBk);
+}
 
 int QVStyleTable::UpdateStyle(int nStyle, COLORREF crText, COLORREF crBk) {
     m_aStyles.Update(nStyle, crText, crBk);
     return 0;
 }
 
-int QVStyleTable::ParseStyle(LPCSTR pszText) const { return m_aStyles.ParseStyle(pszText); }
+int QVStyleTable::ParseStyle(LPCSTR pszText) const {
+    return m_aStyles.ParseStyle(pszText);
+}
 
 LPCSTR QVStyleTable::ParseStyleText(LPCSTR pszText) const {
     return m_aStyles.ParseStyleText(pszText);
@@ -17,9 +21,13 @@ QVStyledRows::QVStyledRows() {
     AddStyle(::GetSysColor(COLOR_WINDOWTEXT), ::GetSysColor(COLOR_WINDOW));
 }
 
-BOOL QVStyledRows::HasStyle(LPCSTR pszText) const { return qv::HasStyle(pszText); }
+BOOL QVStyledRows::HasStyle(LPCSTR pszText) const {
+    return qv::HasStyle(pszText);
+}
 
-CString QVStyledRows::MakeStyleCodes(int nStyle) { return qv::MakeStyleCodes(nStyle).data(); }
+CString QVStyledRows::MakeStyleCodes(int nStyle) {
+    return qv::MakeStyleCodes(nStyle).data();
+}
 
 CString QVStyledRows::MakeStyleText(LPCSTR pszText, int nStyle) const {
     CString strRow;

@@ -34,7 +34,9 @@ std::string PlainCharacters() {
 
 }  // namespace
 
-bool WndPort::HasWindow() const { return m_wnd.m_hWnd != nullptr && ::IsWindow(m_wnd.m_hWnd); }
+bool WndPort::HasWindow() const {
+    return m_wnd.m_hWnd != nullptr && ::IsWindow(m_wnd.m_hWnd);
+}
 
 Rect WndPort::ClientRect() const {
     CRect rect;
@@ -42,13 +44,21 @@ Rect WndPort::ClientRect() const {
     return ToRect(rect);
 }
 
-unsigned WndPort::Style() const { return m_wnd.GetStyle(); }
+unsigned WndPort::Style() const {
+    return m_wnd.GetStyle();
+}
 
-int WndPort::VerticalBarWidth() const { return ::GetSystemMetrics(SM_CXVSCROLL); }
+int WndPort::VerticalBarWidth() const {
+    return ::GetSystemMetrics(SM_CXVSCROLL);
+}
 
-int WndPort::HorizontalBarHeight() const { return ::GetSystemMetrics(SM_CYHSCROLL); }
+int WndPort::HorizontalBarHeight() const {
+    return ::GetSystemMetrics(SM_CYHSCROLL);
+}
 
-void WndPort::ShowScrollBar(int nBar, bool bShow) { m_wnd.ShowScrollBar(nBar, bShow); }
+void WndPort::ShowScrollBar(int nBar, bool bShow) {
+    m_wnd.ShowScrollBar(nBar, bShow);
+}
 
 void WndPort::SetScrollRange(int nBar, const ScrollRange& range) {
     SCROLLINFO info{};
@@ -81,9 +91,13 @@ void WndPort::Invalidate(const Rect& rect, bool bErase) {
     m_wnd.InvalidateRect(&rc, bErase);
 }
 
-void WndPort::InvalidateAll() { m_wnd.InvalidateRect(nullptr, FALSE); }
+void WndPort::InvalidateAll() {
+    m_wnd.InvalidateRect(nullptr, FALSE);
+}
 
-void WndPort::Update() { m_wnd.UpdateWindow(); }
+void WndPort::Update() {
+    m_wnd.UpdateWindow();
+}
 
 Size DcMeasure::Extent(std::string_view text) {
     SIZE size{};

@@ -12,7 +12,9 @@
 
 namespace qv {
 
-inline CRect ToCRect(const Rect& rect) { return {rect.left, rect.top, rect.right, rect.bottom}; }
+inline CRect ToCRect(const Rect& rect) {
+    return {rect.left, rect.top, rect.right, rect.bottom};
+}
 inline Rect ToRect(const RECT& rect) {
     return {static_cast<int>(rect.left), static_cast<int>(rect.top), static_cast<int>(rect.right),
             static_cast<int>(rect.bottom)};

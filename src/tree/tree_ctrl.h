@@ -3,8 +3,8 @@
 // A row is one string in the shared row format (frame/styled_rows.h): its first field is the item's
 // text, further fields stand at tab stops. The control speaks the vocabulary of the platform's tree
 // control - HTREEITEM, TVI_, TVGN_, TVE_, TVIS_, TVHT_, NM_TREEVIEW and TVN_ - but is none: handles
-// point at records of its own, state image 0 is a real picture, and a parent hears of a check mark by
-// the selection codes with itemOld.hItem equal to itemNew.hItem.
+// point at records of its own, state image 0 is a real picture, and a parent hears of a check mark
+// by the selection codes with itemOld.hItem equal to itemNew.hItem.
 //
 // Ownership: the control owns its items and its standard check images; image lists handed to
 // SetImageList stay the caller's and must outlive the control's window. Item data are the caller's.
@@ -50,9 +50,9 @@ public:
     // --- Items
 
     // The new item, or null without memory. hParent null or TVI_ROOT: root level. hInsertAfter:
-    // TVI_FIRST, TVI_LAST (also for null), TVI_SORT (before the first sibling for which CompareItems
-    // gives exactly -1) or an item, behind which the new one goes - with that item's parent, if it
-    // has another than hParent.
+    // TVI_FIRST, TVI_LAST (also for null), TVI_SORT (before the first sibling for which
+    // CompareItems gives exactly -1) or an item, behind which the new one goes - with that item's
+    // parent, if it has another than hParent.
     HTREEITEM InsertItem(LPCSTR pszText, int nImage, int nSelectedImage, HTREEITEM hParent,
                          HTREEITEM hInsertAfter);
     // With all below it; null or TVI_ROOT deletes everything. A selection in there moves to the row
@@ -126,8 +126,8 @@ public:
     using QVStyledRows::AppendStyleText;
     // Overwrites the style code of a text that has one, in place; 0 for a text without.
     BOOL ChangeStyle(char* pszText, int nStyle);
-    // Restyles an item and, with bUpTheTree, its ancestors; bOnlyDefault spares rows in a style other
-    // than 0, and rows without a code are passed over. Gives the number changed.
+    // Restyles an item and, with bUpTheTree, its ancestors; bOnlyDefault spares rows in a style
+    // other than 0, and rows without a code are passed over. Gives the number changed.
     int ChangeItemStyles(HTREEITEM hItem, int nStyle, BOOL bUpTheTree, BOOL bOnlyDefault);
 
     // --- Columns
@@ -140,8 +140,8 @@ public:
     void SetTabValue(int nTab, int nValue);
     UINT GetTabFormat(int nTab);  // DT_LEFT, DT_CENTER or DT_RIGHT
     void SetTabFormat(int nTab, UINT nFormat);
-    // TRUE: stops count from the start of the item's text. FALSE: from the start of the row, so that
-    // columns line up across levels. No repaint.
+    // TRUE: stops count from the start of the item's text. FALSE: from the start of the row, so
+    // that columns line up across levels. No repaint.
     void SetIndentTabs(BOOL bIndent);
 
     // --- Images
@@ -162,8 +162,9 @@ public:
     BOOL ItemVisible(HTREEITEM hItem);
     BOOL ItemExpanded(HTREEITEM hItem);
     BOOL EnsureVisible(HTREEITEM hItem);
-    // TVE_COLLAPSE, TVE_EXPAND or TVE_TOGGLE. Tells nobody, but a selection that is hidden by it moves
-    // to hItem with notifications. bCollapseChildren closes the direct children as the item opens.
+    // TVE_COLLAPSE, TVE_EXPAND or TVE_TOGGLE. Tells nobody, but a selection that is hidden by it
+    // moves to hItem with notifications. bCollapseChildren closes the direct children as the item
+    // opens.
     BOOL Expand(HTREEITEM hItem, UINT nCode, BOOL bInvalidate, BOOL bCollapseChildren);
     // Tells nobody; null clears the selection. 0 if hItem is the selection already.
     BOOL SelectItem(HTREEITEM hItem);
@@ -224,8 +225,23 @@ protected:
 
 private:
     class Core;
-    class RowPainter;
+    class Guard;
     using CWnd::Create;
+
+    void FindFont();
+    void InvalidateAll();
+    bool IsHighlighted(HTREEITEM hItem);
+    void DrawBranchLine(CDC& dc, HTREEITEM hItem, const CRect& rcItem, const CRect& rcText);
+    void DrawImage(CDC& dc, CImageList& images, int nImage, CRect rcCell, CSize size);
+    void DrawTreeLines(CDC& dc, HTREEITEM hItem, const CRect& rcCell, int nShift, int nRight);
+    bool ToggleByMouse(HTREEITEM hItem);
+    bool ExpandByKey(HTREEITEM hItem);
+    bool CollapseByKey(HTREEITEM hItem);
+    void StepSelection(bool bDown);
+    void SelectParent(HTREEITEM hItem);
+    bool ChangeOneStateImage(HTREEITEM hItem, UINT nImage);
+    void ToggleCheck(HTREEITEM hItem);
+    void DrawFocusFrame(bool bFocus);
 
     std::unique_ptr<Core> m_pCore;
 };

@@ -13,8 +13,9 @@ inline constexpr unsigned kWheelPage = 0xFFFFFFFFu;  // the line count that mean
 template <class Scroll>
 void TurnWheel(int& nRemainder, int nDelta, unsigned nLines, Scroll scroll) {
     const bool bPage = nLines == kWheelPage;
-    const int nStep =
-        nLines == 0 || bPage ? kWheelNotch : static_cast<int>(static_cast<unsigned>(kWheelNotch) / nLines);
+    const int nStep = nLines == 0 || bPage
+                          ? kWheelNotch
+                          : static_cast<int>(static_cast<unsigned>(kWheelNotch) / nLines);
     if (nStep == 0) {
         nRemainder = 0;
         return;

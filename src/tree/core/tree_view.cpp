@@ -263,11 +263,12 @@ int TreeView::TextExtent(HTREEITEM hItem, TextMeasure* pOther) {
 
 void TreeView::CalcItemRect(TextMeasure* pOther, int nTop, HTREEITEM hItem, Rect& rect,
                             bool bTextOnly) {
+    const int nHeight = ItemHeight();  // first, as it finds the font
     const int nIndent = IndentStep();
     // With stops that count from the text, what stands before it pushes the right edge on. With
     // absolute stops the edge stays, and the text gets what is left.
     int nText = TextExtent(hItem, pOther);
-    rect = {hItem->nLevel * nIndent, nTop, nText, nTop + ItemHeight()};
+    rect = {hItem->nLevel * nIndent, nTop, nText, nTop + nHeight};
     if (m_bIndentTabs) {
         rect.right = rect.left + nText + kTextMargin;
     } else {
