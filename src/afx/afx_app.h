@@ -38,7 +38,6 @@ public:
     virtual BOOL ProcessMessageFilter(int code, LPMSG lpMsg);
 
 protected:
-    void DispatchThreadMessage(MSG* pMsg);
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -298,7 +298,6 @@ public:
     static BOOL ReflectLastMsg(HWND hWndChild, LRESULT* pResult = nullptr);
     BOOL SendChildNotifyLastMsg(LRESULT* pResult = nullptr);
 
-    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
     void OnFinalRelease() override;
 
     UINT m_nFlags = 0;
@@ -447,6 +446,8 @@ protected:
 protected:
     friend QVAFX_API LRESULT CALLBACK AfxWndProc(HWND, UINT, WPARAM, LPARAM);
     friend QVAFX_API LRESULT AfxCallWndProc(CWnd*, HWND, UINT, WPARAM, LPARAM);
+
+    friend LRESULT CALLBACK AfxCreationFilter(int, WPARAM, LPARAM);
 
     BOOL DispatchMapMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     BOOL DispatchCtlColor(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);

@@ -1,4 +1,5 @@
 // What the handlers of CWnd itself do: pass the message on as it came.
+#include "afx_wnd_state.h"
 #include "afxwin.h"
 
 int CWnd::OnCreate(LPCREATESTRUCT) {
@@ -354,5 +355,154 @@ void CWnd::OnPaletteChanged(CWnd*) {
 }
 
 void CWnd::OnPaletteIsChanging(CWnd*) {
+    Default();
+}
+
+// Messages about a control go to the control first.
+
+void CWnd::OnParentNotify(UINT message, LPARAM lParam) {
+    const UINT nEvent = LOWORD(message);
+    if ((nEvent == WM_CREATE || nEvent == WM_DESTROY) &&
+        ReflectLastMsg(reinterpret_cast<HWND>(lParam))) {
+        return;
+    }
+    Default();
+}
+
+HBRUSH CWnd::OnCtlColor(CDC*, CWnd* pWnd, UINT) {
+    LRESULT lResult = 0;
+    if (pWnd != nullptr && pWnd->SendChildNotifyLastMsg(&lResult)) {
+        return reinterpret_cast<HBRUSH>(lResult);
+    }
+    return reinterpret_cast<HBRUSH>(Default());
+}
+
+void CWnd::OnHScroll(UINT, UINT, CScrollBar* pScrollBar) {
+    if (pScrollBar == nullptr || !pScrollBar->SendChildNotifyLastMsg()) {
+        Default();
+    }
+}
+
+void CWnd::OnVScroll(UINT, UINT, CScrollBar* pScrollBar) {
+    if (pScrollBar == nullptr || !pScrollBar->SendChildNotifyLastMsg()) {
+        Default();
+    }
+}
+
+void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT lpDrawItemStruct) {
+    if (lpDrawItemStruct->CtlType == ODT_MENU) {
+        CMenu* pMenu =
+            CMenu::FromHandlePermanent(reinterpret_cast<HMENU>(lpDrawItemStruct->hwndItem));
+        if (pMenu != nullptr) {
+            pMenu->DrawItem(lpDrawItemStruct);
+            return;
+        }
+    } else if (ReflectLastMsg(lpDrawItemStruct->hwndItem)) {
+        return;
+    }
+    Default();
+}
+
+/// The menu object that has the item, below hMenu. WM_MEASUREITEM does not say which menu it means.
+static CMenu* FindMenuOfItem(HMENU hMenu, UINT nID) {
+    const int nCount = hMenu != nullptr ? ::GetMenuItemCount(hMenu) : 0;
+    for (int nItem = 0; nItem < nCount; ++nItem) {
+        if (HMENU hSubMenu = ::GetSubMenu(hMenu, nItem)) {
+            if (CMenu* pMenu = FindMenuOfItem(hSubMenu, nID)) {
+                return pMenu;
+            }
+        } else if (::GetMenuItemID(hMenu, nItem) == nID) {
+            if (CMenu* pMenu = CMenu::FromHandlePermanent(hMenu)) {
+                return pMenu;
+            }
+        }
+    }
+    return nullptr;
+}
+
+void CWnd::OnMeasureItem(int, LPMEASUREITEMSTRUCT lpMeasureItemStruct) {
+    if (lpMeasureItemStruct->CtlType == ODT_MENU) {
+        CMenu* pMenu = FindMenuOfItem(AfxGetWndState().hLastPopup, lpMeasureItemStruct->itemID);
+        if (pMenu == nullptr) {
+            pMenu = FindMenuOfItem(::GetMenu(m_hWnd), lpMeasureItemStruct->itemID);
+        }
+        if (pMenu != nullptr) {
+            pMenu->MeasureItem(lpMeasureItemStruct);
+            return;
+        }
+    } else {
+        HWND hWndChild = ::GetDlgItem(m_hWnd, static_cast<int>(lpMeasureItemStruct->CtlID));
+        if (hWndChild != nullptr && ReflectLastMsg(hWndChild)) {
+            return;
+        }
+    }
+    Default();
+}
+
+int CWnd::OnCompareItem(int, LPCOMPAREITEMSTRUCT lpCompareItemStruct) {
+    LRESULT lResult = 0;
+    if (ReflectLastMsg(lpCompareItemStruct->hwndItem, &lResult)) {
+        return static_cast<int>(lResult);
+    }
+    return static_cast<int>(Default());
+}
+
+void CWnd::OnDeleteItem(int, LPDELETEITEMSTRUCT lpDeleteItemStruct) {
+    if (!ReflectLastMsg(lpDeleteItemStruct->hwndItem)) {
+        Default();
+    }
+}
+
+int CWnd::OnVKeyToItem(UINT, CListBox* pListBox, UINT) {
+    LRESULT lResult = 0;
+    if (pListBox != nullptr && ReflectLastMsg(pListBox->m_hWnd, &lResult)) {
+        return static_cast<int>(lResult);
+    }
+    return static_cast<int>(Default());
+}
+
+int CWnd::OnCharToItem(UINT, CListBox* pListBox, UINT) {
+    LRESULT lResult = 0;
+    if (pListBox != nullptr && ReflectLastMsg(pListBox->m_hWnd, &lResult)) {
+        return static_cast<int>(lResult);
+    }
+    return static_cast<int>(Default());
+}
+
+// Changes of the system are sent to top-level windows only; their children hear them from here.
+
+static void PassDown(CWnd* pWnd) {
+    if (!(pWnd->GetStyle() & WS_CHILD)) {
+        const MSG msg = *CWnd::GetCurrentMessage();
+        pWnd->SendMessageToDescendants(msg.message, msg.wParam, msg.lParam, TRUE, TRUE);
+    }
+}
+
+void CWnd::OnSysColorChange() {
+    PassDown(this);
+    Default();
+}
+
+void CWnd::OnSettingChange(UINT, LPCTSTR) {
+    PassDown(this);
+    Default();
+}
+
+void CWnd::OnDevModeChange(LPTSTR) {
+    PassDown(this);
+    Default();
+}
+
+void CWnd::OnFontChange() {
+    PassDown(this);
+    Default();
+}
+
+void CWnd::OnDisplayChange(UINT, int, int) {
+    PassDown(this);
+    Default();
+}
+
+void CWnd::OnDestroy() {
     Default();
 }

@@ -70,6 +70,9 @@ inline LRESULT AfxMsgResult(UINT nResult) {
 
 #define AFX_VOID_(message, fn, params, ...) \
     AFX_ENTRY_(message, 0, 0, 0, nullptr, AFX_PMF_(fn, void, params)(__VA_ARGS__); return 0;)
+// For messages whose sender wants to hear TRUE from who handled them.
+#define AFX_DONE_(message, fn, params, ...) \
+    AFX_ENTRY_(message, 0, 0, 0, nullptr, AFX_PMF_(fn, void, params)(__VA_ARGS__); return TRUE;)
 #define AFX_RESULT_(message, fn, ret, params, ...) \
     AFX_ENTRY_(message, 0, 0, 0, nullptr,          \
                return AfxMsgResult(AFX_PMF_(fn, ret, params)(__VA_ARGS__));)
@@ -242,16 +245,16 @@ inline LRESULT AfxMsgResult(UINT nResult) {
 
 // Owner drawing, colours and item messages
 #define ON_WM_DRAWITEM()                                                    \
-    AFX_VOID_(WM_DRAWITEM, &ThisClass::OnDrawItem, (int, LPDRAWITEMSTRUCT), \
+    AFX_DONE_(WM_DRAWITEM, &ThisClass::OnDrawItem, (int, LPDRAWITEMSTRUCT), \
               static_cast<int>(AFX_WP_), AFX_LPAS_(LPDRAWITEMSTRUCT))
 #define ON_WM_MEASUREITEM()                                                          \
-    AFX_VOID_(WM_MEASUREITEM, &ThisClass::OnMeasureItem, (int, LPMEASUREITEMSTRUCT), \
+    AFX_DONE_(WM_MEASUREITEM, &ThisClass::OnMeasureItem, (int, LPMEASUREITEMSTRUCT), \
               static_cast<int>(AFX_WP_), AFX_LPAS_(LPMEASUREITEMSTRUCT))
 #define ON_WM_COMPAREITEM()                                                                 \
     AFX_RESULT_(WM_COMPAREITEM, &ThisClass::OnCompareItem, int, (int, LPCOMPAREITEMSTRUCT), \
                 static_cast<int>(AFX_WP_), AFX_LPAS_(LPCOMPAREITEMSTRUCT))
 #define ON_WM_DELETEITEM()                                                        \
-    AFX_VOID_(WM_DELETEITEM, &ThisClass::OnDeleteItem, (int, LPDELETEITEMSTRUCT), \
+    AFX_DONE_(WM_DELETEITEM, &ThisClass::OnDeleteItem, (int, LPDELETEITEMSTRUCT), \
               static_cast<int>(AFX_WP_), AFX_LPAS_(LPDELETEITEMSTRUCT))
 #define ON_WM_VKEYTOITEM()                                                                        \
     AFX_RESULT_(WM_VKEYTOITEM, &ThisClass::OnVKeyToItem, int, (UINT, CListBox*, UINT), AFX_WPLO_, \
@@ -430,16 +433,16 @@ inline LRESULT AfxMsgResult(UINT nResult) {
             CDC::FromHandle(AFX_LPAS_(AFX_CTLCOLOR*)->hDC), AFX_LPAS_(AFX_CTLCOLOR*)->nCtlType); \
         call.bHandled = hbr != nullptr; return AfxMsgResult(hbr);)
 #define ON_WM_DRAWITEM_REFLECT()                                                       \
-    AFX_VOID_(WM_REFLECT_BASE + WM_DRAWITEM, &ThisClass::DrawItem, (LPDRAWITEMSTRUCT), \
+    AFX_DONE_(WM_REFLECT_BASE + WM_DRAWITEM, &ThisClass::DrawItem, (LPDRAWITEMSTRUCT), \
               AFX_LPAS_(LPDRAWITEMSTRUCT))
 #define ON_WM_MEASUREITEM_REFLECT()                                                             \
-    AFX_VOID_(WM_REFLECT_BASE + WM_MEASUREITEM, &ThisClass::MeasureItem, (LPMEASUREITEMSTRUCT), \
+    AFX_DONE_(WM_REFLECT_BASE + WM_MEASUREITEM, &ThisClass::MeasureItem, (LPMEASUREITEMSTRUCT), \
               AFX_LPAS_(LPMEASUREITEMSTRUCT))
 #define ON_WM_COMPAREITEM_REFLECT()                                             \
     AFX_RESULT_(WM_REFLECT_BASE + WM_COMPAREITEM, &ThisClass::CompareItem, int, \
                 (LPCOMPAREITEMSTRUCT), AFX_LPAS_(LPCOMPAREITEMSTRUCT))
 #define ON_WM_DELETEITEM_REFLECT()                                                           \
-    AFX_VOID_(WM_REFLECT_BASE + WM_DELETEITEM, &ThisClass::DeleteItem, (LPDELETEITEMSTRUCT), \
+    AFX_DONE_(WM_REFLECT_BASE + WM_DELETEITEM, &ThisClass::DeleteItem, (LPDELETEITEMSTRUCT), \
               AFX_LPAS_(LPDELETEITEMSTRUCT))
 #define ON_WM_VKEYTOITEM_REFLECT()                                                          \
     AFX_RESULT_(WM_REFLECT_BASE + WM_VKEYTOITEM, &ThisClass::VKeyToItem, int, (UINT, UINT), \
