@@ -1,0 +1,8 @@
+// All public headers of the library.
+
+#pragma once
+
+#include "frame/cust_ctrl.h"
+#include "frame/qv_module.h"
+#include "frame/styled_rows.h"
+#include "tree/tree_ctrl.h"

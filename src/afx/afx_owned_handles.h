@@ -1,0 +1,4 @@
+// The count behind AfxGetOwnedHandleCount. Internal to the framework.
+#pragma once
+
+void AfxCountOwnedHandle(int nChange);

@@ -1,0 +1,159 @@
+#include "base/multi_byte.h"
+
+#include <cstring>
+
+namespace qv {
+
+namespace {
+
+MultiByte::FoldTable AsciiFold() {
+    MultiByte::FoldTable fold;
+    for (int i = 0; i < 256; ++i) {
+        fold[i] = static_cast<unsigned char>(i >= 'A' && i <= 'Z' ? i + 32 : i);
+    }
+    return fold;
+}
+
+std::uint32_t FoldCodePoint(std::uint32_t c) {
+    if (c < 0x80) {
+        return c >= 'A' && c <= 'Z' ? c + 32 : c;
+    }
+    const bool bLatin1 = c >= 0xC0 && c <= 0xDE && c != 0xD7;
+    const bool bGreek = c >= 0x391 && c <= 0x3A9 && c != 0x3A2;
+    const bool bCyrillic = c >= 0x410 && c <= 0x42F;
+    if (bLatin1 || bGreek || bCyrillic) {
+        return c + 32;
+    }
+    if (c >= 0x400 && c <= 0x40F) {
+        return c + 80;
+    }
+    if (c == 0x178) {
+        return 0xFF;
+    }
+    // Latin Extended-A pairs its letters; where the pairs start on odd values changes twice.
+    const bool bEvenPairs =
+        (c >= 0x100 && c <= 0x137 && c != 0x130 && c != 0x131) || (c >= 0x14A && c <= 0x177);
+    const bool bOddPairs = (c >= 0x139 && c <= 0x148) || (c >= 0x179 && c <= 0x17E);
+    if ((bEvenPairs && c % 2 == 0) || (bOddPairs && c % 2 == 1)) {
+        return c + 1;
+    }
+    return c;
+}
+
+// Bytes of a well-formed sequence, or 1 for a byte that starts none.
+std::size_t Utf8Bytes(const char* psz) {
+    const auto first = static_cast<unsigned char>(psz[0]);
+    const std::size_t nBytes = first >= 0xF0 && first < 0xF8   ? 4
+                               : first >= 0xE0 && first < 0xF0 ? 3
+                               : first >= 0xC2 && first < 0xE0 ? 2
+                                                               : 1;
+    for (std::size_t i = 1; i < nBytes; ++i) {
+        if ((static_cast<unsigned char>(psz[i]) & 0xC0) != 0x80) {
+            return 1;
+        }
+    }
+    return nBytes;
+}
+
+}  // namespace
+
+MultiByte::MultiByte() : m_fold(AsciiFold()) {}
+
+MultiByte MultiByte::SingleByte(const FoldTable& fold) {
+    MultiByte text;
+    text.m_fold = fold;
+    text.m_fold[0] = 0;
+    return text;
+}
+
+MultiByte MultiByte::DoubleByte(const FoldTable& fold, const LeadTable& lead) {
+    MultiByte text = SingleByte(fold);
+    text.m_kind = Kind::DoubleByte;
+    text.m_lead = lead;
+    text.m_lead[0] = false;
+    return text;
+}
+
+MultiByte MultiByte::Utf8() {
+    MultiByte text;
+    text.m_kind = Kind::Utf8;
+    return text;
+}
+
+std::size_t MultiByte::CharBytes(const char* psz) const {
+    if (*psz == 0) {
+        return 0;
+    }
+    switch (m_kind) {
+        case Kind::DoubleByte:
+            return m_lead[static_cast<unsigned char>(psz[0])] && psz[1] != 0 ? 2 : 1;
+        case Kind::Utf8:
+            return Utf8Bytes(psz);
+        case Kind::SingleByte:
+            break;
+    }
+    return 1;
+}
+
+std::size_t MultiByte::PrefixBytes(const char* psz, std::size_t nMost) const {
+    std::size_t nBytes = 0;
+    while (const std::size_t nChar = CharBytes(psz + nBytes)) {
+        if (nBytes + nChar > nMost) {
+            break;
+        }
+        nBytes += nChar;
+    }
+    return nBytes;
+}
+
+// The folded value of the character at psz, which moves behind it; 0 at the terminator, where it
+// stays. Bytes that form no UTF-8 character get values behind every character.
+std::uint32_t MultiByte::NextFolded(const char*& psz) const {
+    const std::size_t nBytes = CharBytes(psz);
+    const auto* p = reinterpret_cast<const unsigned char*>(psz);
+    psz += nBytes;
+    if (nBytes <= 1) {
+        const bool bStray = m_kind == Kind::Utf8 && p[0] >= 0x80;
+        return bStray ? 0x200000u + p[0] : m_fold[p[0]];
+    }
+    if (m_kind == Kind::DoubleByte) {
+        return static_cast<std::uint32_t>(p[0]) << 8 | p[1];
+    }
+    std::uint32_t c = p[0] & (0xFFu >> (nBytes + 1));
+    for (std::size_t i = 1; i < nBytes; ++i) {
+        c = c << 6 | (p[i] & 0x3Fu);
+    }
+    return FoldCodePoint(c);
+}
+
+int MultiByte::CompareNoCase(const char* psz1, const char* psz2) const {
+    for (;;) {
+        const std::uint32_t c1 = NextFolded(psz1);
+        const std::uint32_t c2 = NextFolded(psz2);
+        if (c1 != c2) {
+            return c1 < c2 ? -1 : 1;
+        }
+        if (c1 == 0) {
+            return 0;
+        }
+    }
+}
+
+void MultiByte::AppendSortKey(const char* psz, std::string& strKey) const {
+    if (m_kind == Kind::SingleByte) {
+        const std::size_t nStart = strKey.size();
+        strKey.append(psz);
+        for (std::size_t i = nStart; i < strKey.size(); ++i) {
+            strKey[i] = static_cast<char>(m_fold[static_cast<unsigned char>(strKey[i])]);
+        }
+        return;
+    }
+    // Three bytes hold every value; equal widths make the bytes compare as the values do.
+    while (const std::uint32_t c = NextFolded(psz)) {
+        strKey.push_back(static_cast<char>(c >> 16));
+        strKey.push_back(static_cast<char>(c >> 8));
+        strKey.push_back(static_cast<char>(c));
+    }
+}
+
+}  // namespace qv

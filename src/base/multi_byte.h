@@ -1,0 +1,51 @@
+// Order of 8-bit multi-byte text without regard to case. The rule is the platform's _mbsicmp: the
+// characters of both strings are folded to lower case and compared by value, a double-byte
+// character counting as lead byte times 256 plus trail byte. Results are -1, 0 or 1.
+//
+// No routine here cuts a character in two or reads past the terminator: a lead byte with nothing
+// behind it stands for itself.
+
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+namespace qv {
+
+class MultiByte {
+public:
+    using FoldTable = std::array<unsigned char, 256>;
+    using LeadTable = std::array<bool, 256>;
+
+    // Single bytes, with ASCII letters folded.
+    MultiByte();
+    static MultiByte SingleByte(const FoldTable& fold);
+    static MultiByte DoubleByte(const FoldTable& fold, const LeadTable& lead);
+    // UTF-8; ASCII, Latin, Greek and Cyrillic letters are folded, one code point to one.
+    static MultiByte Utf8();
+
+    int CompareNoCase(const char* psz1, const char* psz2) const;
+
+    // Appends bytes whose memcmp order is the order of CompareNoCase (a shorter key that is the
+    // start of a longer one comes first). For sorting many strings by keys made once.
+    void AppendSortKey(const char* psz, std::string& strKey) const;
+
+    // Bytes of the character at psz, 0 at the terminator.
+    std::size_t CharBytes(const char* psz) const;
+
+    // Bytes of the longest start of psz that has at most nMost bytes and splits no character.
+    std::size_t PrefixBytes(const char* psz, std::size_t nMost) const;
+
+private:
+    enum class Kind { SingleByte, DoubleByte, Utf8 };
+
+    std::uint32_t NextFolded(const char*& psz) const;
+
+    Kind m_kind = Kind::SingleByte;
+    FoldTable m_fold;
+    LeadTable m_lead{};
+};
+
+}  // namespace qv

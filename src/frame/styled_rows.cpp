@@ -1,0 +1,51 @@
+#include "frame/styled_rows.h"
+
+int QVStyleTable::AddStyle(COLORREF crText, COLORREF crBk) {
+    return m_aStyles.Add(crText, crBk);
+}
+
+int QVStyleTable::UpdateStyle(int nStyle, COLORREF crText, COLORREF crBk) {
+    m_aStyles.Update(nStyle, crText, crBk);
+    return 0;
+}
+
+int QVStyleTable::ParseStyle(LPCSTR pszText) const {
+    return m_aStyles.ParseStyle(pszText);
+}
+
+LPCSTR QVStyleTable::ParseStyleText(LPCSTR pszText) const {
+    return m_aStyles.ParseStyleText(pszText);
+}
+
+QVStyledRows::QVStyledRows() {
+    AddStyle(::GetSysColor(COLOR_WINDOWTEXT), ::GetSysColor(COLOR_WINDOW));
+}
+
+BOOL QVStyledRows::HasStyle(LPCSTR pszText) const {
+    return qv::HasStyle(pszText);
+}
+
+CString QVStyledRows::MakeStyleCodes(int nStyle) {
+    return qv::MakeStyleCodes(nStyle).data();
+}
+
+CString QVStyledRows::MakeStyleText(LPCSTR pszText, int nStyle) const {
+    CString strRow;
+    return AppendStyleText(strRow, pszText, nStyle);
+}
+
+CString& QVStyledRows::MakeStyleText(LPCSTR pszText, int nStyle, CString& strOut) const {
+    // The text may stand in strOut.
+    const CString strText(pszText);
+    strOut.Empty();
+    return AppendStyleText(strOut, strText, nStyle);
+}
+
+CString& QVStyledRows::AppendStyleText(CString& strRow, LPCSTR pszText, int nStyle) const {
+    const int nLength = strRow.GetLength();
+    const char chLast = nLength > 0 ? strRow[nLength - 1] : '\0';
+    const CString strText(pszText);
+    strRow += m_aStyles.PrefixFor(chLast, nStyle).data();
+    strRow += strText;
+    return strRow;
+}

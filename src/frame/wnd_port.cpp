@@ -1,0 +1,175 @@
+#include "frame/wnd_port.h"
+
+#include <string>
+
+#include "frame/select_object.h"
+
+namespace qv {
+
+namespace {
+
+// The bytes that are a character of their own in any text of the process's code page, and that no
+// script shapes or reorders.
+std::string PlainCharacters() {
+    std::string strPlain;
+    for (int i = ' '; i < 127; ++i) {
+        strPlain += static_cast<char>(i);
+    }
+    switch (::GetACP()) {
+        case 1250:
+        case 1251:
+        case 1252:
+        case 1253:
+        case 1254:
+        case 1257:
+            for (int i = 0xA0; i < 256; ++i) {
+                strPlain += static_cast<char>(i);
+            }
+            break;
+        default:
+            break;
+    }
+    return strPlain;
+}
+
+}  // namespace
+
+bool WndPort::HasWindow() const {
+    return m_wnd.m_hWnd != nullptr && ::IsWindow(m_wnd.m_hWnd);
+}
+
+Rect WndPort::ClientRect() const {
+    CRect rect;
+    m_wnd.GetClientRect(&rect);
+    return ToRect(rect);
+}
+
+unsigned WndPort::Style() const {
+    return m_wnd.GetStyle();
+}
+
+int WndPort::VerticalBarWidth() const {
+    return ::GetSystemMetrics(SM_CXVSCROLL);
+}
+
+int WndPort::HorizontalBarHeight() const {
+    return ::GetSystemMetrics(SM_CYHSCROLL);
+}
+
+void WndPort::ShowScrollBar(int nBar, bool bShow) {
+    m_wnd.ShowScrollBar(nBar, bShow);
+}
+
+void WndPort::SetScrollRange(int nBar, const ScrollRange& range) {
+    SCROLLINFO info{};
+    info.cbSize = sizeof(info);
+    info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
+    info.nMin = range.nMin;
+    info.nMax = range.nMax;
+    info.nPage = static_cast<UINT>(range.nPage);
+    info.nPos = range.nPos;
+    m_wnd.SetScrollInfo(nBar, &info, TRUE);
+}
+
+bool WndPort::GetScrollPosition(int nBar, bool bTrack, int& nPos) const {
+    SCROLLINFO info{};
+    info.cbSize = sizeof(info);
+    if (!m_wnd.GetScrollInfo(nBar, &info, SIF_POS | SIF_TRACKPOS)) {
+        return false;
+    }
+    nPos = bTrack ? info.nTrackPos : info.nPos;
+    return true;
+}
+
+void WndPort::ScrollPixels(int dx, int dy, bool bErase) {
+    m_wnd.ScrollWindowEx(dx, dy, nullptr, nullptr, nullptr, nullptr,
+                         SW_INVALIDATE | (bErase ? SW_ERASE : 0));
+}
+
+void WndPort::Invalidate(const Rect& rect, bool bErase) {
+    const CRect rc = ToCRect(rect);
+    m_wnd.InvalidateRect(&rc, bErase);
+}
+
+void WndPort::InvalidateAll() {
+    m_wnd.InvalidateRect(nullptr, FALSE);
+}
+
+void WndPort::Update() {
+    m_wnd.UpdateWindow();
+}
+
+Size DcMeasure::Extent(std::string_view text) {
+    SIZE size{};
+    ::GetTextExtentPoint32A(m_dc.m_hAttribDC, text.data(), static_cast<int>(text.size()), &size);
+    return {static_cast<int>(size.cx), static_cast<int>(size.cy)};
+}
+
+void FontMeasure::SetFont(HFONT hFont) {
+    m_hFont = hFont;
+    m_bTableMade = false;
+}
+
+Size FontMeasure::Extent(std::string_view text) {
+    if (!m_bTableMade) {
+        MakeTable();
+    }
+    const int nWidth = TableWidth(text);
+    if (nWidth != kByCall) {
+        return {nWidth, m_nHeight};
+    }
+    CClientDC dc(&m_wnd);
+    const SelectGuard<CFont> font(dc, m_hFont);
+    return DcMeasure(dc).Extent(text);
+}
+
+int FontMeasure::TableWidth(std::string_view text) const {
+    int nWidth = 0;
+    for (const char ch : text) {
+        const int nChar = m_aWidths[static_cast<unsigned char>(ch)];
+        if (nChar == kByCall) {
+            return kByCall;
+        }
+        nWidth += nChar;
+    }
+    return nWidth;
+}
+
+void FontMeasure::MakeTable() {
+    m_bTableMade = true;
+    m_aWidths.fill(kByCall);
+    CClientDC dc(&m_wnd);
+    const SelectGuard<CFont> font(dc, m_hFont);
+    DcMeasure measure(dc);
+    m_nHeight = measure.Extent(" ").cy;
+
+    // Control characters may be drawn in other ways than measured: such texts go to the platform.
+    for (const char ch : PlainCharacters()) {
+        m_aWidths[static_cast<unsigned char>(ch)] = measure.Extent({&ch, 1}).cx;
+    }
+    if (!WidthsAddUp(dc)) {
+        m_aWidths.fill(kByCall);
+    }
+}
+
+// Tries pairs that fonts bring closer together or draw as one sign, and a long text: kerning,
+// ligatures, overhang and fractional widths each show as a sum that is off.
+bool FontMeasure::WidthsAddUp(CDC& dc) const {
+    constexpr std::string_view kPartners = "AVfT.y";
+    std::string strAll;
+    for (const char ch : PlainCharacters()) {
+        strAll += ch;
+        strAll += kPartners[static_cast<unsigned char>(ch) % kPartners.size()];
+    }
+    DcMeasure measure(dc);
+    for (const std::string_view text :
+         {std::string_view("AVAWATA"), std::string_view("To. Ty, Yo; P. L'T"),
+          std::string_view("fi fl ffi ffl"), std::string_view(strAll), std::string_view()}) {
+        if (measure.Extent(text).cx != TableWidth(text)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace qv

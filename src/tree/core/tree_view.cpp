@@ -1,0 +1,451 @@
+#include "tree/core/tree_view.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace qv {
+
+namespace {
+
+constexpr int kLeastIndent = 19;
+constexpr int kImageGap = 3;    // behind each image
+constexpr int kTextMargin = 4;  // around the text of a row whose stops count from the text
+constexpr int kLeastItemHeight = 5;
+constexpr int kFontGap = 2;
+
+}  // namespace
+
+TreeView::TreeView(WindowPort& port, TextMeasure& measure, const MultiByte& text,
+                   const StyleTable& styles)
+    : TreeItems(text, styles), m_port(port), m_measure(measure) {}
+
+TreeView::~TreeView() {
+    m_rows.Clear(false);
+}
+
+// --- Items
+
+HTREEITEM TreeView::InsertItem(const char* pszText, int nImage, int nSelectedImage,
+                               HTREEITEM hParent, HTREEITEM hInsertAfter) {
+    HTREEITEM hItem = TreeItems::InsertItem(pszText, nImage, nSelectedImage, hParent, hInsertAfter);
+    if (hItem == nullptr) {
+        return nullptr;
+    }
+    ChangeRows([&] {
+        if (IsDisplayed(hItem)) {
+            m_rows.Insert(LastDisplayableItem(hItem), hItem);
+        }
+    });
+    if (m_bRedraw) {
+        Refresh();
+    }
+    return hItem;
+}
+
+bool TreeView::DeleteItem(HTREEITEM hItem) {
+    if (hItem == nullptr || hItem == TVI_ROOT) {
+        DeleteAllItems();
+        return true;
+    }
+    if (!IsLive(hItem)) {
+        return false;
+    }
+    ChangeRows([&] { EraseRows(hItem, true); });
+    TreeItems::DeleteItem(hItem);
+    if (m_bRedraw) {
+        Refresh();
+    }
+    return true;
+}
+
+bool TreeView::DeleteChildren(HTREEITEM hItem) {
+    if (hItem == nullptr) {
+        return false;
+    }
+    const bool bRedraw = std::exchange(m_bRedraw, false);
+    bool bDeleted = true;
+    while (bDeleted && hItem->pFirstChild != nullptr) {
+        bDeleted = DeleteItem(hItem->pFirstChild);
+    }
+    m_bRedraw = bRedraw;
+    if (m_bRedraw) {
+        Refresh();
+    }
+    return bDeleted;
+}
+
+void TreeView::DeleteAllItems() {
+    m_rows.Clear(true);
+    TreeItems::DeleteAllItems();
+    if (m_bRedraw && m_port.HasWindow()) {
+        CalcScroll();
+        m_port.InvalidateAll();
+    }
+}
+
+bool TreeView::ChangeParent(HTREEITEM hItem, HTREEITEM hNewParent) {
+    if (hItem == nullptr || !IsLive(hItem)) {
+        return false;
+    }
+    if (hNewParent == TVI_ROOT) {
+        hNewParent = nullptr;
+    }
+    const bool bMoves = hNewParent != hItem->pParent;
+    if (bMoves) {
+        ChangeRows([&] { EraseRows(hItem, true); });
+    }
+    const bool bMoved = TreeItems::ChangeParent(hItem, hNewParent);
+    if (bMoves) {
+        ChangeRows([&] { InsertRows(hItem); });
+    }
+    if (bMoved) {
+        CalcScroll();
+        CalcBottomItem();
+    }
+    return bMoved;
+}
+
+bool TreeView::SortChildren(HTREEITEM hParent) {
+    const Watch watch(*this, hParent);
+    if (!TreeItems::SortChildren(hParent) || !watch.TreeAlive()) {
+        return false;
+    }
+    if (hParent->nState & TVIS_EXPANDED) {
+        ChangeRows([&] {
+            if (hParent->pRowLeaf != nullptr) {
+                DropRows();
+            }
+        });
+    }
+    if (m_port.HasWindow()) {
+        m_port.InvalidateAll();
+    }
+    return true;
+}
+
+bool TreeView::SetItemText(HTREEITEM hItem, const char* pszText) {
+    if (hItem == nullptr || !TreeItems::SetItemText(hItem, pszText)) {
+        return hItem == nullptr;
+    }
+    hItem->nExtentEpoch = 0;
+    ChangeRows([&] { m_rows.Unmeasure(hItem); });
+    if (m_bRedraw) {
+        InvalidateItem(hItem, true);
+    }
+    return true;
+}
+
+void TreeView::SetItemImage(HTREEITEM hItem, int nImage, int nSelectedImage) {
+    if (hItem == nullptr) {
+        return;
+    }
+    hItem->nImage = nImage;
+    hItem->nSelectedImage = nSelectedImage;
+    if (m_bRedraw) {
+        InvalidateItem(hItem, true);
+    }
+}
+
+void TreeView::SetItemState(HTREEITEM hItem, unsigned nState, unsigned nMask) {
+    if (hItem == nullptr) {
+        return;
+    }
+    if (nMask & TVIS_EXPANDED) {
+        SetExpanded(hItem, (nState & TVIS_EXPANDED) != 0);
+    }
+    hItem->nState = (hItem->nState & ~nMask) | (nState & nMask);
+}
+
+void TreeView::SetItemStateImage(HTREEITEM hItem, unsigned nImage, bool bChildren) {
+    if (!HaveStateImage(hItem)) {
+        return;
+    }
+    // In the order of the tree, without recursion.
+    HTREEITEM hEnd = bChildren ? NextAfterSubtree(hItem) : WalkNext(hItem);
+    for (HTREEITEM h = hItem; h != hEnd; h = WalkNext(h)) {
+        h->nState = SetStateImage(h->nState, nImage);
+        if (m_bRedraw) {
+            InvalidateItem(h, false);
+        }
+    }
+}
+
+int TreeView::ChangeItemStyles(HTREEITEM hItem, int nStyle, bool bUpTheTree, bool bOnlyDefault) {
+    const int nChanged = TreeItems::ChangeItemStyles(hItem, nStyle, bUpTheTree, bOnlyDefault);
+    for (HTREEITEM h = hItem; nChanged > 0 && h != nullptr; h = h->pParent) {
+        ChangeRows([&] { m_rows.Unmeasure(h); });
+    }
+    if (nChanged > 0 && m_bRedraw && m_port.HasWindow()) {
+        m_port.InvalidateAll();
+    }
+    return nChanged;
+}
+
+// --- Columns
+
+void TreeView::UseTabs(const int* pTabs, int nCount) {
+    m_tabs.Use(pTabs, nCount);
+    ForgetExtents();
+    if (m_bRedraw && m_port.HasWindow()) {
+        m_port.InvalidateAll();
+    }
+}
+
+void TreeView::ClearTabs() {
+    UseTabs(nullptr, 0);
+}
+
+void TreeView::SetTabValue(int nTab, int nValue) {
+    m_tabs.SetValue(nTab, nValue);
+    ForgetExtents();
+}
+
+void TreeView::SetTabFormat(int nTab, unsigned nFormat) {
+    m_tabs.SetFormat(nTab, nFormat);
+    ForgetExtents();
+}
+
+void TreeView::SetIndentTabs(bool bIndentTabs) {
+    m_bIndentTabs = bIndentTabs;
+    ForgetExtents();
+}
+
+// --- Row height and rectangles
+
+int TreeView::ItemHeight() {
+    if (m_nItemHeight == 0) {
+        CalcItemHeight();
+    }
+    return m_nItemHeight;
+}
+
+void TreeView::CalcItemHeight() {
+    ReadImageSizes();
+    const int nFont = FontHeight();
+    int nHeight = nFont > 0 ? nFont + kFontGap : 0;
+    nHeight = std::max({nHeight, m_images.cyImage, m_images.cyStateImage});
+    if (nHeight > 0) {
+        // Even, so that the dots of the lines go on in phase from row to row.
+        m_nItemHeight = ((std::max(nHeight, kLeastItemHeight) + 1) | 1) - 1;
+    }
+}
+
+int TreeView::IndentStep() const {
+    return std::max(kLeastIndent, m_images.cyImage);
+}
+
+bool TreeView::HasStyleBit(unsigned nBit) const {
+    return m_port.HasWindow() && (m_port.Style() & nBit) != 0;
+}
+
+void TreeView::ForgetExtents() {
+    m_rows.UnmeasureAll();
+    if (++m_nExtentEpoch == 0) {
+        m_nExtentEpoch = 1;
+        for (HTREEITEM h = GetNextItem(m_hRootItem, TVGN_ROOT); h != nullptr; h = WalkNext(h)) {
+            h->nExtentEpoch = 0;
+        }
+    }
+}
+
+int TreeView::TextExtent(HTREEITEM hItem, TextMeasure* pOther) {
+    if (pOther == nullptr && hItem->nExtentEpoch == m_nExtentEpoch) {
+        return hItem->nExtent;
+    }
+    const int nExtent = ColumnsExtent(DisplayText(hItem), m_tabs, m_bIndentTabs, m_aStyles,
+                                      pOther != nullptr ? *pOther : m_measure);
+    if (pOther == nullptr) {
+        hItem->nExtent = nExtent;
+        hItem->nExtentEpoch = m_nExtentEpoch;
+    }
+    return nExtent;
+}
+
+void TreeView::CalcItemRect(TextMeasure* pOther, int nTop, HTREEITEM hItem, Rect& rect,
+                            bool bTextOnly) {
+    const int nHeight = ItemHeight();  // first, as it finds the font
+    const int nIndent = IndentStep();
+    // With stops that count from the text, what stands before it pushes the right edge on. With
+    // absolute stops the edge stays, and the text gets what is left.
+    int nText = TextExtent(hItem, pOther);
+    rect = {hItem->nLevel * nIndent, nTop, nText, nTop + nHeight};
+    if (m_bIndentTabs) {
+        rect.right = rect.left + nText + kTextMargin;
+    } else {
+        nText -= rect.left;
+    }
+    const auto makeRoom = [&](int nWidth) {
+        if (m_bIndentTabs) {
+            rect.right += nWidth;
+        } else {
+            nText -= nWidth;
+        }
+    };
+    if (m_images.bNormal) {
+        makeRoom(m_images.cxImage + kImageGap);
+    }
+    if (m_images.bState && HaveStateImage(hItem)) {
+        makeRoom(m_images.cxStateImage + kImageGap);
+    }
+    if (HasStyleBit(TVS_LINESATROOT)) {
+        rect.left += nIndent;
+        makeRoom(nIndent);
+    }
+    if (bTextOnly) {
+        rect.left = rect.right - nText - (m_bIndentTabs ? kTextMargin : 0);
+    }
+}
+
+bool TreeView::GetItemRect(HTREEITEM hItem, Rect& rect, bool bTextOnly) {
+    if (hItem == nullptr || !m_port.HasWindow() || ItemHeight() == 0) {
+        return false;
+    }
+    if (m_bRowsValid && !RootDetached() && hItem->pRowLeaf == nullptr) {
+        return false;
+    }
+    int nRow = 0;
+    HTREEITEM h = m_hTopItem;
+    for (; h != nullptr && h != hItem; ++nRow) {
+        if (h == m_hBottomItem) {
+            // The only other row on screen is the partial one.
+            if (NextDisplayableItem(h) != hItem) {
+                return false;
+            }
+        }
+        h = NextDisplayableItem(h);
+    }
+    if (h == nullptr) {
+        return false;
+    }
+    RowRect(nRow * ItemHeight(), hItem, rect, bTextOnly);
+    return true;
+}
+
+HTREEITEM TreeView::HitTest(Point pt, unsigned* pFlags, Rect* pRect) {
+    unsigned nUnused;
+    unsigned& nFlags = pFlags != nullptr ? *pFlags : nUnused;
+    nFlags = 0;
+    if (!m_port.HasWindow()) {
+        return nullptr;
+    }
+    const Rect rcClient = m_port.ClientRect();
+    if (!rcClient.Contains(pt)) {
+        nFlags = pt.x < rcClient.left     ? TVHT_TOLEFT
+                 : pt.x >= rcClient.right ? TVHT_TORIGHT
+                 : pt.y < rcClient.top    ? TVHT_ABOVE
+                                          : TVHT_BELOW;
+        return nullptr;
+    }
+    nFlags = TVHT_NOWHERE;
+    const int nHeight = ItemHeight();
+    if (nHeight == 0) {
+        return nullptr;
+    }
+    const int nRow = (pt.y - rcClient.top) / nHeight;
+    HTREEITEM hItem = m_hTopItem;
+    for (int i = 0; i < nRow && hItem != nullptr; ++i) {
+        hItem = NextDisplayableItem(hItem);
+    }
+    if (hItem == nullptr) {
+        return nullptr;
+    }
+    Rect rect;
+    RowRect(nRow * nHeight, hItem, rect, false);
+    if (pRect != nullptr) {
+        *pRect = rect;
+    }
+    const int x = pt.x + m_nHScrollPos;
+    if (x < rect.left) {
+        const bool bButton = hItem->pFirstChild != nullptr && x >= rect.left - IndentStep();
+        nFlags = bButton ? TVHT_ONITEMBUTTON : TVHT_ONITEMINDENT;
+    } else if (x >= rect.right) {
+        nFlags = TVHT_ONITEMRIGHT;
+    } else {
+        const bool bState = m_images.cxStateImage > 0 && HaveStateImage(hItem);
+        const int cxState = bState ? m_images.cxStateImage + kImageGap : 0;
+        const int cxImage = m_images.cxImage > 0 ? m_images.cxImage + kImageGap : 0;
+        const int nOffset = x - rect.left;
+        nFlags |= nOffset < cxState             ? TVHT_ONITEMSTATEICON
+                  : nOffset < cxState + cxImage ? TVHT_ONITEMICON
+                                                : TVHT_ONITEMLABEL;
+    }
+    return hItem;
+}
+
+bool TreeView::ItemVisible(HTREEITEM hItem) const {
+    if (hItem == nullptr) {
+        return false;
+    }
+    for (HTREEITEM h = m_hTopItem; h != nullptr; h = NextDisplayableItem(h)) {
+        if (h == hItem) {
+            return true;
+        }
+        if (h == m_hBottomItem) {
+            break;
+        }
+    }
+    return false;
+}
+
+// --- Selection
+
+bool TreeView::SelectItem(HTREEITEM hItem) {
+    if (hItem == m_hSelectedItem) {
+        return false;
+    }
+    if (hItem != nullptr) {
+        hItem->nState |= TVIS_SELECTED;
+        if (m_bRedraw) {
+            InvalidateItem(hItem, false);
+        }
+    }
+    if (m_hSelectedItem != nullptr) {
+        m_hSelectedItem->nState &= ~static_cast<std::uint32_t>(TVIS_SELECTED);
+        if (m_bRedraw) {
+            InvalidateItem(m_hSelectedItem, false);
+        }
+    }
+    m_hSelectedItem = hItem;
+    if (m_bRedraw && m_port.HasWindow()) {
+        m_port.Update();
+    }
+    return true;
+}
+
+void TreeView::InvalidateItem(HTREEITEM hItem, bool bErase) {
+    Rect rect;
+    if (GetItemRect(hItem, rect, false)) {
+        rect.left -= m_nHScrollPos;
+        rect.right = std::max(rect.right - m_nHScrollPos, m_port.ClientRect().right);
+        m_port.Invalidate(rect, bErase);
+    }
+}
+
+void TreeView::SetRedraw(bool bRedraw) {
+    m_bRedraw = bRedraw;
+    if (m_bRedraw && m_port.HasWindow()) {
+        CalcScroll();
+        CalcBottomItem();
+        CalcTopItem();
+        m_port.InvalidateAll();
+    }
+}
+
+void TreeView::Refresh() {
+    CalcScroll();
+    CalcBottomItem();
+    if (m_port.HasWindow()) {
+        m_port.InvalidateAll();
+    }
+}
+
+void TreeView::Reset() {
+    m_rows.Clear(true);
+    TreeItems::DeleteAllItems();
+    m_bRowsValid = false;
+    m_nItemHeight = 0;
+    m_nHScrollPos = m_nVScrollPos = m_nVPage = m_nHPage = 0;
+    ForgetExtents();
+}
+
+}  // namespace qv
