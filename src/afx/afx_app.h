@@ -114,7 +114,7 @@ private:
     CString m_strProfileName;
     CString m_strHelpFilePath;
 
-    friend QVAFX_API BOOL AfxWinInit(HINSTANCE, HINSTANCE, LPTSTR, int);
+    friend struct AfxWndAccess;
 };
 
 QVAFX_API CWinApp* AfxGetApp();

@@ -150,7 +150,7 @@ void CToolTipCtrl::Update() {
 
 void CToolTipCtrl::FillInToolInfo(TOOLINFO& ti, CWnd* pWnd, UINT_PTR nIDTool) const {
     ti = {};
-    ti.cbSize = TTTOOLINFO_V2_SIZE;  // the size that every version knows
+    ti.cbSize = TTTOOLINFOA_V2_SIZE;  // the size that every version knows
     ti.hwnd = pWnd->GetSafeHwnd();
     ti.uId = nIDTool;
     if (nIDTool == 0) {  // the tool is the window itself

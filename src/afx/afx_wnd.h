@@ -444,10 +444,7 @@ protected:
     afx_msg void OnPaletteIsChanging(CWnd* pRealizeWnd);
 
 protected:
-    friend QVAFX_API LRESULT CALLBACK AfxWndProc(HWND, UINT, WPARAM, LPARAM);
-    friend QVAFX_API LRESULT AfxCallWndProc(CWnd*, HWND, UINT, WPARAM, LPARAM);
-
-    friend LRESULT CALLBACK AfxCreationFilter(int, WPARAM, LPARAM);
+    friend struct AfxWndAccess;
 
     BOOL DispatchMapMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     BOOL DispatchCtlColor(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);

@@ -75,7 +75,7 @@ bool IsInputMethodWindow(HWND hWnd) {
 
 }  // namespace
 
-LRESULT CALLBACK AfxCreationFilter(int code, WPARAM wParam, LPARAM lParam) {
+static LRESULT CALLBACK CreationFilter(int code, WPARAM wParam, LPARAM lParam) {
     AfxWndState& state = AfxGetWndState();
     const HWND hWnd = reinterpret_cast<HWND>(wParam);
     if (code == HCBT_CREATEWND && state.pWndInit != nullptr && !IsInputMethodWindow(hWnd)) {
@@ -84,7 +84,7 @@ LRESULT CALLBACK AfxCreationFilter(int code, WPARAM wParam, LPARAM lParam) {
         try {
             pWnd->Attach(hWnd);
             pWnd->PreSubclassWindow();
-            PutProcedureInFront(hWnd, pWnd->GetSuperWndProcAddr());
+            PutProcedureInFront(hWnd, AfxWndAccess::SuperWndProc(pWnd));
         } catch (...) {
             MSG msg = {};
             msg.hwnd = hWnd;
@@ -100,7 +100,7 @@ void AfxHookWindowCreate(CWnd* pWnd) {
     AfxWndState& state = AfxGetWndState();
     if (state.nHookDepth++ == 0) {
         state.hHookCreate =
-            ::SetWindowsHookEx(WH_CBT, AfxCreationFilter, nullptr, ::GetCurrentThreadId());
+            ::SetWindowsHookEx(WH_CBT, CreationFilter, nullptr, ::GetCurrentThreadId());
         if (state.hHookCreate == nullptr) {
             state.nHookDepth = 0;
             AfxThrowMemoryException();

@@ -21,7 +21,7 @@ LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM l
         AfxGetWndState().hLastPopup = reinterpret_cast<HMENU>(wParam);
     }
     try {
-        return pWnd->WindowProc(nMsg, wParam, lParam);
+        return AfxWndAccess::WindowProc(pWnd, nMsg, wParam, lParam);
     } catch (...) {
         MSG msg = {};
         msg.hwnd = hWnd;

@@ -18,6 +18,16 @@ struct AfxWndState {
 
 AfxWndState& AfxGetWndState();
 
+/// What the framework's free functions need of its classes' inner parts.
+struct AfxWndAccess {
+    static LRESULT WindowProc(CWnd* pWnd, UINT message, WPARAM wParam, LPARAM lParam) {
+        return pWnd->WindowProc(message, wParam, lParam);
+    }
+    static WNDPROC* SuperWndProc(CWnd* pWnd) { return pWnd->GetSuperWndProcAddr(); }
+    /// Fills in the names that the application did not give.
+    static void NameApp(CWinApp* pApp, HINSTANCE hInstance);
+};
+
 /// Remembers a message as the one being handled, for as long as it is.
 class AfxMessageScope {
 public:
