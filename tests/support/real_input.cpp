@@ -1,0 +1,185 @@
+#include "support/real_input.h"
+
+#include "support/pump.h"
+
+#include <map>
+#include <vector>
+
+namespace {
+
+/// Counts input messages by number as they leave the queue, in whichever loop that happens.
+class InputWatch {
+public:
+    InputWatch() {
+        s_counts.clear();
+        m_hHook = ::SetWindowsHookEx(WH_GETMESSAGE, Filter, nullptr, ::GetCurrentThreadId());
+    }
+    ~InputWatch() { ::UnhookWindowsHookEx(m_hHook); }
+    InputWatch(const InputWatch&) = delete;
+    InputWatch& operator=(const InputWatch&) = delete;
+
+    bool Await(UINT nMessage, int nCount) {
+        const bool bCame = PumpUntil([&] { return s_counts[nMessage] >= nCount; });
+        PumpPending();
+        return bCame;
+    }
+
+private:
+    static LRESULT CALLBACK Filter(int code, WPARAM wParam, LPARAM lParam) {
+        if (code == HC_ACTION && wParam == PM_REMOVE) {
+            ++s_counts[reinterpret_cast<MSG*>(lParam)->message];
+        }
+        return ::CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+    static inline std::map<UINT, int> s_counts;
+    HHOOK m_hHook;
+};
+
+/// Two clicks of a test are no double click, however fast the test is.
+class NoDoubleClicks {
+public:
+    NoDoubleClicks() : m_nTime(::GetDoubleClickTime()) { ::SetDoubleClickTime(1); }
+    ~NoDoubleClicks() { ::SetDoubleClickTime(m_nTime); }
+    NoDoubleClicks(const NoDoubleClicks&) = delete;
+    NoDoubleClicks& operator=(const NoDoubleClicks&) = delete;
+
+private:
+    UINT m_nTime;
+};
+
+INPUT KeyInput(WORD vk, bool bUp) {
+    INPUT input = {};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = vk;
+    input.ki.wScan = static_cast<WORD>(::MapVirtualKey(vk, MAPVK_VK_TO_VSC));
+    input.ki.dwFlags = bUp ? KEYEVENTF_KEYUP : 0;
+    return input;
+}
+
+INPUT MouseInput(DWORD dwFlags, DWORD dwData = 0) {
+    INPUT input = {};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = dwFlags;
+    input.mi.mouseData = dwData;
+    return input;
+}
+
+bool Send(std::vector<INPUT> inputs) {
+    const UINT nCount = static_cast<UINT>(inputs.size());
+    return ::SendInput(nCount, inputs.data(), sizeof(INPUT)) == nCount;
+}
+
+struct ButtonKind {
+    DWORD dwDown;
+    DWORD dwUp;
+    UINT nDownMessage;
+    UINT nUpMessage;
+};
+
+ButtonKind KindOf(MouseButton button) {
+    switch (button) {
+        case MouseButton::Right:
+            return {MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP, WM_RBUTTONDOWN, WM_RBUTTONUP};
+        case MouseButton::Middle:
+            return {MOUSEEVENTF_MIDDLEDOWN, MOUSEEVENTF_MIDDLEUP, WM_MBUTTONDOWN, WM_MBUTTONUP};
+        default:
+            return {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP, WM_LBUTTONDOWN, WM_LBUTTONUP};
+    }
+}
+
+}  // namespace
+
+bool BringToFront(HWND hWnd) {
+    HWND hWndTop = ::GetAncestor(hWnd, GA_ROOT);
+    ::SetWindowPos(hWndTop, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_SHOWWINDOW);
+    ::SetForegroundWindow(hWndTop);
+    return PumpUntil([=] {
+        HWND hWndFront = ::GetForegroundWindow();
+        return hWndFront == hWndTop || ::GetAncestor(hWndFront, GA_ROOTOWNER) == hWndTop;
+    });
+}
+
+bool TypeKey(WORD vk, bool bShift, bool bControl, bool bAlt) {
+    std::vector<INPUT> inputs;
+    std::vector<WORD> held;
+    if (bShift) {
+        held.push_back(VK_SHIFT);
+    }
+    if (bControl) {
+        held.push_back(VK_CONTROL);
+    }
+    if (bAlt) {
+        held.push_back(VK_MENU);
+    }
+    for (WORD vkHeld : held) {
+        inputs.push_back(KeyInput(vkHeld, false));
+    }
+    inputs.push_back(KeyInput(vk, false));
+    inputs.push_back(KeyInput(vk, true));
+    for (auto it = held.rbegin(); it != held.rend(); ++it) {
+        inputs.push_back(KeyInput(*it, true));
+    }
+    InputWatch watch;
+    // With the menu key down the key itself is a system key; its release comes as a plain one.
+    const int nPlainUps = static_cast<int>(held.size()) + (bAlt ? 0 : 1);
+    return Send(inputs) && watch.Await(WM_KEYUP, nPlainUps);
+}
+
+bool TypeText(LPCTSTR lpszText) {
+    for (; *lpszText != '\0'; ++lpszText) {
+        const SHORT nKey = ::VkKeyScan(*lpszText);
+        if (!TypeKey(LOBYTE(nKey), (HIBYTE(nKey) & 1) != 0)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool MoveTo(HWND hWnd, CPoint point) {
+    if (!BringToFront(hWnd)) {
+        return false;
+    }
+    ::ClientToScreen(hWnd, &point);
+    ::SetCursorPos(point.x, point.y);
+    PumpPending();
+    return true;
+}
+
+bool PressAt(HWND hWnd, CPoint point, MouseButton button) {
+    const ButtonKind kind = KindOf(button);
+    InputWatch watch;
+    return MoveTo(hWnd, point) && Send({MouseInput(kind.dwDown)}) &&
+           watch.Await(kind.nDownMessage, 1);
+}
+
+bool ReleaseAt(HWND hWnd, CPoint point, MouseButton button) {
+    const ButtonKind kind = KindOf(button);
+    InputWatch watch;
+    return MoveTo(hWnd, point) && Send({MouseInput(kind.dwUp)}) && watch.Await(kind.nUpMessage, 1);
+}
+
+bool ClickAt(HWND hWnd, CPoint point, MouseButton button, bool bDouble) {
+    const ButtonKind kind = KindOf(button);
+    if (!MoveTo(hWnd, point)) {
+        return false;
+    }
+    InputWatch watch;
+    {
+        NoDoubleClicks single;
+        if (!Send({MouseInput(kind.dwDown), MouseInput(kind.dwUp)}) ||
+            !watch.Await(kind.nUpMessage, 1)) {
+            return false;
+        }
+    }
+    return !bDouble || (Send({MouseInput(kind.dwDown), MouseInput(kind.dwUp)}) &&
+                        watch.Await(kind.nUpMessage, 2));
+}
+
+bool Wheel(HWND hWnd, int nDelta) {
+    CRect rc;
+    ::GetClientRect(hWnd, rc);
+    InputWatch watch;
+    return MoveTo(hWnd, rc.CenterPoint()) &&
+           Send({MouseInput(MOUSEEVENTF_WHEEL, static_cast<DWORD>(nDelta))}) &&
+           watch.Await(WM_MOUSEWHEEL, 1);
+}

@@ -1,0 +1,21 @@
+#include "support/test_app.h"
+
+int TestApp::DoMessageBox(LPCTSTR lpszPrompt, UINT, UINT) {
+    m_prompts.emplace_back(lpszPrompt);
+    return m_nAnswer;
+}
+
+LRESULT TestApp::ProcessWndProcException(CException* e, const MSG* pMsg) {
+    char szMessage[256] = "";
+    e->GetErrorMessage(szMessage, sizeof szMessage);
+    m_exceptions.emplace_back(szMessage);
+    // The framework's own answer, but for telling the user.
+    if (pMsg->message == WM_CREATE || pMsg->message == WM_PAINT) {
+        return CWinApp::ProcessWndProcException(e, pMsg);
+    }
+    return 0;
+}
+
+TestApp& TheTestApp() {
+    return *static_cast<TestApp*>(AfxGetApp());
+}

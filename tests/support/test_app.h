@@ -1,0 +1,27 @@
+// The application object of the test program. It shows nothing: prompts and exceptions that reach
+// it are written down.
+#pragma once
+
+#include "afxwin.h"
+
+#include <string>
+#include <vector>
+
+class TestApp : public CWinApp {
+public:
+    TestApp() : CWinApp("Window tests") {}
+
+    std::vector<std::string> m_prompts;     ///< texts of message boxes
+    std::vector<std::string> m_exceptions;  ///< messages of exceptions that left a handler
+    int m_nAnswer = IDOK;                   ///< what a message box gives
+
+    void Forget() {
+        m_prompts.clear();
+        m_exceptions.clear();
+    }
+    int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt) override;
+    LRESULT ProcessWndProcException(CException* e, const MSG* pMsg) override;
+};
+
+/// The one object, made by the program's main file.
+TestApp& TheTestApp();
