@@ -1,8 +1,6 @@
 // Classes of the common controls.
 #pragma once
 
-#include <commctrl.h>
-
 #include "afx_imagelist.h"
 #include "afxwin.h"
 
