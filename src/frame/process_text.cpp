@@ -1,7 +1,9 @@
-#include <mbctype.h>
-#include <mbstring.h>
 
 #include "frame/module_state.h"
+
+// Defines short names that clash with those of the standard library's headers: after them.
+#include <mbctype.h>
+#include <mbstring.h>
 
 namespace qv {
 

@@ -1,5 +1,7 @@
 #include "tree/tree_ctrl.h"
 
+#include <algorithm>
+
 #include "frame/select_object.h"
 #include "frame/virtual_step.h"
 #include "tree/tree_ctrl_core.h"
@@ -90,7 +92,7 @@ BEGIN_MESSAGE_MAP(QVTreeCtrlEx, CWnd)
         for (HTREEITEM h = m_hRootItem; h != nullptr; h = TreeItems::NextDisplayableItem(h)) {
             CRect rc;
             m_tree.CalcItemRect(dc, 0, h, rc, FALSE);
-            nWidest = max(nWidest, static_cast<int>(rc.right));
+            nWidest = std::max(nWidest, static_cast<int>(rc.right));
         }
         return nWidest;
     }

@@ -1,5 +1,7 @@
 #include <mbstring.h>
 
+#include <algorithm>
+
 #include "frame/select_object.h"
 #include "tree/core/tree_columns.h"
 #include "tree/tree_ctrl.h"
@@ -181,8 +183,8 @@ void QVTreeCtrlEx::DrawItemSymbols(CDC& dc, HTREEITEM hItem, const CRect& rcSymb
     // The cell is as wide as the image is high, on purpose: see IndentStep.
     const qv::TreeImages& images = m_pCore->m_images;
     const int nIndent = m_pCore->IndentStep();
-    const int nWidth = min(kLargestButtonCell,
-                           m_pStateImageList != nullptr ? images.cyStateImage : images.cyImage);
+    const int nWidth = std::min(
+        kLargestButtonCell, m_pStateImageList != nullptr ? images.cyStateImage : images.cyImage);
     const int nShift = (nIndent - nWidth) / 2;
     CRect rcCell(rcSymbols);
     rcCell.left = rcSymbols.right - nIndent;
@@ -229,7 +231,7 @@ void QVTreeCtrlEx::DrawItemButton(CDC& dc, const CRect& rect, BOOL bExpanded) {
     constexpr int kSmallest = 5;
     constexpr int kLargest = 9;
     const int nWanted = ItemHeight() >= 19 ? 15 : (ItemHeight() - 4) | 1;
-    const int nSize = max(kSmallest, min(kLargest, nWanted));
+    const int nSize = std::clamp(nWanted, kSmallest, kLargest);
     const int nLeft = rect.left + (rect.Width() - nSize) / 2;
     const int nTop = Even(rect.top + (rect.Height() - nSize) / 2 + 1);
     const CRect rcButton(nLeft, nTop, nLeft + nSize, nTop + nSize);

@@ -1,0 +1,156 @@
+#include "frame/core/styled_text.h"
+
+#include <gtest/gtest.h>
+
+#include "frame/core/wheel.h"
+#include "support/failing_new.h"
+
+namespace {
+
+using qv::StyleTable;
+
+StyleTable Table(int nStyles) {
+    StyleTable table;
+    for (int i = 0; i < nStyles; ++i) {
+        table.Add(static_cast<COLORREF>(i), 0);
+    }
+    return table;
+}
+
+TEST(StyleCodes, AreEscapeAndALetterAddedInEightBits) {
+    EXPECT_STREQ(qv::MakeStyleCodes(-1).data(), "");
+    EXPECT_STREQ(qv::MakeStyleCodes(0).data(),
+                 "\x1B"
+                 "a");
+    EXPECT_STREQ(qv::MakeStyleCodes(26).data(), "\x1B{");
+    EXPECT_STREQ(qv::MakeStyleCodes(31).data(), "\x1B\x80");
+}
+
+TEST(StyleParsing, TakesOnlyCodesOfTheTable) {
+    const StyleTable table = Table(40);
+    struct Case {
+        const char* pszText;
+        int nStyle;
+        const char* pszShown;
+    };
+    for (const Case& c :
+         {Case{nullptr, 0, ""}, Case{"", 0, ""}, Case{"plain", 0, "plain"},
+          Case{"\x1B"
+               "cx",
+               2, "x"},
+          Case{"\x1B{x", 26, "x"}, Case{"\x1B\x7Fx", 30, "x"}, Case{"\x1B\x80x", 0, "\x80x"},
+          Case{"\x1B", 0, ""}, Case{"\x1B`x", 0, "`x"}}) {
+        EXPECT_EQ(table.ParseStyle(c.pszText), c.nStyle);
+        EXPECT_STREQ(table.ParseStyleText(c.pszText), c.pszShown);
+    }
+    EXPECT_STREQ(Table(2).ParseStyleText("\x1B"
+                                         "cx"),
+                 "cx")
+        << "an unknown code shows its letter";
+    EXPECT_TRUE(qv::HasStyle("\x1B"));
+    EXPECT_FALSE(qv::HasStyle("a\x1B"));
+    EXPECT_FALSE(qv::HasStyle(nullptr));
+
+    int nStyle = 0;
+    EXPECT_EQ(table.ParseField("a\x1B"
+                               "b",
+                               nStyle),
+              "a\x1B"
+              "b");
+    EXPECT_EQ(nStyle, -1);
+    EXPECT_EQ(table.ParseField("\x1B", nStyle), "");
+    EXPECT_EQ(nStyle, 0);
+    EXPECT_EQ(table.ParseField("\x1B"
+                               "dz",
+                               nStyle),
+              "z");
+    EXPECT_EQ(nStyle, 3);
+}
+
+TEST(StyleTable, UpdatesOnlyWhatExistsAndKeepsIndices) {
+    StyleTable table = Table(2);
+    table.Update(1, 77, 78);
+    table.Update(2, 1, 1);
+    table.Update(-1, 1, 1);
+    EXPECT_EQ(table.Count(), 2);
+    EXPECT_EQ(table[1].crText, 77u);
+    EXPECT_EQ(table[1].crBk, 78u);
+}
+
+TEST(StyleTable, WithoutMemoryAddsNothing) {
+    StyleTable table;
+    const FailingNew failing(0);
+    EXPECT_EQ(table.Add(1, 2), -1);
+    EXPECT_EQ(table.Count(), 0);
+}
+
+TEST(StylePrefix, SeparatesFieldsOnlyWhereNeeded) {
+    const StyleTable table = Table(3);
+    EXPECT_STREQ(table.PrefixFor(0, 1).data(),
+                 "\x1B"
+                 "b");
+    EXPECT_STREQ(table.PrefixFor('x', 1).data(),
+                 "\t\x1B"
+                 "b");
+    EXPECT_STREQ(table.PrefixFor('\t', 1).data(),
+                 "\x1B"
+                 "b");
+    EXPECT_STREQ(table.PrefixFor('x', 3).data(),
+                 "\t\x1B"
+                 "a")
+        << "beyond the table: style 0";
+    EXPECT_STREQ(table.PrefixFor('x', -1).data(), "");
+}
+
+TEST(ChangeStyle, OverwritesACodeInPlaceAndGivesNone) {
+    char styled[] =
+        "\x1B"
+        "ax";
+    EXPECT_TRUE(qv::ChangeStyle(styled, 4));
+    EXPECT_STREQ(styled,
+                 "\x1B"
+                 "ex");
+    char plain[] = "ax";
+    EXPECT_FALSE(qv::ChangeStyle(plain, 4));
+    char alone[] = "\x1B";
+    EXPECT_FALSE(qv::ChangeStyle(alone, 4));
+    EXPECT_STREQ(alone, "\x1B");
+}
+
+TEST(NextField, ReadsFieldsUpToTheLastThatHasText) {
+    const auto fields = [](std::string_view row) {
+        std::string strAll;
+        std::string_view field;
+        for (int nPos = 0; qv::NextField(row, nPos, field);) {
+            strAll += "[" + std::string(field) + "]";
+        }
+        return strAll;
+    };
+    EXPECT_EQ(fields("a\t\tb"), "[a][][b]");
+    EXPECT_EQ(fields("a\t"), "[a]");
+    EXPECT_EQ(fields("\ta"), "[][a]");
+    EXPECT_EQ(fields(""), "");
+}
+
+TEST(Wheel, AddsSmallMovementsUpToSteps) {
+    struct Case {
+        int nDelta;
+        unsigned nLines;
+        int nScrolled;  // lines, up positive; pages count as ten
+        int nRemainder;
+    };
+    for (const Case& c :
+         {Case{120, 3, 3, 0}, Case{-120, 3, -3, 0}, Case{30, 3, 0, 30}, Case{100, 3, 2, 20},
+          Case{120, 0, 1, 0}, Case{-240, qv::kWheelPage, -20, 0}, Case{120, 121, 0, 0},
+          Case{120, 120, 120, 0}}) {
+        int nRemainder = 0;
+        int nScrolled = 0;
+        qv::TurnWheel(nRemainder, c.nDelta, c.nLines, [&](bool bUp, bool bPage) {
+            nScrolled += (bUp ? 1 : -1) * (bPage ? 10 : 1);
+        });
+        EXPECT_EQ(nScrolled, c.nScrolled) << c.nDelta << " by " << c.nLines;
+        EXPECT_EQ(nRemainder, c.nRemainder);
+    }
+}
+
+}  // namespace

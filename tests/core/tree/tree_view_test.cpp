@@ -1,0 +1,469 @@
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "support/failing_new.h"
+#include "support/test_tree.h"
+
+namespace {
+
+constexpr int kChar = FixedMeasure::kCharWidth;
+
+TEST(TreeColumns, StopsCarryPositionAndFormat) {
+    TestTree tree;
+    const int stops[] = {50, 10100, 20200, 0, 300};
+    tree.UseTabs(stops, -1);
+    EXPECT_EQ(tree.Tabs().Count(), 3);
+    EXPECT_EQ(tree.Tabs().Value(1), 100);
+    EXPECT_EQ(tree.Tabs().Format(1), DT_CENTER);
+    EXPECT_EQ(tree.Tabs().Value(2), 200);
+    EXPECT_EQ(tree.Tabs().Format(2), DT_RIGHT);
+    EXPECT_EQ(
+        tree.Tabs().Value(3) + tree.Tabs().Value(-1) + static_cast<int>(tree.Tabs().Format(9)), 0);
+    tree.SetTabValue(2, 250);
+    tree.SetTabFormat(1, 7);
+    tree.SetTabValue(0, -5);
+    tree.SetTabValue(-1, 5);
+    tree.SetTabFormat(3, 1);
+    EXPECT_EQ(tree.Tabs().Value(2), 250);
+    EXPECT_EQ(tree.Tabs().Format(2), DT_RIGHT);
+    EXPECT_EQ(tree.Tabs().Format(1), DT_LEFT);
+    EXPECT_EQ(tree.Tabs().Value(0), 0);
+    const std::vector<int> many(100, 5);
+    tree.UseTabs(many.data(), 100);
+    EXPECT_EQ(tree.Tabs().Count(), qv::kMaxTabs);
+    tree.UseTabs(many.data(), -1);
+    EXPECT_EQ(tree.Tabs().Count(), qv::kMaxTabs);
+}
+
+TEST(TreeColumns, ExtentFollowsTheLastFieldThatHasAColumn) {
+    FixedMeasure measure;
+    qv::StyleTable styles;
+    styles.Add(0, 0);
+    qv::TabStops tabs;
+    const auto extent = [&](const char* psz, bool bIndent) {
+        return qv::ColumnsExtent(psz, tabs, bIndent, styles, measure);
+    };
+    EXPECT_EQ(extent("abc", true), 3 * kChar);
+    const int stops[] = {100, 10200, 20300};
+    tabs.Use(stops, 3);
+    EXPECT_EQ(extent("abc", true), 3 * kChar);
+    EXPECT_EQ(extent("abc", false), 100) << "no TAB, absolute: the first stop";
+    EXPECT_EQ(extent("abc\tdef", true), 100 + 3 * kChar) << "left";
+    EXPECT_EQ(extent("abc\t\x1B"
+                     "adef",
+                     true),
+              100 + 3 * kChar)
+        << "without its code";
+    EXPECT_EQ(extent("abc\t", true), 100) << "a row that ends in TAB ends at the stop";
+    EXPECT_EQ(extent("abc\td\tefg", true), (300 - 200) / 2 + 3 * kChar / 2) << "centred";
+    EXPECT_EQ(extent("abc\td\tefg", false), 300);
+    EXPECT_EQ(extent("abc\td\te\tfg", true), 300 + 2 * kChar) << "the last stop";
+    EXPECT_EQ(extent("abc\td\te\tfg\tbeyond", true), 300 + 2 * kChar);
+}
+
+TEST(TreeColumns, FieldsStandBetweenStops) {
+    qv::StyleTable styles;
+    styles.Add(0, 0);
+    styles.Add(1, 1);
+    qv::TabStops tabs;
+    const int stops[] = {60, 20100};
+    tabs.Use(stops, 2);
+    const qv::Rect rect{20, 5, 300, 20};
+    const auto fields = [&](const char* psz, bool bIndent) {
+        std::string strAll;
+        qv::FieldReader reader(psz, rect, tabs, bIndent, styles);
+        for (qv::Field f; reader.Next(f);) {
+            strAll += std::string(f.text) + ":" + std::to_string(f.rect.left) + "-" +
+                      std::to_string(f.rect.right) + "/" + std::to_string(f.nStyle) + "/" +
+                      std::to_string(f.nFormat) + " ";
+        }
+        return strAll;
+    };
+    EXPECT_EQ(fields("a\t\x1B"
+                     "bb\tc\td",
+                     true),
+              "a:20-76/-1/0 b:80-116/1/0 c:120-300/-1/2 ");
+    EXPECT_EQ(fields("a\tb\tc", false), "a:20-56/-1/0 b:60-96/-1/0 c:100-300/-1/2 ");
+    EXPECT_EQ(fields("a\t", true), "a:20-76/-1/0 ");
+    EXPECT_EQ(fields("", true), ":20-76/-1/0 ") << "the first field is always handled";
+    tabs.Clear();
+    EXPECT_EQ(fields("\x1B"
+                     "bx\ty",
+                     true),
+              "x:20-300/1/0 ");
+}
+
+TEST(TreeGeometry, RowHeightComesFromFontAndImages) {
+    struct Case {
+        int nFont, cyImage, cyState, nHeight;
+    };
+    for (const Case& c : {Case{13, 0, 0, 16}, Case{14, 0, 0, 16}, Case{13, 24, 0, 24},
+                          Case{13, 16, 21, 22}, Case{1, 0, 0, 6}, Case{0, 0, 0, 0}}) {
+        TestTree tree;
+        tree.nFontHeight = c.nFont;
+        tree.m_images = {true, true, 16, c.cyImage, 12, c.cyState};
+        EXPECT_EQ(tree.ItemHeight(), c.nHeight);
+    }
+    TestTree tree;
+    EXPECT_EQ(tree.IndentStep(), 19);
+    tree.m_images.cyImage = 24;
+    tree.m_images.cxImage = 90;
+    EXPECT_EQ(tree.IndentStep(), 24) << "the image's height widens the step, not its width";
+}
+
+TEST(TreeGeometry, WithoutAHeightThereAreNoRows) {
+    TestTree tree;
+    tree.nFontHeight = 0;
+    HTREEITEM a = tree.Add("a");
+    tree.CalcBottomItem();
+    EXPECT_EQ(tree.m_hBottomItem, nullptr);
+    qv::Rect rect;
+    EXPECT_FALSE(tree.GetItemRect(a, rect, false));
+    unsigned nFlags;
+    EXPECT_EQ(tree.HitTest({5, 5}, &nFlags, nullptr), nullptr);
+    EXPECT_EQ(nFlags, TVHT_NOWHERE);
+    tree.VScroll(SB_PAGEDOWN, 0);
+}
+
+TEST(TreeGeometry, RectanglesLeaveRoomForIndentationAndImages) {
+    TestTree tree;
+    HTREEITEM a = tree.Add("root");
+    HTREEITEM b = tree.Add("abc", a);
+    const auto rectOf = [&](HTREEITEM h, bool bText) {
+        qv::Rect rect;
+        tree.CalcItemRect(nullptr, 32, h, rect, bText);
+        return rect;
+    };
+    EXPECT_EQ(rectOf(b, false), (qv::Rect{19, 32, 19 + 3 * kChar + 4, 48}));
+    EXPECT_EQ(rectOf(b, true), rectOf(b, false));
+    tree.m_images = {true, true, 16, 16, 12, 12};
+    const int nImages = 16 + 3 + 12 + 3;
+    EXPECT_EQ(rectOf(b, false), (qv::Rect{19, 32, 19 + nImages + 3 * kChar + 4, 48}));
+    EXPECT_EQ(rectOf(b, true).left, 19 + nImages);
+    EXPECT_EQ(rectOf(a, true).left, 19) << "a root item has no state image: 16 + 3";
+    tree.window.nStyle = TVS_LINESATROOT;
+    EXPECT_EQ(rectOf(b, true), (qv::Rect{38 + nImages, 32, 38 + nImages + 3 * kChar + 4, 48}));
+
+    const int nStop = 150;
+    tree.UseTabs(&nStop, 1);
+    tree.SetIndentTabs(false);
+    EXPECT_EQ(rectOf(b, false), (qv::Rect{38, 32, 150, 48})) << "no TAB: up to the first stop";
+    EXPECT_EQ(rectOf(b, true), (qv::Rect{38 + nImages, 32, 150, 48}));
+}
+
+// Rows of 16 pixels in a window of 200 by 100: six fit.
+class TreeScrolling : public testing::Test {
+protected:
+    void Fill(int nRows, const std::string& strText = "row") {
+        for (int i = 0; i < nRows; ++i) {
+            rows.push_back(tree.Add(strText + std::to_string(i)));
+        }
+    }
+    TestTree tree;
+    std::vector<HTREEITEM> rows;
+};
+
+TEST_F(TreeScrolling, BarsAppearOnlyWhereNeeded) {
+    Fill(6);
+    EXPECT_FALSE(tree.window.bShown[SB_VERT] || tree.window.bShown[SB_HORZ]);
+    Fill(1);
+    EXPECT_TRUE(tree.window.bShown[SB_VERT]);
+    EXPECT_EQ(tree.window.ranges[SB_VERT], (qv::ScrollRange{0, 6, 6, 0}));
+    EXPECT_FALSE(tree.window.bShown[SB_HORZ]);
+    tree.DeleteItem(rows[6]);
+    EXPECT_FALSE(tree.window.bShown[SB_VERT]);
+    EXPECT_EQ(tree.m_nVPage, 0);
+}
+
+TEST_F(TreeScrolling, OneBarMayForceTheOther) {
+    Fill(6);
+    tree.SetItemText(rows[2], std::string(40, 'x').c_str());  // 284 wide
+    tree.SetRedraw(true);
+    EXPECT_TRUE(tree.window.bShown[SB_HORZ]);
+    EXPECT_TRUE(tree.window.bShown[SB_VERT]) << "the horizontal bar takes the sixth row's room";
+    EXPECT_EQ(tree.m_nMaxWidth, 40 * kChar + 4);
+    EXPECT_EQ(tree.m_nVPage, 5);
+    EXPECT_EQ(tree.m_nHPage, 200 - 17 - 4);
+    EXPECT_EQ(tree.window.ranges[SB_HORZ], (qv::ScrollRange{0, 142, 89, 0}));
+
+    tree.SetItemText(rows[2], std::string(26, 'x').c_str());  // 186: fits but beside the bar
+    Fill(1);
+    EXPECT_TRUE(tree.window.bShown[SB_HORZ] && tree.window.bShown[SB_VERT]);
+    tree.DeleteItem(rows.back());
+    EXPECT_FALSE(tree.window.bShown[SB_HORZ] || tree.window.bShown[SB_VERT])
+        << "all fits again once both are gone";
+}
+
+TEST_F(TreeScrolling, VerticalCodesMoveRowsAndPixels) {
+    Fill(50);
+    struct Case {
+        unsigned nCode;
+        int nPos, nTop, nPixels;  // 0 pixels: everything is invalid
+    };
+    for (const Case& c :
+         {Case{SB_LINEDOWN, 0, 1, -16}, Case{SB_PAGEDOWN, 0, 6, -80}, Case{SB_LINEUP, 0, 5, 16},
+          Case{SB_PAGEUP, 0, 0, 80}, Case{SB_THUMBTRACK, 30, 30, 0},
+          Case{SB_THUMBPOSITION, 32, 32, -32}, Case{SB_THUMBTRACK, 9999, 44, 0},
+          Case{SB_ENDSCROLL, 0, 44, 0}, Case{SB_THUMBTRACK, -5, 0, 0}}) {
+        tree.window.scrolls.clear();
+        const int nAll = tree.window.nAllInvalid;
+        const int nBefore = tree.m_nVScrollPos;
+        tree.VScroll(c.nCode, c.nPos);
+        EXPECT_EQ(tree.m_hTopItem, rows[c.nTop]) << c.nCode << " " << c.nPos;
+        EXPECT_EQ(tree.m_hBottomItem, rows[c.nTop + 5]);
+        EXPECT_EQ(tree.m_nVScrollPos, c.nTop);
+        EXPECT_EQ(tree.window.ranges[SB_VERT].nPos, c.nTop);
+        EXPECT_EQ(tree.window.scrolls.empty() ? 0 : tree.window.scrolls[0].y, c.nPixels);
+        EXPECT_EQ(tree.window.nAllInvalid > nAll, c.nPixels == 0 && nBefore != c.nTop);
+    }
+    tree.window.bPositionKnown = true;
+    tree.window.nTrackPos = 20;
+    tree.window.nThumbPos = 10;
+    tree.VScroll(SB_THUMBTRACK, 3);
+    EXPECT_EQ(tree.m_nVScrollPos, 20) << "the bar's own position wins over the message's 16 bits";
+    tree.VScroll(SB_THUMBPOSITION, 3);
+    EXPECT_EQ(tree.m_nVScrollPos, 10);
+}
+
+TEST_F(TreeScrolling, HorizontalCodesMovePixelsWithinTheLimit) {
+    Fill(1, std::string(50, 'x'));  // 51 characters: 361 wide, 196 a page, limit 165
+    ASSERT_EQ(tree.m_nMaxWidth - tree.m_nHPage, 165);
+    struct Case {
+        unsigned nCode;
+        int nPos, nScrolled;
+    };
+    for (const Case& c :
+         {Case{SB_LINELEFT, 0, 0}, Case{SB_LINERIGHT, 0, 4}, Case{SB_LINERIGHT, 0, 8},
+          Case{SB_PAGERIGHT, 0, 165}, Case{SB_LINERIGHT, 0, 165}, Case{SB_LINELEFT, 0, 161},
+          Case{SB_PAGELEFT, 0, 0}, Case{SB_THUMBTRACK, 40, 80}, Case{SB_THUMBPOSITION, 1, 2},
+          Case{SB_LINELEFT, 0, 0}, Case{SB_ENDSCROLL, 0, 0}}) {
+        const int nBefore = tree.m_nHScrollPos;
+        tree.window.scrolls.clear();
+        tree.HScroll(c.nCode, c.nPos);
+        EXPECT_EQ(tree.m_nHScrollPos, c.nScrolled) << c.nCode;
+        EXPECT_EQ(tree.window.scrolls.empty() ? 0 : tree.window.scrolls[0].x,
+                  nBefore - c.nScrolled);
+    }
+}
+
+TEST_F(TreeScrolling, EnsureVisibleBringsRowsToTheNearerEdge) {
+    Fill(50);
+    HTREEITEM child = tree.Add("child", rows[40]);
+    EXPECT_TRUE(tree.EnsureVisible(child));
+    EXPECT_TRUE(tree.Rows().find("child") != std::string::npos) << "its parent is open";
+    EXPECT_EQ(tree.m_hBottomItem, child);
+    EXPECT_TRUE(tree.ItemVisible(child));
+    EXPECT_TRUE(tree.EnsureVisible(rows[10]));
+    EXPECT_EQ(tree.m_hTopItem, rows[10]);
+    EXPECT_EQ(tree.m_nVScrollPos, 10);
+    EXPECT_TRUE(tree.EnsureVisible(rows[12]));
+    EXPECT_EQ(tree.m_hTopItem, rows[10]) << "in view already";
+    EXPECT_FALSE(tree.EnsureVisible(nullptr));
+}
+
+TEST_F(TreeScrolling, AWindowLowerThanARowShowsOne) {
+    tree.window.size = {200, 7};
+    Fill(4);
+    EXPECT_EQ(tree.m_hTopItem, tree.m_hBottomItem);
+    tree.VScroll(SB_LINEDOWN, 0);
+    EXPECT_EQ(tree.m_hTopItem, rows[1]);
+    tree.VScroll(SB_PAGEDOWN, 0);
+    EXPECT_TRUE(tree.CheckInvariants());
+}
+
+TEST_F(TreeScrolling, HitFlagsTellTheParts) {
+    tree.m_images = {true, true, 16, 16, 12, 12};
+    Fill(2);
+    HTREEITEM child = tree.Add("child", rows[0]);
+    HTREEITEM leaf = tree.Add("leaf", child);
+    tree.Expand(rows[0], TVE_EXPAND, false, false);
+    struct Case {
+        int x, y;
+        unsigned nFlags;
+        HTREEITEM h;
+    };
+    // Row 1 is the child: 19 indentation, 12 + 3 state, 16 + 3 image, text of 5.
+    for (const Case& c :
+         {Case{19, 20, TVHT_NOWHERE | TVHT_ONITEMSTATEICON, child},
+          Case{19 + 15, 20, TVHT_NOWHERE | TVHT_ONITEMICON, child},
+          Case{19 + 34, 20, TVHT_NOWHERE | TVHT_ONITEMLABEL, child},
+          Case{18, 20, TVHT_ONITEMBUTTON, child}, Case{150, 20, TVHT_ONITEMRIGHT, child},
+          Case{2, 2, TVHT_NOWHERE | TVHT_ONITEMICON, rows[0]}, Case{5, 90, TVHT_NOWHERE, nullptr},
+          Case{-1, 20, TVHT_TOLEFT, nullptr}, Case{200, 500, TVHT_TORIGHT, nullptr},
+          Case{5, -1, TVHT_ABOVE, nullptr}, Case{5, 100, TVHT_BELOW, nullptr}}) {
+        unsigned nFlags = 0;
+        EXPECT_EQ(tree.HitTest({c.x, c.y}, &nFlags, nullptr), c.h) << c.x << "," << c.y;
+        EXPECT_EQ(nFlags, c.nFlags) << c.x << "," << c.y;
+        EXPECT_EQ(tree.HitTest({c.x, c.y}, nullptr, nullptr), c.h);
+    }
+    tree.Expand(child, TVE_EXPAND, false, false);
+    unsigned nFlags;
+    EXPECT_EQ(tree.HitTest({5, 36}, &nFlags, nullptr), leaf);
+    EXPECT_EQ(nFlags, TVHT_ONITEMINDENT);
+}
+
+TEST_F(TreeScrolling, CollapsingMovesSelectionAndViewOutOfTheBranch) {
+    Fill(2);
+    for (int i = 0; i < 30; ++i) {
+        tree.Add("c" + std::to_string(i), rows[0]);
+    }
+    tree.Expand(rows[0], TVE_EXPAND, false, false);
+    tree.SelectItem(rows[0]->pLastChild);
+    tree.VScroll(SB_THUMBTRACK, 12);
+    EXPECT_TRUE(tree.Expand(rows[0], TVE_COLLAPSE, false, false));
+    EXPECT_EQ(tree.nNotified, 1);
+    EXPECT_EQ(tree.m_hSelectedItem, rows[0]);
+    EXPECT_EQ(tree.m_hTopItem, rows[0]);
+    EXPECT_EQ(tree.m_hBottomItem, rows[1]);
+    EXPECT_FALSE(tree.Expand(rows[0], 0, false, false));
+    EXPECT_FALSE(tree.Expand(rows[0], 4, false, false));
+}
+
+TEST_F(TreeScrolling, ReopenedByTheUserABranchShowsOneLevel) {
+    HTREEITEM a = tree.Add("a");
+    HTREEITEM b = tree.Add("b", a);
+    tree.Add("c", b);
+    tree.Expand(a, TVE_TOGGLE, false, true);
+    tree.Expand(b, TVE_TOGGLE, false, true);
+    EXPECT_EQ(tree.Rows(), "a b c");
+    tree.Expand(a, TVE_TOGGLE, false, true);
+    tree.Expand(a, TVE_TOGGLE, false, true);
+    EXPECT_EQ(tree.Rows(), "a b");
+    EXPECT_TRUE(b->nState & TVIS_EXPANDEDONCE);
+    EXPECT_TRUE(tree.CheckInvariants());
+}
+
+TEST_F(TreeScrolling, RedrawOffLeavesBarsAloneUntilItIsOnAgain) {
+    tree.SetRedraw(false);
+    Fill(100);
+    EXPECT_FALSE(tree.window.bShown[SB_VERT]);
+    EXPECT_EQ(tree.window.nAllInvalid, 0);
+    tree.SetRedraw(true);
+    EXPECT_EQ(tree.window.ranges[SB_VERT].nMax, 99);
+    EXPECT_EQ(tree.m_hBottomItem, rows[5]);
+}
+
+TEST_F(TreeScrolling, AReplacedRectangleDecidesAboutTheBar) {
+    tree.nReplacedWidth = 500;
+    Fill(2);
+    EXPECT_EQ(tree.m_nMaxWidth, 500);
+    EXPECT_TRUE(tree.window.bShown[SB_HORZ]);
+    tree.nReplacedWidth = 100;
+    tree.CalcScroll();
+    EXPECT_FALSE(tree.window.bShown[SB_HORZ]) << "asked again at each refit";
+}
+
+TEST_F(TreeScrolling, WidthsFollowWhatTheyDependOn) {
+    Fill(1);
+    const int nWidth = tree.m_nMaxWidth;
+    tree.measure.nCalls = 0;
+    Fill(1, "longer");
+    EXPECT_GT(tree.m_nMaxWidth, nWidth);
+    tree.CalcScroll();
+    EXPECT_EQ(tree.measure.nCalls, 1) << "nothing is measured twice";
+    tree.DeleteItem(rows[1]);
+    EXPECT_EQ(tree.m_nMaxWidth, nWidth);
+    tree.m_images = {true, false, 16, 16, 0, 0};
+    tree.CalcScroll();
+    EXPECT_EQ(tree.m_nMaxWidth, nWidth + 19);
+    tree.window.nStyle = TVS_LINESATROOT;
+    tree.CalcScroll();
+    EXPECT_EQ(tree.m_nMaxWidth, nWidth + 38);
+    tree.SetItemText(rows[0], "row\tfield");
+    const int nStop = 120;
+    tree.UseTabs(&nStop, 1);
+    tree.CalcScroll();
+    EXPECT_EQ(tree.m_nMaxWidth, 120 + 5 * kChar + 4 + 38);
+}
+
+TEST_F(TreeScrolling, WithoutMemoryForAnIndexRowsAreWalked) {
+    tree.m_bRedraw = false;
+    Fill(600);
+    tree.m_bRedraw = true;
+    {
+        const FailingNew failing(0);
+        tree.CalcScroll();
+        tree.CalcBottomItem();
+        EXPECT_EQ(tree.window.ranges[SB_VERT].nMax, 599);
+        EXPECT_EQ(tree.m_nMaxWidth, 6 * kChar + 4);
+        tree.VScroll(SB_THUMBTRACK, 300);
+    }
+    EXPECT_EQ(tree.m_nVScrollPos, 300);
+    EXPECT_TRUE(tree.CheckInvariants());
+}
+
+// Whatever happens to the tree, a refit gives what walking all rows gives.
+TEST(TreeProperty, RefitsAgreeWithAPlainWalk) {
+    for (unsigned nSeed = 1; nSeed <= 30; ++nSeed) {
+        std::mt19937 random(nSeed);
+        TestTree tree;
+        tree.window.size = {150, 16 * 7};
+        std::vector<HTREEITEM> items;
+        const auto any = [&]() -> HTREEITEM {
+            items.clear();
+            for (HTREEITEM h = tree.m_hRootItem; h != nullptr; h = tree.WalkNext(h)) {
+                items.push_back(h);
+            }
+            return items.empty() ? nullptr : items[random() % items.size()];
+        };
+        for (int i = 0; i < 400; ++i) {
+            const std::string strText(1 + random() % 30, 'a' + static_cast<char>(random() % 26));
+            HTREEITEM h = any();
+            switch (random() % 12) {
+                case 0:
+                case 1:
+                case 2:
+                case 3:
+                case 4:
+                    for (unsigned n = random() % 60; n > 0; --n) {
+                        tree.Add(strText, h, random() % 2 ? TVI_FIRST : TVI_LAST);
+                    }
+                    break;
+                case 5:
+                    if (random() % 3 == 0)
+                        tree.DeleteItem(h ? h : TVI_ROOT);
+                    break;
+                case 6:
+                case 7:
+                    tree.Expand(h, TVE_TOGGLE, true, random() % 2);
+                    break;
+                case 8:
+                    if (h != tree.m_hRootItem)
+                        tree.ChangeParent(h, any());
+                    break;
+                case 9:
+                    tree.SortChildren(h);
+                    break;
+                case 10:
+                    tree.SetItemText(h, strText.c_str());
+                    break;
+                default:
+                    tree.SetItemState(h, random() % 2 ? TVIS_EXPANDED : 0, TVIS_EXPANDED);
+            }
+            tree.CalcScroll();
+            tree.CalcBottomItem();
+            int nRows = 0, nTop = 0, nWidest = 0;
+            for (HTREEITEM r = tree.m_hRootItem; r != nullptr; r = tree.NextDisplayableItem(r)) {
+                nTop = r == tree.m_hTopItem ? nRows : nTop;
+                qv::Rect rect;
+                tree.CalcItemRect(nullptr, 0, r, rect, false);
+                nWidest = std::max(nWidest, rect.right);
+                ++nRows;
+            }
+            ASSERT_TRUE(tree.CheckInvariants()) << nSeed << "/" << i;
+            ASSERT_EQ(tree.m_nMaxWidth, nWidest) << nSeed << "/" << i;
+            ASSERT_EQ(tree.m_nVScrollPos, nTop) << nSeed << "/" << i;
+            if (tree.m_nVPage != 0) {
+                ASSERT_EQ(tree.window.ranges[SB_VERT].nMax, nRows - 1);
+            }
+            const int nWanted = static_cast<int>(random() % 200);
+            const int nDown = tree.ScrollTreeDown(nWanted);
+            ASSERT_TRUE(nDown == nWanted ||
+                        tree.NextDisplayableItem(tree.m_hBottomItem) == nullptr);
+            ASSERT_EQ(tree.ScrollTreeUp(nDown), nDown);
+        }
+    }
+}
+
+}  // namespace
