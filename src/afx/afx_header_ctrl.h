@@ -1,8 +1,6 @@
 // CHeaderCtrl, the column headings of a report.
 #pragma once
 
-#include <commctrl.h>
-
 #include "afx_imagelist.h"
 #include "afxwin.h"
 

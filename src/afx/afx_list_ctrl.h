@@ -1,8 +1,6 @@
 // CListCtrl, the list view.
 #pragma once
 
-#include <commctrl.h>
-
 #include "afx_header_ctrl.h"
 #include "afx_imagelist.h"
 #include "afxwin.h"

@@ -1,8 +1,6 @@
 // Controls that show or set a number in a range, and the status bar control.
 #pragma once
 
-#include <commctrl.h>
-
 #include "afxwin.h"
 
 class CToolTipCtrl;

@@ -1,8 +1,6 @@
 // CTabCtrl, the row of tabs.
 #pragma once
 
-#include <commctrl.h>
-
 #include "afx_imagelist.h"
 #include "afxwin.h"
 

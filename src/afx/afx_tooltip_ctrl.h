@@ -1,8 +1,6 @@
 // CToolTipCtrl. Its owner relays mouse messages to it from PreTranslateMessage.
 #pragma once
 
-#include <commctrl.h>
-
 #include "afxwin.h"
 
 class QVAFX_API CToolTipCtrl : public CWnd {

@@ -1,8 +1,6 @@
 // CTreeCtrl, the tree view.
 #pragma once
 
-#include <commctrl.h>
-
 #include "afx_imagelist.h"
 #include "afxwin.h"
 

@@ -1,8 +1,6 @@
 // CDateTimeCtrl, the date and time picker.
 #pragma once
 
-#include <commctrl.h>
-
 #include "afxcmn.h"
 
 class QVAFX_API CDateTimeCtrl : public CWnd {

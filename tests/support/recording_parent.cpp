@@ -1,7 +1,5 @@
 #include "support/recording_parent.h"
 
-#include <commctrl.h>
-
 #include <algorithm>
 
 RecordingParent::RecordingParent(CSize sizeClient, DWORD dwStyle) {
