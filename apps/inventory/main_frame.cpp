@@ -1,0 +1,85 @@
+#include "main_frame.h"
+
+#include "registry_source.h"
+#include "resource.h"
+
+namespace {
+
+constexpr char kPackageDatabase[] = "Z:\\var\\lib\\dpkg\\status";
+
+}  // namespace
+
+BEGIN_MESSAGE_MAP(MainFrame, CFrameWnd)
+    ON_WM_CREATE()
+    ON_WM_SETFOCUS()
+    ON_COMMAND(ID_TREE_RELOAD, OnReload)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_MESSAGE, OnUpdateMessage)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_MARKED, OnUpdateMarked)
+END_MESSAGE_MAP()
+
+BOOL MainFrame::PreCreateWindow(CREATESTRUCT& cs) {
+    cs.cx = 1000;
+    cs.cy = 640;
+    cs.style &= ~static_cast<LONG>(FWS_ADDTOTITLE);
+    return CFrameWnd::PreCreateWindow(cs);
+}
+
+int MainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct) {
+    static constexpr UINT kIndicators[] = {ID_INDICATOR_MESSAGE, ID_INDICATOR_MARKED};
+    if (CFrameWnd::OnCreate(lpCreateStruct) == -1 || !m_page.Create(this) ||
+        !m_statusBar.Create(this) ||
+        !m_statusBar.SetIndicators(kIndicators, static_cast<int>(std::size(kIndicators)))) {
+        return -1;
+    }
+    m_statusBar.SetPaneStyle(0, SBPS_STRETCH);
+    SetActiveClient(&m_page);
+    return 0;
+}
+
+void MainFrame::OnSetFocus(CWnd*) {
+    m_page.SetFocus();
+}
+
+BOOL MainFrame::Open(const CString& strPath, bool bInteractive) {
+    m_strPath = strPath;
+    std::vector<Package> packages;
+    DatabaseError error;
+    CFileStatus status;
+    bool bRead = true;
+    if (!strPath.IsEmpty() || CFile::GetStatus(kPackageDatabase, status)) {
+        const CString strFile = strPath.IsEmpty() ? CString(kPackageDatabase) : strPath;
+        bRead = ReadPackages(static_cast<LPCTSTR>(strFile), packages, error);
+    } else {
+        packages = ReadUninstallEntries();
+    }
+    m_strProblem = error.strMessage.c_str();
+    m_inventory.SetPackages(std::move(packages));
+    m_page.SetInventory(m_inventory);
+    if (!bRead && bInteractive) {
+        AfxMessageBox(m_strProblem, MB_ICONEXCLAMATION);
+    }
+    return bRead;
+}
+
+void MainFrame::OnReload() {
+    Open(m_strPath, true);
+}
+
+void MainFrame::OnUpdateMessage(CCmdUI* pCmdUI) {
+    CString strText = m_strProblem;
+    if (strText.IsEmpty()) {
+        strText = m_page.Message();
+    }
+    if (strText.IsEmpty()) {
+        strText.Format("%u packages in %u sections",
+                       static_cast<unsigned>(m_inventory.CountPackages()),
+                       static_cast<unsigned>(m_inventory.Sections().size()));
+    }
+    pCmdUI->Enable();
+    pCmdUI->SetText(strText);
+}
+
+void MainFrame::OnUpdateMarked(CCmdUI* pCmdUI) {
+    pCmdUI->Enable();
+    pCmdUI->SetText(m_page.MarkedText());
+}

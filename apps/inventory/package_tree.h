@@ -1,0 +1,48 @@
+// PackageTree: the inventory as a tree of sections, packages and what is to be said of each
+// package. The rows of a package are made when its branch is opened first.
+
+#pragma once
+
+#include "QVControls.h"
+#include "images.h"
+#include "model/inventory.h"
+
+class PackageTree : public QVTreeCtrlEx {
+public:
+    // Columns, styles, images and check marks; call once the window exists.
+    void SetUp();
+    // Fills the tree anew. The inventory must outlive what is shown of it.
+    void Show(const Inventory& inventory);
+
+    // The package of an item at the package level, null for others.
+    const Package* PackageOf(HTREEITEM hItem);
+    // Makes the rows below a package, if that is still to be done.
+    void Fill(HTREEITEM hPackage);
+    // All branches of sections open or closed.
+    void ExpandSections(UINT nCode);
+
+    void UseIndentedColumns(bool bIndented);
+    bool IndentedColumns() const { return m_bIndented; }
+
+    // The next package behind the selection whose name contains the text, from the start again at
+    // the end; it is shown and selected. False if there is none.
+    bool FindNext(const CString& strText);
+
+    struct Marked {
+        int nPackages = 0;
+        long nSizeKiB = 0;
+    };
+    // What is ticked, also in branches that are closed.
+    Marked CountMarked();
+
+private:
+    HTREEITEM AddPackage(HTREEITEM hSection, const Package& package);
+    void AddDetail(HTREEITEM hPackage, const char* pszWhat, const std::string& strValue,
+                   int nImage);
+
+    CImageList m_images;
+    bool m_bIndented = true;
+    int m_nTrouble = 0;  // styles
+    int m_nRequired = 0;
+    int m_nDetail = 0;
+};

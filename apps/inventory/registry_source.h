@@ -1,0 +1,11 @@
+// The programs that Windows itself lists as installed.
+
+#pragma once
+
+#include <vector>
+
+#include "model/inventory.h"
+
+// The uninstall entries of the machine, in both views, and of the user; publishers are the
+// sections.
+std::vector<Package> ReadUninstallEntries();
