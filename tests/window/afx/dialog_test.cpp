@@ -8,6 +8,8 @@
 #include "window/second_module/second_module.h"
 #include "window/second_module/second_module_ids.h"
 
+#include "afxdlgs.h"
+
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -93,27 +95,29 @@ TEST(ModalDialogs, GiveTheResultOfTheirEnd_AndDisableTheirOwnerMeanwhile) {
     EXPECT_EQ(dlg.DoModal(), IDCANCEL);
 }
 
+void CALLBACK ActLater(HWND hWnd, UINT, UINT_PTR nID, DWORD) {
+    ::KillTimer(hWnd, nID);
+    ::PostMessage(hWnd, kAct, 0, 0);
+}
+
 TEST(ModalDialogs, ShowThemselvesWhenTheQueueIsEmpty_ThenIdle) {
     ModalDialog dlg;
-    dlg.m_action = [](ModalDialog& d) { d.SetTimer(1, 10); };
-    class Waiting : public ModalDialog {
-    } waiting;
-    bool bShown = false;
-    waiting.m_action = [&](ModalDialog& d) {
+    bool bShownAtFirst = true;
+    bool bShownLater = false;
+    dlg.m_action = [&](ModalDialog& d) {
         if (d.m_nKicks == 0) {
-            ::PostMessage(d.m_hWnd, WM_NULL, 0, 0);
-            ::SetTimer(d.m_hWnd, 1, 10, [](HWND hWnd, UINT, UINT_PTR nID, DWORD) {
-                ::KillTimer(hWnd, nID);
-                ::PostMessage(hWnd, kAct, 0, 0);
-            });
+            bShownAtFirst = d.IsWindowVisible() != FALSE;
+            constexpr UINT kSoon = 10;  // milliseconds; the queue runs empty before
+            d.SetTimer(1, kSoon, ActLater);
             return;
         }
-        bShown = d.IsWindowVisible() != FALSE;
+        bShownLater = d.IsWindowVisible() != FALSE;
         d.EndDialog(1);
     };
-    EXPECT_EQ(waiting.DoModal(), 1);
-    EXPECT_TRUE(bShown);
-    EXPECT_GE(waiting.m_nKicks, 3) << "called again while it gives TRUE";
+    EXPECT_EQ(dlg.DoModal(), 1);
+    EXPECT_FALSE(bShownAtFirst) << "the first message was there before the first idle time";
+    EXPECT_TRUE(bShownLater);
+    EXPECT_GE(dlg.m_nKicks, 3) << "called again while it gives TRUE";
 }
 
 TEST(ModalDialogs, NestAndComeBackInOrder) {
@@ -305,6 +309,26 @@ TEST(RealInput, KeysAndClicksReachTheControls) {
     ASSERT_TRUE(ClickAt(button.m_hWnd, CPoint(20, 10)));
     EXPECT_EQ(parent.CountCommands(BN_CLICKED), 2);
     EXPECT_EQ(CWnd::GetFocus(), &button);
+}
+
+TEST(FileDialogs, TakePathsAndFiltersApart) {
+    CFileDialog dlg(TRUE, "txt", "C:\\folder\\name.tar.gz", OFN_ALLOWMULTISELECT,
+                    "Texts (*.txt)|*.txt|All|*.*||");
+    EXPECT_STREQ(dlg.m_ofn.lpstrFilter, "Texts (*.txt)");
+    EXPECT_EQ(memcmp(dlg.m_ofn.lpstrFilter, "Texts (*.txt)\0*.txt\0All\0*.*\0", 28), 0);
+    EXPECT_STREQ(dlg.GetFileName(), "name.tar.gz");
+    EXPECT_STREQ(dlg.GetFileTitle(), "name.tar");
+    EXPECT_STREQ(dlg.GetFileExt(), "gz");
+    POSITION pos = dlg.GetStartPosition();
+    EXPECT_STREQ(dlg.GetNextPathName(pos), "C:\\folder\\name.tar.gz");
+    EXPECT_EQ(pos, nullptr);
+
+    // As the system gives several files.
+    memcpy(dlg.m_ofn.lpstrFile, "C:\\folder\0a.txt\0b.txt\0", 23);
+    pos = dlg.GetStartPosition();
+    EXPECT_STREQ(dlg.GetNextPathName(pos), "C:\\folder\\a.txt");
+    EXPECT_STREQ(dlg.GetNextPathName(pos), "C:\\folder\\b.txt");
+    EXPECT_EQ(pos, nullptr);
 }
 
 }  // namespace
