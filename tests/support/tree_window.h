@@ -1,0 +1,89 @@
+// A tree in a recording parent that has a font, on the screen.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "QVControls.h"
+#include "support/recording_parent.h"
+
+// A parent that tells its font, as dialogs do.
+class FontParent : public RecordingParent {
+public:
+    explicit FontParent(CSize size, DWORD dwStyle = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN)
+        : RecordingParent(size, dwStyle) {
+        m_font.CreatePointFont(90, "Tahoma");
+    }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        return message == WM_GETFONT ? reinterpret_cast<LRESULT>(m_font.GetSafeHandle())
+                                     : RecordingParent::WindowProc(message, wParam, lParam);
+    }
+
+private:
+    CFont m_font;
+};
+
+constexpr DWORD kTreeStyle =
+    WS_CHILD | WS_VISIBLE | TVS_HASLINES | TVS_HASBUTTONS | TVS_LINESATROOT;
+constexpr UINT kTreeId = 77;
+
+template <class Tree = QVTreeCtrlEx>
+class TreeWindow {
+public:
+    explicit TreeWindow(DWORD dwStyle = kTreeStyle, CSize size = CSize(300, 200)) : parent(size) {
+        parent.SetSize(static_cast<UINT>(NM_DBLCLK), sizeof(NM_TREEVIEW));
+        tree.Create(dwStyle, CRect(CPoint(0, 0), size), &parent, kTreeId);
+    }
+    HTREEITEM Add(const char* psz, HTREEITEM hParent = nullptr) {
+        return tree.InsertItem(psz, 0, 1, hParent, TVI_LAST);
+    }
+    int RowHeight() {
+        CRect rc;
+        return tree.GetItemRect(tree.GetNextItem(nullptr, TVGN_FIRSTVISIBLE), &rc, FALSE)
+                   ? rc.Height()
+                   : 0;
+    }
+    CRect RectOf(HTREEITEM h, BOOL bText = TRUE) {
+        CRect rc;
+        return tree.GetItemRect(h, &rc, bText) ? rc : CRect();
+    }
+    // The middle of the text, of the button left of the row, of the state image.
+    CPoint TextOf(HTREEITEM h) { return RectOf(h).CenterPoint(); }
+    CPoint ButtonOf(HTREEITEM h) {
+        const CRect rc = RectOf(h, FALSE);
+        return CPoint(rc.left - 9, rc.CenterPoint().y);
+    }
+    CPoint CheckOf(HTREEITEM h) {
+        const CRect rc = RectOf(h, FALSE);
+        return CPoint(rc.left + 6, rc.CenterPoint().y);
+    }
+    // Codes and items of the tree's notifications in order: "ing a>b", "ed a>b", "ex b", "exd b",
+    // "dbl".
+    std::string Told() {
+        std::string strTold;
+        for (const auto& n : parent.m_notifications) {
+            const auto& nm = n.As<NM_TREEVIEW>();
+            const auto name = [&](const TVITEM& item) {
+                return item.hItem == nullptr ? std::string("-") : names ? names(item.hItem) : "?";
+            };
+            const std::string strItems = name(nm.itemOld) + ">" + name(nm.itemNew);
+            strTold += strTold.empty() ? "" : " | ";
+            strTold += n.code == TVN_SELCHANGING                ? "ing " + strItems
+                       : n.code == TVN_SELCHANGED               ? "ed " + strItems
+                       : n.code == TVN_ITEMEXPANDING            ? "ex " + name(nm.itemNew)
+                       : n.code == TVN_ITEMEXPANDED             ? "exd " + name(nm.itemNew)
+                       : n.code == static_cast<UINT>(NM_DBLCLK) ? "dbl"
+                                                                : "code " + std::to_string(n.code);
+        }
+        parent.Forget();
+        return strTold;
+    }
+
+    FontParent parent;
+    Tree tree;
+    std::function<std::string(HTREEITEM)> names = [this](HTREEITEM h) {
+        return std::string(tree.GetItemText(h));
+    };
+};

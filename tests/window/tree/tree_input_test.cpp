@@ -1,0 +1,304 @@
+#include <gtest/gtest.h>
+
+#include "support/pump.h"
+#include "support/real_input.h"
+#include "support/tree_window.h"
+
+namespace {
+
+// a(a1(a11) a2) b
+class TreeInput : public testing::Test {
+protected:
+    TreeInput() {
+        a = w.Add("a");
+        a1 = w.Add("a1", a);
+        a11 = w.Add("a11", a1);
+        a2 = w.Add("a2", a);
+        b = w.Add("b");
+        BringToFront(w.parent.m_hWnd);
+        w.tree.SetFocus();
+        PumpPending();
+        w.parent.Forget();
+    }
+    void UseChecks() {
+        w.tree.LoadStandardCheckStates();
+        w.tree.SetShowStatesAtRoot(TRUE);
+        w.tree.Invalidate();
+    }
+    TreeWindow<> w;
+    HTREEITEM a, a1, a11, a2, b;
+};
+
+TEST_F(TreeInput, ClickSelectsAndTellsTheParent) {
+    ClickAt(w.tree.m_hWnd, w.TextOf(b));
+    EXPECT_EQ(w.Told(), "ing ->b | ed ->b");
+    EXPECT_EQ(w.tree.GetSelectedItem(), b);
+    EXPECT_EQ(CWnd::GetFocus(), &w.tree);
+    ClickAt(w.tree.m_hWnd, CPoint(290, w.TextOf(a).y));
+    EXPECT_EQ(w.Told(), "ing b>a | ed b>a") << "right of the row counts";
+    ClickAt(w.tree.m_hWnd, w.TextOf(a));
+    EXPECT_EQ(w.Told(), "ing a>a") << "the selection itself: asked, but nothing changed";
+    ClickAt(w.tree.m_hWnd, CPoint(20, 190));
+    EXPECT_EQ(w.Told(), "") << "below the rows";
+    ClickAt(w.tree.m_hWnd, w.TextOf(b), MouseButton::Right);
+    EXPECT_EQ(w.Told(), "ing a>b | ed a>b");
+}
+
+TEST_F(TreeInput, NotificationsCarryTheWholeItem) {
+    w.tree.SetItemData(b, static_cast<DWORD_PTR>(0x1234567890ull));
+    ClickAt(w.tree.m_hWnd, w.TextOf(b));
+    const auto* pLast = w.parent.Last(TVN_SELCHANGED);
+    ASSERT_NE(pLast, nullptr);
+    const auto& nm = pLast->As<NM_TREEVIEW>();
+    EXPECT_EQ(nm.hdr.idFrom, kTreeId);
+    EXPECT_EQ(nm.hdr.hwndFrom, w.tree.m_hWnd);
+    EXPECT_EQ(nm.action, static_cast<UINT>(TVN_SELCHANGED));
+    EXPECT_EQ(nm.itemNew.mask, 63u);
+    EXPECT_EQ(nm.itemNew.lParam, static_cast<LPARAM>(0x1234567890ull));
+    EXPECT_EQ(nm.itemNew.iSelectedImage, 1);
+    EXPECT_EQ(nm.itemNew.cchTextMax, 2);
+    EXPECT_EQ(nm.itemOld.mask, 0u);
+}
+
+TEST_F(TreeInput, ParentRefusesSelectionAndExpansion) {
+    w.parent.SetResult(TVN_SELCHANGING, 1);
+    ClickAt(w.tree.m_hWnd, w.TextOf(b));
+    EXPECT_EQ(w.tree.GetSelectedItem(), nullptr);
+    w.parent.SetResult(TVN_ITEMEXPANDING, 1);
+    w.Told();
+    ClickAt(w.tree.m_hWnd, w.ButtonOf(a));
+    EXPECT_EQ(w.Told(), "ex a");
+    EXPECT_FALSE(w.tree.ItemExpanded(a));
+    w.parent.SetResult(TVN_ITEMEXPANDING, 0);
+    ClickAt(w.tree.m_hWnd, w.ButtonOf(a));
+    EXPECT_EQ(w.Told(), "ex a | exd a");
+    EXPECT_TRUE(w.tree.ItemExpanded(a));
+    EXPECT_TRUE(w.tree.GetItemState(a) & TVIS_EXPANDEDONCE);
+}
+
+TEST_F(TreeInput, DoubleClickTogglesUnlessTheParentTakesIt) {
+    w.tree.SelectItem(a);
+    ClickAt(w.tree.m_hWnd, w.TextOf(a), MouseButton::Left, true);
+    EXPECT_EQ(w.Told(), "ing a>a | dbl | ex a | exd a");
+    EXPECT_TRUE(w.tree.ItemExpanded(a));
+    w.parent.SetResult(static_cast<UINT>(NM_DBLCLK), 1);
+    Sleep(GetDoubleClickTime());  // the next click must not count as the third of a series
+    ClickAt(w.tree.m_hWnd, w.TextOf(a), MouseButton::Left, true);
+    EXPECT_EQ(w.Told(), "ing a>a | dbl");
+    EXPECT_TRUE(w.tree.ItemExpanded(a));
+}
+
+TEST_F(TreeInput, ArrowKeysWalkOpenAndClose) {
+    TypeKey(VK_DOWN);
+    EXPECT_EQ(w.Told(), "ing ->a | ed ->a") << "without a selection: the top row";
+    TypeKey(VK_RIGHT);
+    EXPECT_EQ(w.Told(), "ex a | exd a");
+    TypeKey(VK_RIGHT);
+    EXPECT_EQ(w.Told(), "ing a>a1 | ed a>a1") << "open already: one down";
+    TypeKey(VK_LEFT);
+    EXPECT_EQ(w.Told(), "ing a1>a | ed a1>a") << "closed: to the parent";
+    TypeKey(VK_LEFT);
+    EXPECT_EQ(w.Told(), "ex a | exd a");
+    TypeKey(VK_LEFT);
+    EXPECT_EQ(w.Told(), "") << "a closed root item has nowhere to go";
+    TypeKey(VK_DOWN);
+    EXPECT_EQ(w.Told(), "ing a>b | ed a>b");
+    TypeKey(VK_DOWN);
+    EXPECT_EQ(w.Told(), "") << "the last row";
+    TypeKey(VK_RIGHT);
+    EXPECT_EQ(w.Told(), "");
+    TypeKey(VK_UP);
+    EXPECT_EQ(w.Told(), "ing b>a | ed b>a");
+    w.tree.Expand(a, TVE_EXPAND, TRUE, FALSE);
+    w.tree.Expand(a1, TVE_EXPAND, TRUE, FALSE);
+    w.tree.SelectItem(a11);
+    TypeKey(VK_SPACE);
+    EXPECT_EQ(w.Told(), "") << "no children, no picture";
+    w.parent.SetResult(TVN_ITEMEXPANDING, 1);
+    w.tree.SelectItem(a1);
+    TypeKey(VK_LEFT);
+    EXPECT_EQ(w.Told(), "ex a1 | ing a1>a | ed a1>a") << "refused: goes on to the parent";
+}
+
+TEST_F(TreeInput, ArrowsAtTheEdgeMoveTheRows) {
+    std::vector<HTREEITEM> rows{a, b};
+    for (int i = 0; i < 40; ++i) {
+        rows.push_back(w.Add(std::to_string(i).c_str()));
+    }
+    HTREEITEM bottom =
+        w.tree.HitTest(CPoint(50, 200 / w.RowHeight() * w.RowHeight() - 1), nullptr, nullptr);
+    w.tree.SelectItem(bottom);
+    TypeKey(VK_DOWN);
+    EXPECT_EQ(w.tree.GetSelectedItem(), w.tree.NextDisplayableItem(bottom));
+    EXPECT_EQ(w.tree.GetNextItem(nullptr, TVGN_FIRSTVISIBLE), b);
+    w.tree.SelectItem(b);
+    TypeKey(VK_UP);
+    EXPECT_EQ(w.tree.GetSelectedItem(), a);
+    EXPECT_EQ(w.tree.GetNextItem(nullptr, TVGN_FIRSTVISIBLE), a);
+    // A parent above the view comes to the top row.
+    w.tree.Expand(a, TVE_EXPAND, TRUE, FALSE);
+    w.tree.SendMessage(WM_VSCROLL, SB_LINEDOWN);
+    w.tree.SelectItem(a2);
+    TypeKey(VK_LEFT);
+    EXPECT_EQ(w.tree.GetSelectedItem(), a);
+    EXPECT_EQ(w.tree.GetNextItem(nullptr, TVGN_FIRSTVISIBLE), a);
+}
+
+TEST_F(TreeInput, WheelScrollsThreeRowsANotch) {
+    for (int i = 0; i < 40; ++i) {
+        w.Add("more");
+    }
+    Wheel(w.tree.m_hWnd, -WHEEL_DELTA);
+    EXPECT_EQ(w.tree.GetScrollPos(SB_VERT), 3);
+    w.tree.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 40));
+    EXPECT_EQ(w.tree.GetScrollPos(SB_VERT), 2) << "a third of a notch";
+    w.tree.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 20));
+    w.tree.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 20));
+    EXPECT_EQ(w.tree.GetScrollPos(SB_VERT), 1) << "small movements add up";
+    const UINT nOldWheel = ::RegisterWindowMessage("MSWHEEL_ROLLMSG");
+    w.tree.SendMessage(nOldWheel, static_cast<WPARAM>(-WHEEL_DELTA));
+    EXPECT_EQ(w.tree.GetScrollPos(SB_VERT), 4) << "an old driver's message";
+}
+
+TEST_F(TreeInput, CheckMarkToldAsAChangeOfTheSameItemWithoutSelection) {
+    UseChecks();
+    ClickAt(w.tree.m_hWnd, w.CheckOf(b));
+    EXPECT_EQ(w.Told(), "ing b>b | ed b>b");
+    EXPECT_EQ(w.tree.GetItemStateImage(b), 1u);
+    EXPECT_EQ(w.tree.GetSelectedItem(), b);
+    TypeKey(VK_SPACE);
+    EXPECT_EQ(w.tree.GetItemStateImage(b), 0u);
+    for (const UINT nImage : {2u, 3u}) {
+        w.tree.SetItemStateImage(b, nImage, FALSE);
+        TypeKey(VK_SPACE);
+        EXPECT_EQ(w.tree.GetItemStateImage(b), nImage == 2 ? 1u : 0u);
+    }
+    w.tree.SetAllowTags(FALSE);
+    w.Told();
+    ClickAt(w.tree.m_hWnd, w.CheckOf(a));
+    EXPECT_EQ(w.Told(), "ing b>a | ed b>a") << "marks are not allowed: an ordinary selection";
+    EXPECT_FALSE(w.tree.GetCheck(a));
+}
+
+TEST_F(TreeInput, CheckMarksCascadeAndARefusedItemKeepsItsBranch) {
+    UseChecks();
+    w.parent.m_hook = [this](NMHDR* pHdr, LRESULT* pResult) {
+        const auto* pTree = reinterpret_cast<NM_TREEVIEW*>(pHdr);
+        *pResult = pHdr->code == TVN_SELCHANGING && pTree->itemNew.hItem == a1;
+        return true;
+    };
+    ClickAt(w.tree.m_hWnd, w.CheckOf(a));
+    EXPECT_EQ(w.Told(), "ing a>a | ed a>a | ing a1>a1 | ing a2>a2 | ed a2>a2");
+    EXPECT_TRUE(w.tree.GetCheck(a) && w.tree.GetCheck(a2));
+    EXPECT_FALSE(w.tree.GetCheck(a1) || w.tree.GetCheck(a11));
+    w.parent.m_hook = [](NMHDR* pHdr, LRESULT*) {
+        auto* pTree = reinterpret_cast<NM_TREEVIEW*>(pHdr);
+        if (pHdr->code == TVN_SELCHANGING) {  // another picture than the one proposed
+            pTree->itemNew.state = (pTree->itemNew.state & 0xFFFu) | 3u << 12;
+        }
+        return false;
+    };
+    w.tree.SetAutoTagChildren(FALSE);
+    ClickAt(w.tree.m_hWnd, w.CheckOf(b));
+    EXPECT_EQ(w.tree.GetItemStateImage(b), 3u);
+}
+
+TEST_F(TreeInput, DialogCodeAsksForArrowsAndCharacters) {
+    EXPECT_EQ(w.tree.SendMessage(WM_GETDLGCODE), 0x81);
+}
+
+// What a parent may do while it is told: each must leave everything sound.
+enum class Deed { DeleteItem, DeleteAll, DestroyWindow };
+
+class TreeHostileParent : public testing::TestWithParam<std::tuple<Deed, UINT>> {};
+
+TEST_P(TreeHostileParent, MayTakeTheGroundAway) {
+    const auto [deed, nCode] = GetParam();
+    for (int nAction = 0; nAction < 7; ++nAction) {
+        TreeWindow<> w;
+        w.tree.LoadStandardCheckStates();
+        w.tree.SetShowStatesAtRoot(TRUE);
+        HTREEITEM a = w.Add("a");
+        HTREEITEM a1 = w.Add("a1", a);
+        w.Add("a11", a1);
+        w.Add("b");
+        const CPoint ptCheck = w.CheckOf(a);
+        const CPoint ptText = w.TextOf(a);
+        const CPoint ptButton = w.ButtonOf(a);
+        int nDone = 0;
+        w.parent.m_hook = [&, d = deed, c = nCode](NMHDR* pHdr, LRESULT*) {
+            if (pHdr->code == c && nDone++ == 0) {
+                if (d == Deed::DeleteItem) {
+                    w.tree.DeleteItem(a);
+                } else if (d == Deed::DeleteAll) {
+                    w.tree.DeleteAllItems();
+                } else {
+                    w.tree.DestroyWindow();
+                }
+            }
+            return false;
+        };
+        const auto at = [](CPoint pt) { return MAKELPARAM(pt.x, pt.y); };
+        w.tree.SelectItem(nAction == 0 ? nullptr : a);
+        if (nAction == 2) {
+            w.tree.Expand(a, TVE_EXPAND, TRUE, FALSE);
+            w.tree.SelectItem(a1);
+        }
+        switch (nAction) {
+            case 0:
+                w.tree.SendMessage(WM_LBUTTONDOWN, 0, at(ptText));
+                break;
+            case 1:
+                w.tree.SendMessage(WM_LBUTTONDOWN, 0, at(ptCheck));
+                break;
+            case 2:
+                w.tree.SendMessage(WM_LBUTTONDOWN, 0, at(ptButton));
+                break;  // moves selection
+            case 3:
+                w.tree.SendMessage(WM_LBUTTONDBLCLK, 0, at(ptText));
+                break;
+            case 4:
+                w.tree.SendMessage(WM_KEYDOWN, VK_RIGHT);
+                break;
+            case 5:
+                w.tree.SendMessage(WM_CHAR, ' ');
+                break;
+            case 6:
+                w.tree.SendMessage(WM_RBUTTONDOWN, 0, at(ptText));
+                break;
+        }
+        EXPECT_EQ(::IsWindow(w.tree.m_hWnd) != FALSE, nDone == 0 || deed != Deed::DestroyWindow);
+        if (::IsWindow(w.tree.m_hWnd)) {
+            w.tree.SendMessage(WM_KEYDOWN, VK_DOWN);
+            w.tree.UpdateWindow();
+            EXPECT_NE(w.Add("after"), nullptr);
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Deeds, TreeHostileParent,
+    testing::Combine(testing::Values(Deed::DeleteItem, Deed::DeleteAll, Deed::DestroyWindow),
+                     testing::Values(TVN_SELCHANGING, TVN_SELCHANGED, TVN_ITEMEXPANDING,
+                                     TVN_ITEMEXPANDED, static_cast<UINT>(NM_DBLCLK))));
+
+TEST(TreeHostile, ParentMayDeleteTheControlItself) {
+    FontParent parent(CSize(200, 200));
+    auto* pTree = new QVTreeCtrlEx;
+    pTree->Create(kTreeStyle, CRect(0, 0, 200, 200), &parent, kTreeId);
+    HTREEITEM a = pTree->InsertItem("a", 0, 0, nullptr, nullptr);
+    pTree->InsertItem("a1", 0, 0, a, nullptr);
+    pTree->SelectItem(a);
+    parent.m_hook = [&](NMHDR* pHdr, LRESULT*) {
+        if (pHdr->code == TVN_ITEMEXPANDING) {
+            delete pTree;
+            pTree = nullptr;
+        }
+        return false;
+    };
+    ::SendMessage(pTree->m_hWnd, WM_KEYDOWN, VK_RIGHT, 0);
+    EXPECT_EQ(pTree, nullptr);
+    EXPECT_EQ(::GetWindow(parent.m_hWnd, GW_CHILD), nullptr);
+}
+
+}  // namespace
