@@ -54,15 +54,31 @@ void AfxWndAccess::NameApp(CWinApp* pApp, HINSTANCE hInstance) {
         pApp->m_strAppName = strTitle.LoadString(AFX_IDS_APP_TITLE) ? strTitle : strName;
     }
     pApp->m_pszAppName = pApp->m_strAppName;
+    AfxGetModuleState()->m_lpszCurrentAppName = pApp->m_pszAppName;
     pApp->m_strHelpFilePath = strBase + ".HLP";
     pApp->m_pszHelpFilePath = pApp->m_strHelpFilePath;
     pApp->m_strProfileName = strName + ".INI";
     pApp->m_pszProfileName = pApp->m_strProfileName;
 }
 
+/// The framework's own texts come last, so that an application may put its own in their place.
+static void JoinResourceChain() {
+    static AFX_EXTENSION_MODULE module;
+    if (module.bInitialized) {
+        return;
+    }
+    ::GetModuleHandleEx(
+        GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+        reinterpret_cast<LPCTSTR>(&module), &module.hModule);
+    module.hResource = module.hModule;
+    module.bInitialized = TRUE;
+    new CDynLinkLibrary(module, TRUE);
+}
+
 BOOL AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPTSTR lpCmdLine, int nCmdShow) {
     AfxSetResourceHandle(hInstance);
     AfxGetModuleState()->m_hCurrentInstanceHandle = hInstance;
+    JoinResourceChain();
     INITCOMMONCONTROLSEX controls = {sizeof controls,
                                      ICC_WIN95_CLASSES | ICC_DATE_CLASSES | ICC_COOL_CLASSES};
     ::InitCommonControlsEx(&controls);

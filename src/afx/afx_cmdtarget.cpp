@@ -2,6 +2,8 @@
 
 #include "afx_wnd_state.h"
 
+#include <atomic>
+
 IMPLEMENT_DYNAMIC(CCmdTarget, CObject)
 
 CCmdTarget::CCmdTarget() = default;
@@ -50,13 +52,30 @@ struct CacheLine {
 };
 constexpr size_t kCacheLines = 512;
 
+/// Counts the modules that went away: their maps' addresses may come to be other maps.
+std::atomic<unsigned> s_nModulesGone{0};
+
+struct Cache {
+    unsigned nModulesGone = 0;
+    CacheLine lines[kCacheLines];
+};
+
 CacheLine& LineFor(const AFX_MSGMAP* pMap, UINT nMsg) {
-    static thread_local CacheLine lines[kCacheLines];
-    size_t hash = reinterpret_cast<size_t>(pMap) / alignof(AFX_MSGMAP) + nMsg;
-    return lines[hash % kCacheLines];
+    static thread_local Cache cache;
+    const unsigned nModulesGone = s_nModulesGone;
+    if (cache.nModulesGone != nModulesGone) {
+        cache = Cache();
+        cache.nModulesGone = nModulesGone;
+    }
+    const size_t hash = reinterpret_cast<size_t>(pMap) / alignof(AFX_MSGMAP) + nMsg;
+    return cache.lines[hash % kCacheLines];
 }
 
 }  // namespace
+
+void AfxForgetMessageMaps() {
+    ++s_nModulesGone;
+}
 
 const AFX_MSGMAP_ENTRY* AfxFindWindowEntry(const AFX_MSGMAP* pMap, UINT nMsg) {
     if (nMsg >= kFirstRegisteredMessage) {

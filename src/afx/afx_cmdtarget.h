@@ -44,6 +44,9 @@ struct AFX_MSGMAP {
     const AFX_MSGMAP_ENTRY* lpEntries;
 };
 
+/// A module with message maps is about to go; found entries are looked up anew.
+QVAFX_API void AfxForgetMessageMaps();
+
 /// Filled by OnCmdMsg instead of calling the handler, when a caller only asks whether there is one.
 struct AFX_CMDHANDLERINFO {
     CCmdTarget* pTarget = nullptr;

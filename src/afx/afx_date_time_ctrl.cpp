@@ -22,8 +22,13 @@ DWORD CDateTimeCtrl::GetTime(CTime& timeDest) const {
 }
 
 BOOL CDateTimeCtrl::SetTime(LPSYSTEMTIME pTimeNew) {
-    return AfxSend<BOOL>(m_hWnd, DTM_SETSYSTEMTIME, pTimeNew == nullptr ? GDT_NONE : GDT_VALID,
-                         pTimeNew);
+    if (pTimeNew != nullptr) {
+        return AfxSend<BOOL>(m_hWnd, DTM_SETSYSTEMTIME, GDT_VALID, pTimeNew);
+    }
+    // No time is meant, but some versions of the control refuse a null pointer even then.
+    SYSTEMTIME ignored;
+    ::GetLocalTime(&ignored);
+    return AfxSend<BOOL>(m_hWnd, DTM_SETSYSTEMTIME, GDT_NONE, &ignored);
 }
 
 BOOL CDateTimeCtrl::SetTime(const CTime* pTimeNew) {

@@ -1,5 +1,7 @@
 #include "afxdll_.h"
 
+#include "afx_cmdtarget.h"
+
 #include <memory>
 
 IMPLEMENT_DYNAMIC(CDynLinkLibrary, CObject)
@@ -61,6 +63,7 @@ void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL bAll) {
         }
     }
     state.bInitialized = FALSE;
+    AfxForgetMessageMaps();
 }
 
 HINSTANCE AfxGetInstanceHandle() {

@@ -18,6 +18,15 @@ public:
     InputWatch(const InputWatch&) = delete;
     InputWatch& operator=(const InputWatch&) = delete;
 
+    /// Keys go nowhere any more once a press closed the window that had the focus.
+    bool AwaitKeys(int nUps) {
+        const bool bCame = PumpUntil([&] {
+            const bool bPressed = s_counts[WM_KEYDOWN] + s_counts[WM_SYSKEYDOWN] > 0;
+            return s_counts[WM_KEYUP] >= nUps || (bPressed && ::GetFocus() == nullptr);
+        });
+        PumpPending();
+        return bCame;
+    }
     bool Await(UINT nMessage, int nCount) {
         const bool bCame = PumpUntil([&] { return s_counts[nMessage] >= nCount; });
         PumpPending();
@@ -122,7 +131,7 @@ bool TypeKey(WORD vk, bool bShift, bool bControl, bool bAlt) {
     InputWatch watch;
     // With the menu key down the key itself is a system key; its release comes as a plain one.
     const int nPlainUps = static_cast<int>(held.size()) + (bAlt ? 0 : 1);
-    return Send(inputs) && watch.Await(WM_KEYUP, nPlainUps);
+    return Send(inputs) && watch.AwaitKeys(nPlainUps);
 }
 
 bool TypeText(LPCTSTR lpszText) {

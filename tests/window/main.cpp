@@ -3,12 +3,36 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
+
 static TestApp theApp;
 
+/// On a virtual screen nobody manages windows, and the X11 driver would wait two seconds for that
+/// at each window it shows. Told so once, it remembers for programs of this name.
+static void ExpectNoWindowManager() {
+    HKEY hKey = nullptr;
+    if (::RegCreateKeyEx(HKEY_CURRENT_USER,
+                         "Software\\Wine\\AppDefaults\\window_tests.exe\\X11 Driver", 0, nullptr,
+                         REG_OPTION_NON_VOLATILE, KEY_WRITE, nullptr, &hKey,
+                         nullptr) == ERROR_SUCCESS) {
+        ::RegSetValueEx(hKey, "Managed", 0, REG_SZ, reinterpret_cast<const BYTE*>("N"), 2);
+        ::RegCloseKey(hKey);
+    }
+}
+
+/// A crash ends the program at once, instead of waiting in a debugger that nobody answers.
+static LONG WINAPI EndOnCrash(EXCEPTION_POINTERS* pPointers) {
+    fprintf(stderr, "crash %08lx at %p\n", pPointers->ExceptionRecord->ExceptionCode,
+            pPointers->ExceptionRecord->ExceptionAddress);
+    ::TerminateProcess(::GetCurrentProcess(), 3);
+    return EXCEPTION_EXECUTE_HANDLER;
+}
+
 int main(int argc, char** argv) {
+    ExpectNoWindowManager();
     testing::InitGoogleTest(&argc, argv);
-    // A crash ends the program with its code instead of a dialog that nobody answers.
     ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX);
+    ::SetUnhandledExceptionFilter(EndOnCrash);
     if (!AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), SW_SHOWNORMAL)) {
         return 1;
     }

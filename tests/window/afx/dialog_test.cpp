@@ -1,0 +1,341 @@
+// Dialogs: modal loops, results, focus, PreTranslateMessage on the way of every message, resources
+// of another module.
+#include "support/pump.h"
+#include "support/real_input.h"
+#include "support/recording_parent.h"
+#include "support/test_app.h"
+#include "window/afx/afx_test_ids.h"
+#include "window/second_module/second_module.h"
+#include "window/second_module/second_module_ids.h"
+
+#include "afxdlgs.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr UINT kAct = WM_APP + 10;
+constexpr LONG kIdleRounds = 2;
+
+/// Runs m_action once its loop runs; counts what comes by.
+class ModalDialog : public CDialog {
+public:
+    explicit ModalDialog(CWnd* pParent = nullptr, UINT nID = IDD_MODAL) : CDialog(nID, pParent) {}
+
+    std::function<void(ModalDialog&)> m_action;
+    std::function<void(ModalDialog&)> m_init;
+    int m_nPreTranslated = 0;
+    BOOL m_bSwallowKeys = FALSE;
+    LONG m_lLongestIdle = -1;  ///< highest count of idle calls in a row
+
+    BOOL OnInitDialog() override {
+        CDialog::OnInitDialog();
+        if (m_init) {
+            m_init(*this);
+        }
+        PostMessage(kAct);
+        return TRUE;
+    }
+    BOOL PreTranslateMessage(MSG* pMsg) override {
+        if (pMsg->message == kAct) {
+            ++m_nPreTranslated;
+        }
+        if (m_bSwallowKeys && pMsg->message == WM_KEYDOWN) {
+            return TRUE;
+        }
+        return CDialog::PreTranslateMessage(pMsg);
+    }
+    using CDialog::OnCancel;
+    using CDialog::OnOK;
+
+protected:
+    afx_msg LRESULT OnAct(WPARAM, LPARAM) {
+        if (m_action) {
+            m_action(*this);
+        }
+        return 0;
+    }
+    afx_msg LRESULT OnKickIdle(WPARAM, LPARAM lCount) {
+        m_lLongestIdle = std::max(m_lLongestIdle, static_cast<LONG>(lCount));
+        return lCount < kIdleRounds;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+constexpr UINT kKickIdle = 0x036A;
+
+BEGIN_MESSAGE_MAP(ModalDialog, CDialog)
+    ON_MESSAGE(kAct, &ModalDialog::OnAct)
+    ON_MESSAGE(kKickIdle, &ModalDialog::OnKickIdle)
+END_MESSAGE_MAP()
+
+TEST(ModalDialogs, GiveTheResultOfTheirEnd_AndDisableTheirOwnerMeanwhile) {
+    RecordingParent parent;
+    ModalDialog dlg(&parent);
+    bool bParentDisabled = false;
+    dlg.m_action = [&](ModalDialog& d) {
+        bParentDisabled = !parent.IsWindowEnabled();
+        EXPECT_EQ(::GetWindow(d.m_hWnd, GW_OWNER), parent.m_hWnd);
+        d.EndDialog(77);
+    };
+    EXPECT_EQ(dlg.DoModal(), 77);
+    EXPECT_TRUE(bParentDisabled);
+    EXPECT_TRUE(parent.IsWindowEnabled());
+    EXPECT_EQ(dlg.m_hWnd, nullptr);
+    EXPECT_EQ(dlg.m_nPreTranslated, 1);
+
+    dlg.m_action = [](ModalDialog& d) { d.OnCancel(); };
+    EXPECT_EQ(dlg.DoModal(), IDCANCEL) << "the same object runs again";
+    dlg.m_action = [](ModalDialog& d) { d.SendMessage(WM_COMMAND, IDOK); };
+    EXPECT_EQ(dlg.DoModal(), IDOK);
+    dlg.m_action = [](ModalDialog& d) { d.SendMessage(WM_CLOSE); };
+    EXPECT_EQ(dlg.DoModal(), IDCANCEL);
+}
+
+void CALLBACK ActLater(HWND hWnd, UINT, UINT_PTR nID, DWORD) {
+    ::KillTimer(hWnd, nID);
+    ::PostMessage(hWnd, kAct, 0, 0);
+}
+
+TEST(ModalDialogs, ShowThemselvesWhenTheQueueIsEmpty_ThenIdle) {
+    ModalDialog dlg;
+    int nActions = 0;
+    bool bShownAtFirst = true;
+    bool bShownLater = false;
+    dlg.m_action = [&](ModalDialog& d) {
+        if (nActions++ == 0) {
+            bShownAtFirst = d.IsWindowVisible() != FALSE;
+        }
+        // On a busy machine the timer may come before the idle calls are through.
+        constexpr int kTries = 100;
+        if (d.m_lLongestIdle < kIdleRounds && nActions < kTries) {
+            constexpr UINT kSoon = 10;  // milliseconds
+            d.SetTimer(1, kSoon, ActLater);
+            return;
+        }
+        bShownLater = d.IsWindowVisible() != FALSE;
+        d.EndDialog(1);
+    };
+    EXPECT_EQ(dlg.DoModal(), 1);
+    EXPECT_FALSE(bShownAtFirst) << "the first message was there before the first idle time";
+    EXPECT_TRUE(bShownLater);
+    EXPECT_EQ(dlg.m_lLongestIdle, kIdleRounds) << "called again while it gives TRUE, then no more";
+}
+
+TEST(ModalDialogs, NestAndComeBackInOrder) {
+    RecordingParent parent;
+    std::vector<int> order;
+    ModalDialog outer(&parent);
+    outer.m_action = [&](ModalDialog& d) {
+        ModalDialog inner(&d);
+        inner.m_action = [&](ModalDialog& i) {
+            EXPECT_FALSE(d.IsWindowEnabled());
+            order.push_back(1);
+            i.EndDialog(11);
+        };
+        EXPECT_EQ(inner.DoModal(), 11);
+        EXPECT_TRUE(d.IsWindowEnabled());
+        EXPECT_FALSE(parent.IsWindowEnabled());
+        order.push_back(2);
+        d.EndDialog(22);
+    };
+    EXPECT_EQ(outer.DoModal(), 22);
+    EXPECT_EQ(order, (std::vector<int>{1, 2}));
+}
+
+TEST(ModalDialogs, EndedWhileBeingMade_NeverRun) {
+    ModalDialog dlg;
+    int nActions = 0;
+    dlg.m_init = [](ModalDialog& d) { d.EndDialog(5); };
+    dlg.m_action = [&](ModalDialog&) { ++nActions; };
+    EXPECT_EQ(dlg.DoModal(), 5);
+    EXPECT_EQ(nActions, 0);
+}
+
+TEST(ModalDialogs, WithoutTemplate_GiveMinusOne) {
+    ModalDialog dlg(nullptr, 9999);
+    EXPECT_EQ(dlg.DoModal(), -1);
+}
+
+TEST(ModalDialogs, AnExceptionInTheirInitialization_EndsThem) {
+    TheTestApp().Forget();
+    ModalDialog dlg;
+    dlg.m_init = [](ModalDialog&) { AfxThrowNotSupportedException(); };
+    EXPECT_EQ(dlg.DoModal(), -1);
+    EXPECT_EQ(TheTestApp().m_exceptions.size(), 1u);
+}
+
+TEST(ModalDialogs, DestroyedInsteadOfEnded_LeaveTheirLoop) {
+    ModalDialog dlg;
+    dlg.m_action = [](ModalDialog& d) { d.DestroyWindow(); };
+    EXPECT_EQ(dlg.DoModal(), -1);
+}
+
+TEST(ModalDialogs, KeysWalkTheItems_UnlessPreTranslateMessageTakesThem) {
+    ModalDialog dlg;
+    HWND hFirst = nullptr;
+    HWND hSecond = nullptr;
+    HWND hThird = nullptr;
+    dlg.m_action = [&](ModalDialog& d) {
+        BringToFront(d.m_hWnd);
+        hFirst = ::GetFocus();
+        TypeKey(VK_TAB);
+        hSecond = ::GetFocus();
+        d.m_bSwallowKeys = TRUE;
+        TypeKey(VK_TAB);
+        hThird = ::GetFocus();
+        EXPECT_EQ(::GetDlgCtrlID(hFirst), IDC_NAME);
+        EXPECT_EQ(::GetDlgCtrlID(hSecond), IDOK);
+        EXPECT_EQ(hThird, hSecond);
+        d.m_bSwallowKeys = FALSE;
+        TypeKey(VK_ESCAPE);
+    };
+    EXPECT_EQ(dlg.DoModal(), IDCANCEL);
+    EXPECT_NE(hFirst, nullptr);
+}
+
+TEST(ModelessDialogs, LiveBesideTheirParentUntilDestroyed) {
+    RecordingParent parent;
+    ModalDialog dlg;
+    int nActions = 0;
+    dlg.m_action = [&](ModalDialog&) { ++nActions; };
+    ASSERT_TRUE(dlg.Create(IDD_MODAL, &parent));
+    EXPECT_TRUE(parent.IsWindowEnabled());
+    PumpPending();
+    EXPECT_EQ(nActions, 1);
+    EXPECT_EQ(dlg.GetDefID() & 0xFFFF, static_cast<DWORD>(IDOK));
+    dlg.GotoDlgCtrl(dlg.GetDlgItem(IDCANCEL));
+    EXPECT_TRUE(dlg.DestroyWindow());
+    EXPECT_FALSE(dlg.Create(9999u, &parent));
+}
+
+/// A template in memory: a caption and nothing else.
+TEST(ModalDialogs, RunFromATemplateInMemory) {
+    struct {
+        DLGTEMPLATE dlg = {};
+        WORD empty[4] = {};  // no menu, the usual class, no title
+    } memory;
+    memory.dlg.style = WS_POPUP | WS_CAPTION;
+    memory.dlg.cx = memory.dlg.cy = 50;
+    class MemoryDialog : public CDialog {
+    public:
+        BOOL OnInitDialog() override {
+            PostMessage(WM_COMMAND, IDOK);
+            return CDialog::OnInitDialog();
+        }
+    } dlg;
+    ASSERT_TRUE(dlg.InitModalIndirect(&memory.dlg));
+    EXPECT_EQ(dlg.DoModal(), IDOK);
+}
+
+TEST(ResourcesOfOtherModules, AreFoundWithoutNamingTheModule) {
+    CString str;
+    ASSERT_TRUE(str.LoadString(IDS_SECOND));
+    EXPECT_STREQ(str, "text of the second module");
+    HINSTANCE hInst = AfxFindResourceHandle(MAKEINTRESOURCE(IDD_SECOND), RT_DIALOG);
+    EXPECT_EQ(hInst, ::GetModuleHandle("second_module.dll"));
+
+    ModalDialog dlg(nullptr, IDD_SECOND);
+    bool bEdit = false;
+    dlg.m_action = [&](ModalDialog& d) {
+        bEdit = d.GetDlgItem(IDC_SECOND_EDIT) != nullptr;
+        d.OnOK();
+    };
+    EXPECT_EQ(dlg.DoModal(), IDOK);
+    EXPECT_TRUE(bEdit);
+}
+
+/// Notes its name when a message passes on its way to be dispatched.
+class WatchingWnd : public CWnd {
+public:
+    WatchingWnd(std::string name, std::vector<std::string>& log) : m_name(name), m_log(log) {}
+    bool m_bTake = false;
+
+    BOOL PreTranslateMessage(MSG* pMsg) override {
+        if (pMsg->message == WM_APP) {
+            m_log.push_back(m_name);
+            return m_bTake;
+        }
+        return FALSE;
+    }
+
+private:
+    std::string m_name;
+    std::vector<std::string>& m_log;
+};
+
+TEST(PreTranslate, WalksFromTheTargetUpToTheStop) {
+    std::vector<std::string> log;
+    WatchingWnd top("top", log);
+    WatchingWnd middle("middle", log);
+    WatchingWnd leaf("leaf", log);
+    ASSERT_TRUE(top.CreateEx(0, nullptr, "", WS_POPUP, 0, 0, 50, 50, nullptr, nullptr));
+    ASSERT_TRUE(middle.Create(nullptr, "", 0, CRect(0, 0, 9, 9), &top, 1));
+    HWND hPlain = ::CreateWindowEx(0, "STATIC", "", WS_CHILD, 0, 0, 1, 1, middle.m_hWnd, nullptr,
+                                   nullptr, nullptr);
+    ASSERT_TRUE(leaf.CreateEx(0, nullptr, "", WS_CHILD, 0, 0, 1, 1, hPlain, nullptr));
+
+    MSG msg = {};
+    msg.hwnd = leaf.m_hWnd;
+    msg.message = WM_APP;
+    EXPECT_FALSE(CWnd::WalkPreTranslateTree(top.m_hWnd, &msg));
+    EXPECT_EQ(log, (std::vector<std::string>{"leaf", "middle", "top"}));
+    log.clear();
+    EXPECT_FALSE(CWnd::WalkPreTranslateTree(middle.m_hWnd, &msg));
+    EXPECT_EQ(log, (std::vector<std::string>{"leaf", "middle"}));
+    log.clear();
+    middle.m_bTake = true;
+    EXPECT_TRUE(CWnd::WalkPreTranslateTree(nullptr, &msg));
+    EXPECT_EQ(log, (std::vector<std::string>{"leaf", "middle"}));
+
+    // In the pump a message that was taken is not dispatched.
+    log.clear();
+    leaf.PostMessage(WM_APP);
+    PumpPending();
+    EXPECT_EQ(log, (std::vector<std::string>{"leaf", "middle"}));
+}
+
+TEST(RealInput, KeysAndClicksReachTheControls) {
+    RecordingParent parent;
+    CEdit edit;
+    CButton button;
+    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE, CRect(10, 10, 200, 40), &parent, 1));
+    ASSERT_TRUE(button.Create("Press", WS_CHILD | WS_VISIBLE, CRect(10, 60, 100, 90), &parent, 2));
+    ASSERT_TRUE(BringToFront(parent.m_hWnd));
+    edit.SetFocus();
+    ASSERT_TRUE(TypeText("Ab 1"));
+    CString strText;
+    edit.GetWindowText(strText);
+    EXPECT_STREQ(strText, "Ab 1");
+    ASSERT_TRUE(ClickAt(button.m_hWnd, CPoint(20, 10)));
+    ASSERT_TRUE(ClickAt(button.m_hWnd, CPoint(20, 10)));
+    EXPECT_EQ(parent.CountCommands(BN_CLICKED), 2);
+    EXPECT_EQ(CWnd::GetFocus(), &button);
+}
+
+TEST(FileDialogs, TakePathsAndFiltersApart) {
+    CFileDialog dlg(TRUE, "txt", "C:\\folder\\name.tar.gz", OFN_ALLOWMULTISELECT,
+                    "Texts (*.txt)|*.txt|All|*.*||");
+    EXPECT_STREQ(dlg.m_ofn.lpstrFilter, "Texts (*.txt)");
+    EXPECT_EQ(memcmp(dlg.m_ofn.lpstrFilter, "Texts (*.txt)\0*.txt\0All\0*.*\0", 28), 0);
+    EXPECT_STREQ(dlg.GetFileName(), "name.tar.gz");
+    EXPECT_STREQ(dlg.GetFileTitle(), "name.tar");
+    EXPECT_STREQ(dlg.GetFileExt(), "gz");
+    POSITION pos = dlg.GetStartPosition();
+    EXPECT_STREQ(dlg.GetNextPathName(pos), "C:\\folder\\name.tar.gz");
+    EXPECT_EQ(pos, nullptr);
+
+    // As the system gives several files.
+    memcpy(dlg.m_ofn.lpstrFile, "C:\\folder\0a.txt\0b.txt\0", 23);
+    pos = dlg.GetStartPosition();
+    EXPECT_STREQ(dlg.GetNextPathName(pos), "C:\\folder\\a.txt");
+    EXPECT_STREQ(dlg.GetNextPathName(pos), "C:\\folder\\b.txt");
+    EXPECT_EQ(pos, nullptr);
+}
+
+}  // namespace

@@ -1,0 +1,214 @@
+// Frames: routing of commands, menus brought up to date, accelerators, bars, closing.
+#include "support/pump.h"
+#include "support/test_app.h"
+#include "window/afx/afx_test_ids.h"
+
+#include "afxcmn.h"
+#include "afxext.h"
+#include "afxpriv.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+std::vector<std::string> s_log;
+
+class ClientWnd : public CWnd {
+public:
+    bool m_bPass = false;
+
+protected:
+    afx_msg BOOL OnClientCommand(UINT) {
+        s_log.push_back("client");
+        return !m_bPass;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(ClientWnd, CWnd)
+    ON_COMMAND_EX(ID_ON_CLIENT, &ClientWnd::OnClientCommand)
+END_MESSAGE_MAP()
+
+class TestFrame : public CFrameWnd {
+public:
+    ClientWnd m_client;
+    CStatusBar m_bar;
+    CString m_strPane = "42 rows";
+
+protected:
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct) {
+        static const UINT indicators[] = {ID_SEPARATOR, ID_INDICATOR_CAPS, ID_INDICATOR_NUM};
+        if (CFrameWnd::OnCreate(lpCreateStruct) == -1 ||
+            !m_client.Create(nullptr, "", WS_VISIBLE, CRect(0, 0, 0, 0), this,
+                             AFX_IDW_PANE_FIRST) ||
+            !m_bar.Create(this) || !m_bar.SetIndicators(indicators, 3)) {
+            return -1;
+        }
+        return 0;
+    }
+    afx_msg void OnFrameCommand() { s_log.push_back("frame"); }
+    afx_msg void OnOffCommand() { s_log.push_back("off"); }
+    afx_msg void OnUpdateOff(CCmdUI* pCmdUI) { pCmdUI->Enable(FALSE); }
+    afx_msg void OnUpdateChecked(CCmdUI* pCmdUI) {
+        pCmdUI->Enable();
+        pCmdUI->SetCheck(1);
+    }
+    afx_msg void OnUpdateRenamed(CCmdUI* pCmdUI) {
+        pCmdUI->SetText("New name");
+        pCmdUI->Enable();
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(TestFrame, CFrameWnd)
+    ON_WM_CREATE()
+    ON_COMMAND(ID_ON_CLIENT, &TestFrame::OnFrameCommand)
+    ON_COMMAND(ID_ON_FRAME, &TestFrame::OnFrameCommand)
+    ON_COMMAND(ID_SWITCHED_OFF, &TestFrame::OnOffCommand)
+    ON_UPDATE_COMMAND_UI(ID_SWITCHED_OFF, &TestFrame::OnUpdateOff)
+    ON_UPDATE_COMMAND_UI(ID_CHECKED, &TestFrame::OnUpdateChecked)
+    ON_UPDATE_COMMAND_UI(ID_RENAMED, &TestFrame::OnUpdateRenamed)
+END_MESSAGE_MAP()
+
+class Frames : public testing::Test {
+protected:
+    void SetUp() override {
+        s_log.clear();
+        auto* pFrame = new TestFrame;
+        ASSERT_TRUE(pFrame->LoadFrame(IDR_FRAME));  // a frame that fails deletes itself
+        m_pFrame = pFrame;
+        m_pFrame->ShowWindow(SW_SHOW);
+    }
+    void TearDown() override {
+        if (m_pFrame != nullptr) {
+            m_pFrame->DestroyWindow();  // deletes the object
+        }
+    }
+    HMENU Popup() { return ::GetSubMenu(::GetMenu(m_pFrame->m_hWnd), 0); }
+    void UpdateMenu() {
+        m_pFrame->SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(Popup()), 0);
+    }
+    bool IsEnabled(UINT nID) {
+        return !(::GetMenuState(Popup(), nID, MF_BYCOMMAND) & (MF_GRAYED | MF_DISABLED));
+    }
+    TestFrame* m_pFrame = nullptr;
+};
+
+TEST_F(Frames, TakeMenuTitleAndLayoutFromTheirResources) {
+    CString strTitle;
+    m_pFrame->GetWindowText(strTitle);
+    EXPECT_STREQ(strTitle, "Frame of the tests");
+    EXPECT_EQ(::GetMenuItemCount(::GetMenu(m_pFrame->m_hWnd)), 1);
+
+    CRect rcClient;
+    CRect rcBar;
+    CRect rcPane;
+    m_pFrame->SetWindowPos(nullptr, 0, 0, 400, 300, SWP_NOZORDER | SWP_NOMOVE);
+    m_pFrame->GetClientRect(rcClient);
+    m_pFrame->m_bar.GetWindowRect(rcBar);
+    m_pFrame->m_client.GetWindowRect(rcPane);
+    m_pFrame->ScreenToClient(rcBar);
+    m_pFrame->ScreenToClient(rcPane);
+    EXPECT_EQ(rcBar.bottom, rcClient.bottom);
+    EXPECT_EQ(rcBar.Width(), rcClient.Width());
+    EXPECT_GT(rcBar.Height(), 10);
+    EXPECT_EQ(rcPane, CRect(0, 0, rcClient.right, rcBar.top));
+
+    m_pFrame->ShowControlBar(&m_pFrame->m_bar, FALSE, FALSE);
+    m_pFrame->m_client.GetWindowRect(rcPane);
+    EXPECT_EQ(rcPane.Height(), rcClient.Height());
+}
+
+TEST_F(Frames, RouteCommandsFromTheClientToTheApplication) {
+    m_pFrame->SendMessage(WM_COMMAND, ID_ON_CLIENT);
+    m_pFrame->m_client.m_bPass = true;
+    m_pFrame->SendMessage(WM_COMMAND, ID_ON_CLIENT);
+    m_pFrame->SendMessage(WM_COMMAND, ID_ON_FRAME);
+    m_pFrame->SendMessage(WM_COMMAND, ID_SWITCHED_OFF);  // its update handler says no
+    m_pFrame->SendMessage(WM_COMMAND, ID_ON_NOBODY);
+    EXPECT_EQ(s_log, (std::vector<std::string>{"client", "client", "frame", "frame"}));
+}
+
+TEST_F(Frames, BringMenusUpToDate_DisablingWhatNobodyHandles) {
+    UpdateMenu();
+    EXPECT_TRUE(IsEnabled(ID_ON_CLIENT));
+    EXPECT_TRUE(IsEnabled(ID_ON_FRAME));
+    EXPECT_FALSE(IsEnabled(ID_ON_NOBODY));
+    EXPECT_FALSE(IsEnabled(ID_SWITCHED_OFF));
+    EXPECT_TRUE(::GetMenuState(Popup(), ID_CHECKED, MF_BYCOMMAND) & MF_CHECKED);
+    char szText[32] = "";
+    ::GetMenuString(Popup(), ID_RENAMED, szText, sizeof szText, MF_BYCOMMAND);
+    EXPECT_STREQ(szText, "New name");
+
+    ::EnableMenuItem(Popup(), ID_ON_NOBODY, MF_BYCOMMAND | MF_ENABLED);
+    m_pFrame->m_bAutoMenuEnable = FALSE;
+    UpdateMenu();
+    EXPECT_TRUE(IsEnabled(ID_ON_NOBODY));
+}
+
+TEST_F(Frames, TranslateTheirAccelerators) {
+    BYTE keys[256] = {};
+    ::GetKeyboardState(keys);
+    keys[VK_CONTROL] |= 0x80;
+    ::SetKeyboardState(keys);
+    MSG msg = {};
+    msg.hwnd = m_pFrame->m_client.m_hWnd;
+    msg.message = WM_KEYDOWN;
+    msg.wParam = 'K';
+    EXPECT_TRUE(CWnd::WalkPreTranslateTree(nullptr, &msg));
+    msg.wParam = 'L';
+    EXPECT_TRUE(CWnd::WalkPreTranslateTree(nullptr, &msg));
+    msg.wParam = 'J';
+    EXPECT_FALSE(CWnd::WalkPreTranslateTree(nullptr, &msg));
+    keys[VK_CONTROL] = 0;
+    ::SetKeyboardState(keys);
+    EXPECT_EQ(s_log, std::vector<std::string>{"frame"}) << "the command that is off stays off";
+}
+
+TEST_F(Frames, StatusBar_ShowsMessagesAndLockKeys) {
+    CStatusBar& bar = m_pFrame->m_bar;
+    PumpPending();
+    EXPECT_STREQ(bar.GetPaneText(0), "Ready");
+    m_pFrame->SetMessageText("working");
+    EXPECT_STREQ(bar.GetPaneText(0), "working");
+    EXPECT_STREQ(bar.GetStatusBarCtrl().GetText(0), "working");
+    EXPECT_STREQ(bar.GetPaneText(1), "CAP");
+    EXPECT_EQ(bar.CommandToIndex(ID_INDICATOR_NUM), 2);
+    EXPECT_EQ(bar.GetItemID(9), 0u);
+
+    for (BYTE nToggled : {1, 0}) {
+        BYTE keys[256] = {};
+        keys[VK_CAPITAL] = nToggled;
+        ::SetKeyboardState(keys);
+        bar.SendMessage(WM_IDLEUPDATECMDUI, TRUE);
+        EXPECT_STREQ(bar.GetStatusBarCtrl().GetText(1), nToggled ? "CAP" : "");
+    }
+
+    bar.SetPaneInfo(1, 0, SBPS_NORMAL, 80);
+    EXPECT_TRUE(bar.SetPaneText(1, m_pFrame->m_strPane));
+    EXPECT_STREQ(bar.GetStatusBarCtrl().GetText(1), "42 rows");
+    CRect rc;
+    bar.GetItemRect(1, rc);
+    EXPECT_GE(rc.Width(), 80);
+    EXPECT_FALSE(bar.SetPaneText(3, "no such pane"));
+}
+
+TEST_F(Frames, ClosingTheMainFrame_EndsTheMessageLoop) {
+    TestApp& app = TheTestApp();
+    app.m_pMainWnd = m_pFrame;
+    m_pFrame->PostMessage(WM_COMMAND, ID_APP_EXIT);
+    m_pFrame = nullptr;
+    EXPECT_EQ(app.Run(), 0);
+    EXPECT_EQ(app.m_pMainWnd, nullptr);
+}
+
+TEST(FrameCreation, WithAMenuThatIsNowhere_Fails) {
+    auto* pFrame = new CFrameWnd;
+    EXPECT_FALSE(pFrame->Create(nullptr, "", WS_OVERLAPPEDWINDOW, CFrameWnd::rectDefault, nullptr,
+                                MAKEINTRESOURCE(9999)));  // and deletes the object
+}
+
+}  // namespace
