@@ -1,0 +1,193 @@
+// The tree's core without a window, and beside Qt's tree widget where that was asked for.
+
+#include <malloc.h>
+
+#include <memory>
+#include <random>
+#include <string>
+
+#include "bench.h"
+#include "support/test_tree.h"
+#ifdef QV_PEERS
+#include "qt_peer.h"
+#endif
+
+namespace {
+
+constexpr char kText[] = "twenty bytes of text";
+constexpr int kMillion = 1000000;
+constexpr int kRoots = 100;
+constexpr int kMiddle = 10;
+constexpr int kLeaves = 109;  // 100 + 1,000 + 109,000 items
+
+double Append(int nItems) {
+    TestTree tree;
+    tree.m_bRedraw = false;
+    return bench::Time([&] {
+        for (int i = 0; i < nItems; ++i) {
+            tree.InsertItem(kText, 0, 0, nullptr, TVI_LAST);
+        }
+    });
+}
+
+void Fill(TestTree& tree, int nItems) {
+    tree.SetRedraw(false);
+    for (int i = 0; i < nItems; ++i) {
+        tree.InsertItem(kText, 0, 0, nullptr, TVI_LAST);
+    }
+    tree.SetRedraw(true);
+}
+
+double ExpandAll() {
+    TestTree tree;
+    tree.window.size = {400, 600};
+    tree.SetRedraw(false);
+    for (int i = 0; i < kRoots; ++i) {
+        HTREEITEM hRoot = tree.Add("root");
+        for (int k = 0; k < kMiddle; ++k) {
+            HTREEITEM hMiddle = tree.Add("middle", hRoot);
+            for (int m = 0; m < kLeaves; ++m) {
+                tree.Add("leaf", hMiddle);
+            }
+        }
+    }
+    tree.SetRedraw(true);
+    return bench::Time([&] {
+        tree.SetRedraw(false);
+        for (HTREEITEM h = tree.m_hRootItem; h != nullptr; h = tree.WalkNext(h)) {
+            tree.Expand(h, TVE_EXPAND, false, false);
+        }
+        tree.SetRedraw(true);
+    });
+}
+
+std::vector<std::string> RandomTexts(int nTexts) {
+    std::mt19937 random(11);
+    std::vector<std::string> texts;
+    for (int i = 0; i < nTexts; ++i) {
+        std::string strText;
+        for (int k = 0; k < 12; ++k) {
+            strText += static_cast<char>('a' + random() % 26);
+        }
+        texts.push_back(strText);
+    }
+    return texts;
+}
+
+double Sort(const std::vector<std::string>& texts) {
+    TestTree tree;
+    tree.m_bRedraw = false;
+    HTREEITEM hParent = tree.Add("parent");
+    for (const std::string& strText : texts) {
+        tree.Add(strText, hParent);
+    }
+    return bench::Time([&] { tree.SortChildren(hParent); });
+}
+
+// Heap bytes an item above its text of 21 bytes, with and without the index that a window needs.
+double BytesAnItem(bool bIndexed) {
+    const size_t nBefore = mallinfo2().uordblks + mallinfo2().hblkhd;
+    TestTree tree;
+    if (bIndexed) {
+        Fill(tree, kMillion);
+    } else {
+        tree.m_bRedraw = false;
+        for (int i = 0; i < kMillion; ++i) {
+            tree.InsertItem(kText, 0, 0, nullptr, TVI_LAST);
+        }
+    }
+    const size_t nAfter = mallinfo2().uordblks + mallinfo2().hblkhd;
+    return static_cast<double>(nAfter - nBefore) / kMillion - sizeof(kText);
+}
+
+void MeasureRows() {
+    constexpr int kSteps = 10000;
+    for (const int nRows : {100, 100000}) {
+        TestTree tree;
+        Fill(tree, nRows);
+        const double nScroll = bench::MedianOf([&] {
+            return bench::Time([&] {
+                for (int i = 0; i < kSteps; ++i) {
+                    tree.VScroll(i % 20 < 10 ? SB_LINEDOWN : SB_LINEUP, 0);
+                }
+            });
+        });
+        bench::Figure(nRows == 100 ? "tree/core-scroll-line-100" : "tree/core-scroll-line-100k",
+                      nScroll / kSteps * 1e9, "ns");
+    }
+    TestTree tree;
+    Fill(tree, 100000);
+    const double nInsert = bench::MedianOf([&] {
+        return bench::Time([&] {
+            for (int i = 0; i < 1000; ++i) {
+                tree.InsertItem(kText, 0, 0, nullptr, TVI_LAST);
+            }
+        });
+    });
+    bench::Figure("tree/core-insert-redraw-on-100k", nInsert / 1000 * 1e9, "ns");
+    HTREEITEM hLast = tree.m_hRootItem;
+    while (hLast->pNextSibling != nullptr) {
+        hLast = hLast->pNextSibling;
+    }
+    const double nEnsure = bench::MedianOf([&] {
+        return bench::Time([&] {
+            tree.EnsureVisible(hLast);
+            tree.EnsureVisible(tree.m_hRootItem);
+        });
+    });
+    bench::Figure("tree/core-ensure-far", nEnsure / 2 * 1e6, "us");
+    const double nDelete = bench::MedianOf([&] {
+        TestTree full;
+        Fill(full, 100000);
+        return bench::Time([&] {
+            while (full.m_hRootItem != nullptr) {
+                full.DeleteItem(full.m_hRootItem);
+            }
+        });
+    });
+    bench::Figure("tree/core-delete-each-100k", nDelete * 1e3, "ms");
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    std::printf("core, natively\n");
+    bench::Figure("tree/core-bytes-an-item", BytesAnItem(false), "bytes");
+    bench::Figure("tree/core-bytes-an-item-indexed", BytesAnItem(true), "bytes");
+    bench::Figure("tree/core-append-run-1k", bench::MedianOf([] { return Append(1000); }) * 1e6,
+                  "ns");
+    const std::vector<std::string> texts = RandomTexts(100000);
+#ifdef QV_PEERS
+    qt_peer::Start(argc, argv);
+    const auto append = bench::MedianPair([] { return Append(kMillion); },
+                                          [] { return qt_peer::Append(kMillion, kText); });
+    const auto expand =
+        bench::MedianPair(ExpandAll, [] { return qt_peer::ExpandAll(kRoots, kMiddle, kLeaves); });
+    const auto sort =
+        bench::MedianPair([&] { return Sort(texts); }, [&] { return qt_peer::Sort(texts); });
+#else
+    static_cast<void>(argc);
+    static_cast<void>(argv);
+    const bench::Pair append{bench::MedianOf([] { return Append(kMillion); }), 0};
+    const bench::Pair expand{bench::MedianOf(ExpandAll), 0};
+    const bench::Pair sort{bench::MedianOf([&] { return Sort(texts); }), 0};
+#endif
+    struct Line {
+        const char* pszName;
+        bench::Pair pair;
+        double factor;
+        const char* pszUnit;
+    };
+    for (const Line& line : {Line{"tree/core-append-1m", append, 1e3, "ns"},
+                             Line{"tree/core-expand-all-110k", expand, 1e3, "ms"},
+                             Line{"tree/core-sort-100k", sort, 1e3, "ms"}}) {
+        bench::Figure(line.pszName, line.pair.ours * line.factor, line.pszUnit);
+        if (line.pair.theirs > 0) {
+            const std::string strTheirs = std::string("qt-") + line.pszName;
+            bench::Figure(strTheirs.c_str(), line.pair.theirs * line.factor, line.pszUnit);
+            bench::Ratio(line.pszName, line.pair.ours, line.pair.theirs);
+        }
+    }
+    MeasureRows();
+    return 0;
+}

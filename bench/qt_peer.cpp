@@ -1,0 +1,64 @@
+#include "qt_peer.h"
+
+#include <QApplication>
+#include <QTreeWidget>
+
+#include "bench.h"
+
+namespace qt_peer {
+
+void Start(int& argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    static QApplication application(argc, argv);
+}
+
+double Append(int nItems, const char* pszText) {
+    QTreeWidget tree;
+    tree.setUpdatesEnabled(false);
+    const QString text = QString::fromLatin1(pszText);
+    return bench::Time([&] {
+        for (int i = 0; i < nItems; ++i) {
+            auto* pItem = new QTreeWidgetItem;
+            pItem->setText(0, text);
+            tree.addTopLevelItem(pItem);
+        }
+    });
+}
+
+double ExpandAll(int nRoots, int nMiddle, int nLeaves) {
+    QTreeWidget tree;
+    tree.setUniformRowHeights(true);
+    tree.resize(400, 600);
+    QList<QTreeWidgetItem*> roots;
+    for (int i = 0; i < nRoots; ++i) {
+        auto* pRoot = new QTreeWidgetItem(QStringList("root"));
+        for (int k = 0; k < nMiddle; ++k) {
+            auto* pMiddle = new QTreeWidgetItem(pRoot, QStringList("middle"));
+            for (int m = 0; m < nLeaves; ++m) {
+                new QTreeWidgetItem(pMiddle, QStringList("leaf"));
+            }
+        }
+        roots.append(pRoot);
+    }
+    tree.addTopLevelItems(roots);
+    tree.show();
+    QApplication::processEvents();
+    return bench::Time([&] {
+        tree.expandAll();
+        tree.scrollToBottom();  // wants the layout
+        QApplication::processEvents();
+    });
+}
+
+double Sort(const std::vector<std::string>& texts) {
+    QTreeWidget tree;
+    auto* pParent = new QTreeWidgetItem(&tree);
+    QList<QTreeWidgetItem*> items;
+    for (const std::string& strText : texts) {
+        items.append(new QTreeWidgetItem(QStringList(QString::fromStdString(strText))));
+    }
+    pParent->addChildren(items);
+    return bench::Time([&] { pParent->sortChildren(0, Qt::AscendingOrder); });
+}
+
+}  // namespace qt_peer
