@@ -9,7 +9,7 @@ namespace qt_peer {
 
 void Start(int& argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    static QApplication application(argc, argv);
+    new QApplication(argc, argv);  // for the life of the process
 }
 
 double Append(int nItems, const char* pszText) {

@@ -5,9 +5,9 @@
 namespace {
 
 // Version, size (right-aligned), state (centred) and summary, from the start of the text or of the
-// row.
-constexpr int kIndentedStops[] = {190, 20310, 10380, 470};
-constexpr int kAbsoluteStops[] = {290, 20410, 10480, 570};
+// row. A stop behind the last column lets the summary take the room it needs.
+constexpr int kIndentedStops[] = {190, 20310, 10380, 470, 3000};
+constexpr int kAbsoluteStops[] = {290, 20410, 10480, 570, 3000};
 
 // Item data of the child that keeps a package's place until its rows are made.
 constexpr DWORD_PTR kPlaceholder = 1;

@@ -7,53 +7,53 @@ IMPLEMENT_DYNCREATE(QVCustCtrl, CWnd)
 BEGIN_MESSAGE_MAP(QVCustCtrl, CWnd)
     ON_WM_CREATE()
     ON_WM_PAINT()
-    END_MESSAGE_MAP()
+END_MESSAGE_MAP()
 
-    QVCustCtrl::QVCustCtrl() : m_dwDefStyle(WS_CHILD | WS_VISIBLE | WS_TABSTOP) {}
+QVCustCtrl::QVCustCtrl() : m_dwDefStyle(WS_CHILD | WS_VISIBLE | WS_TABSTOP) {}
 
-    QVCustCtrl::~QVCustCtrl() = default;
+QVCustCtrl::~QVCustCtrl() = default;
 
-    void QVCustCtrl::ModifyDefStyle(DWORD dwRemove, DWORD dwAdd) {
-        m_dwDefStyle = (m_dwDefStyle & ~dwRemove) | dwAdd;
+void QVCustCtrl::ModifyDefStyle(DWORD dwRemove, DWORD dwAdd) {
+    m_dwDefStyle = (m_dwDefStyle & ~dwRemove) | dwAdd;
+}
+
+int QVCustCtrl::Create(UINT nID, const CRect& rect, CWnd* pParent) {
+    return CWnd::Create(nullptr, "", m_dwDefStyle, rect, pParent, nID, nullptr);
+}
+
+int QVCustCtrl::Initialize(UINT nID, CWnd* pParent) {
+    if (m_hWnd != nullptr) {
+        return 1;
     }
+    return pParent != nullptr && SubclassDlgItem(nID, pParent) ? 1 : 0;
+}
 
-    int QVCustCtrl::Create(UINT nID, const CRect& rect, CWnd* pParent) {
-        return CWnd::Create(nullptr, "", m_dwDefStyle, rect, pParent, nID, nullptr);
-    }
+void QVCustCtrl::Draw(CDC& dc, const CRect& rect) {
+    CBrush brush(::GetSysColor(COLOR_BTNFACE));
+    dc.FillRect(&rect, &brush);
+}
 
-    int QVCustCtrl::Initialize(UINT nID, CWnd * pParent) {
-        if (m_hWnd != nullptr) {
-            return 1;
-        }
-        return pParent != nullptr && SubclassDlgItem(nID, pParent) ? 1 : 0;
+int QVCustCtrl::OnCreate(LPCREATESTRUCT lpCreateStruct) {
+    if (const auto nResult = static_cast<int>(Default())) {
+        return nResult;
     }
+    const auto nID = static_cast<UINT>(reinterpret_cast<UINT_PTR>(lpCreateStruct->hMenu));
+    return Initialize(nID, CWnd::FromHandle(lpCreateStruct->hwndParent)) ? 0 : -1;
+}
 
-    void QVCustCtrl::Draw(CDC & dc, const CRect& rect) {
-        CBrush brush(::GetSysColor(COLOR_BTNFACE));
-        dc.FillRect(&rect, &brush);
+// The bitmap is made anew for each paint, so a new size needs no handling. The whole client
+// area is drawn, whatever part is invalid.
+void QVCustCtrl::OnPaint() {
+    CPaintDC dc(this);
+    CRect rect;
+    GetClientRect(&rect);
+    CDC dcMemory;
+    CBitmap bitmap;
+    if (!dcMemory.CreateCompatibleDC(&dc) ||
+        !bitmap.CreateCompatibleBitmap(&dc, rect.Width(), rect.Height())) {
+        return;  // nothing to draw on; the next paint tries again
     }
-
-    int QVCustCtrl::OnCreate(LPCREATESTRUCT lpCreateStruct) {
-        if (const auto nResult = static_cast<int>(Default())) {
-            return nResult;
-        }
-        const auto nID = static_cast<UINT>(reinterpret_cast<UINT_PTR>(lpCreateStruct->hMenu));
-        return Initialize(nID, CWnd::FromHandle(lpCreateStruct->hwndParent)) ? 0 : -1;
-    }
-
-    // The bitmap is made anew for each paint, so a new size needs no handling. The whole client
-    // area is drawn, whatever part is invalid.
-    void QVCustCtrl::OnPaint() {
-        CPaintDC dc(this);
-        CRect rect;
-        GetClientRect(&rect);
-        CDC dcMemory;
-        CBitmap bitmap;
-        if (!dcMemory.CreateCompatibleDC(&dc) ||
-            !bitmap.CreateCompatibleBitmap(&dc, rect.Width(), rect.Height())) {
-            return;  // nothing to draw on; the next paint tries again
-        }
-        const qv::SelectGuard<CBitmap> selected(dcMemory, &bitmap);
-        Draw(dcMemory, rect);
-        dc.BitBlt(rect.left, rect.top, rect.Width(), rect.Height(), &dcMemory, 0, 0, SRCCOPY);
-    }
+    const qv::SelectGuard<CBitmap> selected(dcMemory, &bitmap);
+    Draw(dcMemory, rect);
+    dc.BitBlt(rect.left, rect.top, rect.Width(), rect.Height(), &dcMemory, 0, 0, SRCCOPY);
+}

@@ -1,6 +1,7 @@
 #include "frame/wnd_port.h"
 
 #include <string>
+#include <utility>
 
 #include "frame/select_object.h"
 
@@ -57,18 +58,41 @@ int WndPort::HorizontalBarHeight() const {
 }
 
 void WndPort::ShowScrollBar(int nBar, bool bShow) {
-    m_wnd.ShowScrollBar(nBar, bShow);
+    const unsigned nBit = nBar == SB_VERT ? WS_VSCROLL : WS_HSCROLL;
+    if (((Style() & nBit) != 0) != bShow) {
+        m_wnd.ShowScrollBar(nBar, bShow);
+    }
 }
 
+// Drawing a bar costs as much as painting some rows. While a paint is due anyway, the bar waits for
+// it, so that ten thousand insertions in a row do not draw it ten thousand times.
 void WndPort::SetScrollRange(int nBar, const ScrollRange& range) {
     SCROLLINFO info{};
     info.cbSize = sizeof(info);
+    const bool bKnown = m_wnd.GetScrollInfo(nBar, &info, SIF_RANGE | SIF_PAGE | SIF_POS) != FALSE;
+    const ScrollRange current{info.nMin, info.nMax, static_cast<int>(info.nPage), info.nPos};
+    if (bKnown && current == range && !m_bBarDue[nBar]) {
+        return;
+    }
     info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
     info.nMin = range.nMin;
     info.nMax = range.nMax;
     info.nPage = static_cast<UINT>(range.nPage);
     info.nPos = range.nPos;
-    m_wnd.SetScrollInfo(nBar, &info, TRUE);
+    m_bBarDue[nBar] = ::GetUpdateRect(m_wnd.m_hWnd, nullptr, FALSE) != FALSE;
+    m_wnd.SetScrollInfo(nBar, &info, !m_bBarDue[nBar]);
+}
+
+void WndPort::DrawBars() {
+    for (const int nBar : {SB_HORZ, SB_VERT}) {
+        if (std::exchange(m_bBarDue[nBar], false)) {
+            SCROLLINFO info{};
+            info.cbSize = sizeof(info);
+            info.fMask = SIF_POS;
+            info.nPos = m_wnd.GetScrollPos(nBar);
+            m_wnd.SetScrollInfo(nBar, &info, TRUE);
+        }
+    }
 }
 
 bool WndPort::GetScrollPosition(int nBar, bool bTrack, int& nPos) const {

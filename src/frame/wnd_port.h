@@ -37,8 +37,13 @@ public:
     void InvalidateAll() override;
     void Update() override;
 
+    // Draws the scroll bars that have changed since they were drawn last. To be called when the
+    // window paints.
+    void DrawBars();
+
 private:
     CWnd& m_wnd;
+    bool m_bBarDue[2] = {};  // by SB_HORZ, SB_VERT
 };
 
 // Text in a font selected in a device context, measured by the platform.

@@ -34,417 +34,415 @@ BEGIN_MESSAGE_MAP(QVTreeCtrlEx, CWnd)
     ON_REGISTERED_MESSAGE(g_nMsgMouseWheel, OnRegisteredMouseWheel)
     ON_MESSAGE(WM_SETREDRAW, OnSetRedraw)
     ON_WM_DESTROY()
-    END_MESSAGE_MAP()
+END_MESSAGE_MAP()
 
-    // --- The core's way back to the control
+// --- The core's way back to the control
 
-    QVTreeCtrlEx::Core::Core(QVTreeCtrlEx & tree)
-        : QVTreeCtrlCoreParts(tree),
-          qv::TreeView(port, measure, qv::ProcessText(), tree.m_aStyles),
-          m_tree(tree) {}
+QVTreeCtrlEx::Core::Core(QVTreeCtrlEx& tree)
+    : QVTreeCtrlCoreParts(tree),
+      qv::TreeView(port, measure, qv::ProcessText(), tree.m_aStyles),
+      m_tree(tree) {}
 
-    int QVTreeCtrlEx::Core::CompareItems(HTREEITEM hItem1, HTREEITEM hItem2) {
-        return m_tree.CompareItems(hItem1, hItem2);
-    }
+int QVTreeCtrlEx::Core::CompareItems(HTREEITEM hItem1, HTREEITEM hItem2) {
+    return m_tree.CompareItems(hItem1, hItem2);
+}
 
-    bool QVTreeCtrlEx::Core::ReplacesCompareItems() const {
-        return QV_REPLACES_STEP(m_tree, QVTreeCtrlEx, CompareItems);
-    }
+bool QVTreeCtrlEx::Core::ReplacesCompareItems() const {
+    return QV_REPLACES_STEP(m_tree, QVTreeCtrlEx, CompareItems);
+}
 
-    bool QVTreeCtrlEx::Core::ReplacesCalcItemRect() const {
-        return QV_REPLACES_STEP(m_tree, QVTreeCtrlEx, CalcItemRect);
-    }
+bool QVTreeCtrlEx::Core::ReplacesCalcItemRect() const {
+    return QV_REPLACES_STEP(m_tree, QVTreeCtrlEx, CalcItemRect);
+}
 
-    void QVTreeCtrlEx::Core::ReadImageSizes() {
-        const auto read = [](CImageList* pImageList, int& cx, int& cy) {
-            if (pImageList != nullptr) {
-                IMAGEINFO info;
-                const bool bKnown = pImageList->GetImageInfo(0, &info);
-                cx = bKnown ? info.rcImage.right - info.rcImage.left : 0;
-                cy = bKnown ? info.rcImage.bottom - info.rcImage.top : 0;
-            }
-        };
-        read(m_tree.m_pImageList, m_images.cxImage, m_images.cyImage);
-        read(m_tree.m_pStateImageList, m_images.cxStateImage, m_images.cyStateImage);
-    }
-
-    int QVTreeCtrlEx::Core::FontHeight() {
-        m_tree.FindFont();
-        return m_tree.m_hFont != nullptr ? measure.Extent(" ").cy : 0;
-    }
-
-    void QVTreeCtrlEx::Core::RowRect(int nTop, HTREEITEM hItem, qv::Rect& rect, bool bTextOnly) {
-        if (!ReplacesCalcItemRect()) {
-            TreeView::CalcItemRect(nullptr, nTop, hItem, rect, bTextOnly);
-            return;
+void QVTreeCtrlEx::Core::ReadImageSizes() {
+    const auto read = [](CImageList* pImageList, int& cx, int& cy) {
+        if (pImageList != nullptr) {
+            IMAGEINFO info;
+            const bool bKnown = pImageList->GetImageInfo(0, &info);
+            cx = bKnown ? info.rcImage.right - info.rcImage.left : 0;
+            cy = bKnown ? info.rcImage.bottom - info.rcImage.top : 0;
         }
-        CClientDC dc(&m_tree);
-        const qv::SelectGuard<CFont> font(dc, m_tree.m_hFont);
+    };
+    read(m_tree.m_pImageList, m_images.cxImage, m_images.cyImage);
+    read(m_tree.m_pStateImageList, m_images.cxStateImage, m_images.cyStateImage);
+}
+
+int QVTreeCtrlEx::Core::FontHeight() {
+    m_tree.FindFont();
+    return m_tree.m_hFont != nullptr ? measure.Extent(" ").cy : 0;
+}
+
+void QVTreeCtrlEx::Core::RowRect(int nTop, HTREEITEM hItem, qv::Rect& rect, bool bTextOnly) {
+    if (!ReplacesCalcItemRect()) {
+        TreeView::CalcItemRect(nullptr, nTop, hItem, rect, bTextOnly);
+        return;
+    }
+    CClientDC dc(&m_tree);
+    const qv::SelectGuard<CFont> font(dc, m_tree.m_hFont);
+    CRect rc;
+    m_tree.CalcItemRect(dc, nTop, hItem, rc, bTextOnly);
+    rect = qv::ToRect(rc);
+}
+
+int QVTreeCtrlEx::Core::WidestRow() {
+    CClientDC dc(&m_tree);
+    const qv::SelectGuard<CFont> font(dc, m_tree.m_hFont);
+    int nWidest = 0;
+    for (HTREEITEM h = m_hRootItem; h != nullptr; h = TreeItems::NextDisplayableItem(h)) {
         CRect rc;
-        m_tree.CalcItemRect(dc, nTop, hItem, rc, bTextOnly);
-        rect = qv::ToRect(rc);
+        m_tree.CalcItemRect(dc, 0, h, rc, FALSE);
+        nWidest = std::max(nWidest, static_cast<int>(rc.right));
     }
+    return nWidest;
+}
 
-    int QVTreeCtrlEx::Core::WidestRow() {
-        CClientDC dc(&m_tree);
-        const qv::SelectGuard<CFont> font(dc, m_tree.m_hFont);
-        int nWidest = 0;
-        for (HTREEITEM h = m_hRootItem; h != nullptr; h = TreeItems::NextDisplayableItem(h)) {
-            CRect rc;
-            m_tree.CalcItemRect(dc, 0, h, rc, FALSE);
-            nWidest = std::max(nWidest, static_cast<int>(rc.right));
+void QVTreeCtrlEx::Core::NfySelectItem(HTREEITEM hItem) {
+    m_tree.NfySelectItem(hItem);
+}
+
+// --- Creation
+
+QVTreeCtrlEx::QVTreeCtrlEx() : m_pCore(std::make_unique<Core>(*this)) {}
+
+QVTreeCtrlEx::~QVTreeCtrlEx() {
+    DestroyWindow();
+}
+
+BOOL QVTreeCtrlEx::Create(DWORD dwStyle, const RECT& rect, CWnd* pParent, UINT nID) {
+    return CWnd::Create(nullptr, "", dwStyle, rect, pParent, nID, nullptr);
+}
+
+void QVTreeCtrlEx::OnDestroy() {
+    CWnd::OnDestroy();
+    m_hFont = nullptr;
+    m_pCore->UseFont(nullptr);
+    m_pCore->Reset();
+}
+
+// The tree handles no WM_SETFONT: its font is that of its nearest ancestor that has one.
+void QVTreeCtrlEx::FindFont() {
+    for (CWnd* pWnd = this; m_hFont == nullptr && pWnd != nullptr && pWnd->m_hWnd != nullptr;
+         pWnd = pWnd->GetParent()) {
+        if (CFont* pFont = pWnd->GetFont()) {
+            m_hFont = static_cast<HFONT>(pFont->GetSafeHandle());
         }
-        return nWidest;
     }
+    m_pCore->UseFont(m_hFont);
+}
 
-    void QVTreeCtrlEx::Core::NfySelectItem(HTREEITEM hItem) {
-        m_tree.NfySelectItem(hItem);
-    }
+void QVTreeCtrlEx::InvalidateAll() {
+    InvalidateRect(nullptr, FALSE);
+}
 
-    // --- Creation
+void QVTreeCtrlEx::SetAllowTags(BOOL bAllow) {
+    m_pCore->m_bAllowTags = bAllow;
+}
 
-    QVTreeCtrlEx::QVTreeCtrlEx() : m_pCore(std::make_unique<Core>(*this)) {}
+void QVTreeCtrlEx::SetShowStatesAtRoot(BOOL bShow) {
+    m_pCore->m_bShowStatesAtRoot = bShow;
+}
 
-    QVTreeCtrlEx::~QVTreeCtrlEx() {
-        DestroyWindow();
-    }
+void QVTreeCtrlEx::SetAutoTagChildren(BOOL bAuto) {
+    m_pCore->m_bAutoTagChildren = bAuto;
+}
 
-    BOOL QVTreeCtrlEx::Create(DWORD dwStyle, const RECT& rect, CWnd* pParent, UINT nID) {
-        return CWnd::Create(nullptr, "", dwStyle, rect, pParent, nID, nullptr);
-    }
+// --- Items
 
-    void QVTreeCtrlEx::OnDestroy() {
-        CWnd::OnDestroy();
-        m_hFont = nullptr;
-        m_pCore->UseFont(nullptr);
-        m_pCore->Reset();
-    }
+HTREEITEM QVTreeCtrlEx::InsertItem(LPCSTR pszText, int nImage, int nSelectedImage,
+                                   HTREEITEM hParent, HTREEITEM hInsertAfter) {
+    return m_pCore->InsertItem(pszText, nImage, nSelectedImage, hParent, hInsertAfter);
+}
 
-    // The tree handles no WM_SETFONT: its font is that of its nearest ancestor that has one.
-    void QVTreeCtrlEx::FindFont() {
-        for (CWnd* pWnd = this; m_hFont == nullptr && pWnd != nullptr && pWnd->m_hWnd != nullptr;
-             pWnd = pWnd->GetParent()) {
-            if (CFont* pFont = pWnd->GetFont()) {
-                m_hFont = static_cast<HFONT>(pFont->GetSafeHandle());
-            }
-        }
-        m_pCore->UseFont(m_hFont);
-    }
+BOOL QVTreeCtrlEx::DeleteItem(HTREEITEM hItem) {
+    return m_pCore->DeleteItem(hItem);
+}
 
-    void QVTreeCtrlEx::InvalidateAll() {
-        InvalidateRect(nullptr, FALSE);
-    }
+BOOL QVTreeCtrlEx::DeleteChildren(HTREEITEM hItem) {
+    return m_pCore->DeleteChildren(hItem);
+}
 
-    void QVTreeCtrlEx::SetAllowTags(BOOL bAllow) {
-        m_pCore->m_bAllowTags = bAllow;
-    }
+BOOL QVTreeCtrlEx::DeleteAllItems() {
+    m_pCore->DeleteAllItems();
+    return TRUE;
+}
 
-    void QVTreeCtrlEx::SetShowStatesAtRoot(BOOL bShow) {
-        m_pCore->m_bShowStatesAtRoot = bShow;
-    }
+BOOL QVTreeCtrlEx::ChangeParent(HTREEITEM hItem, HTREEITEM hNewParent) {
+    return m_pCore->ChangeParent(hItem, hNewParent);
+}
 
-    void QVTreeCtrlEx::SetAutoTagChildren(BOOL bAuto) {
-        m_pCore->m_bAutoTagChildren = bAuto;
-    }
+BOOL QVTreeCtrlEx::SortChildren(HTREEITEM hParent) {
+    return m_pCore->SortChildren(hParent);
+}
 
-    // --- Items
+HTREEITEM QVTreeCtrlEx::FindItem(HTREEITEM hParent, const CString& strText, int nImage) {
+    return m_pCore->FindItem(hParent, strText, nImage);
+}
 
-    HTREEITEM QVTreeCtrlEx::InsertItem(LPCSTR pszText, int nImage, int nSelectedImage,
-                                       HTREEITEM hParent, HTREEITEM hInsertAfter) {
-        return m_pCore->InsertItem(pszText, nImage, nSelectedImage, hParent, hInsertAfter);
-    }
+int QVTreeCtrlEx::CompareItems(HTREEITEM hItem1, HTREEITEM hItem2) {
+    return m_pCore->TreeItems::CompareItems(hItem1, hItem2);
+}
 
-    BOOL QVTreeCtrlEx::DeleteItem(HTREEITEM hItem) {
-        return m_pCore->DeleteItem(hItem);
-    }
+// --- Navigation
 
-    BOOL QVTreeCtrlEx::DeleteChildren(HTREEITEM hItem) {
-        return m_pCore->DeleteChildren(hItem);
-    }
+HTREEITEM QVTreeCtrlEx::GetNextItem(HTREEITEM hItem, UINT nCode) {
+    return m_pCore->GetNextItem(hItem, nCode);
+}
 
-    BOOL QVTreeCtrlEx::DeleteAllItems() {
-        m_pCore->DeleteAllItems();
-        return TRUE;
-    }
+HTREEITEM QVTreeCtrlEx::GetSelectedItem() {
+    return m_pCore->m_hSelectedItem;
+}
 
-    BOOL QVTreeCtrlEx::ChangeParent(HTREEITEM hItem, HTREEITEM hNewParent) {
-        return m_pCore->ChangeParent(hItem, hNewParent);
-    }
+HTREEITEM QVTreeCtrlEx::GetLastChild(HTREEITEM hItem) {
+    return m_pCore->GetLastChild(hItem);
+}
 
-    BOOL QVTreeCtrlEx::SortChildren(HTREEITEM hParent) {
-        return m_pCore->SortChildren(hParent);
-    }
+HTREEITEM QVTreeCtrlEx::WalkNext(HTREEITEM hItem) {
+    return m_pCore->WalkNext(hItem);
+}
 
-    HTREEITEM QVTreeCtrlEx::FindItem(HTREEITEM hParent, const CString& strText, int nImage) {
-        return m_pCore->FindItem(hParent, strText, nImage);
-    }
+HTREEITEM QVTreeCtrlEx::WalkPrev(HTREEITEM hItem) {
+    return m_pCore->WalkPrev(hItem);
+}
 
-    int QVTreeCtrlEx::CompareItems(HTREEITEM hItem1, HTREEITEM hItem2) {
-        return m_pCore->TreeItems::CompareItems(hItem1, hItem2);
-    }
+HTREEITEM QVTreeCtrlEx::NextDisplayableItem(HTREEITEM hItem) {
+    return m_pCore->NextDisplayableItem(hItem);
+}
 
-    // --- Navigation
+HTREEITEM QVTreeCtrlEx::LastDisplayableItem(HTREEITEM hItem) {
+    return m_pCore->LastDisplayableItem(hItem);
+}
 
-    HTREEITEM QVTreeCtrlEx::GetNextItem(HTREEITEM hItem, UINT nCode) {
-        return m_pCore->GetNextItem(hItem, nCode);
-    }
+BOOL QVTreeCtrlEx::CheckForAncestor(HTREEITEM hItem, HTREEITEM hAncestor) {
+    return m_pCore->CheckForAncestor(hItem, hAncestor);
+}
 
-    HTREEITEM QVTreeCtrlEx::GetSelectedItem() {
-        return m_pCore->m_hSelectedItem;
-    }
+// --- Attributes
 
-    HTREEITEM QVTreeCtrlEx::GetLastChild(HTREEITEM hItem) {
-        return m_pCore->GetLastChild(hItem);
-    }
+CString QVTreeCtrlEx::GetItemText(HTREEITEM hItem) {
+    return hItem != nullptr ? CString(hItem->pszText) : g_strEmpty;
+}
 
-    HTREEITEM QVTreeCtrlEx::WalkNext(HTREEITEM hItem) {
-        return m_pCore->WalkNext(hItem);
-    }
+void QVTreeCtrlEx::SetItemText(HTREEITEM hItem, const CString& strText) {
+    m_pCore->SetItemText(hItem, strText);
+}
 
-    HTREEITEM QVTreeCtrlEx::WalkPrev(HTREEITEM hItem) {
-        return m_pCore->WalkPrev(hItem);
-    }
+DWORD_PTR QVTreeCtrlEx::GetItemData(HTREEITEM hItem) {
+    return hItem != nullptr ? hItem->dwData : 0;
+}
 
-    HTREEITEM QVTreeCtrlEx::NextDisplayableItem(HTREEITEM hItem) {
-        return m_pCore->NextDisplayableItem(hItem);
-    }
-
-    HTREEITEM QVTreeCtrlEx::LastDisplayableItem(HTREEITEM hItem) {
-        return m_pCore->LastDisplayableItem(hItem);
-    }
-
-    BOOL QVTreeCtrlEx::CheckForAncestor(HTREEITEM hItem, HTREEITEM hAncestor) {
-        return m_pCore->CheckForAncestor(hItem, hAncestor);
-    }
-
-    // --- Attributes
-
-    CString QVTreeCtrlEx::GetItemText(HTREEITEM hItem) {
-        return hItem != nullptr ? CString(hItem->pszText) : g_strEmpty;
-    }
-
-    void QVTreeCtrlEx::SetItemText(HTREEITEM hItem, const CString& strText) {
-        m_pCore->SetItemText(hItem, strText);
-    }
-
-    DWORD_PTR QVTreeCtrlEx::GetItemData(HTREEITEM hItem) {
-        return hItem != nullptr ? hItem->dwData : 0;
-    }
-
-    BOOL QVTreeCtrlEx::SetItemData(HTREEITEM hItem, DWORD_PTR dwData) {
-        if (hItem == nullptr) {
-            return FALSE;
-        }
-        hItem->dwData = dwData;
-        return TRUE;
-    }
-
-    BOOL QVTreeCtrlEx::GetItemImage(HTREEITEM hItem, int& nImage, int& nSelectedImage) {
-        if (hItem == nullptr) {
-            return FALSE;
-        }
-        nImage = hItem->nImage;
-        nSelectedImage = hItem->nSelectedImage;
-        return TRUE;
-    }
-
-    int QVTreeCtrlEx::GetItemImage(HTREEITEM hItem) {
-        return hItem != nullptr ? hItem->nImage : -1;
-    }
-
-    BOOL QVTreeCtrlEx::SetItemImage(HTREEITEM hItem, int nImage) {
-        return SetItemImage(hItem, nImage, nImage);
-    }
-
-    BOOL QVTreeCtrlEx::SetItemImage(HTREEITEM hItem, int nImage, int nSelectedImage) {
-        m_pCore->SetItemImage(hItem, nImage, nSelectedImage);
+BOOL QVTreeCtrlEx::SetItemData(HTREEITEM hItem, DWORD_PTR dwData) {
+    if (hItem == nullptr) {
         return FALSE;
     }
+    hItem->dwData = dwData;
+    return TRUE;
+}
 
-    UINT QVTreeCtrlEx::GetItemState(HTREEITEM hItem) {
-        return hItem != nullptr ? hItem->nState : 0;
+BOOL QVTreeCtrlEx::GetItemImage(HTREEITEM hItem, int& nImage, int& nSelectedImage) {
+    if (hItem == nullptr) {
+        return FALSE;
     }
+    nImage = hItem->nImage;
+    nSelectedImage = hItem->nSelectedImage;
+    return TRUE;
+}
 
-    void QVTreeCtrlEx::SetItemState(HTREEITEM hItem, UINT nState, UINT nMask) {
-        m_pCore->SetItemState(hItem, nState, nMask);
+int QVTreeCtrlEx::GetItemImage(HTREEITEM hItem) {
+    return hItem != nullptr ? hItem->nImage : -1;
+}
+
+BOOL QVTreeCtrlEx::SetItemImage(HTREEITEM hItem, int nImage) {
+    return SetItemImage(hItem, nImage, nImage);
+}
+
+BOOL QVTreeCtrlEx::SetItemImage(HTREEITEM hItem, int nImage, int nSelectedImage) {
+    m_pCore->SetItemImage(hItem, nImage, nSelectedImage);
+    return FALSE;
+}
+
+UINT QVTreeCtrlEx::GetItemState(HTREEITEM hItem) {
+    return hItem != nullptr ? hItem->nState : 0;
+}
+
+void QVTreeCtrlEx::SetItemState(HTREEITEM hItem, UINT nState, UINT nMask) {
+    m_pCore->SetItemState(hItem, nState, nMask);
+}
+
+UINT QVTreeCtrlEx::StateImageFromState(UINT nState) {
+    return Core::StateImageFromState(nState);
+}
+
+UINT QVTreeCtrlEx::SetStateImage(UINT nState, UINT nImage) {
+    return Core::SetStateImage(nState, nImage);
+}
+
+BOOL QVTreeCtrlEx::HaveStateImage(HTREEITEM hItem) {
+    return m_pCore->HaveStateImage(hItem);
+}
+
+UINT QVTreeCtrlEx::GetItemStateImage(HTREEITEM hItem) {
+    return m_pCore->GetItemStateImage(hItem);
+}
+
+void QVTreeCtrlEx::SetItemStateImage(HTREEITEM hItem, UINT nImage, BOOL bChildren) {
+    m_pCore->SetItemStateImage(hItem, nImage, bChildren);
+}
+
+BOOL QVTreeCtrlEx::GetCheck(HTREEITEM hItem) {
+    return GetItemStateImage(hItem) > 0;
+}
+
+void QVTreeCtrlEx::SetCheck(HTREEITEM hItem, BOOL bCheck, BOOL bChildren) {
+    SetItemStateImage(hItem, bCheck ? 1 : 0, bChildren);
+}
+
+HTREEITEM QVTreeCtrlEx::GetNextCheckedItem(HTREEITEM hItem, UINT nState) {
+    return m_pCore->GetNextCheckedItem(hItem, nState);
+}
+
+BOOL QVTreeCtrlEx::GetItem(TVITEM* pItem) {
+    if (pItem == nullptr) {
+        return FALSE;
     }
+    MakeTVItem(pItem->hItem, *pItem, TRUE);
+    return TRUE;
+}
 
-    UINT QVTreeCtrlEx::StateImageFromState(UINT nState) {
-        return Core::StateImageFromState(nState);
+// --- Styles
+
+BOOL QVTreeCtrlEx::ChangeStyle(char* pszText, int nStyle) {
+    return qv::ChangeStyle(pszText, nStyle);
+}
+
+int QVTreeCtrlEx::ChangeItemStyles(HTREEITEM hItem, int nStyle, BOOL bUpTheTree,
+                                   BOOL bOnlyDefault) {
+    return m_pCore->ChangeItemStyles(hItem, nStyle, bUpTheTree, bOnlyDefault);
+}
+
+// --- Columns
+
+void QVTreeCtrlEx::UseTabs(const int* pTabs, int nCount) {
+    m_pCore->UseTabs(pTabs, nCount);
+}
+
+void QVTreeCtrlEx::ClearTabs() {
+    m_pCore->ClearTabs();
+}
+
+int QVTreeCtrlEx::GetTabValue(int nTab) {
+    return m_pCore->Tabs().Value(nTab);
+}
+
+void QVTreeCtrlEx::SetTabValue(int nTab, int nValue) {
+    m_pCore->SetTabValue(nTab, nValue);
+}
+
+UINT QVTreeCtrlEx::GetTabFormat(int nTab) {
+    return m_pCore->Tabs().Format(nTab);
+}
+
+void QVTreeCtrlEx::SetTabFormat(int nTab, UINT nFormat) {
+    m_pCore->SetTabFormat(nTab, nFormat);
+}
+
+void QVTreeCtrlEx::SetIndentTabs(BOOL bIndent) {
+    m_pCore->SetIndentTabs(bIndent);
+}
+
+// --- Images
+
+CImageList* QVTreeCtrlEx::SetImageList(CImageList* pImageList, int nImageList) {
+    const bool bNormal = nImageList == TVSIL_NORMAL;
+    if (!bNormal && nImageList != TVSIL_STATE) {
+        return nullptr;
     }
+    CImageList*& pList = bNormal ? m_pImageList : m_pStateImageList;
+    CImageList* pOld = pList;
+    pList = pImageList;
+    (bNormal ? m_pCore->m_images.bNormal : m_pCore->m_images.bState) = pImageList != nullptr;
+    m_pCore->ReadImageSizes();
+    return pOld;
+}
 
-    UINT QVTreeCtrlEx::SetStateImage(UINT nState, UINT nImage) {
-        return Core::SetStateImage(nState, nImage);
+void QVTreeCtrlEx::LoadStandardCheckStates() {
+    LoadTreeStates(kCheckStatesBitmap);
+}
+
+BOOL QVTreeCtrlEx::LoadTreeStates(UINT nBitmapId) {
+    m_imlStates.DeleteImageList();
+    if (!m_imlStates.Create(nBitmapId, kStateImageWidth, 0, kStateImageMask)) {
+        return FALSE;
     }
+    SetImageList(&m_imlStates, TVSIL_STATE);
+    return TRUE;
+}
 
-    BOOL QVTreeCtrlEx::HaveStateImage(HTREEITEM hItem) {
-        return m_pCore->HaveStateImage(hItem);
+// --- Geometry and view
+
+int QVTreeCtrlEx::ItemHeight() {
+    return m_pCore->ItemHeight();
+}
+
+void QVTreeCtrlEx::CalcItemRect(CDC& dc, int nTop, HTREEITEM hItem, CRect& rect, BOOL bTextOnly) {
+    ItemHeight();  // finds the font, if that is still to be done
+    const bool bOwnFont =
+        m_hFont != nullptr && ::GetCurrentObject(dc.m_hAttribDC, OBJ_FONT) == m_hFont;
+    qv::DcMeasure other(dc);
+    qv::Rect rc;
+    m_pCore->CalcItemRect(bOwnFont ? nullptr : &other, nTop, hItem, rc, bTextOnly);
+    rect = qv::ToCRect(rc);
+}
+
+BOOL QVTreeCtrlEx::GetItemRect(HTREEITEM hItem, LPRECT pRect, BOOL bTextOnly) {
+    qv::Rect rect;
+    if (!m_pCore->GetItemRect(hItem, rect, bTextOnly)) {
+        return FALSE;
     }
+    *pRect = qv::ToCRect(rect);
+    return TRUE;
+}
 
-    UINT QVTreeCtrlEx::GetItemStateImage(HTREEITEM hItem) {
-        return m_pCore->GetItemStateImage(hItem);
-    }
-
-    void QVTreeCtrlEx::SetItemStateImage(HTREEITEM hItem, UINT nImage, BOOL bChildren) {
-        m_pCore->SetItemStateImage(hItem, nImage, bChildren);
-    }
-
-    BOOL QVTreeCtrlEx::GetCheck(HTREEITEM hItem) {
-        return GetItemStateImage(hItem) > 0;
-    }
-
-    void QVTreeCtrlEx::SetCheck(HTREEITEM hItem, BOOL bCheck, BOOL bChildren) {
-        SetItemStateImage(hItem, bCheck ? 1 : 0, bChildren);
-    }
-
-    HTREEITEM QVTreeCtrlEx::GetNextCheckedItem(HTREEITEM hItem, UINT nState) {
-        return m_pCore->GetNextCheckedItem(hItem, nState);
-    }
-
-    BOOL QVTreeCtrlEx::GetItem(TVITEM * pItem) {
-        if (pItem == nullptr) {
-            return FALSE;
-        }
-        MakeTVItem(pItem->hItem, *pItem, TRUE);
-        return TRUE;
-    }
-
-    // --- Styles
-
-    BOOL QVTreeCtrlEx::ChangeStyle(char* pszText, int nStyle) {
-        return qv::ChangeStyle(pszText, nStyle);
-    }
-
-    int QVTreeCtrlEx::ChangeItemStyles(HTREEITEM hItem, int nStyle, BOOL bUpTheTree,
-                                       BOOL bOnlyDefault) {
-        return m_pCore->ChangeItemStyles(hItem, nStyle, bUpTheTree, bOnlyDefault);
-    }
-
-    // --- Columns
-
-    void QVTreeCtrlEx::UseTabs(const int* pTabs, int nCount) {
-        m_pCore->UseTabs(pTabs, nCount);
-    }
-
-    void QVTreeCtrlEx::ClearTabs() {
-        m_pCore->ClearTabs();
-    }
-
-    int QVTreeCtrlEx::GetTabValue(int nTab) {
-        return m_pCore->Tabs().Value(nTab);
-    }
-
-    void QVTreeCtrlEx::SetTabValue(int nTab, int nValue) {
-        m_pCore->SetTabValue(nTab, nValue);
-    }
-
-    UINT QVTreeCtrlEx::GetTabFormat(int nTab) {
-        return m_pCore->Tabs().Format(nTab);
-    }
-
-    void QVTreeCtrlEx::SetTabFormat(int nTab, UINT nFormat) {
-        m_pCore->SetTabFormat(nTab, nFormat);
-    }
-
-    void QVTreeCtrlEx::SetIndentTabs(BOOL bIndent) {
-        m_pCore->SetIndentTabs(bIndent);
-    }
-
-    // --- Images
-
-    CImageList* QVTreeCtrlEx::SetImageList(CImageList * pImageList, int nImageList) {
-        const bool bNormal = nImageList == TVSIL_NORMAL;
-        if (!bNormal && nImageList != TVSIL_STATE) {
-            return nullptr;
-        }
-        CImageList*& pList = bNormal ? m_pImageList : m_pStateImageList;
-        CImageList* pOld = pList;
-        pList = pImageList;
-        (bNormal ? m_pCore->m_images.bNormal : m_pCore->m_images.bState) = pImageList != nullptr;
-        m_pCore->ReadImageSizes();
-        return pOld;
-    }
-
-    void QVTreeCtrlEx::LoadStandardCheckStates() {
-        LoadTreeStates(kCheckStatesBitmap);
-    }
-
-    BOOL QVTreeCtrlEx::LoadTreeStates(UINT nBitmapId) {
-        m_imlStates.DeleteImageList();
-        if (!m_imlStates.Create(nBitmapId, kStateImageWidth, 0, kStateImageMask)) {
-            return FALSE;
-        }
-        SetImageList(&m_imlStates, TVSIL_STATE);
-        return TRUE;
-    }
-
-    // --- Geometry and view
-
-    int QVTreeCtrlEx::ItemHeight() {
-        return m_pCore->ItemHeight();
-    }
-
-    void QVTreeCtrlEx::CalcItemRect(CDC & dc, int nTop, HTREEITEM hItem, CRect& rect,
-                                    BOOL bTextOnly) {
-        ItemHeight();  // finds the font, if that is still to be done
-        const bool bOwnFont =
-            m_hFont != nullptr && ::GetCurrentObject(dc.m_hAttribDC, OBJ_FONT) == m_hFont;
-        qv::DcMeasure other(dc);
-        qv::Rect rc;
-        m_pCore->CalcItemRect(bOwnFont ? nullptr : &other, nTop, hItem, rc, bTextOnly);
-        rect = qv::ToCRect(rc);
-    }
-
-    BOOL QVTreeCtrlEx::GetItemRect(HTREEITEM hItem, LPRECT pRect, BOOL bTextOnly) {
-        qv::Rect rect;
-        if (!m_pCore->GetItemRect(hItem, rect, bTextOnly)) {
-            return FALSE;
-        }
+HTREEITEM QVTreeCtrlEx::HitTest(CPoint pt, UINT* pFlags, CRect* pRect) {
+    qv::Rect rect;
+    const HTREEITEM hItem =
+        m_pCore->HitTest({static_cast<int>(pt.x), static_cast<int>(pt.y)}, pFlags, &rect);
+    if (hItem != nullptr && pRect != nullptr) {
         *pRect = qv::ToCRect(rect);
-        return TRUE;
     }
+    return hItem;
+}
 
-    HTREEITEM QVTreeCtrlEx::HitTest(CPoint pt, UINT * pFlags, CRect * pRect) {
-        qv::Rect rect;
-        const HTREEITEM hItem =
-            m_pCore->HitTest({static_cast<int>(pt.x), static_cast<int>(pt.y)}, pFlags, &rect);
-        if (hItem != nullptr && pRect != nullptr) {
-            *pRect = qv::ToCRect(rect);
-        }
-        return hItem;
-    }
+BOOL QVTreeCtrlEx::ItemVisible(HTREEITEM hItem) {
+    return m_pCore->ItemVisible(hItem);
+}
 
-    BOOL QVTreeCtrlEx::ItemVisible(HTREEITEM hItem) {
-        return m_pCore->ItemVisible(hItem);
-    }
+BOOL QVTreeCtrlEx::ItemExpanded(HTREEITEM hItem) {
+    return (GetItemState(hItem) & TVIS_EXPANDED) != 0;
+}
 
-    BOOL QVTreeCtrlEx::ItemExpanded(HTREEITEM hItem) {
-        return (GetItemState(hItem) & TVIS_EXPANDED) != 0;
-    }
+BOOL QVTreeCtrlEx::EnsureVisible(HTREEITEM hItem) {
+    return m_pCore->EnsureVisible(hItem);
+}
 
-    BOOL QVTreeCtrlEx::EnsureVisible(HTREEITEM hItem) {
-        return m_pCore->EnsureVisible(hItem);
-    }
+BOOL QVTreeCtrlEx::Expand(HTREEITEM hItem, UINT nCode, BOOL bInvalidate, BOOL bCollapseChildren) {
+    return m_pCore->Expand(hItem, nCode, bInvalidate, bCollapseChildren);
+}
 
-    BOOL QVTreeCtrlEx::Expand(HTREEITEM hItem, UINT nCode, BOOL bInvalidate,
-                              BOOL bCollapseChildren) {
-        return m_pCore->Expand(hItem, nCode, bInvalidate, bCollapseChildren);
-    }
+BOOL QVTreeCtrlEx::SelectItem(HTREEITEM hItem) {
+    return m_pCore->SelectItem(hItem);
+}
 
-    BOOL QVTreeCtrlEx::SelectItem(HTREEITEM hItem) {
-        return m_pCore->SelectItem(hItem);
-    }
+void QVTreeCtrlEx::InvalidateItem(HTREEITEM hItem, BOOL bErase) {
+    m_pCore->InvalidateItem(hItem, bErase);
+}
 
-    void QVTreeCtrlEx::InvalidateItem(HTREEITEM hItem, BOOL bErase) {
-        m_pCore->InvalidateItem(hItem, bErase);
-    }
+void QVTreeCtrlEx::OnSize(UINT, int, int) {
+    Default();
+    m_pCore->Resize();
+}
 
-    void QVTreeCtrlEx::OnSize(UINT, int, int) {
-        Default();
-        m_pCore->Resize();
-    }
-
-    LRESULT QVTreeCtrlEx::OnSetRedraw(WPARAM wParam, LPARAM) {
-        m_pCore->SetRedraw(wParam != 0);
-        return 0;
-    }
+LRESULT QVTreeCtrlEx::OnSetRedraw(WPARAM wParam, LPARAM) {
+    m_pCore->SetRedraw(wParam != 0);
+    return 0;
+}

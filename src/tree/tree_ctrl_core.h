@@ -21,6 +21,7 @@ public:
     int CompareItems(HTREEITEM hItem1, HTREEITEM hItem2) override;
     void ReadImageSizes() override;
     void UseFont(HFONT hFont) { measure.SetFont(hFont); }
+    void DrawBars() { port.DrawBars(); }
 
 protected:
     bool ReplacesCompareItems() const override;

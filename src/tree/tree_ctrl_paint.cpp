@@ -39,6 +39,7 @@ COLORREF QVTreeCtrlEx::GetBkColor(HTREEITEM hItem) {
 // No erasing and no second buffer: each step excludes what it has painted from the clip, and the
 // fill at the end of a row meets only what is left. Everything is drawn in row coordinates.
 void QVTreeCtrlEx::OnPaint() {
+    m_pCore->DrawBars();
     CPaintDC dc(this);
     if (!m_pCore->m_bRedraw) {
         return;
