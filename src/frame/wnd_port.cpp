@@ -84,14 +84,10 @@ void WndPort::SetScrollRange(int nBar, const ScrollRange& range) {
 }
 
 void WndPort::DrawBars() {
-    for (const int nBar : {SB_HORZ, SB_VERT}) {
-        if (std::exchange(m_bBarDue[nBar], false)) {
-            SCROLLINFO info{};
-            info.cbSize = sizeof(info);
-            info.fMask = SIF_POS;
-            info.nPos = m_wnd.GetScrollPos(nBar);
-            m_wnd.SetScrollInfo(nBar, &info, TRUE);
-        }
+    if (m_bBarDue[SB_HORZ] || m_bBarDue[SB_VERT]) {
+        m_bBarDue[SB_HORZ] = m_bBarDue[SB_VERT] = false;
+        constexpr WPARAM kWholeFrame = 1;
+        m_wnd.SendMessage(WM_NCPAINT, kWholeFrame);
     }
 }
 

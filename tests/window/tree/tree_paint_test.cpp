@@ -146,6 +146,21 @@ TEST(TreePaint, ScrollsToTheSamePixelsAsAFullPaintGives) {
     }
 }
 
+TEST(TreePaint, ScrollBarsShowTheirPlaceOnceAPaintIsDone) {
+    TreeWindow<> w;
+    for (int i = 0; i < 200; ++i) {
+        w.Add("row");
+    }
+    w.tree.UpdateWindow();
+    for (int i = 0; i < 400; ++i) {
+        w.Add("row");
+    }
+    w.tree.UpdateWindow();
+    const Picture shown = Picture::OfClient(w.parent.m_hWnd);
+    w.tree.SendMessage(WM_NCPAINT, 1);
+    EXPECT_TRUE(shown == Picture::OfClient(w.parent.m_hWnd));
+}
+
 TEST(TreePaint, LeavesNoHandlesBehind) {
     TreeWindow<> w(kTreeStyle, CSize(120, 60));
     w.tree.LoadStandardCheckStates();
