@@ -16,6 +16,14 @@ public:
     // Extent in pixels of one line of text in the current font, as the platform's
     // GetTextExtentPoint32 gives it.
     virtual Size Extent(std::string_view text) = 0;
+
+    // The width of each start of the text: pWidths[i] becomes that of its first i + 1 bytes, for
+    // all bytes, in one call.
+    virtual void PrefixWidths(std::string_view text, int* pWidths) {
+        for (std::size_t i = 0; i < text.size(); ++i) {
+            pWidths[i] = Extent(text.substr(0, i + 1)).cx;
+        }
+    }
 };
 
 }  // namespace qv

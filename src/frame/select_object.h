@@ -6,31 +6,36 @@
 
 namespace qv {
 
-// Selects a pen, brush, font or bitmap and puts the old one back. A null object selects nothing.
+// Selects a pen, brush, font or bitmap and puts the old one back, in the context that is drawn on
+// and in the one that is asked, where they differ. A null object selects nothing.
 template <class Object>
 class SelectGuard {
 public:
-    SelectGuard(CDC& dc, Object* pObject) : m_dc(dc) {
-        if (pObject != nullptr) {
-            m_hOld = ::SelectObject(dc.GetSafeHdc(), pObject->GetSafeHandle());
-        }
-    }
-    SelectGuard(CDC& dc, HGDIOBJ hObject) : m_dc(dc) {
+    SelectGuard(CDC& dc, Object* pObject)
+        : SelectGuard(dc, pObject != nullptr ? pObject->GetSafeHandle() : nullptr) {}
+    SelectGuard(CDC& dc, HGDIOBJ hObject) : m_hDC(dc.m_hDC), m_hAttribDC(dc.m_hAttribDC) {
         if (hObject != nullptr) {
-            m_hOld = ::SelectObject(dc.GetSafeHdc(), hObject);
+            Select(hObject, hObject);
         }
     }
-    ~SelectGuard() {
-        if (m_hOld != nullptr) {
-            ::SelectObject(m_dc.GetSafeHdc(), m_hOld);
-        }
-    }
+    ~SelectGuard() { Select(m_hOld, m_hOldAttrib); }
     SelectGuard(const SelectGuard&) = delete;
     SelectGuard& operator=(const SelectGuard&) = delete;
 
 private:
-    CDC& m_dc;
+    void Select(HGDIOBJ hObject, HGDIOBJ hAttribObject) {
+        if (m_hDC != nullptr && hObject != nullptr) {
+            m_hOld = ::SelectObject(m_hDC, hObject);
+        }
+        if (m_hAttribDC != nullptr && m_hAttribDC != m_hDC && hAttribObject != nullptr) {
+            m_hOldAttrib = ::SelectObject(m_hAttribDC, hAttribObject);
+        }
+    }
+
+    HDC m_hDC;
+    HDC m_hAttribDC;
     HGDIOBJ m_hOld = nullptr;
+    HGDIOBJ m_hOldAttrib = nullptr;
 };
 
 // Remembers text and background colour.

@@ -125,6 +125,15 @@ Size DcMeasure::Extent(std::string_view text) {
     return {static_cast<int>(size.cx), static_cast<int>(size.cy)};
 }
 
+void DcMeasure::PrefixWidths(std::string_view text, int* pWidths) {
+    SIZE size{};
+    if (!text.empty() &&
+        !::GetTextExtentExPointA(m_dc.m_hAttribDC, text.data(), static_cast<int>(text.size()), 0,
+                                 nullptr, pWidths, &size)) {
+        std::fill_n(pWidths, text.size(), 0);
+    }
+}
+
 void FontMeasure::SetFont(HFONT hFont) {
     m_hFont = hFont;
     m_bTableMade = false;
@@ -141,6 +150,23 @@ Size FontMeasure::Extent(std::string_view text) {
     CClientDC dc(&m_wnd);
     const SelectGuard<CFont> font(dc, m_hFont);
     return DcMeasure(dc).Extent(text);
+}
+
+void FontMeasure::PrefixWidths(std::string_view text, int* pWidths) {
+    if (!m_bTableMade) {
+        MakeTable();
+    }
+    int nWidth = 0;
+    for (size_t i = 0; i < text.size(); ++i) {
+        const int nChar = m_aWidths[static_cast<unsigned char>(text[i])];
+        if (nChar == kByCall) {
+            CClientDC dc(&m_wnd);
+            const SelectGuard<CFont> font(dc, m_hFont);
+            DcMeasure(dc).PrefixWidths(text, pWidths);
+            return;
+        }
+        pWidths[i] = nWidth += nChar;
+    }
 }
 
 int FontMeasure::TableWidth(std::string_view text) const {

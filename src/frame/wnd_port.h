@@ -51,6 +51,7 @@ class DcMeasure : public TextMeasure {
 public:
     explicit DcMeasure(CDC& dc) : m_dc(dc) {}
     Size Extent(std::string_view text) override;
+    void PrefixWidths(std::string_view text, int* pWidths) override;
 
 private:
     CDC& m_dc;
@@ -65,6 +66,7 @@ public:
     // Null measures in the window's default font. The handle is not owned.
     void SetFont(HFONT hFont);
     Size Extent(std::string_view text) override;
+    void PrefixWidths(std::string_view text, int* pWidths) override;
 
 private:
     void MakeTable();

@@ -426,7 +426,7 @@ bool TreeItems::ChangeParent(HTREEITEM hItem, HTREEITEM hNewParent) {
 // --- Attributes
 
 bool TreeItems::SetItemText(HTREEITEM hItem, const char* pszText) {
-    if (hItem == nullptr) {
+    if (hItem == nullptr || !IsLive(hItem)) {
         return true;
     }
     const size_t nLength = std::strlen(pszText);
@@ -468,6 +468,9 @@ HTREEITEM TreeItems::GetNextCheckedItem(HTREEITEM hItem, unsigned nState) const 
 
 int TreeItems::ChangeItemStyles(HTREEITEM hItem, int nStyle, bool bUpTheTree, bool bOnlyDefault) {
     int nChanged = 0;
+    if (hItem != nullptr && !IsLive(hItem)) {
+        return 0;
+    }
     for (; hItem != nullptr; hItem = bUpTheTree ? hItem->pParent : nullptr) {
         const int nCurrent = m_aStyles.ParseStyle(hItem->pszText);
         if (nCurrent == nStyle || (bOnlyDefault && nCurrent != 0)) {
