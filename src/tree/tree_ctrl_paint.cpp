@@ -47,8 +47,8 @@ void QVTreeCtrlEx::OnPaint() {
     CRect rcClient;
     GetClientRect(&rcClient);
     const int nHeight = ItemHeight();
-    m_brBackground.CreateSolidBrush(::GetSysColor(COLOR_WINDOW));
-    m_penLines.CreatePen(PS_SOLID, 0, ::GetSysColor(COLOR_BTNSHADOW));
+    const qv::BrushLife background(m_brBackground, ::GetSysColor(COLOR_WINDOW));
+    const qv::PenLife lines(m_penLines, ::GetSysColor(COLOR_BTNSHADOW));
     {
         const qv::SelectGuard<CFont> font(dc, m_hFont);
         dc.SetWindowOrg(m_pCore->m_nHScrollPos, 0);
@@ -83,8 +83,6 @@ void QVTreeCtrlEx::OnPaint() {
         }
         dc.SetWindowOrg(0, 0);
     }
-    m_brBackground.DeleteObject();
-    m_penLines.DeleteObject();
 }
 
 void QVTreeCtrlEx::DrawItem(CDC& dc, HTREEITEM hItem, const CRect& rcItem) {

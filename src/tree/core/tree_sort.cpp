@@ -1,8 +1,7 @@
 #include <algorithm>
-#include <cstring>
 #include <new>
-#include <string>
 
+#include "frame/core/sort_keys.h"
 #include "tree/core/tree_items.h"
 
 namespace qv {
@@ -31,22 +30,10 @@ void MergeSort(std::vector<HTREEITEM>& handles, Less less) {
     }
 }
 
-// One item with the start of its key, which decides most comparisons without a further read.
 struct KeyedItem {
-    std::uint64_t nStart;
-    size_t nKey;
-    size_t nLength;
+    SortKey key;
     HTREEITEM hItem;
 };
-
-std::uint64_t KeyStart(const std::string& strKeys, size_t nKey) {
-    std::uint64_t nStart = 0;
-    for (size_t i = 0; i < 8; ++i) {
-        const size_t n = nKey + i;
-        nStart = nStart << 8 | (n < strKeys.size() ? static_cast<unsigned char>(strKeys[n]) : 0);
-    }
-    return nStart;
-}
 
 }  // namespace
 
@@ -94,29 +81,17 @@ void TreeItems::SortHandles(std::vector<HTREEITEM>& handles) {
         MergeSort(handles, [this](HTREEITEM h1, HTREEITEM h2) { return CompareItems(h1, h2) < 0; });
         return;
     }
-    // The texts do not change meanwhile, so each is folded once.
-    std::string strKeys;
+    // The texts do not change meanwhile, so each is folded once. Keys are made in the old order,
+    // which so decides among equal ones.
+    SortKeys keys(m_text);
     std::vector<KeyedItem> keyed;
     keyed.reserve(handles.size());
     for (HTREEITEM h : handles) {
-        const size_t nKey = strKeys.size();
-        m_text.AppendSortKey(DisplayText(h), strKeys);
-        keyed.push_back({0, nKey, strKeys.size() - nKey, h});
-        strKeys.append(8, '\0');  // the start of a short key ends in zeros
+        keyed.push_back({keys.Text(DisplayText(h)), h});
     }
-    for (KeyedItem& item : keyed) {
-        item.nStart = KeyStart(strKeys, item.nKey);
-    }
-    std::sort(keyed.begin(), keyed.end(), [&strKeys](const KeyedItem& a, const KeyedItem& b) {
-        if (a.nStart != b.nStart) {
-            return a.nStart < b.nStart;
-        }
-        const int nOrder =
-            std::memcmp(&strKeys[a.nKey], &strKeys[b.nKey], std::min(a.nLength, b.nLength));
-        if (nOrder != 0) {
-            return nOrder < 0;
-        }
-        return a.nLength != b.nLength ? a.nLength < b.nLength : a.nKey < b.nKey;
+    std::sort(keyed.begin(), keyed.end(), [&keys](const KeyedItem& a, const KeyedItem& b) {
+        const int nOrder = keys.Compare(a.key, b.key);
+        return nOrder != 0 ? nOrder < 0 : a.key.nKey < b.key.nKey;
     });
     std::transform(keyed.begin(), keyed.end(), handles.begin(),
                    [](const KeyedItem& item) { return item.hItem; });

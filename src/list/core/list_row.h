@@ -1,0 +1,60 @@
+// A list's row: how its cells join to one string, and where its parts are drawn.
+//
+// A row is composed in a bitmap of its own, so rectangles are in pixels from the row's top left.
+
+#pragma once
+
+#include <string>
+
+#include "base/geometry.h"
+
+namespace qv {
+
+// Appends a cell to a row. The separator goes between only if something stands before: empty cells
+// at the start of a row leave no trace, as exports and saved rows of long standing expect.
+template <class String>
+void JoinCell(String& strRow, const char* pszCell, char chSeparator) {
+    if (strRow[0] != '\0') {
+        strRow += chSeparator;
+    }
+    strRow += pszCell;
+}
+
+// The look of a row by its selection.
+enum class Highlight { None, Full, Faded };
+
+// bAlways: SetAlwaysHighlightSel; bShowSel: the window style LVS_SHOWSELALWAYS.
+constexpr Highlight RowHighlight(bool bSelected, bool bFocus, bool bShowSel, bool bAlways) {
+    if (!bSelected || (!bFocus && !bShowSel)) {
+        return Highlight::None;
+    }
+    return bFocus || bAlways ? Highlight::Full : Highlight::Faded;
+}
+
+struct RowLayout {
+    int nClientWidth = 0;
+    int nDataWidth = 0;      // sum of the column widths
+    int nFirstColWidth = 0;  // used with bImageFirstCol
+    int nImageWidth = 0;     // 0: the list has no images
+    int nImageHeight = 0;
+    int nTextHeight = 0;
+    bool bImageFirstCol = false;    // column 0 is the image's alone
+    bool bImageCenterVert = false;  // else the image stands kImageTop below the row's top
+
+    // As wide as the data, and at least as the window.
+    int Width() const { return nClientWidth > nDataWidth ? nClientWidth : nDataWidth; }
+    // By how much text is set in above and below in a row that is taller than it for its image.
+    int TextInset() const {
+        return nImageHeight > nTextHeight ? (nImageHeight - nTextHeight) / 2 : 0;
+    }
+    // Where the cells with text stand, the row's whole height.
+    Rect TextCells(int nHeight) const;
+    // From the end of the data to that of the window; empty if the data reach it.
+    Rect Blank(int nHeight) const;
+    // Around the data, without the image.
+    Rect Focus(int nHeight) const;
+    Rect ImageCell(const Rect& rcRow) const;
+    Point ImagePosition(const Rect& rcRow) const;
+};
+
+}  // namespace qv

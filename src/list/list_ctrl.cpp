@@ -1,0 +1,676 @@
+#include "list/list_ctrl.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <unordered_map>
+
+#include "frame/core/wheel.h"
+#include "frame/module_state.h"
+#include "frame/mouse_wheel.h"
+#include "frame/select_object.h"
+#include "list/list_places.h"
+
+namespace {
+
+constexpr int kFormatMask = LVCFMT_JUSTIFYMASK;
+constexpr int kHeadingBytes = 255;  // with the terminator
+
+}  // namespace
+
+IMPLEMENT_DYNCREATE(QVListCtrlEx, CListCtrl)
+
+BEGIN_MESSAGE_MAP(QVListCtrlEx, CListCtrl)
+    ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
+    ON_WM_MOUSEWHEEL()
+    ON_WM_SIZE()
+    ON_WM_WINDOWPOSCHANGING()
+    ON_WM_WINDOWPOSCHANGED()
+    ON_NOTIFY_REFLECT(LVN_COLUMNCLICK, OnItemclick)
+    ON_MESSAGE(LVM_INSERTCOLUMNA, OnInsertColumn)
+    ON_MESSAGE(LVM_INSERTCOLUMNW, OnInsertColumn)
+    ON_MESSAGE(LVM_DELETECOLUMN, OnDeleteColumn)
+    ON_MESSAGE(LVM_DELETEITEM, OnDeleteListItem)
+    ON_MESSAGE(LVM_DELETEALLITEMS, OnDeleteAllItems)
+    ON_MESSAGE(LVM_INSERTITEMA, OnRowsChange)
+    ON_MESSAGE(LVM_INSERTITEMW, OnRowsChange)
+    ON_MESSAGE(LVM_SETITEMA, OnRowsChange)
+    ON_MESSAGE(LVM_SETITEMW, OnRowsChange)
+    ON_MESSAGE(LVM_SETITEMTEXTA, OnRowsChange)
+    ON_MESSAGE(LVM_SETITEMTEXTW, OnRowsChange)
+    ON_MESSAGE(LVM_SETITEMCOUNT, OnRowsChange)
+    ON_MESSAGE(LVM_SORTITEMS, OnRowsChange)
+    ON_MESSAGE(LVM_SORTITEMSEX, OnRowsChange)
+END_MESSAGE_MAP()
+
+// --- Creation
+
+QVListCtrlEx::QVListCtrlEx()
+    : m_dwDefStyle(WS_CHILD | WS_VISIBLE | WS_BORDER | LVS_REPORT | LVS_SINGLESEL |
+                   LVS_SHOWSELALWAYS | LVS_OWNERDRAWFIXED),
+      m_pPlaces(std::make_unique<Places>()) {}
+
+QVListCtrlEx::~QVListCtrlEx() {
+    DestroyWindow();
+}
+
+void QVListCtrlEx::ModifyDefStyle(DWORD dwRemove, DWORD dwAdd) {
+    m_dwDefStyle = (m_dwDefStyle & ~dwRemove) | dwAdd;
+}
+
+BOOL QVListCtrlEx::Create(UINT nID, const CRect& rc, UINT nBitmapID, COLORREF crMask, int cx,
+                          CWnd* pParent) {
+    if (!CListCtrl::Create(m_dwDefStyle, rc, pParent, nID)) {
+        return FALSE;
+    }
+    if (!Initialize(nID, nBitmapID, crMask, cx, pParent)) {
+        DestroyWindow();
+        return FALSE;
+    }
+    return TRUE;
+}
+
+BOOL QVListCtrlEx::Create(UINT nID, const CRect& rc, CWnd* pParent) {
+    return Create(nID, rc, 0, 0, 0, pParent);
+}
+
+BOOL QVListCtrlEx::PreCreateWindow(CREATESTRUCT& cs) {
+    if (cs.lpszClass == nullptr) {
+        cs.lpszClass = WC_LISTVIEW;
+    }
+    cs.style = static_cast<LONG>(m_dwDefStyle);
+    if ((cs.style & WS_BORDER) != 0) {
+        cs.style &= ~WS_BORDER;
+        cs.dwExStyle |= WS_EX_CLIENTEDGE;
+    }
+    return CListCtrl::PreCreateWindow(cs);
+}
+
+BOOL QVListCtrlEx::Initialize(UINT nID, CWnd* pParent) {
+    return Initialize(nID, 0, 0, 0, pParent);
+}
+
+BOOL QVListCtrlEx::Initialize(UINT nID, UINT nBitmapID, COLORREF crMask, int cx, CWnd* pParent) {
+    if (m_hWnd == nullptr && !SubclassDlgItem(nID, pParent)) {
+        return FALSE;
+    }
+    ModifyStyle(LVS_TYPEMASK, LVS_REPORT | LVS_OWNERDRAWFIXED, 0);
+    LoadImages(nBitmapID, crMask, cx);
+    TakeFontOfParents();
+    MeasureFont();
+    CRect rcClient;
+    GetClientRect(&rcClient);
+    m_nClientWidth = rcClient.Width();
+    if (m_bSingleColumn) {
+        LVCOLUMN column{};
+        column.mask = LVCF_WIDTH;
+        if (!GetColumn(0, &column)) {
+            CListCtrl::InsertColumn(0, "", LVCFMT_LEFT, -1, 0);
+            SetColWidth(0, m_nClientWidth, nullptr);
+        }
+    }
+    SetupColumns();
+    return TRUE;
+}
+
+void QVListCtrlEx::LoadImages(UINT nBitmapID, COLORREF crMask, int cx) {
+    if (cx <= 0) {
+        return;
+    }
+    m_imageList.DeleteImageList();
+    if (!m_imageList.Create(nBitmapID, cx, 0, crMask)) {
+        return;
+    }
+    IMAGEINFO info;
+    if (m_imageList.GetImageInfo(0, &info)) {
+        m_nImageHeight = info.rcImage.bottom - info.rcImage.top;
+        m_nImageWidth = cx;
+    }
+    SetImageList(&m_imageList, LVSIL_SMALL);
+}
+
+void QVListCtrlEx::TakeFontOfParents() {
+    if (GetFont() != nullptr) {
+        return;
+    }
+    for (CWnd* pWnd = GetParent(); pWnd != nullptr; pWnd = pWnd->GetParent()) {
+        if (CFont* pFont = pWnd->GetFont()) {
+            SetFont(pFont, TRUE);
+            return;
+        }
+    }
+}
+
+void QVListCtrlEx::MeasureFont() {
+    CFont* pFont = GetFont();
+    if (m_nTextHeight != 0 || pFont == nullptr) {
+        return;
+    }
+    CClientDC dc(this);
+    const qv::SelectGuard<CFont> font(dc, pFont);
+    TEXTMETRIC metrics;
+    if (dc.GetTextMetrics(&metrics)) {
+        m_nTextHeight = metrics.tmHeight - metrics.tmInternalLeading;
+    }
+}
+
+void QVListCtrlEx::SetImageFirstCol(BOOL bFirst) {
+    m_bImageFirstCol = bFirst;
+    m_pPlaces->Invalidate();
+}
+
+// --- Columns
+
+void QVListCtrlEx::AddHeader(UINT nStringID) {
+    CString strHeaders;
+    if (strHeaders.LoadString(nStringID)) {
+        AddHeader(strHeaders);
+    }
+}
+
+void QVListCtrlEx::AddHeader(LPCSTR pszHeaders) {
+    if (m_bSingleColumn) {
+        DeleteColumn(0);
+        m_bSingleColumn = FALSE;
+        m_columns.SetCount(0);
+    }
+    const std::string_view headers = pszHeaders != nullptr ? pszHeaders : "";
+    std::string_view field;
+    int nCol = m_columns.Count();
+    for (int nPos = 0; nCol <= qv::kLastHeaderColumn && qv::NextField(headers, nPos, field);
+         ++nCol) {
+        std::string strHeading(field);
+        strHeading.resize(qv::ProcessText().PrefixBytes(strHeading.c_str(), kHeadingBytes - 1));
+        LVCOLUMN column{};
+        column.mask = LVCF_FMT | LVCF_WIDTH | LVCF_TEXT | LVCF_SUBITEM;
+        column.fmt = LVCFMT_LEFT;
+        column.cx = qv::kNewColumnWidth;
+        column.pszText = strHeading.data();
+        column.iSubItem = nCol;
+        SendMessage(LVM_INSERTCOLUMN, static_cast<WPARAM>(nCol), reinterpret_cast<LPARAM>(&column));
+    }
+}
+
+void QVListCtrlEx::ClearHeaders() {
+    LVCOLUMN column{};
+    column.mask = LVCF_WIDTH;
+    // A control that refuses to delete a column ends the walk as well.
+    while (GetColumn(0, &column) && DeleteColumn(0)) {
+    }
+    m_columns.SetCount(0);
+}
+
+void QVListCtrlEx::ClearCols() {
+    m_columns.Clear();
+}
+
+void QVListCtrlEx::SetupColumns() {
+    if (m_bSingleColumn) {
+        CalcSingleColWidth();
+        return;
+    }
+    CWindowDC dc(this);
+    const qv::SelectGuard<CFont> font(dc, GetFont());
+    m_columns.SetCount(CalcColWidths(&dc, nullptr));
+}
+
+int QVListCtrlEx::CalcColWidths(CDC*, int*) {
+    return m_columns.Count();
+}
+
+void QVListCtrlEx::SetupColumnsFromString(const CString& strSample) {
+    int nFillCol = -1;
+    int nCol = 0;
+    std::string_view field;
+    for (int nPos = 0; qv::NextField(std::string_view(strSample), nPos, field); ++nCol) {
+        if (qv::TakeFillMark(field)) {
+            nFillCol = nCol;
+        }
+        const int nWidth = GetStringWidth(std::string(field).c_str()) + qv::kColumnMargin;
+        SetColWidth(nCol, std::max(nWidth, GetColWidth(nCol, nullptr)), nullptr);
+    }
+    // Room for the scroll bar is left whether or not there is one.
+    FillRest(nFillCol, ::GetSystemMetrics(SM_CXVSCROLL));
+}
+
+// Widens a column to what the window has left, nReserved pixels apart. -1 is no column.
+void QVListCtrlEx::FillRest(int nFillCol, int nReserved) {
+    CRect rcClient;
+    GetClientRect(&rcClient);
+    const int nRest = rcClient.Width() - nReserved - GetDataWidth();
+    if (nFillCol != -1 && nRest > 0) {
+        SetColWidth(nFillCol, GetColWidth(nFillCol, nullptr) + nRest, nullptr);
+    }
+}
+
+int QVListCtrlEx::MakeColsFromString(CDC* pDC, const CString& strRow, int* pWidths) {
+    int nCol = 0;
+    std::string_view field;
+    for (int nPos = 0; qv::NextField(std::string_view(strRow), nPos, field); ++nCol) {
+        const CSize size = pDC->GetTextExtent(field.data(), static_cast<int>(field.size()));
+        SetColWidth(nCol, size.cx + qv::kColumnMargin, pWidths);
+    }
+    return nCol;
+}
+
+int QVListCtrlEx::MakeHeaderString(CString& str) {
+    char szHeading[kHeadingBytes + 1];
+    LVCOLUMN column{};
+    column.mask = LVCF_TEXT;
+    column.pszText = szHeading;
+    column.cchTextMax = kHeadingBytes + 1;
+    int nRead = 0;
+    for (int nCol = 0; nCol < m_columns.Count(); ++nCol) {
+        szHeading[0] = '\0';
+        if (GetColumn(nCol, &column)) {
+            if (nCol > 0) {
+                str += qv::kFieldSeparator;
+            }
+            str += column.pszText;
+            ++nRead;
+        }
+    }
+    return nRead;
+}
+
+void QVListCtrlEx::CalcColsFromHeader(int nFillCol) {
+    CString strHeaders;
+    MakeHeaderString(strHeaders);
+    if (strHeaders.IsEmpty()) {
+        return;
+    }
+    CWindowDC dc(this);
+    const qv::SelectGuard<CFont> font(dc, GetFont());
+    m_columns.SetCount(MakeColsFromString(&dc, strHeaders, nullptr));
+    if (m_columns.Count() >= 1) {
+        FillRest(nFillCol, 0);
+    }
+    m_bSingleColumn = FALSE;
+}
+
+int QVListCtrlEx::CalcDataWidth(int* pWidths) {
+    int nWidth = 0;
+    for (int nCol = 0; nCol < m_columns.Count(); ++nCol) {
+        nWidth += GetColWidth(nCol, pWidths);
+    }
+    if (pWidths == nullptr) {
+        m_nDataWidth = nWidth;
+    }
+    return nWidth;
+}
+
+int QVListCtrlEx::GetDataWidth() {
+    return m_nDataWidth != -1 ? m_nDataWidth : CalcDataWidth(nullptr);
+}
+
+int QVListCtrlEx::GetColWidth(int nCol, int* pWidths) {
+    if (pWidths == nullptr) {
+        return GetColumnWidth(nCol);
+    }
+    return nCol >= 0 && nCol < m_columns.Count() ? pWidths[nCol] : 0;
+}
+
+void QVListCtrlEx::SetColWidth(int nCol, int nWidth, int* pWidths) {
+    if (pWidths == nullptr) {
+        SendMessage(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(nCol), MAKELPARAM(nWidth, 0));
+        CalcDataWidth(nullptr);
+    } else if (nCol >= 0 && nCol < m_columns.Count()) {
+        pWidths[nCol] = nWidth;
+    }
+}
+
+int QVListCtrlEx::GetHdrFormat(int nCol) {
+    LVCOLUMN column{};
+    column.mask = LVCF_FMT;
+    return GetColumn(nCol, &column) ? column.fmt & kFormatMask : 0;
+}
+
+void QVListCtrlEx::SetHdrFormat(int nCol, int nFormat) {
+    LVCOLUMN column{};
+    column.mask = LVCF_FMT;
+    if (GetColumn(nCol, &column)) {
+        column.fmt = (column.fmt & ~kFormatMask) | nFormat;
+        SetColumn(nCol, &column);
+    }
+}
+
+namespace {
+
+UINT DrawFormat(int nFormat) {
+    return nFormat == LVCFMT_RIGHT ? DT_RIGHT : nFormat == LVCFMT_CENTER ? DT_CENTER : DT_LEFT;
+}
+
+}  // namespace
+
+UINT QVListCtrlEx::GetColDrawFormat(int nCol) const {
+    return DrawFormat(GetColFormat(nCol));
+}
+
+UINT QVListCtrlEx::GetHdrDrawFormat(int nCol) {
+    return DrawFormat(GetHdrFormat(nCol));
+}
+
+BOOL QVListCtrlEx::InReportMode() {
+    return (GetStyle() & LVS_TYPEMASK) == LVS_REPORT;
+}
+
+void QVListCtrlEx::SetSortMethod(void (*pfn)(int nCol, void* pData), void* pData) {
+    m_pfnSort = pfn;
+    m_pSortData = pData;
+}
+
+void QVListCtrlEx::SortOnHeader(int nCol) {
+    if (m_pfnSort != nullptr) {
+        m_pfnSort(nCol, m_pSortData);
+    }
+}
+
+void QVListCtrlEx::CalcSingleColWidth() {
+    CClientDC dc(this);
+    const qv::SelectGuard<CFont> font(dc, GetFont());
+    m_nDataWidth = 0;
+    const int nItems = GetItemCount();
+    for (int nItem = 0; nItem < nItems; ++nItem) {
+        m_nDataWidth = std::max(m_nDataWidth, CalculateItemWidth(&dc, nItem));
+    }
+    SetColWidth(0, std::max(m_nClientWidth, m_nDataWidth), nullptr);
+}
+
+int QVListCtrlEx::CalculateItemWidth(CDC* pDC, int nItem) {
+    CString strRow;
+    if (!GetItemString(nItem, strRow)) {
+        return 0;
+    }
+    const CString strText(ParseStyleText(strRow));
+    return m_nImageWidth + pDC->GetTextExtent(strText).cx + qv::kColumnMargin;
+}
+
+// --- Rows
+
+LPCSTR QVListCtrlEx::CellText(int nItem, int nCol) {
+    constexpr size_t kUsualRoom = 256;
+    if (m_aCellText.empty()) {
+        m_aCellText.resize(kUsualRoom);
+    }
+    for (;;) {
+        const int nRoom = static_cast<int>(m_aCellText.size());
+        m_aCellText[0] = '\0';
+        // A text that fills the room may have been cut.
+        if (CListCtrl::GetItemText(nItem, nCol, m_aCellText.data(), nRoom) < nRoom - 1) {
+            return m_aCellText.data();
+        }
+        m_aCellText.resize(m_aCellText.size() * 2);
+    }
+}
+
+BOOL QVListCtrlEx::NextField(const CString& strRow, int& nPos, CString& strField) const {
+    std::string_view field;
+    const bool bFound = qv::NextField(std::string_view(strRow), nPos, field);
+    strField = CString(field.data(), static_cast<int>(field.size()));
+    return bFound;
+}
+
+BOOL QVListCtrlEx::SetItemString(int nItem, LPCSTR pszText) {
+    if (nItem >= GetItemCount()) {
+        return FALSE;
+    }
+    const std::string_view row = pszText != nullptr ? pszText : "";
+    std::string strField;
+    std::string_view field;
+    int nPos = 0;
+    for (int nCol = FirstTextColumn(); nCol < m_columns.Count() && qv::NextField(row, nPos, field);
+         ++nCol) {
+        strField = field;
+        m_pPlaces->CountOwnChange();
+        SetItemText(nItem, nCol, strField.c_str());
+    }
+    return TRUE;
+}
+
+BOOL QVListCtrlEx::GetItemString(int nItem, CString& str) {
+    if (nItem >= GetItemCount()) {
+        return FALSE;
+    }
+    std::string strRow;
+    for (int nCol = FirstTextColumn(); nCol < m_columns.Count(); ++nCol) {
+        qv::JoinCell(strRow, CellText(nItem, nCol), qv::kFieldSeparator);
+    }
+    str = CString(strRow.data(), static_cast<int>(strRow.size()));
+    return TRUE;
+}
+
+int QVListCtrlEx::InsertRow(int nImage, int nIndex, LPCSTR pszText) {
+    m_pPlaces->CountOwnChange();
+    nIndex = CListCtrl::InsertItem(LVIF_TEXT | LVIF_IMAGE, nIndex != -1 ? nIndex : GetItemCount(),
+                                   "-", 0, 0, nImage, 0);
+    if (nIndex != -1) {
+        SetItemString(nIndex, pszText);
+    }
+    return nIndex;
+}
+
+int QVListCtrlEx::InsertBitmapString(int nImage, int nIndex, LPCSTR pszText) {
+    nIndex = InsertRow(nImage, nIndex, pszText);
+    if (nIndex != -1 && m_bSingleColumn) {
+        // Without the margin that CalculateItemWidth adds: the next fit widens the column by it.
+        const int nWidth = m_nImageWidth + GetStringWidth(ParseStyleText(pszText));
+        if (nWidth > m_nDataWidth) {
+            m_nDataWidth = nWidth;
+            SetColWidth(0, std::max(m_nClientWidth, nWidth), nullptr);
+        }
+    }
+    return nIndex;
+}
+
+std::string QVListCtrlEx::PlaceKey(LPCSTR pszText, bool bNumeric) const {
+    if (bNumeric) {
+        return qv::NumberKey(static_cast<std::int32_t>(std::atol(ParseStyleText(pszText))));
+    }
+    std::string strKey;
+    qv::ProcessText().AppendSortKey(pszText, strKey);
+    return strKey;
+}
+
+void QVListCtrlEx::ReadPlaces(bool bNumeric) {
+    qv::SortedPlaces& rows = m_pPlaces->rows;
+    rows.Clear();
+    CString strRow;
+    const int nItems = GetItemCount();
+    for (int nItem = 0; nItem < nItems && GetItemString(nItem, strRow); ++nItem) {
+        rows.Append(PlaceKey(strRow, bNumeric));
+    }
+    m_pPlaces->SetValid(bNumeric, NumColumns());
+}
+
+int QVListCtrlEx::AddBitmapString(int nImage, LPCSTR pszText, BOOL bNumeric) {
+    const bool bNumber = bNumeric != FALSE;
+    if (!m_pPlaces->Valid(bNumber, GetItemCount(), NumColumns())) {
+        ReadPlaces(bNumber);
+    }
+    const std::string strKey = PlaceKey(ParseStyleText(pszText), bNumber);
+    const size_t nPlace = m_pPlaces->rows.Find(strKey);
+    const int nIndex = InsertBitmapString(nImage, static_cast<int>(nPlace), pszText);
+    CString strRow;
+    if (nIndex == static_cast<int>(nPlace) && GetItemString(nIndex, strRow)) {
+        // What stands in the control now, with its code, is what later rows are compared with.
+        // A change by anybody else meanwhile shows at the next call.
+        m_pPlaces->rows.Insert(nPlace, PlaceKey(strRow, bNumber));
+    } else {
+        m_pPlaces->Invalidate();
+    }
+    return nIndex;
+}
+
+int QVListCtrlEx::GetImage(int nItem) {
+    LVITEM item{};
+    item.mask = LVIF_IMAGE;
+    item.iItem = nItem;
+    return GetItem(&item) ? item.iImage : -1;
+}
+
+BOOL QVListCtrlEx::SetImage(int nItem, int nImage) {
+    return SetItem(nItem, 0, LVIF_IMAGE, nullptr, nImage, 0, 0, 0) ? TRUE : FALSE;
+}
+
+// --- Selection
+
+int QVListCtrlEx::GetSelectedItem() {
+    return GetSelectedCount() == 1 ? GetNextItem(-1, LVNI_SELECTED) : -1;
+}
+
+int QVListCtrlEx::SelectItem(int nItem) {
+    for (int nOld; (nOld = GetSelectedItem()) != -1;) {
+        // A parent may refuse the change; it would be asked without end.
+        if (!SetItemState(nOld, 0, LVIS_SELECTED) || GetSelectedItem() == nOld) {
+            break;
+        }
+    }
+    if (nItem != -1) {
+        const UINT nState = LVIS_SELECTED | (HasFocus() ? LVIS_FOCUSED : 0);
+        SetItemState(nItem, nState, nState);
+    }
+    return -1;
+}
+
+void QVListCtrlEx::SaveSelections() {
+    m_aSavedSel.RemoveAll();
+    for (int nItem = -1; (nItem = GetNextItem(nItem, LVNI_SELECTED)) != -1;) {
+        m_aSavedSel.Add(GetItemData(nItem));
+    }
+}
+
+void QVListCtrlEx::RestoreSelections() {
+    if (m_aSavedSel.GetSize() == 0) {
+        return;
+    }
+    // The first row of each value.
+    std::unordered_map<DWORD_PTR, int> rows;
+    const int nItems = GetItemCount();
+    for (int nItem = 0; nItem < nItems; ++nItem) {
+        rows.emplace(GetItemData(nItem), nItem);
+    }
+    for (INT_PTR i = 0; i < m_aSavedSel.GetSize(); ++i) {
+        if (const auto it = rows.find(m_aSavedSel[i]); it != rows.end()) {
+            SetItemState(it->second, LVIS_SELECTED, LVIS_SELECTED);
+        }
+    }
+}
+
+void QVListCtrlEx::InvalidateData(BOOL bErase) {
+    CRect rcItem;
+    if (GetItemCount() > 0 && GetItemRect(GetTopIndex(), &rcItem, LVIR_BOUNDS)) {
+        CRect rc;
+        GetClientRect(&rc);
+        rc.top = rcItem.top;
+        InvalidateRect(&rc, bErase);
+    }
+}
+
+// --- Messages
+
+LRESULT QVListCtrlEx::OnInsertColumn(WPARAM wParam, LPARAM lParam) {
+    if (lParam != 0) {
+        m_columns.CountInserted(static_cast<int>(wParam));
+    }
+    m_nDataWidth = -1;
+    m_pPlaces->Invalidate();
+    return Default();
+}
+
+LRESULT QVListCtrlEx::OnDeleteColumn(WPARAM, LPARAM) {
+    m_columns.CountDeleted();
+    m_nDataWidth = -1;
+    m_pPlaces->Invalidate();
+    return Default();
+}
+
+LRESULT QVListCtrlEx::OnDeleteListItem(WPARAM, LPARAM) {
+    m_pPlaces->CountChange();
+    const LRESULT lResult = Default();
+    if (m_bSingleColumn) {
+        CalcSingleColWidth();
+    }
+    return lResult;
+}
+
+LRESULT QVListCtrlEx::OnDeleteAllItems(WPARAM wParam, LPARAM lParam) {
+    return OnDeleteListItem(wParam, lParam);
+}
+
+// Keeps account of the changes that AddBitmapString has to know.
+LRESULT QVListCtrlEx::OnRowsChange(WPARAM, LPARAM lParam) {
+    const UINT nMessage = GetCurrentMessage()->message;
+    const auto* pItem = reinterpret_cast<const LVITEM*>(lParam);
+    switch (nMessage) {
+        case LVM_SETITEMTEXTA:
+        case LVM_SETITEMTEXTW:
+            if (pItem != nullptr) {
+                m_pPlaces->SeeText(pItem->pszText);
+            }
+            break;
+        case LVM_INSERTITEMA:
+        case LVM_INSERTITEMW:
+        case LVM_SETITEMA:
+        case LVM_SETITEMW: {
+            const bool bText = pItem != nullptr && (pItem->mask & LVIF_TEXT) != 0;
+            if (bText) {
+                m_pPlaces->SeeText(pItem->pszText);
+            } else if (nMessage == LVM_SETITEMA || nMessage == LVM_SETITEMW) {
+                return Default();
+            }
+            break;
+        }
+        default:
+            break;
+    }
+    m_pPlaces->CountChange();
+    return Default();
+}
+
+void QVListCtrlEx::OnItemclick(NMHDR* pHdr, LRESULT* pResult) {
+    *pResult = 0;
+    SortOnHeader(reinterpret_cast<NMLISTVIEW*>(pHdr)->iSubItem);
+}
+
+BOOL QVListCtrlEx::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT*) {
+    const UINT nCode = reinterpret_cast<const NMHDR*>(lParam)->code;
+    if (wParam == 0 && (nCode == HDN_ITEMCHANGEDA || nCode == HDN_ITEMCHANGEDW)) {
+        // The control takes over the new width when it sees this message, after this handler.
+        m_nDataWidth = -1;
+        InvalidateData(FALSE);
+    }
+    return FALSE;
+}
+
+void QVListCtrlEx::OnSize(UINT, int cx, int) {
+    Default();
+    m_nClientWidth = cx;
+    if (!m_bSingleColumn) {
+        return;
+    }
+    CRect rcWindow;
+    GetWindowRect(&rcWindow);
+    if (rcWindow.Width() != m_rcWindow.Width()) {
+        CalcSingleColWidth();
+        m_rcWindow = rcWindow;
+    }
+}
+
+void QVListCtrlEx::OnWindowPosChanging(WINDOWPOS* pPos) {
+    Default();
+    pPos->flags |= SWP_NOREDRAW;
+}
+
+void QVListCtrlEx::OnWindowPosChanged(WINDOWPOS*) {
+    Default();
+    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
+}
+
+BOOL QVListCtrlEx::OnMouseWheel(UINT, short zDelta, CPoint) {
+    // One remainder for all lists of the process: the wheel is one.
+    static int s_nRemainder = 0;
+    qv::TurnWheel(s_nRemainder, zDelta, GetMouseScrollLines(FALSE), [this](bool bUp, bool) {
+        Scroll(CSize(0, bUp ? -m_nTextHeight : m_nTextHeight));
+    });
+    return TRUE;
+}

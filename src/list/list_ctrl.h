@@ -1,0 +1,254 @@
+// QVListCtrlEx: a report list on the platform's list control that draws itself, prints and exports.
+//
+// A row is one string in the shared row format (frame/styled_rows.h), a field for each column; each
+// cell may have a style of its own. The platform's control keeps items, texts, selection and scroll
+// position; item data are the caller's.
+//
+// A list starts in single-column mode: one column without heading, as wide as the widest row and at
+// least as the window. The first AddHeader or CalcColsFromHeader ends that mode for good.
+//
+// On paper the list follows a protocol: SetPrintFonts, BeginPrinting, CalcPrintCols, then any
+// number of PrintHeader and PrintItems, EndPrinting. A QVPrintEngine drives it; so can any caller.
+//
+// Ownership: print fonts and image resources are the caller's; the image list is the control's.
+// Widths are in pixels of the control's font, on paper in units of the printer's device context.
+
+#pragma once
+
+#include <afxcmn.h>
+#include <afxtempl.h>
+#include <afxwin.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "frame/styled_rows.h"
+#include "list/core/list_columns.h"
+#include "list/core/list_row.h"
+
+struct CPrintInfo;
+
+class QV_CONTROLS_API QVListCtrlEx : public CListCtrl, public QVStyledRows {
+    DECLARE_DYNCREATE(QVListCtrlEx)
+
+public:
+    QVListCtrlEx();
+    ~QVListCtrlEx() override;
+
+    // --- Creation: either Create, or Initialize for a control of a dialog template.
+
+    // Window style for Create; call before it. At first a bordered report with one selected row at
+    // a time, shown also without the focus.
+    void SetDefStyle(DWORD dwStyle) { m_dwDefStyle = dwStyle; }
+    void ModifyDefStyle(DWORD dwRemove, DWORD dwAdd);
+    // With images cx pixels wide from a bitmap resource, crMask being transparent. A bitmap that
+    // cannot be loaded leaves the list without images.
+    BOOL Create(UINT nID, const CRect& rc, UINT nBitmapID, COLORREF crMask, int cx, CWnd* pParent);
+    BOOL Create(UINT nID, const CRect& rc, CWnd* pParent);
+    // Attaches to the dialog item nID if there is no window yet, and makes the control an
+    // owner-drawn report. 0 if there is no such item.
+    virtual BOOL Initialize(UINT nID, UINT nBitmapID, COLORREF crMask, int cx, CWnd* pParent);
+    BOOL Initialize(UINT nID, CWnd* pParent);
+
+    // --- Columns
+
+    // A column 60 pixels wide, left-aligned, for each field; several calls add up. Columns behind
+    // index 20 are not made.
+    void AddHeader(LPCSTR pszHeaders);
+    void AddHeader(UINT nStringID);
+    void ClearHeaders();
+    // Forgets columns, alignments and styles; the control's columns stay.
+    void ClearCols();
+    // Single-column mode: fits the column. Otherwise asks CalcColWidths.
+    virtual void SetupColumns();
+    // Widens columns to a sample row. A field that ends in '*' marks the column that fills the
+    // window, less a vertical scroll bar.
+    void SetupColumnsFromString(const CString& strSample);
+    // Sets each column to its field's width and 12 pixels, codes measured as they stand. Gives the
+    // number of fields. A null table means the control's columns, here and below.
+    int MakeColsFromString(CDC* pDC, const CString& strRow, int* pWidths);
+    // Appends the headings with TABs between; gives their number.
+    int MakeHeaderString(CString& str);
+    // Sets each column to its heading; nFillCol, unless -1, gets what the window has left.
+    void CalcColsFromHeader(int nFillCol);
+    int CalcDataWidth(int* pWidths);
+    // Sum of the column widths, kept until a column changes.
+    int GetDataWidth();
+    int GetColWidth(int nCol, int* pWidths);
+    void SetColWidth(int nCol, int nWidth, int* pWidths);
+    int NumColumns() const { return m_columns.Count(); }
+    // Alignment of the cells: LVCFMT_LEFT, LVCFMT_RIGHT or LVCFMT_CENTER. Headings have their own.
+    int GetColFormat(int nCol) const { return m_columns.Format(nCol); }
+    void SetColFormat(int nCol, int nFormat) { m_columns.SetFormat(nCol, nFormat); }
+    // The style whose background fills the column under the last row, and stands in where a cell's
+    // style has a background of -1.
+    int GetColStyle(int nCol) const { return m_columns.Style(nCol); }
+    void SetColStyle(int nCol, int nStyle) { m_columns.SetStyle(nCol, nStyle); }
+    int GetHdrFormat(int nCol);
+    void SetHdrFormat(int nCol, int nFormat);
+    // Called on a click on a heading.
+    void SetSortMethod(void (*pfn)(int nCol, void* pData), void* pData);
+
+    // --- Rows
+
+    using QVStyledRows::AppendStyleText;
+    // Inserts in front of the first row whose text is greater, or whose number is if bNumeric.
+    // Gives the index, or -1. The style code of a row that is there takes part in the comparison,
+    // that of the new row does not.
+    int AddBitmapString(int nImage, LPCSTR pszText, BOOL bNumeric);
+    // nIndex -1: at the end. An empty row shows "-".
+    int InsertBitmapString(int nImage, int nIndex, LPCSTR pszText);
+    // Columns without a field keep their text. 0 if there is no such row.
+    BOOL SetItemString(int nItem, LPCSTR pszText);
+    // Empty columns at the start leave no TAB.
+    BOOL GetItemString(int nItem, CString& str);
+    int GetImage(int nItem);
+    BOOL SetImage(int nItem, int nImage);
+
+    // --- Looks. None repaints.
+
+    void SetImageCenterVertically(BOOL bCenter) { m_bImageCenterVert = bCenter; }
+    // Column 0 holds the image alone, and rows begin at column 1.
+    void SetImageFirstCol(BOOL bFirst);
+    // The selection keeps its colour without the focus (with LVS_SHOWSELALWAYS).
+    void SetAlwaysHighlightSel(BOOL bAlways) { m_bAlwaysHighlightSel = bAlways; }
+    // FALSE draws selected rows as all others.
+    void SetAllowSel(BOOL bAllow) { m_bAllowSel = bAllow; }
+
+    // --- Selection
+
+    // -1 unless exactly one row is selected.
+    int GetSelectedItem();
+    // Deselects the selected item and selects nItem; -1 only deselects. Always gives -1.
+    int SelectItem(int nItem);
+    // Remembers the selected rows by their item data; restoring selects the first row that has
+    // each.
+    void SaveSelections();
+    void RestoreSelections();
+    // Repaints the rows, not the headings.
+    void InvalidateData(BOOL bErase);
+
+    // --- Printing and export
+
+    // Not owned; null prints in the font selected in the device context.
+    void SetPrintFonts(CFont* pItemFont, CFont* pHeaderFont);
+    virtual void BeginPrinting(CDC* pDC, CPrintInfo* pInfo);
+    virtual void EndPrinting(CDC* pDC, CPrintInfo* pInfo);
+    virtual int HeaderPrintHeight(CDC* pDC);
+    virtual int CalculateItemHeight(CDC* pDC);
+    // Spreads nPageWidth over the columns that are printed, in proportion to their widths on
+    // screen. Where these have no width at all, neither have they on paper. Gives the number of
+    // columns.
+    virtual int CalcPrintCols(CDC* pDC, int nPageWidth);
+    // The headings and a rule under them.
+    virtual void PrintHeader(CDC* pDC, const CRect& rc);
+    // As many rows as fit, from nFirst to nLast or from the page pInfo->m_nCurPage on; gives their
+    // number. 0 for a row height of 0.
+    virtual int PrintItems(CDC* pDC, UINT nFirst, UINT nLast, const CRect& rc);
+    virtual int PrintItems(CDC* pDC, CPrintInfo* pInfo, const CRect& rc);
+    // For the life of the control. Exports are not affected.
+    void ExcludeColumnFromPrinting(int nCol) { m_columns.Exclude(nCol); }
+    BOOL IsColumnExcludedFromPrinting(int nCol) const { return m_columns.IsExcluded(nCol); }
+    int CalcExcludedColsWidth();
+    int GetPrintColWidth(int nCol) { return GetColWidth(nCol, m_columns.PrintWidths()); }
+    // A line for each row, chSeparator between the cells, codes removed, nothing quoted; empty
+    // cells at the start of a row leave no separator. 0 if the file cannot be opened. Throws the
+    // framework's CFileException if writing fails.
+    virtual BOOL ExportData(LPCSTR pszPath, char chSeparator);
+
+    void DrawItem(LPDRAWITEMSTRUCT lpDIS) override;
+
+protected:
+    // --- Steps that a derived class may replace, beside the public ones
+
+    // Sets the widths through SetColWidth(nCol, nWidth, pWidths); gives the number of columns.
+    virtual int CalcColWidths(CDC* pDC, int* pWidths);
+    // pWidths is null on screen.
+    virtual void DrawItemText(CDC* pDC, UINT nItem, const CRect& rc, BOOL bSelected, int* pWidths);
+    virtual void DrawItemBitmap(CDC* pDC, UINT nItem, const CRect& rc);
+    virtual void SortOnHeader(int nCol);
+    virtual int CalculateItemWidth(CDC* pDC, int nItem);
+
+    void OutputFormattedText(CDC* pDC, const CRect& rc, const CString& strText, BOOL bSelected,
+                             UINT nFormat, BOOL bUseColors);
+    BOOL FillEmptySpace(CDC* pDC);
+    void CalcSingleColWidth();
+    BOOL InReportMode();
+    UINT GetColDrawFormat(int nCol) const;
+    UINT GetHdrDrawFormat(int nCol);
+    BOOL NextField(const CString& strRow, int& nPos, CString& strField) const;
+    // The text of a cell with its style code, valid until the next call.
+    LPCSTR CellText(int nItem, int nCol);
+
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+    afx_msg void OnPaint();
+    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnWindowPosChanging(WINDOWPOS* pPos);
+    afx_msg void OnWindowPosChanged(WINDOWPOS* pPos);
+    afx_msg void OnItemclick(NMHDR* pHdr, LRESULT* pResult);
+    afx_msg LRESULT OnInsertColumn(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnDeleteColumn(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnDeleteListItem(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnDeleteAllItems(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnRowsChange(WPARAM wParam, LPARAM lParam);
+    DECLARE_MESSAGE_MAP()
+
+    void (*m_pfnSort)(int nCol, void* pData) = nullptr;
+    void* m_pSortData = nullptr;
+    qv::ListColumns m_columns;
+    BOOL m_bSingleColumn = TRUE;
+    CImageList m_imageList;
+    int m_nTextHeight = 0;  // without internal leading, measured once
+    int m_nImageWidth = 0;  // 0: no images
+    int m_nImageHeight = 0;
+    int m_nClientWidth = 0;
+    int m_nDataWidth = -1;  // -1: not known
+    CRect m_rcWindow;       // at the last fit of the single column
+    int m_nBackWidth = 0;   // of the bitmap that a row is composed in; it only grows
+    int m_nBackHeight = 0;
+    CBitmap m_bmpBack;
+    CDC m_dcMem;      // lives for one paint
+    CBrush m_brItem;  // both live for one row
+    CBrush m_brBlank;
+    CPen m_penPrint;
+    CFont* m_pPrintFont = nullptr;
+    CFont* m_pPrintHeaderFont = nullptr;
+    int m_nPrintHeaderHeight = 0;  // unless 0, what HeaderPrintHeight gives
+    BOOL m_bImageCenterVert = TRUE;
+    BOOL m_bImageFirstCol = FALSE;
+    BOOL m_bAlwaysHighlightSel = FALSE;
+    BOOL m_bAllowSel = TRUE;
+    CArray<DWORD_PTR, DWORD_PTR> m_aSavedSel;
+    int m_nPrintScale = 1;  // printer pixels a screen pixel
+    DWORD m_dwDefStyle;
+
+private:
+    class Places;
+
+    int FirstTextColumn() const { return m_bImageFirstCol ? 1 : 0; }
+    qv::RowLayout Layout();
+    void LoadImages(UINT nBitmapID, COLORREF crMask, int cx);
+    void TakeFontOfParents();
+    void MeasureFont();
+    void FillRest(int nFillCol, int nAvailable);
+    bool HasFocus() const { return ::GetFocus() == m_hWnd; }
+    bool ShowsSelAlways() const { return (GetStyle() & LVS_SHOWSELALWAYS) != 0; }
+    void GrowBackBitmap(CDC& dc, int cx, int cy);
+    COLORREF StyleBackground(int nStyle) const;
+    void FillCell(CDC& dc, const CRect& rc, const CString& strText, int nCol);
+    void ComposeText(UINT nItem, const CRect& rcRow, const qv::RowLayout& layout,
+                     qv::Highlight highlight);
+    int RowsThatFit(CDC* pDC, const CRect& rc, int& nHeight);
+    int PrintRows(CDC* pDC, UINT nFirst, UINT nEnd, const CRect& rc, int nHeight, int nMost);
+    // Inserting a row, and what becomes of the places kept for AddBitmapString.
+    int InsertRow(int nImage, int nIndex, LPCSTR pszText);
+    std::string PlaceKey(LPCSTR pszText, bool bNumeric) const;
+    void ReadPlaces(bool bNumeric);
+
+    std::vector<char> m_aCellText;
+    std::unique_ptr<Places> m_pPlaces;
+};

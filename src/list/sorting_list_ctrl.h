@@ -1,0 +1,50 @@
+// QVSortingListCtrl: a report list that sorts itself when a heading is clicked.
+//
+// Each heading is added with the type of its column. A click sorts by that column, ascending; a
+// second click on it descending. A list that was never sorted counts as sorted by column 0, so the
+// first click there gives the descending order.
+
+#pragma once
+
+#include "list/list_ctrl.h"
+
+// How a column's texts are compared.
+enum QVLISTCTRL_DATATYPE {
+    lcdtString = 0,  // without regard to case; a style code counts, but for column 0
+    lcdtDate = 1,    // by the user's locale; what is no date stands at 1 January 1970
+    lcdtNumber = 2,  // as unsigned 32-bit numbers: negative ones stand behind all others
+};
+
+class QV_CONTROLS_API QVSortingListCtrl : public QVListCtrlEx {
+    DECLARE_DYNCREATE(QVSortingListCtrl)
+
+public:
+    QVSortingListCtrl() = default;
+
+    // Headings, all of one type.
+    void AddHeader(LPCSTR pszHeaders, QVLISTCTRL_DATATYPE nType);
+    void AddHeader(UINT nStringID, QVLISTCTRL_DATATYPE nType);
+    // Both do nothing and give -1, so that no column comes into being without a type.
+    int InsertColumn(int nCol, const LVCOLUMN* pColumn);
+    int InsertColumn(int nCol, LPCSTR pszHeading, int nFormat, int nWidth, int nSubItem);
+    QVLISTCTRL_DATATYPE ColumnSortType(int nCol) const;
+    // Sorts anew by the column and in the direction of the last sort.
+    void ReSort();
+
+protected:
+    // Sorts, and turns the direction if nCol is the column of the last sort. Item data come back
+    // unchanged. Without memory the rows stay as they are.
+    void SortOnHeader(int nCol) override;
+    int HeaderColumnCount(LPCSTR pszHeaders) const;
+    static int CALLBACK SortFunc(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort);
+
+    int m_nSortCol = 0;
+    BOOL m_bAscending = TRUE;
+    CWordArray m_aColTypes;  // a column beyond its end is lcdtString
+
+private:
+    struct Record;
+    class Sort;
+
+    Sort* m_pSort = nullptr;  // lives for one sort
+};

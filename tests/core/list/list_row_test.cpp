@@ -1,0 +1,74 @@
+#include "list/core/list_row.h"
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+
+namespace qv {
+
+namespace {
+
+std::string Joined(std::initializer_list<const char*> cells) {
+    std::string strRow;
+    for (const char* psz : cells) {
+        JoinCell(strRow, psz, ',');
+    }
+    return strRow;
+}
+
+}  // namespace
+
+TEST(ListRow, ASeparatorIsWrittenOnlyBehindSomething) {
+    EXPECT_EQ(Joined({"", "x", "y"}), "x,y");
+    EXPECT_EQ(Joined({"x", "", "y", ""}), "x,,y,");
+    EXPECT_EQ(Joined({"", ""}), "");
+}
+
+TEST(ListRow, HighlightFollowsFocusAndStyles) {
+    constexpr bool kNo = false, kYes = true;
+    for (const bool bShow : {kNo, kYes}) {
+        for (const bool bAlways : {kNo, kYes}) {
+            EXPECT_EQ(RowHighlight(kYes, kYes, bShow, bAlways), Highlight::Full);
+            EXPECT_EQ(RowHighlight(kNo, kYes, bShow, bAlways), Highlight::None);
+        }
+    }
+    EXPECT_EQ(RowHighlight(kYes, kNo, kYes, kYes), Highlight::Full);
+    EXPECT_EQ(RowHighlight(kYes, kNo, kYes, kNo), Highlight::Faded);
+    EXPECT_EQ(RowHighlight(kYes, kNo, kNo, kYes), Highlight::None);
+}
+
+TEST(ListRow, TextBeginsBehindTheImageAndEndsWithTheData) {
+    RowLayout layout{.nClientWidth = 400,
+                     .nDataWidth = 300,
+                     .nImageWidth = 16,
+                     .nImageHeight = 16,
+                     .nTextHeight = 11};
+    EXPECT_EQ(layout.Width(), 400);
+    EXPECT_EQ(layout.TextCells(18), (Rect{16, 0, 300, 18}));
+    EXPECT_EQ(layout.Blank(18), (Rect{300, 0, 400, 18}));
+    EXPECT_EQ(layout.Focus(18), (Rect{18, 0, 300, 18}));
+    EXPECT_EQ(layout.TextInset(), 2);
+    layout.nClientWidth = 200;
+    EXPECT_EQ(layout.Width(), 300);
+    EXPECT_EQ(layout.Blank(18).Width(), 0);
+    layout.nImageHeight = 11;
+    EXPECT_EQ(layout.TextInset(), 0);
+}
+
+TEST(ListRow, TheImageStandsAtTheLeftOrAloneInTheFirstColumn) {
+    RowLayout layout{
+        .nDataWidth = 300, .nFirstColWidth = 41, .nImageWidth = 16, .nImageHeight = 13};
+    const Rect rcRow{5, 10, 305, 30};
+    EXPECT_EQ(layout.ImageCell(rcRow), (Rect{5, 10, 23, 30}));
+    EXPECT_EQ(layout.ImagePosition(rcRow).x, 6);
+    EXPECT_EQ(layout.ImagePosition(rcRow).y, 12);
+    layout.bImageCenterVert = true;
+    EXPECT_EQ(layout.ImagePosition(rcRow).y, 13);
+    layout.bImageFirstCol = true;
+    EXPECT_EQ(layout.ImageCell(rcRow), (Rect{5, 10, 46, 30}));
+    EXPECT_EQ(layout.ImagePosition(rcRow).x, 17);
+    EXPECT_EQ(layout.TextCells(20).left, 41);
+    EXPECT_EQ(layout.Focus(20).left, 41);
+}
+
+}  // namespace qv
