@@ -66,11 +66,13 @@ MultiByte MultiByte::SingleByte(const FoldTable& fold) {
     return text;
 }
 
-MultiByte MultiByte::DoubleByte(const FoldTable& fold, const LeadTable& lead) {
+MultiByte MultiByte::DoubleByte(const FoldTable& fold, const LeadTable& lead,
+                                std::uint32_t (*pfnFold)(std::uint32_t)) {
     MultiByte text = SingleByte(fold);
     text.m_kind = Kind::DoubleByte;
     text.m_lead = lead;
     text.m_lead[0] = false;
+    text.m_pfnFold = pfnFold;
     return text;
 }
 
@@ -117,7 +119,8 @@ std::uint32_t MultiByte::NextFolded(const char*& psz) const {
         return bStray ? 0x200000u + p[0] : m_fold[p[0]];
     }
     if (m_kind == Kind::DoubleByte) {
-        return static_cast<std::uint32_t>(p[0]) << 8 | p[1];
+        const std::uint32_t c = static_cast<std::uint32_t>(p[0]) << 8 | p[1];
+        return m_pfnFold != nullptr ? m_pfnFold(c) : c;
     }
     std::uint32_t c = p[0] & (0xFFu >> (nBytes + 1));
     for (std::size_t i = 1; i < nBytes; ++i) {

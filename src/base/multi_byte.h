@@ -22,7 +22,9 @@ public:
     // Single bytes, with ASCII letters folded.
     MultiByte();
     static MultiByte SingleByte(const FoldTable& fold);
-    static MultiByte DoubleByte(const FoldTable& fold, const LeadTable& lead);
+    // pfnFold folds double-byte characters; null leaves them as they are.
+    static MultiByte DoubleByte(const FoldTable& fold, const LeadTable& lead,
+                                std::uint32_t (*pfnFold)(std::uint32_t) = nullptr);
     // UTF-8; ASCII, Latin, Greek and Cyrillic letters are folded, one code point to one.
     static MultiByte Utf8();
 
@@ -46,6 +48,7 @@ private:
     Kind m_kind = Kind::SingleByte;
     FoldTable m_fold;
     LeadTable m_lead{};
+    std::uint32_t (*m_pfnFold)(std::uint32_t) = nullptr;
 };
 
 }  // namespace qv

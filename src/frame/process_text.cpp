@@ -33,7 +33,9 @@ MultiByte MakeProcessText() {
     }
     CPINFO info{};
     ::GetCPInfo(CP_ACP, &info);
-    return info.MaxCharSize > 1 ? MultiByte::DoubleByte(PlatformFold(), PlatformLeadBytes(info))
+    return info.MaxCharSize > 1 ? MultiByte::DoubleByte(
+                                      PlatformFold(), PlatformLeadBytes(info),
+                                      [](std::uint32_t c) { return std::uint32_t{_mbctolower(c)}; })
                                 : MultiByte::SingleByte(PlatformFold());
 }
 

@@ -26,7 +26,8 @@ BOOL QVStyledRows::HasStyle(LPCSTR pszText) const {
 }
 
 CString QVStyledRows::MakeStyleCodes(int nStyle) {
-    return qv::MakeStyleCodes(nStyle).data();
+    // Two bytes in any case, though an index far beyond any table makes the second one 0.
+    return CString(qv::MakeStyleCodes(nStyle).data(), nStyle >= 0 ? 2 : 0);
 }
 
 CString QVStyledRows::MakeStyleText(LPCSTR pszText, int nStyle) const {

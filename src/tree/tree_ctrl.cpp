@@ -13,6 +13,17 @@ constexpr UINT kCheckStatesBitmap = 30008;
 constexpr int kStateImageWidth = 12;
 constexpr COLORREF kStateImageMask = RGB(0, 128, 128);
 
+// A deleted item, or a TVI_ position where an item is meant.
+bool IsDead(HTREEITEM hItem) {
+    return hItem == TVI_ROOT || hItem == TVI_FIRST || hItem == TVI_LAST || hItem == TVI_SORT ||
+           (hItem != nullptr && hItem->pszText == nullptr);
+}
+
+// What getters of an item's attributes read: null for no item and for a dead one.
+HTREEITEM Live(HTREEITEM hItem) {
+    return IsDead(hItem) ? nullptr : hItem;
+}
+
 }  // namespace
 
 IMPLEMENT_DYNCREATE(QVTreeCtrlEx, CWnd)
@@ -159,6 +170,9 @@ BOOL QVTreeCtrlEx::DeleteItem(HTREEITEM hItem) {
 }
 
 BOOL QVTreeCtrlEx::DeleteChildren(HTREEITEM hItem) {
+    if (IsDead(hItem)) {
+        return FALSE;
+    }
     return m_pCore->DeleteChildren(hItem);
 }
 
@@ -172,11 +186,17 @@ BOOL QVTreeCtrlEx::ChangeParent(HTREEITEM hItem, HTREEITEM hNewParent) {
 }
 
 BOOL QVTreeCtrlEx::SortChildren(HTREEITEM hParent) {
+    if (IsDead(hParent)) {
+        return FALSE;
+    }
     return m_pCore->SortChildren(hParent);
 }
 
 HTREEITEM QVTreeCtrlEx::FindItem(HTREEITEM hParent, const CString& strText, int nImage) {
-    return m_pCore->FindItem(hParent, strText, nImage);
+    if (hParent == TVI_ROOT) {
+        hParent = nullptr;
+    }
+    return IsDead(hParent) ? nullptr : m_pCore->FindItem(hParent, strText, nImage);
 }
 
 int QVTreeCtrlEx::CompareItems(HTREEITEM hItem1, HTREEITEM hItem2) {
@@ -186,7 +206,10 @@ int QVTreeCtrlEx::CompareItems(HTREEITEM hItem1, HTREEITEM hItem2) {
 // --- Navigation
 
 HTREEITEM QVTreeCtrlEx::GetNextItem(HTREEITEM hItem, UINT nCode) {
-    return m_pCore->GetNextItem(hItem, nCode);
+    if (hItem == TVI_ROOT) {
+        hItem = nullptr;
+    }
+    return IsDead(hItem) ? nullptr : m_pCore->GetNextItem(hItem, nCode);
 }
 
 HTREEITEM QVTreeCtrlEx::GetSelectedItem() {
@@ -194,45 +217,45 @@ HTREEITEM QVTreeCtrlEx::GetSelectedItem() {
 }
 
 HTREEITEM QVTreeCtrlEx::GetLastChild(HTREEITEM hItem) {
-    return m_pCore->GetLastChild(hItem);
+    return m_pCore->GetLastChild(Live(hItem));
 }
 
 HTREEITEM QVTreeCtrlEx::WalkNext(HTREEITEM hItem) {
-    return m_pCore->WalkNext(hItem);
+    return m_pCore->WalkNext(Live(hItem));
 }
 
 HTREEITEM QVTreeCtrlEx::WalkPrev(HTREEITEM hItem) {
-    return m_pCore->WalkPrev(hItem);
+    return m_pCore->WalkPrev(Live(hItem));
 }
 
 HTREEITEM QVTreeCtrlEx::NextDisplayableItem(HTREEITEM hItem) {
-    return m_pCore->NextDisplayableItem(hItem);
+    return m_pCore->NextDisplayableItem(Live(hItem));
 }
 
 HTREEITEM QVTreeCtrlEx::LastDisplayableItem(HTREEITEM hItem) {
-    return m_pCore->LastDisplayableItem(hItem);
+    return m_pCore->LastDisplayableItem(Live(hItem));
 }
 
 BOOL QVTreeCtrlEx::CheckForAncestor(HTREEITEM hItem, HTREEITEM hAncestor) {
-    return m_pCore->CheckForAncestor(hItem, hAncestor);
+    return m_pCore->CheckForAncestor(Live(hItem), Live(hAncestor));
 }
 
 // --- Attributes
 
 CString QVTreeCtrlEx::GetItemText(HTREEITEM hItem) {
-    return hItem != nullptr ? CString(hItem->pszText) : g_strEmpty;
+    return Live(hItem) != nullptr ? CString(hItem->pszText) : g_strEmpty;
 }
 
 void QVTreeCtrlEx::SetItemText(HTREEITEM hItem, const CString& strText) {
-    m_pCore->SetItemText(hItem, strText);
+    m_pCore->SetItemText(Live(hItem), strText);
 }
 
 DWORD_PTR QVTreeCtrlEx::GetItemData(HTREEITEM hItem) {
-    return hItem != nullptr ? hItem->dwData : 0;
+    return Live(hItem) != nullptr ? hItem->dwData : 0;
 }
 
 BOOL QVTreeCtrlEx::SetItemData(HTREEITEM hItem, DWORD_PTR dwData) {
-    if (hItem == nullptr) {
+    if (Live(hItem) == nullptr) {
         return FALSE;
     }
     hItem->dwData = dwData;
@@ -240,7 +263,7 @@ BOOL QVTreeCtrlEx::SetItemData(HTREEITEM hItem, DWORD_PTR dwData) {
 }
 
 BOOL QVTreeCtrlEx::GetItemImage(HTREEITEM hItem, int& nImage, int& nSelectedImage) {
-    if (hItem == nullptr) {
+    if (Live(hItem) == nullptr) {
         return FALSE;
     }
     nImage = hItem->nImage;
@@ -249,7 +272,7 @@ BOOL QVTreeCtrlEx::GetItemImage(HTREEITEM hItem, int& nImage, int& nSelectedImag
 }
 
 int QVTreeCtrlEx::GetItemImage(HTREEITEM hItem) {
-    return hItem != nullptr ? hItem->nImage : -1;
+    return Live(hItem) != nullptr ? hItem->nImage : -1;
 }
 
 BOOL QVTreeCtrlEx::SetItemImage(HTREEITEM hItem, int nImage) {
@@ -257,16 +280,16 @@ BOOL QVTreeCtrlEx::SetItemImage(HTREEITEM hItem, int nImage) {
 }
 
 BOOL QVTreeCtrlEx::SetItemImage(HTREEITEM hItem, int nImage, int nSelectedImage) {
-    m_pCore->SetItemImage(hItem, nImage, nSelectedImage);
+    m_pCore->SetItemImage(Live(hItem), nImage, nSelectedImage);
     return FALSE;
 }
 
 UINT QVTreeCtrlEx::GetItemState(HTREEITEM hItem) {
-    return hItem != nullptr ? hItem->nState : 0;
+    return Live(hItem) != nullptr ? hItem->nState : 0;
 }
 
 void QVTreeCtrlEx::SetItemState(HTREEITEM hItem, UINT nState, UINT nMask) {
-    m_pCore->SetItemState(hItem, nState, nMask);
+    m_pCore->SetItemState(Live(hItem), nState, nMask);
 }
 
 UINT QVTreeCtrlEx::StateImageFromState(UINT nState) {
@@ -278,15 +301,15 @@ UINT QVTreeCtrlEx::SetStateImage(UINT nState, UINT nImage) {
 }
 
 BOOL QVTreeCtrlEx::HaveStateImage(HTREEITEM hItem) {
-    return m_pCore->HaveStateImage(hItem);
+    return m_pCore->HaveStateImage(Live(hItem));
 }
 
 UINT QVTreeCtrlEx::GetItemStateImage(HTREEITEM hItem) {
-    return m_pCore->GetItemStateImage(hItem);
+    return m_pCore->GetItemStateImage(Live(hItem));
 }
 
 void QVTreeCtrlEx::SetItemStateImage(HTREEITEM hItem, UINT nImage, BOOL bChildren) {
-    m_pCore->SetItemStateImage(hItem, nImage, bChildren);
+    m_pCore->SetItemStateImage(Live(hItem), nImage, bChildren);
 }
 
 BOOL QVTreeCtrlEx::GetCheck(HTREEITEM hItem) {
@@ -298,14 +321,14 @@ void QVTreeCtrlEx::SetCheck(HTREEITEM hItem, BOOL bCheck, BOOL bChildren) {
 }
 
 HTREEITEM QVTreeCtrlEx::GetNextCheckedItem(HTREEITEM hItem, UINT nState) {
-    return m_pCore->GetNextCheckedItem(hItem, nState);
+    return IsDead(hItem) ? nullptr : m_pCore->GetNextCheckedItem(hItem, nState);
 }
 
 BOOL QVTreeCtrlEx::GetItem(TVITEM* pItem) {
     if (pItem == nullptr) {
         return FALSE;
     }
-    MakeTVItem(pItem->hItem, *pItem, TRUE);
+    MakeTVItem(Live(pItem->hItem), *pItem, TRUE);
     return TRUE;
 }
 
@@ -317,7 +340,7 @@ BOOL QVTreeCtrlEx::ChangeStyle(char* pszText, int nStyle) {
 
 int QVTreeCtrlEx::ChangeItemStyles(HTREEITEM hItem, int nStyle, BOOL bUpTheTree,
                                    BOOL bOnlyDefault) {
-    return m_pCore->ChangeItemStyles(hItem, nStyle, bUpTheTree, bOnlyDefault);
+    return m_pCore->ChangeItemStyles(Live(hItem), nStyle, bUpTheTree, bOnlyDefault);
 }
 
 // --- Columns
@@ -396,7 +419,7 @@ void QVTreeCtrlEx::CalcItemRect(CDC& dc, int nTop, HTREEITEM hItem, CRect& rect,
 
 BOOL QVTreeCtrlEx::GetItemRect(HTREEITEM hItem, LPRECT pRect, BOOL bTextOnly) {
     qv::Rect rect;
-    if (!m_pCore->GetItemRect(hItem, rect, bTextOnly)) {
+    if (!m_pCore->GetItemRect(Live(hItem), rect, bTextOnly)) {
         return FALSE;
     }
     *pRect = qv::ToCRect(rect);
@@ -414,7 +437,7 @@ HTREEITEM QVTreeCtrlEx::HitTest(CPoint pt, UINT* pFlags, CRect* pRect) {
 }
 
 BOOL QVTreeCtrlEx::ItemVisible(HTREEITEM hItem) {
-    return m_pCore->ItemVisible(hItem);
+    return m_pCore->ItemVisible(Live(hItem));
 }
 
 BOOL QVTreeCtrlEx::ItemExpanded(HTREEITEM hItem) {
@@ -422,19 +445,19 @@ BOOL QVTreeCtrlEx::ItemExpanded(HTREEITEM hItem) {
 }
 
 BOOL QVTreeCtrlEx::EnsureVisible(HTREEITEM hItem) {
-    return m_pCore->EnsureVisible(hItem);
+    return m_pCore->EnsureVisible(Live(hItem));
 }
 
 BOOL QVTreeCtrlEx::Expand(HTREEITEM hItem, UINT nCode, BOOL bInvalidate, BOOL bCollapseChildren) {
-    return m_pCore->Expand(hItem, nCode, bInvalidate, bCollapseChildren);
+    return m_pCore->Expand(Live(hItem), nCode, bInvalidate, bCollapseChildren);
 }
 
 BOOL QVTreeCtrlEx::SelectItem(HTREEITEM hItem) {
-    return m_pCore->SelectItem(hItem);
+    return !IsDead(hItem) && m_pCore->SelectItem(hItem);
 }
 
 void QVTreeCtrlEx::InvalidateItem(HTREEITEM hItem, BOOL bErase) {
-    m_pCore->InvalidateItem(hItem, bErase);
+    m_pCore->InvalidateItem(Live(hItem), bErase);
 }
 
 void QVTreeCtrlEx::OnSize(UINT, int, int) {

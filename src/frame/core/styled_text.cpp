@@ -72,7 +72,7 @@ int StyleTable::ParseStyle(const char* pszText) const {
 }
 
 const char* StyleTable::ParseStyleText(const char* pszText) const {
-    if (pszText == nullptr) {
+    if (pszText == nullptr || *pszText == 0) {
         return "";
     }
     if (!HasStyle(pszText)) {

@@ -234,8 +234,7 @@ HTREEITEM TreeItems::InsertItem(const char* pszText, int nImage, int nSelectedIm
         return nullptr;
     }
     std::memcpy(hItem->pszText, pszText, nBytes);
-    PositionInTree(hItem, hParent, hInsertAfter);
-    return hItem;
+    return PositionInTree(hItem, hParent, hInsertAfter) ? hItem : nullptr;
 }
 
 // The first item of the root level, also while m_hRootItem has been moved away from it.
@@ -251,11 +250,12 @@ HTREEITEM TreeItems::RootRunStart() const {
     return hItem;
 }
 
-void TreeItems::PositionInTree(HTREEITEM hItem, HTREEITEM hParent, HTREEITEM hInsertAfter) {
+bool TreeItems::PositionInTree(HTREEITEM hItem, HTREEITEM hParent, HTREEITEM hInsertAfter) {
     if (hParent == TVI_ROOT) {
         hParent = nullptr;
     }
-    if (hInsertAfter == nullptr || (!IsPosition(hInsertAfter) && !IsLive(hInsertAfter))) {
+    if (hInsertAfter == nullptr || hInsertAfter == TVI_ROOT ||
+        (!IsPosition(hInsertAfter) && !IsLive(hInsertAfter))) {
         hInsertAfter = TVI_LAST;
     }
     const bool bBehindItem = !IsPosition(hInsertAfter);
@@ -270,11 +270,8 @@ void TreeItems::PositionInTree(HTREEITEM hItem, HTREEITEM hParent, HTREEITEM hIn
     if (hInsertAfter == TVI_FIRST) {
         hNext = hFirst;
     } else if (hInsertAfter == TVI_SORT) {
-        // Exactly -1 is less; a CompareItems that gives another negative value says nothing here.
-        for (hNext = hFirst; hNext != nullptr; hNext = hNext->pNextSibling) {
-            if (CompareItems(hItem, hNext) == -1) {
-                break;
-            }
+        if (!FindSortedPlace(hItem, hFirst, hNext)) {
+            return false;
         }
     } else if (bBehindItem) {
         hNext = hInsertAfter->pNextSibling;
@@ -292,6 +289,29 @@ void TreeItems::PositionInTree(HTREEITEM hItem, HTREEITEM hParent, HTREEITEM hIn
         m_hTopItem = hItem;
     }
     ++m_nLinkChanges;
+    return true;
+}
+
+// Exactly -1 is less; a CompareItems that gives another negative value says nothing here. One that
+// changes the tree's links leaves no place to be found: the item is given back, and false comes
+// out.
+bool TreeItems::FindSortedPlace(HTREEITEM hItem, HTREEITEM hFirst, HTREEITEM& hNext) {
+    const Watch watch(*this, hItem);
+    const unsigned nLinkChanges = m_nLinkChanges;
+    for (hNext = hFirst; hNext != nullptr; hNext = hNext->pNextSibling) {
+        const bool bLess = CompareItems(hItem, hNext) == -1;
+        if (!watch.ItemAlive()) {
+            return false;
+        }
+        if (nLinkChanges != m_nLinkChanges) {
+            ReturnHandle(hItem);
+            return false;
+        }
+        if (bLess) {
+            break;
+        }
+    }
+    return true;
 }
 
 void TreeItems::LinkBefore(HTREEITEM hItem, HTREEITEM hNext) {

@@ -77,7 +77,8 @@ public:
 
     // --- Items
 
-    // Null if memory runs out or hParent is no item of the tree; nothing has changed then.
+    // Null if memory runs out, if hParent is no item of the tree, or if a replaced CompareItems
+    // changes the tree meanwhile; the item is not in the tree then.
     // A handle as hInsertAfter puts the item directly behind that one; where that one has another
     // parent than hParent, its parent becomes the new item's, so that the links stay sound.
     HTREEITEM InsertItem(const char* pszText, int nImage, int nSelectedImage, HTREEITEM hParent,
@@ -169,7 +170,8 @@ private:
     HTREEITEM AllocNewHandle();
     void ReturnHandle(HTREEITEM hItem);
     bool AddSlab();
-    void PositionInTree(HTREEITEM hItem, HTREEITEM hParent, HTREEITEM hInsertAfter);
+    bool PositionInTree(HTREEITEM hItem, HTREEITEM hParent, HTREEITEM hInsertAfter);
+    bool FindSortedPlace(HTREEITEM hItem, HTREEITEM hFirst, HTREEITEM& hNext);
     void LinkBefore(HTREEITEM hItem, HTREEITEM hNext);
     void LinkAfter(HTREEITEM hItem, HTREEITEM hPrev);
     void Unlink(HTREEITEM hItem);
@@ -178,7 +180,7 @@ private:
     void MoveSelectionOutOf(HTREEITEM hItem);
     void MoveTopOutOf(HTREEITEM hItem);
     void ReleaseDescendants(HTREEITEM hItem);
-    void SortHandles(std::vector<HTREEITEM>& handles);
+    void SortHandles(std::vector<HTREEITEM>& handles, const Watch& watch);
     bool CheckRun(HTREEITEM hFirst, HTREEITEM hLast, HTREEITEM hParent, size_t& nItems) const;
 
     const MultiByte& m_text;

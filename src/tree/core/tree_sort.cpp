@@ -58,7 +58,7 @@ bool TreeItems::SortChildren(HTREEITEM hParent) {
         for (HTREEITEM h = hParent->pFirstChild; h != nullptr; h = h->pNextSibling) {
             handles.push_back(h);
         }
-        SortHandles(handles);
+        SortHandles(handles, watch);
     } catch (const std::bad_alloc&) {
         return false;
     }
@@ -76,9 +76,13 @@ bool TreeItems::SortChildren(HTREEITEM hParent) {
     return true;
 }
 
-void TreeItems::SortHandles(std::vector<HTREEITEM>& handles) {
+void TreeItems::SortHandles(std::vector<HTREEITEM>& handles, const Watch& watch) {
     if (ReplacesCompareItems()) {
-        MergeSort(handles, [this](HTREEITEM h1, HTREEITEM h2) { return CompareItems(h1, h2) < 0; });
+        // It may change the tree or even destroy it; the items are not asked for any more then.
+        const unsigned nLinkChanges = m_nLinkChanges;
+        MergeSort(handles, [&](HTREEITEM h1, HTREEITEM h2) {
+            return watch.TreeAlive() && nLinkChanges == m_nLinkChanges && CompareItems(h1, h2) < 0;
+        });
         return;
     }
     // The texts do not change meanwhile, so each is folded once. Keys are made in the old order,

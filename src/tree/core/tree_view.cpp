@@ -106,6 +106,9 @@ bool TreeView::ChangeParent(HTREEITEM hItem, HTREEITEM hNewParent) {
 }
 
 bool TreeView::SortChildren(HTREEITEM hParent) {
+    if (hParent == nullptr || hParent == TVI_ROOT) {
+        return false;
+    }
     const Watch watch(*this, hParent);
     if (!TreeItems::SortChildren(hParent) || !watch.TreeAlive()) {
         return false;

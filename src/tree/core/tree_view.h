@@ -175,8 +175,11 @@ private:
             change();
         } catch (const std::bad_alloc&) {
             DropRows();
+            ForgetLeaves();
         }
     }
+    // Rows that were being added may point at leaves that are gone.
+    void ForgetLeaves();
     void CollectRows(HTREEITEM hFirst, HTREEITEM hEnd);
     void InsertRows(HTREEITEM hItem);
     void EraseRows(HTREEITEM hItem, bool bItemToo);

@@ -35,14 +35,18 @@ bool TreeView::EnsureRows() {
         m_rows.Insert(nullptr, m_collected);
     } catch (const std::bad_alloc&) {
         m_rows.Clear(false);
-        for (HTREEITEM h = m_hRootItem; h != nullptr; h = NextDisplayableItem(h)) {
-            h->pRowLeaf = nullptr;
-        }
+        ForgetLeaves();
         return false;
     }
     m_bRowsValid = true;
     m_bDetachedRows = RootDetached();
     return true;
+}
+
+void TreeView::ForgetLeaves() {
+    for (HTREEITEM h = m_hRootItem; h != nullptr; h = NextDisplayableItem(h)) {
+        h->pRowLeaf = nullptr;
+    }
 }
 
 bool TreeView::IsDisplayed(HTREEITEM hItem) const {

@@ -71,6 +71,44 @@ TEST(TreeInsert, DeletedHandlesAreHarmless) {
     EXPECT_TRUE(tree.CheckInvariants());
 }
 
+TEST(TreeSort, AComparisonThatChangesTheTreeStopsIt) {
+    for (const bool bSort : {true, false}) {
+        TestTree tree;
+        HTREEITEM p = tree.Add("p");
+        for (const char* psz : {"c", "b", "a"}) {
+            tree.Add(psz, p);
+        }
+        tree.compare = [&](HTREEITEM, HTREEITEM) {
+            tree.DeleteAllItems();
+            return 1;
+        };
+        if (bSort) {
+            EXPECT_FALSE(tree.SortChildren(p));
+        } else {
+            EXPECT_EQ(tree.Add("d", p, TVI_SORT), nullptr);
+        }
+        EXPECT_EQ(tree.Walk(), "");
+        EXPECT_TRUE(tree.CheckInvariants());
+
+        p = tree.Add("p");
+        HTREEITEM a = tree.Add("a", p);
+        tree.Add("b", p);
+        tree.compare = [&](HTREEITEM, HTREEITEM) {
+            tree.DeleteItem(a);
+            return 1;
+        };
+        if (bSort) {
+            EXPECT_FALSE(tree.SortChildren(p));
+        } else {
+            EXPECT_EQ(tree.Add("d", p, TVI_SORT), nullptr);
+        }
+        EXPECT_EQ(tree.Walk(), "p b");
+        EXPECT_TRUE(tree.CheckInvariants());
+    }
+    TestTree tree;
+    EXPECT_FALSE(tree.SortChildren(TVI_ROOT));
+}
+
 TEST(TreeInsert, WithoutMemoryLeavesTheTreeAsItWas) {
     for (int nSucceeding = 0; nSucceeding < 3; ++nSucceeding) {
         TestTree tree;

@@ -1,0 +1,93 @@
+// QVPrintEngine: turns a document, given as items in reading order, into pages.
+//
+// Construct it with the device context that will be printed on, add items, call Paginate once with
+// the rectangle that pages have for text, then PrintPage for each page; draw page numbers and other
+// furniture around that rectangle yourself. Destroy the engine before the device context goes:
+// lists end their print run then.
+//
+// Ownership: the engine owns its items; copies of an engine share them. Fonts, lists, string arrays
+// and device contexts are the caller's and must outlive the engine.
+//
+// An engine paginates once: a second Paginate gives the number of pages again, but PrintPage finds
+// the pages of the first. What fits on no page gets a page of its own and is cut there.
+
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "print/print_engine_data.h"
+#include "print/print_labeled_list.h"
+
+class QVListCtrlEx;
+
+// One page: its items from first to last, the row at which the first one starts and the row with
+// which the last one ends (all bits set: its end).
+class QV_CONTROLS_API QVPrintEnginePage {
+public:
+    unsigned GetFirstItem() const { return m_nFirstItem; }
+    unsigned GetLastItem() const { return m_nLastItem; }
+    unsigned GetFirstSub() const { return m_nFirstSub; }
+    unsigned GetLastSub() const { return m_nLastSub; }
+    void SetFirstItem(unsigned n) { m_nFirstItem = n; }
+    void SetLastItem(unsigned n) { m_nLastItem = n; }
+    void SetFirstSub(unsigned n) { m_nFirstSub = n; }
+    void SetLastSub(unsigned n) { m_nLastSub = n; }
+
+private:
+    unsigned m_nFirstItem = 0;
+    unsigned m_nLastItem = 0;
+    unsigned m_nFirstSub = 0;
+    unsigned m_nLastSub = 0;
+};
+
+class QV_CONTROLS_API QVPrintEngine {
+public:
+    // Measures the fonts on pDC, which is not kept; without it all heights are 0.
+    QVPrintEngine(CDC* pDC, CFont* pHeaderFont, CFont* pNormalFont, CFont* pSectionFont);
+    QVPrintEngine(const QVPrintEngine&) = default;
+    QVPrintEngine& operator=(const QVPrintEngine&) = default;
+    ~QVPrintEngine();
+
+    // A line in the section font with a blank line above and below. Goes with what follows it.
+    void AddSectionHeader(unsigned nStringID);
+    void AddSectionHeader(const char* pszText);
+    // A line in the normal font that goes with what follows it.
+    void AddGroupHeader(unsigned nStringID);
+    void AddGroupHeader(const char* pszText);
+    // Text wrapped to the page's width: in the header font, or in pFont, null meaning the normal
+    // font. Each element of an array begins a line.
+    void AddHeader(const CString& strText, CDC* pDC);
+    void AddText(const CString& strText, CDC* pDC, CFont* pFont);
+    void AddText(const CStringArray& aText, CDC* pDC, CFont* pFont);
+    // A blank line, but not at the top of a page.
+    void AddBreak();
+    // All rows of a list, its headings on each page. The list is in a print run as long as the item
+    // lives.
+    void AddList(QVListCtrlEx* pList, CDC* pDC);
+    // Rows of TAB-separated fields in the columns of a list. The array is not copied.
+    void AddStringList(CStringArray* pRows, QVListCtrlEx* pList, CDC* pDC);
+    // To be filled by the caller.
+    QVPeDataLabeledList& AddLabeledDataList(CDC* pDC);
+
+    // The number of pages; only the width and height of rect count.
+    unsigned Paginate(const CRect& rect);
+    // nPage counts from 1; one that does not exist prints nothing.
+    void PrintPage(CDC* pDC, const CRect& rect, unsigned nPage);
+
+private:
+    class PageItems;
+
+    void ClearData();
+    void Add(std::shared_ptr<QVPrintEngineData> pItem) { m_Items.push_back(std::move(pItem)); }
+
+    CFont* m_pHeaderFont;
+    CFont* m_pNormalFont;
+    CFont* m_pSectionFont;
+    unsigned m_nHeaderHeight = 0;
+    unsigned m_nNormalHeight = 0;
+    unsigned m_nSectionHeight = 0;
+    bool m_bNeedsPagination = true;
+    std::vector<std::shared_ptr<QVPrintEngineData>> m_Items;
+    std::vector<QVPrintEnginePage> m_Pages;
+};

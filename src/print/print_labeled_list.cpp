@@ -1,0 +1,105 @@
+#include "print/print_labeled_list.h"
+
+#include <algorithm>
+
+#include "frame/select_object.h"
+#include "print/core/pagination.h"
+#include "print/core/row_split.h"
+#include "print/print_items.h"
+
+namespace {
+
+constexpr int kIndentSpaces = 6;
+constexpr char kWidestNumber[] = "9,999,999";
+
+}  // namespace
+
+// CObject gives no copying of its own.
+QVPeDataLabeledListItem::QVPeDataLabeledListItem(const QVPeDataLabeledListItem& other)
+    : CObject(),
+      m_strLabel(other.m_strLabel),
+      m_strData(other.m_strData),
+      m_eJustification(other.m_eJustification) {}
+
+QVPeDataLabeledListItem& QVPeDataLabeledListItem::operator=(const QVPeDataLabeledListItem& other) {
+    Set(other.m_strLabel, other.m_strData, other.m_eJustification);
+    return *this;
+}
+
+void QVPeDataLabeledListItem::Set(const char* pszLabel, const char* pszData,
+                                  Justification eJustification) {
+    m_strLabel = pszLabel;
+    m_strData = pszData;
+    m_eJustification = eJustification;
+}
+
+QVPeDataLabeledList::QVPeDataLabeledList(CDC* pDC, CFont* pHeaderFont, unsigned nHeaderHeight,
+                                         CFont* pNormalFont, unsigned nNormalHeight)
+    : QVPrintEngineData(pHeaderFont, nHeaderHeight, pNormalFont, nNormalHeight), m_pDC(pDC) {
+    const qv::SelectGuard<CFont> font(*pDC, pNormalFont);
+    m_nSpace = static_cast<unsigned>(pDC->GetTextExtent("M", 1).cx);
+}
+
+void QVPeDataLabeledList::AddData(const char* pszLabel, const char* pszData,
+                                  QVPeDataLabeledListItem::Justification eJustification) {
+    CheckLabelWidth(pszLabel);
+    QVPeDataLabeledListItem item;
+    item.Set(pszLabel, pszData, eJustification);
+    m_Items.push_back(item);
+}
+
+void QVPeDataLabeledList::AddData(unsigned nLabelID, const char* pszData,
+                                  QVPeDataLabeledListItem::Justification eJustification) {
+    CString strLabel;
+    strLabel.LoadString(nLabelID);
+    AddData(static_cast<const char*>(strLabel), pszData, eJustification);
+}
+
+void QVPeDataLabeledList::CheckLabelWidth(const char* pszLabel) {
+    const qv::SelectGuard<CFont> font(*m_pDC, NormalFont());
+    const auto nWidth = static_cast<unsigned>(m_pDC->GetTextExtent(CString(pszLabel)).cx);
+    if (nWidth > m_nLabelWidth) {
+        m_nLabelWidth = nWidth;
+        m_nDataOffset = nWidth + m_nSpace;
+    }
+}
+
+unsigned QVPeDataLabeledList::MinSize() {
+    return NormalFontHeight() * std::min(Count(), 2u);
+}
+
+unsigned QVPeDataLabeledList::MaxSize() {
+    return NormalFontHeight() * Count();
+}
+
+bool QVPeDataLabeledList::PrintSize(unsigned nFirst, unsigned& nLast, unsigned& nRemaining) {
+    return qv::FitRows(Count(), 0, NormalFontHeight(), nFirst, nLast, nRemaining);
+}
+
+void QVPeDataLabeledList::Print(CDC* pDC, CRect& rect, unsigned nFirst, unsigned nLast) {
+    const unsigned nEnd = nLast == qv::kToEnd ? Count() : std::min(nLast + 1, Count());
+    if (nFirst >= nEnd) {
+        return;
+    }
+    const qv::SelectGuard<CFont> font(*pDC, NormalFont());
+    const auto nShift = m_bIndented ? kIndentSpaces * static_cast<int>(m_nSpace) : 0;
+    const auto nHeight = static_cast<int>(NormalFontHeight());
+    CRect rcLabel(rect.left + nShift, rect.top, rect.right, rect.top + nHeight);
+    CRect rcData(rcLabel);
+    rcData.left += static_cast<LONG>(m_nDataOffset);
+    CRect rcNumber(rcData);
+    rcNumber.right = rcNumber.left + pDC->GetTextExtent(CString(kWidestNumber)).cx;
+    for (unsigned n = nFirst; n < nEnd; ++n) {
+        const QVPeDataLabeledListItem& item = m_Items[n];
+        pDC->DrawText(item.Label(), &rcLabel, kPrintLabelFlags);
+        if (item.Justified() == QVPeDataLabeledListItem::Left) {
+            pDC->DrawText(item.Data(), &rcData, kPrintLabelFlags);
+        } else {
+            pDC->DrawText(item.Data(), &rcNumber, kPrintLabelFlags | DT_RIGHT);
+        }
+        for (CRect* pRect : {&rcLabel, &rcData, &rcNumber}) {
+            pRect->OffsetRect(0, nHeight);
+        }
+    }
+    rect.top = rcLabel.top;
+}
