@@ -40,3 +40,43 @@ private:
     TCHAR m_szFileTitle[MAX_PATH] = {};
     TCHAR m_szFileName[8 * MAX_PATH] = {};
 };
+
+/// Choosing a printer and what to print on it, or asking for the default printer. Whoever uses it
+/// deletes m_pd.hDC and frees m_pd.hDevMode and m_pd.hDevNames in the end.
+class QVAFX_API CPrintDialog : public CCommonDialog {
+    DECLARE_DYNAMIC(CPrintDialog)
+
+public:
+    /// Unless bPrintSetupOnly, a device context comes with the answer.
+    explicit CPrintDialog(BOOL bPrintSetupOnly,
+                          DWORD dwFlags = PD_ALLPAGES | PD_USEDEVMODECOPIES | PD_NOPAGENUMS |
+                                          PD_HIDEPRINTTOFILE | PD_NOSELECTION,
+                          CWnd* pParentWnd = nullptr);
+
+    PRINTDLG& m_pd;  ///< may be changed before DoModal
+
+    INT_PTR DoModal() override;
+    /// Asks for the default printer without showing anything. FALSE if there is none, or if m_pd
+    /// has printer settings already.
+    BOOL GetDefaults();
+
+    // The answer of either.
+    int GetCopies() const;
+    BOOL PrintAll() const;
+    BOOL PrintRange() const;
+    BOOL PrintSelection() const;
+    BOOL PrintCollate() const;
+    int GetFromPage() const;  ///< -1 unless a range was chosen
+    int GetToPage() const;    ///< -1 unless a range was chosen
+    CString GetDeviceName() const;
+    CString GetDriverName() const;
+    CString GetPortName() const;
+    /// Locked: call GlobalUnlock on m_pd.hDevMode afterwards. Null without a printer.
+    LPDEVMODE GetDevMode() const;
+    HDC GetPrinterDC() const { return m_pd.hDC; }
+    /// Makes a new one, which m_pd.hDC names from then on. Null without a printer.
+    HDC CreatePrinterDC();
+
+private:
+    PRINTDLG m_pdActual;
+};

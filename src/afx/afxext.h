@@ -1,7 +1,10 @@
-// Control bars: windows along the edges of a frame.
+// Control bars, which are windows along the edges of a frame, and the state of a print job.
 #pragma once
 
+#include "afxdlgs.h"
 #include "afxwin.h"
+
+#include "afx_print_info.h"
 
 #define CBRS_ALIGN_LEFT 0x1000L
 #define CBRS_ALIGN_TOP 0x2000L

@@ -1,0 +1,12 @@
+// A printer for machines without one, so that printing can be shown and tested there.
+#pragma once
+
+#include <string>
+
+/// The name that the printer gets.
+inline constexpr char kVirtualPrinterName[] = "Report";
+
+/// Makes sure that there is a default printer. Where there is none already, and the system has the
+/// driver wineps.drv, adds a colour printer of 600 dpi that writes PostScript to files. False, and
+/// the reason in strError, if that fails.
+bool EnsureVirtualPrinter(std::string& strError);
