@@ -1,0 +1,243 @@
+#include "print/core/pagination.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+
+#include "support/fake_page_items.h"
+
+namespace {
+
+using qv::kToEnd;
+using qv::PageRecord;
+
+constexpr unsigned kWidth = 4;
+
+std::string Row(unsigned nRow) {
+    return nRow == kToEnd ? "end" : std::to_string(nRow);
+}
+
+// "first item.row-last item.row" for each page.
+std::string Pages(qv::PageItems& items, unsigned nHeight) {
+    std::vector<PageRecord> pages;
+    const unsigned nPages = qv::Paginate(items, kWidth, nHeight, pages);
+    EXPECT_EQ(nPages, pages.size());
+    std::string strPages;
+    for (const PageRecord& page : pages) {
+        strPages += (strPages.empty() ? "" : " | ") + std::to_string(page.nFirstItem) + "." +
+                    Row(page.nFirstSub) + "-" + std::to_string(page.nLastItem) + "." +
+                    Row(page.nLastSub);
+    }
+    return strPages;
+}
+
+TEST(Pagination, WithoutAnythingToPrintGivesNoPage) {
+    FakePageItems empty;
+    EXPECT_EQ(Pages(empty, 100), "");
+    EXPECT_EQ(Pages(FakePageItems().Break().Break(), 100), "");
+    EXPECT_EQ(Pages(FakePageItems().Block(30).Block(0).Break().Break(), 30), "0.0-1.end")
+        << "breaks behind a full page open no other";
+}
+
+TEST(Pagination, ExactFitStaysOnThePage) {
+    EXPECT_EQ(Pages(FakePageItems().Block(40).Block(60).Block(1), 100), "0.0-1.end | 2.0-2.end");
+    EXPECT_EQ(Pages(FakePageItems().List(9, 10).Group(), 100), "0.0-0.end | 1.0-1.end");
+    EXPECT_EQ(Pages(FakePageItems().Text(5 * kWidth), 50), "0.0-0.end");
+    EXPECT_EQ(Pages(FakePageItems().Text(5 * kWidth + 1), 50), "0.0-0.4 | 0.5-0.end");
+}
+
+TEST(Pagination, BreaksVanishAtTheTopOnly) {
+    EXPECT_EQ(Pages(FakePageItems().Break().Block(20).Break().Block(20), 50), "1.0-3.end");
+    EXPECT_EQ(Pages(FakePageItems().Block(40).Break().Break().Block(20), 50),
+              "0.0-1.end | 3.0-3.end");
+    EXPECT_EQ(Pages(FakePageItems().Block(45).Break().Block(50), 50), "0.0-0.end | 2.0-2.end");
+}
+
+TEST(Pagination, HeaderMovesToWhatItAnnounces) {
+    EXPECT_EQ(Pages(FakePageItems().Block(80).Group().List(3, 10), 100), "0.0-0.end | 1.0-2.end");
+    EXPECT_EQ(Pages(FakePageItems().Block(80).Group().Text(5 * kWidth), 100), "0.0-2.0 | 2.1-2.end")
+        << "one line is enough to stay";
+    EXPECT_EQ(Pages(FakePageItems().List(12).Group().Block(75), 100),
+              "0.0-0.9 | 0.10-0.end | 1.10-2.end")
+        << "it leaves the end of a split item behind";
+}
+
+TEST(Pagination, HeadersLookBackOneItemAndNeverTwo) {
+    EXPECT_EQ(Pages(FakePageItems().Block(65).Section().Group().Block(20), 100),
+              "0.0-1.end | 2.0-3.end")
+        << "no room for the group header: the section header stays alone";
+    EXPECT_EQ(Pages(FakePageItems().Block(60).Section().Group().Block(20), 100),
+              "0.0-1.end | 2.0-3.end")
+        << "no room behind the group header: it moves alone";
+    EXPECT_EQ(Pages(FakePageItems().Block(80).Group().Break().Block(20), 100),
+              "0.0-2.end | 3.0-3.end")
+        << "a break shields the header";
+    EXPECT_EQ(Pages(FakePageItems().Block(85).Group().Break().Block(20), 100),
+              "0.0-0.end | 1.0-3.end")
+        << "but not a break that has no room itself";
+}
+
+TEST(Pagination, ListsSplitByRowWithTheirHeaderOnEachPage) {
+    EXPECT_EQ(Pages(FakePageItems().List(8, 10), 50), "0.0-0.3 | 0.4-0.end");
+    EXPECT_EQ(Pages(FakePageItems().List(9, 10).Block(30), 50), "0.0-0.3 | 0.4-0.7 | 0.8-1.end");
+    EXPECT_EQ(Pages(FakePageItems().Block(30).List(4, 10), 50), "0.0-1.0 | 1.1-1.end")
+        << "header and one row";
+    EXPECT_EQ(Pages(FakePageItems().Block(31).List(4, 10), 50), "0.0-0.end | 1.0-1.end");
+    EXPECT_EQ(Pages(FakePageItems().Block(35).List(0, 10).Block(40), 50), "0.0-0.end | 1.0-2.end")
+        << "a list without rows wants room for one, and takes that of its header";
+}
+
+TEST(Pagination, LabelledListsBeginWithTwoRows) {
+    EXPECT_EQ(Pages(FakePageItems().Block(40).Labelled(3), 50), "0.0-0.end | 1.0-1.end");
+    EXPECT_EQ(Pages(FakePageItems().Block(30).Labelled(3), 50), "0.0-1.1 | 1.2-1.end");
+    EXPECT_EQ(Pages(FakePageItems().Block(40).Labelled(1), 50), "0.0-1.end");
+    EXPECT_EQ(Pages(FakePageItems().Block(50).Labelled(0), 50), "0.0-1.end");
+}
+
+TEST(Pagination, RowNumberOfASplitItemStaysForTheNextPageTop) {
+    EXPECT_EQ(Pages(FakePageItems().List(8).Block(40).Labelled(3), 50),
+              "0.0-0.4 | 0.5-0.end | 1.5-1.end | 2.5-2.end");
+    EXPECT_EQ(Pages(FakePageItems().List(9).Break().Block(40), 50),
+              "0.0-0.4 | 0.5-1.end | 2.5-2.end")
+        << "a break printed on the page does not clear it";
+    EXPECT_EQ(Pages(FakePageItems().List(10).Break().Block(40), 50),
+              "0.0-0.4 | 0.5-0.end | 2.0-2.end")
+        << "a break left out at the top clears it";
+}
+
+TEST(Pagination, ItemThatSplitsItselfStartsFromItsOwnRows) {
+    EXPECT_EQ(Pages(FakePageItems().List(8, 0, 10).List(9, 30), 50),
+              "0.0-0.4 | 0.5-0.end | 1.5-1.1 | 1.2-1.3 | 1.4-1.5 | 1.6-1.7 | 1.8-1.end");
+}
+
+TEST(Pagination, CalculatesAtEachAttemptAndNotWithinASplit) {
+    FakePageItems items;
+    items.Block(45).Text(12 * kWidth);
+    EXPECT_EQ(Pages(items, 50), "0.0-0.end | 1.0-1.4 | 1.5-1.9 | 1.10-1.end");
+    EXPECT_EQ(items.items[0].nCalcs, 1u);
+    EXPECT_EQ(items.items[1].nCalcs, 2u);
+    EXPECT_EQ(items.items[1].nPrintSizes, 3u);
+}
+
+TEST(Pagination, SecondRunAppendsItsPages) {
+    FakePageItems items;
+    items.List(8).Block(10);
+    std::vector<PageRecord> pages;
+    EXPECT_EQ(qv::Paginate(items, kWidth, 50, pages), 2u);
+    EXPECT_EQ(qv::Paginate(items, kWidth, 50, pages), 2u);
+    ASSERT_EQ(pages.size(), 4u);
+    EXPECT_EQ(pages[0], pages[2]);
+    EXPECT_EQ(pages[1], pages[3]);
+}
+
+TEST(PaginationTraps, ItemTallerThanAPageHasOneForItself) {
+    EXPECT_EQ(Pages(FakePageItems().Block(60), 50), "0.0-0.end");
+    EXPECT_EQ(Pages(FakePageItems().Block(10).Block(60).Block(10), 50),
+              "0.0-0.end | 1.0-1.end | 2.0-2.end");
+    EXPECT_EQ(Pages(FakePageItems().List(3, 45).Group(), 50), "0.0-0.end | 1.0-1.end");
+    EXPECT_EQ(Pages(FakePageItems().Section().Break().Block(10), 20), "0.0-0.end | 2.0-2.end");
+    EXPECT_EQ(Pages(FakePageItems().Group().Block(0).Text(1), 0),
+              "0.0-0.end | 1.0-1.end | 2.0-2.end");
+}
+
+TEST(PaginationTraps, HeaderThatNeverStandsWithItsFollowerKeepsItsPage) {
+    EXPECT_EQ(Pages(FakePageItems().Group().Block(45), 50), "0.0-0.end | 1.0-1.end");
+    EXPECT_EQ(Pages(FakePageItems().Block(10).Group().Block(60).Block(5), 50),
+              "0.0-0.end | 1.0-1.end | 2.0-2.end | 3.0-3.end");
+}
+
+// Its PrintSize is the test's.
+class OddItems : public FakePageItems {
+public:
+    using Answer = std::function<bool(unsigned, unsigned&, unsigned&)>;
+    explicit OddItems(Answer answer) : m_answer(std::move(answer)) {}
+    bool PrintSize(std::size_t, unsigned nFirst, unsigned& nLast, unsigned& nRemaining) override {
+        return m_answer(nFirst, nLast, nRemaining);
+    }
+
+private:
+    Answer m_answer;
+};
+
+TEST(PaginationTraps, SplitWithoutProgressEndsOnAPageOfItsOwn) {
+    const FakePageItems::Item tall{.nMin = 10, .nMax = 200};
+    OddItems none([](unsigned nFirst, unsigned& nLast, unsigned&) {
+        nLast = nFirst - 1;
+        return false;
+    });
+    none.Block(20).Add(tall).Block(5);
+    EXPECT_EQ(Pages(none, 50), "0.0-0.end | 1.0-1.end | 2.0-2.end");
+
+    OddItems stuck([](unsigned, unsigned& nLast, unsigned&) {
+        nLast = 3;
+        return false;
+    });
+    stuck.Block(20).Add(tall).Block(5);
+    EXPECT_EQ(Pages(stuck, 50), "0.0-1.3 | 1.4-1.end | 2.4-2.end");
+
+    OddItems silent([](unsigned, unsigned&, unsigned&) { return true; });
+    silent.Add(tall).Block(5);
+    EXPECT_EQ(Pages(silent, 50), "0.0-0.end | 1.0-1.end");
+}
+
+TEST(PaginationTraps, HeightThatWrappedAroundIsNoRoom) {
+    OddItems items([](unsigned nFirst, unsigned& nLast, unsigned& nRemaining) {
+        nLast = nFirst;
+        nRemaining -= 60;
+        return nFirst > 0;
+    });
+    items.Add({.nMin = 10, .nMax = 200}).Block(1);
+    EXPECT_EQ(Pages(items, 50), "0.0-0.0 | 0.1-0.end | 1.1-1.end");
+}
+
+std::string Replay(const PageRecord& page) {
+    std::string strCalls;
+    qv::ForEachOnPage(page, [&](std::size_t nItem, unsigned nFirst, unsigned nLast) {
+        strCalls += std::to_string(nItem) + ":" + Row(nFirst) + "-" + Row(nLast) + " ";
+    });
+    return strCalls;
+}
+
+TEST(PaginationReplay, OnlyTheEndsOfAPageHaveRowNumbers) {
+    EXPECT_EQ(Replay({4, 4, 7, 9}), "4:7-9 ");
+    EXPECT_EQ(Replay({4, 5, 7, 9}), "4:7-end 5:0-9 ");
+    EXPECT_EQ(Replay({4, 7, 7, kToEnd}), "4:7-end 5:0-end 6:0-end 7:0-end ");
+}
+
+TEST(RowSplit, TakesTheHeaderAndTheRowsThatFit) {
+    unsigned nLast = 0;
+    unsigned nRemaining = 57;
+    EXPECT_FALSE(qv::FitRows(10, 15, 10, 2, nLast, nRemaining));
+    EXPECT_EQ(nLast, 5u);
+    EXPECT_EQ(nRemaining, 2u);
+    nRemaining = 57;
+    EXPECT_TRUE(qv::FitRows(6, 15, 10, 2, nLast, nRemaining)) << "the last row fits exactly";
+    EXPECT_EQ(nLast, 5u);
+    nRemaining = 57;
+    EXPECT_TRUE(qv::FitRows(4, 15, 10, 2, nLast, nRemaining));
+    EXPECT_EQ(nLast, 3u);
+    EXPECT_EQ(nRemaining, 22u);
+}
+
+TEST(RowSplit, NothingWrapsAround) {
+    unsigned nLast = 0;
+    unsigned nRemaining = 5;
+    EXPECT_FALSE(qv::FitRows(3, 15, 10, 1, nLast, nRemaining));
+    EXPECT_EQ(nLast, 0u);
+    EXPECT_EQ(nRemaining, 0u) << "the header took what there was";
+    nRemaining = 9;
+    EXPECT_FALSE(qv::FitRows(3, 0, 10, 0, nLast, nRemaining));
+    EXPECT_EQ(nLast, kToEnd) << "no row";
+    EXPECT_EQ(nRemaining, 9u);
+    EXPECT_TRUE(qv::FitRows(3, 0, 10, 5, nLast, nRemaining)) << "no row is left";
+    EXPECT_EQ(nRemaining, 9u);
+    EXPECT_FALSE(qv::FitRows(kToEnd, 0, 1, kToEnd - 10, nLast, nRemaining));
+    EXPECT_EQ(nLast, kToEnd - 2);
+    nRemaining = 9;
+    EXPECT_TRUE(qv::FitRows(3, 4, 0, 1, nLast, nRemaining)) << "rows of no height";
+    EXPECT_EQ(nLast, 2u);
+    EXPECT_EQ(nRemaining, 5u);
+}
+
+}  // namespace
