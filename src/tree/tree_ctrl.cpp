@@ -79,6 +79,14 @@ void QVTreeCtrlEx::Core::ReadImageSizes() {
     read(m_tree.m_pStateImageList, m_images.cxStateImage, m_images.cyStateImage);
 }
 
+void QVTreeCtrlEx::Core::UseFont(HFONT hFont) {
+    if (hFont != m_hMeasured) {
+        m_hMeasured = hFont;
+        measure.SetFont(hFont);
+        ForgetExtents();
+    }
+}
+
 int QVTreeCtrlEx::Core::FontHeight() {
     m_tree.FindFont();
     return m_tree.m_hFont != nullptr ? measure.Extent(" ").cy : 0;
@@ -409,8 +417,10 @@ int QVTreeCtrlEx::ItemHeight() {
 
 void QVTreeCtrlEx::CalcItemRect(CDC& dc, int nTop, HTREEITEM hItem, CRect& rect, BOOL bTextOnly) {
     ItemHeight();  // finds the font, if that is still to be done
+    // On the screen, pixel by pixel, the widths that are known hold.
     const bool bOwnFont =
-        m_hFont != nullptr && ::GetCurrentObject(dc.m_hAttribDC, OBJ_FONT) == m_hFont;
+        m_hFont != nullptr && ::GetCurrentObject(dc.m_hAttribDC, OBJ_FONT) == m_hFont &&
+        dc.GetMapMode() == MM_TEXT && dc.GetDeviceCaps(TECHNOLOGY) == DT_RASDISPLAY;
     qv::DcMeasure other(dc);
     qv::Rect rc;
     m_pCore->CalcItemRect(bOwnFont ? nullptr : &other, nTop, hItem, rc, bTextOnly);

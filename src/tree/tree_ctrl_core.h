@@ -20,7 +20,7 @@ public:
 
     int CompareItems(HTREEITEM hItem1, HTREEITEM hItem2) override;
     void ReadImageSizes() override;
-    void UseFont(HFONT hFont) { measure.SetFont(hFont); }
+    void UseFont(HFONT hFont);
     void DrawBars() { port.DrawBars(); }
 
 protected:
@@ -33,6 +33,7 @@ protected:
 
 private:
     QVTreeCtrlEx& m_tree;
+    HFONT m_hMeasured = nullptr;
 };
 
 // Holds over a call that leads to the parent: it may delete the item, destroy the window or delete

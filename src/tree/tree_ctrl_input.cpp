@@ -110,12 +110,17 @@ bool QVTreeCtrlEx::ChangeOneStateImage(HTREEITEM hItem, UINT nImage) {
     // The parent may have put another image into the structure.
     SetItemStateImage(hItem, StateImageFromState(notification.itemNew.state), FALSE);
     notification.hdr.code = notification.action = TVN_SELCHANGED;
+    for (TVITEM* pItem : {&notification.itemOld, &notification.itemNew}) {
+        // The parent may have given the item another text.
+        pItem->pszText = hItem->pszText;
+        pItem->cchTextMax = static_cast<int>(strlen(hItem->pszText)) + 1;
+    }
     send();
     return static_cast<bool>(guard);
 }
 
 // The item and then, in the order of the tree, everything below it. Where the parent refuses an
-// item, what lies below that one stays as it was; where it deletes one, the cascade ends.
+// item, what lies below that one stays as it was; where it deletes or moves one, the cascade ends.
 void QVTreeCtrlEx::NfyChangeStateImage(HTREEITEM hItem, UINT nImage) {
     if (!ChangeOneStateImage(hItem, nImage) || !m_pCore->m_bAutoTagChildren ||
         hItem->pFirstChild == nullptr) {
@@ -126,8 +131,9 @@ void QVTreeCtrlEx::NfyChangeStateImage(HTREEITEM hItem, UINT nImage) {
     HTREEITEM h = hItem->pFirstChild;
     while (h != nullptr) {
         const Guard guardChild(*this, h);
+        const HTREEITEM hParent = h->pParent;
         const bool bChanged = ChangeOneStateImage(h, nImage);
-        if (!guard || !guardChild) {
+        if (!guard || !guardChild || h->pParent != hParent || !CheckForAncestor(h, hItem)) {
             return;
         }
         if (bChanged && m_pCore->m_bAutoTagChildren && h->pFirstChild != nullptr) {

@@ -85,8 +85,9 @@ public:
 
     using CDC::DrawText;
     int DrawText(LPCTSTR psz, int nCount, LPRECT pRect, UINT nFormat) override {
-        texts.push_back({nCount < 0 ? std::string(psz) : std::string(psz, static_cast<size_t>(nCount)),
-                         CRect(pRect), nFormat, GetTextColor(), ::GetCurrentObject(m_hDC, OBJ_FONT)});
+        texts.push_back(
+            {nCount < 0 ? std::string(psz) : std::string(psz, static_cast<size_t>(nCount)),
+             CRect(pRect), nFormat, GetTextColor(), ::GetCurrentObject(m_hDC, OBJ_FONT)});
         return CDC::DrawText(psz, nCount, pRect, nFormat);
     }
     // The texts, '|' between.

@@ -251,7 +251,16 @@ void TreeView::ForgetExtents() {
     }
 }
 
+// A code that no style belongs to shows as a letter, until there is one.
+void TreeView::CheckStyles() {
+    if (m_nExtentStyles != m_aStyles.Count()) {
+        m_nExtentStyles = m_aStyles.Count();
+        ForgetExtents();
+    }
+}
+
 int TreeView::TextExtent(HTREEITEM hItem, TextMeasure* pOther) {
+    CheckStyles();
     if (pOther == nullptr && hItem->nExtentEpoch == m_nExtentEpoch) {
         return hItem->nExtent;
     }
@@ -363,7 +372,7 @@ HTREEITEM TreeView::HitTest(Point pt, unsigned* pFlags, Rect* pRect) {
         nFlags = bButton ? TVHT_ONITEMBUTTON : TVHT_ONITEMINDENT;
     } else if (x >= rect.right) {
         nFlags = TVHT_ONITEMRIGHT;
-    } else {
+    } else if (rect.Contains({x, pt.y})) {
         const bool bState = m_images.cxStateImage > 0 && HaveStateImage(hItem);
         const int cxState = bState ? m_images.cxStateImage + kImageGap : 0;
         const int cxImage = m_images.cxImage > 0 ? m_images.cxImage + kImageGap : 0;

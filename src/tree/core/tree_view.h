@@ -121,6 +121,9 @@ public:
     int m_nMaxWidth = 0;    // right edge of the widest row
 
 protected:
+    // The font or something else that all widths depend on is another one now.
+    void ForgetExtents();
+
     // --- What the control adds
 
     // Reads the sizes of image 0 of both lists into m_images.
@@ -144,17 +147,15 @@ private:
         bool bIndentTabs = true;
         bool bStatesAtRoot = false;
         bool bLinesAtRoot = false;
-        int nStyles = 0;
         friend bool operator==(const RowMetrics&, const RowMetrics&) = default;
     };
 
     void Refresh();
     void CalcItemHeight();
     int RowsThatFit(int nHeight);
+    void CheckStyles();
     int TextExtent(HTREEITEM hItem, TextMeasure* pOther);
     bool HasStyleBit(unsigned nBit) const;
-    void ForgetExtents();
-
     bool EnsureRows();
     void DropRows();
     void CheckMetrics();
@@ -204,6 +205,7 @@ private:
     bool m_bIndentTabs = true;
     int m_nItemHeight = 0;  // pixels; 0: not measured
     std::uint16_t m_nExtentEpoch = 1;
+    int m_nExtentStyles = 0;  // entries of the style table when the extents were measured
     RowIndex m_rows;
     bool m_bRowsValid = false;
     bool m_bDetachedRows = false;  // the index shows the rows of a detached root

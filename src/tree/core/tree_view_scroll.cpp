@@ -107,13 +107,11 @@ void TreeView::SetExpanded(HTREEITEM hItem, bool bExpanded) {
 
 // Widths depend on more than the rows; measures them anew where that has changed.
 void TreeView::CheckMetrics() {
+    CheckStyles();
     const RowMetrics metrics{m_images, m_bIndentTabs, m_bShowStatesAtRoot,
-                             HasStyleBit(TVS_LINESATROOT), m_aStyles.Count()};
+                             HasStyleBit(TVS_LINESATROOT)};
     if (metrics == m_metrics) {
         return;
-    }
-    if (metrics.nStyles != m_metrics.nStyles) {
-        ForgetExtents();  // a code without a style shows as a letter
     }
     m_rows.UnmeasureAll();
     m_metrics = metrics;

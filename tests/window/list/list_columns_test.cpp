@@ -93,8 +93,9 @@ TEST(ListColumnsInWindow, TheSingleColumnFollowsTheWidestRow) {
     ListWindow<> w;
     const std::string strWide(100, 'W');
     w.Add(strWide.c_str());
-    w.Add("\x1b"
-          "anarrow");
+    w.Add(
+        "\x1b"
+        "anarrow");
     const int nText = w.list.GetStringWidth(strWide.c_str());
     EXPECT_EQ(w.list.GetColWidth(0, nullptr), nText);
     w.list.DeleteItem(1);
@@ -133,8 +134,12 @@ TEST(ListRows, FieldsGoToColumnsAndBack) {
     w.Add("\tb\tc\td");
     EXPECT_EQ(w.Row(2), "b\tc") << "an empty start leaves no TAB";
     const std::string strLong(3000, 'l');
-    w.Add((strLong + "\t\x1b" "bx").c_str());
-    EXPECT_EQ(w.Row(3), strLong + "\t\x1b" "bx\t");
+    w.Add((strLong + "\t\x1b"
+                     "bx")
+              .c_str());
+    EXPECT_EQ(w.Row(3), strLong +
+                            "\t\x1b"
+                            "bx\t");
     EXPECT_EQ(w.list.GetImage(9), -1);
     EXPECT_TRUE(w.list.SetImage(0, 2));
     EXPECT_EQ(w.list.GetImage(0), 2);
@@ -158,7 +163,11 @@ TEST(ListRows, AddFindsThePlaceByNumberOrText) {
     EXPECT_EQ(text.list.AddBitmapString(0, "15", FALSE), 1);
     EXPECT_EQ(text.list.AddBitmapString(0, "15", FALSE), 2) << "equal rows in order of arrival";
     // The code of a row that is there counts, and stands before all letters.
-    EXPECT_EQ(text.list.AddBitmapString(0, "\x1b" "a0", FALSE), 0);
+    EXPECT_EQ(text.list.AddBitmapString(0,
+                                        "\x1b"
+                                        "a0",
+                                        FALSE),
+              0);
     EXPECT_EQ(text.list.AddBitmapString(0, "0", FALSE), 1);
 }
 
@@ -169,7 +178,9 @@ TEST(ListRows, AddFindsWhatAWalkWouldFind) {
     w.list.AddStyle(0, 0);
     std::mt19937 random(11);
     const auto anyRow = [&] {
-        std::string str = random() % 4 == 0 ? "\x1b" "b" : "";
+        std::string str = random() % 4 == 0 ? "\x1b"
+                                              "b"
+                                            : "";
         for (unsigned n = random() % 4; n > 0; --n) {
             str += "aB2\t"[random() % 4];
         }
@@ -258,7 +269,8 @@ TEST(ListHeader, AClickReachesTheSortCallback) {
     ListWindow<> w("a\tb");
     w.Add("x\ty");
     int nClicked = -1;
-    w.list.SetSortMethod([](int nCol, void* pData) { *static_cast<int*>(pData) = nCol; }, &nClicked);
+    w.list.SetSortMethod([](int nCol, void* pData) { *static_cast<int*>(pData) = nCol; },
+                         &nClicked);
     ASSERT_TRUE(ClickAt(w.list.GetHeaderCtrl()->m_hWnd, CPoint(90, 8)));
     EXPECT_TRUE(PumpUntil([&] { return nClicked == 1; }));
 }

@@ -1,0 +1,146 @@
+#include <afxext.h>
+
+#include "frame/select_object.h"
+#include "list/list_ctrl.h"
+
+namespace {
+
+// Of the header's font height: the band that is kept for the headings, and where the rule lies.
+constexpr int HeaderBand(int nTextHeight) {
+    return nTextHeight * 3 / 2;
+}
+constexpr int RuleOffset(int nTextHeight) {
+    return nTextHeight * 5 / 4;
+}
+
+}  // namespace
+
+void QVListCtrlEx::SetPrintFonts(CFont* pItemFont, CFont* pHeaderFont) {
+    m_pPrintFont = pItemFont;
+    m_pPrintHeaderFont = pHeaderFont;
+}
+
+void QVListCtrlEx::BeginPrinting(CDC* pDC, CPrintInfo*) {
+    CWindowDC dc(this);
+    m_penPrint.DeleteObject();
+    m_penPrint.CreateStockObject(BLACK_PEN);
+    const int nScreen = dc.GetDeviceCaps(LOGPIXELSX);
+    m_nPrintScale = nScreen > 0 ? pDC->GetDeviceCaps(LOGPIXELSX) / nScreen : 1;
+}
+
+void QVListCtrlEx::EndPrinting(CDC*, CPrintInfo*) {
+    m_penPrint.DeleteObject();
+    m_nPrintScale = 1;
+    m_pPrintFont = nullptr;
+    m_pPrintHeaderFont = nullptr;
+    m_nPrintHeaderHeight = 0;
+}
+
+int QVListCtrlEx::HeaderPrintHeight(CDC* pDC) {
+    if (m_nPrintHeaderHeight != 0) {
+        return m_nPrintHeaderHeight;
+    }
+    const qv::SelectGuard<CFont> font(*pDC, m_pPrintHeaderFont);
+    return HeaderBand(pDC->GetTextExtent("0", 1).cy);
+}
+
+int QVListCtrlEx::CalculateItemHeight(CDC* pDC) {
+    const qv::SelectGuard<CFont> font(*pDC, m_pPrintFont);
+    return pDC->GetTextExtent("0", 1).cy;
+}
+
+int QVListCtrlEx::CalcExcludedColsWidth() {
+    int nWidth = 0;
+    for (const int nCol : m_columns.Excluded()) {
+        nWidth += GetColumnWidth(nCol);
+    }
+    return nWidth;
+}
+
+int QVListCtrlEx::CalcPrintCols(CDC*, int nPageWidth) {
+    const int nTotal = CalcDataWidth(nullptr) - CalcExcludedColsWidth();
+    int* pWidths = m_columns.PrintWidths();
+    for (int nCol = 0; nCol < m_columns.Count(); ++nCol) {
+        const int nWidth = m_columns.IsExcluded(nCol)
+                               ? 0
+                               : qv::PrintWidth(GetColWidth(nCol, nullptr), nPageWidth, nTotal);
+        SetColWidth(nCol, nWidth, pWidths);
+    }
+    return m_columns.Count();
+}
+
+void QVListCtrlEx::PrintHeader(CDC* pDC, const CRect& rc) {
+    const qv::SelectGuard<CPen> pen(*pDC, &m_penPrint);
+    const qv::SelectGuard<CFont> font(*pDC, m_pPrintHeaderFont);
+    CString strHeaders;
+    MakeHeaderString(strHeaders);
+    if (strHeaders.IsEmpty()) {
+        return;
+    }
+    CRect rcCol(rc);
+    CString strField;
+    int nCol = 0;
+    for (int nPos = 0; NextField(strHeaders, nPos, strField); ++nCol) {
+        if (!m_columns.IsExcluded(nCol)) {
+            rcCol.right = rcCol.left + GetPrintColWidth(nCol);
+            OutputFormattedText(pDC, rcCol, strField, FALSE, GetHdrDrawFormat(nCol), FALSE);
+            rcCol.left = rcCol.right;
+        }
+    }
+    const int y = rc.top + RuleOffset(pDC->GetTextExtent(strHeaders).cy);
+    pDC->MoveTo(rc.left, y);
+    pDC->LineTo(rc.right, y);
+}
+
+int QVListCtrlEx::RowsThatFit(CDC* pDC, const CRect& rc, int& nHeight) {
+    nHeight = CalculateItemHeight(pDC);
+    return nHeight > 0 ? rc.Height() / nHeight : 0;
+}
+
+// Rows nFirst up to nEnd, without it, but no more than nMost.
+int QVListCtrlEx::PrintRows(CDC* pDC, UINT nFirst, UINT nEnd, const CRect& rc, int nHeight,
+                            int nMost) {
+    CRect rcRow(rc);
+    int nPrinted = 0;
+    for (UINT nItem = nFirst; nItem < nEnd && nPrinted < nMost; ++nItem, ++nPrinted) {
+        rcRow.bottom = rcRow.top + nHeight;
+        DrawItemText(pDC, nItem, rcRow, FALSE, m_columns.PrintWidths());
+        rcRow.top = rcRow.bottom;
+    }
+    return nPrinted;
+}
+
+int QVListCtrlEx::PrintItems(CDC* pDC, CPrintInfo* pInfo, const CRect& rc) {
+    const qv::SelectGuard<CFont> font(*pDC, m_pPrintFont);
+    int nHeight;
+    const int nPerPage = RowsThatFit(pDC, rc, nHeight);
+    const UINT nFirst = (pInfo->m_nCurPage - 1) * static_cast<UINT>(nPerPage);
+    return PrintRows(pDC, nFirst, static_cast<UINT>(GetItemCount()), rc, nHeight, nPerPage);
+}
+
+int QVListCtrlEx::PrintItems(CDC* pDC, UINT nFirst, UINT nLast, const CRect& rc) {
+    const qv::SelectGuard<CFont> font(*pDC, m_pPrintFont);
+    int nHeight;
+    const int nPerPage = RowsThatFit(pDC, rc, nHeight);
+    const UINT nEnd = nLast + 1 != 0 ? nLast + 1 : nLast;
+    return PrintRows(pDC, nFirst, nEnd, rc, nHeight, nPerPage);
+}
+
+BOOL QVListCtrlEx::ExportData(LPCSTR pszPath, char chSeparator) {
+    CStdioFile file;
+    if (!file.Open(pszPath, CFile::modeCreate | CFile::modeWrite | CFile::typeText)) {
+        return FALSE;
+    }
+    std::string strLine;
+    const int nItems = GetItemCount();
+    for (int nItem = 0; nItem < nItems; ++nItem) {
+        strLine.clear();
+        for (int nCol = 0; nCol < m_columns.Count(); ++nCol) {
+            qv::JoinCell(strLine, ParseStyleText(CellText(nItem, nCol)), chSeparator);
+        }
+        strLine += '\n';
+        file.WriteString(strLine.c_str());
+    }
+    file.Close();
+    return TRUE;
+}

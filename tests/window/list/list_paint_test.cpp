@@ -1,0 +1,346 @@
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "afx_gdi.h"
+#include "support/list_window.h"
+#include "support/picture.h"
+#include "support/pump.h"
+#include "support/real_input.h"
+
+namespace {
+
+const COLORREF kWindow = ::GetSysColor(COLOR_WINDOW);
+const COLORREF kHighlight = ::GetSysColor(COLOR_HIGHLIGHT);
+const COLORREF kFace = ::GetSysColor(COLOR_BTNFACE);
+constexpr COLORREF kRed = RGB(255, 0, 0);
+constexpr COLORREF kGreen = RGB(0, 255, 0);
+constexpr COLORREF kBlue = RGB(0, 0, 255);
+constexpr COLORREF kNone = 0xFFFFFFFF;
+
+Picture Shown(CWnd& wnd) {
+    wnd.Invalidate(FALSE);
+    wnd.UpdateWindow();
+    return Picture::OfClient(wnd.m_hWnd);
+}
+
+// Colours at the left edge of each column of a row, where no text stands.
+template <class Window>
+std::vector<COLORREF> Backgrounds(Window& w, int nItem) {
+    const Picture picture = Shown(w.list);
+    const CRect rc = w.RectOf(nItem);
+    std::vector<COLORREF> colors;
+    for (int nCol = 0, x = rc.left; nCol < w.list.NumColumns(); ++nCol) {
+        colors.push_back(picture.At(x + 2, rc.CenterPoint().y));
+        x += w.list.GetColWidth(nCol, nullptr);
+    }
+    return colors;
+}
+
+using Colors = std::vector<COLORREF>;
+
+TEST(ListPaint, SelectionShowsFocusAndEndsWithTheData) {
+    ListWindow<> w("a\tb");
+    w.list.AddStyle(kRed, kGreen);
+    w.Add(
+        "x\t\x1b"
+        "bstyled");
+    w.Add("y\tz");
+    BringToFront(w.parent.m_hWnd);
+    w.list.SetFocus();
+    w.list.SelectItem(0);
+    EXPECT_EQ(Backgrounds(w, 0), (Colors{kHighlight, kHighlight}));
+    const CRect rc = w.RectOf(0);
+    EXPECT_EQ(Shown(w.list).At(rc.left + 130, rc.CenterPoint().y), kWindow) << "right of the data";
+    EXPECT_EQ(Shown(w.list).Count(kRed), 0) << "no colours of its own";
+    ::SetFocus(w.parent.m_hWnd);
+    PumpPending();
+    EXPECT_EQ(Backgrounds(w, 0), (Colors{kFace, kFace}));
+    w.list.SetAlwaysHighlightSel(TRUE);
+    EXPECT_EQ(Backgrounds(w, 0), (Colors{kHighlight, kHighlight}));
+    w.list.ModifyStyle(LVS_SHOWSELALWAYS, 0);
+    EXPECT_EQ(Backgrounds(w, 0), (Colors{kWindow, kGreen}));
+    w.list.SetFocus();
+    w.list.SetAllowSel(FALSE);
+    EXPECT_EQ(Backgrounds(w, 0), (Colors{kWindow, kGreen}));
+    EXPECT_GT(Shown(w.list).Count(kRed), 0);
+}
+
+TEST(ListPaint, StylesCarryFromCellToCell) {
+    ListWindow<> w("a\tb\tc\td");
+    w.list.AddStyle(kRed, kGreen);  // b
+    w.list.AddStyle(kBlue, kNone);  // c
+    w.list.SetColStyle(3, 1);
+    w.Add(
+        "1\t\x1b"
+        "b2\t3\t\x1b"
+        "c4");
+    EXPECT_EQ(Backgrounds(w, 0), (Colors{kWindow, kGreen, kGreen, kGreen}))
+        << "the last one by its column's style";
+    w.list.SetColStyle(3, 0);
+    EXPECT_EQ(Backgrounds(w, 0), (Colors{kWindow, kGreen, kGreen, kWindow}));
+    // Style 0 has a text colour but no background.
+    w.list.SetItemString(0,
+                         "\x1b"
+                         "b1\t\x1b"
+                         "aMMMM\t3\t4");
+    EXPECT_EQ(Backgrounds(w, 0), (Colors{kGreen, kGreen, kGreen, kGreen}));
+    const CRect rc = w.RectOf(0);
+    EXPECT_EQ(Shown(w.list).Count(kRed, CRect(rc.left + 60, rc.top, rc.right, rc.bottom)), 0);
+    w.list.SetColWidth(1, 0, nullptr);
+    w.list.SetItemString(0,
+                         "1\t\x1b"
+                         "b2\t3\t4");
+    EXPECT_EQ(Backgrounds(w, 0), (Colors{kWindow, kWindow, kWindow, kWindow}))
+        << "a hidden column colours nothing";
+}
+
+TEST(ListPaint, TheSpaceUnderTheRowsHasTheColumnsColours) {
+    ListWindow<> w("a\tb");
+    w.list.AddStyle(kRed, kGreen);
+    w.list.SetColStyle(1, 1);
+    w.list.SetColStyle(0, 99);  // no style, so the default one
+    const Picture empty = Shown(w.list);
+    const int yHeader = 40;
+    EXPECT_EQ(empty.At(90, yHeader), kGreen) << "an empty list too";
+    EXPECT_EQ(empty.At(30, yHeader), kWindow);
+    EXPECT_EQ(empty.At(200, yHeader), kWindow);
+    w.Add("x\ty");
+    const CRect rc = w.RectOf(0);
+    const Picture one = Shown(w.list);
+    EXPECT_EQ(one.At(90, rc.CenterPoint().y), kWindow);
+    EXPECT_EQ(one.At(90, rc.bottom), kGreen) << "from the row's lower edge on";
+    EXPECT_EQ(one.At(90, rc.bottom - 1), kWindow);
+    w.list.SetColWidth(0, 500, nullptr);
+    w.list.Scroll(CSize(450, 0));
+    EXPECT_EQ(Shown(w.list).At(80, 150), kGreen) << "scrolled with the columns";
+    CClientDC dc(&w.list);
+    EXPECT_TRUE(w.list.FillEmptySpace(&dc));
+    for (int i = 0; i < 40; ++i) {
+        w.Add("x");
+    }
+    EXPECT_FALSE(w.list.FillEmptySpace(&dc));
+}
+
+TEST(ListPaint, TheImageStandsInACellOfItsOwn) {
+    ListWindow<> w("a\tb", true);
+    w.Add("x\ty", 1);
+    BringToFront(w.parent.m_hWnd);
+    w.list.SetFocus();
+    w.list.SetItemState(0, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+    const CRect rc = w.RectOf(0);
+    const Picture picture = Shown(w.list);
+    EXPECT_EQ(picture.Count(kHighlight, CRect(rc.left, rc.top, rc.left + 14, rc.bottom)), 0);
+    EXPECT_GT(picture.Count(RGB(0, 0, 0), CRect(rc.left + 1, rc.top, rc.left + 13, rc.bottom)), 10);
+    // The dotted frame runs around the data, without the image.
+    const auto dots = [&](int nLeft, int nRight) {
+        const CRect rcLine(nLeft, rc.top, nRight, rc.top + 1);
+        return rcLine.Width() - picture.Count(kHighlight, rcLine);
+    };
+    EXPECT_GT(dots(rc.left + 14, rc.left + 120), 40);
+    EXPECT_EQ(picture.At(rc.left + 121, rc.top), kWindow);
+    w.list.SetImageFirstCol(TRUE);
+    const Picture first = Shown(w.list);
+    EXPECT_EQ(first.Count(kHighlight, CRect(rc.left, rc.top, rc.left + 60, rc.bottom)), 0);
+    EXPECT_EQ(first.At(rc.left + 62, rc.CenterPoint().y), kHighlight);
+    EXPECT_GT(first.Count(RGB(0, 0, 0), CRect(rc.left + 24, rc.top, rc.left + 36, rc.bottom)), 10)
+        << "in the middle of the column";
+}
+
+// Looks at the screen before and after each row is drawn.
+class WatchedList : public QVListCtrlEx {
+public:
+    void DrawItem(LPDRAWITEMSTRUCT lpDIS) override {
+        CClientDC dc(this);
+        const CRect rc(lpDIS->rcItem);
+        if (dc.GetPixel(rc.left + 1, rc.top + 1) != kRed ||
+            dc.GetPixel(110, rc.bottom - 2) != kRed) {
+            ++nWrittenBefore;
+        }
+        // The same row once more, on a context that keeps account of what is drawn on it.
+        const HDC hMeta = ::CreateEnhMetaFile(nullptr, nullptr, nullptr, nullptr);
+        DRAWITEMSTRUCT dis = *lpDIS;
+        dis.hDC = hMeta;
+        QVListCtrlEx::DrawItem(&dis);
+        const HENHMETAFILE hFile = ::CloseEnhMetaFile(hMeta);
+        ::EnumEnhMetaFile(
+            nullptr, hFile,
+            [](HDC, HANDLETABLE*, const ENHMETARECORD* pRecord, int, LPARAM lParam) {
+                const bool bFrame = pRecord->iType == EMR_HEADER || pRecord->iType == EMR_EOF;
+                if (!bFrame) {
+                    reinterpret_cast<WatchedList*>(lParam)->records.push_back(pRecord->iType);
+                }
+                return 1;
+            },
+            this, nullptr);
+        ::DeleteEnhMetaFile(hFile);
+        QVListCtrlEx::DrawItem(lpDIS);
+        ++nRows;
+    }
+    int nRows = 0;
+    int nWrittenBefore = 0;
+    std::vector<DWORD> records;
+};
+
+TEST(ListPaint, ARowReachesTheScreenInOnePiece) {
+    ListWindow<WatchedList> w("a\tb");
+    w.list.AddStyle(kBlue, kGreen);
+    w.Add(
+        "x\t\x1b"
+        "by");
+    w.Add("z");
+    w.list.UpdateWindow();
+    {
+        CClientDC dc(&w.list);
+        dc.FillSolidRect(0, 0, 400, 200, kRed);
+    }
+    w.list.nRows = w.list.nWrittenBefore = 0;
+    w.list.records.clear();
+    const CRect rcRows(0, w.RectOf(0).top, 400, w.RectOf(1).bottom);
+    w.list.InvalidateRect(&rcRows, TRUE);
+    w.list.UpdateWindow();
+    EXPECT_EQ(w.list.nRows, 2);
+    EXPECT_EQ(w.list.nWrittenBefore, 0) << "nobody erases under a row";
+    EXPECT_EQ(std::count(w.list.records.begin(), w.list.records.end(), DWORD{EMR_BITBLT}), 2);
+    EXPECT_EQ(w.list.records.size(), 2u) << "and nothing else is drawn";
+    EXPECT_EQ(Picture::OfClient(w.list.m_hWnd).Count(kRed, rcRows), 0);
+}
+
+TEST(ListPaint, OutsideOfAPaintNothingIsDrawn) {
+    ListWindow<> w("a");
+    w.Add("x");
+    CClientDC dc(&w.list);
+    DRAWITEMSTRUCT dis{};
+    dis.hDC = dc;
+    dis.itemAction = ODA_DRAWENTIRE;
+    dis.rcItem = CRect(0, 0, 50, 10);
+    const Picture before = Shown(w.list);
+    w.list.DrawItem(&dis);
+    EXPECT_TRUE(before == Picture::OfClient(w.list.m_hWnd));
+}
+
+TEST(ListPaint, KeepsNoHandles) {
+    ListWindow<> w("a\tb\tc", true);
+    w.list.AddStyle(kRed, kGreen);
+    for (int i = 0; i < 30; ++i) {
+        w.Add(
+            "x\t\x1b"
+            "by\tz",
+            i % 4);
+    }
+    Shown(w.list);
+    const long nHandles = AfxGetOwnedHandleCount();
+    for (int i = 0; i < 2000; ++i) {
+        w.list.RedrawItems(i % 30, i % 30);
+        w.list.UpdateWindow();
+    }
+    EXPECT_EQ(AfxGetOwnedHandleCount(), nHandles);
+}
+
+TEST(ListWheel, ScrollsByLines) {
+    ListWindow<> w("a");
+    for (int i = 0; i < 100; ++i) {
+        w.Add("x");
+    }
+    const auto turn = [&](int nDelta) {
+        w.list.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(nDelta)), 0);
+        return w.list.GetTopIndex();
+    };
+    EXPECT_EQ(turn(-120), 3) << "three lines a notch";
+    EXPECT_EQ(turn(-60), 4);
+    EXPECT_EQ(turn(-60), 6);
+    EXPECT_EQ(turn(120), 3);
+    EXPECT_EQ(w.list.SendMessage(WM_MOUSEWHEEL, 0, 0), 1);
+}
+
+// Anything may come in any order; nothing may break.
+TEST(ListMonkey, SurvivesTenThousandMessages) {
+    ListWindow<> w;
+    std::mt19937 random(5);
+    w.list.AddStyle(kRed, kNone);
+    for (int i = 0; i < 10000; ++i) {
+        const int n = static_cast<int>(random() % 40) - 2;
+        switch (random() % 22) {
+            case 0:
+                w.list.InsertBitmapString(n, n,
+                                          "\x1b"
+                                          "brow\tx\t\x1b"
+                                          "zy");
+                break;
+            case 1:
+                w.list.AddBitmapString(n, "some\tother", random() % 2 != 0);
+                break;
+            case 2:
+                w.list.DeleteItem(n);
+                break;
+            case 3:
+                w.list.SetItemString(n, "a\tb\tc\td");
+                break;
+            case 4:
+                w.list.SelectItem(n);
+                break;
+            case 5:
+                w.list.SetColWidth(n, n * 9, nullptr);
+                break;
+            case 6:
+                w.list.SetColStyle(n, n);
+                w.list.SetColFormat(n, n % 4);
+                break;
+            case 7:
+                w.list.SendMessage(LVM_DELETECOLUMN, static_cast<WPARAM>(n));
+                break;
+            case 8:
+                if (random() % 20 == 0) {
+                    w.list.AddHeader("h\ti");
+                }
+                break;
+            case 9:
+                if (random() % 20 == 0) {
+                    w.list.ClearHeaders();
+                }
+                break;
+            case 10:
+                if (random() % 30 == 0) {
+                    w.list.DeleteAllItems();
+                }
+                break;
+            case 11:
+                w.list.SetImageFirstCol(n % 2);
+                break;
+            case 12:
+                w.list.CalcColsFromHeader(n);
+                break;
+            case 13:
+                w.list.SetupColumnsFromString("wide*\tx*\ty");
+                break;
+            case 14:
+                w.list.Scroll(CSize(n * 5, n * 7));
+                break;
+            case 15:
+                w.list.SaveSelections();
+                w.list.RestoreSelections();
+                break;
+            case 16:
+                w.list.SendMessage(WM_MOUSEWHEEL, static_cast<WPARAM>(n * 20 << 16));
+                break;
+            case 17:
+                w.list.SetWindowPos(nullptr, 0, 0, n * 12, 150, SWP_NOMOVE | SWP_NOZORDER);
+                break;
+            case 18:
+                w.list.SendMessage(WM_KEYDOWN, VK_DOWN);
+                break;
+            case 19:
+                w.list.InvalidateData(TRUE);
+                break;
+            default:
+                w.list.UpdateWindow();
+                break;
+        }
+    }
+    w.list.SetWindowPos(nullptr, 0, 0, 300, 150, SWP_NOMOVE | SWP_NOZORDER);
+    w.list.UpdateWindow();
+    EXPECT_TRUE(::IsWindow(w.list.m_hWnd));
+    EXPECT_GE(w.list.NumColumns(), 0);
+}
+
+}  // namespace

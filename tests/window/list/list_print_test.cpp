@@ -1,0 +1,185 @@
+#include <gtest/gtest.h>
+
+#include <afxext.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "support/list_window.h"
+
+namespace {
+
+std::string TempPath(const char* pszName) {
+    char szDir[MAX_PATH];
+    ::GetTempPath(MAX_PATH, szDir);
+    return std::string(szDir) + pszName;
+}
+
+std::string FileText(const std::string& strPath) {
+    std::ifstream file(strPath, std::ios::binary);
+    std::stringstream text;
+    text << file.rdbuf();
+    return text.str();
+}
+
+TEST(ListPrint, ColumnsShareThePageAsTheyShareTheScreen) {
+    ListWindow<> w("a\tb\tc");
+    TextRecorder dc;
+    w.list.SetColWidth(0, 100, nullptr);
+    w.list.SetColWidth(1, 300, nullptr);
+    w.list.SetColWidth(2, 100, nullptr);
+    w.list.ExcludeColumnFromPrinting(2);
+    EXPECT_EQ(w.list.CalcPrintCols(&dc, 1000), 3);
+    EXPECT_EQ(w.list.GetPrintColWidth(0), 250);
+    EXPECT_EQ(w.list.GetPrintColWidth(1), 750);
+    EXPECT_EQ(w.list.GetPrintColWidth(2), 0);
+    EXPECT_EQ(w.list.GetPrintColWidth(3), 0);
+    EXPECT_EQ(w.list.CalcExcludedColsWidth(), 100);
+    w.list.SetColWidth(0, 0, nullptr);
+    w.list.SetColWidth(1, 0, nullptr);
+    w.list.CalcPrintCols(&dc, 1000);
+    EXPECT_EQ(w.list.GetPrintColWidth(1), 0) << "no width on screen, none on paper";
+    w.list.ExcludeColumnFromPrinting(0);
+    w.list.ExcludeColumnFromPrinting(1);
+    w.list.CalcPrintCols(&dc, 1000);
+    EXPECT_EQ(w.list.GetPrintColWidth(0), 0);
+}
+
+TEST(ListPrint, RowsComeInPagesAndRanges) {
+    ListWindow<> w("a\tb\tc");
+    w.list.SetColFormat(1, LVCFMT_RIGHT);
+    w.list.ExcludeColumnFromPrinting(2);
+    for (int i = 0; i < 5; ++i) {
+        w.Add((std::to_string(i) +
+               "\t\x1b"
+               "an" +
+               std::to_string(i) + "\tx")
+                  .c_str());
+    }
+    TextRecorder dc;
+    CPrintInfo info;
+    w.list.BeginPrinting(&dc, &info);
+    const int nHeight = w.list.CalculateItemHeight(&dc);
+    ASSERT_GT(nHeight, 0);
+    EXPECT_EQ(w.list.HeaderPrintHeight(&dc), nHeight * 3 / 2) << "without fonts that of the device";
+    w.list.CalcPrintCols(&dc, 600);
+    const CRect rc(50, 100, 650, 100 + 2 * nHeight + nHeight / 2);
+    info.m_nCurPage = 2;
+    EXPECT_EQ(w.list.PrintItems(&dc, &info, rc), 2);
+    EXPECT_EQ(dc.All(), "2|n2|3|n3");
+    EXPECT_EQ(dc.texts[1].rc, CRect(356, 100, 644, 100 + nHeight)) << "a margin on both sides";
+    EXPECT_EQ(dc.texts[1].nFormat & (DT_RIGHT | DT_CENTER), static_cast<UINT>(DT_RIGHT));
+    EXPECT_EQ(dc.texts[2].rc.top, 100 + nHeight);
+    info.m_nCurPage = 3;
+    EXPECT_EQ(w.list.PrintItems(&dc, &info, rc), 1);
+    info.m_nCurPage = 4;
+    EXPECT_EQ(w.list.PrintItems(&dc, &info, rc), 0);
+    info.m_nCurPage = 0;
+    EXPECT_EQ(w.list.PrintItems(&dc, &info, rc), 0);
+    dc.texts.clear();
+    EXPECT_EQ(w.list.PrintItems(&dc, 1u, 1u, rc), 1);
+    EXPECT_EQ(w.list.PrintItems(&dc, 3u, 9u, rc), 2);
+    EXPECT_EQ(dc.All(), "1|n1|3|n3|4|n4");
+    EXPECT_EQ(w.list.PrintItems(&dc, 0u, 4u, CRect(0, 0, 100, nHeight - 1)), 0);
+    w.list.EndPrinting(&dc, &info);
+}
+
+TEST(ListPrint, HeadingsHaveTheirFontAndARule) {
+    ListWindow<> w("first\tsecond\tthird");
+    w.list.SetHdrFormat(2, LVCFMT_CENTER);
+    w.list.SetColFormat(2, LVCFMT_RIGHT);
+    w.list.ExcludeColumnFromPrinting(1);
+    TextRecorder dc(CSize(700, 200));
+    dc.FillSolidRect(0, 0, 700, 200, RGB(255, 255, 255));
+    CFont fontRow, fontHeader;
+    fontRow.CreatePointFont(100, "Tahoma");
+    fontHeader.CreatePointFont(160, "Tahoma");
+    CPrintInfo info;
+    w.list.SetPrintFonts(&fontRow, &fontHeader);
+    w.list.BeginPrinting(&dc, &info);
+    w.list.CalcPrintCols(&dc, 600);
+    w.list.PrintHeader(&dc, CRect(20, 30, 620, 80));
+    EXPECT_EQ(dc.All(), "first|third");
+    EXPECT_EQ(dc.texts[1].rc.left, 20 + 300 + 6);
+    EXPECT_EQ(dc.texts[1].nFormat & DT_CENTER, static_cast<UINT>(DT_CENTER));
+    EXPECT_EQ(dc.texts[0].hFont, fontHeader.GetSafeHandle());
+    const int nHeader = w.list.HeaderPrintHeight(&dc) * 2 / 3;
+    const int nRow = w.list.CalculateItemHeight(&dc);
+    EXPECT_GT(nHeader, nRow);
+    const int y = 30 + nHeader * 5 / 4;
+    EXPECT_EQ(dc.GetPixel(20, y), RGB(0, 0, 0));
+    EXPECT_EQ(dc.GetPixel(619, y), RGB(0, 0, 0)) << "from edge to edge";
+    EXPECT_EQ(dc.GetPixel(620, y), RGB(255, 255, 255));
+    w.list.EndPrinting(&dc, &info);
+    EXPECT_NE(w.list.CalculateItemHeight(&dc), nRow) << "fonts are forgotten at the end";
+    ListWindow<> none;
+    TextRecorder blank(CSize(100, 100));
+    none.list.PrintHeader(&blank, CRect(0, 0, 100, 100));
+    EXPECT_EQ(blank.All(), "");
+}
+
+TEST(ListPrint, StylesColourPaperAndTheSelectionDoesNot) {
+    ListWindow<> w("a\tb");
+    w.list.AddStyle(RGB(200, 0, 0), RGB(0, 200, 0));
+    w.Add(
+        "\x1b"
+        "bx\ty");
+    w.list.SelectItem(0);
+    TextRecorder dc(CSize(200, 60));
+    w.list.CalcPrintCols(&dc, 200);
+    w.list.PrintItems(&dc, 0u, 0u, CRect(0, 0, 200, 60));
+    EXPECT_EQ(dc.texts[0].crText, RGB(200, 0, 0));
+    EXPECT_EQ(dc.GetPixel(1, 1), RGB(0, 200, 0));
+}
+
+TEST(ListPrint, AFullListOfImagesKeepsItsOddWidths) {
+    ListWindow<> w("a\tb", true);
+    w.Add("x\ty");
+    TextRecorder dc;
+    w.list.CalcPrintCols(&dc, 200);
+    const CRect rc(0, 0, 200, 60);
+    w.list.PrintItems(&dc, 0u, 0u, rc);
+    EXPECT_EQ(dc.texts[0].rc.right, 100 - kListImageWidth - 6);
+    w.list.SetImageFirstCol(TRUE);
+    w.list.PrintItems(&dc, 0u, 0u, rc);
+    EXPECT_EQ(dc.texts.back().rc.right, 100 - 6) << "printing starts at column 1, at the left";
+}
+
+TEST(ListExport, WritesWhatTheCellsShow) {
+    const std::string strPath = TempPath("qv_export.txt");
+    ListWindow<> w("a\tb\tc");
+    w.list.ExcludeColumnFromPrinting(1);
+    w.Add(
+        "1\t\x1b"
+        "a2\t3");
+    w.Add("x");
+    w.list.SetItemString(1, "\tx\ty");
+    w.list.SetItemText(1, 0, "");
+    EXPECT_TRUE(w.list.ExportData(strPath.c_str(), ','));
+    EXPECT_EQ(FileText(strPath), "1,2,3\r\nx,y\r\n");
+    w.list.DeleteAllItems();
+    EXPECT_TRUE(w.list.ExportData(strPath.c_str(), ';'));
+    EXPECT_EQ(FileText(strPath), "");
+    ::SetFileAttributes(strPath.c_str(), FILE_ATTRIBUTE_READONLY);
+    EXPECT_FALSE(w.list.ExportData(strPath.c_str(), ';'));
+    ::SetFileAttributes(strPath.c_str(), FILE_ATTRIBUTE_NORMAL);
+    ::DeleteFile(strPath.c_str());
+    EXPECT_FALSE(w.list.ExportData(TempPath("no such folder\\x.txt").c_str(), ';'));
+}
+
+TEST(ListExport, AFullDiskIsAnException) {
+    if (::GetFileAttributes("Z:\\dev\\full") == INVALID_FILE_ATTRIBUTES) {
+        GTEST_SKIP() << "needs a device that is always full";
+    }
+    ListWindow<> w("a");
+    w.Add("x");
+    try {
+        w.list.ExportData("Z:\\dev\\full", ',');
+        FAIL() << "nothing was said";
+    } catch (CFileException* pException) {
+        EXPECT_EQ(pException->m_cause, CFileException::diskFull);
+        pException->Delete();
+    }
+}
+
+}  // namespace

@@ -1,0 +1,123 @@
+#include <gtest/gtest.h>
+
+#include "support/list_window.h"
+#include "support/pump.h"
+#include "support/real_input.h"
+
+namespace {
+
+class SortWindow : public ListWindow<QVSortingListCtrl> {
+public:
+    SortWindow() {
+        list.AddHeader("name\ttext", lcdtString);
+        list.AddHeader("count", lcdtNumber);
+        list.AddHeader("date", lcdtDate);
+    }
+    std::string Column(int nCol) {
+        std::string str;
+        for (int i = 0; i < list.GetItemCount(); ++i) {
+            str += (i > 0 ? " " : "") + std::string(list.GetItemText(i, nCol));
+        }
+        return str;
+    }
+    std::string Sorted(int nCol) {
+        list.SortOnHeader(nCol);
+        return Column(nCol);
+    }
+};
+
+TEST(SortingList, ColumnsHaveTheTypeOfTheirHeading) {
+    SortWindow w;
+    EXPECT_EQ(w.list.NumColumns(), 4);
+    EXPECT_EQ(w.list.ColumnSortType(1), lcdtString);
+    EXPECT_EQ(w.list.ColumnSortType(2), lcdtNumber);
+    EXPECT_EQ(w.list.ColumnSortType(3), lcdtDate);
+    w.list.QVListCtrlEx::AddHeader("untyped");
+    EXPECT_EQ(w.list.ColumnSortType(4), lcdtString);
+    EXPECT_EQ(w.list.ColumnSortType(-1), lcdtString);
+    EXPECT_EQ(w.list.InsertColumn(0, "no", 0, 10, 0), -1);
+    EXPECT_EQ(w.list.InsertColumn(0, static_cast<const LVCOLUMN*>(nullptr)), -1);
+    EXPECT_EQ(w.list.NumColumns(), 5);
+}
+
+TEST(SortingList, AClickSortsAndASecondTurnsTheOrder) {
+    SortWindow w;
+    for (const char* psz : {"b\tx", "C\tz", "a\ty"}) {
+        w.Add(psz);
+    }
+    const HWND hHeader = w.list.GetHeaderCtrl()->m_hWnd;
+    ASSERT_TRUE(ClickAt(hHeader, CPoint(90, 8)));
+    EXPECT_TRUE(PumpUntil([&] { return w.Column(1) == "x y z"; }));
+    EXPECT_EQ(w.Column(0), "b a C") << "rows move as a whole";
+    EXPECT_EQ(w.Sorted(1), "z y x");
+    EXPECT_EQ(w.Sorted(1), "x y z");
+    EXPECT_EQ(w.Sorted(0), "a b C") << "a new column begins ascending, without regard to case";
+    w.Add("aa\tv");
+    w.list.ReSort();
+    EXPECT_EQ(w.Column(0), "a aa b C") << "in the direction of the last sort";
+    SortWindow fresh;
+    fresh.Add("a");
+    fresh.Add("b");
+    EXPECT_EQ(fresh.Sorted(0), "b a") << "a fresh list counts as sorted by column 0";
+    SortWindow empty;
+    empty.list.SortOnHeader(1);
+    empty.Add("1\tx");
+    empty.Add("2\ty");
+    EXPECT_EQ(empty.Sorted(1), "y x") << "the second sort of that column";
+}
+
+TEST(SortingList, TypesDecideTheOrder) {
+    SortWindow w;
+    for (const char* psz : {"\x1b"
+                            "ab\tx\t-1\t2020-03-01",
+                            "c\t\x1b"
+                            "ax\t5\tno date",
+                            "\x1b"
+                            "aa\tb\t30\t1955-01-01 12:00",
+                            "d\tc\t4\t2020-03-01 10:00"}) {
+        w.Add(psz);
+    }
+    EXPECT_EQ(w.Sorted(2), "4 5 30 -1") << "negative numbers are great ones";
+    w.list.SortOnHeader(3);
+    EXPECT_EQ(w.Column(2), "30 5 -1 4") << "what is no date stands at 1970";
+    w.list.SortOnHeader(1);
+    EXPECT_EQ(w.Column(2), "5 30 4 -1") << "a code counts, but for column 0";
+    w.list.SortOnHeader(0);
+    EXPECT_EQ(w.Column(2), "30 -1 5 4");
+}
+
+TEST(SortingList, ItemDataComeBackAsTheyWere) {
+    SortWindow w;
+    for (int i = 0; i < 100; ++i) {
+        const std::string str = std::to_string(i * 37 % 100);
+        w.list.SetItemData(w.Add((str + "\tx\t" + str).c_str()),
+                           static_cast<DWORD_PTR>(i * 37 % 100));
+    }
+    w.list.SortOnHeader(2);
+    for (int i = 0; i < 100; ++i) {
+        ASSERT_EQ(w.list.GetItemData(i), static_cast<DWORD_PTR>(i));
+    }
+}
+
+// The parent may refuse that an item changes; no row may keep what is no data of its own.
+TEST(SortingList, ARefusedChangeLeavesTheRowsAlone) {
+    SortWindow w;
+    for (const DWORD_PTR dw : {3, 1, 2}) {
+        w.list.SetItemData(w.Add(std::to_string(dw).c_str()), dw);
+    }
+    w.parent.m_hook = [](NMHDR* pHdr, LRESULT* pResult) {
+        const auto* pItem = reinterpret_cast<const NMLISTVIEW*>(pHdr);
+        *pResult = pHdr->code == static_cast<UINT>(LVN_ITEMCHANGING) && pItem->iItem == 1;
+        return true;
+    };
+    w.list.SortOnHeader(1);
+    w.parent.m_hook = nullptr;
+    std::vector<DWORD_PTR> data;
+    for (int i = 0; i < 3; ++i) {
+        data.push_back(w.list.GetItemData(i));
+    }
+    std::sort(data.begin(), data.end());
+    EXPECT_EQ(data, (std::vector<DWORD_PTR>{1, 2, 3}));
+}
+
+}  // namespace
