@@ -1,4 +1,4 @@
-// The tree's core without a window, and beside Qt's tree widget where that was asked for.
+// Core without a window, and the tree beside Qt's tree widget where that was asked for.
 
 #include <malloc.h>
 
@@ -7,6 +7,8 @@
 #include <string>
 
 #include "bench.h"
+#include "print/core/text_wrap.h"
+#include "support/fake_page_items.h"
 #include "support/test_tree.h"
 #ifdef QV_PEERS
 #include "qt_peer.h"
@@ -148,6 +150,59 @@ void MeasureRows() {
     bench::Figure("tree/core-delete-each-100k", nDelete * 1e3, "ms");
 }
 
+double Paginate() {
+    FakePageItems items;
+    items.List(100000, 15);
+    for (int i = 0; i < 250; ++i) {
+        items.Section().Group().Text(2000).Break();
+    }
+    std::vector<qv::PageRecord> pages;
+    return bench::Time([&] { qv::Paginate(items, 80, 700, pages); });
+}
+
+// Proportional widths of a byte each, as a font's table gives them.
+class TableMeasure : public qv::TextMeasure {
+public:
+    TableMeasure() {
+        for (int i = 0; i < 256; ++i) {
+            m_aWidths[i] = 4 + i * 7 % 9;
+        }
+    }
+    qv::Size Extent(std::string_view text) override {
+        int nWidth = 0;
+        for (const char ch : text) {
+            nWidth += m_aWidths[static_cast<unsigned char>(ch)];
+        }
+        return {nWidth, 13};
+    }
+    void PrefixWidths(std::string_view text, int* pWidths) override {
+        int nWidth = 0;
+        for (std::size_t i = 0; i < text.size(); ++i) {
+            pWidths[i] = nWidth += m_aWidths[static_cast<unsigned char>(text[i])];
+        }
+    }
+
+private:
+    int m_aWidths[256];
+};
+
+double Wrap(int nMegabytes) {
+    std::mt19937 random(13);
+    std::string strText;
+    while (strText.size() < static_cast<std::size_t>(nMegabytes) * kMillion) {
+        strText.append(1 + random() % 10, static_cast<char>('a' + random() % 26)) += ' ';
+    }
+    TableMeasure measure;
+    std::vector<std::string_view> lines;
+    return bench::Time([&] { qv::WrapLine(strText, 600, measure, qv::MultiByte::Utf8(), lines); });
+}
+
+void MeasurePrint() {
+    bench::Figure("print/paginate-100k", bench::MedianOf(Paginate) * 1e3, "ms");
+    bench::Figure("print/wrap-1mb", bench::MedianOf([] { return Wrap(1); }) * 1e3, "ms");
+    bench::Figure("print/wrap-2mb", bench::MedianOf([] { return Wrap(2); }) * 1e3, "ms");
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -189,5 +244,6 @@ int main(int argc, char** argv) {
         }
     }
     MeasureRows();
+    MeasurePrint();
     return 0;
 }

@@ -40,15 +40,15 @@ std::uint32_t FoldCodePoint(std::uint32_t c) {
     return c;
 }
 
-// Bytes of a well-formed sequence, or 1 for a byte that starts none.
-std::size_t Utf8Bytes(const char* psz) {
-    const auto first = static_cast<unsigned char>(psz[0]);
+// Bytes of a well-formed sequence of at most nMost bytes, or 1 for a byte that starts none.
+std::size_t Utf8Bytes(const char* p, std::size_t nMost) {
+    const auto first = static_cast<unsigned char>(p[0]);
     const std::size_t nBytes = first >= 0xF0 && first < 0xF8   ? 4
                                : first >= 0xE0 && first < 0xF0 ? 3
                                : first >= 0xC2 && first < 0xE0 ? 2
                                                                : 1;
     for (std::size_t i = 1; i < nBytes; ++i) {
-        if ((static_cast<unsigned char>(psz[i]) & 0xC0) != 0x80) {
+        if (i == nMost || (static_cast<unsigned char>(p[i]) & 0xC0) != 0x80) {
             return 1;
         }
     }
@@ -83,14 +83,20 @@ MultiByte MultiByte::Utf8() {
 }
 
 std::size_t MultiByte::CharBytes(const char* psz) const {
-    if (*psz == 0) {
-        return 0;
-    }
+    return *psz == 0 ? 0 : CharBytes(psz, std::string_view::npos);
+}
+
+std::size_t MultiByte::CharBytes(std::string_view text) const {
+    return text.empty() ? 0 : CharBytes(text.data(), text.size());
+}
+
+// Of the nMost bytes at p, one at least, none behind a terminator is read.
+std::size_t MultiByte::CharBytes(const char* p, std::size_t nMost) const {
     switch (m_kind) {
         case Kind::DoubleByte:
-            return m_lead[static_cast<unsigned char>(psz[0])] && psz[1] != 0 ? 2 : 1;
+            return m_lead[static_cast<unsigned char>(p[0])] && nMost > 1 && p[1] != 0 ? 2 : 1;
         case Kind::Utf8:
-            return Utf8Bytes(psz);
+            return Utf8Bytes(p, nMost);
         case Kind::SingleByte:
             break;
     }

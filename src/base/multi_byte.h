@@ -11,6 +11,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace qv {
 
@@ -36,6 +37,8 @@ public:
 
     // Bytes of the character at psz, 0 at the terminator.
     std::size_t CharBytes(const char* psz) const;
+    // Bytes of the first character, 0 for an empty text. A null is a character of its own.
+    std::size_t CharBytes(std::string_view text) const;
 
     // Bytes of the longest start of psz that has at most nMost bytes and splits no character.
     std::size_t PrefixBytes(const char* psz, std::size_t nMost) const;
@@ -43,6 +46,7 @@ public:
 private:
     enum class Kind { SingleByte, DoubleByte, Utf8 };
 
+    std::size_t CharBytes(const char* p, std::size_t nMost) const;
     std::uint32_t NextFolded(const char*& psz) const;
 
     Kind m_kind = Kind::SingleByte;

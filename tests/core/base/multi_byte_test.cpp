@@ -48,6 +48,16 @@ TEST(MultiByte, LeadByteBeforeTheTerminatorStandsForItself) {
     EXPECT_EQ(MultiByte::Utf8().CompareNoCase("\xC3", "\xC3"), 0);
 }
 
+TEST(MultiByte, CharacterOfAViewEndsWithTheView) {
+    const std::string_view sign = "\xE2\x82\xAC";
+    EXPECT_EQ(MultiByte::Utf8().CharBytes(sign), 3u);
+    EXPECT_EQ(MultiByte::Utf8().CharBytes(sign.substr(0, 2)), 1u);
+    EXPECT_EQ(Japanese().CharBytes(std::string_view("\x83\x41")), 2u);
+    EXPECT_EQ(Japanese().CharBytes(std::string_view("\x83\x41", 1)), 1u);
+    EXPECT_EQ(MultiByte().CharBytes(std::string_view("\0x", 2)), 1u);
+    EXPECT_EQ(MultiByte().CharBytes(std::string_view()), 0u);
+}
+
 TEST(MultiByte, Utf8LettersFoldByCodePoint) {
     const MultiByte text = MultiByte::Utf8();
     EXPECT_EQ(text.CompareNoCase("\xC3\x84rger", "\xC3\xA4RGER"), 0);          // A umlaut

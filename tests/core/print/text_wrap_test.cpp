@@ -1,0 +1,244 @@
+#include "print/core/text_wrap.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <random>
+#include <string>
+
+#include "support/fake_window.h"
+
+namespace {
+
+using qv::MultiByte;
+using Lines = std::vector<std::string_view>;
+
+MultiByte DoubleByte() {
+    MultiByte::LeadTable lead{};
+    for (unsigned i = 0x81; i <= 0x9F; ++i) {
+        lead[i] = true;
+    }
+    return MultiByte::DoubleByte({}, lead);
+}
+
+bool IsWhole(std::string_view part, const MultiByte& text) {
+    std::size_t n = 0;
+    while (n < part.size()) {
+        n += text.CharBytes(part.data() + n);
+    }
+    return n == part.size();
+}
+
+// Widths by byte; with context, a pair may stand closer or wider, and the first byte of a text
+// changes all that follow it.
+class RandomMeasure : public qv::TextMeasure {
+public:
+    RandomMeasure(std::mt19937& random, const MultiByte& text) : m_text(text) {
+        for (int& nWidth : m_aWidths) {
+            nWidth = random() % 4 == 0 ? 0 : static_cast<int>(random() % 12);
+        }
+        m_bContext = random() % 2 == 0;
+    }
+    qv::Size Extent(std::string_view part) override {
+        nBytes += part.size();
+        int nWidth = 0;
+        for (std::size_t i = 0; i < part.size(); ++i) {
+            nWidth = Grow(nWidth, part, i);
+        }
+        return {nWidth, 10};
+    }
+    void PrefixWidths(std::string_view part, int* pWidths) override {
+        EXPECT_TRUE(IsWhole(part, m_text));
+        nBytes += part.size();
+        int nWidth = 0;
+        for (std::size_t i = 0; i < part.size(); ++i) {
+            pWidths[i] = nWidth = Grow(nWidth, part, i);
+        }
+    }
+
+    std::size_t nBytes = 0;  // measured
+
+private:
+    int Grow(int nWidth, std::string_view part, std::size_t i) const {
+        nWidth += m_aWidths[static_cast<unsigned char>(part[i])];
+        if (m_bContext && i > 0) {
+            nWidth += (part[i] ^ part[i - 1]) % 3 + (part[0] & 1);
+        }
+        return std::max(nWidth, 0);
+    }
+
+    const MultiByte& m_text;
+    int m_aWidths[256];
+    bool m_bContext;
+};
+
+// The rule step by step, each start of the text measured by itself.
+Lines PlainWrap(std::string_view line, unsigned nWidth, qv::TextMeasure& measure,
+                const MultiByte& text) {
+    const auto isNarrower = [&](std::string_view part) {
+        return static_cast<unsigned>(measure.Extent(part).cx) < nWidth;
+    };
+    if (line.empty() || isNarrower(line)) {
+        return {line};
+    }
+    Lines lines;
+    while (!line.empty()) {
+        std::vector<std::size_t> ends{0};  // of the first n characters
+        while (ends.back() < line.size() &&
+               (ends.size() == 1 || isNarrower(line.substr(0, ends.back())))) {
+            ends.push_back(ends.back() + text.CharBytes(line.data() + ends.back()));
+        }
+        if (isNarrower(line.substr(0, ends.back()))) {
+            lines.push_back(line);
+            break;
+        }
+        const std::size_t nChars = ends.size() - 2;
+        std::size_t nBreak = nChars;
+        while (nBreak > 0 && line[ends[nBreak]] != ' ') {
+            --nBreak;
+        }
+        const std::size_t nBytes = ends[nBreak > 0 ? nBreak : std::max<std::size_t>(nChars, 1)];
+        lines.push_back(line.substr(0, nBytes));
+        line.remove_prefix(nBytes);
+        while (!line.empty() && std::isspace(static_cast<unsigned char>(line[0]))) {
+            line.remove_prefix(1);
+        }
+    }
+    return lines;
+}
+
+Lines Wrap(std::string_view line, unsigned nChars, const MultiByte& text = MultiByte()) {
+    FixedMeasure measure;
+    Lines lines;
+    qv::WrapLine(line, nChars * FixedMeasure::kCharWidth, measure, text, lines);
+    return lines;
+}
+
+TEST(TextWrap, LineNarrowerThanThePageStaysAsItIs) {
+    EXPECT_EQ(Wrap("  a b\t", 7), Lines{"  a b\t"});
+    EXPECT_EQ(Wrap("", 7), Lines{""});
+    EXPECT_EQ(Wrap("", 0), Lines{""});
+}
+
+TEST(TextWrap, LineFlushWithTheEdgeIsBroken) {
+    EXPECT_EQ(Wrap("aaa bbb", 7), (Lines{"aaa", "bbb"}));
+    EXPECT_EQ(Wrap("aaa bbb", 8), Lines{"aaa bbb"});
+    EXPECT_EQ(Wrap("aaabbbb", 7), (Lines{"aaabbb", "b"}));
+}
+
+TEST(TextWrap, BreaksAtTheLastBlankThatMayEndTheLine) {
+    EXPECT_EQ(Wrap("a bc def", 5), (Lines{"a bc", "def"})) << "the blank itself may be too wide";
+    EXPECT_EQ(Wrap("a bcd efg", 5), (Lines{"a", "bcd", "efg"}));
+    EXPECT_EQ(Wrap("ab   cd", 5), (Lines{"ab  ", "cd"})) << "blanks before the break stay";
+    EXPECT_EQ(Wrap("ab\tcdef", 5), (Lines{"ab\tc", "def"})) << "a tab is no break";
+    EXPECT_EQ(Wrap("abcd \t\n\v\f\r x", 5), (Lines{"abcd", "x"}));
+    EXPECT_EQ(Wrap("abcdefg \t", 5), (Lines{"abcd", "efg"})) << "no line for white space alone";
+}
+
+TEST(TextWrap, WordWithoutBlankIsBrokenWhereItMust) {
+    EXPECT_EQ(Wrap("abcdefghij", 5), (Lines{"abcd", "efgh", "ij"}));
+    EXPECT_EQ(Wrap(" abcdefg", 5), (Lines{" abc", "defg"})) << "a blank in front is no break";
+}
+
+TEST(TextWrap, TooNarrowPageTakesOneCharacterALine) {
+    EXPECT_EQ(Wrap("abc", 1), (Lines{"a", "b", "c"}));
+    EXPECT_EQ(Wrap("a b", 0), (Lines{"a", "b"}));
+    EXPECT_EQ(Wrap("\xE2\x82\xAC\xC3\xA4", 1, MultiByte::Utf8()),
+              (Lines{"\xE2\x82\xAC", "\xC3\xA4"}));
+    EXPECT_EQ(Wrap("\x83\x41\x83", 1, DoubleByte()), (Lines{"\x83\x41", "\x83"}));
+}
+
+TEST(TextWrap, CharactersStayWhole) {
+    EXPECT_EQ(Wrap("a\xC3\xA4\xC3\xA4", 3, MultiByte::Utf8()),
+              (Lines{"a", "\xC3\xA4", "\xC3\xA4"}));
+    EXPECT_EQ(Wrap("a\x83\x41z", 3, DoubleByte()), (Lines{"a", "\x83\x41", "z"}));
+}
+
+TEST(TextWrap, AppendsToTheLinesThatAreThere) {
+    FixedMeasure measure;
+    Lines lines{"first"};
+    qv::WrapLine("ab", FixedMeasure::kCharWidth * 2, measure, MultiByte(), lines);
+    EXPECT_EQ(lines, (Lines{"first", "a", "b"}));
+}
+
+std::string RandomText(std::mt19937& random, std::size_t nMost) {
+    static constexpr std::string_view kParts[] = {"a",
+                                                  "b",
+                                                  "w",
+                                                  " ",
+                                                  " ",
+                                                  "  ",
+                                                  "\t",
+                                                  "\n",
+                                                  "\xC3\xA4",
+                                                  "\xE2\x82\xAC",
+                                                  "\x83\x41",
+                                                  "\x9F",
+                                                  "\xF0\x9F\x98\x80",
+                                                  "\xFF"};
+    const std::size_t nParts = random() % nMost;
+    const unsigned nKinds = 1 + random() % std::size(kParts);  // some texts without multi-byte
+    std::string strText;
+    while (strText.size() < nParts) {
+        strText += kParts[random() % nKinds];
+    }
+    return strText;
+}
+
+TEST(TextWrap, AgreesWithTheRuleOnRandomTexts) {
+    std::mt19937 random(5);
+    const MultiByte kinds[] = {MultiByte(), DoubleByte(), MultiByte::Utf8()};
+    for (int i = 0; i < 6000; ++i) {
+        const MultiByte& text = kinds[i % 3];
+        RandomMeasure measure(random, text);
+        const std::string strText = RandomText(random, i % 50 == 0 ? 1500 : 120);
+        const unsigned nWidth = random() % (i % 4 == 0 ? 2000 : 150);
+        Lines lines;
+        qv::WrapLine(strText, nWidth, measure, text, lines);
+        const Lines expected = PlainWrap(strText, nWidth, measure, text);
+        ASSERT_EQ(lines, expected) << i << " width " << nWidth;
+        for (std::size_t k = 0; k < lines.size(); ++k) {
+            ASSERT_EQ(lines[k].data(), expected[k].data()) << "parts of the text itself";
+        }
+    }
+}
+
+// Every byte is 10 wide, but for z, which has no width.
+class CountingMeasure : public qv::TextMeasure {
+public:
+    qv::Size Extent(std::string_view part) override {
+        nBytes += part.size();
+        return {10 * static_cast<int>(part.size() - std::count(part.begin(), part.end(), 'z')), 10};
+    }
+    void PrefixWidths(std::string_view part, int* pWidths) override {
+        nBytes += part.size();
+        int nWidth = 0;
+        for (const char ch : part) {
+            *pWidths++ = nWidth += ch == 'z' ? 0 : 10;
+        }
+    }
+    std::size_t nBytes = 0;
+};
+
+TEST(TextWrap, MeasuresFewTimesWhatTheTextHolds) {
+    std::string strWords;
+    for (int i = 0; i < 40000; ++i) {
+        strWords += "word" + std::string(i % 7, 'x') + ' ';
+    }
+    const std::string strWide(300000, 'a');
+    const std::string strNone(300000, 'z');
+    const std::string strBlanks(300000, ' ');
+    for (const std::string& strText :
+         {strWords, strWide, strBlanks, strNone + strWide, "a " + strNone + strWide}) {
+        for (const unsigned nWidth : {11u, 800u, 100000u}) {
+            CountingMeasure measure;
+            Lines lines;
+            qv::WrapLine(strText, nWidth, measure, MultiByte(), lines);
+            EXPECT_LT(measure.nBytes, strText.size() * (nWidth == 11 ? 25 : 6))
+                << strText.substr(0, 5) << " in " << nWidth;
+        }
+    }
+}
+
+}  // namespace
