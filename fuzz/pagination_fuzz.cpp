@@ -192,9 +192,16 @@ void RunWild(FakePageItems items, FuzzInput& input, unsigned nHeight) {
     std::vector<PageRecord> pages;
     qv::Paginate(wild, 1, nHeight, pages);
     unsigned nBehind = 0;  // the least item that may come
+    unsigned nRow = 0;     // of that item, if it goes on
     for (const PageRecord& page : pages) {
         FUZZ_CHECK(page.nFirstItem >= nBehind && page.nFirstItem <= page.nLastItem);
-        nBehind = page.nLastSub == kToEnd ? page.nLastItem + 1 : page.nLastItem;
+        if (nRow > 0 && page.nFirstItem == nBehind) {
+            FUZZ_CHECK(page.nFirstSub == nRow);
+            FUZZ_CHECK(page.nLastItem > page.nFirstItem || page.nLastSub >= nRow);
+        }
+        const bool bSplit = page.nLastSub != kToEnd;
+        nBehind = bSplit ? page.nLastItem : page.nLastItem + 1;
+        nRow = bSplit ? page.nLastSub + 1 : 0;
     }
     FUZZ_CHECK(nBehind <= wild.items.size());
 }
