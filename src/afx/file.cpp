@@ -229,7 +229,12 @@ void CStdioFile::Close() {
     m_pStream = nullptr;
     m_hFile = INVALID_HANDLE_VALUE;
     m_bCloseOnDelete = FALSE;
-    if (pStream != nullptr && std::fclose(pStream) != 0) {
+    if (pStream == nullptr) {
+        return;
+    }
+    // Closing alone does not tell of every write that failed on the way.
+    const bool bFlushed = std::fflush(pStream) == 0;
+    if (std::fclose(pStream) != 0 || !bFlushed) {
         AfxThrowFileException(CFileException::diskFull, -1, m_strFileName);
     }
 }

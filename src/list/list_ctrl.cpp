@@ -319,6 +319,26 @@ void QVListCtrlEx::SetColWidth(int nCol, int nWidth, int* pWidths) {
     }
 }
 
+int QVListCtrlEx::NumColumns() const {
+    return m_columns.Count();
+}
+
+int QVListCtrlEx::GetColFormat(int nCol) const {
+    return m_columns.Format(nCol);
+}
+
+void QVListCtrlEx::SetColFormat(int nCol, int nFormat) {
+    m_columns.SetFormat(nCol, nFormat);
+}
+
+int QVListCtrlEx::GetColStyle(int nCol) const {
+    return m_columns.Style(nCol);
+}
+
+void QVListCtrlEx::SetColStyle(int nCol, int nStyle) {
+    m_columns.SetStyle(nCol, nStyle);
+}
+
 int QVListCtrlEx::GetHdrFormat(int nCol) {
     LVCOLUMN column{};
     column.mask = LVCF_FMT;

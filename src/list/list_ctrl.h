@@ -77,14 +77,14 @@ public:
     int GetDataWidth();
     int GetColWidth(int nCol, int* pWidths);
     void SetColWidth(int nCol, int nWidth, int* pWidths);
-    int NumColumns() const { return m_columns.Count(); }
+    int NumColumns() const;
     // Alignment of the cells: LVCFMT_LEFT, LVCFMT_RIGHT or LVCFMT_CENTER. Headings have their own.
-    int GetColFormat(int nCol) const { return m_columns.Format(nCol); }
-    void SetColFormat(int nCol, int nFormat) { m_columns.SetFormat(nCol, nFormat); }
+    int GetColFormat(int nCol) const;
+    void SetColFormat(int nCol, int nFormat);
     // The style whose background fills the column under the last row, and stands in where a cell's
     // style has a background of -1.
-    int GetColStyle(int nCol) const { return m_columns.Style(nCol); }
-    void SetColStyle(int nCol, int nStyle) { m_columns.SetStyle(nCol, nStyle); }
+    int GetColStyle(int nCol) const;
+    void SetColStyle(int nCol, int nStyle);
     int GetHdrFormat(int nCol);
     void SetHdrFormat(int nCol, int nFormat);
     // Called on a click on a heading.
@@ -148,10 +148,10 @@ public:
     virtual int PrintItems(CDC* pDC, UINT nFirst, UINT nLast, const CRect& rc);
     virtual int PrintItems(CDC* pDC, CPrintInfo* pInfo, const CRect& rc);
     // For the life of the control. Exports are not affected.
-    void ExcludeColumnFromPrinting(int nCol) { m_columns.Exclude(nCol); }
-    BOOL IsColumnExcludedFromPrinting(int nCol) const { return m_columns.IsExcluded(nCol); }
+    void ExcludeColumnFromPrinting(int nCol);
+    BOOL IsColumnExcludedFromPrinting(int nCol) const;
     int CalcExcludedColsWidth();
-    int GetPrintColWidth(int nCol) { return GetColWidth(nCol, m_columns.PrintWidths()); }
+    int GetPrintColWidth(int nCol);
     // A line for each row, chSeparator between the cells, codes removed, nothing quoted; empty
     // cells at the start of a row leave no separator. 0 if the file cannot be opened. Throws the
     // framework's CFileException if writing fails.

@@ -77,6 +77,10 @@ void QVListCtrlEx::DrawItem(LPDRAWITEMSTRUCT lpDIS) {
     CDC* pDC = CDC::FromHandle(lpDIS->hDC);
     const qv::RowLayout layout = Layout();
     CRect rc(lpDIS->rcItem);
+    if (CRect rcBounds; GetItemRect(static_cast<int>(lpDIS->itemID), &rcBounds, LVIR_BOUNDS)) {
+        // Some versions of the control leave out a margin at the left, which nobody else paints.
+        rc.left = std::min(rc.left, rcBounds.left);
+    }
     rc.right = std::max(rc.right, rc.left + static_cast<LONG>(layout.Width()));
     if (m_dcMem.GetSafeHdc() == nullptr || !pDC->RectVisible(&rc)) {
         return;

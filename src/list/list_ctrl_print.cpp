@@ -49,6 +49,18 @@ int QVListCtrlEx::CalculateItemHeight(CDC* pDC) {
     return pDC->GetTextExtent("0", 1).cy;
 }
 
+void QVListCtrlEx::ExcludeColumnFromPrinting(int nCol) {
+    m_columns.Exclude(nCol);
+}
+
+BOOL QVListCtrlEx::IsColumnExcludedFromPrinting(int nCol) const {
+    return m_columns.IsExcluded(nCol);
+}
+
+int QVListCtrlEx::GetPrintColWidth(int nCol) {
+    return GetColWidth(nCol, m_columns.PrintWidths());
+}
+
 int QVListCtrlEx::CalcExcludedColsWidth() {
     int nWidth = 0;
     for (const int nCol : m_columns.Excluded()) {

@@ -16,7 +16,8 @@ public:
     std::string Column(int nCol) {
         std::string str;
         for (int i = 0; i < list.GetItemCount(); ++i) {
-            str += (i > 0 ? " " : "") + std::string(list.GetItemText(i, nCol));
+            str += i > 0 ? " " : "";
+            str += list.GetItemText(i, nCol);
         }
         return str;
     }
