@@ -1,5 +1,7 @@
 #include "main_frame.h"
 
+#include "code_page.h"
+#include "install_dates.h"
 #include "registry_source.h"
 #include "resource.h"
 
@@ -12,7 +14,7 @@ constexpr char kPackageDatabase[] = "Z:\\var\\lib\\dpkg\\status";
 BEGIN_MESSAGE_MAP(MainFrame, CFrameWnd)
     ON_WM_CREATE()
     ON_WM_SETFOCUS()
-    ON_COMMAND(ID_TREE_RELOAD, OnReload)
+    ON_COMMAND(ID_RELOAD, OnReload)
     ON_UPDATE_COMMAND_UI(ID_INDICATOR_MESSAGE, OnUpdateMessage)
     ON_UPDATE_COMMAND_UI(ID_INDICATOR_MARKED, OnUpdateMarked)
 END_MESSAGE_MAP()
@@ -26,18 +28,19 @@ BOOL MainFrame::PreCreateWindow(CREATESTRUCT& cs) {
 
 int MainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     static constexpr UINT kIndicators[] = {ID_INDICATOR_MESSAGE, ID_INDICATOR_MARKED};
-    if (CFrameWnd::OnCreate(lpCreateStruct) == -1 || !m_page.Create(this) ||
+    if (CFrameWnd::OnCreate(lpCreateStruct) == -1 || !m_pages.Create(this) ||
+        !m_pages.Add(m_sections) || !m_pages.Add(m_packages) || !m_pages.Add(m_report) ||
         !m_statusBar.Create(this) ||
         !m_statusBar.SetIndicators(kIndicators, static_cast<int>(std::size(kIndicators)))) {
         return -1;
     }
     m_statusBar.SetPaneStyle(0, SBPS_STRETCH);
-    SetActiveClient(&m_page);
+    SetActiveClient(&m_pages);
     return 0;
 }
 
 void MainFrame::OnSetFocus(CWnd*) {
-    m_page.SetFocus();
+    m_pages.SetFocus();
 }
 
 BOOL MainFrame::Open(const CString& strPath, bool bInteractive) {
@@ -49,12 +52,14 @@ BOOL MainFrame::Open(const CString& strPath, bool bInteractive) {
     if (!strPath.IsEmpty() || CFile::GetStatus(kPackageDatabase, status)) {
         const CString strFile = strPath.IsEmpty() ? CString(kPackageDatabase) : strPath;
         bRead = ReadPackages(static_cast<LPCTSTR>(strFile), packages, error);
+        ReadInstallDates(strFile, packages);
+        ToProcessCodePage(packages);
     } else {
         packages = ReadUninstallEntries();
     }
     m_strProblem = error.strMessage.c_str();
     m_inventory.SetPackages(std::move(packages));
-    m_page.SetInventory(m_inventory);
+    m_pages.SetInventory(m_inventory);
     if (!bRead && bInteractive) {
         AfxMessageBox(m_strProblem, MB_ICONEXCLAMATION);
     }
@@ -68,7 +73,7 @@ void MainFrame::OnReload() {
 void MainFrame::OnUpdateMessage(CCmdUI* pCmdUI) {
     CString strText = m_strProblem;
     if (strText.IsEmpty()) {
-        strText = m_page.Message();
+        strText = m_pages.Active().Message();
     }
     if (strText.IsEmpty()) {
         strText.Format("%u packages in %u sections",
@@ -81,5 +86,5 @@ void MainFrame::OnUpdateMessage(CCmdUI* pCmdUI) {
 
 void MainFrame::OnUpdateMarked(CCmdUI* pCmdUI) {
     pCmdUI->Enable();
-    pCmdUI->SetText(m_page.MarkedText());
+    pCmdUI->SetText(m_pages.Active().MarkedText());
 }

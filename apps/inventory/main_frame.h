@@ -1,17 +1,23 @@
-// The application's window: menu, the page, and a status bar with what is marked.
+// The application's window: menu, pages, and a status bar.
 
 #pragma once
 
 #include <afxext.h>
 
 #include "model/package_database.h"
+#include "packages_page.h"
+#include "page_host.h"
+#include "report_page.h"
 #include "tree_page.h"
 
 class MainFrame : public CFrameWnd {
 public:
     // An empty path: this machine's own inventory.
     BOOL Open(const CString& strPath, bool bInteractive);
-    TreePage& Page() { return m_page; }
+    TreePage& Sections() { return m_sections; }
+    PackagesPage& Packages() { return m_packages; }
+    ReportPage& Report() { return m_report; }
+    PageHost& Pages() { return m_pages; }
     CString StatusText(int nPane) { return m_statusBar.GetPaneText(nPane); }
 
 protected:
@@ -29,5 +35,8 @@ private:
     CString m_strProblem;
     Inventory m_inventory;
     CStatusBar m_statusBar;
-    TreePage m_page;
+    TreePage m_sections;
+    PackagesPage m_packages;
+    ReportPage m_report{m_packages};
+    PageHost m_pages;
 };

@@ -1,6 +1,5 @@
 #include "tree_page.h"
 
-#include "find_dialog.h"
 #include "resource.h"
 
 namespace {
@@ -25,45 +24,27 @@ bool IsCheckChange(const NM_TREEVIEW& notification) {
 
 }  // namespace
 
-BEGIN_MESSAGE_MAP(TreePage, CWnd)
+BEGIN_MESSAGE_MAP(TreePage, Page)
     ON_WM_CREATE()
     ON_WM_SIZE()
-    ON_WM_SETFOCUS()
     ON_NOTIFY(TVN_SELCHANGING, IDC_TREE, OnSelChanging)
     ON_NOTIFY(TVN_SELCHANGED, IDC_TREE, OnSelChanged)
     ON_NOTIFY(TVN_ITEMEXPANDING, IDC_TREE, OnItemExpanding)
     ON_COMMAND_RANGE(ID_TREE_EXPAND, ID_TREE_COLLAPSE_ALL, OnExpand)
     ON_COMMAND(ID_TREE_SORT, OnSort)
-    ON_COMMAND(ID_TREE_FIND, OnFind)
-    ON_COMMAND(ID_TREE_FIND_NEXT, OnFindNext)
     ON_COMMAND_RANGE(ID_VIEW_INDENTED, ID_VIEW_ABSOLUTE, OnColumns)
     ON_COMMAND_RANGE(ID_VIEW_LINES, ID_VIEW_SHOW_SELECTION, OnStyle)
     ON_COMMAND_RANGE(ID_VETO_SELECTION, ID_VETO_CHECK, OnVeto)
     ON_UPDATE_COMMAND_UI(ID_TREE_EXPAND, OnUpdateSelection)
     ON_UPDATE_COMMAND_UI(ID_TREE_COLLAPSE, OnUpdateSelection)
     ON_UPDATE_COMMAND_UI(ID_TREE_SORT, OnUpdateSelection)
-    ON_UPDATE_COMMAND_UI(ID_TREE_FIND_NEXT, OnUpdateFindNext)
     ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_INDENTED, ID_VIEW_ABSOLUTE, OnUpdateColumns)
     ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_LINES, ID_VIEW_SHOW_SELECTION, OnUpdateStyle)
     ON_UPDATE_COMMAND_UI_RANGE(ID_VETO_SELECTION, ID_VETO_CHECK, OnUpdateVeto)
 END_MESSAGE_MAP()
 
-BOOL TreePage::Create(CWnd* pParent) {
-    m_font.CreatePointFont(80, "Tahoma");
-    return CWnd::Create(nullptr, "", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, CRect(0, 0, 0, 0),
-                        pParent, AFX_IDW_PANE_FIRST);
-}
-
-// The tree takes the font of its nearest ancestor that has one: this window.
-LRESULT TreePage::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_GETFONT) {
-        return reinterpret_cast<LRESULT>(m_font.GetSafeHandle());
-    }
-    return CWnd::WindowProc(message, wParam, lParam);
-}
-
 int TreePage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
-    if (CWnd::OnCreate(lpCreateStruct) == -1 ||
+    if (Page::OnCreate(lpCreateStruct) == -1 ||
         !m_tree.Create(
             WS_CHILD | WS_VISIBLE | WS_TABSTOP | TVS_HASLINES | TVS_HASBUTTONS | TVS_LINESATROOT,
             CRect(0, 0, 0, 0), this, IDC_TREE)) {
@@ -74,12 +55,12 @@ int TreePage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
 }
 
 void TreePage::OnSize(UINT nType, int cx, int cy) {
-    CWnd::OnSize(nType, cx, cy);
+    Page::OnSize(nType, cx, cy);
     m_tree.MoveWindow(0, 0, cx, cy);
 }
 
-void TreePage::OnSetFocus(CWnd*) {
-    m_tree.SetFocus();
+bool TreePage::FindNext(const CString& strText) {
+    return m_tree.FindNext(strText);
 }
 
 void TreePage::SetInventory(const Inventory& inventory) {
@@ -155,21 +136,6 @@ void TreePage::OnSort() {
     m_tree.SortChildren(m_tree.GetSelectedItem());
 }
 
-void TreePage::OnFind() {
-    FindDialog dialog(this);
-    dialog.m_strText = m_strFind;
-    if (dialog.DoModal() == IDOK && !dialog.m_strText.IsEmpty()) {
-        m_strFind = dialog.m_strText;
-        OnFindNext();
-    }
-}
-
-void TreePage::OnFindNext() {
-    if (!m_tree.FindNext(m_strFind)) {
-        m_strMessage.Format("No package's name contains \"%s\"", static_cast<LPCTSTR>(m_strFind));
-    }
-}
-
 void TreePage::OnColumns(UINT nID) {
     m_tree.UseIndentedColumns(nID == ID_VIEW_INDENTED);
 }
@@ -201,8 +167,4 @@ void TreePage::OnUpdateStyle(CCmdUI* pCmdUI) {
 
 void TreePage::OnUpdateVeto(CCmdUI* pCmdUI) {
     pCmdUI->SetCheck(pCmdUI->m_nID == ID_VETO_SELECTION ? m_bRefuseSelection : m_bRefuseCheck);
-}
-
-void TreePage::OnUpdateFindNext(CCmdUI* pCmdUI) {
-    pCmdUI->Enable(!m_strFind.IsEmpty());
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "main_frame.h"
+#include "walk_input.h"
 
 class Walk {
 public:
@@ -12,18 +13,36 @@ public:
     bool Run();
 
 private:
-    bool Sections();
+    // The tree
+    bool TreePage();
     bool OpenBranch();
     bool Marks();
     bool AbsoluteColumns();
     bool Find();
     bool Vetoes();
+    // The list
+    bool Packages();
+    bool FindPackage();
+    bool ImageColumn();
+    bool Export();
+    bool Refresh();
+    // The report
+    bool ReportPages();
+    bool Zoom();
+    bool Paper();
 
-    PackageTree& Tree() { return m_frame.Page().Tree(); }
+    PackageTree& Tree() { return m_frame.Sections().Tree(); }
+    PackageList& List() { return m_frame.Packages().List(); }
     CPoint PointOf(HTREEITEM hItem, int nOffset);
+    CPoint PointOfHeading(int nCol);
+    CPoint PointOfRow(int nItem);
+    void ClickTab(int nPage);
     bool Station(const char* pszName);
+    bool Happened(const char* pszWhat, bool bHappened);
     template <class Condition>
-    bool Expect(const char* pszWhat, Condition condition);
+    bool Expect(const char* pszWhat, Condition condition) {
+        return Happened(pszWhat, WaitFor(condition));
+    }
 
     MainFrame& m_frame;
     CString m_strFolder;

@@ -80,7 +80,9 @@ BOOL CImageList::Create(UINT nBitmapID, int cx, int nGrow, COLORREF crMask) {
 }
 BOOL CImageList::Create(LPCTSTR lpszBitmapID, int cx, int nGrow, COLORREF crMask) {
     const HINSTANCE hInst = AfxFindResourceHandle(lpszBitmapID, RT_BITMAP);
-    return Attach(::ImageList_LoadBitmap(hInst, lpszBitmapID, cx, nGrow, crMask));
+    // As a section of its own depth the bitmap keeps its colours, whatever a list has by default.
+    return Attach(::ImageList_LoadImage(hInst, lpszBitmapID, cx, nGrow, crMask, IMAGE_BITMAP,
+                                        LR_CREATEDIBSECTION));
 }
 BOOL CImageList::Create(CImageList& list1, int nImage1, CImageList& list2, int nImage2, int dx,
                         int dy) {

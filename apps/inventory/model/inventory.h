@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include <ctime>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,7 @@ struct Package {
     std::string strState;    // "installed" where nothing is to be said
     std::string strSummary;  // one line
     long nSizeKiB = 0;
+    std::time_t tInstalled = 0;             // 0: not known
     bool bUnusual = false;                  // in any state but properly installed
     bool bRequired = false;                 // the machine does not work without it
     std::vector<std::string> dependencies;  // one each, alternatives joined by " | "

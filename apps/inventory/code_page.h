@@ -1,0 +1,12 @@
+// The package database is written in UTF-8; the controls show text in the process's code page.
+
+#pragma once
+
+#include <afxwin.h>
+
+#include <vector>
+
+#include "model/inventory.h"
+
+// Characters that the code page has not become question marks.
+void ToProcessCodePage(std::vector<Package>& packages);

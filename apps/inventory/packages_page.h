@@ -1,0 +1,36 @@
+// PackagesPage: the packages as a sorted report, with export and the list's own settings.
+
+#pragma once
+
+#include "package_list.h"
+#include "page.h"
+
+class PackagesPage : public Page {
+public:
+    LPCSTR Title() const override { return "Packages"; }
+    void SetInventory(const Inventory& inventory) override;
+    CWnd& Control() override { return m_list; }
+    CString MarkedText() override;
+    bool FindNext(const CString& strText) override { return m_list.FindNext(strText); }
+
+    PackageList& List() { return m_list; }
+
+protected:
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnItemChanged(NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg void OnExport();
+    afx_msg void OnFlag(UINT nID);
+    afx_msg void OnUpdateFlag(CCmdUI* pCmdUI);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    bool Flag(UINT nID);
+    bool Export(LPCSTR pszPath, char chSeparator);
+
+    PackageList m_list;
+    CString m_strExportPath;
+    bool m_bCenterImages = true;
+    bool m_bAllowSelection = true;
+    bool m_bStrongSelection = false;
+};

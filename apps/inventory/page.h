@@ -1,0 +1,40 @@
+// Page: what the application's pages have in common: a title for their tab, a font for their
+// controls, and what they tell the status bar.
+
+#pragma once
+
+#include <afxwin.h>
+
+#include "model/inventory.h"
+
+class Page : public CWnd {
+public:
+    BOOL Create(CWnd* pParent, UINT nID);
+
+    virtual LPCSTR Title() const = 0;
+    // Shows another inventory, which must outlive what is shown of it.
+    virtual void SetInventory(const Inventory& inventory) = 0;
+    // The control that takes the focus.
+    virtual CWnd& Control() = 0;
+    // Called as the page comes up.
+    virtual void OnShown() {}
+    // The next package behind the selection whose name contains the text. False if there is none.
+    virtual bool FindNext(const CString& /*strText*/) { return false; }
+    CString Message() const { return m_strMessage; }
+    virtual CString MarkedText() { return ""; }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void PostNcDestroy() override {}
+
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg void OnFind();
+    afx_msg void OnFindNext();
+    afx_msg void OnUpdateFindNext(CCmdUI* pCmdUI);
+    DECLARE_MESSAGE_MAP()
+
+    CFont m_font;
+    CString m_strMessage;
+    CString m_strFind;
+};
