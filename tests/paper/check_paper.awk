@@ -25,23 +25,25 @@ function distance(a, b) { return a > b ? a - b : b - a }
 BEGIN {
     EDGE = 0.5      # how far edges may differ: each letter of a word rounds its width
     OUTSIDE = 0.25  # how far a word's box may reach out of the margins
-    PITCH = 1.1     # least distance of rows, in heights of a word's box
-    NEAR = 2        # headings are that many heights above the first row at most
+    UNEVEN = 0.15   # how far rows may be off one line's distance: a unit of the printer
+    NEAR = 2        # headings are that many lines above the first row at most
+    BREAK = 3       # lines that a blank one and a group header surely fit into
     WORDS = "each word is there once, and no other"
     ORDER = "words follow each other in order, also over page breaks"
     HEADS = "headings stand over the rows of each page"
     FOOT = "each page has its footer"
     BOX = "nothing stands outside the margins"
-    ROWS = "each row has a height of its own"
+    ROWS = "each row is one line below the one before"
     EDGES = "columns and numbers line up"
     KEEP = "group headers stay with what follows"
-    SPLIT = "the document tests page breaks in lists of both kinds, totals and text"
+    SPLIT = "pages end in lists of both kinds, totals, text, and where a group header would be last"
 }
 
 # --- What is expected
 
 FNR == NR && $1 == "box" { left = $2; top = $3; right = $4; bottom = $5; next }
 FNR == NR && $1 == "pages" { footers = $2; next }
+FNR == NR && $1 == "pitch" { pitch = $2; next }
 FNR == NR {
     ++count
     kind[count] = $1
@@ -97,7 +99,8 @@ kind[n] == "head" {
     }
     headPage[n] = $2
     ++timesHead[n]
-    headBottom[list[n], $2] = $6
+    headBottom[list[n], $2] = foundBottom = $6
+    foundPage = $2
     next
 }
 
@@ -112,20 +115,25 @@ kind[n] == "head" {
     if (kind[n] == "text" && kind[n - 1] == "text" && $2 != pageOf[n - 1]) {
         broken["text"] = 1
     }
+    if (text[n] ~ /group$/ && $2 != foundPage && foundBottom < bottom - BREAK * pitch) {
+        broken["group"] = 1
+    }
+    foundPage = $2
+    foundBottom = $6
 }
 
 kind[n] == "cell" {
     l = list[n]
     if (!((l, $2) in firstTop)) {
         firstTop[l, $2] = $4
-        size[l, $2] = $6 - $4
         if (l in lastPage) {
             broken[substr(l, 3)] = 1
         }
         ++listPages[l]
         pageOfList[l, listPages[l]] = $2
-    } else if (row[n] != lastRow[l] && $4 - lastTop[l] < PITCH * ($6 - $4)) {
-        fault(ROWS, "row " row[n] " of " l " on page " $2 " lies on row " lastRow[l])
+    } else if (row[n] != lastRow[l] && distance($4 - lastTop[l], pitch) > UNEVEN) {
+        fault(ROWS, "row " row[n] " of " l " on page " $2 " is " $4 - lastTop[l] \
+              " points below row " lastRow[l] ", a line is " pitch)
     } else if (row[n] == lastRow[l] && distance($4, lastTop[l]) > EDGE) {
         fault(ROWS, $7 " on page " $2 " is not in line with its row")
     }
@@ -147,7 +155,7 @@ END {
                     continue
                 }
                 gap = firstTop[l, page] - headBottom[l, page]
-                if (gap < 0 || gap > NEAR * size[l, page]) {
+                if (gap < 0 || gap > NEAR * pitch) {
                     fault(HEADS, text[n] " is not over its rows on page " page)
                 }
             }
@@ -175,12 +183,12 @@ END {
             fault(FOOT, "page " page " does not say that it is page " page " of " footers)
         }
     }
-    for (i = split("rows lines sums text", kinds); i > 0; --i) {
+    for (i = split("rows lines sums text group", kinds); i > 0; --i) {
         if (!(kinds[i] in broken)) {
-            fault(SPLIT, "no " kinds[i] " go over the end of a page: change their numbers")
+            fault(SPLIT, "no page ends with \"" kinds[i] "\": change numbers of rows")
         }
     }
-    print count " words expected, " NR - count - 2 " found on " pages " pages"
+    print count " words expected, " NR - count - 3 " found on " pages " pages"
     report(WORDS)
     report(ORDER)
     report(HEADS)

@@ -52,6 +52,10 @@ void Expectation::Pages(unsigned nPages) {
     Line("pages", std::to_string(nPages), "", "", "");
 }
 
+void Expectation::Pitch(double pitch) {
+    Line("pitch", std::to_string(pitch), "", "", "");
+}
+
 void Expectation::Line(const char* pszKind, const std::string& strList, const std::string& strRow,
                        const std::string& strEdge, const std::string& strWord) {
     if (m_pFile != nullptr) {
@@ -85,7 +89,7 @@ const PaperDocument::Section PaperDocument::kSections[] = {
     {"s1", 23, true, kNone, false, 12, 4, false, 0},  // the whole of it on one page
     {"s2", 0, true, kNone, false, 0, 3, true, 520},  {"s3", 170, true, 2, true, 0, 5, false, 0},
     {"s4", 57, false, kNone, true, 90, 58, true, 0}, {"s5", 1, true, 0, false, 3, 0, false, 260},
-    {"s6", 131, true, kNone, true, 41, 8, false, 0},
+    {"s6", 159, true, kNone, true, 41, 8, false, 0},
 };
 
 PaperDocument::Font::Font(CDC& dc, int nPoints, int nWeight) {
@@ -107,6 +111,13 @@ PaperDocument::PaperDocument(CDC& dc, Expectation& expected)
     for (const Section& section : kSections) {
         Add(section);
     }
+}
+
+int PaperDocument::LineHeight() {
+    CFont* pOld = m_dc.SelectObject(&m_fontNormal);
+    const int nHeight = m_dc.GetTextExtent("0", 1).cy;
+    m_dc.SelectObject(pOld);
+    return nHeight;
 }
 
 void PaperDocument::Add(const Section& section) {
@@ -240,8 +251,8 @@ std::vector<std::string> PaperDocument::NewRow(const std::string& strList, int n
     return cells;
 }
 
-// Squares: all different, of one to six digits.
+// Odd numbers and even squares: all different, and neighbours of different length.
 std::string PaperDocument::NextAmount() {
     ++m_nAmounts;
-    return std::to_string(m_nAmounts * m_nAmounts);
+    return std::to_string(m_nAmounts % 2 != 0 ? m_nAmounts : m_nAmounts * m_nAmounts);
 }

@@ -28,6 +28,8 @@ public:
     // In points from the upper left corner of the paper.
     void Box(const CRect& rc);
     void Pages(unsigned nPages);
+    // From one row to the next, in points.
+    void Pitch(double pitch);
     void Text(const std::string& strWord) { Line("text", "-", "-", "-", strWord); }
     void Keep(const std::string& strWord) { Line("keep", "-", "-", "-", strWord); }
     void Head(const std::string& strList, const std::string& strEdge, const std::string& strWord) {
@@ -58,6 +60,8 @@ public:
     unsigned Paginate(const CRect& rc) { return m_engine.Paginate(rc); }
     void PrintPage(const CRect& rc, unsigned nPage) { m_engine.PrintPage(&m_dc, rc, nPage); }
     CFont& NormalFont() { return m_fontNormal; }
+    // In device units.
+    int LineHeight();
 
 private:
     struct Section;

@@ -61,6 +61,7 @@ bool Print(PrinterDC& dc, const char* pszOutput, Expectation& expected) {
     const unsigned nPages = document.Paginate(rcBox);
     expected.Box(dc.BoxInPoints());
     expected.Pages(nPages);
+    expected.Pitch(static_cast<double>(document.LineHeight()) * kPointsPerInch / kDotsPerInch);
     DOCINFO info{};
     info.cbSize = sizeof info;
     info.lpszDocName = "Paper";
