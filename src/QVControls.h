@@ -5,6 +5,7 @@
 #include "frame/cust_ctrl.h"
 #include "frame/qv_module.h"
 #include "frame/styled_rows.h"
+#include "grid/grid_ctrl.h"
 #include "list/list_ctrl.h"
 #include "list/sorting_list_ctrl.h"
 #include "print/print_engine.h"

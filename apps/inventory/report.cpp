@@ -128,7 +128,10 @@ void Report::AddSection(const Section& section, QVListCtrlEx& columns, CDC& dc) 
 
 void Report::AddTotals(const Section& section, CDC& dc) {
     using Item = QVPeDataLabeledListItem;
+    // A header has no rows and stays with what follows: whatever was split before, the totals begin
+    // with their first row.
     m_pEngine->AddBreak();
+    m_pEngine->AddGroupHeader("Totals");
     QVPeDataLabeledList& totals = m_pEngine->AddLabeledDataList(&dc);
     totals.SetIndented(m_options.bSections);
     totals.AddData("Packages:", WithThousands(section.packages.size()), Item::Right);

@@ -255,6 +255,17 @@ bool ReportPage::PrintToFile(LPCSTR pszOutput) {
 bool ReportPage::Print(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutput) {
     const CWaitCursor wait;
     dc.m_bPrinting = TRUE;
+    // The lists can be in one print run at a time: the preview begins another one afterwards.
+    m_preview.SetReport(nullptr, nullptr);
+    m_pReport.reset();
+    const bool bPrinted = PrintPages(dc, nFirst, nLast, pszOutput);
+    const CString strMessage = m_strMessage;
+    MakeReport();
+    m_strMessage = strMessage;
+    return bPrinted;
+}
+
+bool ReportPage::PrintPages(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutput) {
     const std::unique_ptr<Report> pReport = Compose(dc);
     DOCINFO doc{};
     doc.cbSize = sizeof(doc);

@@ -49,6 +49,7 @@ private:
     static constexpr int kButtons = 6;
 
     bool& Option(UINT nID);
+    bool PrintPages(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutput);
     void OpenDevice();
     void MakeReport();
     std::unique_ptr<Report> Compose(CDC& dc);

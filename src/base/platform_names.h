@@ -62,6 +62,14 @@ inline HTREEITEM PlatformTreePosition(std::intptr_t nValue) {
     NAME(TVHT_TOLEFT, 0x0800)          \
     NAME(SB_HORZ, 0)                   \
     NAME(SB_VERT, 1)                   \
+    NAME(VK_PRIOR, 0x21)               \
+    NAME(VK_NEXT, 0x22)                \
+    NAME(VK_END, 0x23)                 \
+    NAME(VK_HOME, 0x24)                \
+    NAME(VK_LEFT, 0x25)                \
+    NAME(VK_UP, 0x26)                  \
+    NAME(VK_RIGHT, 0x27)               \
+    NAME(VK_DOWN, 0x28)                \
     NAME(SB_LINEUP, 0)                 \
     NAME(SB_LINELEFT, 0)               \
     NAME(SB_LINEDOWN, 1)               \

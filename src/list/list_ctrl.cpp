@@ -441,7 +441,7 @@ BOOL QVListCtrlEx::SetItemString(int nItem, LPCSTR pszText) {
     for (int nCol = FirstTextColumn(); nCol < m_columns.Count() && qv::NextField(row, nPos, field);
          ++nCol) {
         strField = field;
-        m_pPlaces->CountOwnChange();
+        m_pPlaces->CountSent();
         SetItemText(nItem, nCol, strField.c_str());
     }
     return TRUE;
@@ -460,7 +460,7 @@ BOOL QVListCtrlEx::GetItemString(int nItem, CString& str) {
 }
 
 int QVListCtrlEx::InsertRow(int nImage, int nIndex, LPCSTR pszText) {
-    m_pPlaces->CountOwnChange();
+    m_pPlaces->CountSent();
     nIndex = CListCtrl::InsertItem(LVIF_TEXT | LVIF_IMAGE, nIndex != -1 ? nIndex : GetItemCount(),
                                    "-", 0, 0, nImage, 0);
     if (nIndex != -1) {
@@ -509,12 +509,14 @@ int QVListCtrlEx::AddBitmapString(int nImage, LPCSTR pszText, BOOL bNumeric) {
     }
     const std::string strKey = PlaceKey(ParseStyleText(pszText), bNumber);
     const size_t nPlace = m_pPlaces->rows.Find(strKey);
+    const int nForeign = m_pPlaces->ForeignChanges();
     const int nIndex = InsertBitmapString(nImage, static_cast<int>(nPlace), pszText);
     CString strRow;
-    if (nIndex == static_cast<int>(nPlace) && GetItemString(nIndex, strRow)) {
+    if (nIndex == static_cast<int>(nPlace) && nForeign == m_pPlaces->ForeignChanges() &&
+        GetItemString(nIndex, strRow)) {
         // What stands in the control now, with its code, is what later rows are compared with.
-        // A change by anybody else meanwhile shows at the next call.
         m_pPlaces->rows.Insert(nPlace, PlaceKey(strRow, bNumber));
+        m_pPlaces->SetValid(bNumber, NumColumns());
     } else {
         m_pPlaces->Invalidate();
     }

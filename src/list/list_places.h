@@ -9,21 +9,21 @@ class QVListCtrlEx::Places {
 public:
     // Texts that the owner supplies on demand change without a message: then nothing is kept.
     void SeeText(LPCSTR pszText) { m_bCallbacks = m_bCallbacks || pszText == LPSTR_TEXTCALLBACK; }
+    // Each message that changes a row, and each of those that the list is about to send itself.
     void CountChange() { ++m_nChanges; }
-    // A change that the list itself is about to make.
-    void CountOwnChange() { ++m_nOwnChanges; }
-    int ForeignChanges() const { return m_nChanges - m_nOwnChanges; }
+    void CountSent() { ++m_nSent; }
+    // Unless it is the same after a call as before, somebody else has changed rows meanwhile.
+    int ForeignChanges() const { return m_nChanges - m_nSent; }
 
     bool Valid(bool bNumeric, int nItems, int nColumns) const {
-        return m_bValid && m_bNumeric == bNumeric && !m_bCallbacks &&
-               m_nValidFor == ForeignChanges() && static_cast<int>(rows.Count()) == nItems &&
-               m_nColumns == nColumns;
+        return m_bValid && m_bNumeric == bNumeric && !m_bCallbacks && m_nValidFor == m_nChanges &&
+               static_cast<int>(rows.Count()) == nItems && m_nColumns == nColumns;
     }
     void SetValid(bool bNumeric, int nColumns) {
         m_bValid = true;
         m_bNumeric = bNumeric;
         m_nColumns = nColumns;
-        m_nValidFor = ForeignChanges();
+        m_nValidFor = m_nChanges;
     }
     void Invalidate() { m_bValid = false; }
 
@@ -35,6 +35,6 @@ private:
     bool m_bCallbacks = false;
     int m_nColumns = 0;
     int m_nChanges = 0;
-    int m_nOwnChanges = 0;
+    int m_nSent = 0;
     int m_nValidFor = 0;
 };

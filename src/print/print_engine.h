@@ -8,6 +8,11 @@
 // Ownership: the engine owns its items; copies of an engine share them. Fonts, lists, string arrays
 // and device contexts are the caller's and must outlive the engine.
 //
+// Where a list, a text or a totals list opens a page and the item that was split last has ended on
+// the page before, the row number of that split is still in force: rows before it are not printed.
+// Headers and group headers have no rows and go with what follows them, so a document in which one
+// of them precedes each item with rows never shows this.
+//
 // An engine paginates once: a second Paginate gives the number of pages again, but PrintPage finds
 // the pages of the first. What fits on no page gets a page of its own and is cut there.
 

@@ -200,6 +200,10 @@ TEST(ListRows, AddFindsWhatAWalkWouldFind) {
             case 2:
                 w.Add(anyRow().c_str());
                 break;
+            case 4:
+                w.list.SetItemString(static_cast<int>(random()) % std::max(nItems, 1),
+                                     anyRow().c_str());
+                break;
             case 3:
                 w.list.SetItemState(0, LVIS_SELECTED, LVIS_SELECTED);
                 w.list.SetItemData(0, 5);

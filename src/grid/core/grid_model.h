@@ -1,0 +1,123 @@
+// The grid's store: typed columns, rows, and cells on two levels. It knows no window.
+//
+// A row holds the index of its block of cells; a cell holds the index of its text in one table
+// shared by all. Empty cells cost no text, and a new column touches the blocks alone.
+//
+// Neither blocks nor texts are ever used again: deleting all rows frees the blocks but keeps their
+// places and all texts, so a grid that is refilled again and again grows for as long as it lives.
+//
+// Indices out of range read 0 or nothing and write nothing. A row that lost its block for want of
+// memory reads as empty.
+
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "base/text_pool.h"
+
+// What a column's cells are and do.
+enum GridColType {
+    gctStatic = 0,      // text alone
+    gctButton = 1,      // text, with a "..." button in the current cell
+    gctEdit = 2,        // edited in place
+    gctEditButton = 3,  // both
+    gctDropList = 4,    // chosen from a list, with an arrow button in the current cell
+};
+
+// Row states.
+inline constexpr unsigned GRS_CURRENT = 1;
+inline constexpr unsigned GRS_BUTTONDOWN = 8;
+// Cell styles. GCS_FOCUS is never stored: painting adds it.
+inline constexpr unsigned GCS_DISABLED = 4;
+inline constexpr unsigned GCS_FOCUS = 16;
+inline constexpr unsigned GCS_READONLY = 32;
+
+class CStringArray;
+
+struct _QVGRID_COL_INFO {
+    int nWidth;  // pixels; the last column reaches the window's edge
+    GridColType nType;
+    CStringArray* pListData;  // the caller's choices, or null
+    std::uintptr_t dwData;
+};
+
+struct _QVGRID_ROW_INFO {
+    unsigned dwState;
+    int nCellIndex;  // block of cells; -1: no memory for one
+    std::uintptr_t dwData;
+};
+
+struct _QVGRID_CELL_INFO {
+    int nString;  // 0: no text
+    unsigned dwStyle;
+    std::uintptr_t dwData;
+};
+
+namespace qv {
+
+class GridModel {
+public:
+    GridModel();
+    ~GridModel();
+    GridModel(const GridModel&) = delete;
+    GridModel& operator=(const GridModel&) = delete;
+
+    // --- Columns
+
+    int AddColumn(GridColType nType, int nWidth);
+    int NumColumns() const { return static_cast<int>(m_aColumns.size()); }
+    bool IsColumn(int nCol) const { return nCol >= 0 && nCol < NumColumns(); }
+    // Null if there is no such column.
+    _QVGRID_COL_INFO* Column(int nCol) { return IsColumn(nCol) ? &m_aColumns[nCol] : nullptr; }
+    const _QVGRID_COL_INFO* Column(int nCol) const {
+        return IsColumn(nCol) ? &m_aColumns[nCol] : nullptr;
+    }
+    GridColType Type(int nCol) const { return IsColumn(nCol) ? m_aColumns[nCol].nType : gctStatic; }
+    bool UsesButton(int nCol) const;
+    bool UsesEdit(int nCol) const;
+
+    // --- Rows
+
+    // TAB-separated fields; those beyond the columns are dropped, missing ones are empty. May throw
+    // std::bad_alloc, with the row there and its cells empty from the one on that found no memory.
+    int AddRow(std::string_view row, unsigned dwState);
+    void DeleteAllRows();
+    int NumRows() const { return static_cast<int>(m_aRows.size()); }
+    bool IsRow(int nRow) const { return nRow >= 0 && nRow < NumRows(); }
+    _QVGRID_ROW_INFO& RowAt(int nRow) { return m_aRows[nRow]; }
+    const _QVGRID_ROW_INFO& RowAt(int nRow) const { return m_aRows[nRow]; }
+
+    // --- Cells
+
+    // Null for a cell that never had a text; a text that was emptied is "".
+    const char* Text(int nRow, int nCol) const;
+    // An empty text in a cell that never had one leaves it so.
+    void SetText(int nRow, int nCol, std::string_view text);
+    // Null out of range and for a row without block.
+    _QVGRID_CELL_INFO* Cell(int nRow, int nCol);
+    const _QVGRID_CELL_INFO* Cell(int nRow, int nCol) const;
+    // True if the style is another one now.
+    bool ModifyStyle(int nRow, int nCol, unsigned dwAdd, unsigned dwRemove);
+
+    size_t CountStrings() const { return m_aStrings.size(); }
+    size_t CountBlocks() const { return m_aCellData.size(); }
+    bool CheckInvariants() const;
+
+private:
+    using Block = std::unique_ptr<_QVGRID_CELL_INFO[]>;
+
+    int AllocateCellDataIndex();
+    void ReallocateCellData(int nNewCols);
+
+    std::vector<_QVGRID_COL_INFO> m_aColumns;
+    std::vector<_QVGRID_ROW_INFO> m_aRows;
+    std::vector<Block> m_aCellData;
+    int m_nCellColumns = 0;         // cells in each block
+    std::vector<char*> m_aStrings;  // entry 0 is the empty text of all cells without one
+    TextPool m_texts;
+};
+
+}  // namespace qv

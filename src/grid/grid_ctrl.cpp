@@ -1,0 +1,486 @@
+#include "grid/grid_ctrl.h"
+
+#include <algorithm>
+
+#include "frame/core/styled_text.h"
+#include "frame/select_object.h"
+#include "frame/wnd_port.h"
+#include "grid/grid_editors.h"
+
+namespace {
+
+constexpr int kTextRoom = 6;  // beside a column's widest text, in pixels
+
+}  // namespace
+
+IMPLEMENT_DYNCREATE(QVGridCtrl, QVCustCtrl)
+
+BEGIN_MESSAGE_MAP(QVGridCtrl, QVCustCtrl)
+    ON_WM_VSCROLL()
+    ON_MESSAGE(WM_SETREDRAW, OnSetRedraw)
+    ON_MESSAGE(WM_GETFONT, OnGetFont)
+    ON_MESSAGE(WM_SETFONT, OnSetFont)
+    ON_WM_GETDLGCODE()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONUP()
+    ON_WM_MOUSEMOVE()
+    ON_WM_NCHITTEST()
+    ON_WM_CANCELMODE()
+    ON_WM_SETFOCUS()
+    ON_WM_KILLFOCUS()
+    ON_WM_KEYDOWN()
+    ON_WM_SYSKEYDOWN()
+    ON_WM_DESTROY()
+    ON_EN_CHANGE(kGridEditId, OnChangeEditText)
+END_MESSAGE_MAP()
+
+// --- Life
+
+QVGridCtrl::QVGridCtrl() {
+    m_si.cbSize = sizeof(m_si);
+    m_si.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
+}
+
+QVGridCtrl::~QVGridCtrl() {
+    for (Watch* pWatch = m_pWatches; pWatch != nullptr; pWatch = pWatch->Next()) {
+        pWatch->GridGone();
+    }
+    m_pWatches = nullptr;
+    DestroyWindow();
+}
+
+void QVGridCtrl::RegisterControlClass(HINSTANCE hInstance) {
+    WNDCLASS wc{};
+    wc.style = CS_DBLCLKS | CS_PARENTDC;
+    wc.lpfnWndProc = ::DefWindowProc;
+    wc.hInstance = hInstance != nullptr ? hInstance : AfxGetInstanceHandle();
+    wc.hCursor = ::LoadCursor(nullptr, IDC_ARROW);
+    wc.lpszClassName = "QVGridCtrl";
+    if (!AfxRegisterClass(&wc)) {
+        AfxThrowResourceException();
+    }
+}
+
+void QVGridCtrl::RegisterDlgControlClass(UINT nDialogID) {
+    RegisterControlClass(AfxFindResourceHandle(MAKEINTRESOURCE(nDialogID), RT_DIALOG));
+}
+
+void QVGridCtrl::OnDestroy() {
+    QVCustCtrl::OnDestroy();
+    m_bEditing = m_bBtnDown = FALSE;
+    m_pEdit.reset();
+    m_pList.reset();
+}
+
+void QVGridCtrl::InvalidateAll() {
+    if (CanRepaint()) {
+        InvalidateRect(nullptr, FALSE);
+    }
+}
+
+// --- Columns
+
+int QVGridCtrl::AddColumn(GridColType nType, int nWidth) {
+    return m_model.AddColumn(nType, nWidth);
+}
+
+int QVGridCtrl::NumColumns() const {
+    return m_model.NumColumns();
+}
+
+BOOL QVGridCtrl::IsValidColumn(int nCol) const {
+    return m_model.IsColumn(nCol);
+}
+
+int QVGridCtrl::GetColWidth(int nCol) const {
+    const _QVGRID_COL_INFO* pColumn = m_model.Column(nCol);
+    return pColumn != nullptr ? pColumn->nWidth : 0;
+}
+
+void QVGridCtrl::SetColWidth(int nCol, int nWidth) {
+    if (_QVGRID_COL_INFO* pColumn = m_model.Column(nCol)) {
+        pColumn->nWidth = nWidth;
+        InvalidateAll();
+    }
+}
+
+GridColType QVGridCtrl::GetColType(int nCol) const {
+    return m_model.Type(nCol);
+}
+
+void QVGridCtrl::SetColType(int nCol, GridColType nType) {
+    if (_QVGRID_COL_INFO* pColumn = m_model.Column(nCol)) {
+        pColumn->nType = nType;
+    }
+}
+
+CStringArray* QVGridCtrl::GetColListData(int nCol) const {
+    const _QVGRID_COL_INFO* pColumn = m_model.Column(nCol);
+    return pColumn != nullptr ? pColumn->pListData : nullptr;
+}
+
+void QVGridCtrl::SetColListData(int nCol, CStringArray* pList) {
+    if (_QVGRID_COL_INFO* pColumn = m_model.Column(nCol)) {
+        pColumn->pListData = pList;
+    }
+}
+
+DWORD_PTR QVGridCtrl::GetColumnData(int nCol) const {
+    const _QVGRID_COL_INFO* pColumn = m_model.Column(nCol);
+    return pColumn != nullptr ? pColumn->dwData : 0;
+}
+
+void QVGridCtrl::SetColumnData(int nCol, DWORD_PTR dwData) {
+    if (_QVGRID_COL_INFO* pColumn = m_model.Column(nCol)) {
+        pColumn->dwData = dwData;
+    }
+}
+
+BOOL QVGridCtrl::UseFieldButton(int nCol) const {
+    return m_model.UsesButton(nCol);
+}
+
+int QVGridCtrl::AutoSizeColumn(int nCol, int nMinWidth) {
+    CStringArray strings;
+    for (int nRow = 0; nRow < NumRows(); ++nRow) {
+        const char* pszText = m_model.Text(nRow, nCol);
+        if (pszText != nullptr && *pszText != '\0') {
+            strings.Add(pszText);
+        }
+    }
+    return SizeToStrings(nCol, strings, nMinWidth);
+}
+
+int QVGridCtrl::SizeToStrings(int nCol, const CStringArray& strings, int nMinWidth) {
+    CClientDC dc(this);
+    if (m_nCellHeight == -1) {
+        CalcCellHeight();
+        CalcScrollBars();
+    }
+    const qv::SelectGuard<CFont> font(dc, m_hFont);
+    const int nRoom = kTextRoom + (UseFieldButton(nCol) ? m_nCellHeight : 0);
+    int nWidth = std::max(-1, nMinWidth);
+    for (INT_PTR i = 0; i < strings.GetSize(); ++i) {
+        const int nText = static_cast<int>(dc.GetTextExtent(strings.ElementAt(i)).cx);
+        nWidth = std::max(nWidth, nText + nRoom);
+    }
+    SetColWidth(nCol, nWidth);
+    return nWidth;
+}
+
+// --- Rows
+
+int QVGridCtrl::AddRow(const CString& strRow, DWORD dwState) {
+    if (m_nTopRow == -1) {
+        m_nTopRow = NumRows();
+    }
+    const int nRow = m_model.AddRow({strRow, static_cast<size_t>(strRow.GetLength())}, dwState);
+    if (CanRepaint()) {
+        CalcScrollBars();
+    }
+    return nRow;
+}
+
+int QVGridCtrl::AddRow(UINT nStringID, DWORD dwState) {
+    CString strRow;
+    strRow.LoadString(nStringID);
+    return AddRow(strRow, dwState);
+}
+
+void QVGridCtrl::DeleteAllRows() {
+    m_model.DeleteAllRows();
+    m_nTopRow = m_nCurRow = m_nCurCol = -1;
+    if (CanRepaint()) {
+        CalcScrollBars();
+        InvalidateAll();
+    }
+}
+
+int QVGridCtrl::NumRows() const {
+    return m_model.NumRows();
+}
+
+BOOL QVGridCtrl::IsValidRow(int nRow) const {
+    return m_model.IsRow(nRow);
+}
+
+_QVGRID_ROW_INFO& QVGridCtrl::RowAt(int nRow) {
+    return m_model.RowAt(nRow);
+}
+
+DWORD_PTR QVGridCtrl::GetRowData(int nRow) const {
+    return IsValidRow(nRow) ? m_model.RowAt(nRow).dwData : 0;
+}
+
+void QVGridCtrl::SetRowData(int nRow, DWORD_PTR dwData) {
+    if (IsValidRow(nRow)) {
+        RowAt(nRow).dwData = dwData;
+    }
+}
+
+void QVGridCtrl::ParseRowString(const CString& strRow, CStringArray& fields) const {
+    fields.RemoveAll();
+    std::string_view field;
+    const std::string_view row(strRow, static_cast<size_t>(strRow.GetLength()));
+    for (int nPos = 0; qv::NextField(row, nPos, field);) {
+        fields.Add(CString(field.data(), static_cast<int>(field.size())));
+    }
+}
+
+// --- Cells
+
+BOOL QVGridCtrl::GetCellText(int nRow, int nCol, CString& str) {
+    if (!IsValidRow(nRow) || !IsValidColumn(nCol)) {
+        return FALSE;
+    }
+    if (IsCurrent(nRow, nCol) && m_bEditing && EditUp()) {
+        m_pEdit->GetWindowText(str);
+        return TRUE;
+    }
+    const char* pszText = m_model.Text(nRow, nCol);
+    str = pszText != nullptr ? pszText : "";
+    return pszText != nullptr;
+}
+
+void QVGridCtrl::SetCellText(int nRow, int nCol, const CString& str) {
+    if (!IsValidRow(nRow) || !IsValidColumn(nCol)) {
+        return;
+    }
+    m_model.SetText(nRow, nCol, {str, static_cast<size_t>(str.GetLength())});
+    const Watch watch(*this);
+    if (m_bEditing && IsCurrent(nRow, nCol) && EditUp()) {
+        m_pEdit->SetWindowText(str);
+        if (!watch || m_pEdit == nullptr) {
+            return;
+        }
+        m_pEdit->SendMessage(EM_SETSEL, static_cast<WPARAM>(str.GetLength()), str.GetLength());
+        m_pEdit->SendMessage(EM_SCROLLCARET);
+    }
+    if (CanRepaint()) {
+        InvalidateCell(nRow, nCol, FALSE);
+    }
+}
+
+DWORD_PTR QVGridCtrl::GetItemData(int nRow, int nCol) const {
+    const _QVGRID_CELL_INFO* pCell = m_model.Cell(nRow, nCol);
+    return pCell != nullptr ? pCell->dwData : 0;
+}
+
+void QVGridCtrl::SetItemData(int nRow, int nCol, DWORD_PTR dwData) {
+    if (_QVGRID_CELL_INFO* pCell = m_model.Cell(nRow, nCol)) {
+        pCell->dwData = dwData;
+    }
+}
+
+DWORD QVGridCtrl::GetCellStyle(int nRow, int nCol) const {
+    const _QVGRID_CELL_INFO* pCell = m_model.Cell(nRow, nCol);
+    return pCell != nullptr ? pCell->dwStyle : 0;
+}
+
+BOOL QVGridCtrl::ModifyCellStyle(int nRow, int nCol, DWORD dwAdd, DWORD dwRemove) {
+    if (!m_model.ModifyStyle(nRow, nCol, dwAdd, dwRemove)) {
+        return FALSE;
+    }
+    if (CanRepaint()) {
+        InvalidateCell(nRow, nCol, FALSE);
+    }
+    return TRUE;
+}
+
+// Takes the editors down without saving if they are those of this cell.
+void QVGridCtrl::DropEditors(int nRow, int nCol) {
+    if (IsCurrent(nRow, nCol) && m_bEditing) {
+        HideListBox();
+        HideEditCtrl();
+        m_bEditing = FALSE;
+    }
+}
+
+void QVGridCtrl::EnableCell(int nRow, int nCol, BOOL bEnable) {
+    if (bEnable) {
+        ModifyCellStyle(nRow, nCol, 0, GCS_DISABLED);
+    } else if (ModifyCellStyle(nRow, nCol, GCS_DISABLED, 0)) {
+        DropEditors(nRow, nCol);
+    }
+}
+
+BOOL QVGridCtrl::IsCellEnabled(int nRow, int nCol) const {
+    return (GetCellStyle(nRow, nCol) & GCS_DISABLED) == 0;
+}
+
+void QVGridCtrl::SetCellReadOnly(int nRow, int nCol, BOOL bReadOnly) {
+    if (!bReadOnly) {
+        ModifyCellStyle(nRow, nCol, 0, GCS_READONLY);
+    } else if (ModifyCellStyle(nRow, nCol, GCS_READONLY, 0)) {
+        DropEditors(nRow, nCol);
+    }
+}
+
+BOOL QVGridCtrl::IsCellReadOnly(int nRow, int nCol) const {
+    return (GetCellStyle(nRow, nCol) & GCS_READONLY) != 0;
+}
+
+// --- Geometry
+
+qv::GridLayout QVGridCtrl::Layout() {
+    CRect rc;
+    if (m_hWnd != nullptr) {
+        GetClientRect(&rc);
+    }
+    return {m_model, qv::ToRect(rc), m_nCellHeight, m_nTopRow};
+}
+
+void QVGridCtrl::CalcRowRect(const CRect& rcClient, int nRow, CRect& rc) {
+    const qv::GridLayout layout{m_model, qv::ToRect(rcClient), m_nCellHeight, m_nTopRow};
+    rc = qv::ToCRect(layout.RowRect(nRow));
+}
+
+void QVGridCtrl::CalcCellRect(int nRow, int nCol, CRect& rc) {
+    qv::Rect rect;
+    if (Layout().CellRect(nRow, nCol, rect)) {
+        rc = qv::ToCRect(rect);
+    }
+}
+
+void QVGridCtrl::ButtonRectFromCellRect(CRect& rc) {
+    rc = qv::ToCRect(Layout().ButtonRect(qv::ToRect(rc)));
+}
+
+void QVGridCtrl::CellFromPoint(const CPoint& pt, int& nRow, int& nCol) {
+    BOOL bOnButton;
+    CellFromPoint(pt, nRow, nCol, bOnButton);
+}
+
+void QVGridCtrl::CellFromPoint(const CPoint& pt, int& nRow, int& nCol, BOOL& bOnButton) {
+    const qv::GridHit hit = Layout().HitTest({static_cast<int>(pt.x), static_cast<int>(pt.y)});
+    nRow = hit.cell.nRow;
+    nCol = hit.cell.nCol;
+    bOnButton = hit.bOnButton;
+}
+
+void QVGridCtrl::InvalidateCell(int nRow, int nCol, BOOL bErase) {
+    CRect rc(0, 0, 0, 0);
+    CalcCellRect(nRow, nCol, rc);
+    if (m_hWnd != nullptr && !rc.IsRectEmpty()) {
+        InvalidateRect(&rc, bErase);
+    }
+}
+
+void QVGridCtrl::InvalidateRow(int nRow, BOOL bErase) {
+    if (m_hWnd != nullptr && IsValidRow(nRow)) {
+        const CRect rc = qv::ToCRect(Layout().RowRect(nRow));
+        InvalidateRect(&rc, bErase);
+    }
+}
+
+// --- Scrolling
+
+void QVGridCtrl::CalcScrollBars() {
+    const bool bHasBar = (GetStyle() & WS_VSCROLL) != 0;
+    if (m_nCellHeight == -1) {
+        CalcCellHeight();
+    }
+    const int nVisible = Layout().VisibleRows();
+    const bool bNeed = NumRows() > nVisible;
+    if (!bHasBar && !bNeed) {
+        return;
+    }
+    if (bNeed) {
+        m_si.nPage = static_cast<UINT>(nVisible);
+        m_si.nPos = m_nTopRow;
+        m_si.nMin = 0;
+        m_si.nMax = NumRows() - 1;
+        SetScrollInfo(SB_VERT, &m_si, TRUE);
+    }
+    if (bHasBar != bNeed) {
+        ShowScrollBar(SB_VERT, bNeed);
+    }
+    InvalidateAll();
+}
+
+// Moves the window's pixels to a new top row, and paints what comes into view.
+void QVGridCtrl::ShowTopRow(int nTop) {
+    const int nOld = m_nTopRow;
+    m_nTopRow = m_si.nPos = nTop;
+    if (m_hWnd == nullptr) {
+        return;
+    }
+    SetScrollInfo(SB_VERT, &m_si, TRUE);
+    if (m_nCellHeight <= 0) {
+        InvalidateAll();  // nothing was painted yet
+        return;
+    }
+    CRect rcClient;
+    GetClientRect(&rcClient);
+    ScrollWindowEx(0, (nOld - nTop) * m_nCellHeight, nullptr, &rcClient, nullptr, nullptr,
+                   SW_INVALIDATE | SW_ERASE);
+}
+
+void QVGridCtrl::ScrollDown(int nRows) {
+    const int nTop =
+        qv::TopAfterScrollDown(m_nTopRow, nRows, NumRows(), static_cast<int>(m_si.nPage));
+    if (nTop != m_nTopRow) {
+        ShowTopRow(nTop);
+    }
+}
+
+void QVGridCtrl::ScrollUp(int nRows) {
+    const int nTop = qv::TopAfterScrollUp(m_nTopRow, nRows);
+    if (nTop != m_nTopRow) {
+        ShowTopRow(nTop);
+    }
+}
+
+void QVGridCtrl::ScrollTo(int nRow) {
+    ShowTopRow(qv::TopAfterScrollTo(nRow, NumRows(), static_cast<int>(m_si.nPage)));
+}
+
+void QVGridCtrl::EnsureRowVisible(int nRow) {
+    const int nPage = static_cast<int>(m_si.nPage);
+    if (nRow < m_nTopRow) {
+        ScrollUp(m_nTopRow - nRow);
+    } else if (m_hWnd != nullptr && (GetStyle() & WS_VSCROLL) != 0 &&
+               nRow > nPage + m_nTopRow - 1) {
+        ScrollDown(nRow - nPage - m_nTopRow + 1);
+    }
+}
+
+void QVGridCtrl::OnVScroll(UINT nCode, UINT nPos, CScrollBar* pBar) {
+    if (m_bEditing) {
+        SaveEditors();
+    }
+    const int nPage = static_cast<int>(m_si.nPage);
+    switch (nCode) {
+        case SB_LINEUP:
+            ScrollUp(1);
+            break;
+        case SB_LINEDOWN:
+            ScrollDown(1);
+            break;
+        case SB_PAGEUP:
+            ScrollUp(nPage - 1);
+            break;
+        case SB_PAGEDOWN:
+            ScrollDown(nPage - 1);
+            break;
+        case SB_THUMBPOSITION:
+        case SB_THUMBTRACK: {
+            // The message has room for 16 bits of the position alone.
+            SCROLLINFO info{};
+            info.cbSize = sizeof(info);
+            info.fMask = SIF_TRACKPOS;
+            const bool bWide = NumRows() > 0xFFFF && GetScrollInfo(SB_VERT, &info, SIF_TRACKPOS);
+            ScrollTo(bWide ? info.nTrackPos : static_cast<int>(nPos));
+            break;
+        }
+        case SB_TOP:
+            ScrollTo(0);
+            break;
+        case SB_BOTTOM:
+            ScrollTo(NumRows() - nPage);
+            break;
+        default:
+            QVCustCtrl::OnVScroll(nCode, nPos, pBar);
+            break;
+    }
+}

@@ -1,0 +1,195 @@
+// QVGridCtrl: a small grid whose cells are edited in place: typed columns, any number of rows, one
+// editor at a time. It has no headings and does not scroll sideways.
+//
+// Use it as a data store first (AddColumn, AddRow), then make its window with Create, or name the
+// window class "QVGridCtrl" in a dialog template, register that class before the dialog comes up,
+// and attach with Initialize.
+//
+// It tells its parent by WM_COMMAND under its own id, with its window handle in lParam and in the
+// high word of wParam: 0 - the button of a cell was clicked, or a drop-list cell without choices
+// was opened, which PopupList answers; 1 - a drop list has changed the cell; EN_CHANGE - the text
+// being typed has changed. Nothing tells that typed text was saved: GetCellText gives it while it
+// is being typed.
+//
+// What is typed is saved as the focus leaves, another cell is chosen, the view scrolls or the
+// cell's button is clicked. It is dropped when the cell is disabled or made read-only, when its row
+// is deleted, and, in a drop list, by Escape.
+//
+// Ownership: arrays of choices are the caller's and must outlive their use; the grid owns its
+// texts, which it keeps until it is destroyed (see grid/core/grid_model.h), and its editors.
+// Coordinates are client pixels.
+
+#pragma once
+
+#include <afxwin.h>
+
+#include <memory>
+
+#include "frame/cust_ctrl.h"
+#include "grid/core/grid_layout.h"
+#include "grid/core/grid_model.h"
+
+class QVGridEdit;
+class QVGridList;
+
+class QV_CONTROLS_API QVGridCtrl : public QVCustCtrl {
+    DECLARE_DYNCREATE(QVGridCtrl)
+
+public:
+    QVGridCtrl();
+    ~QVGridCtrl() override;
+
+    // Registers the window class "QVGridCtrl" for a module, null meaning the program, or for the
+    // module that holds a dialog template. Throws CResourceException if the system refuses.
+    static void RegisterControlClass(HINSTANCE hInstance);
+    static void RegisterDlgControlClass(UINT nDialogID);
+
+    // --- Columns. Bad indices read 0 and write nothing.
+
+    int AddColumn(GridColType nType, int nWidth);
+    int NumColumns() const;
+    int GetColWidth(int nCol) const;
+    void SetColWidth(int nCol, int nWidth);
+    GridColType GetColType(int nCol) const;
+    void SetColType(int nCol, GridColType nType);
+    // The choices of a drop-list column, not owned. Null: the parent is asked.
+    CStringArray* GetColListData(int nCol) const;
+    void SetColListData(int nCol, CStringArray* pList);
+    DWORD_PTR GetColumnData(int nCol) const;
+    void SetColumnData(int nCol, DWORD_PTR dwData);
+    // Fits the column to its texts or to the given ones, with room for a button, and to nMinWidth
+    // at least. Gives the width.
+    int AutoSizeColumn(int nCol, int nMinWidth);
+    int SizeToStrings(int nCol, const CStringArray& strings, int nMinWidth);
+
+    // --- Rows
+
+    // A row of TAB-separated texts; gives its index. dwState is normally 0.
+    int AddRow(const CString& strRow, DWORD dwState);
+    int AddRow(UINT nStringID, DWORD dwState);
+    // An editor that is open stays until the focus leaves it; what it holds is dropped then.
+    void DeleteAllRows();
+    int NumRows() const;
+    int CurrentRow() const { return m_nCurRow; }
+    int CurrentColumn() const { return m_nCurCol; }
+    DWORD_PTR GetRowData(int nRow) const;
+    void SetRowData(int nRow, DWORD_PTR dwData);
+
+    // --- Cells
+
+    // What is being typed in the cell, or its text. 0 for a cell that never had a text.
+    BOOL GetCellText(int nRow, int nCol, CString& str);
+    void SetCellText(int nRow, int nCol, const CString& str);
+    DWORD_PTR GetItemData(int nRow, int nCol) const;
+    void SetItemData(int nRow, int nCol, DWORD_PTR dwData);
+    // Disabling a cell, or making it read-only, drops what is being typed in it.
+    void EnableCell(int nRow, int nCol, BOOL bEnable);
+    BOOL IsCellEnabled(int nRow, int nCol) const;
+    void SetCellReadOnly(int nRow, int nCol, BOOL bReadOnly);
+    BOOL IsCellReadOnly(int nRow, int nCol) const;
+    // Of the whole grid. Neither repaints nor closes an editor. An edit column still opens as the
+    // grid gets the focus; that is how it has always been.
+    void SetReadOnly(BOOL bReadOnly) { m_bReadOnly = bReadOnly; }
+
+    // --- Current cell
+
+    // bActivate opens the cell's editor, if it has one.
+    void GotoCell(int nRow, int nCol, BOOL bActivate);
+    void EnsureRowVisible(int nRow);
+    // Shows choices for the current cell.
+    void PopupList(CStringArray& strings);
+
+protected:
+    friend class QVGridEdit;
+    friend class QVGridList;
+
+    void Draw(CDC& dc, const CRect& rcClient) override;
+    void DrawRow(CDC& dc, int nRow, const CRect& rcRow, BOOL bFocus);
+    void DrawCell(CDC& dc, const CRect& rc, const CString& str, DWORD dwStyle, int nButtonWidth);
+    void DrawButton(CDC& dc, const CRect& rc, GridColType nType, BOOL bPressed);
+
+    BOOL IsValidRow(int nRow) const;
+    BOOL IsValidColumn(int nCol) const;
+    BOOL UseFieldButton(int nCol) const;
+    _QVGRID_ROW_INFO& RowAt(int nRow);  // unchecked
+    void ParseRowString(const CString& strRow, CStringArray& fields) const;
+    DWORD GetCellStyle(int nRow, int nCol) const;
+    BOOL ModifyCellStyle(int nRow, int nCol, DWORD dwAdd, DWORD dwRemove);
+
+    void CalcCellHeight();
+    void CalcRowRect(const CRect& rcClient, int nRow, CRect& rc);
+    void CalcCellRect(int nRow, int nCol, CRect& rc);
+    void ButtonRectFromCellRect(CRect& rc);
+    void CalcScrollBars();
+    void CellFromPoint(const CPoint& pt, int& nRow, int& nCol);
+    void CellFromPoint(const CPoint& pt, int& nRow, int& nCol, BOOL& bOnButton);
+    void ScrollUp(int nRows);
+    void ScrollDown(int nRows);
+    void ScrollTo(int nRow);
+    void InvalidateCell(int nRow, int nCol, BOOL bErase);
+    void InvalidateRow(int nRow, BOOL bErase);
+
+    void ActivateCell(int nRow, int nCol);
+    void HideEditCtrl();
+    void SaveEditCtrl();
+    void HideListBox();
+    void SaveListBox();
+    void TogglePopupList();
+
+    afx_msg void OnVScroll(UINT nCode, UINT nPos, CScrollBar* pBar);
+    afx_msg LRESULT OnSetRedraw(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnGetFont(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSetFont(WPARAM wParam, LPARAM lParam);
+    afx_msg UINT OnGetDlgCode();
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint pt);
+    afx_msg void OnLButtonUp(UINT nFlags, CPoint pt);
+    afx_msg void OnMouseMove(UINT nFlags, CPoint pt);
+    afx_msg LRESULT OnNcHitTest(CPoint pt);
+    afx_msg void OnCancelMode();
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg void OnKillFocus(CWnd* pNewWnd);
+    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnSysKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnChangeEditText();
+    afx_msg void OnDestroy();
+    DECLARE_MESSAGE_MAP()
+
+    BOOL m_bReadOnly = FALSE;
+    int m_nCellHeight = -1;  // pixels; -1: measure before use
+    int m_nTopRow = 0;       // -1 after DeleteAllRows, until the next row
+    int m_nCurRow = -1;
+    int m_nCurCol = -1;
+    CPen m_penGrid;  // live for one Draw
+    CBrush m_brWindow;
+    CBrush m_brHighlight;
+    BOOL m_bEditing = FALSE;      // an editor is up
+    BOOL m_bIgnoreFocus = FALSE;  // the grid moves the focus itself
+    BOOL m_bBtnDown = FALSE;      // a cell's button is being pressed
+    BOOL m_bBtnOver = FALSE;      // with the pointer over it
+    CRect m_rcBtn;
+    HFONT m_hFont = nullptr;  // not owned
+    BOOL m_bRedraw = TRUE;
+    SCROLLINFO m_si{};  // nPage: whole rows that show
+
+private:
+    class Watch;
+
+    qv::GridLayout Layout();
+    bool CanRepaint() const { return m_bRedraw && m_hWnd != nullptr; }
+    void InvalidateAll();
+    void ShowTopRow(int nTop);
+    bool IsCurrent(int nRow, int nCol) const { return nRow == m_nCurRow && nCol == m_nCurCol; }
+    bool EditUp() const;
+    bool ListUp() const;
+    void SaveEditors();
+    void DropEditors(int nRow, int nCol);
+    void PressButton(bool bPressed);
+    void NotifyParent(UINT nCode);
+    void MoveListSelection(bool bDown);
+    bool OwnKey(UINT nChar);
+
+    qv::GridModel m_model;
+    std::unique_ptr<QVGridEdit> m_pEdit;
+    std::unique_ptr<QVGridList> m_pList;
+    Watch* m_pWatches = nullptr;
+};

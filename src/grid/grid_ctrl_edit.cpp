@@ -1,0 +1,548 @@
+#include <mbstring.h>
+
+#include <algorithm>
+
+#include "frame/wnd_port.h"
+#include "grid/grid_ctrl.h"
+#include "grid/grid_editors.h"
+
+namespace {
+
+// The grid moves the focus itself: that is not the user coming to it.
+class IgnoreFocus {
+public:
+    explicit IgnoreFocus(BOOL& bIgnore) : m_bIgnore(bIgnore), m_bOld(bIgnore) { bIgnore = TRUE; }
+    ~IgnoreFocus() { m_bIgnore = m_bOld; }
+    IgnoreFocus(const IgnoreFocus&) = delete;
+    IgnoreFocus& operator=(const IgnoreFocus&) = delete;
+
+private:
+    BOOL& m_bIgnore;
+    BOOL m_bOld;
+};
+
+}  // namespace
+
+bool QVGridCtrl::EditUp() const {
+    return m_pEdit != nullptr && m_pEdit->m_hWnd != nullptr && m_pEdit->IsWindowVisible();
+}
+
+bool QVGridCtrl::ListUp() const {
+    return m_pList != nullptr && m_pList->m_hWnd != nullptr && m_pList->IsWindowVisible();
+}
+
+// The parent answers at once; it may change or destroy anything of the grid.
+void QVGridCtrl::NotifyParent(UINT nCode) {
+    if (CWnd* pParent = GetParent()) {
+        pParent->SendMessage(WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), nCode),
+                             reinterpret_cast<LPARAM>(m_hWnd));
+    }
+}
+
+// --- Current cell
+
+void QVGridCtrl::GotoCell(int nRow, int nCol, BOOL bActivate) {
+    if (!IsValidRow(nRow) || !IsValidColumn(nCol)) {
+        return;
+    }
+    if (nRow != m_nCurRow && IsValidRow(m_nCurRow)) {
+        RowAt(m_nCurRow).dwState &= ~GRS_CURRENT;
+        InvalidateRow(m_nCurRow, FALSE);
+    }
+    RowAt(nRow).dwState |= GRS_CURRENT;
+    const Watch watch(*this);
+    if (bActivate && IsCellEnabled(nRow, nCol) && !m_bReadOnly) {
+        ActivateCell(nRow, nCol);
+    } else {
+        SaveEditors();
+    }
+    if (!watch || !IsValidRow(nRow)) {
+        return;
+    }
+    // Last: what was saved belongs to the cell that was current.
+    m_nCurRow = nRow;
+    m_nCurCol = nCol;
+    InvalidateRow(nRow, FALSE);
+}
+
+void QVGridCtrl::ActivateCell(int nRow, int nCol) {
+    if (m_hWnd == nullptr || (IsCurrent(nRow, nCol) && m_bEditing)) {
+        return;
+    }
+    if (!m_model.UsesEdit(nCol) || IsCellReadOnly(nRow, nCol)) {
+        SaveEditors();
+        return;
+    }
+    const Watch watch(*this);
+    if (ListUp()) {
+        SaveListBox();
+    }
+    if (!watch || !IsValidRow(nRow)) {
+        return;
+    }
+    const IgnoreFocus ignore(m_bIgnoreFocus);
+    if (m_pEdit == nullptr) {
+        m_pEdit = std::make_unique<QVGridEdit>(*this);
+        m_pEdit->Create(WS_CHILD | ES_WANTRETURN | ES_AUTOHSCROLL, CRect(0, 0, 0, 0), this,
+                        kGridEditId);
+        m_pEdit->SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(m_hFont), FALSE);
+    } else {
+        m_pEdit->ShowWindow(SW_HIDE);
+    }
+    CRect rcCell(0, 0, 0, 0);
+    CalcCellRect(nRow, nCol, rcCell);
+    const CRect rcEdit = qv::ToCRect(qv::GridEditRect(
+        qv::ToRect(rcCell), GetColType(nCol) == gctEditButton ? m_nCellHeight : 0));
+    m_pEdit->MoveWindow(&rcEdit, TRUE);
+    const char* pszText = m_model.Text(nRow, nCol);
+    const CString strText(pszText != nullptr ? pszText : "");
+    m_pEdit->SetWindowText(strText);
+    if (!watch || m_pEdit == nullptr || !IsValidRow(nRow)) {
+        return;  // the parent heard of the new text and took the ground away
+    }
+    m_pEdit->SendMessage(EM_SETSEL, 0, -1);
+    m_pEdit->SendMessage(EM_SCROLLCARET);
+    m_pEdit->ShowWindow(SW_SHOW);
+    m_bEditing = TRUE;
+    m_pEdit->SetFocus();
+}
+
+// --- The edit
+
+void QVGridCtrl::HideEditCtrl() {
+    if (m_pEdit == nullptr || m_pEdit->m_hWnd == nullptr) {
+        return;
+    }
+    const Watch watch(*this);
+    {
+        // A window that goes may hand its focus to the grid, which must not open it again.
+        const IgnoreFocus ignore(m_bIgnoreFocus);
+        const bool bFocus = ::GetFocus() == m_pEdit->m_hWnd;
+        m_pEdit->ShowWindow(SW_HIDE);
+        if (watch && bFocus && ::GetFocus() != m_hWnd) {
+            SetFocus();
+        }
+        if (!watch) {
+            return;
+        }
+    }
+    InvalidateCell(m_nCurRow, m_nCurCol, TRUE);
+    m_bEditing = FALSE;
+}
+
+void QVGridCtrl::SaveEditCtrl() {
+    if (!EditUp()) {
+        return;
+    }
+    CString strText;
+    m_pEdit->GetWindowText(strText);
+    // Not through the public SetCellText, which would write the text into the edit again.
+    if (IsValidRow(m_nCurRow)) {
+        m_model.SetText(m_nCurRow, m_nCurCol, {strText, static_cast<size_t>(strText.GetLength())});
+    }
+    HideEditCtrl();
+}
+
+void QVGridCtrl::SaveEditors() {
+    const Watch watch(*this);
+    {
+        const IgnoreFocus ignore(m_bIgnoreFocus);
+        SaveEditCtrl();
+        if (!watch) {
+            return;
+        }
+    }
+    if (ListUp()) {
+        SaveListBox();
+    }
+}
+
+void QVGridCtrl::OnChangeEditText() {
+    NotifyParent(EN_CHANGE);
+}
+
+// --- The list
+
+void QVGridCtrl::HideListBox() {
+    if (m_pList == nullptr || m_pList->m_hWnd == nullptr) {
+        return;
+    }
+    if (::GetCapture() == m_pList->m_hWnd) {
+        ::ReleaseCapture();
+    }
+    m_pList->ShowWindow(SW_HIDE);
+    m_bEditing = FALSE;
+    m_bBtnDown = FALSE;
+}
+
+void QVGridCtrl::SaveListBox() {
+    if (m_pList == nullptr || m_pList->m_hWnd == nullptr) {
+        return;
+    }
+    const Watch watch(*this);
+    const int nLine = m_pList->GetCurSel();
+    if (nLine != LB_ERR && IsValidRow(m_nCurRow)) {
+        CString strLine;
+        CString strCell;
+        m_pList->GetText(nLine, strLine);
+        GetCellText(m_nCurRow, m_nCurCol, strCell);
+        if (_mbscmp(reinterpret_cast<const unsigned char*>(static_cast<LPCSTR>(strLine)),
+                    reinterpret_cast<const unsigned char*>(static_cast<LPCSTR>(strCell))) != 0) {
+            SetCellText(m_nCurRow, m_nCurCol, strLine);
+            NotifyParent(1);
+        }
+    }
+    if (watch) {
+        HideListBox();
+    }
+}
+
+void QVGridCtrl::PopupList(CStringArray& strings) {
+    if (m_hWnd == nullptr || !IsValidRow(m_nCurRow) || !IsValidColumn(m_nCurCol)) {
+        return;
+    }
+    if (m_pList == nullptr) {
+        m_pList = std::make_unique<QVGridList>(*this);
+        m_pList->CreateEx(0, "LISTBOX", nullptr, WS_POPUP | WS_BORDER, CRect(0, 0, 0, 0), this, 0);
+        m_pList->SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(m_hFont), FALSE);
+    } else {
+        m_pList->ShowWindow(SW_HIDE);
+    }
+    m_pList->ResetContent();
+    for (INT_PTR i = 0; i < strings.GetSize(); ++i) {
+        m_pList->InsertString(-1, strings[i]);
+    }
+    CRect rc(0, 0, 0, 0);
+    CalcCellRect(m_nCurRow, m_nCurCol, rc);
+    rc.right -= 1;
+    rc.top = rc.bottom - 1;  // over the cell's lower line
+    rc.bottom = rc.top + m_pList->GetItemHeight(0) * static_cast<int>(strings.GetSize()) + 2;
+    CString strCell;
+    GetCellText(m_nCurRow, m_nCurCol, strCell);
+    const int nLine = m_pList->FindStringExact(-1, strCell);
+    if (nLine != LB_ERR) {
+        m_pList->SetCurSel(nLine);
+    }
+    ClientToScreen(&rc);
+    m_pList->MoveWindow(&rc, FALSE);
+    m_pList->ShowWindow(SW_SHOWNA);
+    m_bEditing = TRUE;
+}
+
+void QVGridCtrl::TogglePopupList() {
+    if (ListUp()) {
+        SaveListBox();
+    } else if (CStringArray* pList = GetColListData(m_nCurCol)) {
+        PopupList(*pList);
+    } else {
+        NotifyParent(0);
+    }
+}
+
+void QVGridCtrl::MoveListSelection(bool bDown) {
+    if (m_pList != nullptr && m_pList->m_hWnd != nullptr) {
+        m_pList->SetCurSel(qv::ListLineAfterKey(m_pList->GetCurSel(), bDown, m_pList->GetCount()));
+    }
+}
+
+// --- Mouse
+
+void QVGridCtrl::OnLButtonDown(UINT, CPoint pt) {
+    int nRow;
+    int nCol;
+    BOOL bOnButton;
+    CellFromPoint(pt, nRow, nCol, bOnButton);
+    const Watch watch(*this);
+    {
+        // The focus that comes to the grid saves what the edit holds.
+        const IgnoreFocus ignore(m_bIgnoreFocus);
+        const bool bInEditedCell = m_bEditing && IsCurrent(nRow, nCol);
+        if (bInEditedCell && EditUp()) {
+            m_pEdit->SetFocus();
+        } else if (!bInEditedCell || !ListUp()) {
+            SetFocus();
+        }
+        if (!watch) {
+            return;
+        }
+    }
+    if (!IsValidRow(nRow) || !IsValidColumn(nCol)) {
+        Default();
+        return;
+    }
+    const bool bDisabled = !IsCellEnabled(nRow, nCol);
+    GotoCell(nRow, nCol, TRUE);
+    if (!watch) {
+        return;
+    }
+    InvalidateAll();
+    if (bDisabled || m_bReadOnly || !IsCurrent(nRow, nCol)) {
+        return;
+    }
+    if (GetColType(nCol) == gctDropList) {
+        const BOOL bWasEditing = m_bEditing;
+        TogglePopupList();
+        if (watch && bWasEditing) {
+            SetFocus();
+        }
+    } else if (bOnButton) {
+        m_bBtnDown = m_bBtnOver = TRUE;
+        CalcCellRect(nRow, nCol, m_rcBtn);
+        ButtonRectFromCellRect(m_rcBtn);
+        SetCapture();
+        RowAt(nRow).dwState |= GRS_BUTTONDOWN;
+    }
+}
+
+// Shows the button of the current cell pressed or raised.
+void QVGridCtrl::PressButton(bool bPressed) {
+    if (IsValidRow(m_nCurRow)) {
+        unsigned& dwState = RowAt(m_nCurRow).dwState;
+        dwState = bPressed ? dwState | GRS_BUTTONDOWN : dwState & ~GRS_BUTTONDOWN;
+    }
+}
+
+void QVGridCtrl::OnMouseMove(UINT, CPoint pt) {
+    const BOOL bOver = m_rcBtn.PtInRect(pt);
+    if (m_bBtnDown && bOver != m_bBtnOver) {
+        m_bBtnOver = bOver;
+        PressButton(bOver != FALSE);
+        if (bOver && ::GetCapture() != m_hWnd) {
+            SetCapture();
+        }
+        if (m_bRedraw) {
+            InvalidateRect(&m_rcBtn, FALSE);
+        }
+    }
+    Default();
+}
+
+void QVGridCtrl::OnLButtonUp(UINT, CPoint pt) {
+    const MSG msg = *GetCurrentMessage();
+    const Watch watch(*this);
+    if (m_bBtnDown) {
+        if (::GetCapture() == m_hWnd) {
+            ::ReleaseCapture();
+        }
+        PressButton(false);
+        m_bBtnDown = FALSE;
+        int nRow;
+        int nCol;
+        CellFromPoint(pt, nRow, nCol);
+        if (m_rcBtn.PtInRect(pt)) {
+            if (m_bRedraw) {
+                InvalidateRect(&m_rcBtn, FALSE);
+                UpdateWindow();
+            }
+            if (GetColType(nCol) == gctEditButton) {
+                const IgnoreFocus ignore(m_bIgnoreFocus);
+                SaveEditCtrl();
+            }
+            if (watch && GetColType(nCol) != gctDropList) {
+                NotifyParent(0);
+            }
+        }
+    }
+    if (watch) {
+        DefWindowProc(msg.message, msg.wParam, msg.lParam);
+    }
+}
+
+LRESULT QVGridCtrl::OnNcHitTest(CPoint pt) {
+    CRect rc;
+    GetClientRect(&rc);
+    ClientToScreen(&rc);
+    if (rc.PtInRect(pt)) {
+        return HTCLIENT;
+    }
+    rc.left = rc.right;
+    rc.right += ::GetSystemMetrics(SM_CXVSCROLL);
+    if ((GetStyle() & WS_VSCROLL) != 0 && rc.PtInRect(pt)) {
+        return HTVSCROLL;
+    }
+    return Default();
+}
+
+void QVGridCtrl::OnCancelMode() {
+    Default();
+    if (m_bBtnDown) {
+        m_bBtnDown = FALSE;
+        ::ReleaseCapture();
+        PressButton(false);
+        InvalidateRect(&m_rcBtn, TRUE);
+    }
+    m_bEditing = FALSE;  // an editor that is up stays on the screen
+}
+
+// --- Focus and keys
+
+// Coming to the grid opens the editor at once, in a read-only grid and a disabled cell as well:
+// only the column and the cell's own read-only style decide.
+void QVGridCtrl::OnSetFocus(CWnd*) {
+    const Watch watch(*this);
+    Default();
+    if (!watch || !IsValidRow(m_nCurRow)) {
+        return;
+    }
+    if (m_bRedraw) {
+        InvalidateCell(m_nCurRow, m_nCurCol, FALSE);
+    }
+    if (!m_bIgnoreFocus) {
+        ActivateCell(m_nCurRow, m_nCurCol);
+    }
+}
+
+void QVGridCtrl::OnKillFocus(CWnd*) {
+    const Watch watch(*this);
+    Default();
+    if (watch && ListUp()) {
+        SaveListBox();
+    }
+    if (watch && m_bRedraw) {
+        InvalidateCell(m_nCurRow, m_nCurCol, FALSE);
+    }
+}
+
+UINT QVGridCtrl::OnGetDlgCode() {
+    return DLGC_WANTALLKEYS;
+}
+
+// Keys that act on an open list and not on the current cell.
+bool QVGridCtrl::OwnKey(UINT nChar) {
+    const bool bList = m_bEditing && GetColType(m_nCurCol) == gctDropList;
+    if ((nChar == VK_UP || nChar == VK_DOWN) && bList && m_nCurRow != -1) {
+        MoveListSelection(nChar == VK_DOWN);
+        return true;
+    }
+    if (nChar == VK_ESCAPE && ListUp()) {
+        HideListBox();
+        return true;
+    }
+    return false;
+}
+
+void QVGridCtrl::OnKeyDown(UINT nChar, UINT, UINT) {
+    const bool bOwn = OwnKey(nChar);
+    const Watch watch(*this);
+    qv::GridCell target = qv::KeyTarget(bOwn ? 0 : nChar, {m_nCurRow, m_nCurCol}, m_model,
+                                        m_nTopRow, static_cast<int>(m_si.nPage));
+    switch (nChar) {
+        case VK_LEFT:
+        case VK_RIGHT:
+        case VK_UP:
+        case VK_DOWN:
+        case VK_HOME:
+        case VK_END:
+        case VK_NEXT:
+        case VK_PRIOR:
+            break;
+        default:
+            if (!bOwn) {
+                Default();
+            }
+            break;
+    }
+    if (!watch || IsCurrent(target.nRow, target.nCol)) {
+        return;
+    }
+    const IgnoreFocus ignore(m_bIgnoreFocus);
+    EnsureRowVisible(target.nRow);
+    GotoCell(target.nRow, target.nCol, FALSE);
+    if (watch && IsCurrent(target.nRow, target.nCol) && m_model.UsesEdit(target.nCol) &&
+        IsCellEnabled(target.nRow, target.nCol) && !m_bReadOnly) {
+        ActivateCell(target.nRow, target.nCol);
+    }
+}
+
+void QVGridCtrl::OnSysKeyDown(UINT nChar, UINT, UINT) {
+    const bool bOpens = nChar == VK_DOWN && IsValidRow(m_nCurRow) &&
+                        GetColType(m_nCurCol) == gctDropList &&
+                        IsCellEnabled(m_nCurRow, m_nCurCol) && !m_bReadOnly;
+    if (!bOpens) {
+        Default();
+    } else if (m_bEditing) {
+        SaveListBox();
+    } else {
+        EnsureRowVisible(m_nCurRow);
+        TogglePopupList();
+    }
+}
+
+// --- QVGridEdit
+
+BEGIN_MESSAGE_MAP(QVGridEdit, CEdit)
+    ON_WM_KILLFOCUS()
+    ON_WM_KEYDOWN()
+END_MESSAGE_MAP()
+
+void QVGridEdit::OnKillFocus(CWnd*) {
+    const HWND hWnd = m_hWnd;
+    const MSG msg = *GetCurrentMessage();
+    m_grid.SaveEditCtrl();
+    if (::IsWindow(hWnd)) {
+        DefWindowProc(msg.message, msg.wParam, msg.lParam);
+    }
+}
+
+bool QVGridEdit::LeavesCell(UINT nChar) {
+    if (nChar == VK_UP || nChar == VK_DOWN) {
+        return true;
+    }
+    int nStart;
+    int nEnd;
+    GetSel(nStart, nEnd);
+    return nStart == nEnd && ((nChar == VK_LEFT && nStart == 0) ||
+                              (nChar == VK_RIGHT && nStart == GetWindowTextLength()));
+}
+
+void QVGridEdit::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
+    if (LeavesCell(nChar)) {
+        GetParent()->SendMessage(WM_KEYDOWN, nChar, MAKELPARAM(nRepCnt, nFlags));
+    } else {
+        Default();
+    }
+}
+
+// --- QVGridList
+
+BEGIN_MESSAGE_MAP(QVGridList, CListBox)
+    ON_WM_KILLFOCUS()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONUP()
+    ON_WM_MOUSEMOVE()
+END_MESSAGE_MAP()
+
+void QVGridList::OnKillFocus(CWnd*) {
+    const HWND hWnd = m_hWnd;
+    const MSG msg = *GetCurrentMessage();
+    m_grid.SaveListBox();
+    if (::IsWindow(hWnd)) {
+        DefWindowProc(msg.message, msg.wParam, msg.lParam);
+    }
+}
+
+// The choice is made by the release.
+void QVGridList::OnLButtonDown(UINT, CPoint) {}
+
+void QVGridList::OnLButtonUp(UINT, CPoint) {
+    m_grid.SaveListBox();
+}
+
+void QVGridList::OnMouseMove(UINT, CPoint pt) {
+    CRect rc;
+    GetClientRect(&rc);
+    if (rc.PtInRect(pt)) {
+        BOOL bOutside;
+        const int nLine = static_cast<int>(ItemFromPoint(pt, bOutside));
+        if (GetCurSel() != nLine) {
+            SetCurSel(nLine);
+        }
+        if (::GetCapture() != m_hWnd) {
+            SetCapture();
+        }
+    } else {
+        ::ReleaseCapture();
+        SetCurSel(-1);
+    }
+    Default();
+}

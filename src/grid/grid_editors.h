@@ -1,0 +1,63 @@
+// The grid's editors: a child window for typing and a popup window for choosing, made at first use
+// and used for every cell.
+
+#pragma once
+
+#include "grid/grid_ctrl.h"
+
+// Leaves the cell by the arrow keys at the ends of its text, and saves as it loses the focus.
+inline constexpr UINT kGridEditId = 100;
+
+class QVGridEdit : public CEdit {
+public:
+    explicit QVGridEdit(QVGridCtrl& grid) : m_grid(grid) {}
+
+protected:
+    afx_msg void OnKillFocus(CWnd* pNewWnd);
+    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    bool LeavesCell(UINT nChar);
+
+    QVGridCtrl& m_grid;
+};
+
+// Never has the focus: keys reach the grid, and the pointer is followed by capture.
+class QVGridList : public CListBox {
+public:
+    explicit QVGridList(QVGridCtrl& grid) : m_grid(grid) {}
+
+protected:
+    afx_msg void OnKillFocus(CWnd* pNewWnd);
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint pt);
+    afx_msg void OnLButtonUp(UINT nFlags, CPoint pt);
+    afx_msg void OnMouseMove(UINT nFlags, CPoint pt);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    QVGridCtrl& m_grid;
+};
+
+// Watches the grid over a call that leads out of it: the parent may destroy its window or delete
+// the control. False from then on; nothing of the grid may be touched.
+class QVGridCtrl::Watch {
+public:
+    explicit Watch(QVGridCtrl& grid) : m_pGrid(&grid), m_pNext(grid.m_pWatches) {
+        grid.m_pWatches = this;
+    }
+    ~Watch() {
+        if (m_pGrid != nullptr) {
+            m_pGrid->m_pWatches = m_pNext;  // watches live on the stack: the last made goes first
+        }
+    }
+    Watch(const Watch&) = delete;
+    Watch& operator=(const Watch&) = delete;
+    explicit operator bool() const { return m_pGrid != nullptr && m_pGrid->m_hWnd != nullptr; }
+    void GridGone() { m_pGrid = nullptr; }
+    Watch* Next() const { return m_pNext; }
+
+private:
+    QVGridCtrl* m_pGrid;
+    Watch* m_pNext;
+};
