@@ -32,12 +32,12 @@ BEGIN_MESSAGE_MAP(QVListCtrlEx, CListCtrl)
     ON_MESSAGE(LVM_DELETECOLUMN, OnDeleteColumn)
     ON_MESSAGE(LVM_DELETEITEM, OnDeleteListItem)
     ON_MESSAGE(LVM_DELETEALLITEMS, OnDeleteAllItems)
-    ON_MESSAGE(LVM_INSERTITEMA, OnRowsChange)
-    ON_MESSAGE(LVM_INSERTITEMW, OnRowsChange)
-    ON_MESSAGE(LVM_SETITEMA, OnRowsChange)
-    ON_MESSAGE(LVM_SETITEMW, OnRowsChange)
-    ON_MESSAGE(LVM_SETITEMTEXTA, OnRowsChange)
-    ON_MESSAGE(LVM_SETITEMTEXTW, OnRowsChange)
+    ON_MESSAGE(LVM_INSERTITEMA, OnInsertListItem)
+    ON_MESSAGE(LVM_INSERTITEMW, OnInsertListItem)
+    ON_MESSAGE(LVM_SETITEMA, OnSetListItem)
+    ON_MESSAGE(LVM_SETITEMW, OnSetListItem)
+    ON_MESSAGE(LVM_SETITEMTEXTA, OnSetListItemText)
+    ON_MESSAGE(LVM_SETITEMTEXTW, OnSetListItemText)
     ON_MESSAGE(LVM_SETITEMCOUNT, OnRowsChange)
     ON_MESSAGE(LVM_SORTITEMS, OnRowsChange)
     ON_MESSAGE(LVM_SORTITEMSEX, OnRowsChange)
@@ -434,17 +434,19 @@ BOOL QVListCtrlEx::SetItemString(int nItem, LPCSTR pszText) {
     if (nItem >= GetItemCount()) {
         return FALSE;
     }
-    const std::string_view row = pszText != nullptr ? pszText : "";
+    SetFields(nItem, FirstTextColumn(), pszText != nullptr ? pszText : "");
+    return TRUE;
+}
+
+// Sets a cell to each field from column nCol on.
+void QVListCtrlEx::SetFields(int nItem, int nCol, std::string_view fields) {
     std::string strField;
     std::string_view field;
-    int nPos = 0;
-    for (int nCol = FirstTextColumn(); nCol < m_columns.Count() && qv::NextField(row, nPos, field);
-         ++nCol) {
+    for (int nPos = 0; nCol < m_columns.Count() && qv::NextField(fields, nPos, field); ++nCol) {
         strField = field;
         m_pPlaces->CountSent();
         SetItemText(nItem, nCol, strField.c_str());
     }
-    return TRUE;
 }
 
 BOOL QVListCtrlEx::GetItemString(int nItem, CString& str) {
@@ -460,11 +462,25 @@ BOOL QVListCtrlEx::GetItemString(int nItem, CString& str) {
 }
 
 int QVListCtrlEx::InsertRow(int nImage, int nIndex, LPCSTR pszText) {
+    std::string_view fields = pszText != nullptr ? pszText : "";
+    std::string strFirst = "-";
+    int nCol = FirstTextColumn();
+    // A cell that is inserted with its text needs no change afterwards. A control that sorts by
+    // itself sorts a row in by what it is inserted with: by the placeholder.
+    std::string_view field;
+    int nPos = 0;
+    if (nCol == 0 && m_columns.Count() > 0 &&
+        (GetStyle() & (LVS_SORTASCENDING | LVS_SORTDESCENDING)) == 0 &&
+        qv::NextField(fields, nPos, field)) {
+        strFirst = field;
+        fields.remove_prefix(static_cast<size_t>(nPos));
+        nCol = 1;
+    }
     m_pPlaces->CountSent();
     nIndex = CListCtrl::InsertItem(LVIF_TEXT | LVIF_IMAGE, nIndex != -1 ? nIndex : GetItemCount(),
-                                   "-", 0, 0, nImage, 0);
+                                   strFirst.c_str(), 0, 0, nImage, 0);
     if (nIndex != -1) {
-        SetItemString(nIndex, pszText);
+        SetFields(nIndex, nCol, fields);
     }
     return nIndex;
 }
@@ -619,31 +635,30 @@ LRESULT QVListCtrlEx::OnDeleteAllItems(WPARAM wParam, LPARAM lParam) {
     return OnDeleteListItem(wParam, lParam);
 }
 
-// Keeps account of the changes that AddBitmapString has to know.
-LRESULT QVListCtrlEx::OnRowsChange(WPARAM, LPARAM lParam) {
-    const UINT nMessage = GetCurrentMessage()->message;
+// These keep account of the changes that AddBitmapString has to know.
+LRESULT QVListCtrlEx::OnRowsChange(WPARAM, LPARAM) {
+    m_pPlaces->CountChange();
+    return Default();
+}
+
+LRESULT QVListCtrlEx::OnInsertListItem(WPARAM, LPARAM lParam) {
     const auto* pItem = reinterpret_cast<const LVITEM*>(lParam);
-    switch (nMessage) {
-        case LVM_SETITEMTEXTA:
-        case LVM_SETITEMTEXTW:
-            if (pItem != nullptr) {
-                m_pPlaces->SeeText(pItem->pszText);
-            }
-            break;
-        case LVM_INSERTITEMA:
-        case LVM_INSERTITEMW:
-        case LVM_SETITEMA:
-        case LVM_SETITEMW: {
-            const bool bText = pItem != nullptr && (pItem->mask & LVIF_TEXT) != 0;
-            if (bText) {
-                m_pPlaces->SeeText(pItem->pszText);
-            } else if (nMessage == LVM_SETITEMA || nMessage == LVM_SETITEMW) {
-                return Default();
-            }
-            break;
-        }
-        default:
-            break;
+    if (pItem != nullptr && (pItem->mask & LVIF_TEXT) != 0) {
+        m_pPlaces->SeeText(pItem->pszText);
+    }
+    m_pPlaces->CountChange();
+    return Default();
+}
+
+LRESULT QVListCtrlEx::OnSetListItem(WPARAM wParam, LPARAM lParam) {
+    const auto* pItem = reinterpret_cast<const LVITEM*>(lParam);
+    const bool bText = pItem != nullptr && (pItem->mask & LVIF_TEXT) != 0;
+    return bText ? OnSetListItemText(wParam, lParam) : Default();
+}
+
+LRESULT QVListCtrlEx::OnSetListItemText(WPARAM, LPARAM lParam) {
+    if (const auto* pItem = reinterpret_cast<const LVITEM*>(lParam)) {
+        m_pPlaces->SeeText(pItem->pszText);
     }
     m_pPlaces->CountChange();
     return Default();

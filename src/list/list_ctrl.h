@@ -21,6 +21,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "frame/styled_rows.h"
@@ -195,6 +196,9 @@ protected:
     afx_msg LRESULT OnDeleteListItem(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnDeleteAllItems(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnRowsChange(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnInsertListItem(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSetListItem(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSetListItemText(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     void (*m_pfnSort)(int nCol, void* pData) = nullptr;
@@ -246,6 +250,7 @@ private:
     int PrintRows(CDC* pDC, UINT nFirst, UINT nEnd, const CRect& rc, int nHeight, int nMost);
     // Inserting a row, and what becomes of the places kept for AddBitmapString.
     int InsertRow(int nImage, int nIndex, LPCSTR pszText);
+    void SetFields(int nItem, int nCol, std::string_view fields);
     std::string PlaceKey(LPCSTR pszText, bool bNumeric) const;
     void ReadPlaces(bool bNumeric);
 

@@ -2,14 +2,20 @@
 
 #include <afxdisp.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <new>
 #include <unordered_map>
 
 #include "frame/core/sort_keys.h"
 #include "frame/module_state.h"
+#include "list/core/row_ranks.h"
 
 IMPLEMENT_DYNCREATE(QVSortingListCtrl, QVListCtrlEx)
+
+BEGIN_MESSAGE_MAP(QVSortingListCtrl, QVListCtrlEx)
+    ON_MESSAGE(WM_SETREDRAW, OnSetRedraw)
+END_MESSAGE_MAP()
 
 // --- Columns
 
@@ -57,9 +63,12 @@ QVLISTCTRL_DATATYPE QVSortingListCtrl::ColumnSortType(int nCol) const {
 struct QVSortingListCtrl::Record {
     DWORD_PTR dwData;  // the item's own
     qv::SortKey key;
+    int nRow;  // before the sort
 };
 
-// One sort: the keys, and the records that stand in for the item data while the control sorts.
+// One sort. The rows' order is found here, by keys made once, and the control sorts by the ranks.
+// It tells rows apart by their item data. Where several rows have the same, each gets its record in
+// place of them while the control sorts.
 class QVSortingListCtrl::Sort {
 public:
     explicit Sort(QVSortingListCtrl& list)
@@ -68,34 +77,41 @@ public:
     }
     ~Sort() {
         Unpark();
+        if (m_bHoldsRedraw) {
+            m_list.SetRedraw(TRUE);
+        }
         m_list.m_pSort = m_outer;
     }
     Sort(const Sort&) = delete;
     Sort& operator=(const Sort&) = delete;
 
-    // Reads the rows. Changes nothing, so it may throw std::bad_alloc.
-    void MakeRecords(int nCol);
-    // False if the control refuses; what was parked is put back.
-    bool Park();
-    int Compare(const Record& record1, const Record& record2) const {
-        return m_keys.Compare(record1.key, record2.key);
-    }
+    // Reads the rows and finds their order; equal ones stay in turn. Changes nothing, so it may
+    // throw std::bad_alloc.
+    void MakeRecords(int nCol, bool bAscending);
+    // Makes the rows distinct. False if the control refuses; what was parked is put back.
+    bool Prepare() { return m_bDistinct || Park(); }
+    // Of a row by its item data.
+    std::uint32_t Rank(DWORD_PTR dwData) const;
 
 private:
     qv::SortKey MakeKey(LPCSTR pszText, QVLISTCTRL_DATATYPE nType);
     qv::SortKey DateKey(LPCSTR pszText);
-    const Record* RecordOf(DWORD_PTR dwData) const;
+    bool Park();
+    std::uint32_t ParkedRank(DWORD_PTR dwData) const;
     void Unpark();
 
     QVSortingListCtrl& m_list;
     qv::SortKeys m_keys;
-    std::vector<Record> m_records;
+    std::vector<Record> m_records;  // by rank
+    qv::RowRanks m_ranks;
+    bool m_bDistinct = false;
     std::unordered_map<std::string, qv::SortKey> m_dates;  // the same days come again and again
     size_t m_nParked = 0;
+    bool m_bHoldsRedraw = false;
     Sort* m_outer;
 };
 
-void QVSortingListCtrl::Sort::MakeRecords(int nCol) {
+void QVSortingListCtrl::Sort::MakeRecords(int nCol, bool bAscending) {
     const auto nType = m_list.ColumnSortType(nCol);
     const int nItems = m_list.GetItemCount();
     m_records.reserve(static_cast<size_t>(nItems));
@@ -105,8 +121,19 @@ void QVSortingListCtrl::Sort::MakeRecords(int nCol) {
             pszText = m_list.ParseStyleText(pszText);
         }
         const qv::SortKey key = MakeKey(pszText, nType);
-        m_records.push_back({m_list.GetItemData(nItem), key});
+        m_records.push_back({m_list.GetItemData(nItem), key, nItem});
     }
+    std::stable_sort(m_records.begin(), m_records.end(),
+                     [&](const Record& record1, const Record& record2) {
+                         const int nOrder = m_keys.Compare(record1.key, record2.key);
+                         return bAscending ? nOrder < 0 : nOrder > 0;
+                     });
+    std::vector<std::uintptr_t> words;
+    words.reserve(m_records.size());
+    for (const Record& record : m_records) {
+        words.push_back(record.dwData);
+    }
+    m_bDistinct = m_ranks.Assign(words);
 }
 
 qv::SortKey QVSortingListCtrl::Sort::MakeKey(LPCSTR pszText, QVLISTCTRL_DATATYPE nType) {
@@ -135,22 +162,30 @@ qv::SortKey QVSortingListCtrl::Sort::DateKey(LPCSTR pszText) {
 }
 
 bool QVSortingListCtrl::Sort::Park() {
-    for (; m_nParked < m_records.size(); ++m_nParked) {
-        const auto dwRecord = reinterpret_cast<DWORD_PTR>(&m_records[m_nParked]);
-        if (!m_list.SetItemData(static_cast<int>(m_nParked), dwRecord)) {
+    // The control would invalidate each row that it gets new data for, and then all of them.
+    m_bHoldsRedraw = m_list.m_bRedraw && (m_list.GetStyle() & WS_VISIBLE) != 0;
+    if (m_bHoldsRedraw) {
+        m_list.SetRedraw(FALSE);
+    }
+    for (const Record& record : m_records) {
+        if (!m_list.SetItemData(record.nRow, reinterpret_cast<DWORD_PTR>(&record))) {
             return false;
         }
+        ++m_nParked;
     }
     return true;
 }
 
-// The record that a data word points at; null if it is the application's own.
-const QVSortingListCtrl::Record* QVSortingListCtrl::Sort::RecordOf(DWORD_PTR dwData) const {
-    const auto nFirst = reinterpret_cast<DWORD_PTR>(m_records.data());
-    const DWORD_PTR nOffset = dwData - nFirst;
+std::uint32_t QVSortingListCtrl::Sort::Rank(DWORD_PTR dwData) const {
+    return m_bDistinct ? m_ranks.Find(dwData) : ParkedRank(dwData);
+}
+
+// The rank of the record that a data word points at; kNone if it is the application's own.
+std::uint32_t QVSortingListCtrl::Sort::ParkedRank(DWORD_PTR dwData) const {
+    const DWORD_PTR nOffset = dwData - reinterpret_cast<DWORD_PTR>(m_records.data());
     return nOffset < m_nParked * sizeof(Record) && nOffset % sizeof(Record) == 0
-               ? reinterpret_cast<const Record*>(dwData)
-               : nullptr;
+               ? static_cast<std::uint32_t>(nOffset / sizeof(Record))
+               : qv::RowRanks::kNone;
 }
 
 void QVSortingListCtrl::Sort::Unpark() {
@@ -159,19 +194,26 @@ void QVSortingListCtrl::Sort::Unpark() {
     }
     const int nItems = m_list.GetItemCount();
     for (int nItem = 0; nItem < nItems; ++nItem) {
-        if (const Record* pRecord = RecordOf(m_list.GetItemData(nItem))) {
-            m_list.SetItemData(nItem, pRecord->dwData);
+        const std::uint32_t nRank = ParkedRank(m_list.GetItemData(nItem));
+        if (nRank != qv::RowRanks::kNone) {
+            m_list.SetItemData(nItem, m_records[nRank].dwData);
         }
     }
+}
+
+LRESULT QVSortingListCtrl::OnSetRedraw(WPARAM wParam, LPARAM) {
+    m_bRedraw = wParam != FALSE;
+    return Default();
 }
 
 void QVSortingListCtrl::SortOnHeader(int nCol) {
     try {
         Sort sort(*this);
-        sort.MakeRecords(nCol);
-        m_bAscending = nCol != m_nSortCol || !m_bAscending;
+        const bool bAscending = nCol != m_nSortCol || !m_bAscending;
+        sort.MakeRecords(nCol, bAscending);
+        m_bAscending = bAscending;
         m_nSortCol = nCol;
-        if (sort.Park()) {
+        if (sort.Prepare()) {
             SortItems(SortFunc, reinterpret_cast<DWORD_PTR>(this));
         }
     } catch (const std::bad_alloc&) {
@@ -185,9 +227,8 @@ void QVSortingListCtrl::ReSort() {
 }
 
 int CALLBACK QVSortingListCtrl::SortFunc(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort) {
-    const auto* pList = reinterpret_cast<const QVSortingListCtrl*>(lParamSort);
-    const auto& record1 = *reinterpret_cast<const Record*>(lParam1);
-    const auto& record2 = *reinterpret_cast<const Record*>(lParam2);
-    const int nOrder = pList->m_pSort->Compare(record1, record2);
-    return pList->m_bAscending ? nOrder : -nOrder;
+    const Sort& sort = *reinterpret_cast<const QVSortingListCtrl*>(lParamSort)->m_pSort;
+    const std::uint32_t nRank1 = sort.Rank(static_cast<DWORD_PTR>(lParam1));
+    const std::uint32_t nRank2 = sort.Rank(static_cast<DWORD_PTR>(lParam2));
+    return nRank1 < nRank2 ? -1 : nRank1 > nRank2 ? 1 : 0;
 }

@@ -38,6 +38,9 @@ protected:
     int HeaderColumnCount(LPCSTR pszHeaders) const;
     static int CALLBACK SortFunc(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort);
 
+    afx_msg LRESULT OnSetRedraw(WPARAM wParam, LPARAM lParam);
+    DECLARE_MESSAGE_MAP()
+
     int m_nSortCol = 0;
     BOOL m_bAscending = TRUE;
     CWordArray m_aColTypes;  // a column beyond its end is lcdtString
@@ -47,4 +50,5 @@ private:
     class Sort;
 
     Sort* m_pSort = nullptr;  // lives for one sort
+    bool m_bRedraw = true;
 };

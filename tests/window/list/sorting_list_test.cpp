@@ -100,6 +100,47 @@ TEST(SortingList, ItemDataComeBackAsTheyWere) {
     }
 }
 
+TEST(SortingList, EqualRowsKeepTheirOrderWhateverTheirData) {
+    for (const bool bDistinct : {false, true}) {
+        SortWindow w;
+        for (int i = 0; i < 60; ++i) {
+            const std::string str = std::to_string(i) + "\tx\t" + std::to_string(i * 7 % 3);
+            w.list.SetItemData(w.Add(str.c_str()), static_cast<DWORD_PTR>(bDistinct ? i : i / 40));
+        }
+        for (const int nDirection : {1, -1}) {
+            w.list.SortOnHeader(2);
+            for (int i = 0; i + 1 < 60; ++i) {
+                const int nOrder =
+                    atoi(w.list.GetItemText(i + 1, 2)) - atoi(w.list.GetItemText(i, 2));
+                const int nRow = atoi(w.list.GetItemText(i, 0));
+                ASSERT_GE(nOrder * nDirection, 0) << bDistinct << i;
+                ASSERT_TRUE(nOrder != 0 || nRow < atoi(w.list.GetItemText(i + 1, 0))) << i;
+                ASSERT_EQ(w.list.GetItemData(i),
+                          static_cast<DWORD_PTR>(bDistinct ? nRow : nRow / 40));
+            }
+        }
+    }
+}
+
+TEST(SortingList, ASortRepaintsUnlessRedrawIsOff) {
+    SortWindow w;
+    for (const char* psz : {"b", "c", "a"}) {
+        w.Add(psz);
+    }
+    const auto repaints = [&] {
+        w.list.UpdateWindow();
+        w.list.ValidateRect(nullptr);
+        w.list.SortOnHeader(0);
+        return w.list.GetUpdateRect(nullptr, FALSE) != FALSE;
+    };
+    EXPECT_TRUE(repaints());
+    w.list.SetRedraw(FALSE);
+    EXPECT_FALSE(repaints());
+    EXPECT_EQ(w.Column(0), "a b c");
+    w.list.SetRedraw(TRUE);
+    EXPECT_TRUE(repaints());
+}
+
 // The parent may refuse that an item changes; no row may keep what is no data of its own.
 TEST(SortingList, ARefusedChangeLeavesTheRowsAlone) {
     SortWindow w;

@@ -1,0 +1,209 @@
+// The tree in real windows, beside the platform's own tree control in the same process: same size,
+// font and texts.
+
+#include "window_bench.h"
+
+#include <afxcmn.h>
+
+#include <random>
+
+#include "QVControls.h"
+
+namespace {
+
+using bench::Compare;
+using bench::Frame;
+
+constexpr int kManyItems = 100000;
+constexpr int kRedrawnItems = 10000;
+constexpr int kRoots = 100;
+constexpr int kMiddle = 10;
+constexpr int kLeaves = 109;
+constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | TVS_HASLINES | TVS_HASBUTTONS | TVS_LINESATROOT;
+
+struct Ours {
+    Frame frame;
+    QVTreeCtrlEx tree;
+    Ours() { tree.Create(kStyle, CRect(0, 0, 400, 600), &frame, 1); }
+    HTREEITEM Add(const char* psz, HTREEITEM hParent) {
+        return tree.InsertItem(psz, 0, 0, hParent, TVI_LAST);
+    }
+    void Open(HTREEITEM h) { tree.Expand(h, TVE_EXPAND, FALSE, FALSE); }
+    void Clear() { tree.DeleteAllItems(); }
+    CWnd& Window() { return tree; }
+};
+
+struct Theirs {
+    Frame frame;
+    CTreeCtrl tree;
+    Theirs() {
+        tree.Create(kStyle, CRect(0, 0, 400, 600), &frame, 1);
+        tree.SetFont(&frame.m_font);
+    }
+    HTREEITEM Add(const char* psz, HTREEITEM hParent) {
+        return tree.InsertItem(psz, 0, 0, hParent != nullptr ? hParent : TVI_ROOT, TVI_LAST);
+    }
+    void Open(HTREEITEM h) { tree.Expand(h, TVE_EXPAND); }
+    void Clear() { tree.DeleteAllItems(); }
+    CWnd& Window() { return tree; }
+};
+
+const std::vector<std::string>& Texts() {
+    static const std::vector<std::string> s_texts = [] {
+        std::mt19937 random(5);
+        std::vector<std::string> texts;
+        for (int i = 0; i < kManyItems; ++i) {
+            texts.push_back("item " + std::to_string(random()));
+        }
+        return texts;
+    }();
+    return s_texts;
+}
+
+template <class Side>
+void FillFlat(Side& side, int nItems) {
+    side.Window().SetRedraw(FALSE);
+    for (int i = 0; i < nItems; ++i) {
+        side.Add(Texts()[static_cast<size_t>(i)].c_str(), nullptr);
+    }
+    side.Window().SetRedraw(TRUE);
+    side.Window().UpdateWindow();
+}
+
+template <class Side>
+double TimeFillFlat() {
+    Side side;
+    return bench::Time([&] { FillFlat(side, kManyItems); });
+}
+
+template <class Side>
+double TimeFillDeep() {
+    Side side;
+    return bench::Time([&] {
+        side.Window().SetRedraw(FALSE);
+        for (int i = 0; i < kRoots; ++i) {
+            HTREEITEM hRoot = side.Add("a section", nullptr);
+            for (int k = 0; k < kMiddle; ++k) {
+                HTREEITEM hMiddle = side.Add("a group", hRoot);
+                for (int m = 0; m < kLeaves; ++m) {
+                    side.Add(Texts()[static_cast<size_t>(m)].c_str(), hMiddle);
+                }
+                side.Open(hMiddle);
+            }
+            side.Open(hRoot);
+        }
+        side.Window().SetRedraw(TRUE);
+        side.Window().UpdateWindow();
+    });
+}
+
+template <class Side>
+double TimeDelete() {
+    Side side;
+    FillFlat(side, kManyItems);
+    return bench::Time([&] { side.Clear(); });
+}
+
+template <class Side>
+double TimeRedrawnInsertions() {
+    Side side;
+    return bench::Time([&] {
+        for (int i = 0; i < kRedrawnItems; ++i) {
+            side.Add(Texts()[static_cast<size_t>(i)].c_str(), nullptr);
+        }
+        side.Window().UpdateWindow();
+    });
+}
+
+// Ten pages of branches and leaves, so that there are lines and buttons to draw.
+template <class Side>
+double TimeRepaint() {
+    constexpr int kPaints = 20;
+    Side side;
+    side.Window().SetRedraw(FALSE);
+    for (int i = 0; i < 100; ++i) {
+        HTREEITEM h = side.Add(Texts()[static_cast<size_t>(i)].c_str(), nullptr);
+        side.Add("child", h);
+        side.Add("child", h);
+        side.Open(h);
+    }
+    side.Window().SetRedraw(TRUE);
+    side.Window().UpdateWindow();
+    return bench::Time([&] {
+               for (int i = 0; i < kPaints; ++i) {
+                   side.Window().InvalidateRect(nullptr);
+                   side.Window().UpdateWindow();
+               }
+           }) /
+           kPaints;
+}
+
+void MeasureSteps(int nRows, const std::string& strSuffix) {
+    constexpr int kSteps = 50;
+    Ours side;
+    FillFlat(side, nRows);
+    CWnd& wnd = side.Window();
+    side.tree.SelectItem(side.tree.GetRootItem());
+    const auto measure = [&](const char* pszName, UINT nMessage, WPARAM wThere, WPARAM wBack) {
+        const double nTime = bench::MedianOf([&] {
+            return bench::Time([&] {
+                for (int i = 0; i < kSteps; ++i) {
+                    wnd.SendMessage(nMessage, i % 10 < 5 ? wThere : wBack, 0);
+                    wnd.UpdateWindow();
+                }
+            });
+        });
+        bench::Figure(("tree/" + std::string(pszName) + strSuffix).c_str(), nTime / kSteps * 1e6,
+                      "us");
+    };
+    measure("wheel-notch-", WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(-WHEEL_DELTA)),
+            MAKEWPARAM(0, WHEEL_DELTA));
+    measure("key-down-", WM_KEYDOWN, VK_DOWN, VK_UP);
+    if (nRows == kManyItems) {
+        const HTREEITEM hLast = side.tree.GetNextItem(side.tree.GetRootItem(), TVGN_NEXT);
+        HTREEITEM hFar = hLast;
+        for (int i = 0; i < nRows - 10; ++i) {
+            hFar = side.tree.GetNextSiblingItem(hFar);
+        }
+        const double nEnsure = bench::MedianOf([&] {
+            return bench::Time([&] {
+                side.tree.EnsureVisible(hFar);
+                wnd.UpdateWindow();
+                side.tree.EnsureVisible(side.tree.GetRootItem());
+                wnd.UpdateWindow();
+            });
+        });
+        bench::Figure("tree/ensure-visible-far-100k", nEnsure / 2 * 1e6, "us");
+        const double nThumb = bench::MedianOf([&] {
+            SCROLLINFO info{sizeof(info), SIF_POS, 0, 0, 0, nRows / 2, 0};
+            return bench::Time([&] {
+                ::SetScrollInfo(wnd.m_hWnd, SB_VERT, &info, FALSE);
+                wnd.SendMessage(WM_VSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 0), 0);
+                wnd.UpdateWindow();
+                info.nPos = 0;
+                ::SetScrollInfo(wnd.m_hWnd, SB_VERT, &info, FALSE);
+                wnd.SendMessage(WM_VSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 0), 0);
+                wnd.UpdateWindow();
+            });
+        });
+        bench::Figure("tree/thumb-middle-100k", nThumb / 2 * 1e6, "us");
+    }
+}
+
+}  // namespace
+
+void MeasureTree() {
+    Compare("tree/fill-flat-100k", 1e3, "ms",
+            bench::MedianPair(TimeFillFlat<Ours>, TimeFillFlat<Theirs>));
+    Compare("tree/fill-3level-110k", 1e3, "ms",
+            bench::MedianPair(TimeFillDeep<Ours>, TimeFillDeep<Theirs>));
+    Compare("tree/delete-all-100k", 1e3, "ms",
+            bench::MedianPair(TimeDelete<Ours>, TimeDelete<Theirs>));
+    Compare("tree/repaint-page", 1e3, "ms",
+            bench::MedianPair(TimeRepaint<Ours>, TimeRepaint<Theirs>));
+    MeasureSteps(100, "100");
+    MeasureSteps(kManyItems, "100k");
+    // The platform's control takes most of a minute for this, so it runs once.
+    Compare("tree/insert-redraw-on-10k", 1e3, "ms",
+            {bench::MedianOf(TimeRedrawnInsertions<Ours>), TimeRedrawnInsertions<Theirs>()});
+}
