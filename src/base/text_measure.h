@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 
 #include "base/geometry.h"

@@ -1,8 +1,11 @@
 #include "frame/wnd_port.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
+#include <vector>
 
+#include "base/multi_byte.h"
 #include "frame/select_object.h"
 
 namespace qv {
@@ -126,11 +129,37 @@ Size DcMeasure::Extent(std::string_view text) {
 }
 
 void DcMeasure::PrefixWidths(std::string_view text, int* pWidths) {
+    if (text.empty()) {
+        return;
+    }
+    const int nBytes = static_cast<int>(text.size());
     SIZE size{};
-    if (!text.empty() &&
-        !::GetTextExtentExPointA(m_dc.m_hAttribDC, text.data(), static_cast<int>(text.size()), 0,
-                                 nullptr, pWidths, &size)) {
+    if (::GetACP() == CP_UTF8) {
+        PrefixWidthsOfUtf8(text, pWidths);
+    } else if (!::GetTextExtentExPointA(m_dc.m_hAttribDC, text.data(), nBytes, 0, nullptr, pWidths,
+                                        &size)) {
         std::fill_n(pWidths, text.size(), 0);
+    }
+}
+
+// The platform counts characters there: each byte of one gets the width of all up to its end.
+void DcMeasure::PrefixWidthsOfUtf8(std::string_view text, int* pWidths) {
+    const int nBytes = static_cast<int>(text.size());
+    std::wstring strWide(text.size(), L'\0');
+    const int nWide =
+        ::MultiByteToWideChar(CP_UTF8, 0, text.data(), nBytes, strWide.data(), nBytes);
+    std::vector<int> widths(text.size());
+    SIZE size{};
+    ::GetTextExtentExPointW(m_dc.m_hAttribDC, strWide.data(), nWide, 0, nullptr, widths.data(),
+                            &size);
+    const MultiByte utf8 = MultiByte::Utf8();
+    int nUnit = -1;
+    for (size_t i = 0; i < text.size();) {
+        const size_t nChar = utf8.CharBytes(text.substr(i));
+        constexpr size_t kTwoUnits = 4;  // bytes of a character outside the basic plane
+        nUnit = std::min(nUnit + (nChar == kTwoUnits ? 2 : 1), nWide - 1);
+        std::fill_n(pWidths + i, nChar, nUnit >= 0 ? widths[static_cast<size_t>(nUnit)] : 0);
+        i += nChar;
     }
 }
 

@@ -54,6 +54,8 @@ public:
     void PrefixWidths(std::string_view text, int* pWidths) override;
 
 private:
+    void PrefixWidthsOfUtf8(std::string_view text, int* pWidths);
+
     CDC& m_dc;
 };
 

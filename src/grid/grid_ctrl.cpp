@@ -36,16 +36,13 @@ END_MESSAGE_MAP()
 
 // --- Life
 
-QVGridCtrl::QVGridCtrl() {
+QVGridCtrl::QVGridCtrl() : m_pAlive(std::make_shared<bool>(true)) {
     m_si.cbSize = sizeof(m_si);
     m_si.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
 }
 
 QVGridCtrl::~QVGridCtrl() {
-    for (Watch* pWatch = m_pWatches; pWatch != nullptr; pWatch = pWatch->Next()) {
-        pWatch->GridGone();
-    }
-    m_pWatches = nullptr;
+    *m_pAlive = false;
     DestroyWindow();
 }
 

@@ -191,5 +191,5 @@ private:
     qv::GridModel m_model;
     std::unique_ptr<QVGridEdit> m_pEdit;
     std::unique_ptr<QVGridList> m_pList;
-    Watch* m_pWatches = nullptr;
+    std::shared_ptr<bool> m_pAlive;  // false once the control is gone
 };

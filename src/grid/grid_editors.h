@@ -43,21 +43,10 @@ private:
 // the control. False from then on; nothing of the grid may be touched.
 class QVGridCtrl::Watch {
 public:
-    explicit Watch(QVGridCtrl& grid) : m_pGrid(&grid), m_pNext(grid.m_pWatches) {
-        grid.m_pWatches = this;
-    }
-    ~Watch() {
-        if (m_pGrid != nullptr) {
-            m_pGrid->m_pWatches = m_pNext;  // watches live on the stack: the last made goes first
-        }
-    }
-    Watch(const Watch&) = delete;
-    Watch& operator=(const Watch&) = delete;
-    explicit operator bool() const { return m_pGrid != nullptr && m_pGrid->m_hWnd != nullptr; }
-    void GridGone() { m_pGrid = nullptr; }
-    Watch* Next() const { return m_pNext; }
+    explicit Watch(const QVGridCtrl& grid) : m_grid(grid), m_pAlive(grid.m_pAlive) {}
+    explicit operator bool() const { return *m_pAlive && m_grid.m_hWnd != nullptr; }
 
 private:
-    QVGridCtrl* m_pGrid;
-    Watch* m_pNext;
+    const QVGridCtrl& m_grid;
+    std::shared_ptr<const bool> m_pAlive;
 };

@@ -24,6 +24,7 @@ BEGIN_MESSAGE_MAP(QVListCtrlEx, CListCtrl)
     ON_WM_ERASEBKGND()
     ON_WM_MOUSEWHEEL()
     ON_WM_SIZE()
+    ON_WM_DESTROY()
     ON_WM_WINDOWPOSCHANGING()
     ON_WM_WINDOWPOSCHANGED()
     ON_NOTIFY_REFLECT(LVN_COLUMNCLICK, OnItemclick)
@@ -113,11 +114,19 @@ BOOL QVListCtrlEx::Initialize(UINT nID, UINT nBitmapID, COLORREF crMask, int cx,
     return TRUE;
 }
 
+// The control deletes the image lists that it has when it goes; ours is not its own.
+void QVListCtrlEx::OnDestroy() {
+    SetImageList(nullptr, LVSIL_SMALL);
+    CListCtrl::OnDestroy();
+}
+
 void QVListCtrlEx::LoadImages(UINT nBitmapID, COLORREF crMask, int cx) {
     if (cx <= 0) {
         return;
     }
+    SetImageList(nullptr, LVSIL_SMALL);
     m_imageList.DeleteImageList();
+    m_nImageWidth = m_nImageHeight = 0;
     if (!m_imageList.Create(nBitmapID, cx, 0, crMask)) {
         return;
     }
@@ -409,18 +418,21 @@ int QVListCtrlEx::CalculateItemWidth(CDC* pDC, int nItem) {
 
 LPCSTR QVListCtrlEx::CellText(int nItem, int nCol) {
     constexpr size_t kUsualRoom = 256;
-    if (m_aCellText.empty()) {
-        m_aCellText.resize(kUsualRoom);
-    }
+    constexpr int kLongestCharacter = 4;
+    // A parent that is asked for the text may come back here: it must not meet this buffer.
+    std::vector<char> text = std::move(m_aCellText);
+    text.resize(std::max(text.size(), kUsualRoom));
     for (;;) {
-        const int nRoom = static_cast<int>(m_aCellText.size());
-        m_aCellText[0] = '\0';
-        // A text that fills the room may have been cut.
-        if (CListCtrl::GetItemText(nItem, nCol, m_aCellText.data(), nRoom) < nRoom - 1) {
-            return m_aCellText.data();
+        const int nRoom = static_cast<int>(text.size()) - 1;
+        text.front() = text.back() = '\0';
+        // A text that all but fills the room may have been cut.
+        if (CListCtrl::GetItemText(nItem, nCol, text.data(), nRoom) < nRoom - kLongestCharacter) {
+            break;
         }
-        m_aCellText.resize(m_aCellText.size() * 2);
+        text.resize(text.size() * 2);
     }
+    m_aCellText = std::move(text);
+    return m_aCellText.data();
 }
 
 BOOL QVListCtrlEx::NextField(const CString& strRow, int& nPos, CString& strField) const {
@@ -500,7 +512,7 @@ int QVListCtrlEx::InsertBitmapString(int nImage, int nIndex, LPCSTR pszText) {
 
 std::string QVListCtrlEx::PlaceKey(LPCSTR pszText, bool bNumeric) const {
     if (bNumeric) {
-        return qv::NumberKey(static_cast<std::int32_t>(std::atol(ParseStyleText(pszText))));
+        return qv::NumberKey(static_cast<std::int32_t>(std::atol(pszText)));
     }
     std::string strKey;
     qv::ProcessText().AppendSortKey(pszText, strKey);
@@ -513,14 +525,16 @@ void QVListCtrlEx::ReadPlaces(bool bNumeric) {
     CString strRow;
     const int nItems = GetItemCount();
     for (int nItem = 0; nItem < nItems && GetItemString(nItem, strRow); ++nItem) {
-        rows.Append(PlaceKey(strRow, bNumeric));
+        rows.Append(PlaceKey(bNumeric ? ParseStyleText(strRow) : LPCSTR(strRow), bNumeric));
     }
-    m_pPlaces->SetValid(bNumeric, NumColumns());
+    m_pPlaces->SetValid(bNumeric, NumColumns(), m_aStyles.Count());
 }
 
 int QVListCtrlEx::AddBitmapString(int nImage, LPCSTR pszText, BOOL bNumeric) {
     const bool bNumber = bNumeric != FALSE;
-    if (!m_pPlaces->Valid(bNumber, GetItemCount(), NumColumns())) {
+    // Labels that the user edits change without a message.
+    if ((GetStyle() & LVS_EDITLABELS) != 0 ||
+        !m_pPlaces->Valid(bNumber, GetItemCount(), NumColumns(), m_aStyles.Count())) {
         ReadPlaces(bNumber);
     }
     const std::string strKey = PlaceKey(ParseStyleText(pszText), bNumber);
@@ -531,8 +545,9 @@ int QVListCtrlEx::AddBitmapString(int nImage, LPCSTR pszText, BOOL bNumeric) {
     if (nIndex == static_cast<int>(nPlace) && nForeign == m_pPlaces->ForeignChanges() &&
         GetItemString(nIndex, strRow)) {
         // What stands in the control now, with its code, is what later rows are compared with.
-        m_pPlaces->rows.Insert(nPlace, PlaceKey(strRow, bNumber));
-        m_pPlaces->SetValid(bNumber, NumColumns());
+        m_pPlaces->rows.Insert(
+            nPlace, PlaceKey(bNumber ? ParseStyleText(strRow) : LPCSTR(strRow), bNumber));
+        m_pPlaces->SetValid(bNumber, NumColumns(), m_aStyles.Count());
     } else {
         m_pPlaces->Invalidate();
     }
@@ -607,7 +622,7 @@ void QVListCtrlEx::InvalidateData(BOOL bErase) {
 // --- Messages
 
 LRESULT QVListCtrlEx::OnInsertColumn(WPARAM wParam, LPARAM lParam) {
-    if (lParam != 0) {
+    if (lParam != 0 && wParam < INT_MAX) {
         m_columns.CountInserted(static_cast<int>(wParam));
     }
     m_nDataWidth = -1;

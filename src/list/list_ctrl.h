@@ -63,6 +63,9 @@ public:
     void ClearCols();
     // Single-column mode: fits the column. Otherwise asks CalcColWidths.
     virtual void SetupColumns();
+    // Sets the widths through SetColWidth(nCol, nWidth, pWidths); gives the number of columns. A
+    // step for derived classes: here it does nothing.
+    virtual int CalcColWidths(CDC* pDC, int* pWidths);
     // Widens columns to a sample row. A field that ends in '*' marks the column that fills the
     // window, less a vertical scroll bar.
     void SetupColumnsFromString(const CString& strSample);
@@ -134,10 +137,7 @@ public:
 
     // Not owned; null prints in the font selected in the device context.
     void SetPrintFonts(CFont* pItemFont, CFont* pHeaderFont);
-    virtual void BeginPrinting(CDC* pDC, CPrintInfo* pInfo);
-    virtual void EndPrinting(CDC* pDC, CPrintInfo* pInfo);
     virtual int HeaderPrintHeight(CDC* pDC);
-    virtual int CalculateItemHeight(CDC* pDC);
     // Spreads nPageWidth over the columns that are printed, in proportion to their widths on
     // screen. Where these have no width at all, neither have they on paper. Gives the number of
     // columns.
@@ -148,6 +148,9 @@ public:
     // number. 0 for a row height of 0.
     virtual int PrintItems(CDC* pDC, UINT nFirst, UINT nLast, const CRect& rc);
     virtual int PrintItems(CDC* pDC, CPrintInfo* pInfo, const CRect& rc);
+    virtual int CalculateItemHeight(CDC* pDC);
+    virtual void BeginPrinting(CDC* pDC, CPrintInfo* pInfo);
+    virtual void EndPrinting(CDC* pDC, CPrintInfo* pInfo);
     // For the life of the control. Exports are not affected.
     void ExcludeColumnFromPrinting(int nCol);
     BOOL IsColumnExcludedFromPrinting(int nCol) const;
@@ -163,8 +166,6 @@ public:
 protected:
     // --- Steps that a derived class may replace, beside the public ones
 
-    // Sets the widths through SetColWidth(nCol, nWidth, pWidths); gives the number of columns.
-    virtual int CalcColWidths(CDC* pDC, int* pWidths);
     // pWidths is null on screen.
     virtual void DrawItemText(CDC* pDC, UINT nItem, const CRect& rc, BOOL bSelected, int* pWidths);
     virtual void DrawItemBitmap(CDC* pDC, UINT nItem, const CRect& rc);
@@ -187,6 +188,7 @@ protected:
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);
+    afx_msg void OnDestroy();
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnWindowPosChanging(WINDOWPOS* pPos);
     afx_msg void OnWindowPosChanged(WINDOWPOS* pPos);
@@ -238,7 +240,7 @@ private:
     void LoadImages(UINT nBitmapID, COLORREF crMask, int cx);
     void TakeFontOfParents();
     void MeasureFont();
-    void FillRest(int nFillCol, int nAvailable);
+    void FillRest(int nFillCol, int nReserved);
     bool HasFocus() const { return ::GetFocus() == m_hWnd; }
     bool ShowsSelAlways() const { return (GetStyle() & LVS_SHOWSELALWAYS) != 0; }
     void GrowBackBitmap(CDC& dc, int cx, int cy);

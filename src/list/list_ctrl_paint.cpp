@@ -10,6 +10,12 @@ constexpr int kCellMargin = 6;  // left and right of a cell's text, in screen pi
 constexpr UINT kTextFlags = DT_NOPREFIX | DT_END_ELLIPSIS;
 constexpr COLORREF kNoBackground = 0xFFFFFFFF;
 
+int RowColor(qv::Highlight highlight) {
+    return highlight == qv::Highlight::Full    ? COLOR_HIGHLIGHT
+           : highlight == qv::Highlight::Faded ? COLOR_BTNFACE
+                                               : COLOR_WINDOW;
+}
+
 }  // namespace
 
 qv::RowLayout QVListCtrlEx::Layout() {
@@ -87,17 +93,10 @@ void QVListCtrlEx::DrawItem(LPDRAWITEMSTRUCT lpDIS) {
     }
     const auto highlight = qv::RowHighlight(m_bAllowSel && (lpDIS->itemState & ODS_SELECTED) != 0,
                                             HasFocus(), ShowsSelAlways(), m_bAlwaysHighlightSel);
-    const int nBackground = highlight == qv::Highlight::Full    ? COLOR_HIGHLIGHT
-                            : highlight == qv::Highlight::Faded ? COLOR_BTNFACE
-                                                                : COLOR_WINDOW;
-    const qv::BrushLife item(m_brItem, ::GetSysColor(nBackground));
+    const qv::BrushLife item(m_brItem, ::GetSysColor(RowColor(highlight)));
     const qv::BrushLife blank(m_brBlank, ::GetSysColor(COLOR_WINDOW));
     const CRect rcRow(0, 0, rc.Width(), rc.Height());
     if ((lpDIS->itemAction & (ODA_DRAWENTIRE | ODA_SELECT)) != 0) {
-        // Window colour on the highlight, as the rows have always shown it.
-        m_dcMem.SetTextColor(
-            ::GetSysColor(highlight == qv::Highlight::Full ? COLOR_WINDOW : COLOR_WINDOWTEXT));
-        m_dcMem.SetBkColor(::GetSysColor(nBackground));
         ComposeText(lpDIS->itemID, rcRow, layout, highlight);
         if (m_nImageWidth > 0) {
             DrawItemBitmap(&m_dcMem, lpDIS->itemID, rcRow);
@@ -123,6 +122,10 @@ void QVListCtrlEx::ComposeText(UINT nItem, const CRect& rcRow, const qv::RowLayo
     }
     rcText.DeflateRect(0, layout.TextInset());
     const qv::ColorGuard colors(m_dcMem);
+    // Window colour on the highlight, as the rows have always shown it.
+    m_dcMem.SetTextColor(
+        ::GetSysColor(highlight == qv::Highlight::Full ? COLOR_WINDOW : COLOR_WINDOWTEXT));
+    m_dcMem.SetBkColor(::GetSysColor(RowColor(highlight)));
     const qv::SelectGuard<CFont> font(m_dcMem, GetFont());
     DrawItemText(&m_dcMem, nItem, rcText, highlight != qv::Highlight::None, nullptr);
 }

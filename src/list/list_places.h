@@ -15,14 +15,16 @@ public:
     // Unless it is the same after a call as before, somebody else has changed rows meanwhile.
     int ForeignChanges() const { return m_nChanges - m_nSent; }
 
-    bool Valid(bool bNumeric, int nItems, int nColumns) const {
+    bool Valid(bool bNumeric, int nItems, int nColumns, int nStyles) const {
         return m_bValid && m_bNumeric == bNumeric && !m_bCallbacks && m_nValidFor == m_nChanges &&
-               static_cast<int>(rows.Count()) == nItems && m_nColumns == nColumns;
+               static_cast<int>(rows.Count()) == nItems && m_nColumns == nColumns &&
+               m_nStyles == nStyles;
     }
-    void SetValid(bool bNumeric, int nColumns) {
+    void SetValid(bool bNumeric, int nColumns, int nStyles) {
         m_bValid = true;
         m_bNumeric = bNumeric;
         m_nColumns = nColumns;
+        m_nStyles = nStyles;
         m_nValidFor = m_nChanges;
     }
     void Invalidate() { m_bValid = false; }
@@ -34,6 +36,7 @@ private:
     bool m_bNumeric = false;
     bool m_bCallbacks = false;
     int m_nColumns = 0;
+    int m_nStyles = 0;
     int m_nChanges = 0;
     int m_nSent = 0;
     int m_nValidFor = 0;

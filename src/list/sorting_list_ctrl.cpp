@@ -218,6 +218,8 @@ void QVSortingListCtrl::SortOnHeader(int nCol) {
         }
     } catch (const std::bad_alloc&) {
         // The rows and their data are as they were.
+    } catch (CMemoryException* pException) {
+        pException->Delete();  // and so here: a date was being read
     }
 }
 
