@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <limits>
 #include <unordered_map>
 
 #include "frame/core/wheel.h"
@@ -14,6 +15,8 @@ namespace {
 
 constexpr int kFormatMask = LVCFMT_JUSTIFYMASK;
 constexpr int kHeadingBytes = 255;  // with the terminator
+// The control inserts at the end what is to go further behind.
+constexpr int kBehindAllRows = std::numeric_limits<int>::max();
 
 }  // namespace
 
@@ -489,7 +492,7 @@ int QVListCtrlEx::InsertRow(int nImage, int nIndex, LPCSTR pszText) {
         nCol = 1;
     }
     m_pPlaces->CountSent();
-    nIndex = CListCtrl::InsertItem(LVIF_TEXT | LVIF_IMAGE, nIndex != -1 ? nIndex : GetItemCount(),
+    nIndex = CListCtrl::InsertItem(LVIF_TEXT | LVIF_IMAGE, nIndex != -1 ? nIndex : kBehindAllRows,
                                    strFirst.c_str(), 0, 0, nImage, 0);
     if (nIndex != -1) {
         SetFields(nIndex, nCol, fields);
