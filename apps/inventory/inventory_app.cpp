@@ -34,6 +34,7 @@ BOOL InventoryApp::InitInstance() {
     const bool bWalks = !m_strWalkFolder.IsEmpty();
     m_pFrame->ShowWindow(bWalks ? SW_SHOWNORMAL : m_nCmdShow);
     m_pFrame->UpdateWindow();
+    m_pFrame->LoadSettings(bWalks ? m_strWalkFolder + "\\settings.txt" : CString(), !bWalks);
     m_pFrame->Open(strFile, !bWalks);
     if (bWalks) {
         PostThreadMessage(kWalk, 0, 0);

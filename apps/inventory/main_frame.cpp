@@ -4,6 +4,7 @@
 #include "install_dates.h"
 #include "registry_source.h"
 #include "resource.h"
+#include "settings_file.h"
 
 namespace {
 
@@ -30,13 +31,24 @@ int MainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     static constexpr UINT kIndicators[] = {ID_INDICATOR_MESSAGE, ID_INDICATOR_MARKED};
     if (CFrameWnd::OnCreate(lpCreateStruct) == -1 || !m_pages.Create(this) ||
         !m_pages.Add(m_sections) || !m_pages.Add(m_packages) || !m_pages.Add(m_report) ||
-        !m_statusBar.Create(this) ||
+        !m_pages.Add(m_settings) || !m_statusBar.Create(this) ||
         !m_statusBar.SetIndicators(kIndicators, static_cast<int>(std::size(kIndicators)))) {
         return -1;
     }
     m_statusBar.SetPaneStyle(0, SBPS_STRETCH);
     SetActiveClient(&m_pages);
     return 0;
+}
+
+void MainFrame::LoadSettings(const CString& strPath, bool bInteractive) {
+    const CString strFile = strPath.IsEmpty() ? UsersSettingsPath() : strPath;
+    const CString strProblem = m_settings.Load(strFile);
+    if (!strProblem.IsEmpty() && bInteractive) {
+        AfxMessageBox(strProblem, MB_ICONEXCLAMATION);
+    }
+    const class Settings& settings = m_settings.Values();
+    m_sections.Tree().UseIndentedColumns(settings.Choice(kSettingTreeColumns) == 0);
+    m_packages.UseSettings(settings);
 }
 
 void MainFrame::OnSetFocus(CWnd*) {
@@ -54,8 +66,10 @@ BOOL MainFrame::Open(const CString& strPath, bool bInteractive) {
         bRead = ReadPackages(static_cast<LPCTSTR>(strFile), packages, error);
         ReadInstallDates(strFile, packages);
         ToProcessCodePage(packages);
+        m_settings.ShowDatabase(strFile);
     } else {
         packages = ReadUninstallEntries();
+        m_settings.ShowDatabase("the registry's uninstall entries");
     }
     m_strProblem = error.strMessage.c_str();
     m_inventory.SetPackages(std::move(packages));

@@ -8,6 +8,7 @@
 #include "packages_page.h"
 #include "page_host.h"
 #include "report_page.h"
+#include "settings_page.h"
 #include "tree_page.h"
 
 class MainFrame : public CFrameWnd {
@@ -17,6 +18,9 @@ public:
     TreePage& Sections() { return m_sections; }
     PackagesPage& Packages() { return m_packages; }
     ReportPage& Report() { return m_report; }
+    SettingsPage& Settings() { return m_settings; }
+    // Empty: the user's own file. Call before Open.
+    void LoadSettings(const CString& strPath, bool bInteractive);
     PageHost& Pages() { return m_pages; }
     CString StatusText(int nPane) { return m_statusBar.GetPaneText(nPane); }
 
@@ -37,6 +41,7 @@ private:
     CStatusBar m_statusBar;
     TreePage m_sections;
     PackagesPage m_packages;
-    ReportPage m_report{m_packages};
+    SettingsPage m_settings;
+    ReportPage m_report{m_packages, m_settings.Values()};
     PageHost m_pages;
 };

@@ -47,6 +47,13 @@ void PackagesPage::OnItemChanged(NMHDR* pNMHDR, LRESULT* pResult) {
 void PackagesPage::OnExport() {
     ExportDialog dialog(this);
     dialog.m_strPath = m_strExportPath;
+    if (m_pSettings != nullptr) {
+        dialog.m_nSeparator = m_pSettings->Choice(kSettingSeparator);
+        const CString strFolder = m_pSettings->Value(kSettingExportFolder).c_str();
+        if (m_strExportPath.IsEmpty() && !strFolder.IsEmpty()) {
+            dialog.m_strPath = strFolder + "\\packages.txt";
+        }
+    }
     if (dialog.DoModal() == IDOK && Export(dialog.m_strPath, dialog.Separator())) {
         m_strExportPath = dialog.m_strPath;
     }

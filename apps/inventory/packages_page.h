@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "model/settings.h"
 #include "package_list.h"
 #include "page.h"
 
@@ -14,6 +15,8 @@ public:
     bool FindNext(const CString& strText) override { return m_list.FindNext(strText); }
 
     PackageList& List() { return m_list; }
+    // What the export dialog starts with.
+    void UseSettings(const Settings& settings) { m_pSettings = &settings; }
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
@@ -29,6 +32,7 @@ private:
     bool Export(LPCSTR pszPath, char chSeparator);
 
     PackageList m_list;
+    const Settings* m_pSettings = nullptr;
     CString m_strExportPath;
     bool m_bCenterImages = true;
     bool m_bAllowSelection = true;

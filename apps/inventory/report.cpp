@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr double kMarginInch = 0.9;
+constexpr double kMarginInches[] = {0.6, 0.9, 1.4};  // narrow, normal, wide
 // The paper where there is no printer to tell it: A4.
 constexpr double kPaperWidthInch = 8.27;
 constexpr double kPaperHeightInch = 11.69;
@@ -34,9 +34,9 @@ CString WithThousands(size_t n) {
 
 }  // namespace
 
-Report::Report(const Inventory& inventory, const ReportOptions& options, QVListCtrlEx& columns,
-               QVListCtrlEx& list, CDC& dc)
-    : m_options(options) {
+Report::Report(const Inventory& inventory, const ReportOptions& options, const Settings& settings,
+               QVListCtrlEx& columns, QVListCtrlEx& list, CDC& dc)
+    : m_options(options), m_settings(settings) {
     MeasurePaper(dc);
     MakeFonts(dc);
     m_pEngine = std::make_unique<QVPrintEngine>(&dc, &m_fontHeader, &m_fontNormal, &m_fontSection);
@@ -66,8 +66,8 @@ void Report::MeasurePaper(CDC& dc) {
                         static_cast<int>(kPaperHeightInch * nDpiY));
     }
     m_rcText = CRect(CPoint(-m_origin.x, -m_origin.y), m_paper);
-    m_rcText.DeflateRect(static_cast<int>(kMarginInch * nDpiX),
-                         static_cast<int>(kMarginInch * nDpiY));
+    const double margin = kMarginInches[m_settings.Choice(kSettingMargins)];
+    m_rcText.DeflateRect(static_cast<int>(margin * nDpiX), static_cast<int>(margin * nDpiY));
 }
 
 void Report::MakeFonts(CDC& dc) {
@@ -92,7 +92,7 @@ void Report::AddIntroduction(const Inventory& inventory, CDC& dc) {
         nKiB += SizeOf(section);
         nUnusual += UnusualIn(section);
     }
-    m_pEngine->AddHeader("What is installed on this machine", &dc);
+    m_pEngine->AddHeader(m_settings.Value(kSettingTitle).c_str(), &dc);
     m_pEngine->AddBreak();
     CString strText;
     strText.Format(
@@ -160,5 +160,6 @@ void Report::PrintPage(CDC& dc, unsigned nPage) {
     rcLine.bottom = rcLine.top + m_nLineHeight;
     strText.Format("Page %u of %u", nPage, m_nPages);
     dc.DrawText(strText, &rcLine, DT_SINGLELINE | DT_NOPREFIX | DT_CENTER);
+    dc.DrawText(m_settings.Value(kSettingFooter).c_str(), -1, &rcLine, DT_SINGLELINE | DT_NOPREFIX);
     dc.SelectObject(pOld);
 }

@@ -10,6 +10,7 @@
 
 #include "QVControls.h"
 #include "model/inventory.h"
+#include "model/settings.h"
 
 struct ReportOptions {
     bool bIntroduction = true;
@@ -21,8 +22,8 @@ struct ReportOptions {
 class Report {
 public:
     // columns gives the sections' packages their columns, list is printed as it stands.
-    Report(const Inventory& inventory, const ReportOptions& options, QVListCtrlEx& columns,
-           QVListCtrlEx& list, CDC& dc);
+    Report(const Inventory& inventory, const ReportOptions& options, const Settings& settings,
+           QVListCtrlEx& columns, QVListCtrlEx& list, CDC& dc);
 
     unsigned Pages() const { return m_nPages; }
     // Of the whole sheet, in units of the device context.
@@ -40,6 +41,7 @@ private:
     void AddTotals(const Section& section, CDC& dc);
 
     ReportOptions m_options;
+    const Settings& m_settings;
     CFont m_fontNormal;
     CFont m_fontHeader;
     CFont m_fontSection;

@@ -151,7 +151,8 @@ void ReportPage::OpenDevice() {
 }
 
 std::unique_ptr<Report> ReportPage::Compose(CDC& dc) {
-    return std::make_unique<Report>(*m_pInventory, m_options, m_columns, m_packages.List(), dc);
+    return std::make_unique<Report>(*m_pInventory, m_options, m_settings, m_columns,
+                                    m_packages.List(), dc);
 }
 
 void ReportPage::MakeReport() {

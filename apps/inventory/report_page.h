@@ -12,7 +12,8 @@
 class ReportPage : public Page {
 public:
     // The list that can be printed as it stands.
-    explicit ReportPage(PackagesPage& packages) : m_packages(packages) {}
+    ReportPage(PackagesPage& packages, const Settings& settings)
+        : m_packages(packages), m_settings(settings) {}
 
     LPCSTR Title() const override { return "Report"; }
     void SetInventory(const Inventory& inventory) override;
@@ -55,6 +56,7 @@ private:
     std::unique_ptr<Report> Compose(CDC& dc);
 
     PackagesPage& m_packages;
+    const Settings& m_settings;
     const Inventory* m_pInventory = nullptr;
     ReportOptions m_options;
     QVListCtrlEx m_columns;  // hidden: gives the sections their columns

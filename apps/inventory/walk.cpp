@@ -6,8 +6,9 @@ bool Walk::Run() {
     m_frame.SetForegroundWindow();
     Tree().SetFocus();
     return TreePage() && OpenBranch() && Marks() && AbsoluteColumns() && Find() && Vetoes() &&
-           Packages() && FindPackage() && ImageColumn() && Export() && Refresh() && ReportPages() &&
-           Zoom() && Paper();
+           Packages() && FindPackage() && ImageColumn() && Export() && Refresh() &&
+           TypeSettings() && ChooseSetting() && SettingsKept() && ReportPages() && Zoom() &&
+           Paper();
 }
 
 bool Walk::Station(const char* pszName) {

@@ -26,6 +26,10 @@ private:
     bool ImageColumn();
     bool Export();
     bool Refresh();
+    // The settings
+    bool TypeSettings();
+    bool ChooseSetting();
+    bool SettingsKept();
     // The report
     bool ReportPages();
     bool Zoom();

@@ -29,6 +29,11 @@ void Click(CPoint ptScreen) {
     SendMouse(ptScreen, {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP});
 }
 
+void LetClickPass() {
+    const ULONGLONG nThen = ::GetTickCount64() + ::GetDoubleClickTime();
+    WaitFor([&] { return ::GetTickCount64() > nThen; });
+}
+
 void Press(WORD nKey, WORD nHeld) {
     std::vector<INPUT> inputs;
     const auto add = [&](WORD nVirtual, DWORD dwFlags) {

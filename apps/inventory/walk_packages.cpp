@@ -84,9 +84,7 @@ bool Walk::Packages() {
     if (!Expect("a click on a heading sorts", [&] { return sizes(false); })) {
         return false;
     }
-    // Two clicks in a short time would be a double click.
-    const ULONGLONG nThen = ::GetTickCount64() + ::GetDoubleClickTime();
-    WaitFor([&] { return ::GetTickCount64() > nThen; });
+    LetClickPass();
     Click(PointOfHeading(kSizeColumn));
     if (!Expect("a second click turns the order", [&] { return sizes(true); })) {
         return false;

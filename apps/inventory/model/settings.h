@@ -1,0 +1,51 @@
+// The application's own settings: what each is called, what kind of value it has, and how they
+// stand in a file.
+
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+enum class SettingKind { Text, Choice, Folder };
+
+struct Setting {
+    const char* pszKey;   // in the file
+    const char* pszName;  // on the screen
+    SettingKind kind;
+    std::string strValue;
+    std::vector<std::string> choices;  // of a choice
+};
+
+// Indices of the settings.
+enum SettingIndex {
+    kSettingTitle,
+    kSettingFooter,
+    kSettingMargins,
+    kSettingTreeColumns,
+    kSettingSeparator,
+    kSettingExportFolder,
+    kSettingCount
+};
+
+class Settings {
+public:
+    Settings();  // defaults
+
+    std::vector<Setting>& All() { return m_settings; }
+    const std::string& Value(SettingIndex n) const { return m_settings[n].strValue; }
+    // The number of the value among the choices.
+    int Choice(SettingIndex n) const;
+    // False, and nothing changes, for a choice that is none and for a text of several lines.
+    bool Set(SettingIndex n, const std::string& strValue);
+
+    std::string Format() const;
+    // Reads what Format wrote; lines that are missing keep their defaults. False for anything else,
+    // with the line in nLine, and all values are the defaults then.
+    bool Parse(std::string_view text, size_t& nLine);
+
+private:
+    bool ParseLine(std::string_view line);
+
+    std::vector<Setting> m_settings;
+};
