@@ -41,8 +41,8 @@ int QVCustCtrl::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     return Initialize(nID, CWnd::FromHandle(lpCreateStruct->hwndParent)) ? 0 : -1;
 }
 
-// The bitmap is made anew for each paint, so a new size needs no handling. The whole client
-// area is drawn, whatever part is invalid.
+// The bitmap is made anew for each paint, so a new size needs no handling. Draw is asked for the
+// whole client area; what lies outside of the invalid part is clipped, as it would reach no screen.
 void QVCustCtrl::OnPaint() {
     CPaintDC dc(this);
     CRect rect;
@@ -54,6 +54,7 @@ void QVCustCtrl::OnPaint() {
         return;  // nothing to draw on; the next paint tries again
     }
     const qv::SelectGuard<CBitmap> selected(dcMemory, &bitmap);
+    dcMemory.IntersectClipRect(&dc.m_ps.rcPaint);
     Draw(dcMemory, rect);
     dc.BitBlt(rect.left, rect.top, rect.Width(), rect.Height(), &dcMemory, 0, 0, SRCCOPY);
 }
