@@ -9,4 +9,5 @@
 #include "list/list_ctrl.h"
 #include "list/sorting_list_ctrl.h"
 #include "print/print_engine.h"
+#include "text/text_wnd.h"
 #include "tree/tree_ctrl.h"

@@ -280,18 +280,26 @@ LPTSTR CStdioFile::ReadString(LPTSTR lpsz, UINT nMax) {
 }
 
 BOOL CStdioFile::ReadString(CString& rString) {
-    char szPart[512];
-    rString.Empty();
+    // A line may hold zeros, so its end is not the first one: behind it the filling is untouched.
+    constexpr char kFilling = 1;
+    char szPart[1024];
+    std::string strLine;
     bool bRead = false;
-    while (ReadString(szPart, sizeof(szPart)) != nullptr) {
-        bRead = true;
-        const size_t nPart = std::strlen(szPart);
-        rString += szPart;
-        if (nPart > 0 && szPart[nPart - 1] == '\n') {
-            rString.Truncate(rString.GetLength() - 1);
+    bool bEnd = false;
+    while (!bEnd) {
+        std::memset(szPart, kFilling, sizeof(szPart));
+        if (ReadString(szPart, sizeof(szPart)) == nullptr) {
             break;
         }
+        bRead = true;
+        size_t nPart = sizeof(szPart) - 1;
+        while (szPart[nPart] != '\0') {
+            --nPart;
+        }
+        bEnd = nPart > 0 && szPart[nPart - 1] == '\n';
+        strLine.append(szPart, bEnd ? nPart - 1 : nPart);
     }
+    rString = CString(strLine.data(), static_cast<int>(strLine.size()));
     return bRead;
 }
 

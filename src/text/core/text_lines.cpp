@@ -1,0 +1,66 @@
+#include "text/core/text_lines.h"
+
+#include <algorithm>
+#include <cstring>
+#include <new>
+
+#include "frame/core/styled_text.h"
+
+namespace qv {
+
+namespace {
+
+constexpr size_t kBlock = 65536;
+
+}  // namespace
+
+int TextLines::Add(std::string_view text, int nStyle) {
+    const FieldPrefix code = MakeStyleCodes(nStyle == -1 ? 0 : nStyle & 255);
+    constexpr size_t kCodeBytes = 2;
+    try {
+        char* psz = Room(kCodeBytes + text.size() + 1);
+        std::memcpy(psz, code.data(), kCodeBytes);
+        std::memcpy(psz + kCodeBytes, text.data(), text.size());
+        psz[kCodeBytes + text.size()] = '\0';
+        m_lines.push_back(psz);
+    } catch (const std::bad_alloc&) {
+        return -1;
+    }
+    m_nMaxLength = std::max(m_nMaxLength, static_cast<int>(text.size()));
+    return Count();
+}
+
+// A text too large to share a block gets one of its own, and the open one stays open.
+char* TextLines::Room(size_t nBytes) {
+    if (nBytes > m_nFree) {
+        const bool bAlone = nBytes > kBlock / 4;
+        auto block = std::make_unique<char[]>(bAlone ? nBytes : kBlock);
+        char* p = block.get();
+        m_blocks.push_back(std::move(block));
+        if (bAlone) {
+            return p;
+        }
+        m_pFree = p;
+        m_nFree = kBlock;
+    }
+    char* p = m_pFree;
+    m_pFree += nBytes;
+    m_nFree -= nBytes;
+    return p;
+}
+
+void TextLines::Clear() {
+    m_lines.clear();
+    m_lines.shrink_to_fit();
+    m_blocks.clear();
+    m_pFree = nullptr;
+    m_nFree = 0;
+    m_nMaxLength = 0;
+    ++m_nGeneration;
+}
+
+const char* TextLines::Line(int nLine) const {
+    return nLine >= 0 && nLine < Count() ? m_lines[static_cast<size_t>(nLine)] : nullptr;
+}
+
+}  // namespace qv

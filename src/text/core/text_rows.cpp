@@ -1,0 +1,183 @@
+#include "text/core/text_rows.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "base/platform_names.h"
+
+namespace qv {
+
+void SplitLine(const char* pszLine, int nWidth, const StyleTable& styles, TextSplitter& splitter,
+               std::vector<int>& starts) {
+    splitter.Split(styles.ParseStyleText(pszLine), nWidth, starts);
+}
+
+// --- On screen
+
+void DisplayRows::Format(const TextLines& lines, const StyleTable& styles, int nWidth,
+                         TextSplitter& splitter) {
+    if (nWidth != m_nWidth || styles.Count() != m_nStyles || lines.Generation() != m_nGeneration) {
+        m_rows.clear();
+        m_nLines = 0;
+        m_nWidth = nWidth;
+        m_nStyles = styles.Count();
+        m_nGeneration = lines.Generation();
+    }
+    for (; m_nLines < lines.Count(); ++m_nLines) {
+        SplitLine(lines.Line(m_nLines), nWidth, styles, splitter, m_starts);
+        for (int i = 0; i < static_cast<int>(m_starts.size()); ++i) {
+            m_rows.push_back({m_nLines, i});
+        }
+    }
+}
+
+// --- On paper
+
+void PrintRows::Clear() {
+    m_rows.clear();
+    m_nNumPages = 0;
+}
+
+int PrintRows::PagesNeeded() const {
+    return Count() > 0 && m_nLinesPerPage > 0 ? (Count() - 1) / m_nLinesPerPage + 1 : 0;
+}
+
+bool PrintRows::StartPage(int nPage, const TextLines& lines, const StyleTable& styles,
+                          TextSplitter& splitter, PrintedRow& row) {
+    row.strText.clear();
+    if (nPage < 1 || nPage > m_nNumPages) {
+        return false;
+    }
+    m_nCurrent = m_nLinesPerPage * (nPage - 1);
+    return CurrentLine(lines, styles, splitter, row);
+}
+
+bool PrintRows::NextLine(int nPage, const TextLines& lines, const StyleTable& styles,
+                         TextSplitter& splitter, PrintedRow& row) {
+    const int nNext = m_nCurrent + 1;
+    if (nNext >= Count() || nNext >= static_cast<std::int64_t>(m_nLinesPerPage) * nPage) {
+        return false;
+    }
+    m_nCurrent = nNext;
+    return CurrentLine(lines, styles, splitter, row);
+}
+
+bool PrintRows::CurrentLine(const TextLines& lines, const StyleTable& styles,
+                            TextSplitter& splitter, PrintedRow& row) const {
+    if (m_nCurrent < 0 || m_nCurrent >= Count()) {
+        return false;
+    }
+    const QVTEXTLINE& record = m_rows[static_cast<size_t>(m_nCurrent)];
+    const char* pszLine = lines.Line(record.nLine);
+    if (record.nSubLine == -1) {
+        row.strText.clear();
+        row.nLine = record.nLine;
+        row.nStyle = styles.ParseStyle(pszLine);
+        return true;
+    }
+    const char* pszCounted = lines.Line(row.nLine);
+    std::vector<int> starts;
+    splitter.Split(pszCounted != nullptr ? pszCounted : "", m_sizePrintArea.cx, starts);
+    const auto nPiece = static_cast<size_t>(record.nSubLine);
+    if (nPiece >= starts.size()) {
+        return false;
+    }
+    row.nLine = record.nLine;
+    row.nStyle = styles.ParseStyle(pszLine);
+    // The starts are those of another line, perhaps: nothing is read behind this one.
+    const std::string_view line = pszLine != nullptr ? pszLine : "";
+    const size_t nFrom = std::min(static_cast<size_t>(starts[nPiece]), line.size());
+    const size_t nTo = nPiece + 1 < starts.size()
+                           ? std::min(static_cast<size_t>(starts[nPiece + 1]), line.size())
+                           : line.size();
+    const std::string strPiece(line.substr(nFrom, nTo - nFrom));
+    row.strText = styles.ParseStyleText(strPiece.c_str());
+    return true;
+}
+
+void FormatPrintRows(const TextLines& lines, PrintRows& rows, const TextLines* pOther,
+                     PrintRows* pOtherRows, const StyleTable& styles, TextSplitter& splitter) {
+    const int nLines = std::max(lines.Count(), pOther != nullptr ? pOther->Count() : 0);
+    std::vector<int> starts;
+    const auto pieces = [&](const TextLines& text, int nLine) {
+        if (nLine >= text.Count()) {
+            return 0;
+        }
+        SplitLine(text.Line(nLine), rows.m_sizePrintArea.cx, styles, splitter, starts);
+        return static_cast<int>(starts.size());
+    };
+    for (int nLine = 0; nLine < nLines; ++nLine) {
+        const int nOwn = pieces(lines, nLine);
+        const int nOther = pOther != nullptr ? pieces(*pOther, nLine) : 0;
+        for (int j = 0; j < std::max(nOwn, nOther); ++j) {
+            rows.Add(nLine, j < nOwn ? j : -1);
+            if (pOtherRows != nullptr) {
+                pOtherRows->Add(nLine, j < nOther ? j : -1);
+            }
+        }
+    }
+}
+
+// --- Scrolling
+
+ScrollCode ScrollCodeOf(unsigned nCode) {
+    switch (nCode) {
+        case SB_LINEUP:
+            return ScrollCode::LineUp;
+        case SB_LINEDOWN:
+            return ScrollCode::LineDown;
+        case SB_PAGEUP:
+            return ScrollCode::PageUp;
+        case SB_PAGEDOWN:
+            return ScrollCode::PageDown;
+        case SB_THUMBPOSITION:
+        case SB_THUMBTRACK:
+            return ScrollCode::Thumb;
+        case SB_TOP:
+            return ScrollCode::Top;
+        case SB_BOTTOM:
+            return ScrollCode::Bottom;
+        default:
+            return ScrollCode::Other;
+    }
+}
+
+bool ScrollTarget(ScrollCode code, unsigned nWanted, int nPos, int nCount, int nPage,
+                  int& nTarget) {
+    const int nMaxPos = nCount - nPage;
+    switch (code) {
+        case ScrollCode::LineUp:
+        case ScrollCode::PageUp:
+        case ScrollCode::Top:
+            if (nPos < 1) {
+                return false;
+            }
+            nTarget = code == ScrollCode::LineUp                 ? nPos - 1
+                      : code == ScrollCode::Top || nPos <= nPage ? 0
+                                                                 : nPos - nPage;
+            return true;
+        case ScrollCode::LineDown:
+        case ScrollCode::PageDown:
+        case ScrollCode::Bottom:
+            if (nPos >= nMaxPos) {
+                return false;
+            }
+            nTarget = code == ScrollCode::LineDown                             ? nPos + 1
+                      : code == ScrollCode::PageDown && nPos < nMaxPos - nPage ? nPos + nPage
+                                                                               : nMaxPos;
+            return true;
+        case ScrollCode::Thumb:
+            // Unsigned: where all rows show, the limit is negative and refuses nothing.
+            if (nWanted == static_cast<unsigned>(nPos) ||
+                nWanted > static_cast<unsigned>(nMaxPos) || static_cast<int>(nWanted) < 0) {
+                return false;
+            }
+            nTarget = static_cast<int>(nWanted);
+            return true;
+        case ScrollCode::Other:
+            break;
+    }
+    return false;
+}
+
+}  // namespace qv

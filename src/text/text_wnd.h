@@ -1,0 +1,152 @@
+// QVTextWnd: shows lines of text, each in one style, wrapped to the window: logs and reports of any
+// length. It scrolls, copies, exports and prints; nothing in it can be selected or edited.
+//
+// Add lines with AddText and call CalcLayout behind the last one, or load a file. Two windows can
+// scroll together (SyncWith on both) and print side by side, line by line level.
+//
+// Scroll units are rows and, in the fixed grid, columns of characters. Rows show pieces of lines in
+// the order of the lines. A row is as high as the font, which is the system's font for windows.
+//
+// Ownership: the window owns its lines; a partner is not owned. Destroy partners together, or end
+// the pairing first; a partner that goes ends it on its own side.
+
+#pragma once
+
+#include <afxtempl.h>
+#include <afxwin.h>
+
+#include <memory>
+
+#include "frame/styled_rows.h"
+#include "text/core/text_rows.h"
+
+struct CPrintInfo;
+
+class QV_CONTROLS_API QVTextWnd : public CWnd, public QVStyleTable {
+    DECLARE_DYNCREATE(QVTextWnd)
+
+public:
+    QVTextWnd();
+    ~QVTextWnd() override;
+
+    // Takes the place of the control nID of pParent, which is destroyed; on a window that exists it
+    // measures the font and adds style 0. 0 if there is no such control or no font.
+    int Initialize(UINT nID, CWnd* pParent, int bBorder);
+    // bBorder: a sunken edge.
+    int Create(CRect& rc, CWnd* pParent, UINT nID, int bBorder);
+
+    // --- Text
+
+    // Does nothing: text is always wrapped. A derived class may write m_bUseProportionalFont.
+    void SetUseProportionalFont(int /*bUse*/) {}
+    // Appends a line; nStyle -1 means 0. The new number of lines, or -1 without memory. Nothing is
+    // laid out or painted: call CalcLayout behind the last line.
+    int AddText(const char* pszText, int nStyle);
+    // Replaces the lines by those of a file. 0 if it cannot be opened or read to its end; what was
+    // read stays.
+    int LoadFile(const char* pszPath, int nStyle);
+    int LoadFile(CStdioFile& file, int nStyle);
+    void ClearTextData();
+    int NumLines() const { return m_lines.Count(); }
+    // With its style code; null if there is no such line.
+    const char* GetLine(int nLine) const;
+    // Fits rows and scroll bars to the lines, and repaints.
+    void CalcLayout();
+    // Asks for no repaint. Style 0 takes the colour as well.
+    void SetBkColor(COLORREF cr);
+
+    // --- View
+
+    // Scrolls pOther with this window; null ends that. bShowVScroll 0: no vertical bar here.
+    void SyncWith(QVTextWnd* pOther, int bShowVScroll);
+    // Brings display row nLine to nMargin rows below the top. Always 1.
+    int ScrollTo(int nLine, int nMargin);
+    int VScrollPos() const { return m_nVScrollPos; }
+    int NumRows() const { return m_nNumRows; }
+
+    // --- Out of the window
+
+    // The lines without style codes. 0 if the file cannot be opened; throws CFileException if
+    // writing fails.
+    virtual int ExportData(const char* pszPath);
+    // All lines as text. 1 if the clipboard has it now.
+    int CopyToClipboard();
+
+    // --- Printing: FormatText, then for each page StartPage, and NextLine until it gives 0
+
+    // Lays out for an area in units of pDC, which has the font selected. A partner is laid out with
+    // it: both get the same number of rows, blank ones filling the shorter side.
+    void FormatText(CDC* pDC, const CSize& sizeArea);
+    int NumPages() const { return m_print.m_nNumPages; }
+    void SetNumPages(int nPages) { m_print.m_nNumPages = nPages; }
+    // A row of page pInfo->m_nCurPage: its text, style and line; 0 if there is none. Pass the same
+    // variable for nLine from row to row: its value going in names the line whose pieces are
+    // counted, as it always has.
+    int StartPage(CDC* pDC, CPrintInfo* pInfo, CString& strText, int& nStyle, int& nLine);
+    int NextLine(CDC* pDC, CPrintInfo* pInfo, CString& strText, int& nStyle, int& nLine);
+    int GetCurrentLine(CDC* pDC, CString& strText, int& nStyle, int& nLine);
+
+protected:
+    // --- Steps that a derived class may replace
+
+    // Paints piece nFrom to nTo (-1: to the end) of strText as display row nRow of the window.
+    virtual void DrawText(CDC& dc, int nRow, const CString& strText, int nStyle, int nFrom,
+                          int nTo);
+    // Paints line nLine of the fixed grid, nCols columns from the scroll position on.
+    virtual void DrawText(CDC& dc, int nLine, int nCols);
+
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    int CreateDisplayFont(CFont& font);
+    void CleanupDisplayFont(CFont& font);
+    void CalculateDataSize(int& cx, int& cy, int nWidth);
+    void CalculateLineRect(int nRow, CRect& rc);
+    void FormatDisplayText(int nWidth);
+    void SplitTextLines(CDC* pDC, int nWidth, const CString& strText, CArray<int, int>& aStarts);
+    void CalculateScrollBars();
+    int DoVScroll(UINT nCode, UINT nPos);
+    void SetLinesPerPage(int nLines) { m_print.m_nLinesPerPage = nLines; }
+    void SetPrintAreaSize(const CSize& size);
+    void ClearPrintData() { m_print.Clear(); }
+    void AddPrintLine(int nLine, int nSubLine) { m_print.Add(nLine, nSubLine); }
+
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnDestroy();
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnPaint();
+    afx_msg void OnHScroll(UINT nCode, UINT nPos, CScrollBar* pBar);
+    afx_msg void OnVScroll(UINT nCode, UINT nPos, CScrollBar* pBar);
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint pt);
+    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg UINT OnGetDlgCode();
+    DECLARE_MESSAGE_MAP()
+
+    QVTextWnd* m_pSyncWnd = nullptr;
+    int m_bShowVScroll = 1;
+    qv::TextLines m_lines;
+    int m_nCharWidth = 0;  // of "O" in the display font, in pixels
+    int m_nCharHeight = 0;
+    int m_nHScrollPos = 0;     // columns
+    int m_nVScrollPos = 0;     // rows
+    int m_nMaxLineLength = 0;  // bytes; 0 once text was wrapped
+    int m_nNumRows = 0;
+    int m_nTabStop = 8;  // pixels
+    int m_bHScrollBar = 0;
+    int m_bVScrollBar = 0;
+    int m_bBorder = 0;
+    int m_bUseProportionalFont = 1;  // 0: a fixed grid of characters that scrolls sideways
+    COLORREF m_crBk;
+    qv::DisplayRows m_rows;
+    qv::PrintRows m_print;
+
+private:
+    class Measure;
+
+    CSize ViewSize();  // columns and rows that show
+    int DrawRows(CDC& dc, int nRow, int nEnd, int nWidth);
+    void FillRow(CDC& dc, const CRect& rc, COLORREF cr);
+    void DrawPiece(CDC& dc, const CRect& rcRow, std::string_view text, size_t nLength, int nStyle);
+    qv::TextSplitter& Splitter();
+    bool ReadLines(CStdioFile& file, int nStyle);
+
+    std::unique_ptr<Measure> m_pMeasure;
+};
