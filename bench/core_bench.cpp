@@ -1,4 +1,4 @@
-// Core without a window, and the tree beside Qt's tree widget where that was asked for.
+// Core without a window, and the tree and the grid beside Qt's widgets where that was asked for.
 
 #include <malloc.h>
 
@@ -7,6 +7,7 @@
 #include <string>
 
 #include "bench.h"
+#include "grid/core/grid_model.h"
 #include "print/core/text_wrap.h"
 #include "support/fake_page_items.h"
 #include "support/test_tree.h"
@@ -86,9 +87,14 @@ double Sort(const std::vector<std::string>& texts) {
     return bench::Time([&] { tree.SortChildren(hParent); });
 }
 
+size_t HeapBytes() {
+    const auto info = mallinfo2();
+    return info.uordblks + info.hblkhd;
+}
+
 // Heap bytes an item above its text of 21 bytes, with and without the index that a window needs.
 double BytesAnItem(bool bIndexed) {
-    const size_t nBefore = mallinfo2().uordblks + mallinfo2().hblkhd;
+    const size_t nBefore = HeapBytes();
     TestTree tree;
     if (bIndexed) {
         Fill(tree, kMillion);
@@ -98,8 +104,7 @@ double BytesAnItem(bool bIndexed) {
             tree.InsertItem(kText, 0, 0, nullptr, TVI_LAST);
         }
     }
-    const size_t nAfter = mallinfo2().uordblks + mallinfo2().hblkhd;
-    return static_cast<double>(nAfter - nBefore) / kMillion - sizeof(kText);
+    return static_cast<double>(HeapBytes() - nBefore) / kMillion - sizeof(kText);
 }
 
 void MeasureRows() {
@@ -148,6 +153,49 @@ void MeasureRows() {
         });
     });
     bench::Figure("tree/core-delete-each-100k", nDelete * 1e3, "ms");
+}
+
+constexpr int kGridRows = 100000;
+constexpr int kGridColumns = 5;
+
+// Five fields a row, all different.
+std::vector<std::string> GridRows() {
+    std::vector<std::string> rows;
+    for (int nRow = 0; nRow < kGridRows; ++nRow) {
+        std::string strRow;
+        for (int nCol = 0; nCol < kGridColumns; ++nCol) {
+            strRow.append(nCol > 0 ? "\t" : "").append("row ").append(std::to_string(nRow));
+            strRow.append(" column ").append(std::to_string(nCol));
+        }
+        rows.push_back(strRow);
+    }
+    return rows;
+}
+
+void FillGrid(qv::GridModel& model, const std::vector<std::string>& rows) {
+    for (int nCol = 0; nCol < kGridColumns; ++nCol) {
+        model.AddColumn(gctEdit, 80);
+    }
+    for (const std::string& strRow : rows) {
+        model.AddRow(strRow, 0);
+    }
+}
+
+double FillGrid(const std::vector<std::string>& rows) {
+    qv::GridModel model;
+    return bench::Time([&] { FillGrid(model, rows); });
+}
+
+// Heap bytes a row above its texts and their terminators: one for each TAB and the row's own.
+double BytesAGridRow(const std::vector<std::string>& rows) {
+    size_t nText = 0;
+    for (const std::string& strRow : rows) {
+        nText += strRow.size() + 1;
+    }
+    const size_t nBefore = HeapBytes();
+    qv::GridModel model;
+    FillGrid(model, rows);
+    return static_cast<double>(HeapBytes() - nBefore - nText) / kGridRows;
 }
 
 double Paginate() {
@@ -212,6 +260,8 @@ int main(int argc, char** argv) {
     bench::Figure("tree/core-append-run-1k", bench::MedianOf([] { return Append(1000); }) * 1e6,
                   "ns");
     const std::vector<std::string> texts = RandomTexts(100000);
+    const std::vector<std::string> rows = GridRows();
+    bench::Figure("grid/core-bytes-a-row", BytesAGridRow(rows), "bytes");
 #ifdef QV_PEERS
     qt_peer::Start(argc, argv);
     const auto append = bench::MedianPair([] { return Append(kMillion); },
@@ -220,12 +270,15 @@ int main(int argc, char** argv) {
         bench::MedianPair(ExpandAll, [] { return qt_peer::ExpandAll(kRoots, kMiddle, kLeaves); });
     const auto sort =
         bench::MedianPair([&] { return Sort(texts); }, [&] { return qt_peer::Sort(texts); });
+    const auto grid = bench::MedianPair([&] { return FillGrid(rows); },
+                                        [&] { return qt_peer::FillTable(rows, kGridColumns); });
 #else
     static_cast<void>(argc);
     static_cast<void>(argv);
     const bench::Pair append{bench::MedianOf([] { return Append(kMillion); }), 0};
     const bench::Pair expand{bench::MedianOf(ExpandAll), 0};
     const bench::Pair sort{bench::MedianOf([&] { return Sort(texts); }), 0};
+    const bench::Pair grid{bench::MedianOf([&] { return FillGrid(rows); }), 0};
 #endif
     struct Line {
         const char* pszName;
@@ -235,7 +288,8 @@ int main(int argc, char** argv) {
     };
     for (const Line& line : {Line{"tree/core-append-1m", append, 1e3, "ns"},
                              Line{"tree/core-expand-all-110k", expand, 1e3, "ms"},
-                             Line{"tree/core-sort-100k", sort, 1e3, "ms"}}) {
+                             Line{"tree/core-sort-100k", sort, 1e3, "ms"},
+                             Line{"grid/core-fill-100k-x5", grid, 1e3, "ms"}}) {
         bench::Figure(line.pszName, line.pair.ours * line.factor, line.pszUnit);
         if (line.pair.theirs > 0) {
             const std::string strTheirs = std::string("qt-") + line.pszName;

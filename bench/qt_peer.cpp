@@ -1,6 +1,7 @@
 #include "qt_peer.h"
 
 #include <QApplication>
+#include <QTableWidget>
 #include <QTreeWidget>
 
 #include "bench.h"
@@ -59,6 +60,24 @@ double Sort(const std::vector<std::string>& texts) {
     }
     pParent->addChildren(items);
     return bench::Time([&] { pParent->sortChildren(0, Qt::AscendingOrder); });
+}
+
+double FillTable(const std::vector<std::string>& rows, int nColumns) {
+    QList<QStringList> texts;
+    for (const std::string& strRow : rows) {
+        texts.append(QString::fromStdString(strRow).split('\t'));
+    }
+    QTableWidget table;
+    table.setUpdatesEnabled(false);
+    return bench::Time([&] {
+        table.setColumnCount(nColumns);
+        table.setRowCount(static_cast<int>(texts.size()));
+        for (int nRow = 0; nRow < texts.size(); ++nRow) {
+            for (int nCol = 0; nCol < nColumns; ++nCol) {
+                table.setItem(nRow, nCol, new QTableWidgetItem(texts.at(nRow).at(nCol)));
+            }
+        }
+    });
 }
 
 }  // namespace qt_peer

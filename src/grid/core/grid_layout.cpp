@@ -116,7 +116,7 @@ GridCell KeyTarget(unsigned nKey, GridCell current, const GridModel& model, int 
 
 int TopAfterScrollDown(int nTop, int nRows, int nCount, int nPage) {
     const int nMaxTop = nCount - nPage;
-    return nTop < nMaxTop ? std::min(nTop + std::max(nRows, 0), nMaxTop) : nTop;
+    return nTop < nMaxTop ? nTop + std::clamp(nRows, 0, nMaxTop - nTop) : nTop;
 }
 
 int TopAfterScrollUp(int nTop, int nRows) {

@@ -1,7 +1,6 @@
 #include "grid/core/grid_model.h"
 
 #include <algorithm>
-#include <cstring>
 #include <new>
 #include <utility>
 
@@ -111,7 +110,7 @@ void GridModel::SetText(int nRow, int nCol, std::string_view text) {
     if (pszNew == nullptr) {
         throw std::bad_alloc();
     }
-    std::memcpy(pszNew, text.data(), text.size());
+    text.copy(pszNew, text.size());
     pszNew[text.size()] = '\0';
     if (pCell->nString != 0) {
         // Behind the copy: the new text may be a part of the old one.

@@ -1,0 +1,252 @@
+#include "grid/core/grid_model.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <new>
+#include <string>
+#include <string_view>
+
+#include "support/failing_new.h"
+
+namespace qv {
+
+namespace {
+
+void AddColumns(GridModel& model, int nColumns) {
+    for (int i = 0; i < nColumns; ++i) {
+        model.AddColumn(gctStatic, 50);
+    }
+}
+
+// The cells of a row, with "-" for one without text and a bar behind each.
+std::string Row(const GridModel& model, int nRow) {
+    std::string strRow;
+    for (int nCol = 0; nCol < model.NumColumns(); ++nCol) {
+        const char* psz = model.Text(nRow, nCol);
+        strRow.append(psz != nullptr ? psz : "-") += '|';
+    }
+    return strRow;
+}
+
+std::string Added(GridModel& model, std::string_view row) {
+    return Row(model, model.AddRow(row, 0));
+}
+
+// Whether the action ended for want of memory, with the first nSucceeding allocations granted.
+template <class Action>
+bool RunsOut(int nSucceeding, Action action) {
+    const FailingNew failing(nSucceeding);
+    try {
+        action();
+    } catch (const std::bad_alloc&) {
+        return true;
+    }
+    return false;
+}
+
+}  // namespace
+
+TEST(GridModel, TheKindOfAColumnSaysWhetherItHasButtonAndEdit) {
+    GridModel model;
+    for (const GridColType nType : {gctStatic, gctButton, gctEdit, gctEditButton, gctDropList}) {
+        EXPECT_EQ(model.AddColumn(nType, 40 + nType), nType);
+        EXPECT_EQ(model.Type(nType), nType);
+        EXPECT_EQ(model.Column(nType)->nWidth, 40 + nType);
+        EXPECT_EQ(model.UsesButton(nType), nType == 1 || nType >= 3);
+        EXPECT_EQ(model.UsesEdit(nType), nType == 2 || nType == 3);
+    }
+    for (const int nCol : {-1, 5}) {
+        EXPECT_EQ(model.Column(nCol), nullptr);
+        EXPECT_EQ(model.Type(nCol), gctStatic);
+        EXPECT_FALSE(model.UsesButton(nCol) || model.UsesEdit(nCol));
+    }
+}
+
+TEST(GridModel, ARowStringFillsColumnsAsFarAsEitherGoes) {
+    GridModel model;
+    EXPECT_EQ(Added(model, "nowhere"), "");
+    AddColumns(model, 2);
+    EXPECT_EQ(Added(model, "a\tb\tc"), "a|b|");
+    EXPECT_EQ(model.CountStrings(), 3u);
+    EXPECT_EQ(Added(model, "a"), "a|-|");
+    EXPECT_EQ(Added(model, "\tb"), "-|b|");
+    EXPECT_EQ(model.CountStrings(), 5u);
+    AddColumns(model, 1);
+    EXPECT_EQ(Added(model, "a\t\tc"), "a|-|c|");
+    EXPECT_EQ(Added(model, "a\tb\t"), "a|b|-|");
+    EXPECT_EQ(Added(model,
+                    "\x1B"
+                    "A\t "),
+              "\x1B"
+              "A| |-|");
+    EXPECT_EQ(Added(model, ""), "-|-|-|");
+    EXPECT_EQ(model.RowAt(model.AddRow("", GRS_CURRENT)).dwState, GRS_CURRENT);
+    EXPECT_TRUE(model.CheckInvariants());
+}
+
+TEST(GridModel, AColumnAddedLaterKeepsEarlierCells) {
+    GridModel model;
+    model.AddRow("lost", 0);
+    AddColumns(model, 2);
+    model.AddRow("a\tb", 0);
+    model.Cell(1, 1)->dwData = 7;
+    model.ModifyStyle(1, 1, GCS_READONLY, 0);
+    AddColumns(model, 1);
+    EXPECT_EQ(Row(model, 0), "-|-|-|");
+    EXPECT_EQ(Row(model, 1), "a|b|-|");
+    EXPECT_EQ(model.Cell(1, 1)->dwData, 7u);
+    EXPECT_EQ(model.Cell(1, 1)->dwStyle, GCS_READONLY);
+    EXPECT_EQ(model.Cell(1, 2)->dwData, 0u);
+    EXPECT_EQ(model.Cell(1, 2)->dwStyle, 0u);
+    model.SetText(0, 2, "late");
+    EXPECT_EQ(Row(model, 0), "-|-|late|");
+    EXPECT_TRUE(model.CheckInvariants());
+}
+
+TEST(GridModel, ATextTakesOnePlaceForGoodAndEmptyIsNotNone) {
+    GridModel model;
+    AddColumns(model, 1);
+    model.AddRow("", 0);
+    model.SetText(0, 0, "");
+    EXPECT_EQ(model.Text(0, 0), nullptr);
+    EXPECT_EQ(model.CountStrings(), 1u);
+    const std::string strLong(300, 'x');
+    for (const std::string_view text : {std::string_view("short"), std::string_view(strLong),
+                                        std::string_view(""), std::string_view()}) {
+        model.SetText(0, 0, text);
+        ASSERT_NE(model.Text(0, 0), nullptr);
+        EXPECT_EQ(model.Text(0, 0), text);
+        EXPECT_EQ(model.CountStrings(), 2u);
+    }
+    model.SetText(0, 0, "part of itself");
+    model.SetText(0, 0, model.Text(0, 0) + 8);
+    EXPECT_STREQ(model.Text(0, 0), "itself");
+    EXPECT_TRUE(model.CheckInvariants());
+}
+
+TEST(GridModel, ARefilledGridKeepsThePlacesOfAllItEverHeld) {
+    GridModel model;
+    AddColumns(model, 2);
+    for (size_t nFill = 1; nFill <= 3; ++nFill) {
+        model.AddRow("a\tb", 0);
+        EXPECT_EQ(Added(model, "c"), "c|-|");
+        EXPECT_EQ(model.CountBlocks(), 2 * nFill);
+        EXPECT_EQ(model.CountStrings(), 1 + 3 * nFill);
+        EXPECT_TRUE(model.CheckInvariants());
+        model.DeleteAllRows();
+        EXPECT_EQ(model.NumRows(), 0);
+        EXPECT_EQ(model.Text(0, 0), nullptr);
+        EXPECT_TRUE(model.CheckInvariants());
+    }
+    EXPECT_EQ(model.CountStrings(), 10u);
+    AddColumns(model, 1);
+    EXPECT_EQ(Added(model, "\t\td"), "-|-|d|");
+    EXPECT_TRUE(model.CheckInvariants());
+}
+
+TEST(GridModel, AStyleTellsWhetherItChanged) {
+    GridModel model;
+    AddColumns(model, 1);
+    model.AddRow("a", 0);
+    EXPECT_TRUE(model.ModifyStyle(0, 0, GCS_DISABLED | GCS_READONLY, 0));
+    EXPECT_FALSE(model.ModifyStyle(0, 0, GCS_DISABLED, 0));
+    EXPECT_FALSE(model.ModifyStyle(0, 0, GCS_DISABLED, GCS_DISABLED));
+    EXPECT_TRUE(model.ModifyStyle(0, 0, 0, GCS_DISABLED));
+    EXPECT_EQ(model.Cell(0, 0)->dwStyle, GCS_READONLY);
+}
+
+TEST(GridModel, CellsOutOfRangeReadAsNothingAndTakeNothing) {
+    GridModel model;
+    AddColumns(model, 2);
+    model.AddRow("a\tb", 0);
+    constexpr int kNone[][2] = {{-1, 0}, {1, 0}, {0, -1}, {0, 2}};
+    for (const auto& [nRow, nCol] : kNone) {
+        EXPECT_EQ(model.Cell(nRow, nCol), nullptr);
+        EXPECT_EQ(model.Text(nRow, nCol), nullptr);
+        EXPECT_FALSE(model.ModifyStyle(nRow, nCol, GCS_DISABLED, 0));
+        model.SetText(nRow, nCol, "x");
+    }
+    EXPECT_EQ(Row(model, 0), "a|b|");
+    EXPECT_EQ(model.CountStrings(), 3u);
+}
+
+TEST(GridModel, ARowAddedWithoutMemoryReadsAsEmptyFromThereOn) {
+    const std::string strRow = "a\tb\t" + std::string(300, 'x');
+    std::string strWhole = strRow + '|';
+    std::replace(strWhole.begin(), strWhole.end(), '\t', '|');
+    int nSucceeding = 0;
+    for (std::string strFilled; strFilled != strWhole; ++nSucceeding) {
+        ASSERT_LT(nSucceeding, 20);
+        GridModel model;
+        AddColumns(model, 3);
+        const bool bThrew = RunsOut(nSucceeding, [&] { model.AddRow(strRow, 0); });
+        EXPECT_TRUE(model.CheckInvariants());
+        EXPECT_EQ(model.NumRows(), nSucceeding == 0 ? 0 : 1);
+        strFilled = Row(model, 0);
+        EXPECT_TRUE(strFilled == strWhole || strFilled == "a|b|-|" || strFilled == "a|-|-|" ||
+                    strFilled == "-|-|-|");
+        // A block that found no memory is not reported, and takes no text later.
+        EXPECT_EQ(bThrew || model.Cell(0, 0) == nullptr, strFilled != strWhole);
+        const bool bHasBlock = model.Cell(0, 1) != nullptr;
+        model.SetText(0, 1, "again");
+        EXPECT_EQ(model.Text(0, 1) != nullptr, bHasBlock);
+        EXPECT_EQ(Added(model, "c\td\te"), "c|d|e|");
+        EXPECT_TRUE(model.CheckInvariants());
+    }
+    EXPECT_GT(nSucceeding, 5);
+}
+
+TEST(GridModel, AColumnAddedWithoutMemoryCostsWholeRows) {
+    size_t nLostRows = 0;
+    for (int nSucceeding = 0; nSucceeding < 6; ++nSucceeding) {
+        GridModel model;
+        AddColumns(model, 2);
+        for (int i = 0; i < 3; ++i) {
+            model.AddRow("a\tb", 0);
+        }
+        const bool bThrew = RunsOut(nSucceeding, [&] { AddColumns(model, 1); });
+        EXPECT_EQ(model.NumColumns(), bThrew ? 2 : 3);
+        EXPECT_TRUE(model.CheckInvariants());
+        for (int nRow = 0; nRow < 3; ++nRow) {
+            if (model.Cell(nRow, 0) != nullptr) {
+                EXPECT_EQ(Row(model, nRow), bThrew ? "a|b|" : "a|b|-|");
+                continue;
+            }
+            ++nLostRows;
+            model.SetText(nRow, 0, "x");
+            EXPECT_FALSE(model.ModifyStyle(nRow, 0, GCS_DISABLED, 0));
+            EXPECT_EQ(Row(model, nRow), "-|-|-|");
+        }
+        AddColumns(model, 1);
+        EXPECT_EQ(Added(model, "c\td"), bThrew ? "c|d|-|" : "c|d|-|-|");
+        model.DeleteAllRows();
+        EXPECT_TRUE(model.CheckInvariants());
+    }
+    EXPECT_EQ(nLostRows, 3u + 2u + 1u);
+}
+
+TEST(GridModel, ATextSetWithoutMemoryLeavesTheOldOne) {
+    GridModel model;
+    AddColumns(model, 2);
+    model.AddRow("old", 0);
+    const std::string strLong(300, 'x');
+    for (const int nCol : {0, 1}) {
+        EXPECT_TRUE(RunsOut(0, [&] { model.SetText(0, nCol, strLong); }));
+        EXPECT_EQ(Row(model, 0), "old|-|");
+        EXPECT_TRUE(model.CheckInvariants());
+    }
+    // The text fits and its place in the table does not, or both do.
+    size_t nFailures = 0;
+    for (int nRow = 1; nRow < 40; ++nRow) {
+        model.AddRow("", 0);
+        const bool bThrew = RunsOut(1, [&] { model.SetText(nRow, 0, strLong); });
+        EXPECT_EQ(Row(model, nRow), bThrew ? "-|-|" : strLong + "|-|");
+        nFailures += bThrew ? 1 : 0;
+        model.SetText(nRow, 0, strLong);
+        EXPECT_TRUE(model.CheckInvariants());
+    }
+    EXPECT_GT(nFailures, 0u);
+}
+
+}  // namespace qv
