@@ -172,7 +172,11 @@ bool QVTextWnd::ReadLines(CStdioFile& file, int nStyle) {
         ClearTextData();
         file.SeekToBegin();
         for (CString strLine; file.ReadString(strLine);) {
-            strLine.Replace('\0', ' ');  // a line ends at its end, not at a zero
+            // A line ends at its end, not at a zero; CString itself does not find zeros.
+            const int nLength = strLine.GetLength();
+            char* pText = strLine.GetBuffer();
+            std::replace(pText, pText + nLength, '\0', ' ');
+            strLine.ReleaseBuffer(nLength);
             if (AddText(strLine, nStyle) == -1) {
                 return false;
             }
