@@ -1,0 +1,365 @@
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <random>
+
+#include "support/pump.h"
+#include "support/real_input.h"
+#include "support/text_window.h"
+
+namespace {
+
+constexpr COLORREF kRed = RGB(255, 0, 0);
+constexpr COLORREF kGreen = RGB(0, 255, 0);
+
+// What scrolling left on the screen is what a fresh paint gives.
+template <class Window>
+bool ShowsWhatItShould(Window& wnd) {
+    const Picture scrolled = Picture::OfClient(wnd.m_hWnd);
+    return scrolled == wnd.Fresh();
+}
+
+// 50 rows of which 10 show.
+class TextScroll : public testing::Test {
+protected:
+    TextScroll() {
+        w.Resize(200, 10);
+        w.Fill(50);
+    }
+    int V(UINT nCode) { return w.text.Scroll(WM_VSCROLL, nCode); }
+
+    TextWindow<> w;
+};
+
+TEST_F(TextScroll, EachCodeMovesAsFarAsItMay) {
+    const struct {
+        UINT nCode;
+        int nPos;
+    } kSteps[] = {
+        {SB_LINEUP, 0},     {SB_LINEDOWN, 1},  {SB_PAGEDOWN, 11}, {SB_PAGEDOWN, 21},
+        {SB_PAGEDOWN, 31},  {SB_PAGEDOWN, 40}, {SB_PAGEDOWN, 40}, {SB_LINEDOWN, 40},
+        {SB_BOTTOM, 40},    {SB_LINEUP, 39},   {SB_BOTTOM, 40},   {SB_PAGEUP, 30},
+        {SB_ENDSCROLL, 30}, {SB_TOP, 0},       {SB_TOP, 0},       {SB_LINEDOWN, 1},
+        {SB_PAGEUP, 0},     {SB_PAGEUP, 0},
+    };
+    for (const auto& step : kSteps) {
+        EXPECT_EQ(V(step.nCode), step.nPos) << "code " << step.nCode;
+        EXPECT_EQ(w.text.GetScrollPos(SB_VERT), step.nPos);
+        EXPECT_TRUE(ShowsWhatItShould(w.text)) << "code " << step.nCode;
+    }
+}
+
+TEST_F(TextScroll, TheThumbIsRefusedBehindTheEnd) {
+    EXPECT_EQ(w.text.DoVScroll(SB_THUMBTRACK, 41), 0);
+    EXPECT_EQ(w.text.VScrollPos(), 0);
+    EXPECT_EQ(w.text.DoVScroll(SB_THUMBTRACK, 40), 1);
+    EXPECT_EQ(w.text.DoVScroll(SB_THUMBPOSITION, 40), 0) << "it is there";
+    EXPECT_EQ(w.text.DoVScroll(SB_THUMBPOSITION, static_cast<UINT>(-1)), 0);
+    EXPECT_EQ(w.text.VScrollPos(), 40);
+    EXPECT_TRUE(ShowsWhatItShould(w.text));
+}
+
+TEST_F(TextScroll, ScrollToKeepsAMargin) {
+    EXPECT_EQ(w.text.ScrollTo(100, 3), 1);
+    EXPECT_EQ(w.text.VScrollPos(), 40);
+    EXPECT_EQ(w.text.ScrollTo(20, 3), 1);
+    EXPECT_EQ(w.text.VScrollPos(), 17);
+    EXPECT_EQ(w.text.ScrollTo(2, 3), 1);
+    EXPECT_EQ(w.text.VScrollPos(), 0);
+    w.Fill(3);
+    EXPECT_EQ(w.text.ScrollTo(2, 0), 1);
+    EXPECT_EQ(w.text.VScrollPos(), 0);
+    EXPECT_EQ(V(SB_LINEDOWN), 0);
+    EXPECT_FALSE(w.text.HasBar(SB_VERT));
+}
+
+TEST_F(TextScroll, KeysScroll) {
+    ASSERT_TRUE(ClickAt(w.text.m_hWnd, CPoint(20, 20)));
+    EXPECT_EQ(::GetFocus(), w.text.m_hWnd);
+    const struct {
+        WORD nKey;
+        int nPos;
+    } kKeys[] = {{VK_DOWN, 1}, {VK_NEXT, 11},  {VK_LEFT, 11},  {VK_RIGHT, 11}, {VK_UP, 10},
+                 {VK_END, 40}, {VK_PRIOR, 30}, {VK_SPACE, 30}, {VK_HOME, 0}};
+    for (const auto& key : kKeys) {
+        TypeKey(key.nKey);
+        EXPECT_EQ(w.text.VScrollPos(), key.nPos) << "key " << key.nKey;
+    }
+    EXPECT_TRUE(ShowsWhatItShould(w.text));
+}
+
+TEST_F(TextScroll, ABarShowsWhereRowsDoNotFit) {
+    for (const int nLines : {9, 10, 11, 12, 13, 11, 10, 40, 10}) {
+        w.Fill(nLines);
+        for (int i = 0; i < 2; ++i) {
+            w.text.CalcLayout();
+            EXPECT_EQ(w.text.HasBar(SB_VERT), nLines > 10) << nLines;
+            EXPECT_FALSE(w.text.HasBar(SB_HORZ));
+        }
+    }
+    w.Fill(12);
+    for (int nPixels = -40; nPixels <= 60; ++nPixels) {
+        w.Resize(200, 10, nPixels);
+        EXPECT_EQ(w.text.HasBar(SB_VERT), nPixels < 2 * w.text.m_nCharHeight) << nPixels;
+        if (w.text.HasBar(SB_VERT)) {
+            EXPECT_EQ(w.text.BarMost(SB_VERT), 11);
+        }
+    }
+    for (int nPixels = 60; nPixels >= -40; --nPixels) {
+        w.Resize(200, 10, nPixels);
+        EXPECT_EQ(w.text.HasBar(SB_VERT), nPixels < 2 * w.text.m_nCharHeight) << nPixels;
+    }
+}
+
+TEST_F(TextScroll, ALargerWindowShowsTheEnd) {
+    V(SB_BOTTOM);
+    w.Resize(200, 13);
+    EXPECT_EQ(w.text.VScrollPos(), 37);
+    EXPECT_TRUE(ShowsWhatItShould(w.text));
+    w.Resize(0, 0);
+    EXPECT_FALSE(w.text.HasBar(SB_VERT));
+    EXPECT_FALSE(w.text.HasBar(SB_HORZ));
+    w.Resize(200, 10);
+    EXPECT_TRUE(w.text.HasBar(SB_VERT));
+    EXPECT_EQ(w.text.NumRows(), 50);
+    w.Resize(200, 60);
+    EXPECT_EQ(w.text.VScrollPos(), 0);
+    EXPECT_FALSE(w.text.HasBar(SB_VERT));
+}
+
+TEST_F(TextScroll, AMaximisedWindowKeepsItsPosition) {
+    V(SB_BOTTOM);
+    w.text.ShowWindow(SW_SHOWMAXIMIZED);
+    ASSERT_TRUE(w.text.IsZoomed());
+    CRect rc;
+    w.text.GetClientRect(&rc);
+    ASSERT_GT(rc.Height(), 12 * w.text.m_nCharHeight);
+    EXPECT_EQ(w.text.VScrollPos(), 40);
+    w.text.ShowWindow(SW_RESTORE);
+    EXPECT_EQ(w.text.VScrollPos(), 40);
+    EXPECT_TRUE(ShowsWhatItShould(w.text));
+}
+
+TEST_F(TextScroll, PositionsMayHaveMoreThan16Bits) {
+    w.Fill(200000);
+    EXPECT_EQ(w.text.BarMost(SB_VERT), 199999);
+    w.text.SetScrollPos(SB_VERT, 150000);
+    EXPECT_EQ(w.text.Scroll(WM_VSCROLL, SB_THUMBPOSITION, 150000 & 0xFFFF), 150000);
+    EXPECT_TRUE(ShowsWhatItShould(w.text));
+    w.text.ScrollTo(0, 0);
+    // The thumb dragged to the middle by the mouse.
+    ASSERT_TRUE(BringToFront(w.text.m_hWnd));
+    CRect rc;
+    w.text.GetWindowRect(&rc);
+    const int xBar = rc.right - ::GetSystemMetrics(SM_CXVSCROLL) / 2;
+    ::SetCursorPos(xBar, rc.top + ::GetSystemMetrics(SM_CYVSCROLL) + 3);
+    PumpPending();
+    INPUT inputs[3] = {};
+    for (INPUT& input : inputs) {
+        input.type = INPUT_MOUSE;
+    }
+    inputs[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
+    inputs[1].mi.dwFlags = MOUSEEVENTF_MOVE;
+    inputs[1].mi.dy = rc.Height() / 2;
+    inputs[2].mi.dwFlags = MOUSEEVENTF_LEFTUP;
+    ASSERT_EQ(::SendInput(3, inputs, sizeof(INPUT)), 3u);
+    EXPECT_TRUE(PumpUntil([&] { return w.text.VScrollPos() > 65535; }));
+    EXPECT_TRUE(ShowsWhatItShould(w.text));
+}
+
+// --- Partners
+
+template <class Text>
+class Pair {
+public:
+    Pair() : a(CSize(200, 130)), b(std::make_unique<TextWindow<Text>>(CSize(200, 130))) {
+        for (TextWindow<Text>* p : {&a, b.get()}) {
+            p->Resize(150, 10);
+            p->Fill(50);
+        }
+        a.text.SyncWith(&b->text, 1);
+        b->text.SyncWith(&a.text, 0);
+        a.text.CalcLayout();
+        b->text.CalcLayout();
+    }
+    bool BothAt(int nPos) {
+        return a.text.VScrollPos() == nPos && b->text.VScrollPos() == nPos &&
+               ShowsWhatItShould(a.text) && ShowsWhatItShould(b->text);
+    }
+    TextWindow<Text> a;
+    std::unique_ptr<TextWindow<Text>> b;
+};
+
+TEST(TextPartners, ScrollTogether) {
+    Pair<OpenText> pair;
+    EXPECT_FALSE(pair.b->text.HasBar(SB_VERT)) << "one bar for both";
+    pair.a.text.Scroll(WM_VSCROLL, SB_PAGEDOWN);
+    EXPECT_TRUE(pair.BothAt(10));
+    pair.b->text.SendMessage(WM_KEYDOWN, VK_DOWN);
+    EXPECT_TRUE(pair.BothAt(11)) << "by the keys of the one without a bar";
+    pair.b->text.ScrollTo(30, 5);
+    EXPECT_TRUE(pair.BothAt(25));
+    pair.a.text.ScrollTo(100, 0);
+    EXPECT_TRUE(pair.BothAt(40));
+    pair.a.text.SendMessage(WM_KEYDOWN, VK_HOME);
+    EXPECT_TRUE(pair.BothAt(0));
+    pair.b->text.SyncWith(nullptr, 1);
+    pair.b->text.ScrollTo(7, 0);
+    EXPECT_EQ(pair.a.text.VScrollPos(), 0);
+}
+
+TEST(TextPartners, OneMayGoFirst) {
+    Pair<OpenText> pair;
+    pair.b.reset();
+    EXPECT_EQ(pair.a.text.Scroll(WM_VSCROLL, SB_PAGEDOWN), 10);
+    pair.a.text.ScrollTo(20, 0);
+    pair.a.text.ClearTextData();
+    EXPECT_EQ(pair.a.text.VScrollPos(), 0);
+    Pair<OpenText> other;
+    other.b->text.DestroyWindow();
+    EXPECT_EQ(other.a.text.Scroll(WM_VSCROLL, SB_PAGEDOWN), 10) << "a partner without a window";
+}
+
+TEST(TextPartners, InTheGridBothHaveAHorizontalBarAndScrollAcrossAlone) {
+    Pair<GridText> pair;
+    EXPECT_TRUE(pair.a.text.HasBar(SB_HORZ));
+    EXPECT_TRUE(pair.b->text.HasBar(SB_HORZ)) << "equal heights, though all fits";
+    for (TextWindow<GridText>* p : {&pair.a, pair.b.get()}) {
+        p->text.AddText(std::string(100, 'x').c_str(), 0);
+        p->text.CalcLayout();
+    }
+    EXPECT_EQ(pair.a.text.Scroll(WM_HSCROLL, SB_LINERIGHT), 1);
+    EXPECT_EQ(pair.b->text.m_nHScrollPos, 0);
+}
+
+// --- The fixed grid
+
+TEST(TextGrid, ScrollsAcrossByColumns) {
+    TextWindow<GridText> w;
+    w.text.AddStyle(kRed, kGreen);
+    w.Resize(20 * w.text.m_nCharWidth, 12);
+    std::string strLong;
+    for (int i = 0; i < 100; ++i) {
+        strLong += static_cast<char>('!' + i % 90);
+    }
+    w.text.AddText(strLong.c_str(), 1);
+    w.text.AddText("short", 1);
+    w.text.CalcLayout();
+    EXPECT_EQ(w.text.NumRows(), 2) << "a line is a row";
+    EXPECT_TRUE(w.text.HasBar(SB_HORZ));
+    EXPECT_FALSE(w.text.HasBar(SB_VERT));
+    EXPECT_EQ(w.text.BarMost(SB_HORZ), 99);
+    const struct {
+        UINT nCode;
+        UINT nThumb;
+        int nPos;
+    } kSteps[] = {
+        {SB_LINELEFT, 0, 0},     {SB_LINERIGHT, 0, 1},  {SB_PAGERIGHT, 0, 21},
+        {SB_THUMBTRACK, 70, 70}, {SB_PAGERIGHT, 0, 80}, {SB_LINERIGHT, 0, 80},
+        {SB_THUMBTRACK, 81, 80}, {SB_PAGELEFT, 0, 60},  {SB_LEFT, 0, 0},
+        {SB_RIGHT, 0, 80},       {SB_ENDSCROLL, 0, 80}, {SB_THUMBPOSITION, 10, 10},
+    };
+    for (const auto& step : kSteps) {
+        EXPECT_EQ(w.text.Scroll(WM_HSCROLL, step.nCode, step.nThumb), step.nPos)
+            << "code " << step.nCode;
+        EXPECT_EQ(w.text.GetScrollPos(SB_HORZ), step.nPos);
+    }
+    const Picture scrolled = w.text.Fresh();
+    const CRect rcShort = w.text.RowRect(1);
+    EXPECT_EQ(scrolled.Count(kGreen, rcShort), rcShort.Width() * rcShort.Height())
+        << "all of it lies left of the view";
+    TextWindow<GridText> tail;
+    tail.text.AddStyle(kRed, kGreen);
+    tail.Resize(20 * w.text.m_nCharWidth, 12);
+    tail.text.AddText(strLong.substr(10).c_str(), 1);
+    tail.text.AddText("", 1);
+    tail.text.CalcLayout();
+    EXPECT_TRUE(scrolled == tail.text.Fresh());
+    w.text.SendMessage(WM_KEYDOWN, VK_RIGHT);
+    EXPECT_EQ(w.text.m_nHScrollPos, 11);
+    w.Resize(95 * w.text.m_nCharWidth, 12);
+    EXPECT_EQ(w.text.m_nHScrollPos, 5);
+}
+
+TEST(TextGrid, ScrollsDownWithTheSamePicture) {
+    TextWindow<GridText> w;
+    w.Resize(150, 10);
+    w.Fill(50);
+    for (const UINT nCode : {SB_LINEDOWN, SB_PAGEDOWN, SB_BOTTOM, SB_PAGEUP, SB_LINEUP, SB_TOP}) {
+        w.text.Scroll(WM_VSCROLL, nCode);
+        EXPECT_TRUE(ShowsWhatItShould(w.text)) << "code " << nCode;
+    }
+    EXPECT_EQ(w.text.VScrollPos(), 0);
+}
+
+// --- Anything may come in any order; nothing may break
+
+template <class Text>
+class TextMonkey : public testing::Test {};
+using Kinds = testing::Types<OpenText, GridText>;
+TYPED_TEST_SUITE(TextMonkey, Kinds);
+
+TYPED_TEST(TextMonkey, SurvivesAnyOrderOfOperations) {
+    Pair<TypeParam> pair;
+    std::mt19937 random(7);
+    for (int i = 0; i < 3000; ++i) {
+        const bool bFirst = random() % 2 != 0;
+        TextWindow<TypeParam>& w = bFirst ? pair.a : *pair.b;
+        TypeParam& text = w.text;
+        const int n = static_cast<int>(random() % 60) - 5;
+        switch (random() % 14) {
+            case 0:
+            case 1:
+                text.AddText(std::string(random() % 200, n % 3 != 0 ? 'x' : ' ').c_str(), n);
+                break;
+            case 2:
+                text.CalcLayout();
+                break;
+            case 3:
+                if (random() % 15 == 0) {
+                    text.ClearTextData();
+                }
+                break;
+            case 4:
+                w.Resize(n * 4, n / 3, n);
+                break;
+            case 5:
+            case 6:
+                text.Scroll(random() % 2 != 0 ? WM_VSCROLL : WM_HSCROLL, random() % 10,
+                            static_cast<UINT>(n));
+                break;
+            case 7:
+                text.SendMessage(WM_KEYDOWN, VK_PRIOR + random() % 8);
+                break;
+            case 8:
+                text.ScrollTo(n, n % 7);
+                break;
+            case 9:
+                text.SyncWith(n % 3 == 0 ? nullptr : bFirst ? &pair.b->text : &pair.a.text, n % 2);
+                break;
+            case 10:
+                text.AddStyle(kRed, kGreen);
+                break;
+            case 11:
+                text.ShowWindow(n % 4 == 0 ? SW_SHOWMAXIMIZED : SW_RESTORE);
+                break;
+            default:
+                text.Invalidate(TRUE);
+                text.UpdateWindow();
+                break;
+        }
+        ASSERT_GE(text.VScrollPos(), 0);
+        ASSERT_GE(text.m_nHScrollPos, 0);
+    }
+    for (TextWindow<TypeParam>* p : {&pair.a, pair.b.get()}) {
+        p->text.ShowWindow(SW_RESTORE);
+        p->text.SyncWith(nullptr, 1);
+        p->Resize(150, 10);
+        p->Fill(50);
+        EXPECT_EQ(p->text.BarMost(SB_VERT), 49);
+        EXPECT_EQ(p->text.Scroll(WM_VSCROLL, SB_PAGEDOWN), 10);
+        EXPECT_TRUE(ShowsWhatItShould(p->text));
+    }
+}
+
+}  // namespace

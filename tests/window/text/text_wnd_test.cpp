@@ -1,0 +1,405 @@
+#include <gtest/gtest.h>
+
+#include <afxext.h>
+
+#include <cstdio>
+#include <fstream>
+#include <sstream>
+
+#include "afx_gdi.h"
+#include "support/list_window.h"
+#include "support/text_window.h"
+
+namespace {
+
+constexpr COLORREF kRed = RGB(255, 0, 0);
+constexpr COLORREF kGreen = RGB(0, 255, 0);
+constexpr COLORREF kBlue = RGB(0, 0, 255);
+constexpr COLORREF kYellow = RGB(255, 255, 0);
+constexpr COLORREF kGrey = RGB(200, 200, 200);
+
+// --- Life
+
+TEST(TextLife, TakesThePlaceOfAControl) {
+    FontParent parent(CSize(300, 200));
+    CWnd place;
+    place.CreateEx(0, "STATIC", "", WS_CHILD | WS_VISIBLE, 20, 30, 150, 90, parent.m_hWnd,
+                   reinterpret_cast<HMENU>(UINT_PTR{kTextId}));
+    const HWND hPlace = place.m_hWnd;
+    OpenText text;
+    EXPECT_FALSE(text.Initialize(kTextId + 1, &parent, 1)) << "no such control";
+    EXPECT_EQ(text.m_hWnd, nullptr);
+    ASSERT_TRUE(text.Initialize(kTextId, &parent, 1));
+    EXPECT_FALSE(::IsWindow(hPlace));
+    EXPECT_EQ(::GetDlgItem(parent.m_hWnd, kTextId), text.m_hWnd);
+    CRect rc;
+    text.GetWindowRect(&rc);
+    parent.ScreenToClient(&rc);
+    EXPECT_EQ(rc, CRect(20, 30, 170, 120));
+    EXPECT_TRUE(text.GetExStyle() & WS_EX_CLIENTEDGE);
+    EXPECT_EQ(text.GetStyle() & (WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_BORDER),
+              DWORD{WS_CHILD | WS_VISIBLE | WS_TABSTOP});
+    EXPECT_EQ(text.m_nCharHeight, text.Extent("O").cy);
+    EXPECT_EQ(text.m_nCharWidth, text.Extent("O").cx);
+    EXPECT_EQ(text.AddStyle(kRed, kGreen), 1) << "style 0 is there";
+    EXPECT_TRUE(text.Initialize(kTextId, &parent, 0)) << "each further call adds a style";
+    EXPECT_EQ(text.AddStyle(kRed, kGreen), 3);
+    EXPECT_EQ(text.SendMessage(WM_GETDLGCODE), DLGC_WANTARROWS);
+}
+
+TEST(TextLife, ABorderBecomesASunkenEdge) {
+    TextWindow<> plain;
+    EXPECT_FALSE(plain.text.GetExStyle() & WS_EX_CLIENTEDGE);
+    OpenText text;
+    const CRect rc(0, 0, 50, 50);
+    ASSERT_TRUE(text.CWnd::Create(nullptr, "", WS_CHILD | WS_BORDER, rc, &plain.parent, 5));
+    EXPECT_TRUE(text.GetExStyle() & WS_EX_CLIENTEDGE);
+    EXPECT_FALSE(text.GetStyle() & WS_BORDER);
+}
+
+// --- Painting
+
+TEST(TextPaint, AStyleColoursItsRowToTheEnd) {
+    TextWindow<> w;
+    w.Resize(300, 6);
+    w.text.AddStyle(kRed, kGreen);
+    w.text.AddStyle(kBlue, kYellow);
+    w.text.SetBkColor(kGrey);
+    w.text.AddText("MMM", 1);
+    w.text.AddText("", 2);
+    w.text.AddText("x      ", 1);
+    w.text.AddText("plain", -1);
+    w.text.CalcLayout();
+    const Picture picture = w.text.Fresh();
+    const auto all = [](const CRect& rc) { return rc.Width() * rc.Height(); };
+    const auto behind = [&](int nRow, const char* pszText) {
+        CRect rc = w.text.RowRect(nRow);
+        rc.left += w.text.Extent(pszText).cx + 2;
+        return rc;
+    };
+    EXPECT_GT(picture.Count(kRed, w.text.RowRect(0)), 3);
+    EXPECT_EQ(picture.Count(kGreen, behind(0, "MMM")), all(behind(0, "MMM")));
+    EXPECT_EQ(picture.Count(kYellow, w.text.RowRect(1)), all(w.text.RowRect(1))) << "an empty line";
+    EXPECT_EQ(picture.Count(kGreen, behind(2, "x")), all(behind(2, "x")));
+    EXPECT_EQ(picture.Count(kGrey, behind(3, "plain")), all(behind(3, "plain")))
+        << "style 0 follows the window";
+    EXPECT_EQ(
+        picture.Count(kGrey, CRect(0, 4 * w.text.m_nCharHeight, 300, 6 * w.text.m_nCharHeight)),
+        300 * 2 * w.text.m_nCharHeight);
+}
+
+TEST(TextPaint, TheLastRowShowsInPart) {
+    TextWindow<> w;
+    const int h = w.text.m_nCharHeight;
+    w.text.AddStyle(kRed, kGreen);
+    w.Resize(300, 5, h / 2);
+    w.Fill(9, 1);
+    const Picture picture = w.text.Fresh();
+    ASSERT_EQ(picture.Height(), 5 * h + h / 2);
+    const CRect rcPart(150, 5 * h, picture.Width(), picture.Height());
+    EXPECT_EQ(picture.Count(kGreen, rcPart), rcPart.Width() * rcPart.Height());
+    EXPECT_GT(picture.Count(kRed, CRect(0, 5 * h, 100, picture.Height())), 0);
+}
+
+TEST(TextPaint, LongLinesWrapAndTabsStandOnMultiplesOfEight) {
+    TextWindow<> w;
+    w.text.AddStyle(kRed, kGreen);
+    w.Resize(w.text.Extent("MMMM MM").cx, 6);
+    w.text.AddText("MMMM MMMM", 1);
+    w.text.AddText("\tI", 1);
+    w.text.AddText("I", 1);
+    w.text.CalcLayout();
+    EXPECT_EQ(w.text.NumRows(), 4);
+    const Picture picture = w.text.Fresh();
+    const int h = w.text.m_nCharHeight;
+    const auto same = [&](int nRow, int x, int nOtherRow, int xOther) {
+        for (int i = 0; i < 30 * h; ++i) {
+            if (picture.At(x + i % 30, nRow * h + i / 30) !=
+                picture.At(xOther + i % 30, nOtherRow * h + i / 30)) {
+                return false;
+            }
+        }
+        return true;
+    };
+    EXPECT_GT(picture.Count(kRed, w.text.RowRect(0)), 3);
+    EXPECT_TRUE(same(0, 0, 1, 0));
+    EXPECT_FALSE(same(1, 0, 2, 0));
+    EXPECT_TRUE(same(2, 8, 3, 0));
+    EXPECT_EQ(picture.Count(kGreen, CRect(0, 2 * h, 8, 3 * h)), 8 * h);
+}
+
+TEST(TextPaint, AfterAClearNothingThatIsGoneIsRead) {
+    TextWindow<> w;
+    w.text.AddStyle(kRed, kGreen);
+    w.Fill(50, 1);
+    w.text.ScrollTo(30, 0);
+    w.text.ClearTextData();
+    EXPECT_EQ(w.text.NumLines(), 0);
+    EXPECT_EQ(w.text.GetLine(0), nullptr);
+    const auto blank = [&] {
+        const Picture picture = w.text.Fresh();
+        return picture.Count(::GetSysColor(COLOR_WINDOW)) == picture.Width() * picture.Height();
+    };
+    EXPECT_TRUE(blank());
+    w.text.AddText("x", 1);
+    w.text.Fresh();
+    w.text.CalcLayout();
+    EXPECT_FALSE(blank());
+    EXPECT_FALSE(w.text.HasBar(SB_VERT));
+}
+
+// Looks at the screen before each row is drawn.
+class WatchedText : public OpenText {
+public:
+    int nRows = 0;
+    int nErased = 0;
+
+protected:
+    void DrawText(CDC& dc, int nRow, const CString& strText, int nStyle, int nFrom,
+                  int nTo) override {
+        ++nRows;
+        CClientDC dcScreen(this);
+        const CRect rc = RowRect(nRow);
+        nErased += dcScreen.GetPixel(rc.right - 20, rc.top + 1) != kRed ||
+                   dcScreen.GetPixel(1, rc.bottom - 1) != kRed;
+        QVTextWnd::DrawText(dc, nRow, strText, nStyle, nFrom, nTo);
+    }
+};
+
+TEST(TextPaint, NothingIsErasedUnderARow) {
+    TextWindow<WatchedText> w;
+    w.Resize(300, 4);
+    w.Fill(3);
+    w.text.UpdateWindow();
+    {
+        CClientDC dc(&w.text);
+        dc.FillSolidRect(0, 0, 300, 200, kRed);
+    }
+    w.text.nRows = w.text.nErased = 0;
+    w.text.Invalidate(TRUE);
+    const Picture picture = Picture::OfClient(w.text.m_hWnd);
+    EXPECT_EQ(w.text.nRows, 3);
+    EXPECT_EQ(w.text.nErased, 0);
+    EXPECT_EQ(picture.Count(kRed), 0);
+}
+
+TEST(TextPaint, KeepsNoHandles) {
+    TextWindow<> w;
+    w.text.AddStyle(kRed, kGreen);
+    w.Fill(30, 1);
+    w.text.Fresh();
+    const long nHandles = AfxGetOwnedHandleCount();
+    for (int i = 0; i < 2000; ++i) {
+        w.text.Invalidate(FALSE);
+        w.text.UpdateWindow();
+    }
+    EXPECT_EQ(AfxGetOwnedHandleCount(), nHandles);
+}
+
+// --- Files
+
+std::string TempPath(const char* pszName) {
+    char szDir[MAX_PATH];
+    ::GetTempPath(MAX_PATH, szDir);
+    return std::string(szDir) + pszName;
+}
+
+class TextFile : public testing::Test {
+protected:
+    void TearDown() override { std::remove(m_strPath.c_str()); }
+    int Load(const std::string& strBytes, int nStyle = 0) {
+        std::ofstream(m_strPath, std::ios::binary) << strBytes;
+        return w.text.LoadFile(m_strPath.c_str(), nStyle);
+    }
+    // All lines, '|' between.
+    std::string Lines() {
+        std::string str;
+        for (int i = 0; i < w.text.NumLines(); ++i) {
+            str += i > 0 ? "|" : "";
+            str += w.text.Text(i);
+        }
+        return str;
+    }
+    std::string Exported() {
+        EXPECT_EQ(w.text.ExportData(m_strPath.c_str()), 1);
+        std::ifstream file(m_strPath, std::ios::binary);
+        std::stringstream text;
+        text << file.rdbuf();
+        return text.str();
+    }
+
+    const std::string m_strPath = TempPath("qv_text.txt");
+    TextWindow<> w;
+};
+
+TEST_F(TextFile, EveryKindOfLineEndEndsALine) {
+    EXPECT_EQ(Load("a\r\nb\n\nlast"), 1);
+    EXPECT_EQ(Lines(), "a|b||last");
+    EXPECT_EQ(w.text.NumRows(), 4);
+    EXPECT_EQ(Load("one\r\n", 1), 1);
+    EXPECT_EQ(Lines(), "bone") << "no such style yet: its letter shows";
+    w.text.AddStyle(kRed, kGreen);
+    EXPECT_EQ(Lines(), "one");
+    EXPECT_GT(w.text.Fresh().Count(kGreen), 100);
+    EXPECT_EQ(Load(""), 1);
+    EXPECT_EQ(w.text.NumLines(), 0);
+}
+
+TEST_F(TextFile, ALineMayHaveAMegabyte) {
+    std::string strLong;
+    while (strLong.size() < 1024 * 1024) {
+        strLong += "word ";
+    }
+    ASSERT_EQ(Load(std::string("a\n").append(strLong).append("\nb\n")), 1);
+    ASSERT_EQ(w.text.NumLines(), 3);
+    EXPECT_TRUE(w.text.Text(1) == strLong);
+    EXPECT_EQ(w.text.Text(2), "b");
+    EXPECT_GT(w.text.NumRows(), 1000);
+    w.text.ScrollTo(w.text.NumRows(), 0);
+    EXPECT_GT(w.text.Fresh().Count(::GetSysColor(COLOR_WINDOWTEXT)), 50);
+}
+
+TEST_F(TextFile, AZeroShowsAsABlank) {
+    using namespace std::string_literals;
+    ASSERT_EQ(Load("a\0b\0\r\n\0\0\nc"s), 1);
+    EXPECT_EQ(Lines(), "a b |  |c") << "nothing behind it is lost";
+}
+
+TEST_F(TextFile, WhatCannotBeOpenedLeavesTheLines) {
+    Load("a\nb\n");
+    EXPECT_EQ(w.text.LoadFile(TempPath("no such file").c_str(), 0), 0);
+    EXPECT_EQ(w.text.LoadFile(TempPath("").c_str(), 0), 0) << "a directory";
+    EXPECT_EQ(Lines(), "a|b");
+}
+
+TEST_F(TextFile, ExportsLinesAndNotRows) {
+    w.text.AddStyle(kRed, kGreen);
+    w.text.AddText("red", 1);
+    w.text.AddText("", 0);
+    const std::string strLong(500, 'M');
+    w.text.AddText(strLong.c_str(), 0);
+    w.text.CalcLayout();
+    ASSERT_GT(w.text.NumRows(), 3);
+    EXPECT_EQ(Exported(), std::string("red\r\n\r\n").append(strLong).append("\r\n"));
+    w.text.ClearTextData();
+    EXPECT_EQ(Exported(), "");
+    EXPECT_EQ(w.text.ExportData(TempPath("no such folder\\x.txt").c_str()), 0);
+}
+
+TEST_F(TextFile, AFullDiskIsAnException) {
+    w.text.AddText("x", 0);
+    try {
+        if (!w.text.ExportData("Z:\\dev\\full")) {
+            GTEST_SKIP() << "needs a device that is always full";
+        }
+        FAIL() << "nothing was said";
+    } catch (CFileException* pException) {
+        EXPECT_EQ(pException->m_cause, CFileException::diskFull);
+        pException->Delete();
+    }
+}
+
+// --- Clipboard
+
+std::string ClipboardText() {
+    std::string strText;
+    if (::OpenClipboard(nullptr)) {
+        const HANDLE hText = ::GetClipboardData(CF_TEXT);
+        if (const void* p = hText != nullptr ? ::GlobalLock(hText) : nullptr) {
+            strText.append(static_cast<const char*>(p));
+            ::GlobalUnlock(hText);
+        }
+        ::CloseClipboard();
+    }
+    return strText;
+}
+
+TEST(TextClipboard, HoldsAllLinesAndAnEmptyOne) {
+    TextWindow<> w;
+    EXPECT_EQ(w.text.CopyToClipboard(), 1);
+    EXPECT_EQ(ClipboardText(), "\r\n");
+    w.text.AddStyle(kRed, kGreen);
+    w.text.AddText("a", 1);
+    w.text.AddText("", 0);
+    w.text.AddText("b\tc", 0);
+    EXPECT_EQ(w.text.CopyToClipboard(), 1);
+    EXPECT_EQ(ClipboardText(), "a\r\n\r\nb\tc\r\n\r\n");
+    w.text.ClearTextData();
+    ASSERT_TRUE(::OpenClipboard(w.parent.m_hWnd));
+    EXPECT_EQ(w.text.CopyToClipboard(), 0) << "somebody else has it open";
+    ::CloseClipboard();
+    EXPECT_EQ(ClipboardText(), "a\r\n\r\nb\tc\r\n\r\n");
+}
+
+// --- Printing
+
+// The rows of each page as a caller gets them with one variable for the line: '|' between rows.
+std::vector<std::string> PrintedPages(QVTextWnd& text, CDC& dc) {
+    std::vector<std::string> pages;
+    CString strText;
+    int nStyle = -1;
+    int nLine = 0;
+    CPrintInfo info;
+    for (int nPage = 1; nPage <= text.NumPages(); ++nPage) {
+        info.m_nCurPage = static_cast<UINT>(nPage);
+        std::string strPage;
+        int bRow = text.StartPage(&dc, &info, strText, nStyle, nLine);
+        for (; bRow; bRow = text.NextLine(&dc, &info, strText, nStyle, nLine)) {
+            strPage.append(strText).append("/").append(std::to_string(nStyle)).append("|");
+        }
+        pages.push_back(strPage);
+    }
+    return pages;
+}
+
+TEST(TextPrint, RowsComePageByPage) {
+    TextWindow<> w;
+    TextRecorder dc;
+    const int h = dc.GetTextExtent(" ", 1).cy;
+    w.text.AddStyle(kRed, kGreen);
+    for (int i = 0; i < 25; ++i) {
+        w.text.AddText(std::to_string(i).c_str(), i == 24 ? 1 : 0);
+    }
+    w.text.FormatText(&dc, CSize(1000, 10 * h + h / 2));
+    ASSERT_EQ(w.text.NumPages(), 3);
+    const auto pages = PrintedPages(w.text, dc);
+    EXPECT_EQ(pages[0], "0/0|1/0|2/0|3/0|4/0|5/0|6/0|7/0|8/0|9/0|");
+    EXPECT_EQ(pages[2], "20/0|21/0|22/0|23/0|24/1|");
+    CPrintInfo info;
+    CString strText = "old";
+    int nStyle = 7;
+    int nLine = 0;
+    for (const UINT nPage : {0u, 4u}) {
+        info.m_nCurPage = nPage;
+        EXPECT_EQ(w.text.StartPage(&dc, &info, strText, nStyle, nLine), 0);
+        EXPECT_EQ(strText, "");
+    }
+    w.text.FormatText(&dc, CSize(1000, h - 1));
+    EXPECT_EQ(w.text.NumPages(), 0) << "no row fits";
+}
+
+TEST(TextPrint, WrappedPiecesFollowEachOther) {
+    TextWindow<> w;
+    TextRecorder dc;
+    w.text.AddText("MMMM MMMM MMMM MMMM", 0);
+    w.text.FormatText(&dc, CSize(dc.GetTextExtent("MMMM MMMM MM", 12).cx, 1000));
+    EXPECT_EQ(PrintedPages(w.text, dc), std::vector<std::string>{"MMMM MMMM /0|MMMM MMMM/0|"});
+}
+
+TEST(TextPrint, PartnersStayLevel) {
+    TextWindow<> a;
+    TextWindow<> b;
+    TextRecorder dc;
+    a.text.SyncWith(&b.text, 1);
+    a.text.AddText("MMMM MMMM", 0);
+    a.text.AddText("x", 0);
+    for (const char* psz : {"1", "2", "3"}) {
+        b.text.AddText(psz, 0);
+    }
+    const CSize size(dc.GetTextExtent("MMMM MM", 7).cx, 2 * dc.GetTextExtent(" ", 1).cy);
+    a.text.FormatText(&dc, size);
+    EXPECT_EQ(PrintedPages(a.text, dc), (std::vector<std::string>{"MMMM /0|MMMM/0|", "x/0|/0|"}));
+    EXPECT_EQ(PrintedPages(b.text, dc), (std::vector<std::string>{"1/0|/0|", "2/0|3/0|"}));
+}
+
+}  // namespace
