@@ -21,7 +21,7 @@ bool LogView::Open(const CString& strPath) {
 
 int LogView::StyleOf(const CString& strLine) const {
     const auto has = [&](LPCSTR psz) { return strLine.Find(psz) >= 0; };
-    if (has("error") || has("Error") || has("fail") || has("half-installed")) {
+    if (has(" error") || has("Error:") || has("failed")) {
         return m_nTrouble;
     }
     return has(" remove ") || has(" purge ") || has("Remove:") || has("Purge:") ? m_nRemoval : 0;

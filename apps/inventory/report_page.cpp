@@ -29,7 +29,6 @@ constexpr Choice kButtonTexts[] = {{ID_REPORT_PREVIOUS, "Previous page"},
 BEGIN_MESSAGE_MAP(ReportPage, Page)
     ON_WM_CREATE()
     ON_WM_SIZE()
-    ON_WM_ERASEBKGND()
     ON_COMMAND_RANGE(ID_REPORT_FIRST_OPTION, ID_REPORT_LAST_OPTION, OnOption)
     ON_UPDATE_COMMAND_UI_RANGE(ID_REPORT_FIRST_OPTION, ID_REPORT_LAST_OPTION, OnUpdateOption)
     ON_COMMAND(ID_REPORT_PREVIOUS, OnPrevious)
@@ -88,13 +87,6 @@ void ReportPage::OnSize(UINT nType, int cx, int cy) {
         place(button);
     }
     m_preview.MoveWindow(kPanelWidth, 0, std::max(cx - kPanelWidth, 0), cy);
-}
-
-BOOL ReportPage::OnEraseBkgnd(CDC* pDC) {
-    CRect rc;
-    GetClientRect(&rc);
-    pDC->FillSolidRect(&rc, ::GetSysColor(COLOR_BTNFACE));
-    return TRUE;
 }
 
 bool& ReportPage::Option(UINT nID) {
