@@ -115,11 +115,19 @@ void QVGridCtrl::ActivateCell(int nRow, int nCol) {
     const CRect rcEdit = qv::ToCRect(qv::GridEditRect(
         qv::ToRect(rcCell), GetColType(nCol) == gctEditButton ? m_nCellHeight : 0));
     m_pEdit->MoveWindow(&rcEdit, TRUE);
-    const char* pszText = m_model.Text(nRow, nCol);
-    const CString strText(pszText != nullptr ? pszText : "");
-    m_pEdit->SetWindowText(strText);
-    if (!watch || m_pEdit == nullptr || !IsValidRow(nRow)) {
-        return;  // the parent heard of the new text and took the ground away
+    // The parent hears of the new text, and may change the cell or take the ground away. A text
+    // that it changed must not come back when the edit is saved.
+    const auto text = [&] {
+        const char* pszText = m_model.Text(nRow, nCol);
+        return CString(pszText != nullptr ? pszText : "");
+    };
+    CString strShown;
+    for (int nTry = 0; nTry == 0 || (nTry == 1 && strShown != text()); ++nTry) {
+        strShown = text();
+        m_pEdit->SetWindowText(strShown);
+        if (!watch || m_pEdit == nullptr || !IsValidRow(nRow)) {
+            return;
+        }
     }
     m_pEdit->SendMessage(EM_SETSEL, 0, -1);
     m_pEdit->SendMessage(EM_SCROLLCARET);

@@ -199,6 +199,23 @@ INSTANTIATE_TEST_SUITE_P(Deeds, GridHostileParent,
                                           testing::Range<size_t>(0, std::size(kTold))),
                          HostileName);
 
+TEST(GridAnswers, ATextChangedWhileItsEditorOpensIsNotOverwritten) {
+    GridWindow<> w(3);
+    BringToFront(w.parent.m_hWnd);
+    int nChanges = 0;
+    w.parent.m_answer = [&](UINT) {
+        if (nChanges++ == 0) {
+            w.grid.DeleteAllRows();
+            w.grid.AddRow("name\tfresh", 0);
+        }
+    };
+    w.grid.GotoCell(0, kEdit, TRUE);
+    EXPECT_NE(w.Edit(), nullptr);
+    w.other.SetFocus();
+    EXPECT_EQ(nChanges, 2);
+    EXPECT_EQ(w.Text(0, kEdit), "fresh");
+}
+
 // --- Anything in any order
 
 TEST(GridMonkey, SurvivesAnyOrderOfInputAndAnswers) {
