@@ -23,6 +23,10 @@ void DisplayRows::Format(const TextLines& lines, const StyleTable& styles, int n
         m_nStyles = styles.Count();
         m_nGeneration = lines.Generation();
     }
+    // A call that ran out of memory may have left a part of its last line.
+    while (!m_rows.empty() && m_rows.back().nLine == m_nLines) {
+        m_rows.pop_back();
+    }
     for (; m_nLines < lines.Count(); ++m_nLines) {
         SplitLine(lines.Line(m_nLines), nWidth, styles, splitter, m_starts);
         for (int i = 0; i < static_cast<int>(m_starts.size()); ++i) {
