@@ -1,4 +1,4 @@
-// The controls in real windows: window_bench [tree | list], without an argument all of them.
+// The controls in real windows: window_bench [tree | list | grid], without an argument all of them.
 
 #include "window_bench.h"
 
@@ -23,6 +23,9 @@ int main(int argc, char** argv) {
     }
     if (asked("list")) {
         MeasureList();
+    }
+    if (asked("grid")) {
+        MeasureGrid();
     }
     return 0;
 }

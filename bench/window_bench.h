@@ -39,3 +39,4 @@ inline void Compare(const char* pszName, double factor, const char* pszUnit, Pai
 
 void MeasureTree();
 void MeasureList();
+void MeasureGrid();
