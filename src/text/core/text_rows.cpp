@@ -16,10 +16,10 @@ void SplitLine(const char* pszLine, int nWidth, const StyleTable& styles, TextSp
 
 void DisplayRows::Format(const TextLines& lines, const StyleTable& styles, int nWidth,
                          TextSplitter& splitter) {
-    if (nWidth != m_nWidth || styles.Count() != m_nStyles || lines.Generation() != m_nGeneration) {
+    if (m_width != nWidth || styles.Count() != m_nStyles || lines.Generation() != m_nGeneration) {
         m_rows.clear();
         m_nLines = 0;
-        m_nWidth = nWidth;
+        m_width = nWidth;
         m_nStyles = styles.Count();
         m_nGeneration = lines.Generation();
     }
