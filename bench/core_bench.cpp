@@ -1,7 +1,9 @@
-// Core without a window, and the tree and the grid beside Qt's widgets where that was asked for.
+// Core without a window; the tree, the grid and the wrapped text beside Qt's own where that was
+// asked for.
 
 #include <malloc.h>
 
+#include <algorithm>
 #include <memory>
 #include <random>
 #include <string>
@@ -11,6 +13,7 @@
 #include "print/core/text_wrap.h"
 #include "support/fake_page_items.h"
 #include "support/test_tree.h"
+#include "text/core/text_rows.h"
 #ifdef QV_PEERS
 #include "qt_peer.h"
 #endif
@@ -211,6 +214,10 @@ double Paginate() {
 // Proportional widths of a byte each, as a font's table gives them.
 class TableMeasure : public qv::TextMeasure {
 public:
+    // One width for all bytes.
+    explicit TableMeasure(int nCharWidth) {
+        std::fill(std::begin(m_aWidths), std::end(m_aWidths), nCharWidth);
+    }
     TableMeasure() {
         for (int i = 0; i < 256; ++i) {
             m_aWidths[i] = 4 + i * 7 % 9;
@@ -251,6 +258,90 @@ void MeasurePrint() {
     bench::Figure("print/wrap-2mb", bench::MedianOf([] { return Wrap(2); }) * 1e3, "ms");
 }
 
+constexpr int kLogLines = 85000;
+constexpr std::size_t kLogLineBytes = 120;
+constexpr int kLogCharsARow = 90;
+
+// Words of 1 to 12 letters behind a number.
+std::vector<std::string> LogLines(int nLines) {
+    std::mt19937 random(17);
+    std::vector<std::string> lines;
+    for (int i = 0; i < nLines; ++i) {
+        std::string strLine = std::to_string(1000000 + i);
+        while (strLine.size() < kLogLineBytes) {
+            strLine += ' ';
+            strLine.append(1 + random() % 12, static_cast<char>('a' + random() % 26));
+        }
+        strLine.resize(kLogLineBytes);
+        lines.push_back(strLine);
+    }
+    return lines;
+}
+
+// A text window's lines and rows in a font of one width.
+class Log {
+public:
+    Log() { m_styles.Add(0, 0); }
+    void Add(const std::string& strLine) { m_lines.Add(strLine, 0); }
+    void Format() { m_rows.Format(m_lines, m_styles, kLogCharsARow * kCharWidth, m_splitter); }
+    int CountRows() const { return m_rows.Count(); }
+
+private:
+    static constexpr int kCharWidth = 8;
+
+    qv::TextLines m_lines;
+    qv::StyleTable m_styles;
+    TableMeasure m_measure{kCharWidth};
+    qv::TextSplitter m_splitter{m_measure};
+    qv::DisplayRows m_rows;
+};
+
+double WrapLog(const std::vector<std::string>& lines, int& nRows) {
+    Log log;
+    for (const std::string& strLine : lines) {
+        log.Add(strLine);
+    }
+    const double nSeconds = bench::Time([&] { log.Format(); });
+    nRows = log.CountRows();
+    return nSeconds;
+}
+
+// Heap bytes a row of lines and rows, above nTexts times the text.
+double BytesALogRow(const std::vector<std::string>& lines, int nTexts) {
+    const size_t nBefore = HeapBytes();
+    Log log;
+    for (const std::string& strLine : lines) {
+        log.Add(strLine);
+    }
+    log.Format();
+    const double nText = static_cast<double>(lines.size() * kLogLineBytes);
+    return (static_cast<double>(HeapBytes() - nBefore) - nTexts * nText) / log.CountRows();
+}
+
+// Seconds to add one line more to 100,000 and format it.
+double AppendFollow(const std::vector<std::string>& lines) {
+    constexpr int kAppended = 1000;
+    Log log;
+    for (std::size_t i = 0; i < 100000; ++i) {
+        log.Add(lines[i % lines.size()]);
+    }
+    log.Format();
+    return bench::Time([&] {
+               for (std::size_t i = 0; i < kAppended; ++i) {
+                   log.Add(lines[i]);
+                   log.Format();
+               }
+           }) /
+           kAppended;
+}
+
+void MeasureText(const std::vector<std::string>& lines) {
+    bench::Figure("text/core-bytes-a-row", BytesALogRow(lines, 2), "bytes");
+    bench::Figure("text/core-bytes-a-row-above-text", BytesALogRow(lines, 1), "bytes");
+    bench::Figure("text/core-append-follow",
+                  bench::MedianOf([&] { return AppendFollow(lines); }) * 1e6, "us");
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -262,6 +353,8 @@ int main(int argc, char** argv) {
     const std::vector<std::string> texts = RandomTexts(100000);
     const std::vector<std::string> rows = GridRows();
     bench::Figure("grid/core-bytes-a-row", BytesAGridRow(rows), "bytes");
+    const std::vector<std::string> log = LogLines(kLogLines);
+    int nLogRows = 0;
 #ifdef QV_PEERS
     qt_peer::Start(argc, argv);
     const auto append = bench::MedianPair([] { return Append(kMillion); },
@@ -272,6 +365,11 @@ int main(int argc, char** argv) {
         bench::MedianPair([&] { return Sort(texts); }, [&] { return qt_peer::Sort(texts); });
     const auto grid = bench::MedianPair([&] { return FillGrid(rows); },
                                         [&] { return qt_peer::FillTable(rows, kGridColumns); });
+    int nPeerRows = 0;
+    const auto wrap =
+        bench::MedianPair([&] { return WrapLog(log, nLogRows); },
+                          [&] { return qt_peer::WrapLines(log, kLogCharsARow, nPeerRows); });
+    bench::Figure("qt-text/core-wrap-10mb-rows", nPeerRows, "rows");
 #else
     static_cast<void>(argc);
     static_cast<void>(argv);
@@ -279,7 +377,9 @@ int main(int argc, char** argv) {
     const bench::Pair expand{bench::MedianOf(ExpandAll), 0};
     const bench::Pair sort{bench::MedianOf([&] { return Sort(texts); }), 0};
     const bench::Pair grid{bench::MedianOf([&] { return FillGrid(rows); }), 0};
+    const bench::Pair wrap{bench::MedianOf([&] { return WrapLog(log, nLogRows); }), 0};
 #endif
+    bench::Figure("text/core-wrap-10mb-rows", nLogRows, "rows");
     struct Line {
         const char* pszName;
         bench::Pair pair;
@@ -289,7 +389,8 @@ int main(int argc, char** argv) {
     for (const Line& line : {Line{"tree/core-append-1m", append, 1e3, "ns"},
                              Line{"tree/core-expand-all-110k", expand, 1e3, "ms"},
                              Line{"tree/core-sort-100k", sort, 1e3, "ms"},
-                             Line{"grid/core-fill-100k-x5", grid, 1e3, "ms"}}) {
+                             Line{"grid/core-fill-100k-x5", grid, 1e3, "ms"},
+                             Line{"text/core-wrap-10mb", wrap, 1e3, "ms"}}) {
         bench::Figure(line.pszName, line.pair.ours * line.factor, line.pszUnit);
         if (line.pair.theirs > 0) {
             const std::string strTheirs = std::string("qt-") + line.pszName;
@@ -299,5 +400,6 @@ int main(int argc, char** argv) {
     }
     MeasureRows();
     MeasurePrint();
+    MeasureText(log);
     return 0;
 }

@@ -1,7 +1,10 @@
 #include "qt_peer.h"
 
 #include <QApplication>
+#include <QFontDatabase>
+#include <QFontMetricsF>
 #include <QTableWidget>
+#include <QTextLayout>
 #include <QTreeWidget>
 
 #include "bench.h"
@@ -76,6 +79,30 @@ double FillTable(const std::vector<std::string>& rows, int nColumns) {
             for (int nCol = 0; nCol < nColumns; ++nCol) {
                 table.setItem(nRow, nCol, new QTableWidgetItem(texts.at(nRow).at(nCol)));
             }
+        }
+    });
+}
+
+double WrapLines(const std::vector<std::string>& lines, int nChars, int& nRows) {
+    QList<QString> texts;
+    for (const std::string& strLine : lines) {
+        texts.append(QString::fromStdString(strLine));
+    }
+    const QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    const qreal nWidth = QFontMetricsF(font).horizontalAdvance(QString(nChars, 'x'));
+    QTextOption option;
+    option.setWrapMode(QTextOption::WordWrap);
+    nRows = 0;
+    return bench::Time([&] {
+        for (const QString& text : texts) {
+            QTextLayout layout(text, font);
+            layout.setTextOption(option);
+            layout.beginLayout();
+            for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+                line.setLineWidth(nWidth);
+                ++nRows;
+            }
+            layout.endLayout();
         }
     });
 }

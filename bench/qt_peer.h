@@ -1,4 +1,5 @@
-// The same jobs done by Qt's tree and table widgets. Each gives the seconds of the job alone.
+// The same jobs done by Qt's tree and table widgets and its text layout. Each gives the seconds of
+// the job alone.
 
 #pragma once
 
@@ -15,5 +16,8 @@ double Sort(const std::vector<std::string>& texts);
 // A table of rows with TAB-separated fields, never shown. The texts are in Qt's own form beforehand
 // and shared with the items, so that only the table's work counts.
 double FillTable(const std::vector<std::string>& rows, int nColumns);
+// A layout for each line, wrapped at words to nChars characters of a font of one width; nRows
+// becomes the number of rows. The texts are in Qt's own form beforehand.
+double WrapLines(const std::vector<std::string>& lines, int nChars, int& nRows);
 
 }  // namespace qt_peer

@@ -1,4 +1,5 @@
-// The controls in real windows: window_bench [tree | list | text], without an argument all of them.
+// The controls in real windows: window_bench [tree | list | grid | text], without an argument all of
+// them.
 
 #include "window_bench.h"
 
@@ -23,6 +24,9 @@ int main(int argc, char** argv) {
     }
     if (asked("list")) {
         MeasureList();
+    }
+    if (asked("grid")) {
+        MeasureGrid();
     }
     if (asked("text")) {
         MeasureText();

@@ -39,4 +39,5 @@ inline void Compare(const char* pszName, double factor, const char* pszUnit, Pai
 
 void MeasureTree();
 void MeasureList();
+void MeasureGrid();
 void MeasureText();

@@ -2,10 +2,15 @@
 
 #pragma once
 
+#include "containers/header_wnd.h"
+#include "containers/list_header_wnd.h"
+#include "containers/text_header_wnd.h"
+#include "containers/tree_header_wnd.h"
 #include "frame/cust_ctrl.h"
 #include "frame/qv_module.h"
 #include "frame/styled_rows.h"
 #include "grid/grid_ctrl.h"
+#include "list/header_ctrl_ex.h"
 #include "list/list_ctrl.h"
 #include "list/sorting_list_ctrl.h"
 #include "print/print_engine.h"

@@ -31,7 +31,7 @@ int MainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     static constexpr UINT kIndicators[] = {ID_INDICATOR_MESSAGE, ID_INDICATOR_MARKED};
     if (CFrameWnd::OnCreate(lpCreateStruct) == -1 || !m_pages.Create(this) ||
         !m_pages.Add(m_sections) || !m_pages.Add(m_packages) || !m_pages.Add(m_report) ||
-        !m_pages.Add(m_settings) || !m_statusBar.Create(this) ||
+        !m_pages.Add(m_settings) || !m_pages.Add(m_log) || !m_statusBar.Create(this) ||
         !m_statusBar.SetIndicators(kIndicators, static_cast<int>(std::size(kIndicators)))) {
         return -1;
     }

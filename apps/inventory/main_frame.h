@@ -4,6 +4,7 @@
 
 #include <afxext.h>
 
+#include "log_page.h"
 #include "model/package_database.h"
 #include "packages_page.h"
 #include "page_host.h"
@@ -19,6 +20,7 @@ public:
     PackagesPage& Packages() { return m_packages; }
     ReportPage& Report() { return m_report; }
     SettingsPage& Settings() { return m_settings; }
+    LogPage& Log() { return m_log; }
     // Empty: the user's own file. Call before Open.
     void LoadSettings(const CString& strPath, bool bInteractive);
     PageHost& Pages() { return m_pages; }
@@ -43,5 +45,6 @@ private:
     PackagesPage m_packages;
     SettingsPage m_settings;
     ReportPage m_report{m_packages, m_settings.Values()};
+    LogPage m_log;
     PageHost m_pages;
 };

@@ -5,7 +5,6 @@
 namespace {
 
 constexpr int kImageWidth = 16;
-constexpr COLORREF kImageMask = RGB(255, 0, 255);
 constexpr int kImagePackage = 0;
 constexpr int kImageTrouble = 1;
 constexpr int kImageRequired = 2;
@@ -20,19 +19,15 @@ std::string DateText(std::time_t t) {
 
 }  // namespace
 
-BOOL PackageList::Create(CWnd* pParent, UINT nID) {
-    ModifyDefStyle(LVS_SINGLESEL | WS_BORDER, WS_TABSTOP);
-    if (!QVSortingListCtrl::Create(nID, CRect(0, 0, 0, 0), IDB_PACKAGES, kImageMask, kImageWidth,
-                                   pParent)) {
-        return FALSE;
-    }
-    SetFont(pParent->GetFont());
+IMPLEMENT_DYNCREATE(PackageList, QVSortingListCtrl)
+
+void PackageList::SetUp(CFont* pFont) {
+    SetFont(pFont);
     const COLORREF crWindow = ::GetSysColor(COLOR_WINDOW);
     m_nTrouble = AddStyle(RGB(176, 0, 0), RGB(255, 232, 224));
     m_nRequired = AddStyle(RGB(0, 0, 144), crWindow);
     m_nDetail = AddStyle(RGB(96, 96, 96), crWindow);
     MakeColumns();
-    return TRUE;
 }
 
 void PackageList::MakeColumns() {

@@ -11,8 +11,11 @@
 #include "model/inventory.h"
 
 class PackageList : public QVSortingListCtrl {
+    DECLARE_DYNCREATE(PackageList)
+
 public:
-    BOOL Create(CWnd* pParent, UINT nID);
+    // Styles and columns; call once the window exists.
+    void SetUp(CFont* pFont);
     // Fills the list anew, in the order of the last sort; what was selected is selected again if it
     // is still there. The inventory must outlive what is shown of it.
     void Show(const Inventory& inventory);

@@ -13,20 +13,33 @@ BEGIN_MESSAGE_MAP(PackagesPage, Page)
 END_MESSAGE_MAP()
 
 int PackagesPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
-    return Page::OnCreate(lpCreateStruct) == -1 || !m_list.Create(this, IDC_LIST) ? -1 : 0;
+    constexpr int kImageWidth = 16;
+    constexpr COLORREF kImageMask = RGB(255, 0, 255);
+    m_frame.SetListStyle(WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_REPORT | LVS_SHOWSELALWAYS |
+                         LVS_OWNERDRAWFIXED);
+    m_frame.SetListID(IDC_LIST);
+    m_frame.SetImageInfo(IDB_PACKAGES, kImageMask, kImageWidth);
+    m_frame.SetHeaderText("Packages: a click on a heading sorts, a second turns the order");
+    CRect rcNone(0, 0, 0, 0);
+    if (Page::OnCreate(lpCreateStruct) == -1 ||
+        !m_frame.Create(WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, rcNone, this, IDC_LIST_FRAME)) {
+        return -1;
+    }
+    List().SetUp(&m_font);
+    return 0;
 }
 
 void PackagesPage::OnSize(UINT nType, int cx, int cy) {
     Page::OnSize(nType, cx, cy);
-    m_list.MoveWindow(0, 0, cx, cy);
+    m_frame.MoveWindow(0, 0, cx, cy);
 }
 
 void PackagesPage::SetInventory(const Inventory& inventory) {
-    m_list.Show(inventory);
+    List().Show(inventory);
 }
 
 CString PackagesPage::MarkedText() {
-    const PackageList::Selected selected = m_list.CountSelected();
+    const PackageList::Selected selected = List().CountSelected();
     CString strText;
     strText.Format("%d packages selected, %s", selected.nPackages,
                    SizeText(selected.nSizeKiB).c_str());
@@ -37,7 +50,7 @@ void PackagesPage::OnItemChanged(NMHDR* pNMHDR, LRESULT* pResult) {
     const auto& change = *reinterpret_cast<NMLISTVIEW*>(pNMHDR);
     *pResult = 0;
     if ((change.uNewState & LVIS_FOCUSED) != 0) {
-        const Package* pPackage = m_list.PackageOf(change.iItem);
+        const Package* pPackage = List().PackageOf(change.iItem);
         m_strMessage = pPackage != nullptr ? pPackage->strSummary.c_str() : "";
     }
 }
@@ -64,8 +77,8 @@ bool PackagesPage::Export(LPCSTR pszPath, char chSeparator) {
     const CWaitCursor wait;
     CString strProblem;
     try {
-        if (m_list.ExportData(pszPath, chSeparator)) {
-            m_strMessage.Format("%d rows written to %s", m_list.GetItemCount(), pszPath);
+        if (List().ExportData(pszPath, chSeparator)) {
+            m_strMessage.Format("%d rows written to %s", List().GetItemCount(), pszPath);
             return true;
         }
         strProblem.Format("%s cannot be opened for writing.", pszPath);
@@ -85,7 +98,7 @@ bool PackagesPage::Export(LPCSTR pszPath, char chSeparator) {
 bool PackagesPage::Flag(UINT nID) {
     switch (nID) {
         case ID_LIST_IMAGE_COLUMN:
-            return m_list.HasImageColumn();
+            return List().HasImageColumn();
         case ID_LIST_CENTER_IMAGES:
             return m_bCenterImages;
         case ID_LIST_ALLOW_SELECTION:
@@ -93,9 +106,9 @@ bool PackagesPage::Flag(UINT nID) {
         case ID_LIST_STRONG_SELECTION:
             return m_bStrongSelection;
         case ID_LIST_MANY_SELECTED:
-            return (m_list.GetStyle() & LVS_SINGLESEL) == 0;
+            return (List().GetStyle() & LVS_SINGLESEL) == 0;
         default:
-            return m_list.IsColumnExcludedFromPrinting(m_list.SummaryColumn()) != FALSE;
+            return List().IsColumnExcludedFromPrinting(List().SummaryColumn()) != FALSE;
     }
 }
 
@@ -103,26 +116,26 @@ void PackagesPage::OnFlag(UINT nID) {
     const bool bSet = !Flag(nID);
     switch (nID) {
         case ID_LIST_IMAGE_COLUMN:
-            m_list.UseImageColumn(bSet);
+            List().UseImageColumn(bSet);
             break;
         case ID_LIST_CENTER_IMAGES:
-            m_list.SetImageCenterVertically(m_bCenterImages = bSet);
+            List().SetImageCenterVertically(m_bCenterImages = bSet);
             break;
         case ID_LIST_ALLOW_SELECTION:
-            m_list.SetAllowSel(m_bAllowSelection = bSet);
+            List().SetAllowSel(m_bAllowSelection = bSet);
             break;
         case ID_LIST_STRONG_SELECTION:
-            m_list.SetAlwaysHighlightSel(m_bStrongSelection = bSet);
+            List().SetAlwaysHighlightSel(m_bStrongSelection = bSet);
             break;
         case ID_LIST_MANY_SELECTED:
-            m_list.SetItemState(-1, 0, LVIS_SELECTED);
-            m_list.ModifyStyle(bSet ? LVS_SINGLESEL : 0, bSet ? 0 : LVS_SINGLESEL);
+            List().SetItemState(-1, 0, LVIS_SELECTED);
+            List().ModifyStyle(bSet ? LVS_SINGLESEL : 0, bSet ? 0 : LVS_SINGLESEL);
             break;
         default:
-            m_list.ExcludeColumnFromPrinting(m_list.SummaryColumn());
+            List().ExcludeColumnFromPrinting(List().SummaryColumn());
             break;
     }
-    m_list.InvalidateData(FALSE);
+    List().InvalidateData(FALSE);
 }
 
 void PackagesPage::OnUpdateFlag(CCmdUI* pCmdUI) {

@@ -10,11 +10,11 @@ class PackagesPage : public Page {
 public:
     LPCSTR Title() const override { return "Packages"; }
     void SetInventory(const Inventory& inventory) override;
-    CWnd& Control() override { return m_list; }
+    CWnd& Control() override { return List(); }
     CString MarkedText() override;
-    bool FindNext(const CString& strText) override { return m_list.FindNext(strText); }
+    bool FindNext(const CString& strText) override { return List().FindNext(strText); }
 
-    PackageList& List() { return m_list; }
+    PackageList& List() { return *static_cast<PackageList*>(m_frame.GetListBox()); }
     // What the export dialog starts with.
     void UseSettings(const Settings& settings) { m_pSettings = &settings; }
 
@@ -31,7 +31,7 @@ private:
     bool Flag(UINT nID);
     bool Export(LPCSTR pszPath, char chSeparator);
 
-    PackageList m_list;
+    QVListHeaderWnd m_frame{RUNTIME_CLASS(PackageList)};
     const Settings* m_pSettings = nullptr;
     CString m_strExportPath;
     bool m_bCenterImages = true;

@@ -5,6 +5,7 @@
 BEGIN_MESSAGE_MAP(Page, CWnd)
     ON_WM_CREATE()
     ON_WM_SETFOCUS()
+    ON_WM_ERASEBKGND()
     ON_COMMAND(ID_FIND, OnFind)
     ON_COMMAND(ID_FIND_NEXT, OnFindNext)
     ON_UPDATE_COMMAND_UI(ID_FIND_NEXT, OnUpdateFindNext)
@@ -49,4 +50,12 @@ void Page::OnFindNext() {
 
 void Page::OnUpdateFindNext(CCmdUI* pCmdUI) {
     pCmdUI->Enable(!m_strFind.IsEmpty());
+}
+
+// What the page's controls leave free.
+BOOL Page::OnEraseBkgnd(CDC* pDC) {
+    CRect rc;
+    GetClientRect(&rc);
+    pDC->FillSolidRect(&rc, ::GetSysColor(COLOR_BTNFACE));
+    return TRUE;
 }

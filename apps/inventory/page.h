@@ -29,6 +29,7 @@ protected:
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg void OnFind();
     afx_msg void OnFindNext();
     afx_msg void OnUpdateFindNext(CCmdUI* pCmdUI);

@@ -2,13 +2,14 @@
 
 #include <algorithm>
 
+#include "printing.h"
+
 namespace {
 
 constexpr double kMarginInches[] = {0.6, 0.9, 1.4};  // narrow, normal, wide
 // The paper where there is no printer to tell it: A4.
 constexpr double kPaperWidthInch = 8.27;
 constexpr double kPaperHeightInch = 11.69;
-constexpr char kFace[] = "Tahoma";
 
 long SizeOf(const Section& section) {
     long nKiB = 0;
@@ -71,15 +72,9 @@ void Report::MeasurePaper(CDC& dc) {
 }
 
 void Report::MakeFonts(CDC& dc) {
-    const auto make = [&](CFont& font, int nPoints, int nWeight) {
-        const int nHeight = -::MulDiv(nPoints, dc.GetDeviceCaps(LOGPIXELSY), 72);
-        font.CreateFont(nHeight, 0, 0, 0, nWeight, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
-                        OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
-                        DEFAULT_PITCH | FF_DONTCARE, kFace);
-    };
-    make(m_fontNormal, 8, FW_NORMAL);
-    make(m_fontHeader, 9, FW_BOLD);
-    make(m_fontSection, 14, FW_BOLD);
+    MakePrintFont(m_fontNormal, dc, 8, FW_NORMAL);
+    MakePrintFont(m_fontHeader, dc, 9, FW_BOLD);
+    MakePrintFont(m_fontSection, dc, 14, FW_BOLD);
     CFont* pOld = dc.SelectObject(&m_fontNormal);
     m_nLineHeight = dc.GetTextExtent("0", 1).cy;
     dc.SelectObject(pOld);

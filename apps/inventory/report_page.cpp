@@ -1,7 +1,6 @@
 #include "report_page.h"
 
-#include <afxdlgs.h>
-
+#include "printing.h"
 #include "resource.h"
 
 namespace {
@@ -25,23 +24,11 @@ constexpr Choice kButtonTexts[] = {{ID_REPORT_PREVIOUS, "Previous page"},
                                    {ID_REPORT_FIT, "Fit"},
                                    {ID_REPORT_PRINT, "Print..."}};
 
-// Frees what a print dialog hands out beside the device context.
-class PrinterChoice : public CPrintDialog {
-public:
-    explicit PrinterChoice(CWnd* pParent)
-        : CPrintDialog(FALSE, PD_ALLPAGES | PD_USEDEVMODECOPIES | PD_NOSELECTION, pParent) {}
-    ~PrinterChoice() override {
-        ::GlobalFree(m_pd.hDevMode);
-        ::GlobalFree(m_pd.hDevNames);
-    }
-};
-
 }  // namespace
 
 BEGIN_MESSAGE_MAP(ReportPage, Page)
     ON_WM_CREATE()
     ON_WM_SIZE()
-    ON_WM_ERASEBKGND()
     ON_COMMAND_RANGE(ID_REPORT_FIRST_OPTION, ID_REPORT_LAST_OPTION, OnOption)
     ON_UPDATE_COMMAND_UI_RANGE(ID_REPORT_FIRST_OPTION, ID_REPORT_LAST_OPTION, OnUpdateOption)
     ON_COMMAND(ID_REPORT_PREVIOUS, OnPrevious)
@@ -102,13 +89,6 @@ void ReportPage::OnSize(UINT nType, int cx, int cy) {
     m_preview.MoveWindow(kPanelWidth, 0, std::max(cx - kPanelWidth, 0), cy);
 }
 
-BOOL ReportPage::OnEraseBkgnd(CDC* pDC) {
-    CRect rc;
-    GetClientRect(&rc);
-    pDC->FillSolidRect(&rc, ::GetSysColor(COLOR_BTNFACE));
-    return TRUE;
-}
-
 bool& ReportPage::Option(UINT nID) {
     switch (nID) {
         case ID_REPORT_INTRODUCTION:
@@ -142,9 +122,7 @@ void ReportPage::OpenDevice() {
     if (m_dcDevice.GetSafeHdc() != nullptr) {
         return;
     }
-    PrinterChoice printer(this);
-    if (printer.GetDefaults() && m_dcDevice.Attach(printer.CreatePrinterDC())) {
-        m_dcDevice.m_bPrinting = TRUE;
+    if (OpenDefaultPrinter(this, m_dcDevice)) {
         return;
     }
     m_dcDevice.CreateCompatibleDC(nullptr);
@@ -224,29 +202,15 @@ void ReportPage::OnPrint() {
         return;
     }
     PrinterChoice printer(this);
-    printer.m_pd.nMinPage = 1;
-    printer.m_pd.nMaxPage = static_cast<WORD>(std::max(Pages(), 1u));
-    printer.m_pd.nFromPage = 1;
-    printer.m_pd.nToPage = printer.m_pd.nMaxPage;
-    if (printer.DoModal() != IDOK) {
-        return;
-    }
     CDC dc;
-    if (!dc.Attach(printer.GetPrinterDC())) {
-        AfxMessageBox("There is no printer to print on.", MB_ICONEXCLAMATION);
-        return;
-    }
-    const bool bRange = printer.PrintRange() != FALSE;
-    if (!Print(dc, bRange ? static_cast<unsigned>(printer.GetFromPage()) : 1,
-               bRange ? static_cast<unsigned>(printer.GetToPage()) : ~0u, nullptr)) {
+    if (printer.Ask(Pages(), dc) && !Print(dc, printer.FirstPage(), printer.LastPage(), nullptr)) {
         AfxMessageBox(m_strMessage, MB_ICONEXCLAMATION);
     }
 }
 
 bool ReportPage::PrintToFile(LPCSTR pszOutput) {
-    PrinterChoice printer(this);
     CDC dc;
-    if (!printer.GetDefaults() || !dc.Attach(printer.CreatePrinterDC())) {
+    if (!OpenDefaultPrinter(this, dc)) {
         m_strMessage = "There is no printer to print on.";
         return false;
     }
@@ -255,7 +219,6 @@ bool ReportPage::PrintToFile(LPCSTR pszOutput) {
 
 bool ReportPage::Print(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutput) {
     const CWaitCursor wait;
-    dc.m_bPrinting = TRUE;
     // The lists can be in one print run at a time: the preview begins another one afterwards.
     m_preview.SetReport(nullptr, nullptr);
     m_pReport.reset();
@@ -268,25 +231,12 @@ bool ReportPage::Print(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutpu
 
 bool ReportPage::PrintPages(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutput) {
     const std::unique_ptr<Report> pReport = Compose(dc);
-    DOCINFO doc{};
-    doc.cbSize = sizeof(doc);
-    doc.lpszDocName = "Inventory";
-    doc.lpszOutput = pszOutput;
-    bool bDone = dc.StartDoc(&doc) > 0;
     nLast = std::min(nLast, pReport->Pages());
-    for (unsigned nPage = nFirst; bDone && nPage <= nLast; ++nPage) {
-        bDone = dc.StartPage() > 0;
-        if (bDone) {
-            pReport->PrintPage(dc, nPage);
-            bDone = dc.EndPage() > 0;
-        }
-    }
-    if (!bDone) {
-        dc.AbortDoc();
+    if (!PrintJob(dc, "Inventory", nFirst, nLast, pszOutput,
+                  [&](unsigned nPage) { pReport->PrintPage(dc, nPage); })) {
         m_strMessage = "The printer did not take the report.";
         return false;
     }
-    dc.EndDoc();
     m_strMessage.Format("%u pages printed", nLast - nFirst + 1);
     return true;
 }

@@ -42,7 +42,6 @@ protected:
     afx_msg void OnPrint();
     afx_msg void OnUpdatePrevious(CCmdUI* pCmdUI);
     afx_msg void OnUpdateNext(CCmdUI* pCmdUI);
-    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     DECLARE_MESSAGE_MAP()
 
 private:

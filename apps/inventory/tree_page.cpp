@@ -1,5 +1,7 @@
 #include "tree_page.h"
 
+#include <algorithm>
+
 #include "resource.h"
 
 namespace {
@@ -44,19 +46,23 @@ BEGIN_MESSAGE_MAP(TreePage, Page)
 END_MESSAGE_MAP()
 
 int TreePage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
+    CRect rcNone(0, 0, 0, 0);
     if (Page::OnCreate(lpCreateStruct) == -1 ||
+        !m_caption.Create(WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, rcNone, this, IDC_TREE_FRAME) ||
         !m_tree.Create(
             WS_CHILD | WS_VISIBLE | WS_TABSTOP | TVS_HASLINES | TVS_HASBUTTONS | TVS_LINESATROOT,
-            CRect(0, 0, 0, 0), this, IDC_TREE)) {
+            rcNone, &m_caption, IDC_TREE)) {
         return -1;
     }
+    m_caption.SetHeaderText("Sections, their packages, and what belongs to each");
     m_tree.SetUp();
     return 0;
 }
 
 void TreePage::OnSize(UINT nType, int cx, int cy) {
     Page::OnSize(nType, cx, cy);
-    m_tree.MoveWindow(0, 0, cx, cy);
+    m_caption.MoveWindow(0, 0, cx, cy);
+    m_tree.MoveWindow(0, m_caption.HeaderHeight(), cx, std::max(cy - m_caption.HeaderHeight(), 0));
 }
 
 bool TreePage::FindNext(const CString& strText) {

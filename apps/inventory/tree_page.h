@@ -6,6 +6,15 @@
 #include "package_tree.h"
 #include "page.h"
 
+// The caption over the tree. What the tree tells goes on to the page.
+class TreeCaption : public QVHeaderWnd {
+protected:
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override {
+        *pResult = SendToParent(WM_NOTIFY, wParam, lParam);
+        return TRUE;
+    }
+};
+
 class TreePage : public Page {
 public:
     LPCSTR Title() const override { return "Sections"; }
@@ -34,6 +43,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    TreeCaption m_caption;
     PackageTree m_tree;
     bool m_bRefuseSelection = false;
     bool m_bRefuseCheck = false;

@@ -8,7 +8,7 @@ bool Walk::Run() {
     return TreePage() && OpenBranch() && Marks() && AbsoluteColumns() && Find() && Vetoes() &&
            Packages() && FindPackage() && ImageColumn() && Export() && Refresh() &&
            TypeSettings() && ChooseSetting() && SettingsKept() && ReportPages() && Zoom() &&
-           Paper();
+           Paper() && Logs() && FollowLog() && LogOnPaper();
 }
 
 bool Walk::Station(const char* pszName) {

@@ -26,6 +26,10 @@ private:
     bool ImageColumn();
     bool Export();
     bool Refresh();
+    // The logs
+    bool Logs();
+    bool FollowLog();
+    bool LogOnPaper();
     // The settings
     bool TypeSettings();
     bool ChooseSetting();

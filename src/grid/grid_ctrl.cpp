@@ -150,10 +150,7 @@ int QVGridCtrl::AutoSizeColumn(int nCol, int nMinWidth) {
 
 int QVGridCtrl::SizeToStrings(int nCol, const CStringArray& strings, int nMinWidth) {
     CClientDC dc(this);
-    if (m_nCellHeight == -1) {
-        CalcCellHeight();
-        CalcScrollBars();
-    }
+    MeasureRows();
     const qv::SelectGuard<CFont> font(dc, m_hFont);
     const int nRoom = kTextRoom + (UseFieldButton(nCol) ? m_nCellHeight : 0);
     int nWidth = std::max(-1, nMinWidth);
@@ -443,8 +440,12 @@ void QVGridCtrl::EnsureRowVisible(int nRow) {
 }
 
 void QVGridCtrl::OnVScroll(UINT nCode, UINT nPos, CScrollBar* pBar) {
+    const Watch watch(*this);
     if (m_bEditing) {
         SaveEditors();
+    }
+    if (!watch) {
+        return;
     }
     const int nPage = static_cast<int>(m_si.nPage);
     switch (nCode) {

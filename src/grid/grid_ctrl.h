@@ -175,12 +175,14 @@ private:
     class Watch;
 
     qv::GridLayout Layout();
+    void MeasureRows();  // if that is due
     bool CanRepaint() const { return m_bRedraw && m_hWnd != nullptr; }
     void InvalidateAll();
     void ShowTopRow(int nTop);
     bool IsCurrent(int nRow, int nCol) const { return nRow == m_nCurRow && nCol == m_nCurCol; }
     bool EditUp() const;
     bool ListUp() const;
+    void MoveRowMark(int nRow);
     void SaveEditors();
     void DropEditors(int nRow, int nCol);
     void PressButton(bool bPressed);

@@ -8,17 +8,26 @@
 
 namespace {
 
-// The grid moves the focus itself: that is not the user coming to it.
+// The grid moves the focus itself: that is not the user coming to it. The control may be gone by
+// the end.
 class IgnoreFocus {
 public:
-    explicit IgnoreFocus(BOOL& bIgnore) : m_bIgnore(bIgnore), m_bOld(bIgnore) { bIgnore = TRUE; }
-    ~IgnoreFocus() { m_bIgnore = m_bOld; }
+    IgnoreFocus(BOOL& bIgnore, std::shared_ptr<const bool> pAlive)
+        : m_bIgnore(bIgnore), m_bOld(bIgnore), m_pAlive(std::move(pAlive)) {
+        bIgnore = TRUE;
+    }
+    ~IgnoreFocus() {
+        if (*m_pAlive) {
+            m_bIgnore = m_bOld;
+        }
+    }
     IgnoreFocus(const IgnoreFocus&) = delete;
     IgnoreFocus& operator=(const IgnoreFocus&) = delete;
 
 private:
     BOOL& m_bIgnore;
     BOOL m_bOld;
+    std::shared_ptr<const bool> m_pAlive;
 };
 
 }  // namespace
@@ -41,15 +50,20 @@ void QVGridCtrl::NotifyParent(UINT nCode) {
 
 // --- Current cell
 
-void QVGridCtrl::GotoCell(int nRow, int nCol, BOOL bActivate) {
-    if (!IsValidRow(nRow) || !IsValidColumn(nCol)) {
-        return;
-    }
+// From the current row to this one.
+void QVGridCtrl::MoveRowMark(int nRow) {
     if (nRow != m_nCurRow && IsValidRow(m_nCurRow)) {
         RowAt(m_nCurRow).dwState &= ~GRS_CURRENT;
         InvalidateRow(m_nCurRow, FALSE);
     }
     RowAt(nRow).dwState |= GRS_CURRENT;
+}
+
+void QVGridCtrl::GotoCell(int nRow, int nCol, BOOL bActivate) {
+    if (!IsValidRow(nRow) || !IsValidColumn(nCol)) {
+        return;
+    }
+    MoveRowMark(nRow);
     const Watch watch(*this);
     if (bActivate && IsCellEnabled(nRow, nCol) && !m_bReadOnly) {
         ActivateCell(nRow, nCol);
@@ -59,7 +73,9 @@ void QVGridCtrl::GotoCell(int nRow, int nCol, BOOL bActivate) {
     if (!watch || !IsValidRow(nRow)) {
         return;
     }
-    // Last: what was saved belongs to the cell that was current.
+    // Last: what was saved belongs to the cell that was current. The parent, being told, may have
+    // gone elsewhere.
+    MoveRowMark(nRow);
     m_nCurRow = nRow;
     m_nCurCol = nCol;
     InvalidateRow(nRow, FALSE);
@@ -80,7 +96,12 @@ void QVGridCtrl::ActivateCell(int nRow, int nCol) {
     if (!watch || !IsValidRow(nRow)) {
         return;
     }
-    const IgnoreFocus ignore(m_bIgnoreFocus);
+    const IgnoreFocus ignore(m_bIgnoreFocus, m_pAlive);
+    SaveEditCtrl();  // of the cell that is left; a hidden edit would lose what it holds
+    if (!watch) {
+        return;
+    }
+    MeasureRows();
     if (m_pEdit == nullptr) {
         m_pEdit = std::make_unique<QVGridEdit>(*this);
         m_pEdit->Create(WS_CHILD | ES_WANTRETURN | ES_AUTOHSCROLL, CRect(0, 0, 0, 0), this,
@@ -94,11 +115,19 @@ void QVGridCtrl::ActivateCell(int nRow, int nCol) {
     const CRect rcEdit = qv::ToCRect(qv::GridEditRect(
         qv::ToRect(rcCell), GetColType(nCol) == gctEditButton ? m_nCellHeight : 0));
     m_pEdit->MoveWindow(&rcEdit, TRUE);
-    const char* pszText = m_model.Text(nRow, nCol);
-    const CString strText(pszText != nullptr ? pszText : "");
-    m_pEdit->SetWindowText(strText);
-    if (!watch || m_pEdit == nullptr || !IsValidRow(nRow)) {
-        return;  // the parent heard of the new text and took the ground away
+    // The parent hears of the new text, and may change the cell or take the ground away. A text
+    // that it changed must not come back when the edit is saved.
+    const auto text = [&] {
+        const char* pszText = m_model.Text(nRow, nCol);
+        return CString(pszText != nullptr ? pszText : "");
+    };
+    CString strShown;
+    for (int nTry = 0; nTry == 0 || (nTry == 1 && strShown != text()); ++nTry) {
+        strShown = text();
+        m_pEdit->SetWindowText(strShown);
+        if (!watch || m_pEdit == nullptr || !IsValidRow(nRow)) {
+            return;
+        }
     }
     m_pEdit->SendMessage(EM_SETSEL, 0, -1);
     m_pEdit->SendMessage(EM_SCROLLCARET);
@@ -116,7 +145,7 @@ void QVGridCtrl::HideEditCtrl() {
     const Watch watch(*this);
     {
         // A window that goes may hand its focus to the grid, which must not open it again.
-        const IgnoreFocus ignore(m_bIgnoreFocus);
+        const IgnoreFocus ignore(m_bIgnoreFocus, m_pAlive);
         const bool bFocus = ::GetFocus() == m_pEdit->m_hWnd;
         m_pEdit->ShowWindow(SW_HIDE);
         if (watch && bFocus && ::GetFocus() != m_hWnd) {
@@ -146,7 +175,7 @@ void QVGridCtrl::SaveEditCtrl() {
 void QVGridCtrl::SaveEditors() {
     const Watch watch(*this);
     {
-        const IgnoreFocus ignore(m_bIgnoreFocus);
+        const IgnoreFocus ignore(m_bIgnoreFocus, m_pAlive);
         SaveEditCtrl();
         if (!watch) {
             return;
@@ -189,7 +218,9 @@ void QVGridCtrl::SaveListBox() {
         if (_mbscmp(reinterpret_cast<const unsigned char*>(static_cast<LPCSTR>(strLine)),
                     reinterpret_cast<const unsigned char*>(static_cast<LPCSTR>(strCell))) != 0) {
             SetCellText(m_nCurRow, m_nCurCol, strLine);
-            NotifyParent(1);
+            if (watch) {
+                NotifyParent(1);
+            }
         }
     }
     if (watch) {
@@ -201,6 +232,7 @@ void QVGridCtrl::PopupList(CStringArray& strings) {
     if (m_hWnd == nullptr || !IsValidRow(m_nCurRow) || !IsValidColumn(m_nCurCol)) {
         return;
     }
+    MeasureRows();
     if (m_pList == nullptr) {
         m_pList = std::make_unique<QVGridList>(*this);
         m_pList->CreateEx(0, "LISTBOX", nullptr, WS_POPUP | WS_BORDER, CRect(0, 0, 0, 0), this, 0);
@@ -255,7 +287,7 @@ void QVGridCtrl::OnLButtonDown(UINT, CPoint pt) {
     const Watch watch(*this);
     {
         // The focus that comes to the grid saves what the edit holds.
-        const IgnoreFocus ignore(m_bIgnoreFocus);
+        const IgnoreFocus ignore(m_bIgnoreFocus, m_pAlive);
         const bool bInEditedCell = m_bEditing && IsCurrent(nRow, nCol);
         if (bInEditedCell && EditUp()) {
             m_pEdit->SetFocus();
@@ -335,7 +367,7 @@ void QVGridCtrl::OnLButtonUp(UINT, CPoint pt) {
                 UpdateWindow();
             }
             if (GetColType(nCol) == gctEditButton) {
-                const IgnoreFocus ignore(m_bIgnoreFocus);
+                const IgnoreFocus ignore(m_bIgnoreFocus, m_pAlive);
                 SaveEditCtrl();
             }
             if (watch && GetColType(nCol) != gctDropList) {
@@ -445,7 +477,7 @@ void QVGridCtrl::OnKeyDown(UINT nChar, UINT, UINT) {
     if (!watch || IsCurrent(target.nRow, target.nCol)) {
         return;
     }
-    const IgnoreFocus ignore(m_bIgnoreFocus);
+    const IgnoreFocus ignore(m_bIgnoreFocus, m_pAlive);
     EnsureRowVisible(target.nRow);
     GotoCell(target.nRow, target.nCol, FALSE);
     if (watch && IsCurrent(target.nRow, target.nCol) && m_model.UsesEdit(target.nCol) &&

@@ -29,11 +29,15 @@ void QVGridCtrl::CalcCellHeight() {
     m_nCellHeight = metrics.tmHeight + qv::kRowPadding;
 }
 
-void QVGridCtrl::Draw(CDC& dc, const CRect& rcClient) {
+void QVGridCtrl::MeasureRows() {
     if (m_nCellHeight == -1) {
         CalcCellHeight();
         CalcScrollBars();
     }
+}
+
+void QVGridCtrl::Draw(CDC& dc, const CRect& rcClient) {
+    MeasureRows();
     const qv::BrushLife window(m_brWindow, Sys(COLOR_WINDOW));
     const qv::BrushLife highlight(m_brHighlight, Sys(COLOR_HIGHLIGHT));
     const qv::PenLife grid(m_penGrid, Sys(COLOR_BTNFACE));

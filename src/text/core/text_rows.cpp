@@ -16,12 +16,16 @@ void SplitLine(const char* pszLine, int nWidth, const StyleTable& styles, TextSp
 
 void DisplayRows::Format(const TextLines& lines, const StyleTable& styles, int nWidth,
                          TextSplitter& splitter) {
-    if (nWidth != m_nWidth || styles.Count() != m_nStyles || lines.Generation() != m_nGeneration) {
+    if (m_width != nWidth || styles.Count() != m_nStyles || lines.Generation() != m_nGeneration) {
         m_rows.clear();
         m_nLines = 0;
-        m_nWidth = nWidth;
+        m_width = nWidth;
         m_nStyles = styles.Count();
         m_nGeneration = lines.Generation();
+    }
+    // A call that ran out of memory may have left a part of its last line.
+    while (!m_rows.empty() && m_rows.back().nLine == m_nLines) {
+        m_rows.pop_back();
     }
     for (; m_nLines < lines.Count(); ++m_nLines) {
         SplitLine(lines.Line(m_nLines), nWidth, styles, splitter, m_starts);

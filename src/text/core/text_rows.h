@@ -3,6 +3,7 @@
 #pragma once
 
 #include <deque>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -31,13 +32,13 @@ public:
     void Format(const TextLines& lines, const StyleTable& styles, int nWidth,
                 TextSplitter& splitter);
     // The widths measured before are no longer those of the font.
-    void Forget() { m_nWidth = -1; }
+    void Forget() { m_width.reset(); }
     int Count() const { return static_cast<int>(m_rows.size()); }
     const QVTEXTLINE& operator[](int nRow) const { return m_rows[static_cast<size_t>(nRow)]; }
 
 private:
     std::deque<QVTEXTLINE> m_rows;
-    int m_nWidth = -1;
+    std::optional<int> m_width;  // formatted for; none: all is to be made anew
     int m_nStyles = 0;
     int m_nLines = 0;  // formatted
     unsigned m_nGeneration = 0;

@@ -1,0 +1,170 @@
+#include "containers/header_wnd.h"
+
+#include "frame/select_object.h"
+#include "frame/wnd_port.h"
+
+IMPLEMENT_DYNCREATE(QVHeaderWnd, CWnd)
+
+BEGIN_MESSAGE_MAP(QVHeaderWnd, CWnd)
+    ON_WM_CREATE()
+    ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
+END_MESSAGE_MAP()
+
+// --- Creation
+
+QVHeaderWnd::QVHeaderWnd() = default;
+
+QVHeaderWnd::~QVHeaderWnd() {
+    DestroyWindow();
+}
+
+BOOL QVHeaderWnd::Create(DWORD dwStyle, CRect& rect, CWnd* pParent, UINT nID) {
+    DWORD dwExStyle = 0;
+    if ((dwStyle & WS_BORDER) != 0) {
+        dwStyle &= ~static_cast<DWORD>(WS_BORDER);
+        dwExStyle = WS_EX_CLIENTEDGE;
+    }
+    return CWnd::CreateEx(dwExStyle, nullptr, "", dwStyle, rect, pParent, nID);
+}
+
+int QVHeaderWnd::Initialize(UINT nID, CWnd* pParent) {
+    if (m_hWnd == nullptr && (pParent == nullptr || !SubclassDlgItem(nID, pParent))) {
+        return 0;
+    }
+    m_hHeaderFont = nullptr;
+    for (CWnd* pWnd = pParent; pWnd != nullptr && m_hHeaderFont == nullptr;
+         pWnd = pWnd->GetParent()) {
+        if (CFont* pFont = pWnd->GetFont()) {
+            m_hHeaderFont = *pFont;
+        }
+    }
+    CalcHeaderHeight();
+    return 1;
+}
+
+int QVHeaderWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
+    if (CWnd::OnCreate(lpCreateStruct) == -1) {
+        return -1;
+    }
+    const auto nID = static_cast<UINT>(reinterpret_cast<UINT_PTR>(lpCreateStruct->hMenu));
+    return Initialize(nID, CWnd::FromHandle(lpCreateStruct->hwndParent)) ? 0 : -1;
+}
+
+// --- Caption
+
+void QVHeaderWnd::SetHeaderText(LPCSTR pszText) {
+    m_strHeaderText = pszText;
+    if (m_hWnd != nullptr) {
+        CRect rect;
+        CalcHeaderRect(rect);
+        InvalidateRect(&rect, TRUE);
+    }
+}
+
+void QVHeaderWnd::SetHeaderText(UINT nStringID) {
+    CString strText;
+    if (strText.LoadString(nStringID)) {
+        SetHeaderText(static_cast<LPCSTR>(strText));
+    }
+}
+
+// --- Geometry
+
+qv::HeaderBar QVHeaderWnd::Layout() const {
+    CRect rcClient;
+    GetClientRect(&rcClient);
+    return {qv::ToRect(rcClient), m_nHeaderHeight};
+}
+
+void QVHeaderWnd::CalcHeaderHeight() {
+    CClientDC dc(this);
+    const qv::SelectGuard<CFont> font(dc, m_hHeaderFont);
+    TEXTMETRIC metrics{};
+    dc.GetTextMetrics(&metrics);
+    m_nHeaderHeight = qv::HeaderBar::HeightFor(metrics.tmHeight);
+}
+
+void QVHeaderWnd::CalcHeaderRect(CRect& rect) {
+    rect = qv::ToCRect(Layout().Bar());
+}
+
+void QVHeaderWnd::CalcHeaderTextRect(CRect& rect) {
+    CClientDC dc(this);
+    const qv::SelectGuard<CFont> font(dc, m_hHeaderFont);
+    TEXTMETRIC metrics{};
+    dc.GetTextMetrics(&metrics);
+    const CSize size = dc.GetTextExtent(m_strHeaderText);
+    rect = qv::ToCRect(Layout().Caption(metrics.tmHeight, size.cx));
+}
+
+void QVHeaderWnd::CalcBackgroundRect(CRect& rect) {
+    rect = qv::ToCRect(Layout().Body());
+}
+
+// --- Painting
+
+// The body is left to the inner control.
+void QVHeaderWnd::OnPaint() {
+    CPaintDC dc(this);
+    CRect rect;
+    CalcHeaderRect(rect);
+    if (dc.RectVisible(&rect)) {
+        DrawHeader(dc, rect);
+    }
+}
+
+BOOL QVHeaderWnd::OnEraseBkgnd(CDC* pDC) {
+    CBrush brBody;
+    CBrush brBar;
+    if (!brBody.CreateSolidBrush(::GetSysColor(COLOR_WINDOW)) ||
+        !brBar.CreateSolidBrush(::GetSysColor(COLOR_BTNFACE))) {
+        return FALSE;
+    }
+    CRect rcBar;
+    CRect rcBody;
+    CalcHeaderRect(rcBar);
+    CalcBackgroundRect(rcBody);
+    rcBar.InflateRect(-1, -1);  // the raised edge is drawn with the bar
+    if (m_bFillBody) {
+        pDC->FillRect(&rcBody, &brBody);
+    }
+    pDC->FillRect(&rcBar, &brBar);
+    return TRUE;
+}
+
+void QVHeaderWnd::DrawHeader(CDC& dc, CRect& rect) {
+    CPen penFrame;
+    if (!penFrame.CreatePen(PS_SOLID, qv::kFrameLine, ::GetSysColor(COLOR_WINDOWFRAME))) {
+        return;
+    }
+    const qv::SelectGuard<CPen> pen(dc, &penFrame);
+    dc.Draw3dRect(&rect, ::GetSysColor(COLOR_BTNHIGHLIGHT), ::GetSysColor(COLOR_BTNSHADOW));
+    dc.MoveTo(rect.left, rect.bottom);
+    dc.LineTo(rect.right, rect.bottom);
+    rect.InflateRect(-qv::kCaptionInset, 0);
+    const qv::ColorGuard colors(dc);
+    dc.SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
+    dc.SetBkColor(::GetSysColor(COLOR_BTNFACE));
+    const qv::SelectGuard<CFont> font(dc, m_hHeaderFont);
+    dc.DrawText(m_strHeaderText, &rect, DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
+}
+
+// --- The inner control
+
+void QVHeaderWnd::SizeInnerWnd(UINT nType, CWnd& wndInner) {
+    if (nType != SIZE_RESTORED || wndInner.m_hWnd == nullptr) {
+        return;
+    }
+    CRect rc;
+    CalcBackgroundRect(rc);
+    wndInner.SetWindowPos(nullptr, rc.left, rc.top, rc.Width(), rc.Height(), SWP_NOZORDER);
+}
+
+bool QVHeaderWnd::IsInnerId(UINT nInnerID, WPARAM wID) {
+    return nInnerID != static_cast<UINT>(-1) && wID == nInnerID;
+}
+
+LRESULT QVHeaderWnd::SendToParent(UINT nMessage, WPARAM wParam, LPARAM lParam) {
+    return ::SendMessage(::GetParent(m_hWnd), nMessage, wParam, lParam);
+}

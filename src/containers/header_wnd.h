@@ -1,0 +1,76 @@
+// QVHeaderWnd: a child window with a raised bar across its top that carries one line of caption,
+// and a body below it that another control fills. Derived classes put a list or a tree there; to
+// an application, that is one control with one id. Caption and settings of the inner control come
+// first, then Create, or Initialize for an item of a dialog.
+//
+// Ownership: the font is that of the nearest ancestor that has one, looked up in Initialize, and
+// stays the ancestor's. Coordinates are client pixels.
+
+#pragma once
+
+#include <afxwin.h>
+
+#include "containers/core/header_bar.h"
+#include "frame/qv_api.h"
+
+class QV_CONTROLS_API QVHeaderWnd : public CWnd {
+    DECLARE_DYNCREATE(QVHeaderWnd)
+
+public:
+    QVHeaderWnd();
+    ~QVHeaderWnd() override;
+
+    // WS_BORDER in dwStyle makes a sunken frame instead of a border. 0 on failure, also if
+    // Initialize, which WM_CREATE calls, gives 0.
+    BOOL Create(DWORD dwStyle, CRect& rect, CWnd* pParent, UINT nID);
+    // Attaches to the item nID of pParent if there is no window yet; 0 if there is no such item.
+    // Finds the font and sets the bar's height. A derived class calls this first, then makes its
+    // inner control, unless that has a window already: an application may call it once more after
+    // Create.
+    virtual int Initialize(UINT nID, CWnd* pParent);
+
+    // Height in pixels of the bar with the frame line under it. A new height neither repaints nor
+    // moves the inner control.
+    int HeaderHeight() const { return m_nHeaderHeight; }
+    void SetHeaderHeight(int nHeight) { m_nHeaderHeight = nHeight; }
+    // A string that is not in the resources leaves the caption as it is.
+    void SetHeaderText(LPCSTR pszText);
+    void SetHeaderText(UINT nStringID);
+
+protected:
+    // Fits the bar to the font, or to the device context's own where no ancestor has one.
+    virtual void CalcHeaderHeight();
+    // Draws the bar, rect without the frame line, and that line. May change rect.
+    virtual void DrawHeader(CDC& dc, CRect& rect);
+
+    void CalcHeaderRect(CRect& rect);
+    // Around the caption's text.
+    void CalcHeaderTextRect(CRect& rect);
+    // The body.
+    void CalcBackgroundRect(CRect& rect);
+
+    // --- What derived classes share
+
+    // For WM_SIZE: a restored window moves its inner control to the body.
+    void SizeInnerWnd(UINT nType, CWnd& wndInner);
+    // Whether a notification is the inner control's and goes on to this window's parent. -1 is no
+    // id.
+    static bool IsInnerId(UINT nInnerID, WPARAM wID);
+    // The parent's answer. The parent may have destroyed this window, and its object, by then.
+    LRESULT SendToParent(UINT nMessage, WPARAM wParam, LPARAM lParam);
+
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnPaint();
+    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    DECLARE_MESSAGE_MAP()
+
+    int m_nHeaderHeight = 0;
+    CString m_strHeaderText;
+    HFONT m_hHeaderFont = nullptr;  // found, not owned
+    BOOL m_bFillBody = TRUE;        // erasing also fills the body
+
+private:
+    using CWnd::Create;
+
+    qv::HeaderBar Layout() const;
+};

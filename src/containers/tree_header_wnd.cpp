@@ -1,0 +1,44 @@
+#include "containers/tree_header_wnd.h"
+
+IMPLEMENT_DYNCREATE(QVTreeHeaderWnd, QVHeaderWnd)
+
+BEGIN_MESSAGE_MAP(QVTreeHeaderWnd, QVHeaderWnd)
+    ON_WM_CREATE()
+    ON_WM_SIZE()
+END_MESSAGE_MAP()
+
+QVTreeHeaderWnd::QVTreeHeaderWnd() = default;
+
+// Before the tree's object goes.
+QVTreeHeaderWnd::~QVTreeHeaderWnd() {
+    DestroyWindow();
+}
+
+int QVTreeHeaderWnd::Initialize(UINT nID, CWnd* pParent) {
+    if (!QVHeaderWnd::Initialize(nID, pParent)) {
+        return 0;
+    }
+    if (m_wndTree.m_hWnd != nullptr) {
+        return 1;
+    }
+    CRect rcBody;
+    CalcBackgroundRect(rcBody);
+    return m_wndTree.Create(m_dwTreeStyle, rcBody, this, m_nTreeID);
+}
+
+int QVTreeHeaderWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
+    return QVHeaderWnd::OnCreate(lpCreateStruct) ? -1 : 0;
+}
+
+void QVTreeHeaderWnd::OnSize(UINT nType, int cx, int cy) {
+    QVHeaderWnd::OnSize(nType, cx, cy);
+    SizeInnerWnd(nType, m_wndTree);
+}
+
+BOOL QVTreeHeaderWnd::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
+    if (!IsInnerId(m_nTreeID, wParam)) {
+        return QVHeaderWnd::OnNotify(wParam, lParam, pResult);
+    }
+    *pResult = SendToParent(WM_NOTIFY, wParam, lParam);
+    return TRUE;
+}

@@ -1,0 +1,43 @@
+#include "list/header_ctrl_ex.h"
+
+#include <string>
+#include <string_view>
+
+#include "frame/core/styled_text.h"
+#include "frame/module_state.h"
+#include "list/core/header_fields.h"
+
+namespace {
+
+int HeaderFormat(qv::HeaderAlign align) {
+    switch (align) {
+        case qv::HeaderAlign::Left:
+            return HDF_STRING | HDF_LEFT;
+        case qv::HeaderAlign::Right:
+            return HDF_STRING | HDF_RIGHT;
+        default:
+            return HDF_STRING | HDF_CENTER;
+    }
+}
+
+}  // namespace
+
+void QVHeaderCtrlEx::AddHeader(const CString& strHeaders) {
+    const std::string_view headers(strHeaders);
+    std::string_view text;
+    int nCol = 0;
+    for (int nPos = 0; qv::NextField(headers, nPos, text);) {
+        const qv::HeaderField field = qv::ParseHeaderField(text);
+        std::string strTitle(field.title);
+        strTitle.resize(qv::ProcessText().PrefixBytes(strTitle.c_str(), qv::kHeaderItemBytes));
+        HDITEMA item{};
+        item.mask = HDI_WIDTH | HDI_TEXT | HDI_FORMAT;
+        item.cxy = qv::kHeaderItemWidth;
+        item.pszText = strTitle.data();
+        item.fmt = HeaderFormat(field.align);
+        if (SendMessage(HDM_INSERTITEMA, static_cast<WPARAM>(nCol),
+                        reinterpret_cast<LPARAM>(&item)) >= 0) {
+            ++nCol;
+        }
+    }
+}

@@ -1,0 +1,165 @@
+// The rows of the list as strings, and where a new one belongs among them.
+
+#include <algorithm>
+#include <cstdlib>
+#include <limits>
+
+#include "frame/module_state.h"
+#include "list/list_ctrl.h"
+#include "list/list_places.h"
+
+namespace {
+
+// The control inserts at the end what is to go further behind.
+constexpr int kBehindAllRows = std::numeric_limits<int>::max();
+
+}  // namespace
+
+LPCSTR QVListCtrlEx::CellText(int nItem, int nCol) {
+    constexpr size_t kUsualRoom = 256;
+    constexpr int kLongestCharacter = 4;
+    // A parent that is asked for the text may come back here: it must not meet this buffer.
+    std::vector<char> text = std::move(m_aCellText);
+    text.resize(std::max(text.size(), kUsualRoom));
+    for (;;) {
+        const int nRoom = static_cast<int>(text.size()) - 1;
+        text.front() = text.back() = '\0';
+        // A text that all but fills the room may have been cut.
+        if (CListCtrl::GetItemText(nItem, nCol, text.data(), nRoom) < nRoom - kLongestCharacter) {
+            break;
+        }
+        text.resize(text.size() * 2);
+    }
+    m_aCellText = std::move(text);
+    return m_aCellText.data();
+}
+
+BOOL QVListCtrlEx::NextField(const CString& strRow, int& nPos, CString& strField) const {
+    std::string_view field;
+    const bool bFound = qv::NextField(std::string_view(strRow), nPos, field);
+    strField = CString(field.data(), static_cast<int>(field.size()));
+    return bFound;
+}
+
+BOOL QVListCtrlEx::SetItemString(int nItem, LPCSTR pszText) {
+    if (nItem >= GetItemCount()) {
+        return FALSE;
+    }
+    SetFields(nItem, FirstTextColumn(), pszText != nullptr ? pszText : "");
+    return TRUE;
+}
+
+// Sets a cell to each field from column nCol on.
+void QVListCtrlEx::SetFields(int nItem, int nCol, std::string_view fields) {
+    std::string strField;
+    std::string_view field;
+    for (int nPos = 0; nCol < m_columns.Count() && qv::NextField(fields, nPos, field); ++nCol) {
+        strField = field;
+        m_pPlaces->CountSent();
+        SetItemText(nItem, nCol, strField.c_str());
+    }
+}
+
+BOOL QVListCtrlEx::GetItemString(int nItem, CString& str) {
+    if (nItem >= GetItemCount()) {
+        return FALSE;
+    }
+    std::string strRow;
+    for (int nCol = FirstTextColumn(); nCol < m_columns.Count(); ++nCol) {
+        qv::JoinCell(strRow, CellText(nItem, nCol), qv::kFieldSeparator);
+    }
+    str = CString(strRow.data(), static_cast<int>(strRow.size()));
+    return TRUE;
+}
+
+int QVListCtrlEx::InsertRow(int nImage, int nIndex, LPCSTR pszText) {
+    std::string_view fields = pszText != nullptr ? pszText : "";
+    std::string strFirst = "-";
+    int nCol = FirstTextColumn();
+    // A cell that is inserted with its text needs no change afterwards. A control that sorts by
+    // itself sorts a row in by what it is inserted with: by the placeholder.
+    std::string_view field;
+    int nPos = 0;
+    if (nCol == 0 && m_columns.Count() > 0 &&
+        (GetStyle() & (LVS_SORTASCENDING | LVS_SORTDESCENDING)) == 0 &&
+        qv::NextField(fields, nPos, field)) {
+        strFirst = field;
+        fields.remove_prefix(static_cast<size_t>(nPos));
+        nCol = 1;
+    }
+    m_pPlaces->CountSent();
+    nIndex = CListCtrl::InsertItem(LVIF_TEXT | LVIF_IMAGE, nIndex != -1 ? nIndex : kBehindAllRows,
+                                   strFirst.c_str(), 0, 0, nImage, 0);
+    if (nIndex != -1) {
+        SetFields(nIndex, nCol, fields);
+    }
+    return nIndex;
+}
+
+int QVListCtrlEx::InsertBitmapString(int nImage, int nIndex, LPCSTR pszText) {
+    nIndex = InsertRow(nImage, nIndex, pszText);
+    if (nIndex != -1 && m_bSingleColumn) {
+        // Without the margin that CalculateItemWidth adds: the next fit widens the column by it.
+        const int nWidth = m_nImageWidth + GetStringWidth(ParseStyleText(pszText));
+        if (nWidth > m_nDataWidth) {
+            m_nDataWidth = nWidth;
+            SetColWidth(0, std::max(m_nClientWidth, nWidth), nullptr);
+        }
+    }
+    return nIndex;
+}
+
+std::string QVListCtrlEx::PlaceKey(LPCSTR pszText, bool bNumeric) const {
+    if (bNumeric) {
+        return qv::NumberKey(static_cast<std::int32_t>(std::atol(pszText)));
+    }
+    std::string strKey;
+    qv::ProcessText().AppendSortKey(pszText, strKey);
+    return strKey;
+}
+
+void QVListCtrlEx::ReadPlaces(bool bNumeric) {
+    qv::SortedPlaces& rows = m_pPlaces->rows;
+    rows.Clear();
+    CString strRow;
+    const int nItems = GetItemCount();
+    for (int nItem = 0; nItem < nItems && GetItemString(nItem, strRow); ++nItem) {
+        rows.Append(PlaceKey(bNumeric ? ParseStyleText(strRow) : LPCSTR(strRow), bNumeric));
+    }
+    m_pPlaces->SetValid(bNumeric, NumColumns(), m_aStyles.Count());
+}
+
+int QVListCtrlEx::AddBitmapString(int nImage, LPCSTR pszText, BOOL bNumeric) {
+    const bool bNumber = bNumeric != FALSE;
+    // Labels that the user edits change without a message.
+    if ((GetStyle() & LVS_EDITLABELS) != 0 ||
+        !m_pPlaces->Valid(bNumber, GetItemCount(), NumColumns(), m_aStyles.Count())) {
+        ReadPlaces(bNumber);
+    }
+    const std::string strKey = PlaceKey(ParseStyleText(pszText), bNumber);
+    const size_t nPlace = m_pPlaces->rows.Find(strKey);
+    const int nForeign = m_pPlaces->ForeignChanges();
+    const int nIndex = InsertBitmapString(nImage, static_cast<int>(nPlace), pszText);
+    CString strRow;
+    if (nIndex == static_cast<int>(nPlace) && nForeign == m_pPlaces->ForeignChanges() &&
+        GetItemString(nIndex, strRow)) {
+        // What stands in the control now, with its code, is what later rows are compared with.
+        m_pPlaces->rows.Insert(
+            nPlace, PlaceKey(bNumber ? ParseStyleText(strRow) : LPCSTR(strRow), bNumber));
+        m_pPlaces->SetValid(bNumber, NumColumns(), m_aStyles.Count());
+    } else {
+        m_pPlaces->Invalidate();
+    }
+    return nIndex;
+}
+
+int QVListCtrlEx::GetImage(int nItem) {
+    LVITEM item{};
+    item.mask = LVIF_IMAGE;
+    item.iItem = nItem;
+    return GetItem(&item) ? item.iImage : -1;
+}
+
+BOOL QVListCtrlEx::SetImage(int nItem, int nImage) {
+    return SetItem(nItem, 0, LVIF_IMAGE, nullptr, nImage, 0, 0, 0) ? TRUE : FALSE;
+}

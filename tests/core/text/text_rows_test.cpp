@@ -1,0 +1,455 @@
+#include "text/core/text_rows.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <new>
+#include <string>
+#include <tuple>
+
+#include "base/platform_names.h"
+#include "support/failing_new.h"
+#include "support/fake_window.h"
+
+namespace {
+
+using qv::DisplayRows;
+using qv::PrintedRow;
+using qv::PrintRows;
+using qv::ScrollCode;
+using qv::StyleTable;
+using qv::TextLines;
+
+constexpr int kChar = FixedMeasure::kCharWidth;
+
+std::string Stored(std::string_view text, char chStyle = 'a') {
+    return std::string{'\x1B', chStyle}.append(text);
+}
+
+TEST(TextLines, EachIsStoredBehindItsStyleCode) {
+    TextLines lines;
+    struct Case {
+        int nStyle;
+        char chCode;
+    };
+    int nLines = 0;
+    for (const auto& [nStyle, chCode] :
+         {Case{-1, 'a'}, Case{0, 'a'}, Case{2, 'c'}, Case{31, '\x80'}, Case{256, 'a'},
+          Case{-2, '\x5F'}, Case{255, '\x60'}, Case{INT_MIN, 'a'}}) {
+        EXPECT_EQ(lines.Add("x", nStyle), ++nLines);
+        EXPECT_EQ(lines.Line(nLines - 1), Stored("x", chCode)) << nStyle;
+    }
+    EXPECT_EQ(lines.Count(), nLines);
+    EXPECT_EQ(lines.Line(-1), nullptr);
+    EXPECT_EQ(lines.Line(nLines), nullptr);
+}
+
+TEST(TextLines, TextsOfAnyLengthKeepTheirOrderAndPlace) {
+    TextLines lines;
+    std::vector<std::string> texts;
+    for (const std::size_t nLength : {0, 5, 20000, 1, 200000, 3, 16381, 16382, 0, 60000}) {
+        texts.emplace_back(nLength, static_cast<char>('a' + texts.size()));
+    }
+    for (int i = 0; i < 3000; ++i) {
+        texts.push_back(std::to_string(i) + std::string(static_cast<std::size_t>(i % 90), '.'));
+    }
+    std::vector<const char*> places;
+    for (const std::string& strText : texts) {
+        lines.Add(strText, 0);
+        places.push_back(lines.Line(lines.Count() - 1));
+    }
+    for (int i = 0; i < lines.Count(); ++i) {
+        ASSERT_EQ(lines.Line(i), places[static_cast<std::size_t>(i)]);
+        ASSERT_EQ(lines.Line(i), Stored(texts[static_cast<std::size_t>(i)]));
+    }
+    EXPECT_EQ(lines.MaxLength(), 200000);
+}
+
+TEST(TextLines, ClearForgetsAllAndSaysSo) {
+    TextLines lines;
+    for (int i = 0; i < 3; ++i) {
+        lines.Add("first", 1);
+        const unsigned nBefore = lines.Generation();
+        lines.Clear();
+        EXPECT_NE(lines.Generation(), nBefore);
+        EXPECT_EQ(lines.Count(), 0);
+        EXPECT_EQ(lines.MaxLength(), 0);
+        EXPECT_EQ(lines.Line(0), nullptr);
+    }
+    EXPECT_EQ(lines.Add("x", 0), 1);
+    EXPECT_EQ(lines.Line(0), Stored("x"));
+    EXPECT_EQ(lines.MaxLength(), 1);
+}
+
+TEST(TextLines, WithoutMemoryALineIsRefusedAndNothingChanges) {
+    TextLines lines;
+    int nRefused = 0;
+    const auto add = [&](const std::string& strText) {
+        const FailingNew failing(0);
+        return lines.Add(strText, 0);
+    };
+    for (int i = 0; i < 500; ++i) {
+        const std::string strText = std::to_string(i) + std::string(200, '.');
+        const int nMaxLength = lines.MaxLength();
+        if (add(strText) == -1) {
+            ++nRefused;
+            ASSERT_EQ(lines.Count(), i);
+            ASSERT_EQ(lines.MaxLength(), nMaxLength);
+            ASSERT_EQ(lines.Line(i), nullptr);
+            ASSERT_EQ(lines.Add(strText, 0), i + 1);
+        }
+        ASSERT_EQ(lines.Line(i), Stored(strText));
+    }
+    EXPECT_GE(nRefused, 3) << "for want of a block, and of room in the index";
+    EXPECT_EQ(add(std::string(100000, 'x')), -1);
+    EXPECT_EQ(lines.Count(), 500);
+}
+
+// "line.piece " for each row.
+std::string Show(const DisplayRows& rows) {
+    std::string strRows;
+    for (int i = 0; i < rows.Count(); ++i) {
+        strRows += std::to_string(rows[i].nLine) + '.' + std::to_string(rows[i].nSubLine) + ' ';
+    }
+    return strRows;
+}
+
+class TextRows : public testing::Test {
+protected:
+    TextRows() {
+        m_styles.Add(0, 0);
+        m_lines.Add("abc", 0);
+        m_lines.Add("", 0);
+        m_lines.Add("abcd efg h", 0);
+    }
+    // The number of calls for a width.
+    int Format(int nChars) {
+        m_measure.nCalls = 0;
+        m_rows.Format(m_lines, m_styles, nChars * kChar, m_splitter);
+        return m_measure.nCalls;
+    }
+
+    TextLines m_lines;
+    StyleTable m_styles;
+    FixedMeasure m_measure;
+    qv::TextSplitter m_splitter{m_measure};
+    DisplayRows m_rows;
+};
+
+TEST_F(TextRows, NameThePiecesOfEachLineInTurn) {
+    Format(5);
+    EXPECT_EQ(Show(m_rows), "0.0 1.0 2.0 2.1 ");
+    Format(3);
+    EXPECT_EQ(Show(m_rows), "0.0 1.0 2.0 2.1 2.2 2.3 ");
+}
+
+TEST_F(TextRows, OnlyLinesAddedSinceAreFormatted) {
+    EXPECT_GT(Format(5), 0);
+    EXPECT_EQ(Format(5), 0);
+    m_lines.Add("xy", 0);
+    EXPECT_EQ(Format(5), 1);
+    EXPECT_EQ(Show(m_rows), "0.0 1.0 2.0 2.1 3.0 ");
+}
+
+TEST_F(TextRows, AreMadeAnewForAnotherWidthStyleOrText) {
+    const int nAll = Format(50);
+    EXPECT_EQ(nAll, 2) << "one for each text that is not empty";
+    EXPECT_EQ(Format(40), nAll);
+    m_lines.Add("xy", 1);
+    EXPECT_EQ(Format(3), m_measure.nCalls);
+    EXPECT_EQ(Show(m_rows), "0.0 1.0 2.0 2.1 2.2 2.3 3.0 ");
+    m_lines.Add("z", 1);
+    Format(2);
+    EXPECT_EQ(m_rows.Count(), 11) << "the letter of a style that is not in the table shows";
+    m_styles.Add(0, 0);
+    EXPECT_GT(Format(2), 4);
+    EXPECT_EQ(m_rows.Count(), 10);
+
+    for (const int nWidth : {-1, 0, 40 * kChar}) {
+        m_rows.Format(m_lines, m_styles, nWidth, m_splitter);
+        m_measure.nCalls = 0;
+        m_rows.Forget();
+        m_rows.Format(m_lines, m_styles, nWidth, m_splitter);
+        EXPECT_GE(m_measure.nCalls, 4) << "the font is another one, in " << nWidth;
+    }
+
+    m_lines.Clear();
+    for (int i = 0; i < 5; ++i) {
+        m_lines.Add("new", 0);
+    }
+    EXPECT_EQ(Format(40), 5);
+    EXPECT_EQ(Show(m_rows), "0.0 1.0 2.0 3.0 4.0 ");
+    m_lines.Clear();
+    EXPECT_EQ(Format(40), 0);
+    EXPECT_EQ(m_rows.Count(), 0);
+}
+
+TEST_F(TextRows, AreWholeAfterACallThatRanOutOfMemory) {
+    for (int i = 0; i < 3; ++i) {
+        m_lines.Add(std::string(150, 'x'), 0);
+    }
+    Format(1);
+    const std::string strWhole = Show(m_rows);
+    int nRanOut = 0;
+    for (bool bRanOut = true; bRanOut; ++nRanOut) {
+        ASSERT_LT(nRanOut, 100);
+        DisplayRows rows;
+        bRanOut = false;
+        try {
+            const FailingNew failing(nRanOut);
+            rows.Format(m_lines, m_styles, kChar, m_splitter);
+        } catch (const std::bad_alloc&) {
+            bRanOut = true;
+        }
+        rows.Format(m_lines, m_styles, kChar, m_splitter);
+        ASSERT_TRUE(Show(rows) == strWhole) << nRanOut << " allocations";
+    }
+    EXPECT_GT(nRanOut, 5);
+}
+
+class Printing : public testing::Test {
+protected:
+    Printing() { m_styles.Add(0, 0); }
+
+    void Format(int nChars, int nLinesPerPage, bool bWithOther = false) {
+        m_rows.m_sizePrintArea = {nChars * kChar, 100};
+        qv::FormatPrintRows(m_lines, m_rows, bWithOther ? &m_other : nullptr,
+                            bWithOther ? &m_otherRows : nullptr, m_styles, m_splitter);
+        for (PrintRows* pRows : {&m_rows, &m_otherRows}) {
+            pRows->m_sizePrintArea = m_rows.m_sizePrintArea;
+            pRows->m_nLinesPerPage = nLinesPerPage;
+            pRows->m_nNumPages = m_rows.PagesNeeded();
+        }
+    }
+    bool StartPage(PrintRows& rows, const TextLines& lines, int nPage) {
+        return rows.StartPage(nPage, lines, m_styles, m_splitter, m_row);
+    }
+    bool NextLine(PrintRows& rows, const TextLines& lines, int nPage) {
+        return rows.NextLine(nPage, lines, m_styles, m_splitter, m_row);
+    }
+    bool Current() { return m_rows.CurrentLine(m_lines, m_styles, m_splitter, m_row); }
+    // "line:text|" for each row of a page.
+    std::string Page(PrintRows& rows, const TextLines& lines, int nPage) {
+        std::string strPage;
+        for (bool b = StartPage(rows, lines, nPage); b; b = NextLine(rows, lines, nPage)) {
+            strPage += std::to_string(m_row.nLine) + ':' + m_row.strText + '|';
+        }
+        return strPage;
+    }
+
+    TextLines m_lines, m_other;
+    StyleTable m_styles;
+    FixedMeasure m_measure;
+    qv::TextSplitter m_splitter{m_measure};
+    PrintRows m_rows, m_otherRows;
+    PrintedRow m_row;
+};
+
+TEST_F(Printing, TwentyFiveRowsTakeThreePagesOfTen) {
+    for (int i = 0; i < 25; ++i) {
+        m_lines.Add("t" + std::to_string(i), 0);
+    }
+    Format(20, 10);
+    EXPECT_EQ(m_rows.m_nNumPages, 3);
+    std::string strAll;
+    for (int nPage = 1; nPage <= 3; ++nPage) {
+        strAll += Page(m_rows, m_lines, nPage) + '/';
+    }
+    std::string strExpected;
+    for (int i = 0; i < 25; ++i) {
+        strExpected += std::to_string(i) + ":t" + std::to_string(i) + '|' +
+                       (i % 10 == 9 || i == 24 ? "/" : "");
+    }
+    EXPECT_EQ(strAll, strExpected);
+    EXPECT_FALSE(NextLine(m_rows, m_lines, 3)) << "behind the last row";
+    EXPECT_TRUE(Current());
+    EXPECT_EQ(m_row.strText, "t24");
+    EXPECT_EQ(Page(m_rows, m_lines, 2).substr(0, 6), "10:t10") << "in any order";
+}
+
+TEST_F(Printing, PagesThatThereAreNotGiveNoText) {
+    m_lines.Add("x", 0);
+    Format(20, 1);
+    for (const int nPage : {0, -1, 2}) {
+        m_row = {"before", 7, 0};
+        EXPECT_FALSE(StartPage(m_rows, m_lines, nPage));
+        EXPECT_EQ(m_row.strText, "");
+        EXPECT_EQ(m_row.nStyle, 7);
+    }
+    for (const auto& [nLinesPerPage, nPages] : {std::pair{0, 0}, {-3, 0}, {1, 1}, {2, 1}}) {
+        m_rows.m_nLinesPerPage = nLinesPerPage;
+        EXPECT_EQ(m_rows.PagesNeeded(), nPages);
+    }
+    m_rows.Clear();
+    EXPECT_EQ(m_rows.Count(), 0);
+    EXPECT_EQ(m_rows.m_nNumPages, 0);
+    EXPECT_EQ(m_rows.PagesNeeded(), 0);
+    EXPECT_FALSE(Current());
+    for (int i = 0; i < 2; ++i) {
+        m_rows.Add(0, 0);
+    }
+    m_rows.m_nLinesPerPage = 1;
+    EXPECT_EQ(m_rows.PagesNeeded(), 2);
+}
+
+TEST_F(Printing, BlankRowsFillTheShorterOfTwo) {
+    m_styles.Add(0, 0);
+    for (int i = 0; i < 3; ++i) {
+        m_lines.Add("a" + std::to_string(i), 1);
+    }
+    for (int i = 0; i < 5; ++i) {
+        m_other.Add("b" + std::to_string(i), 1);
+    }
+    Format(20, 9, true);
+    EXPECT_EQ(Page(m_rows, m_lines, 1), "0:a0|1:a1|2:a2|3:|4:|");
+    EXPECT_EQ(m_row.nStyle, 0) << "there is no line behind the last blank row";
+    EXPECT_EQ(Page(m_otherRows, m_other, 1), "0:b0|1:b1|2:b2|3:b3|4:b4|");
+    EXPECT_EQ(m_row.nStyle, 1);
+}
+
+TEST_F(Printing, LineStartsOnTheSameRowInBoth) {
+    m_styles.Add(0, 0);
+    for (const char* psz : {"one two", "x", "y"}) {
+        m_lines.Add(psz, 0);
+    }
+    for (const char* psz : {"u", "three four five", "v"}) {
+        m_other.Add(psz, 1);
+    }
+    Format(6, 9, true);
+    EXPECT_EQ(m_rows.Count(), 6);
+    EXPECT_EQ(m_otherRows.Count(), 6);
+    // With the line of the row itself to count by, as a caller that knows it may do.
+    const auto texts = [&](PrintRows& rows, const TextLines& lines, std::vector<int> counted) {
+        std::string strTexts;
+        for (std::size_t i = 0; i < counted.size(); ++i) {
+            m_row.nLine = counted[i];
+            EXPECT_TRUE(i == 0 ? StartPage(rows, lines, 1) : NextLine(rows, lines, 1));
+            strTexts += m_row.strText + '|';
+        }
+        return strTexts;
+    };
+    EXPECT_EQ(texts(m_rows, m_lines, {0, 0, 1, 1, 1, 2}), "one |two|x|||y|");
+    EXPECT_EQ(texts(m_otherRows, m_other, {0, 0, 1, 1, 1, 2}), "u||thre|e four |five|v|")
+        << "the code takes two of the first piece's six bytes";
+    EXPECT_EQ(m_row.nStyle, 1);
+}
+
+TEST_F(Printing, PiecesAreThoseOfTheLinePassedIn) {
+    m_lines.Add("x", 0);
+    m_lines.Add("aaa bbb ccc", 0);  // stored, its pieces start at 0, 6 and 10
+    m_lines.Add("0123456789", 0);   // at 0, 5 and 10
+    Format(5, 99);
+    ASSERT_EQ(m_rows.Count(), 6);
+    EXPECT_EQ(Page(m_rows, m_lines, 1), "0:x|1:aaa bbb ccc|1:bbb |1:ccc|2:0123|2:34567|")
+        << "one variable for all rows: each line's first row is cut by the line before";
+
+    const auto rowCountedBy = [&](int nRow, int nLine) {
+        EXPECT_TRUE(StartPage(m_rows, m_lines, 1));
+        for (int i = 0; i < nRow; ++i) {
+            m_row.nLine = i < 3 ? 1 : 2;
+            EXPECT_TRUE(NextLine(m_rows, m_lines, 1));
+            m_row = {"before", 7, nLine};
+        }
+        m_row = {"before", 7, nLine};
+        return Current();
+    };
+    for (const int nNone : {-1, 3}) {
+        EXPECT_TRUE(rowCountedBy(1, nNone));
+        EXPECT_EQ(m_row.strText, "aaa bbb ccc") << "no line is one piece";
+    }
+    EXPECT_FALSE(rowCountedBy(2, 0)) << "x has no second piece";
+    EXPECT_EQ(std::tie(m_row.strText, m_row.nStyle, m_row.nLine), std::tuple("before", 7, 0));
+    EXPECT_TRUE(rowCountedBy(2, 2));
+    EXPECT_EQ(m_row.strText, " bbb ");
+    EXPECT_EQ(m_row.nLine, 1);
+}
+
+TEST_F(Printing, NothingIsReadBehindALineWhoseStartsAreAnothers) {
+    m_lines.Add("ab", 0);
+    m_lines.Add("aaaaaaaa bbbbbbbb", 0);
+    Format(10, 99);
+    m_rows.Add(0, 1);  // a second row of the first line, as another area would have made
+    ASSERT_TRUE(StartPage(m_rows, m_lines, 1));
+    EXPECT_TRUE(NextLine(m_rows, m_lines, 1));
+    EXPECT_TRUE(NextLine(m_rows, m_lines, 1));
+    EXPECT_TRUE(NextLine(m_rows, m_lines, 1));
+    EXPECT_EQ(m_row.strText, "");
+    EXPECT_EQ(m_row.nLine, 0);
+}
+
+TEST(TextScroll, CodesArePlatformValuesWithBothThumbsAlike) {
+    for (const auto& [nCode, code] : {std::pair{SB_LINEUP, ScrollCode::LineUp},
+                                      {SB_LINEDOWN, ScrollCode::LineDown},
+                                      {SB_PAGEUP, ScrollCode::PageUp},
+                                      {SB_PAGEDOWN, ScrollCode::PageDown},
+                                      {SB_THUMBPOSITION, ScrollCode::Thumb},
+                                      {SB_THUMBTRACK, ScrollCode::Thumb},
+                                      {SB_TOP, ScrollCode::Top},
+                                      {SB_BOTTOM, ScrollCode::Bottom},
+                                      {SB_ENDSCROLL, ScrollCode::Other}}) {
+        EXPECT_EQ(qv::ScrollCodeOf(static_cast<unsigned>(nCode)), code) << nCode;
+    }
+    EXPECT_EQ(qv::ScrollCodeOf(0xFFFFFFFF), ScrollCode::Other);
+}
+
+constexpr int kRefused = -1;
+
+int Target(ScrollCode code, int nPos, int nCount, int nPage, unsigned nWanted = 0) {
+    int nTarget = -99;
+    const bool bMoves = qv::ScrollTarget(code, nWanted, nPos, nCount, nPage, nTarget);
+    EXPECT_EQ(bMoves, nTarget != -99);
+    return bMoves ? nTarget : kRefused;
+}
+
+TEST(TextScroll, CodesLeadToTheirRow) {
+    // Fifty rows, ten of them in view: the last position is 40.
+    struct Case {
+        ScrollCode code;
+        int nPos, nTarget;
+    };
+    for (const auto& [code, nPos, nTarget] : {Case{ScrollCode::LineUp, 0, kRefused},
+                                              {ScrollCode::LineUp, 1, 0},
+                                              {ScrollCode::LineUp, 45, 44},
+                                              {ScrollCode::LineDown, 0, 1},
+                                              {ScrollCode::LineDown, 39, 40},
+                                              {ScrollCode::LineDown, 40, kRefused},
+                                              {ScrollCode::LineDown, 45, kRefused},
+                                              {ScrollCode::PageUp, 0, kRefused},
+                                              {ScrollCode::PageUp, 4, 0},
+                                              {ScrollCode::PageUp, 10, 0},
+                                              {ScrollCode::PageUp, 11, 1},
+                                              {ScrollCode::PageDown, 29, 39},
+                                              {ScrollCode::PageDown, 30, 40},
+                                              {ScrollCode::PageDown, 33, 40},
+                                              {ScrollCode::PageDown, 40, kRefused},
+                                              {ScrollCode::Top, 0, kRefused},
+                                              {ScrollCode::Top, 17, 0},
+                                              {ScrollCode::Bottom, 17, 40},
+                                              {ScrollCode::Bottom, 40, kRefused},
+                                              {ScrollCode::Other, 17, kRefused}}) {
+        EXPECT_EQ(Target(code, nPos, 50, 10), nTarget)
+            << "code " << static_cast<int>(code) << " at " << nPos;
+    }
+}
+
+TEST(TextScroll, ThumbGoesWhereItMayAndIsNotClamped) {
+    for (const auto& [nWanted, nTarget] :
+         {std::pair{0u, 0}, {40u, 40}, {17u, kRefused}, {41u, kRefused}, {0x7FFFFFFFu, kRefused}}) {
+        EXPECT_EQ(Target(ScrollCode::Thumb, 17, 50, 10, nWanted), nTarget) << nWanted;
+    }
+}
+
+TEST(TextScroll, TextShorterThanThePageMovesOnlyToItsTopOrWithTheThumb) {
+    for (const int nPage : {3, 10}) {
+        for (const ScrollCode code : {ScrollCode::LineDown, ScrollCode::PageDown,
+                                      ScrollCode::Bottom, ScrollCode::LineUp, ScrollCode::Top}) {
+            EXPECT_EQ(Target(code, 0, 3, nPage), kRefused);
+        }
+        EXPECT_EQ(Target(ScrollCode::Top, 2, 3, nPage), 0);
+        EXPECT_EQ(Target(ScrollCode::PageUp, 2, 3, nPage), 0);
+    }
+    EXPECT_EQ(Target(ScrollCode::Thumb, 0, 3, 3, 2), kRefused);
+    EXPECT_EQ(Target(ScrollCode::Thumb, 0, 3, 10, 2), 2) << "a limit below zero refuses nothing";
+}
+
+}  // namespace

@@ -1,0 +1,417 @@
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+#include "frame/select_object.h"
+#include "support/list_window.h"
+#include "support/picture.h"
+
+namespace {
+
+constexpr UINT kHeaderId = 90;
+constexpr UINT kInnerId = 91;
+constexpr DWORD kChild = WS_CHILD | WS_VISIBLE;
+constexpr UINT kProbe = 5000;  // a notification code that no control uses
+
+template <class Header>
+class Open : public Header {
+public:
+    using Header::CalcBackgroundRect;
+    using Header::CalcHeaderRect;
+    using Header::CalcHeaderTextRect;
+    using Header::m_bFillBody;
+    using Header::m_hHeaderFont;
+};
+
+// In a parent with a font, not created yet.
+template <class Header>
+struct Window {
+    bool Create(DWORD dwStyle = kChild) {
+        CRect rc(10, 10, 210, 130);
+        return header.Create(dwStyle, rc, &parent, kHeaderId);
+    }
+    CRect Bar() {
+        CRect rc;
+        header.CalcHeaderRect(rc);
+        return rc;
+    }
+    CRect Body() {
+        CRect rc;
+        header.CalcBackgroundRect(rc);
+        return rc;
+    }
+    // In the header's client pixels.
+    CRect PlaceOf(CWnd& wnd) {
+        CRect rc;
+        wnd.GetWindowRect(&rc);
+        header.ScreenToClient(&rc);
+        return rc;
+    }
+    int Children() {
+        int n = 0;
+        for (HWND h = ::GetWindow(header.m_hWnd, GW_CHILD); h != nullptr;
+             h = ::GetWindow(h, GW_HWNDNEXT)) {
+            ++n;
+        }
+        return n;
+    }
+    LRESULT SendProbe(UINT nID) {
+        NMHDR nm{parent.m_hWnd, nID, kProbe};
+        return header.SendMessage(WM_NOTIFY, nID, reinterpret_cast<LPARAM>(&nm));
+    }
+    Picture Shown() {
+        header.RedrawWindow();
+        return Picture::OfClient(header.m_hWnd);
+    }
+
+    FontParent parent{CSize(300, 200)};
+    Open<Header> header;
+};
+
+// A window of a plain class, as a dialog makes it for an item.
+HWND MakeItem(CWnd& parent) {
+    CWnd item;
+    item.Create(nullptr, "", kChild, CRect(0, 0, 150, 90), &parent, kHeaderId);
+    return item.UnsubclassWindow();
+}
+
+class SpyList : public QVListCtrlEx {
+    DECLARE_DYNCREATE(SpyList)
+
+public:
+    ~SpyList() override { ++s_nDeleted; }
+    BOOL Initialize(UINT nID, UINT nBitmapID, COLORREF crMask, int cx, CWnd* pParent) override {
+        m_nBitmap = nBitmapID;
+        m_crMask = crMask;
+        m_cx = cx;
+        return m_bAccepts && QVListCtrlEx::Initialize(nID, nBitmapID, crMask, cx, pParent);
+    }
+    UINT m_nBitmap = 0;
+    COLORREF m_crMask = 0;
+    int m_cx = 0;
+    bool m_bAccepts = true;
+    static int s_nDeleted;
+};
+int SpyList::s_nDeleted = 0;
+IMPLEMENT_DYNCREATE(SpyList, QVListCtrlEx)
+
+TEST(HeaderWnd, ABorderBecomesASunkenFrame) {
+    Window<QVHeaderWnd> w;
+    ASSERT_TRUE(w.Create(kChild | WS_BORDER));
+    EXPECT_FALSE(w.header.GetStyle() & WS_BORDER);
+    EXPECT_TRUE(w.header.GetExStyle() & WS_EX_CLIENTEDGE);
+    EXPECT_EQ(w.header.GetDlgCtrlID(), static_cast<int>(kHeaderId));
+    Window<QVHeaderWnd> plain;
+    ASSERT_TRUE(plain.Create());
+    EXPECT_FALSE(plain.header.GetExStyle() & WS_EX_CLIENTEDGE);
+}
+
+TEST(HeaderWnd, TheBarFitsTheFontOfTheParents) {
+    Window<QVHeaderWnd> w;
+    ASSERT_TRUE(w.Create());
+    EXPECT_EQ(w.header.m_hHeaderFont, static_cast<HFONT>(*w.parent.GetFont()));
+    TextRecorder dc;
+    const auto heightIn = [&dc](HFONT hFont) {
+        const qv::SelectGuard<CFont> font(dc, hFont);
+        TEXTMETRIC metrics;
+        dc.GetTextMetrics(&metrics);
+        return static_cast<int>(metrics.tmHeight) + 4;
+    };
+    EXPECT_EQ(w.header.HeaderHeight(), heightIn(w.header.m_hHeaderFont));
+    RecordingParent bare;
+    Open<QVHeaderWnd> fontless;
+    CRect rc(0, 0, 100, 50);
+    ASSERT_TRUE(fontless.Create(kChild, rc, &bare, kHeaderId));
+    EXPECT_EQ(fontless.m_hHeaderFont, nullptr);
+    EXPECT_EQ(fontless.HeaderHeight(), heightIn(nullptr));
+}
+
+TEST(HeaderWnd, AttachesToAnItemOnce) {
+    Window<QVListHeaderWnd> w;
+    EXPECT_EQ(w.header.Initialize(kHeaderId, &w.parent), 0) << "no such item";
+    EXPECT_EQ(w.header.Initialize(kHeaderId, nullptr), 0);
+    const HWND hItem = MakeItem(w.parent);
+    ASSERT_EQ(w.header.Initialize(kHeaderId, &w.parent), 1);
+    EXPECT_EQ(w.header.m_hWnd, hItem);
+    EXPECT_EQ(w.PlaceOf(*w.header.GetListBox()), w.Body());
+    EXPECT_EQ(w.header.Initialize(kHeaderId, &w.parent), 1);
+    EXPECT_EQ(w.Children(), 1);
+
+    Window<QVTreeHeaderWnd> tree;
+    ASSERT_TRUE(tree.Create());
+    EXPECT_EQ(tree.header.Initialize(kHeaderId, &tree.parent), 1);
+    EXPECT_EQ(tree.Children(), 1);
+    EXPECT_EQ(tree.header.GetTreeCtrl().GetStyle() & 0x37u, 0x37u);
+}
+
+TEST(HeaderWnd, ACaptionInvalidatesTheBarAlone) {
+    Window<QVHeaderWnd> w;
+    w.header.SetHeaderText("before");
+    ASSERT_TRUE(w.Create());
+    w.header.UpdateWindow();
+    CRect rcText;
+    w.header.CalcHeaderTextRect(rcText);
+    EXPECT_GT(rcText.Width(), 0) << "kept until the window came";
+    CRect rcDue;
+    ASSERT_FALSE(w.header.GetUpdateRect(&rcDue));
+    w.header.SetHeaderText("a longer one");
+    EXPECT_TRUE(w.header.GetUpdateRect(&rcDue));
+    EXPECT_EQ(rcDue, w.Bar());
+    CRect rcLonger;
+    w.header.CalcHeaderTextRect(rcLonger);
+    EXPECT_GT(rcLonger.Width(), rcText.Width());
+    w.header.SetHeaderText(59999u);
+    CRect rcSame;
+    w.header.CalcHeaderTextRect(rcSame);
+    EXPECT_EQ(rcSame, rcLonger) << "no such string";
+}
+
+TEST(HeaderWnd, PaintsARaisedBarAFrameLineAndTheBody) {
+    Window<QVHeaderWnd> w;
+    ASSERT_TRUE(w.Create());
+    w.header.SetHeaderHeight(61);
+    const Picture empty = w.Shown();
+    const CRect rc = w.Bar();
+    ASSERT_EQ(rc, CRect(0, 0, 200, 60));
+    EXPECT_EQ(empty.Count(::GetSysColor(COLOR_BTNHIGHLIGHT), CRect(0, 0, 199, 1)), 199);
+    EXPECT_EQ(empty.Count(::GetSysColor(COLOR_BTNSHADOW), CRect(0, 59, 200, 60)), 200);
+    EXPECT_EQ(empty.Count(::GetSysColor(COLOR_BTNSHADOW), CRect(199, 0, 200, 60)), 60);
+    EXPECT_EQ(empty.Count(::GetSysColor(COLOR_WINDOWFRAME), CRect(0, 60, 200, 61)), 200);
+    EXPECT_EQ(empty.Count(::GetSysColor(COLOR_BTNFACE), CRect(1, 1, 199, 59)), 198 * 58);
+    EXPECT_EQ(empty.Count(::GetSysColor(COLOR_WINDOW), w.Body()), 200 * 59);
+    {
+        CClientDC dc(&w.header);
+        dc.FillSolidRect(CRect(0, 80, 200, 120), RGB(255, 0, 0));
+    }
+    w.header.m_bFillBody = FALSE;
+    EXPECT_EQ(w.Shown().Count(RGB(255, 0, 0)), 200 * 40) << "the body is left alone";
+}
+
+TEST(HeaderWnd, TheCaptionStandsInTheMiddleAndIsCutAtTheRight) {
+    Window<QVHeaderWnd> w;
+    ASSERT_TRUE(w.Create());
+    const int nTextHeight = w.header.HeaderHeight() - 4;
+    w.header.SetHeaderHeight(61);
+    w.header.SetHeaderText("&Wg with far more text than the bar of this window has room for");
+    const Picture shown = w.Shown();
+    const COLORREF crFace = ::GetSysColor(COLOR_BTNFACE);
+    CRect rcInk;
+    for (int y = 1; y < 59; ++y) {
+        for (int x = 1; x < 199; ++x) {
+            if (shown.At(x, y) != crFace) {
+                rcInk |= CRect(x, y, x + 1, y + 1);
+            }
+        }
+    }
+    const int nTop = (60 - nTextHeight) / 2;
+    EXPECT_GE(rcInk.top, nTop);
+    EXPECT_LE(rcInk.bottom, nTop + nTextHeight + 1);
+    EXPECT_GT(rcInk.Height(), nTextHeight / 2);
+    EXPECT_GE(rcInk.left, 6);
+    EXPECT_LT(rcInk.left, 10);
+    EXPECT_LE(rcInk.right, 194);
+    EXPECT_GT(rcInk.right, 170);
+}
+
+TEST(HeaderWnd, PaintsLeaveNoHandles) {
+    Window<QVHeaderWnd> w;
+    w.header.SetHeaderText("caption");
+    ASSERT_TRUE(w.Create());
+    w.Shown();
+    const LONG nHandles = AfxGetOwnedHandleCount();
+    for (int i = 0; i < 500; ++i) {
+        w.header.RedrawWindow();
+    }
+    EXPECT_EQ(AfxGetOwnedHandleCount(), nHandles);
+}
+
+TEST(HeaderWnd, ARestoredWindowMovesItsControl) {
+    Window<QVListHeaderWnd> list;
+    Window<QVTreeHeaderWnd> tree;
+    const auto check = [](auto& w, CWnd& inner) {
+        EXPECT_EQ(w.PlaceOf(inner), w.Body());
+        w.header.MoveWindow(0, 0, 120, 80);
+        EXPECT_EQ(w.Body(), CRect(0, w.header.HeaderHeight(), 120, 80));
+        EXPECT_EQ(w.PlaceOf(inner), w.Body());
+        const CRect rcOff(5, 50, 50, 70);
+        inner.MoveWindow(&rcOff);
+        w.header.SendMessage(WM_SIZE, SIZE_MINIMIZED, 0);
+        w.header.SendMessage(WM_SIZE, SIZE_MAXIMIZED, MAKELPARAM(120, 80));
+        EXPECT_EQ(w.PlaceOf(inner), rcOff);
+        w.header.SendMessage(WM_SIZE, SIZE_RESTORED, MAKELPARAM(120, 80));
+        EXPECT_EQ(w.PlaceOf(inner), w.Body());
+    };
+    ASSERT_TRUE(list.Create());
+    check(list, *list.header.GetListBox());
+    ASSERT_TRUE(tree.Create());
+    check(tree, tree.header.GetTreeCtrl());
+}
+
+TEST(HeaderWnd, TheListIsOfTheClassThatIsGiven) {
+    SpyList::s_nDeleted = 0;
+    FontParent parent(CSize(300, 200));
+    CRect rc(0, 0, 200, 100);
+    {
+        QVListHeaderWnd header(RUNTIME_CLASS(SpyList));
+        header.SetListStyle(kChild | LVS_NOSORTHEADER);
+        header.SetImageInfo(kListImages, kListImageMask, kListImageWidth);
+        ASSERT_TRUE(header.Create(kChild, rc, &parent, kHeaderId));
+        auto* pList = DYNAMIC_DOWNCAST(SpyList, header.GetListBox());
+        ASSERT_NE(pList, nullptr);
+        EXPECT_TRUE(pList->GetStyle() & LVS_NOSORTHEADER);
+        EXPECT_EQ(pList->m_nBitmap, kListImages);
+        EXPECT_EQ(pList->m_crMask, kListImageMask);
+        EXPECT_EQ(pList->m_cx, kListImageWidth);
+        EXPECT_NE(pList->GetImageList(LVSIL_SMALL), nullptr);
+        pList->InsertBitmapString(0, -1, "row");
+        CString strRow;
+        EXPECT_TRUE(pList->GetItemString(0, strRow));
+        header.DestroyWindow();
+        EXPECT_EQ(SpyList::s_nDeleted, 0);
+        ASSERT_TRUE(header.Create(kChild, rc, &parent, kHeaderId)) << "a second window";
+        header.DestroyWindow();
+        pList->m_bAccepts = false;
+        EXPECT_FALSE(header.Create(kChild, rc, &parent, kHeaderId));
+        EXPECT_EQ(header.m_hWnd, nullptr);
+    }
+    EXPECT_EQ(SpyList::s_nDeleted, 1);
+    QVListHeaderWnd wrong(RUNTIME_CLASS(QVTreeCtrlEx));
+    EXPECT_EQ(wrong.GetListBox(), nullptr);
+    EXPECT_FALSE(wrong.Create(kChild, rc, &parent, kHeaderId));
+    MakeItem(parent);
+    EXPECT_EQ(wrong.Initialize(kHeaderId, &parent), 0);
+}
+
+TEST(HeaderWnd, NotificationsAndCommandsOfTheListReachTheGrandparent) {
+    Window<QVListHeaderWnd> w;
+    w.header.SetListID(kInnerId);
+    ASSERT_TRUE(w.Create());
+    QVListCtrlEx& list = *w.header.GetListBox();
+    w.parent.SetResult(kProbe, 77);
+    w.parent.Forget();
+    list.InsertBitmapString(0, -1, "row");
+    ASSERT_NE(w.parent.Last(LVN_INSERTITEM), nullptr);
+    EXPECT_EQ(w.parent.Last(LVN_INSERTITEM)->idFrom, kInnerId);
+    EXPECT_EQ(w.parent.Last(LVN_INSERTITEM)->hwndFrom, list.m_hWnd);
+    EXPECT_EQ(w.SendProbe(kInnerId), 77);
+    EXPECT_EQ(w.SendProbe(kInnerId + 1), 0) << "another control";
+    EXPECT_EQ(w.parent.Count(kProbe), 1);
+    const auto command = [&](UINT nID) {
+        return w.header.SendMessage(WM_COMMAND, MAKEWPARAM(nID, 5),
+                                    reinterpret_cast<LPARAM>(list.m_hWnd));
+    };
+    EXPECT_EQ(command(kInnerId), 1);
+    EXPECT_EQ(command(kInnerId + 1), 0);
+    ASSERT_EQ(w.parent.m_commands.size(), 1u);
+    EXPECT_EQ(w.parent.m_commands[0].id, kInnerId);
+    EXPECT_EQ(w.parent.m_commands[0].code, 5u);
+    EXPECT_EQ(w.parent.m_commands[0].hwnd, list.m_hWnd);
+}
+
+TEST(HeaderWnd, TheTreeAsksTheGrandparentAndForwardsNoCommands) {
+    Window<QVTreeHeaderWnd> w;
+    w.header.SetTreeID(kInnerId);
+    ASSERT_TRUE(w.Create());
+    QVTreeCtrlEx& tree = w.header.GetTreeCtrl();
+    const HTREEITEM hFirst = tree.InsertItem("first", 0, 0, nullptr, TVI_LAST);
+    const HTREEITEM hSecond = tree.InsertItem("second", 0, 0, nullptr, TVI_LAST);
+    tree.SelectItem(hFirst);
+    w.parent.SetResult(TVN_SELCHANGING, 1);
+    tree.SendMessage(WM_KEYDOWN, VK_DOWN);
+    EXPECT_EQ(w.parent.Count(TVN_SELCHANGING), 1);
+    EXPECT_EQ(tree.GetSelectedItem(), hFirst) << "refused";
+    w.parent.SetResult(TVN_SELCHANGING, 0);
+    tree.SendMessage(WM_KEYDOWN, VK_DOWN);
+    EXPECT_EQ(tree.GetSelectedItem(), hSecond);
+    EXPECT_EQ(w.parent.Count(TVN_SELCHANGED), 1);
+    w.header.SendMessage(WM_COMMAND, MAKEWPARAM(kInnerId, 5),
+                         reinterpret_cast<LPARAM>(tree.m_hWnd));
+    EXPECT_TRUE(w.parent.m_commands.empty());
+}
+
+TEST(HeaderWnd, WithoutAnIdNothingIsForwarded) {
+    constexpr UINT kNoId = static_cast<UINT>(-1);
+    Window<QVTreeHeaderWnd> tree;
+    ASSERT_TRUE(tree.Create());
+    tree.header.GetTreeCtrl().InsertItem("a", 0, 0, nullptr, TVI_LAST);
+    tree.parent.Forget();
+    tree.header.GetTreeCtrl().SendMessage(WM_KEYDOWN, VK_DOWN);
+    tree.SendProbe(kNoId);
+    EXPECT_TRUE(tree.parent.m_notifications.empty());
+    Window<QVListHeaderWnd> list;
+    ASSERT_TRUE(list.Create());
+    list.parent.Forget();
+    list.header.GetListBox()->InsertBitmapString(0, -1, "row");
+    list.SendProbe(kNoId);
+    list.header.SendMessage(WM_COMMAND, MAKEWPARAM(0xFFFF, 5),
+                            reinterpret_cast<LPARAM>(list.header.GetListBox()->m_hWnd));
+    EXPECT_TRUE(list.parent.m_notifications.empty());
+    EXPECT_TRUE(list.parent.m_commands.empty());
+}
+
+TEST(HeaderWnd, AParentMayDestroyItInANotification) {
+    Window<QVTreeHeaderWnd> w;
+    w.header.SetTreeID(kInnerId);
+    ASSERT_TRUE(w.Create());
+    QVTreeCtrlEx& tree = w.header.GetTreeCtrl();
+    tree.InsertItem("a", 0, 0, nullptr, TVI_LAST);
+    w.parent.m_hook = [&](NMHDR* pHeader, LRESULT* pResult) {
+        *pResult = 0;
+        return pHeader->code == TVN_SELCHANGING && w.header.DestroyWindow();
+    };
+    tree.SendMessage(WM_KEYDOWN, VK_DOWN);
+    EXPECT_EQ(w.header.m_hWnd, nullptr);
+    EXPECT_EQ(tree.m_hWnd, nullptr);
+
+    // The object too.
+    auto pHeader = std::make_unique<QVListHeaderWnd>();
+    pHeader->SetListID(kInnerId);
+    CRect rc(0, 0, 200, 100);
+    ASSERT_TRUE(pHeader->Create(kChild, rc, &w.parent, kHeaderId));
+    w.parent.m_hook = [&](NMHDR*, LRESULT* pResult) {
+        pHeader.reset();
+        *pResult = 78;
+        return true;
+    };
+    NMHDR nm{w.parent.m_hWnd, kInnerId, kProbe};
+    EXPECT_EQ(pHeader->SendMessage(WM_NOTIFY, kInnerId, reinterpret_cast<LPARAM>(&nm)), 78);
+    EXPECT_EQ(pHeader, nullptr);
+}
+
+TEST(HeaderCtrlEx, AddsAColumnForEachField) {
+    FontParent parent(CSize(400, 100));
+    QVHeaderCtrlEx header;
+    ASSERT_TRUE(header.Create(kChild | HDS_HORZ, CRect(0, 0, 400, 25), &parent, kHeaderId));
+    const auto title = [&](int nCol, int* pFormat = nullptr) {
+        char szText[400] = "none";
+        HDITEM item{};
+        item.mask = HDI_TEXT | HDI_FORMAT | HDI_WIDTH;
+        item.pszText = szText;
+        item.cchTextMax = sizeof(szText);
+        EXPECT_TRUE(header.GetItem(nCol, &item));
+        EXPECT_EQ(item.cxy, 100);
+        if (pFormat != nullptr) {
+            *pFormat = item.fmt & HDF_JUSTIFYMASK;
+        }
+        return std::string(szText);
+    };
+    header.AddHeader("");
+    EXPECT_EQ(header.GetItemCount(), 0);
+    header.AddHeader("<Left\t>Right\tMiddle\t");
+    ASSERT_EQ(header.GetItemCount(), 3) << "none behind the last TAB";
+    int nFormat = -1;
+    EXPECT_EQ(title(0, &nFormat), "Left");
+    EXPECT_EQ(nFormat, HDF_LEFT);
+    EXPECT_EQ(title(1, &nFormat), "Right");
+    EXPECT_EQ(nFormat, HDF_RIGHT);
+    EXPECT_EQ(title(2, &nFormat), "Middle");
+    EXPECT_EQ(nFormat, HDF_CENTER);
+    header.AddHeader(("<" + std::string(300, 'x') + "\t>y").c_str());
+    ASSERT_EQ(header.GetItemCount(), 5);
+    EXPECT_EQ(title(0), std::string(254, 'x')) << "in front, and cut";
+    EXPECT_EQ(title(1), "y");
+    EXPECT_EQ(title(2), "Left");
+}
+
+}  // namespace

@@ -1,0 +1,338 @@
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "support/grid_window.h"
+#include "support/pump.h"
+#include "support/real_input.h"
+
+namespace {
+
+// --- What a parent may do while it is told
+
+// Lies alone on its pages, which are gone with it: a touch of the deleted control is a crash.
+class GuardedGrid : public OpenGrid {
+public:
+    static void* operator new(size_t nBytes) {
+        return ::VirtualAlloc(nullptr, nBytes, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE);
+    }
+    static void operator delete(void* p) {
+        DWORD dwOld;
+        ::VirtualProtect(p, sizeof(GuardedGrid), PAGE_NOACCESS, &dwOld);
+    }
+};
+
+struct Told {
+    const char* pszName;
+    UINT nCode;
+    // Ends with the notification.
+    std::function<void(GridWindow<GuardedGrid>&)> act;
+};
+
+void PressIn(GridWindow<GuardedGrid>& w, CPoint pt) {
+    ::SendMessage(w.grid.m_hWnd, WM_LBUTTONDOWN, 0, MAKELPARAM(pt.x, pt.y));
+}
+void KeyIn(GridWindow<GuardedGrid>& w, UINT vk) {
+    ::SendMessage(w.grid.m_hWnd, WM_KEYDOWN, vk, 0);
+}
+void ChooseLine(GridWindow<GuardedGrid>& w) {
+    PressIn(w, w.At(0, kList));
+    ::SendMessage(w.List(), LB_SETCURSEL, 1, 0);
+}
+void ClickButton(GridWindow<GuardedGrid>& w, int nCol) {
+    const CPoint pt = w.ButtonRect(0, nCol).CenterPoint();
+    PressIn(w, pt);
+    w.parent.m_commands.clear();
+    ::SendMessage(w.grid.m_hWnd, WM_LBUTTONUP, 0, MAKELPARAM(pt.x, pt.y));
+}
+
+const Told kTold[] = {
+    {"Button", kButtonOrList, [](auto& w) { ClickButton(w, kButton); }},
+    {"EditButton", kButtonOrList, [](auto& w) { ClickButton(w, kEditButton); }},
+    {"ListClick", kButtonOrList,
+     [](auto& w) {
+         w.grid.SetColListData(kList, nullptr);
+         PressIn(w, w.At(0, kList));
+     }},
+    {"ListKey", kButtonOrList,
+     [](auto& w) {
+         w.grid.SetColListData(kList, nullptr);
+         w.grid.GotoCell(0, kList, FALSE);
+         ::SendMessage(w.grid.m_hWnd, WM_SYSKEYDOWN, VK_DOWN, 1 << 29);
+     }},
+    {"ChosenByMouse", kListChanged,
+     [](auto& w) {
+         ChooseLine(w);
+         ::SendMessage(w.List(), WM_LBUTTONUP, 0, 0);
+     }},
+    {"ChosenByClickOnCell", kListChanged,
+     [](auto& w) {
+         ChooseLine(w);
+         PressIn(w, w.At(0, kList));
+     }},
+    {"ChosenByAltDown", kListChanged,
+     [](auto& w) {
+         ChooseLine(w);
+         ::SendMessage(w.grid.m_hWnd, WM_SYSKEYDOWN, VK_DOWN, 1 << 29);
+     }},
+    {"ChosenByKeyAway", kListChanged,
+     [](auto& w) {
+         ChooseLine(w);
+         KeyIn(w, VK_LEFT);
+     }},
+    {"ChosenByClickAway", kListChanged,
+     [](auto& w) {
+         ChooseLine(w);
+         PressIn(w, w.At(2, kEditButton));
+     }},
+    {"ChosenByScrolling", kListChanged,
+     [](auto& w) {
+         ChooseLine(w);
+         ::SendMessage(w.grid.m_hWnd, WM_VSCROLL, SB_LINEDOWN, 0);
+     }},
+    {"ChosenByFocusLoss", kListChanged,
+     [](auto& w) {
+         ChooseLine(w);
+         w.other.SetFocus();
+     }},
+    {"Typed", EN_CHANGE,
+     [](auto& w) {
+         PressIn(w, w.At(0, kEdit));
+         w.parent.m_commands.clear();
+         ::SendMessage(w.Edit(), WM_CHAR, 'x', 0);
+     }},
+    {"OpenedByClick", EN_CHANGE, [](auto& w) { PressIn(w, w.At(1, kEdit)); }},
+    {"OpenedByKey", EN_CHANGE,
+     [](auto& w) {
+         w.grid.GotoCell(0, kStatic, FALSE);
+         KeyIn(w, VK_RIGHT);
+     }},
+    {"OpenedByFocus", EN_CHANGE,
+     [](auto& w) {
+         w.grid.GotoCell(0, kEdit, FALSE);
+         w.other.SetFocus();
+         w.grid.SetFocus();
+     }},
+    {"SetFromCode", EN_CHANGE,
+     [](auto& w) {
+         PressIn(w, w.At(0, kEdit));
+         w.parent.m_commands.clear();
+         w.grid.SetCellText(0, kEdit, "set");
+     }},
+    // A list over an open edit, as the answer to a change: the choice changes the edit.
+    {"ChosenOverAnEdit", EN_CHANGE,
+     [](auto& w) {
+         PressIn(w, w.At(0, kEdit));
+         w.grid.PopupList(w.choices);
+         ::SendMessage(w.List(), LB_SETCURSEL, 1, 0);
+         w.parent.m_commands.clear();
+         ::SendMessage(w.List(), WM_LBUTTONUP, 0, 0);
+     }},
+};
+
+enum class Deed { DestroyWindow, DeleteControl, DestroyParent, DeleteRows };
+
+class GridHostileParent : public testing::TestWithParam<std::tuple<Deed, size_t>> {};
+
+TEST_P(GridHostileParent, MayTakeTheGroundAway) {
+    const auto [deed, nTold] = GetParam();
+    const Told& told = kTold[nTold];
+    GridWindow<GuardedGrid> w(30);
+    BringToFront(w.parent.m_hWnd);
+    HWND hWnd = w.grid.m_hWnd;
+    int nDone = 0;
+    // Opening an editor tells of a change as well, so a case that wants a later one forgets first.
+    const bool bFirst = std::string(told.pszName).find("Opened") == 0 || told.nCode != EN_CHANGE;
+    bool bOpened = bFirst;
+    w.parent.m_answer = [&, deed = deed](UINT nCode) {
+        if (nCode != told.nCode || nDone > 0) {
+            return;
+        }
+        if (!bOpened) {
+            bOpened = true;
+            return;
+        }
+        ++nDone;
+        switch (deed) {
+            case Deed::DestroyWindow:
+                w.grid.DestroyWindow();
+                break;
+            case Deed::DeleteControl:
+                w.DeleteGrid();
+                break;
+            case Deed::DestroyParent:
+                w.parent.DestroyWindow();
+                break;
+            case Deed::DeleteRows:
+                w.grid.DeleteAllRows();
+                w.grid.AddRow("only", 0);
+                break;
+        }
+    };
+    told.act(w);
+    PumpPending();
+    EXPECT_EQ(nDone, 1);
+    EXPECT_EQ(::IsWindow(hWnd) != FALSE, deed == Deed::DeleteRows);
+    EXPECT_EQ(w.bDeleted || deed == Deed::DeleteRows || w.grid.m_hWnd == nullptr, true);
+    if (!w.bDeleted) {
+        EXPECT_FALSE(w.grid.m_bIgnoreFocus);
+    }
+    EXPECT_TRUE(w.List() == nullptr || deed == Deed::DeleteRows);
+    if (deed == Deed::DeleteRows) {
+        KeyIn(w, VK_DOWN);
+        w.grid.UpdateWindow();
+        EXPECT_EQ(w.grid.CurrentRow(), 0);
+        EXPECT_EQ(w.grid.RowAt(0).dwState & GRS_CURRENT, static_cast<unsigned>(GRS_CURRENT));
+        EXPECT_EQ(w.Text(0, kStatic), "only");
+    }
+}
+
+std::string HostileName(const testing::TestParamInfo<std::tuple<Deed, size_t>>& test) {
+    const char* const aDeeds[] = {"DestroyWindow", "DeleteControl", "DestroyParent", "DeleteRows"};
+    const auto [deed, nTold] = test.param;
+    return std::string(aDeeds[static_cast<int>(deed)]) + "_" + kTold[nTold].pszName;
+}
+
+INSTANTIATE_TEST_SUITE_P(Deeds, GridHostileParent,
+                         testing::Combine(testing::Values(Deed::DestroyWindow, Deed::DeleteControl,
+                                                          Deed::DestroyParent, Deed::DeleteRows),
+                                          testing::Range<size_t>(0, std::size(kTold))),
+                         HostileName);
+
+TEST(GridAnswers, ATextChangedWhileItsEditorOpensIsNotOverwritten) {
+    GridWindow<> w(3);
+    BringToFront(w.parent.m_hWnd);
+    int nChanges = 0;
+    w.parent.m_answer = [&](UINT) {
+        if (nChanges++ == 0) {
+            w.grid.DeleteAllRows();
+            w.grid.AddRow("name\tfresh", 0);
+        }
+    };
+    w.grid.GotoCell(0, kEdit, TRUE);
+    EXPECT_NE(w.Edit(), nullptr);
+    w.other.SetFocus();
+    EXPECT_EQ(nChanges, 2);
+    EXPECT_EQ(w.Text(0, kEdit), "fresh");
+}
+
+// --- Anything in any order
+
+TEST(GridMonkey, SurvivesAnyOrderOfInputAndAnswers) {
+    GridWindow<> w(8);
+    RecordingParent away(CSize(50, 50));
+    BringToFront(w.parent.m_hWnd);
+    std::mt19937 random(11);
+    const auto pick = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
+    int nDepth = 0;
+    w.parent.m_answer = [&](UINT) {
+        if (++nDepth < 3) {
+            switch (pick(12)) {
+                case 0:
+                case 1:
+                    w.grid.PopupList(w.choices);
+                    break;
+                case 2:
+                    w.grid.SetCellText(pick(9), pick(5), "answer");
+                    break;
+                case 3:
+                    if (pick(4) == 0) {
+                        w.grid.DeleteAllRows();
+                        for (int i = pick(30); i >= 0; --i) {
+                            w.grid.AddRow("r\te\tb\ttwo\tx", 0);
+                        }
+                    }
+                    break;
+                case 4:
+                    w.grid.EnableCell(pick(9), pick(5), pick(2));
+                    break;
+                case 5:
+                    w.grid.GotoCell(pick(9), pick(5), pick(2));
+                    break;
+                default:
+                    break;
+            }
+        }
+        --nDepth;
+    };
+    const WORD aKeys[] = {VK_LEFT, VK_RIGHT, VK_UP,    VK_DOWN,   VK_HOME, VK_END,
+                          VK_NEXT, VK_PRIOR, VK_SPACE, VK_ESCAPE, 'X',     VK_BACK};
+    const auto at = [&] { return MAKELPARAM(pick(430), pick(210)); };
+    int nEdits = 0;
+    int nLists = 0;
+    for (int i = 0; i < 3000; ++i) {
+        HWND hWndFocus = ::GetFocus() != nullptr ? ::GetFocus() : w.grid.m_hWnd;
+        switch (pick(16)) {
+            case 0:
+            case 1:
+            case 2:
+                ::PostMessage(hWndFocus, WM_KEYDOWN, aKeys[pick(12)], 1);
+                break;
+            case 3:
+                if (::GetFocus() != nullptr) {
+                    TypeKey(aKeys[pick(12)]);
+                }
+                break;
+            case 4:
+                ::PostMessage(w.grid.m_hWnd, WM_SYSKEYDOWN, VK_DOWN, 1 << 29);
+                break;
+            case 5:
+            case 6:
+                ::PostMessage(w.grid.m_hWnd, WM_LBUTTONDOWN, 0, at());
+                break;
+            case 7:
+                ::PostMessage(w.grid.m_hWnd, WM_LBUTTONUP, 0, at());
+                break;
+            case 8:
+                ClickAt(w.grid.m_hWnd, CPoint(pick(400), pick(200)));
+                break;
+            case 9:
+                if (HWND hWndList = w.List()) {
+                    ::PostMessage(hWndList, pick(2) != 0 ? WM_MOUSEMOVE : WM_LBUTTONUP, 0,
+                                  MAKELPARAM(pick(90), pick(60)));
+                }
+                break;
+            case 10:
+                pick(2) != 0 ? w.other.SetFocus() : w.grid.SetFocus();
+                break;
+            case 11:
+                BringToFront(pick(3) == 0 ? away.m_hWnd : w.parent.m_hWnd);
+                break;
+            case 12:
+                w.grid.SendMessage(WM_VSCROLL, static_cast<WPARAM>(pick(8)));
+                break;
+            case 13:
+                w.grid.SetCellReadOnly(pick(9), pick(5), pick(3) == 0);
+                w.grid.EnableCell(pick(9), pick(5), pick(3) != 0);
+                break;
+            case 14:
+                w.grid.SetReadOnly(pick(5) == 0);
+                w.grid.SendMessage(pick(8) == 0 ? WM_CANCELMODE : WM_NULL);
+                w.grid.AddRow("more\trows", 0);
+                break;
+            default:
+                if (pick(10) == 0) {
+                    w.grid.DeleteAllRows();
+                    w.grid.AddRow("a\tb\tc\tone\td", 0);
+                }
+                w.grid.SetColType(pick(5) == 0 ? pick(5) : -1, static_cast<GridColType>(pick(5)));
+                break;
+        }
+        PumpPending();
+        nEdits += w.Edit() != nullptr;
+        nLists += w.List() != nullptr;
+        int nMarked = 0;
+        for (int nRow = 0; nRow < w.grid.NumRows(); ++nRow) {
+            nMarked += (w.grid.RowAt(nRow).dwState & GRS_CURRENT) != 0;
+        }
+        ASSERT_EQ(nMarked, w.grid.CurrentRow() >= 0) << "step " << i;
+        ASSERT_LT(w.grid.CurrentRow(), w.grid.NumRows()) << "step " << i;
+        ASSERT_TRUE(w.grid.m_nTopRow >= 0 || w.grid.NumRows() == 0) << "step " << i;
+        ASSERT_FALSE(w.grid.m_bIgnoreFocus) << "step " << i;
+    }
+    EXPECT_GT(nEdits, 100);
+    EXPECT_GT(nLists, 20);
+    ::ReleaseCapture();
+}
+
+}  // namespace

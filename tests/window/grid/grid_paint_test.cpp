@@ -1,0 +1,226 @@
+#include <gtest/gtest.h>
+
+#include "afx_gdi.h"
+#include "support/grid_window.h"
+#include "support/picture.h"
+#include "support/pump.h"
+#include "support/real_input.h"
+
+namespace {
+
+const COLORREF kWindow = ::GetSysColor(COLOR_WINDOW);
+const COLORREF kText = ::GetSysColor(COLOR_WINDOWTEXT);
+const COLORREF kGray = ::GetSysColor(COLOR_GRAYTEXT);
+const COLORREF kHighlight = ::GetSysColor(COLOR_HIGHLIGHT);
+const COLORREF kFace = ::GetSysColor(COLOR_BTNFACE);
+const COLORREF kDark = ::GetSysColor(COLOR_3DDKSHADOW);
+constexpr COLORREF kRed = RGB(255, 0, 0);
+
+// Rows of height h fit exactly, or with a part of one more.
+class GridPaint : public testing::Test {
+protected:
+    GridPaint() : grid(w.grid), h(w.grid.m_nCellHeight) {
+        BringToFront(w.parent.m_hWnd);
+        w.other.SetFocus();
+        PumpPending();
+    }
+    Picture Shown() {
+        grid.Invalidate(FALSE);
+        return Picture::OfClient(grid.m_hWnd);
+    }
+    void SetHeight(int nHeight) {
+        grid.SetWindowPos(nullptr, 0, 0, 420, nHeight, SWP_NOMOVE | SWP_NOZORDER);
+    }
+    void AddRows(int nRows) {
+        for (int i = 0; i < nRows; ++i) {
+            grid.AddRow("name\tabc\tdef\tone\tbtn", 0);
+        }
+    }
+    void Redden(const CRect& rc) {
+        grid.UpdateWindow();
+        CClientDC dc(&grid);
+        dc.FillSolidRect(&rc, kRed);
+    }
+    bool HasBar() { return (grid.GetStyle() & WS_VSCROLL) != 0; }
+
+    GridWindow<> w{0};
+    OpenGrid& grid;
+    const int h;
+};
+
+TEST_F(GridPaint, WithoutRowsTheWindowColourAlone) {
+    EXPECT_EQ(Shown().Count(kWindow), 420 * 200);
+    AddRows(3);
+    EXPECT_GT(Shown().Count(kFace), 0);
+    grid.DeleteAllRows();
+    EXPECT_EQ(Picture::OfClient(grid.m_hWnd).Count(kWindow), 420 * 200);
+}
+
+TEST_F(GridPaint, LinesRunUnderAndBesideEachCellAndTheLastColumnReachesTheEdge) {
+    AddRows(3);
+    const Picture picture = Shown();
+    for (int nRow = 0; nRow < 3; ++nRow) {
+        EXPECT_EQ(picture.Count(kFace, CRect(0, (nRow + 1) * h - 1, 420, (nRow + 1) * h)), 420);
+        int x = 0;
+        for (int nCol = 0; nCol < 5; ++nCol) {
+            x = nCol < 4 ? x + grid.GetColWidth(nCol) : 420;
+            EXPECT_EQ(picture.Count(kFace, CRect(x - 1, nRow * h, x, (nRow + 1) * h)), h) << x;
+        }
+    }
+    EXPECT_EQ(picture.Count(kFace), 3 * (420 + 5 * (h - 1))) << "and nowhere else";
+    EXPECT_EQ(w.CellRect(1, kButton), CRect(310, h, 420, 2 * h));
+    int nRow;
+    int nCol;
+    grid.CellFromPoint(CPoint(419, h), nRow, nCol);
+    EXPECT_EQ(nRow * 10 + nCol, 14);
+    grid.CellFromPoint(CPoint(5, 3 * h), nRow, nCol);
+    EXPECT_EQ(nRow * 10 + nCol, -11) << "below the rows";
+    BOOL bOnButton = FALSE;
+    grid.CellFromPoint(w.ButtonRect(2, kList).CenterPoint(), nRow, nCol, bOnButton);
+    EXPECT_TRUE(bOnButton) << "of a cell that is not the current one too";
+}
+
+TEST_F(GridPaint, TheCurrentRowShowsInItsFirstCellWithoutFocus) {
+    AddRows(3);
+    grid.GotoCell(1, kStatic, FALSE);
+    grid.EnableCell(1, kStatic, FALSE);
+    grid.SetFocus();
+    Picture picture = Shown();
+    EXPECT_EQ(picture.Count(kHighlight, CRect(0, h, 59, h + 1)), 59) << "no frame on it";
+    EXPECT_GT(picture.Count(kHighlight, CRect(0, h, 60, 2 * h)), 59 * (h - 1) / 2);
+    EXPECT_EQ(picture.Count(kHighlight), picture.Count(kHighlight, CRect(0, h, 60, 2 * h)));
+    EXPECT_EQ(picture.Count(kGray, CRect(0, h, 60, 2 * h)), 0) << "nor is it grey";
+    // Another cell of the row shows the focus, within its lines; the first one stays lit.
+    grid.SetReadOnly(TRUE);
+    grid.GotoCell(1, kList, FALSE);
+    const auto onTop = [&] { return Shown().Count(kWindow, CRect(230, h, 309, h + 1)); };
+    EXPECT_LT(onTop(), 79);
+    EXPECT_GT(Shown().Count(kHighlight), 0);
+    w.other.SetFocus();
+    EXPECT_EQ(onTop(), 79);
+}
+
+TEST_F(GridPaint, DisabledTextIsGray) {
+    AddRows(2);
+    grid.EnableCell(1, kEdit, FALSE);
+    const Picture picture = Shown();
+    const CRect rc(62, h + 1, 138, 2 * h - 2);
+    EXPECT_GT(picture.Count(kGray, rc), 0);
+    EXPECT_EQ(picture.Count(kText, rc), 0);
+    EXPECT_GT(picture.Count(kText, CRect(62, 1, 138, h - 2)), 0);
+    grid.EnableCell(1, kEdit, TRUE);
+    EXPECT_EQ(Picture::OfClient(grid.m_hWnd).Count(kGray, rc), 0);
+}
+
+TEST_F(GridPaint, AButtonShowsInTheCurrentCellOnlyAndShowsItsPress) {
+    AddRows(3);
+    grid.GotoCell(1, kButton, FALSE);
+    const CRect rc = w.ButtonRect(1, kButton);
+    EXPECT_EQ(rc, CRect(419 - h, h, 419, 2 * h - 1));
+    const CRect rcRight(rc.right - 1, rc.top, rc.right, rc.bottom);
+    const CRect rcLeft(rc.left, rc.top, rc.left + 1, rc.bottom - 1);
+    Picture picture = Shown();
+    EXPECT_EQ(picture.Count(kDark, rcRight), rc.Height());
+    const CRect rcFace(rc.left + 2, rc.top + 2, rc.right - 2, rc.bottom - 2);
+    EXPECT_LT(picture.Count(kFace, rcFace), rcFace.Width() * rcFace.Height()) << "the dots";
+    EXPECT_EQ(picture.Count(kDark), picture.Count(kDark, rc)) << "nowhere else";
+    PressAt(grid.m_hWnd, rc.CenterPoint());
+    picture = Picture::OfClient(grid.m_hWnd);
+    EXPECT_EQ(picture.Count(kDark, rcLeft), rc.Height() - 1);
+    EXPECT_LT(picture.Count(kDark, rcRight), 2);
+    MoveTo(grid.m_hWnd, CPoint(5, 5));
+    EXPECT_EQ(Picture::OfClient(grid.m_hWnd).Count(kDark, rcRight), rc.Height());
+    ReleaseAt(grid.m_hWnd, CPoint(5, 5));
+    grid.EnableCell(1, kButton, FALSE);
+    EXPECT_EQ(Picture::OfClient(grid.m_hWnd).Count(kDark), 0);
+    grid.GotoCell(2, kList, FALSE);
+    EXPECT_GT(Picture::OfClient(grid.m_hWnd).Count(kFace, w.ButtonRect(2, kList)), h * h / 4);
+    grid.SetReadOnly(TRUE);
+    EXPECT_EQ(Shown().Count(kFace, w.ButtonRect(2, kList)), 0);
+}
+
+TEST_F(GridPaint, TheBarComesWithOneRowMoreThanFits) {
+    SetHeight(5 * h);
+    AddRows(5);
+    grid.UpdateWindow();
+    EXPECT_FALSE(HasBar());
+    AddRows(1);
+    EXPECT_TRUE(HasBar());
+    SCROLLINFO info{};
+    grid.GetScrollInfo(SB_VERT, &info, SIF_ALL);
+    EXPECT_EQ(info.nPage, 5u);
+    EXPECT_EQ(info.nMax, 5);
+    grid.DeleteAllRows();
+    EXPECT_FALSE(HasBar());
+    // A part of a row shows but does not count.
+    SetHeight(5 * h + h / 2);
+    AddRows(6);
+    EXPECT_TRUE(HasBar());
+    EXPECT_EQ(Shown().Count(kFace, CRect(59, 5 * h, 60, 5 * h + h / 2)), h / 2);
+}
+
+TEST_F(GridPaint, ScrollingMovesThePixelsAndPaintsWhatComesIntoView) {
+    SetHeight(5 * h);
+    AddRows(20);
+    Shown();
+    const int nWidth = Shown().Width();
+    Redden(CRect(10, 3 * h, 40, 4 * h));
+    grid.SendMessage(WM_VSCROLL, SB_LINEDOWN);
+    CRect rcDue;
+    grid.GetUpdateRect(&rcDue);
+    EXPECT_EQ(rcDue, CRect(0, 4 * h, nWidth, 5 * h));
+    const Picture picture = Picture::OfClient(grid.m_hWnd);
+    EXPECT_EQ(picture.Count(kRed), 30 * h);
+    EXPECT_EQ(picture.Count(kRed, CRect(10, 2 * h, 40, 3 * h)), 30 * h);
+    EXPECT_EQ(picture.Count(kFace, CRect(0, 5 * h - 1, nWidth, 5 * h)), nWidth);
+    const auto after = [&](UINT nCode, UINT nPos = 0) {
+        grid.SendMessage(WM_VSCROLL, MAKEWPARAM(nCode, nPos));
+        EXPECT_EQ(grid.GetScrollPos(SB_VERT), grid.m_nTopRow);
+        return grid.m_nTopRow;
+    };
+    EXPECT_EQ(after(SB_PAGEDOWN), 5) << "one row stays in view";
+    EXPECT_EQ(after(SB_PAGEUP), 1);
+    EXPECT_EQ(after(SB_PAGEUP), 0);
+    EXPECT_EQ(after(SB_LINEUP), 0);
+    EXPECT_EQ(after(SB_THUMBTRACK, 9), 9);
+    EXPECT_EQ(after(SB_THUMBPOSITION, 40), 15);
+    EXPECT_EQ(after(SB_LINEDOWN), 15);
+    EXPECT_EQ(after(SB_TOP), 0);
+    EXPECT_EQ(after(SB_BOTTOM), 15);
+    grid.EnsureRowVisible(3);
+    EXPECT_EQ(grid.m_nTopRow, 3);
+    grid.EnsureRowVisible(8);
+    EXPECT_EQ(grid.m_nTopRow, 4);
+}
+
+TEST_F(GridPaint, ANewTextTouchesItsCellAlone) {
+    AddRows(5);
+    grid.GotoCell(0, kStatic, FALSE);
+    Shown();
+    Redden(CRect(0, 0, 420, 200));
+    const CRect rc = w.CellRect(2, kEdit);
+    grid.SetCellText(2, kEdit, "new");
+    const Picture picture = Picture::OfClient(grid.m_hWnd);
+    EXPECT_EQ(picture.Count(kRed, rc), 0);
+    EXPECT_EQ(picture.Count(kRed), 420 * 200 - rc.Width() * rc.Height());
+    Redden(CRect(0, 0, 420, 200));
+    grid.SendMessage(WM_SETREDRAW, FALSE);
+    grid.SetCellText(2, kEdit, "newer");
+    EXPECT_EQ(Picture::OfClient(grid.m_hWnd).Count(kRed), 420 * 200);
+    grid.SendMessage(WM_SETREDRAW, TRUE);
+    EXPECT_EQ(Picture::OfClient(grid.m_hWnd).Count(kRed), 0);
+}
+
+TEST_F(GridPaint, KeepsNoHandles) {
+    AddRows(20);
+    grid.GotoCell(1, kButton, FALSE);
+    Shown();
+    const long nHandles = AfxGetOwnedHandleCount();
+    for (int i = 0; i < 2000; ++i) {
+        grid.GotoCell(i % 5, i % 2 != 0 ? kButton : kList, FALSE);
+        grid.UpdateWindow();
+    }
+    EXPECT_EQ(AfxGetOwnedHandleCount(), nHandles);
+}
+
+}  // namespace
