@@ -1,5 +1,4 @@
-// The controls in real windows: window_bench [tree | list | grid | text], without an argument all of
-// them.
+// The controls in real windows: window_bench [tree | list | grid | text]; all without an argument.
 
 #include "window_bench.h"
 
