@@ -63,10 +63,13 @@ void QVGridCtrl::RegisterDlgControlClass(UINT nDialogID) {
 }
 
 void QVGridCtrl::OnDestroy() {
+    // An edit that goes may hand its focus to the grid, which must not open another one.
+    m_bIgnoreFocus = TRUE;
     QVCustCtrl::OnDestroy();
     m_bEditing = m_bBtnDown = FALSE;
     m_pEdit.reset();
     m_pList.reset();
+    m_bIgnoreFocus = FALSE;
 }
 
 void QVGridCtrl::InvalidateAll() {
@@ -139,10 +142,10 @@ BOOL QVGridCtrl::UseFieldButton(int nCol) const {
 
 int QVGridCtrl::AutoSizeColumn(int nCol, int nMinWidth) {
     CStringArray strings;
+    CString strText;
     for (int nRow = 0; nRow < NumRows(); ++nRow) {
-        const char* pszText = m_model.Text(nRow, nCol);
-        if (pszText != nullptr && *pszText != '\0') {
-            strings.Add(pszText);
+        if (GetCellText(nRow, nCol, strText) && !strText.IsEmpty()) {
+            strings.Add(strText);
         }
     }
     return SizeToStrings(nCol, strings, nMinWidth);
@@ -184,6 +187,7 @@ int QVGridCtrl::AddRow(UINT nStringID, DWORD dwState) {
 void QVGridCtrl::DeleteAllRows() {
     m_model.DeleteAllRows();
     m_nTopRow = m_nCurRow = m_nCurCol = -1;
+    m_editCell = {};
     if (CanRepaint()) {
         CalcScrollBars();
         InvalidateAll();
@@ -227,7 +231,7 @@ BOOL QVGridCtrl::GetCellText(int nRow, int nCol, CString& str) {
     if (!IsValidRow(nRow) || !IsValidColumn(nCol)) {
         return FALSE;
     }
-    if (IsCurrent(nRow, nCol) && m_bEditing && EditUp()) {
+    if (m_bEditing && m_editCell == qv::GridCell{nRow, nCol} && EditUp()) {
         m_pEdit->GetWindowText(str);
         return TRUE;
     }
@@ -242,7 +246,7 @@ void QVGridCtrl::SetCellText(int nRow, int nCol, const CString& str) {
     }
     m_model.SetText(nRow, nCol, {str, static_cast<size_t>(str.GetLength())});
     const Watch watch(*this);
-    if (m_bEditing && IsCurrent(nRow, nCol) && EditUp()) {
+    if (m_bEditing && m_editCell == qv::GridCell{nRow, nCol} && EditUp()) {
         m_pEdit->SetWindowText(str);
         if (!watch || m_pEdit == nullptr) {
             return;

@@ -191,6 +191,9 @@ private:
     bool OwnKey(UINT nChar);
 
     qv::GridModel m_model;
+    qv::GridCell m_editCell;   // that the edit was opened for
+    unsigned m_nMoves = 0;     // of the current cell
+    unsigned m_nOpenings = 0;  // of the edit
     std::unique_ptr<QVGridEdit> m_pEdit;
     std::unique_ptr<QVGridList> m_pList;
     std::shared_ptr<bool> m_pAlive;  // false once the control is gone

@@ -32,12 +32,15 @@ private:
 
 }  // namespace
 
+// By the editor's own style: what it holds is not lost because a window around the grid is hidden.
 bool QVGridCtrl::EditUp() const {
-    return m_pEdit != nullptr && m_pEdit->m_hWnd != nullptr && m_pEdit->IsWindowVisible();
+    return m_pEdit != nullptr && m_pEdit->m_hWnd != nullptr &&
+           (m_pEdit->GetStyle() & WS_VISIBLE) != 0;
 }
 
 bool QVGridCtrl::ListUp() const {
-    return m_pList != nullptr && m_pList->m_hWnd != nullptr && m_pList->IsWindowVisible();
+    return m_pList != nullptr && m_pList->m_hWnd != nullptr &&
+           (m_pList->GetStyle() & WS_VISIBLE) != 0;
 }
 
 // The parent answers at once; it may change or destroy anything of the grid.
@@ -65,17 +68,26 @@ void QVGridCtrl::GotoCell(int nRow, int nCol, BOOL bActivate) {
     }
     MoveRowMark(nRow);
     const Watch watch(*this);
+    const unsigned nMove = ++m_nMoves;
     if (bActivate && IsCellEnabled(nRow, nCol) && !m_bReadOnly) {
         ActivateCell(nRow, nCol);
     } else {
         SaveEditors();
     }
-    if (!watch || !IsValidRow(nRow)) {
+    if (!watch) {
         return;
     }
-    // Last: what was saved belongs to the cell that was current. The parent, being told, may have
-    // gone elsewhere.
-    MoveRowMark(nRow);
+    if (nMove != m_nMoves || !IsValidRow(nRow)) {
+        // The parent, being told, has gone elsewhere or taken the row away: it stays at that.
+        if (nRow != m_nCurRow && IsValidRow(nRow)) {
+            RowAt(nRow).dwState &= ~GRS_CURRENT;
+        }
+        if (IsValidRow(m_nCurRow)) {
+            RowAt(m_nCurRow).dwState |= GRS_CURRENT;
+        }
+        return;
+    }
+    // Last: what was saved belongs to the cell that was current.
     m_nCurRow = nRow;
     m_nCurCol = nCol;
     InvalidateRow(nRow, FALSE);
@@ -106,6 +118,10 @@ void QVGridCtrl::ActivateCell(int nRow, int nCol) {
         m_pEdit = std::make_unique<QVGridEdit>(*this);
         m_pEdit->Create(WS_CHILD | ES_WANTRETURN | ES_AUTOHSCROLL, CRect(0, 0, 0, 0), this,
                         kGridEditId);
+        if (m_pEdit->m_hWnd == nullptr) {
+            m_pEdit.reset();
+            return;
+        }
         m_pEdit->SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(m_hFont), FALSE);
     } else {
         m_pEdit->ShowWindow(SW_HIDE);
@@ -121,11 +137,13 @@ void QVGridCtrl::ActivateCell(int nRow, int nCol) {
         const char* pszText = m_model.Text(nRow, nCol);
         return CString(pszText != nullptr ? pszText : "");
     };
+    m_editCell = {nRow, nCol};
+    const unsigned nOpening = ++m_nOpenings;
     CString strShown;
     for (int nTry = 0; nTry == 0 || (nTry == 1 && strShown != text()); ++nTry) {
         strShown = text();
         m_pEdit->SetWindowText(strShown);
-        if (!watch || m_pEdit == nullptr || !IsValidRow(nRow)) {
+        if (!watch || m_pEdit == nullptr || !IsValidRow(nRow) || nOpening != m_nOpenings) {
             return;
         }
     }
@@ -165,10 +183,10 @@ void QVGridCtrl::SaveEditCtrl() {
     }
     CString strText;
     m_pEdit->GetWindowText(strText);
-    // Not through the public SetCellText, which would write the text into the edit again.
-    if (IsValidRow(m_nCurRow)) {
-        m_model.SetText(m_nCurRow, m_nCurCol, {strText, static_cast<size_t>(strText.GetLength())});
-    }
+    // Not through the public SetCellText, which would write the text into the edit again. To the
+    // cell that it was opened for, wherever the current cell has gone meanwhile.
+    m_model.SetText(m_editCell.nRow, m_editCell.nCol,
+                    {strText, static_cast<size_t>(strText.GetLength())});
     HideEditCtrl();
 }
 
@@ -223,8 +241,8 @@ void QVGridCtrl::SaveListBox() {
             }
         }
     }
-    if (watch) {
-        HideListBox();
+    if (watch && ListUp()) {
+        HideListBox();  // unless the parent has done so, and perhaps opened the edit
     }
 }
 
@@ -236,6 +254,11 @@ void QVGridCtrl::PopupList(CStringArray& strings) {
     if (m_pList == nullptr) {
         m_pList = std::make_unique<QVGridList>(*this);
         m_pList->CreateEx(0, "LISTBOX", nullptr, WS_POPUP | WS_BORDER, CRect(0, 0, 0, 0), this, 0);
+        if (m_pList->m_hWnd == nullptr) {
+            m_pList.reset();
+            return;
+        }
+        m_pList->SetOwner(this);
         m_pList->SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(m_hFont), FALSE);
     } else {
         m_pList->ShowWindow(SW_HIDE);
@@ -288,7 +311,7 @@ void QVGridCtrl::OnLButtonDown(UINT, CPoint pt) {
     {
         // The focus that comes to the grid saves what the edit holds.
         const IgnoreFocus ignore(m_bIgnoreFocus, m_pAlive);
-        const bool bInEditedCell = m_bEditing && IsCurrent(nRow, nCol);
+        const bool bInEditedCell = m_bEditing && IsValidRow(nRow) && IsCurrent(nRow, nCol);
         if (bInEditedCell && EditUp()) {
             m_pEdit->SetFocus();
         } else if (!bInEditedCell || !ListUp()) {

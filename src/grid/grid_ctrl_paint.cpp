@@ -3,6 +3,7 @@
 #include "frame/select_object.h"
 #include "frame/wnd_port.h"
 #include "grid/grid_ctrl.h"
+#include "grid/grid_editors.h"
 
 namespace {
 
@@ -155,6 +156,11 @@ LRESULT QVGridCtrl::OnGetFont(WPARAM, LPARAM) {
 LRESULT QVGridCtrl::OnSetFont(WPARAM wParam, LPARAM lParam) {
     m_nCellHeight = -1;
     m_hFont = reinterpret_cast<HFONT>(wParam);
+    for (CWnd* pEditor : {static_cast<CWnd*>(m_pEdit.get()), static_cast<CWnd*>(m_pList.get())}) {
+        if (pEditor != nullptr) {
+            pEditor->SendMessage(WM_SETFONT, wParam, FALSE);
+        }
+    }
     if (LOWORD(lParam) == 1) {
         InvalidateRect(nullptr, FALSE);
     }

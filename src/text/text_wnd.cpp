@@ -10,8 +10,12 @@
 
 namespace {
 
-// All text windows, so that one that goes can end pairings with it.
-std::vector<QVTextWnd*> s_windows;
+// All text windows of the thread, so that one that goes can end pairings with it. Never freed:
+// global objects may be windows until the process ends.
+std::vector<QVTextWnd*>& Windows() {
+    static thread_local auto* pWindows = new std::vector<QVTextWnd*>;
+    return *pWindows;
+}
 
 std::string_view View(const CString& str) {
     return {str, static_cast<size_t>(str.GetLength())};
@@ -37,12 +41,12 @@ END_MESSAGE_MAP()
 
 QVTextWnd::QVTextWnd()
     : m_crBk(::GetSysColor(COLOR_WINDOW)), m_pMeasure(std::make_unique<Measure>(*this)) {
-    s_windows.push_back(this);
+    Windows().push_back(this);
 }
 
 QVTextWnd::~QVTextWnd() {
-    std::erase(s_windows, this);
-    for (QVTextWnd* pWindow : s_windows) {
+    std::erase(Windows(), this);
+    for (QVTextWnd* pWindow : Windows()) {
         if (pWindow->m_pSyncWnd == this) {
             pWindow->m_pSyncWnd = nullptr;
         }
@@ -99,6 +103,7 @@ int QVTextWnd::Initialize(UINT nID, CWnd* pParent, int bBorder) {
         return 0;
     }
     m_pMeasure->font.SetFont(static_cast<HFONT>(font.GetSafeHandle()));
+    m_rows.Forget();
     {
         CClientDC dc(this);
         const qv::SelectGuard<CFont> selected(dc, &font);
@@ -124,7 +129,8 @@ void QVTextWnd::OnDestroy() {
 int QVTextWnd::AddText(const char* pszText, int nStyle) {
     const int nLines = m_lines.Add(pszText != nullptr ? pszText : "", nStyle);
     if (nLines != -1) {
-        m_nMaxLineLength = std::max(m_nMaxLineLength, m_lines.MaxLength());
+        const size_t nLength = pszText != nullptr ? strlen(pszText) : 0;
+        m_nMaxLineLength = std::max(m_nMaxLineLength, static_cast<int>(nLength));
         m_nNumRows = std::max(m_nNumRows, nLines);
     }
     return nLines;
@@ -266,7 +272,6 @@ void QVTextWnd::SetPrintAreaSize(const CSize& size) {
 }
 
 void QVTextWnd::FormatText(CDC* pDC, const CSize& sizeArea) {
-    const CWaitCursor wait;
     QVTextWnd* pPartner = m_pSyncWnd;
     ClearPrintData();
     SetPrintAreaSize(sizeArea);
@@ -279,8 +284,13 @@ void QVTextWnd::FormatText(CDC* pDC, const CSize& sizeArea) {
     }
     qv::DcMeasure measure(*pDC);
     qv::TextSplitter splitter(measure);
-    qv::FormatPrintRows(m_lines, m_print, pPartner != nullptr ? &pPartner->m_lines : nullptr,
-                        pPartner != nullptr ? &pPartner->m_print : nullptr, m_aStyles, splitter);
+    try {
+        qv::FormatPrintRows(m_lines, m_print, pPartner != nullptr ? &pPartner->m_lines : nullptr,
+                            pPartner != nullptr ? &pPartner->m_print : nullptr, m_aStyles,
+                            splitter);
+    } catch (const std::bad_alloc&) {
+        // The rows that there is memory for are printed.
+    }
     const int nPages = m_print.PagesNeeded();
     if (nPages > 0) {
         SetNumPages(nPages);

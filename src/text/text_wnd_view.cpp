@@ -34,7 +34,11 @@ void QVTextWnd::FormatDisplayText(int nWidth) {
         GetClientRect(&rc);
         nWidth = rc.Width();
     }
-    m_rows.Format(m_lines, m_aStyles, nWidth, Splitter());
+    try {
+        m_rows.Format(m_lines, m_aStyles, nWidth, Splitter());
+    } catch (const std::bad_alloc&) {
+        // The rows that there is memory for show; the next layout tries the others again.
+    }
     m_nMaxLineLength = 0;
     m_nNumRows = m_rows.Count();
 }
@@ -148,7 +152,10 @@ void QVTextWnd::OnPaint() {
     CRect rcClient;
     GetClientRect(&rcClient);
     CFont font;
-    if (!dc.RectVisible(&rcClient) || !CreateDisplayFont(font)) {
+    CBrush background;
+    if (!dc.RectVisible(&rcClient) || !CreateDisplayFont(font) ||
+        !background.CreateSolidBrush(m_crBk)) {
+        CleanupDisplayFont(font);
         return;
     }
     {
@@ -167,7 +174,9 @@ void QVTextWnd::OnPaint() {
         CRect rcRest;
         CalculateLineRect(nRow - m_nVScrollPos, rcRest);
         rcRest.bottom = rcClient.bottom;
-        FillRow(dc, rcRest, m_crBk);
+        if (!rcRest.IsRectEmpty()) {
+            dc.FillRect(&rcRest, &background);
+        }
     }
     CleanupDisplayFont(font);
 }
@@ -203,7 +212,8 @@ int QVTextWnd::DrawRows(CDC& dc, int nRow, int nEnd, int nWidth) {
 
 void QVTextWnd::FillRow(CDC& dc, const CRect& rc, COLORREF cr) {
     if (!rc.IsRectEmpty()) {
-        CBrush brush(cr);
+        CBrush brush;
+        brush.CreateSolidBrush(cr);
         dc.FillRect(&rc, &brush);
     }
 }
