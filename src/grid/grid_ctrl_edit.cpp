@@ -87,7 +87,8 @@ void QVGridCtrl::GotoCell(int nRow, int nCol, BOOL bActivate) {
         }
         return;
     }
-    // Last: what was saved belongs to the cell that was current.
+    // Last: what was saved belongs to the cell that was current. The rows may be other ones now.
+    MoveRowMark(nRow);
     m_nCurRow = nRow;
     m_nCurCol = nCol;
     InvalidateRow(nRow, FALSE);
