@@ -15,6 +15,7 @@ using bench::Frame;
 
 constexpr int kFileLines = 85000;
 constexpr int kLineLength = 120;
+constexpr int kLargeFileLines = 100 * 1024 * 1024 / (kLineLength + 2);
 constexpr int kSlowRuns = 3;
 const CSize kWindow(500, 600);
 
@@ -136,6 +137,8 @@ void MeasureOpen() {
         theirTimes.push_back(TimeOpen<Theirs>(file.strText, kFileLines + 1));
     }
     Compare("text/open-85k", 1e3, "ms", {bench::Median(ourTimes), bench::Median(theirTimes)});
+    const TextFile large(kLargeFileLines);
+    bench::Figure("text/open-100mb", TimeOpen<Ours>(large.szPath, kLargeFileLines + 1) * 1e3, "ms");
 }
 
 void MeasureScroll(const char* pszName, int nLines) {

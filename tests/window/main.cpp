@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <cstring>
 
 static TestApp theApp;
 
@@ -28,7 +29,28 @@ static LONG WINAPI EndOnCrash(EXCEPTION_POINTERS* pPointers) {
     return EXCEPTION_EXECUTE_HANDLER;
 }
 
+/// Another program on the same screen: writes what it finds on the clipboard to a file.
+static int PasteInto(const char* pszFile) {
+    int nResult = 1;
+    if (::OpenClipboard(nullptr)) {
+        const HANDLE hText = ::GetClipboardData(CF_TEXT);
+        const auto* pszText =
+            static_cast<const char*>(hText != nullptr ? ::GlobalLock(hText) : nullptr);
+        FILE* pFile = pszText != nullptr ? std::fopen(pszFile, "wb") : nullptr;
+        if (pFile != nullptr) {
+            nResult = std::fputs(pszText, pFile) < 0;
+            nResult |= std::fclose(pFile);
+            ::GlobalUnlock(hText);
+        }
+        ::CloseClipboard();
+    }
+    return nResult;
+}
+
 int main(int argc, char** argv) {
+    if (argc == 3 && std::strcmp(argv[1], "--paste-into") == 0) {
+        return PasteInto(argv[2]);
+    }
     ExpectNoWindowManager();
     testing::InitGoogleTest(&argc, argv);
     ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX);

@@ -260,7 +260,7 @@ TEST(GridMonkey, SurvivesAnyOrderOfInputAndAnswers) {
     const auto at = [&] { return MAKELPARAM(pick(430), pick(210)); };
     int nEdits = 0;
     int nLists = 0;
-    for (int i = 0; i < 3000; ++i) {
+    for (int i = 0; i < 10000; ++i) {
         HWND hWndFocus = ::GetFocus() != nullptr ? ::GetFocus() : w.grid.m_hWnd;
         switch (pick(16)) {
             case 0:

@@ -8,6 +8,7 @@
 
 #include "afx_gdi.h"
 #include "support/list_window.h"
+#include "support/pump.h"
 #include "support/text_window.h"
 
 namespace {
@@ -259,6 +260,30 @@ TEST_F(TextFile, ALineMayHaveAMegabyte) {
     EXPECT_GT(w.text.Fresh().Count(::GetSysColor(COLOR_WINDOWTEXT)), 50);
 }
 
+// A disk or a network that goes away in the middle of a file.
+class VanishingFile : public CStdioFile {
+public:
+    using CStdioFile::ReadString;
+    LPTSTR ReadString(LPTSTR psz, UINT nMax) override {
+        if (m_nLeft-- == 0) {
+            AfxThrowFileException(CFileException::genericException, -1, GetFileName());
+        }
+        return CStdioFile::ReadString(psz, nMax);
+    }
+
+private:
+    int m_nLeft = 2;
+};
+
+TEST_F(TextFile, WhatWasReadBeforeAFaultStaysAndShows) {
+    std::ofstream(m_strPath, std::ios::binary) << "one\ntwo\nthree\nfour\n";
+    VanishingFile file;
+    ASSERT_TRUE(file.Open(m_strPath.c_str(), CFile::modeRead | CFile::typeText));
+    EXPECT_EQ(w.text.LoadFile(file, 0), 0);
+    EXPECT_EQ(Lines(), "one|two");
+    EXPECT_EQ(w.text.NumRows(), 2);
+}
+
 TEST_F(TextFile, AZeroShowsAsABlank) {
     using namespace std::string_literals;
     ASSERT_EQ(Load("a\0b\0\r\n\0\0\nc"s), 1);
@@ -312,6 +337,39 @@ std::string ClipboardText() {
         ::CloseClipboard();
     }
     return strText;
+}
+
+TEST(TextClipboard, AnotherProgramPastesWhatWasCopied) {
+    TextWindow w;
+    w.text.AddText("copied \xe9", 0);
+    w.text.AddText("and more", 0);
+    ASSERT_EQ(w.text.CopyToClipboard(), 1);
+    char szProgram[MAX_PATH];
+    char szFolder[MAX_PATH];
+    ::GetModuleFileName(nullptr, szProgram, MAX_PATH);
+    ::GetTempPath(MAX_PATH, szFolder);
+    const std::string strFile = std::string(szFolder) + "qv_pasted.txt";
+    CString strCommand;
+    strCommand.Format("\"%s\" --paste-into \"%s\"", szProgram, strFile.c_str());
+    STARTUPINFO start{};
+    start.cb = sizeof(start);
+    PROCESS_INFORMATION process{};
+    ASSERT_TRUE(::CreateProcess(nullptr, strCommand.GetBuffer(), nullptr, nullptr, FALSE, 0,
+                                nullptr, nullptr, &start, &process));
+    // The other program may ask this one for the text.
+    const bool bEnded =
+        PumpUntil([&] { return ::WaitForSingleObject(process.hProcess, 10) == WAIT_OBJECT_0; });
+    DWORD dwResult = 1;
+    ::GetExitCodeProcess(process.hProcess, &dwResult);
+    ::CloseHandle(process.hThread);
+    ::CloseHandle(process.hProcess);
+    ASSERT_TRUE(bEnded);
+    EXPECT_EQ(dwResult, 0u);
+    std::ifstream file(strFile, std::ios::binary);
+    std::stringstream text;
+    text << file.rdbuf();
+    EXPECT_EQ(text.str(), "copied \xe9\r\nand more\r\n\r\n");
+    ::DeleteFile(strFile.c_str());
 }
 
 TEST(TextClipboard, HoldsAllLinesAndAnEmptyOne) {
