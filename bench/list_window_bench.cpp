@@ -77,6 +77,25 @@ int Order(LPARAM n1, LPARAM n2) {
     return n1 < n2 ? -1 : n1 > n2 ? 1 : 0;
 }
 
+// What the platform sorts ready-made keys by.
+int CALLBACK CompareNumbers(LPARAM l1, LPARAM l2, LPARAM) {
+    return Order(l1, l2);
+}
+
+int CALLBACK CompareTexts(LPARAM l1, LPARAM l2, LPARAM) {
+    const auto text = [](LPARAM l) {
+        return reinterpret_cast<const unsigned char*>(
+            static_cast<LPCSTR>(*reinterpret_cast<const CString*>(l)));
+    };
+    return _mbsicmp(text(l1), text(l2));
+}
+
+int CALLBACK CompareDates(LPARAM l1, LPARAM l2, LPARAM) {
+    const double date1 = *reinterpret_cast<const double*>(l1);
+    const double date2 = *reinterpret_cast<const double*>(l2);
+    return date1 < date2 ? -1 : date1 > date2 ? 1 : 0;
+}
+
 // What both sides have in common: the window, and how it is filled and paged.
 class Side {
 public:
@@ -151,9 +170,7 @@ public:
             list.SetItemData(nRow, static_cast<DWORD_PTR>(nRow));
         }
     }
-    void Shuffle() {
-        list.SortItems([](LPARAM n1, LPARAM n2, LPARAM) -> int { return Order(n1, n2); }, 0);
-    }
+    void Shuffle() { list.SortItems(CompareNumbers, 0); }
     double TimeSort(int nCol) {
         return bench::Time([&] { list.SortAscending(nCol); });
     }
@@ -243,26 +260,13 @@ void MeasureSorts() {
     SortMeasure measure;
     measure.Run(
         "list/sort-100k-text", kTextCol,
-        [](const Row& row) { return reinterpret_cast<LPARAM>(&row.strText); },
-        [](LPARAM l1, LPARAM l2, LPARAM) -> int {
-            const auto text = [](LPARAM l) {
-                return reinterpret_cast<const unsigned char*>(
-                    static_cast<LPCSTR>(*reinterpret_cast<const CString*>(l)));
-            };
-            return _mbsicmp(text(l1), text(l2));
-        });
+        [](const Row& row) { return reinterpret_cast<LPARAM>(&row.strText); }, CompareTexts);
     measure.Run(
         "list/sort-100k-number", kNumberCol,
-        [](const Row& row) { return static_cast<LPARAM>(row.nNumber); },
-        [](LPARAM l1, LPARAM l2, LPARAM) -> int { return Order(l1, l2); });
+        [](const Row& row) { return static_cast<LPARAM>(row.nNumber); }, CompareNumbers);
     measure.Run(
         "list/sort-100k-date", kDateCol,
-        [](const Row& row) { return reinterpret_cast<LPARAM>(&row.date); },
-        [](LPARAM l1, LPARAM l2, LPARAM) -> int {
-            const double date1 = *reinterpret_cast<const double*>(l1);
-            const double date2 = *reinterpret_cast<const double*>(l2);
-            return date1 < date2 ? -1 : date1 > date2 ? 1 : 0;
-        });
+        [](const Row& row) { return reinterpret_cast<LPARAM>(&row.date); }, CompareDates);
 }
 
 // Rows that all have the same item data, which the list cannot tell apart by.

@@ -45,6 +45,17 @@ protected:
 // Five columns, one of each kind, and another control under the grid.
 enum GridColumn { kStatic, kEdit, kEditButton, kList, kButton };
 
+// Stops at the first list box that shows.
+inline BOOL CALLBACK FindShownList(HWND hWnd, LPARAM lParam) {
+    char szClass[20] = "";
+    ::GetClassName(hWnd, szClass, sizeof szClass);
+    if (::_stricmp(szClass, "LISTBOX") != 0 || !::IsWindowVisible(hWnd)) {
+        return TRUE;
+    }
+    *reinterpret_cast<HWND*>(lParam) = hWnd;
+    return FALSE;
+}
+
 template <class Grid = OpenGrid>
 class GridWindow {
 public:
@@ -110,18 +121,8 @@ public:
     }
     HWND List() {
         HWND hWndList = nullptr;
-        ::EnumThreadWindows(
-            ::GetCurrentThreadId(),
-            [](HWND hWnd, LPARAM lParam) -> BOOL {
-                char szClass[20] = "";
-                ::GetClassName(hWnd, szClass, sizeof szClass);
-                if (::_stricmp(szClass, "LISTBOX") != 0 || !::IsWindowVisible(hWnd)) {
-                    return TRUE;
-                }
-                *reinterpret_cast<HWND*>(lParam) = hWnd;
-                return FALSE;
-            },
-            reinterpret_cast<LPARAM>(&hWndList));
+        ::EnumThreadWindows(::GetCurrentThreadId(), FindShownList,
+                            reinterpret_cast<LPARAM>(&hWndList));
         return hWndList;
     }
     std::string ListLine() {

@@ -113,7 +113,8 @@ TEST(ListPaint, TheSpaceUnderTheRowsHasTheColumnsColours) {
     EXPECT_EQ(one.At(90, rc.bottom - 1), kWindow);
     w.list.SetColWidth(0, 500, nullptr);
     w.list.Scroll(CSize(1000, 0));
-    EXPECT_EQ(Shown(w.list).At(w.list.m_nClientWidth - 10, 150), kGreen) << "scrolled with the columns";
+    EXPECT_EQ(Shown(w.list).At(w.list.m_nClientWidth - 10, 150), kGreen)
+        << "scrolled with the columns";
     CClientDC dc(&w.list);
     EXPECT_TRUE(w.list.FillEmptySpace(&dc));
     for (int i = 0; i < 40; ++i) {
@@ -163,20 +164,19 @@ public:
         dis.hDC = hMeta;
         QVListCtrlEx::DrawItem(&dis);
         const HENHMETAFILE hFile = ::CloseEnhMetaFile(hMeta);
-        ::EnumEnhMetaFile(
-            nullptr, hFile,
-            [](HDC, HANDLETABLE*, const ENHMETARECORD* pRecord, int, LPARAM lParam) {
-                const bool bFrame = pRecord->iType == EMR_HEADER || pRecord->iType == EMR_EOF;
-                if (!bFrame) {
-                    reinterpret_cast<WatchedList*>(lParam)->records.push_back(pRecord->iType);
-                }
-                return 1;
-            },
-            this, nullptr);
+        ::EnumEnhMetaFile(nullptr, hFile, KeepRecord, this, nullptr);
         ::DeleteEnhMetaFile(hFile);
         QVListCtrlEx::DrawItem(lpDIS);
         ++nRows;
     }
+    static int CALLBACK KeepRecord(HDC, HANDLETABLE*, const ENHMETARECORD* pRecord, int,
+                                   LPARAM lParam) {
+        if (pRecord->iType != EMR_HEADER && pRecord->iType != EMR_EOF) {
+            reinterpret_cast<WatchedList*>(lParam)->records.push_back(pRecord->iType);
+        }
+        return 1;
+    }
+
     int nRows = 0;
     int nWrittenBefore = 0;
     std::vector<DWORD> records;
