@@ -13,7 +13,7 @@ bool LogView::Open(const CString& strPath) {
     }
     const CWaitCursor wait;
     text.ClearTextData();
-    const int nLines = AddLines(false);
+    const int nLines = AddLines(true);
     text.CalcLayout();
     SetHeaderText(nLines >= 0 ? strPath : strPath + " - cannot be read");
     return nLines >= 0;

@@ -2,6 +2,25 @@
 
 #include "resource.h"
 
+namespace {
+
+const char* s_pszWanted = "";
+
+// The dialog runs a loop of its own, so what is typed into it comes from a timer.
+void CALLBACK AnswerFind(HWND hWnd, UINT, UINT_PTR nTimer, DWORD) {
+    const HWND hDialog = ::FindWindow(nullptr, "Find a package");
+    if (hDialog == nullptr || ::GetFocus() != ::GetDlgItem(hDialog, IDC_FIND_TEXT)) {
+        return;
+    }
+    ::KillTimer(hWnd, nTimer);
+    for (const char* psz = s_pszWanted; *psz != '\0'; ++psz) {
+        Press(static_cast<WORD>(*psz));
+    }
+    Press(VK_RETURN);
+}
+
+}  // namespace
+
 bool Walk::Run() {
     m_frame.SetForegroundWindow();
     Tree().SetFocus();
@@ -35,4 +54,12 @@ void Walk::ClickTab(int nPage) {
     tabs.GetItemRect(nPage, &rc);
     tabs.ClientToScreen(&rc);
     Click(rc.CenterPoint());
+}
+
+void Walk::AskFor(const char* pszLetters) {
+    constexpr UINT_PTR kTimer = 1;
+    constexpr UINT kLookAgain = 50;  // milliseconds
+    s_pszWanted = pszLetters;
+    m_frame.SetTimer(kTimer, kLookAgain, AnswerFind);
+    Press('F', VK_CONTROL);
 }

@@ -45,6 +45,8 @@ private:
     CPoint PointOfHeading(int nCol);
     CPoint PointOfRow(int nItem);
     void ClickTab(int nPage);
+    // Opens the dialog that asks what to find, and types letters into it.
+    void AskFor(const char* pszLetters);
     bool Station(const char* pszName);
     bool Happened(const char* pszWhat, bool bHappened);
     template <class Condition>

@@ -26,18 +26,6 @@ void CALLBACK AnswerExport(HWND hWnd, UINT, UINT_PTR nTimer, DWORD) {
     Press(VK_RETURN);
 }
 
-void CALLBACK AnswerFind(HWND hWnd, UINT, UINT_PTR nTimer, DWORD) {
-    const HWND hDialog = ::FindWindow(nullptr, "Find a package");
-    if (hDialog == nullptr || ::GetFocus() != ::GetDlgItem(hDialog, IDC_FIND_TEXT)) {
-        return;
-    }
-    ::KillTimer(hWnd, nTimer);
-    for (const char ch : {'Z', 'L', 'I', 'B'}) {
-        Press(static_cast<WORD>(ch));
-    }
-    Press(VK_RETURN);
-}
-
 int CountLines(const CString& strFile) {
     CStdioFile file;
     int nLines = 0;
@@ -98,8 +86,7 @@ bool Walk::Packages() {
 }
 
 bool Walk::FindPackage() {
-    m_frame.SetTimer(kTimer, kLookAgain, AnswerFind);
-    Press('F', VK_CONTROL);
+    AskFor("ZLIB");
     return Expect("a package is found and shown",
                   [this] {
                       const Package* pPackage = List().PackageOf(List().GetSelectedItem());

@@ -73,24 +73,8 @@ bool Walk::AbsoluteColumns() {
            Station("tree-4-absolute-columns");
 }
 
-// The dialog runs a loop of its own, so what is typed into it comes from a timer.
-static void CALLBACK TypeIntoDialog(HWND hWnd, UINT, UINT_PTR nTimer, DWORD) {
-    const HWND hDialog = ::FindWindow(nullptr, "Find a package");
-    if (hDialog == nullptr || ::GetFocus() != ::GetDlgItem(hDialog, IDC_FIND_TEXT)) {
-        return;
-    }
-    ::KillTimer(hWnd, nTimer);
-    for (const char ch : {'B', 'A', 'S', 'E'}) {
-        Press(static_cast<WORD>(ch));
-    }
-    Press(VK_RETURN);
-}
-
 bool Walk::Find() {
-    constexpr UINT_PTR kTimer = 1;
-    constexpr UINT kLookAgain = 50;
-    m_frame.SetTimer(kTimer, kLookAgain, TypeIntoDialog);
-    Press('F', VK_CONTROL);
+    AskFor("BASE");
     return Expect("a package is found and shown",
                   [this] {
                       const HTREEITEM hItem = Tree().GetSelectedItem();

@@ -1,5 +1,6 @@
 #include "containers/header_wnd.h"
 
+#include "frame/ancestor_font.h"
 #include "frame/select_object.h"
 #include "frame/wnd_port.h"
 
@@ -32,13 +33,8 @@ int QVHeaderWnd::Initialize(UINT nID, CWnd* pParent) {
     if (m_hWnd == nullptr && (pParent == nullptr || !SubclassDlgItem(nID, pParent))) {
         return 0;
     }
-    m_hHeaderFont = nullptr;
-    for (CWnd* pWnd = pParent; pWnd != nullptr && m_hHeaderFont == nullptr;
-         pWnd = pWnd->GetParent()) {
-        if (CFont* pFont = pWnd->GetFont()) {
-            m_hHeaderFont = *pFont;
-        }
-    }
+    const CFont* pFont = qv::NearestFont(pParent);
+    m_hHeaderFont = pFont != nullptr ? static_cast<HFONT>(*pFont) : nullptr;
     CalcHeaderHeight();
     return 1;
 }

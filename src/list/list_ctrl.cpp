@@ -4,10 +4,12 @@
 #include <climits>
 #include <unordered_map>
 
+#include "frame/ancestor_font.h"
 #include "frame/core/wheel.h"
 #include "frame/module_state.h"
 #include "frame/mouse_wheel.h"
 #include "frame/select_object.h"
+#include "list/cell_format.h"
 #include "list/list_places.h"
 
 namespace {
@@ -142,11 +144,8 @@ void QVListCtrlEx::TakeFontOfParents() {
     if (GetFont() != nullptr) {
         return;
     }
-    for (CWnd* pWnd = GetParent(); pWnd != nullptr; pWnd = pWnd->GetParent()) {
-        if (CFont* pFont = pWnd->GetFont()) {
-            SetFont(pFont, TRUE);
-            return;
-        }
+    if (CFont* pFont = qv::NearestFont(GetParent())) {
+        SetFont(pFont, TRUE);
     }
 }
 
@@ -363,20 +362,12 @@ void QVListCtrlEx::SetHdrFormat(int nCol, int nFormat) {
     }
 }
 
-namespace {
-
-UINT DrawFormat(int nFormat) {
-    return nFormat == LVCFMT_RIGHT ? DT_RIGHT : nFormat == LVCFMT_CENTER ? DT_CENTER : DT_LEFT;
-}
-
-}  // namespace
-
 UINT QVListCtrlEx::GetColDrawFormat(int nCol) const {
-    return DrawFormat(GetColFormat(nCol));
+    return qv::CellDrawFormat(GetColFormat(nCol));
 }
 
 UINT QVListCtrlEx::GetHdrDrawFormat(int nCol) {
-    return DrawFormat(GetHdrFormat(nCol));
+    return qv::CellDrawFormat(GetHdrFormat(nCol));
 }
 
 BOOL QVListCtrlEx::InReportMode() {

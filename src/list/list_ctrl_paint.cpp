@@ -2,11 +2,11 @@
 
 #include "frame/select_object.h"
 #include "frame/wnd_port.h"
+#include "list/cell_format.h"
 #include "list/list_ctrl.h"
 
 namespace {
 
-constexpr int kCellMargin = 6;  // left and right of a cell's text, in screen pixels
 constexpr UINT kTextFlags = DT_NOPREFIX | DT_END_ELLIPSIS;
 constexpr COLORREF kNoBackground = 0xFFFFFFFF;
 
@@ -197,7 +197,7 @@ void QVListCtrlEx::DrawItemText(CDC* pDC, UINT nItem, const CRect& rc, BOOL bSel
 void QVListCtrlEx::OutputFormattedText(CDC* pDC, const CRect& rc, const CString& strText,
                                        BOOL bSelected, UINT nFormat, BOOL bUseColors) {
     CRect rcText(rc);
-    rcText.DeflateRect(pDC->IsPrinting() ? kCellMargin * m_nPrintScale : kCellMargin, 0);
+    rcText.DeflateRect(qv::kCellMargin * (pDC->IsPrinting() ? m_nPrintScale : 1), 0);
     if (HasStyle(strText) && bUseColors && (!bSelected || (!HasFocus() && !ShowsSelAlways()))) {
         pDC->SetTextColor(m_aStyles[ParseStyle(strText)].crText);
     }

@@ -8,6 +8,7 @@
 #include "frame/module_state.h"
 #include "frame/select_object.h"
 #include "frame/wnd_port.h"
+#include "list/cell_format.h"
 #include "list/list_ctrl.h"
 #include "print/core/pagination.h"
 #include "print/core/row_split.h"
@@ -16,7 +17,6 @@
 namespace {
 
 constexpr unsigned kSectionLines = 3;  // one blank, the text, one blank
-constexpr int kCellMargin = 6;         // left and right of a cell's text, in screen pixels
 constexpr UINT kCellFlags = DT_END_ELLIPSIS | DT_NOPREFIX;
 constexpr UINT kLineFlags = DT_NOPREFIX | DT_SINGLELINE;
 
@@ -253,15 +253,12 @@ void QVPeDataStringList::PrintRow(CDC* pDC, const CRect& rcRow, const CString& s
     for (int nCol = 0; nCol < m_pList->NumColumns() && qv::NextField(row, nPos, field); ++nCol) {
         rcCell.right = rcCell.left + m_pList->GetPrintColWidth(nCol);
         if (field.end() == row.end()) {
-            rcCell.right =
-                rcRow.right;  // the last field has all that is left, unless a TAB ends it
+            // The last field has all that is left, unless a TAB ends it.
+            rcCell.right = rcRow.right;
         }
         CRect rcText(rcCell);
-        rcText.DeflateRect(kCellMargin * static_cast<int>(m_nScale), 0);
-        const int nFormat = m_pList->GetColFormat(nCol);
-        const UINT nAlign = nFormat == LVCFMT_RIGHT    ? DT_RIGHT
-                            : nFormat == LVCFMT_CENTER ? DT_CENTER
-                                                       : DT_LEFT;
+        rcText.DeflateRect(qv::kCellMargin * static_cast<int>(m_nScale), 0);
+        const UINT nAlign = qv::CellDrawFormat(m_pList->GetColFormat(nCol));
         pDC->DrawText(field.data(), static_cast<int>(field.size()), &rcText, kCellFlags | nAlign);
         rcCell.left = rcCell.right;
     }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "frame/ancestor_font.h"
 #include "frame/select_object.h"
 #include "frame/virtual_step.h"
 #include "tree/tree_ctrl_core.h"
@@ -141,10 +142,9 @@ void QVTreeCtrlEx::OnDestroy() {
 
 // The tree handles no WM_SETFONT: its font is that of its nearest ancestor that has one.
 void QVTreeCtrlEx::FindFont() {
-    for (CWnd* pWnd = this; m_hFont == nullptr && pWnd != nullptr && pWnd->m_hWnd != nullptr;
-         pWnd = pWnd->GetParent()) {
-        if (CFont* pFont = pWnd->GetFont()) {
-            m_hFont = static_cast<HFONT>(pFont->GetSafeHandle());
+    if (m_hFont == nullptr) {
+        if (const CFont* pFont = qv::NearestFont(this)) {
+            m_hFont = *pFont;
         }
     }
     m_pCore->UseFont(m_hFont);
