@@ -197,7 +197,10 @@ public:
 
 private:
     friend struct AfxDcMap;
+    template <class, class>
+    friend class CHandleMap;
     bool m_bTemporary = false;
+    CHandleMapLink<CDC> m_mapLink;
 };
 
 class QVAFX_API CPaintDC : public CDC {

@@ -1,4 +1,5 @@
 // List view.
+#include "afx_owned_handles.h"
 #include "afx_wnd_state.h"
 #include "afxcmn.h"
 
@@ -379,13 +380,7 @@ BOOL CListCtrl::Update(int nItem) {
 }
 
 CImageList* CListCtrl::CreateDragImage(int nItem, LPPOINT lpPoint) {
-    HIMAGELIST hList = AfxSend<HIMAGELIST>(m_hWnd, LVM_CREATEDRAGIMAGE, nItem, lpPoint);
-    if (hList == nullptr) {
-        return nullptr;
-    }
-    auto* pList = new CImageList;
-    pList->Attach(hList);
-    return pList;
+    return AfxNewImageList(AfxSend<HIMAGELIST>(m_hWnd, LVM_CREATEDRAGIMAGE, nItem, lpPoint));
 }
 
 BOOL CListCtrl::GetColumn(int nCol, LVCOLUMN* pColumn) const {

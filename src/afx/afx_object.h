@@ -84,6 +84,14 @@ public:                                     \
     }                                                    \
     AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, 0xFFFF, &class_name::CreateObject)
 
+/// An object's place in a CHandleMap. It lies in the object itself, so that entering one needs no
+/// memory and cannot fail.
+template <class Object>
+struct CHandleMapLink {
+    Object* pNext = nullptr;
+    const void* handle = nullptr;  ///< null: the object is in no map
+};
+
 /// The object as a class_name, or null if it is none.
 QVAFX_API CObject* AfxDynamicDownCast(CRuntimeClass* pClass, CObject* pObject);
 #define DYNAMIC_DOWNCAST(class_name, object) \

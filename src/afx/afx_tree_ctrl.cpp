@@ -1,4 +1,5 @@
 // Tree view.
+#include "afx_owned_handles.h"
 #include "afx_wnd_state.h"
 #include "afxcmn.h"
 
@@ -338,11 +339,5 @@ BOOL CTreeCtrl::EnsureVisible(HTREEITEM hItem) {
 }
 
 CImageList* CTreeCtrl::CreateDragImage(HTREEITEM hItem) {
-    HIMAGELIST hList = AfxSend<HIMAGELIST>(m_hWnd, TVM_CREATEDRAGIMAGE, 0, hItem);
-    if (hList == nullptr) {
-        return nullptr;
-    }
-    auto* pList = new CImageList;
-    pList->Attach(hList);
-    return pList;
+    return AfxNewImageList(AfxSend<HIMAGELIST>(m_hWnd, TVM_CREATEDRAGIMAGE, 0, hItem));
 }

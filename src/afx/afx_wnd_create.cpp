@@ -86,10 +86,11 @@ static LRESULT CALLBACK CreationFilter(int code, WPARAM wParam, LPARAM lParam) {
             pWnd->PreSubclassWindow();
             PutProcedureInFront(hWnd, AfxWndAccess::SuperWndProc(pWnd));
         } catch (...) {
-            MSG msg = {};
-            msg.hwnd = hWnd;
-            msg.message = WM_NCCREATE;
-            AfxProcessCurrentException(msg);
+            AfxProcessCurrentException(hWnd, WM_NCCREATE);
+            if (CWnd::FromHandlePermanent(hWnd) == pWnd) {
+                pWnd->Detach();
+                state.pWndInit = pWnd;  // not taken: whoever creates it tells the object
+            }
             return 1;  // no window
         }
     }

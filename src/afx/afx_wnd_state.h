@@ -24,6 +24,7 @@ struct AfxWndAccess {
         return pWnd->WindowProc(message, wParam, lParam);
     }
     static WNDPROC* SuperWndProc(CWnd* pWnd) { return pWnd->GetSuperWndProcAddr(); }
+    static void OnNcDestroy(CWnd* pWnd) { pWnd->CWnd::OnNcDestroy(); }
     /// Fills in the names that the application did not give.
     static void NameApp(CWinApp* pApp, HINSTANCE hInstance);
 };
@@ -49,8 +50,13 @@ private:
 };
 
 /// Hands the exception that is being handled to the thread, and gives the message's result. To be
-/// called in a handler for everything, at the border to the system's code.
+/// called in a handler for everything, at the border to the system's code. Throws nothing itself
+/// and needs no memory.
 LRESULT AfxProcessCurrentException(const MSG& msg);
+LRESULT AfxProcessCurrentException(HWND hWnd, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+
+/// CWnd::GetSafeOwner by handles, which makes no objects and so needs no memory.
+HWND AfxGetSafeOwner(HWND hWndParent, HWND* phWndTop);
 
 /// The entry for a window or reflected message along a chain of maps, or null. Cached by thread.
 const AFX_MSGMAP_ENTRY* AfxFindWindowEntry(const AFX_MSGMAP* pMap, UINT nMsg);
