@@ -67,8 +67,9 @@ BOOL CStatusBar::SetIndicators(const UINT* lpIDArray, int nIDCount) {
     if (nIDCount < 1) {
         return FALSE;
     }
+    auto* pPanes = new Pane[nIDCount];
     delete[] m_pPanes;
-    m_pPanes = new Pane[nIDCount];
+    m_pPanes = pPanes;
     m_nCount = nIDCount;
     BOOL bFound = TRUE;
     for (int nPane = 0; nPane < nIDCount && lpIDArray != nullptr; ++nPane) {

@@ -319,13 +319,13 @@ BOOL CString::LoadString(HINSTANCE hInstance, UINT nID) {
     const int nWide = ::LoadStringW(hInstance, nID, reinterpret_cast<LPWSTR>(&pwsz), 0);
     const int nBytes =
         nWide > 0 ? ::WideCharToMultiByte(CP_ACP, 0, pwsz, nWide, nullptr, 0, nullptr, nullptr) : 0;
-    Release();
-    if (nBytes == 0) {
-        return FALSE;
+    CString strNew;
+    if (nBytes > 0) {
+        strNew.Allocate(nBytes);
+        ::WideCharToMultiByte(CP_ACP, 0, pwsz, nWide, strNew.m_pchData, nBytes, nullptr, nullptr);
     }
-    Allocate(nBytes);
-    ::WideCharToMultiByte(CP_ACP, 0, pwsz, nWide, m_pchData, nBytes, nullptr, nullptr);
-    return TRUE;
+    std::swap(m_pchData, strNew.m_pchData);
+    return nBytes > 0;
 }
 
 BSTR CString::AllocSysString() const {
