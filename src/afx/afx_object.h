@@ -24,9 +24,16 @@ struct QVAFX_API CRuntimeClass {
     static CObject* CreateObject(LPCSTR lpszClassName);
 };
 
-/// Enters a record into the list of the module that is being initialized.
+/// Enters a record into the list of the process, from which AfxInitExtensionModule takes those of
+/// an extension module. A record that is still there when its module goes, goes with it.
 struct QVAFX_API AFX_CLASSINIT {
     explicit AFX_CLASSINIT(CRuntimeClass* pNewClass);
+    ~AFX_CLASSINIT();
+    AFX_CLASSINIT(const AFX_CLASSINIT&) = delete;
+    AFX_CLASSINIT& operator=(const AFX_CLASSINIT&) = delete;
+
+private:
+    CRuntimeClass* m_pClass;
 };
 
 class QVAFX_API CObject {
