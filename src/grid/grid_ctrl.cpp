@@ -4,6 +4,7 @@
 
 #include "frame/core/styled_text.h"
 #include "frame/select_object.h"
+#include "frame/text_out.h"
 #include "frame/wnd_port.h"
 #include "grid/grid_editors.h"
 
@@ -158,7 +159,7 @@ int QVGridCtrl::SizeToStrings(int nCol, const CStringArray& strings, int nMinWid
     const int nRoom = kTextRoom + (UseFieldButton(nCol) ? m_nCellHeight : 0);
     int nWidth = std::max(-1, nMinWidth);
     for (INT_PTR i = 0; i < strings.GetSize(); ++i) {
-        const int nText = static_cast<int>(dc.GetTextExtent(strings.ElementAt(i)).cx);
+        const int nText = static_cast<int>(qv::TextExtent(dc, qv::View(strings.ElementAt(i))).cx);
         nWidth = std::max(nWidth, nText + nRoom);
     }
     SetColWidth(nCol, nWidth);

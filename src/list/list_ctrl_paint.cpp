@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "frame/select_object.h"
+#include "frame/text_out.h"
 #include "frame/wnd_port.h"
 #include "list/cell_format.h"
 #include "list/list_ctrl.h"
@@ -201,7 +202,7 @@ void QVListCtrlEx::OutputFormattedText(CDC* pDC, const CRect& rc, const CString&
     if (HasStyle(strText) && bUseColors && (!bSelected || (!HasFocus() && !ShowsSelAlways()))) {
         pDC->SetTextColor(m_aStyles[ParseStyle(strText)].crText);
     }
-    pDC->DrawText(ParseStyleText(strText), -1, &rcText, nFormat | kTextFlags);
+    qv::DrawTextIn(*pDC, ParseStyleText(strText), rcText, nFormat | kTextFlags);
 }
 
 BOOL QVListCtrlEx::FillEmptySpace(CDC* pDC) {

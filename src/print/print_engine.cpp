@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "frame/select_object.h"
+#include "frame/text_out.h"
 #include "print/core/pagination.h"
 #include "print/print_items.h"
 
@@ -10,7 +11,7 @@ namespace {
 
 unsigned LineHeight(CDC& dc, CFont* pFont) {
     const qv::SelectGuard<CFont> font(dc, pFont);
-    return static_cast<unsigned>(dc.GetTextExtent("0", 1).cy);
+    return static_cast<unsigned>(qv::TextExtent(dc, "0").cy);
 }
 
 CString ResourceText(unsigned nStringID) {

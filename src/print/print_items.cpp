@@ -7,7 +7,7 @@
 #include "frame/core/styled_text.h"
 #include "frame/module_state.h"
 #include "frame/select_object.h"
-#include "frame/wnd_port.h"
+#include "frame/text_out.h"
 #include "list/cell_format.h"
 #include "list/list_ctrl.h"
 #include "print/core/pagination.h"
@@ -73,7 +73,7 @@ void QVPeDataSectionHeader::Print(CDC* pDC, CRect& rect, unsigned, unsigned) {
     rcText.top += static_cast<LONG>(HeaderFontHeight());
     rcText.bottom = rcText.top + static_cast<LONG>(HeaderFontHeight());
     const qv::SelectGuard<CFont> font(*pDC, HeaderFont());
-    pDC->DrawText(m_strText, &rcText, kPrintLabelFlags);
+    qv::DrawTextIn(*pDC, qv::View(m_strText), rcText, kPrintLabelFlags);
     rect.top += static_cast<LONG>(MaxSize());
 }
 
@@ -89,7 +89,7 @@ void QVPeDataGroupHeader::Print(CDC* pDC, CRect& rect, unsigned, unsigned) {
     CRect rcText(rect);
     rcText.bottom = rcText.top + static_cast<LONG>(NormalFontHeight());
     const qv::SelectGuard<CFont> font(*pDC, NormalFont());
-    pDC->DrawText(m_strText, &rcText, kPrintLabelFlags);
+    qv::DrawTextIn(*pDC, qv::View(m_strText), rcText, kPrintLabelFlags);
     rect.top += static_cast<LONG>(MaxSize());
 }
 
@@ -98,7 +98,7 @@ void QVPeDataGroupHeader::Print(CDC* pDC, CRect& rect, unsigned, unsigned) {
 QVPeDataText::QVPeDataText(CDC* pDC, CFont* pFont)
     : QVPrintEngineData(nullptr, 0, pFont, 0), m_pDC(pDC) {
     const qv::SelectGuard<CFont> font(*pDC, pFont);
-    m_nLineHeight = static_cast<unsigned>(pDC->GetTextExtent("0", 1).cy);
+    m_nLineHeight = static_cast<unsigned>(qv::TextExtent(*pDC, "0").cy);
     SetMinSize(m_nLineHeight);
     SetMaxSize(m_nLineHeight);
 }
@@ -154,7 +154,8 @@ void QVPeDataText::PrintLines(CDC* pDC, unsigned nFirst, unsigned nLast, const C
     CRect rcLine(rect);
     for (unsigned n = 0; n < nRows && nFirst + n < nEnd; ++n) {
         rcLine.bottom = rcLine.top + static_cast<LONG>(m_nLineHeight);
-        pDC->DrawText(m_aLines[static_cast<INT_PTR>(nFirst + n)], &rcLine, kLineFlags);
+        qv::DrawTextIn(*pDC, qv::View(m_aLines[static_cast<INT_PTR>(nFirst + n)]), rcLine,
+                       kLineFlags);
         rcLine.top = rcLine.bottom;
     }
 }
@@ -259,7 +260,7 @@ void QVPeDataStringList::PrintRow(CDC* pDC, const CRect& rcRow, const CString& s
         CRect rcText(rcCell);
         rcText.DeflateRect(qv::kCellMargin * static_cast<int>(m_nScale), 0);
         const UINT nAlign = qv::CellDrawFormat(m_pList->GetColFormat(nCol));
-        pDC->DrawText(field.data(), static_cast<int>(field.size()), &rcText, kCellFlags | nAlign);
+        qv::DrawTextIn(*pDC, field, rcText, kCellFlags | nAlign);
         rcCell.left = rcCell.right;
     }
 }

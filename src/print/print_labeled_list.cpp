@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "frame/select_object.h"
+#include "frame/text_out.h"
 #include "print/core/pagination.h"
 #include "print/core/row_split.h"
 #include "print/print_items.h"
@@ -37,7 +38,7 @@ QVPeDataLabeledList::QVPeDataLabeledList(CDC* pDC, CFont* pHeaderFont, unsigned 
                                          CFont* pNormalFont, unsigned nNormalHeight)
     : QVPrintEngineData(pHeaderFont, nHeaderHeight, pNormalFont, nNormalHeight), m_pDC(pDC) {
     const qv::SelectGuard<CFont> font(*pDC, pNormalFont);
-    m_nSpace = static_cast<unsigned>(pDC->GetTextExtent("M", 1).cx);
+    m_nSpace = static_cast<unsigned>(qv::TextExtent(*pDC, "M").cx);
 }
 
 void QVPeDataLabeledList::AddData(const char* pszLabel, const char* pszData,
@@ -57,7 +58,8 @@ void QVPeDataLabeledList::AddData(unsigned nLabelID, const char* pszData,
 
 void QVPeDataLabeledList::CheckLabelWidth(const char* pszLabel) {
     const qv::SelectGuard<CFont> font(*m_pDC, NormalFont());
-    const auto nWidth = static_cast<unsigned>(m_pDC->GetTextExtent(CString(pszLabel)).cx);
+    const auto nWidth =
+        static_cast<unsigned>(qv::TextExtent(*m_pDC, pszLabel != nullptr ? pszLabel : "").cx);
     if (nWidth > m_nLabelWidth) {
         m_nLabelWidth = nWidth;
         m_nDataOffset = nWidth + m_nSpace;
@@ -88,14 +90,14 @@ void QVPeDataLabeledList::Print(CDC* pDC, CRect& rect, unsigned nFirst, unsigned
     CRect rcData(rcLabel);
     rcData.left += static_cast<LONG>(m_nDataOffset);
     CRect rcNumber(rcData);
-    rcNumber.right = rcNumber.left + pDC->GetTextExtent(CString(kWidestNumber)).cx;
+    rcNumber.right = rcNumber.left + qv::TextExtent(*pDC, kWidestNumber).cx;
     for (unsigned n = nFirst; n < nEnd; ++n) {
         const QVPeDataLabeledListItem& item = m_Items[n];
-        pDC->DrawText(item.Label(), &rcLabel, kPrintLabelFlags);
+        qv::DrawTextIn(*pDC, qv::View(item.Label()), rcLabel, kPrintLabelFlags);
         if (item.Justified() == QVPeDataLabeledListItem::Left) {
-            pDC->DrawText(item.Data(), &rcData, kPrintLabelFlags);
+            qv::DrawTextIn(*pDC, qv::View(item.Data()), rcData, kPrintLabelFlags);
         } else {
-            pDC->DrawText(item.Data(), &rcNumber, kPrintLabelFlags | DT_RIGHT);
+            qv::DrawTextIn(*pDC, qv::View(item.Data()), rcNumber, kPrintLabelFlags | DT_RIGHT);
         }
         for (CRect* pRect : {&rcLabel, &rcData, &rcNumber}) {
             pRect->OffsetRect(0, nHeight);

@@ -4,6 +4,7 @@
 
 #include "frame/ancestor_font.h"
 #include "frame/select_object.h"
+#include "frame/text_out.h"
 #include "frame/virtual_step.h"
 #include "tree/tree_ctrl_core.h"
 

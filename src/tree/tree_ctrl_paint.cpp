@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "frame/select_object.h"
+#include "frame/text_out.h"
 #include "tree/core/tree_columns.h"
 #include "tree/tree_ctrl.h"
 #include "tree/tree_ctrl_core.h"
@@ -121,7 +122,7 @@ void QVTreeCtrlEx::DrawItem(CDC& dc, HTREEITEM hItem, const CRect& rcItem) {
         _mbschr(psz, qv::kStyleEscape) != nullptr) {
         OutputFormattedText(dc, rcInner, strText, bSelected);
     } else {
-        dc.DrawText(strText, -1, &rcInner, kTextFlags);
+        qv::DrawTextIn(dc, qv::View(strText), rcInner, kTextFlags);
     }
     if (bSelected && GetFocus() == this) {
         dc.DrawFocusRect(&rcText);
@@ -170,8 +171,7 @@ void QVTreeCtrlEx::OutputFormattedText(CDC& dc, const CRect& rect, const CString
             dc.SetTextColor(m_aStyles[field.nStyle].crText);
         }
         CRect rcField = qv::ToCRect(field.rect);
-        dc.DrawText(field.text.data(), static_cast<int>(field.text.size()), &rcField,
-                    field.nFormat | kTextFlags);
+        qv::DrawTextIn(dc, field.text, rcField, field.nFormat | kTextFlags);
     }
 }
 
