@@ -115,11 +115,14 @@ TEST_F(ExceptionBorder, AReportThatFailsItself_EndsThere) {
     wnd.Invalidate();
     wnd.UpdateWindow();
     EXPECT_FALSE(wnd.GetUpdateRect(nullptr));
-    ThrowingWnd another;
-    another.m_throw = AfxThrowMemoryException;
-    another.m_nWhere = WM_CREATE;
-    EXPECT_FALSE(MakePopup(another));
-    EXPECT_EQ(another.m_hWnd, nullptr);
+    for (const UINT nMessage : {WM_NCCREATE, WM_CREATE}) {
+        ThrowingWnd another;
+        another.m_throw = AfxThrowMemoryException;
+        another.m_nWhere = nMessage;
+        EXPECT_FALSE(MakePopup(another));
+        EXPECT_EQ(another.m_hWnd, nullptr);
+        EXPECT_EQ(1, another.m_nPostNcDestroy);
+    }
 }
 
 TEST_F(ExceptionBorder, WithoutMemory_TheReportStillComes) {
