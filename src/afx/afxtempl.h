@@ -97,7 +97,11 @@ public:
     }
     INT_PTR Add(ARG_TYPE newElement) {
         const INT_PTR nIndex = GetSize();
-        AddBehind(nIndex, 1, [&](size_t) -> ARG_TYPE { return newElement; });
+        AfxNeedMemory([&] {
+            Slot added{TYPE(newElement)};  // it may lie in this array
+            Reserve(m_data.size(), 1);
+            m_data.push_back(std::move(added));
+        });
         return nIndex;
     }
     INT_PTR Append(const CArray& src) {
