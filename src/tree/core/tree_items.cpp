@@ -221,6 +221,11 @@ HTREEITEM TreeItems::InsertItem(const char* pszText, int nImage, int nSelectedIm
     if (pszText == nullptr) {
         pszText = "";
     }
+    // Asked before there is a record for the new item: it may be the very one that was deleted.
+    if (hInsertAfter == nullptr || hInsertAfter == TVI_ROOT ||
+        (!IsPosition(hInsertAfter) && !IsLive(hInsertAfter))) {
+        hInsertAfter = TVI_LAST;
+    }
     HTREEITEM hItem = AllocNewHandle();
     if (hItem == nullptr) {
         return nullptr;
@@ -253,10 +258,6 @@ HTREEITEM TreeItems::RootRunStart() const {
 bool TreeItems::PositionInTree(HTREEITEM hItem, HTREEITEM hParent, HTREEITEM hInsertAfter) {
     if (hParent == TVI_ROOT) {
         hParent = nullptr;
-    }
-    if (hInsertAfter == nullptr || hInsertAfter == TVI_ROOT ||
-        (!IsPosition(hInsertAfter) && !IsLive(hInsertAfter))) {
-        hInsertAfter = TVI_LAST;
     }
     const bool bBehindItem = !IsPosition(hInsertAfter);
     if (bBehindItem) {

@@ -69,6 +69,14 @@ TEST(TreeInsert, DeletedHandlesAreHarmless) {
     EXPECT_EQ(tree.Children(nullptr), "a c");
     EXPECT_EQ(a->pNextSibling, c);
     EXPECT_TRUE(tree.CheckInvariants());
+
+    HTREEITEM a1 = tree.Add("a1", a);
+    tree.DeleteItem(a1);
+    HTREEITEM n = tree.Add("n", c, a1);
+    EXPECT_EQ(n, a1);
+    EXPECT_EQ(tree.Children(c), "n") << "behind an item that its own record once was";
+    EXPECT_EQ(n->nLevel, 1);
+    EXPECT_TRUE(tree.CheckInvariants());
 }
 
 TEST(TreeSort, AComparisonThatChangesTheTreeStopsIt) {
