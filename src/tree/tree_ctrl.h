@@ -13,8 +13,9 @@
 // Coordinates: row coordinates are client pixels plus the horizontal scroll position; GetItemRect,
 // CalcItemRect and HitTest's rectangle are in them. All rows have one height.
 //
-// The font is that of the nearest ancestor that has one, looked up at the first measure and kept
-// until the window is destroyed. Set image lists before that too: the row height follows both.
+// The font is that of the nearest ancestor that has one, looked up when the first item is measured
+// and kept until the window is destroyed. Set image lists before the first item too: the row height
+// follows both.
 //
 // Bulk changes go between SetRedraw(FALSE) and SetRedraw(TRUE), as with any control.
 

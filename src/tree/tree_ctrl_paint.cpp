@@ -46,7 +46,8 @@ void QVTreeCtrlEx::OnPaint() {
     }
     CRect rcClient;
     GetClientRect(&rcClient);
-    const int nHeight = ItemHeight();
+    HTREEITEM hItem = GetNextItem(nullptr, TVGN_FIRSTVISIBLE);
+    const int nHeight = hItem != nullptr ? ItemHeight() : 0;
     const qv::BrushLife background(m_brBackground, ::GetSysColor(COLOR_WINDOW));
     const qv::PenLife lines(m_penLines, ::GetSysColor(COLOR_BTNSHADOW));
     {
@@ -57,8 +58,7 @@ void QVTreeCtrlEx::OnPaint() {
         const bool bLines = (GetStyle() & TVS_HASLINES) != 0;
         int y = 0;
         bool bPartial = false;
-        HTREEITEM hItem = nHeight > 0 ? GetNextItem(nullptr, TVGN_FIRSTVISIBLE) : nullptr;
-        while (hItem != nullptr && y < rcClient.bottom) {
+        while (nHeight > 0 && hItem != nullptr && y < rcClient.bottom) {
             CRect rcItem;
             CalcItemRect(dc, y, hItem, rcItem, FALSE);
             if (bLines) {

@@ -349,7 +349,7 @@ HTREEITEM TreeView::HitTest(Point pt, unsigned* pFlags, Rect* pRect) {
         return nullptr;
     }
     nFlags = TVHT_NOWHERE;
-    const int nHeight = ItemHeight();
+    const int nHeight = m_hTopItem != nullptr ? ItemHeight() : 0;
     if (nHeight == 0) {
         return nullptr;
     }

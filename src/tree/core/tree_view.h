@@ -68,7 +68,8 @@ public:
 
     // --- Geometry
 
-    // 0 while there is neither a font nor an image to measure.
+    // 0 while there is neither a font nor an image to measure. Asked for only where there are rows:
+    // it is measured once, and image lists that come before the first item are to count.
     int ItemHeight();
     // Pixels by which each level moves a row right: 19, or the height of a taller image. The height
     // and not the width counts; applications size their images by that.

@@ -166,7 +166,7 @@ void TreeView::CalcBottomItem() {
     if (!m_port.HasWindow()) {
         return;
     }
-    if (ItemHeight() == 0 || m_hTopItem == nullptr) {
+    if (m_hTopItem == nullptr || ItemHeight() == 0) {
         m_hBottomItem = nullptr;
         return;
     }
@@ -184,7 +184,7 @@ void TreeView::CalcTopItem() {
     if (!m_port.HasWindow()) {
         return;
     }
-    if (ItemHeight() == 0 || m_hBottomItem == nullptr) {
+    if (m_hBottomItem == nullptr || ItemHeight() == 0) {
         m_hTopItem = m_hRootItem;
         return;
     }
@@ -222,7 +222,8 @@ void TreeView::CalcScroll() {
     if (bHorizontal) {
         rcClient.bottom -= cyBar;
     }
-    const bool bVertical = ItemHeight() != 0 && nRows > RowsThatFit(rcClient.Height());
+    // Without rows the height is not asked for: it is measured once, and image lists may come yet.
+    const bool bVertical = nRows > 0 && ItemHeight() != 0 && nRows > RowsThatFit(rcClient.Height());
     if (bVertical) {
         rcClient.right -= cxBar;
         if (!bHorizontal && m_nMaxWidth > rcClient.Width()) {

@@ -126,6 +126,20 @@ TEST(TreeGeometry, WithoutAHeightThereAreNoRows) {
     tree.VScroll(SB_PAGEDOWN, 0);
 }
 
+TEST(TreeGeometry, AnEmptyTreeMeasuresNothing) {
+    TestTree tree;
+    tree.Resize();
+    tree.SetRedraw(true);
+    tree.VScroll(SB_LINEDOWN, 0);
+    tree.HitTest({5, 5}, nullptr, nullptr);
+    tree.m_images.cyImage = 24;
+    tree.Add("a");
+    EXPECT_EQ(tree.ItemHeight(), 24) << "a list set before the first item counts";
+    tree.m_images.cyImage = 40;
+    tree.Add("b");
+    EXPECT_EQ(tree.ItemHeight(), 24);
+}
+
 TEST(TreeGeometry, RectanglesLeaveRoomForIndentationAndImages) {
     TestTree tree;
     HTREEITEM a = tree.Add("root");

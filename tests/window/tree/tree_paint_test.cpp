@@ -126,6 +126,20 @@ TEST(TreePaint, StateImageZeroIsAPicture) {
     EXPECT_EQ(Shown(w.tree).Count(RGB(192, 192, 192), rcBox), 80) << "grey";
 }
 
+TEST(TreePaint, ListsSetBeforeTheFirstItemDecideTheRowHeight) {
+    TreeWindow<> w;
+    w.tree.UpdateWindow();
+    CImageList images;
+    images.Create(16, 40, ILC_COLOR, 1, 1);
+    CBitmap bitmap;
+    bitmap.CreateBitmap(16, 40, 1, 1, nullptr);
+    images.Add(&bitmap, static_cast<CBitmap*>(nullptr));
+    w.tree.SetImageList(&images, TVSIL_NORMAL);
+    w.Add("a row");
+    EXPECT_EQ(w.RowHeight(), 40);
+    w.tree.SetImageList(nullptr, TVSIL_NORMAL);
+}
+
 TEST(TreePaint, ScrollsToTheSamePixelsAsAFullPaintGives) {
     TreeWindow<> w;
     std::mt19937 random(4);
