@@ -101,6 +101,9 @@ bool TreeView::ChangeParent(HTREEITEM hItem, HTREEITEM hNewParent) {
     if (bMoved) {
         CalcScroll();
         CalcBottomItem();
+        if (m_bRedraw && m_port.HasWindow()) {
+            m_port.InvalidateAll();
+        }
     }
     return bMoved;
 }

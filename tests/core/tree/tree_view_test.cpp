@@ -276,6 +276,17 @@ TEST_F(TreeScrolling, EnsureVisibleBringsRowsToTheNearerEdge) {
     EXPECT_FALSE(tree.EnsureVisible(nullptr));
 }
 
+TEST_F(TreeScrolling, AMovedItemIsPaintedWhereItIsNow) {
+    Fill(3);
+    const int nAll = tree.window.nAllInvalid;
+    EXPECT_TRUE(tree.ChangeParent(rows[2], rows[0]));
+    EXPECT_EQ(tree.window.nAllInvalid, nAll + 1);
+    EXPECT_FALSE(tree.ChangeParent(rows[0], rows[2]));
+    tree.SetRedraw(false);
+    EXPECT_TRUE(tree.ChangeParent(rows[2], rows[1]));
+    EXPECT_EQ(tree.window.nAllInvalid, nAll + 1);
+}
+
 TEST_F(TreeScrolling, AWindowLowerThanARowShowsOne) {
     tree.window.size = {200, 7};
     Fill(4);
