@@ -65,6 +65,7 @@ public:
     // the item or is it. Levels below the item stay as they were until reinserted.
     BOOL ChangeParent(HTREEITEM hItem, HTREEITEM hNewParent);
     // Sorts the direct children by CompareItems; 0 for null and without children.
+    // The view keeps its top row, but stays full.
     BOOL SortChildren(HTREEITEM hParent);
     // First direct child whose whole row behind the first style code equals strText, case ignored,
     // and whose image is nImage (-1: any).

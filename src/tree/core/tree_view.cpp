@@ -123,6 +123,9 @@ bool TreeView::SortChildren(HTREEITEM hParent) {
             }
         });
     }
+    if (m_bRedraw) {
+        RefitAll();
+    }
     if (m_port.HasWindow()) {
         m_port.InvalidateAll();
     }
@@ -439,9 +442,7 @@ void TreeView::InvalidateItem(HTREEITEM hItem, bool bErase) {
 void TreeView::SetRedraw(bool bRedraw) {
     m_bRedraw = bRedraw;
     if (m_bRedraw && m_port.HasWindow()) {
-        CalcScroll();
-        CalcBottomItem();
-        CalcTopItem();
+        RefitAll();
         m_port.InvalidateAll();
     }
 }

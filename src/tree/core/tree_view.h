@@ -152,6 +152,7 @@ private:
     };
 
     void Refresh();
+    void RefitAll();
     void CalcItemHeight();
     int RowsThatFit(int nHeight);
     void CheckStyles();

@@ -282,6 +282,13 @@ void TreeView::FitHorizontalBar(const Rect& rcClient, bool bNeeded) {
     }
 }
 
+// After a change that may leave rows above the view and room below it.
+void TreeView::RefitAll() {
+    CalcScroll();
+    CalcBottomItem();
+    CalcTopItem();
+}
+
 void TreeView::Resize() {
     if (m_bFitting) {
         m_bResizedWhileFitting = true;
@@ -492,9 +499,7 @@ bool TreeView::Expand(HTREEITEM hItem, unsigned nCode, bool bInvalidate, bool bC
         }
     }
     if (m_bRedraw) {
-        CalcScroll();
-        CalcBottomItem();
-        CalcTopItem();
+        RefitAll();
         if (bInvalidate && m_port.HasWindow()) {
             m_port.InvalidateAll();
         }

@@ -276,6 +276,32 @@ TEST_F(TreeScrolling, EnsureVisibleBringsRowsToTheNearerEdge) {
     EXPECT_FALSE(tree.EnsureVisible(nullptr));
 }
 
+TEST_F(TreeScrolling, SortingRefitsTheViewToTheNewOrder) {
+    HTREEITEM p = tree.Add("p");
+    tree.Expand(p, TVE_EXPAND, false, false);
+    for (const char* psz : {"h", "g", "f", "e", "d", "c", "b", "a"}) {
+        rows.push_back(tree.Add(psz, p));
+    }
+    ASSERT_EQ(tree.m_hBottomItem, rows[4]);  // "d"
+    EXPECT_TRUE(tree.SortChildren(p));
+    EXPECT_EQ(tree.m_hTopItem, p);
+    EXPECT_EQ(tree.m_hBottomItem, rows[3]) << "e: the sixth row";
+    tree.EnsureVisible(rows[0]);  // "h", the last row now
+    ASSERT_EQ(tree.m_hTopItem, rows[5]);
+    tree.compare = [](HTREEITEM h1, HTREEITEM h2) { return *h1->pszText > *h2->pszText ? -1 : 1; };
+    EXPECT_TRUE(tree.SortChildren(p));
+    EXPECT_EQ(tree.m_hBottomItem, rows[7]);
+    EXPECT_EQ(tree.m_hTopItem, rows[2]) << "the window stays full";
+    EXPECT_EQ(tree.window.ranges[SB_VERT].nPos, 3);
+
+    tree.SetRedraw(false);
+    const int nAll = tree.window.nAllInvalid;
+    tree.compare = nullptr;
+    EXPECT_TRUE(tree.SortChildren(p));
+    EXPECT_EQ(tree.m_hBottomItem, rows[7]) << "nothing moves while redraw is off";
+    EXPECT_EQ(tree.window.nAllInvalid, nAll + 1);
+}
+
 TEST_F(TreeScrolling, AMovedItemIsPaintedWhereItIsNow) {
     Fill(3);
     const int nAll = tree.window.nAllInvalid;
