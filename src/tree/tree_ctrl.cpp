@@ -401,10 +401,12 @@ void QVTreeCtrlEx::LoadStandardCheckStates() {
 }
 
 BOOL QVTreeCtrlEx::LoadTreeStates(UINT nBitmapId) {
-    m_imlStates.DeleteImageList();
-    if (!m_imlStates.Create(nBitmapId, kStateImageWidth, 0, kStateImageMask)) {
+    CImageList states;
+    if (!states.Create(nBitmapId, kStateImageWidth, 0, kStateImageMask)) {
         return FALSE;
     }
+    m_imlStates.DeleteImageList();
+    m_imlStates.Attach(states.Detach());
     SetImageList(&m_imlStates, TVSIL_STATE);
     return TRUE;
 }

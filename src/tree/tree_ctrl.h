@@ -152,7 +152,8 @@ public:
     CImageList* SetImageList(CImageList* pImageList, int nImageList);
     // Empty, ticked, grey empty, grey ticked box.
     void LoadStandardCheckStates();
-    // State images 12 pixels wide from a bitmap resource; RGB(0,128,128) is transparent.
+    // State images 12 pixels wide from a bitmap resource; RGB(0,128,128) is transparent. 0 if there
+    // is no such bitmap; the images loaded before stay then.
     BOOL LoadTreeStates(UINT nBitmapId);
 
     // --- Geometry and view
