@@ -13,6 +13,27 @@ unsigned LineHeight(CDC& dc, CFont* pFont) {
     return static_cast<unsigned>(dc.GetTextExtent("0", 1).cy);
 }
 
+// Draws nothing outside of rect as long as it lives; without bCut it leaves the context alone.
+class CutGuard {
+public:
+    CutGuard(CDC& dc, const CRect& rect, bool bCut) : m_dc(dc), m_nSaved(bCut ? dc.SaveDC() : 0) {
+        if (bCut) {
+            dc.IntersectClipRect(&rect);
+        }
+    }
+    ~CutGuard() {
+        if (m_nSaved != 0) {
+            m_dc.RestoreDC(m_nSaved);
+        }
+    }
+    CutGuard(const CutGuard&) = delete;
+    CutGuard& operator=(const CutGuard&) = delete;
+
+private:
+    CDC& m_dc;
+    const int m_nSaved;
+};
+
 CString ResourceText(unsigned nStringID) {
     CString strText;
     strText.LoadString(nStringID);
@@ -139,19 +160,17 @@ void QVPrintEngine::PrintPage(CDC* pDC, const CRect& rect, unsigned nPage) {
     const QVPrintEnginePage& page = m_Pages[nPage - 1];
     const qv::PageRecord record{page.GetFirstItem(), page.GetLastItem(), page.GetFirstSub(),
                                 page.GetLastSub()};
-    // Only an item that fits no page can reach out of its page.
-    const bool bCut =
-        record.nFirstItem == record.nLastItem &&
-        m_Items[record.nFirstItem]->MinSize() > static_cast<unsigned>(std::max(rect.Height(), 0));
-    const int nSaved = bCut ? pDC->SaveDC() : 0;
-    if (bCut) {
-        pDC->IntersectClipRect(&rect);
-    }
+    // Only an item that fits no page can reach out of its page. It gets the room that it wants at
+    // least, so that it prints the row that the page then cuts.
+    const unsigned nMinSize = m_Items[record.nFirstItem]->MinSize();
+    const bool bCut = record.nFirstItem == record.nLastItem &&
+                      nMinSize > static_cast<unsigned>(std::max(rect.Height(), 0));
+    const CutGuard cut(*pDC, rect, bCut);
     CRect work(rect);
+    if (bCut) {
+        work.bottom = work.top + static_cast<LONG>(nMinSize);
+    }
     qv::ForEachOnPage(record, [&](size_t nItem, unsigned nFirst, unsigned nLast) {
         m_Items[nItem]->Print(pDC, work, nFirst, nLast);
     });
-    if (bCut) {
-        pDC->RestoreDC(nSaved);
-    }
 }

@@ -1,7 +1,5 @@
 #include "print/print_items.h"
 
-#include <afxext.h>
-
 #include <algorithm>
 
 #include "frame/core/styled_text.h"
@@ -165,18 +163,37 @@ QVPeDataListBase::QVPeDataListBase(CDC* pDC, QVListCtrlEx* pList, QVPeFont heade
     : QVPrintEngineData(header.pFont, header.nHeight, normal.pFont, normal.nHeight),
       m_pDC(pDC),
       m_pList(pList) {
-    CPrintInfo info;
-    pList->SetPrintFonts(NormalFont(), HeaderFont());
-    pList->BeginPrinting(pDC, &info);
-    if ((pList->GetStyle() & LVS_NOCOLUMNHEADER) == 0) {
-        m_nHeaderHeight = static_cast<unsigned>(pList->HeaderPrintHeight(pDC));
+    try {
+        BeginRun();
+    } catch (...) {
+        EndRun();  // no destructor will
+        throw;
     }
-    m_nItemHeight = static_cast<unsigned>(pList->CalculateItemHeight(pDC));
 }
 
 QVPeDataListBase::~QVPeDataListBase() {
+    EndRun();
+}
+
+void QVPeDataListBase::BeginRun() {
     CPrintInfo info;
-    m_pList->EndPrinting(m_pDC, &info);
+    m_pList->SetPrintFonts(NormalFont(), HeaderFont());
+    m_pList->BeginPrinting(m_pDC, &info);
+    if ((m_pList->GetStyle() & LVS_NOCOLUMNHEADER) == 0) {
+        m_nHeaderHeight = static_cast<unsigned>(m_pList->HeaderPrintHeight(m_pDC));
+    }
+    m_nItemHeight = static_cast<unsigned>(m_pList->CalculateItemHeight(m_pDC));
+}
+
+// Comes from the destructor and from a constructor that fails: nothing may be thrown, not even by a
+// list that replaces the step.
+void QVPeDataListBase::EndRun() noexcept {
+    try {
+        m_pList->EndPrinting(m_pDC, &m_infoForEnd);
+    } catch (CException* pException) {
+        pException->Delete();
+    } catch (...) {
+    }
 }
 
 void QVPeDataListBase::TakeSizes() {
@@ -258,8 +275,12 @@ void QVPeDataStringList::PrintRow(CDC* pDC, const CRect& rcRow, const CString& s
         }
         CRect rcText(rcCell);
         rcText.DeflateRect(qv::kCellMargin * static_cast<int>(m_nScale), 0);
-        const UINT nAlign = qv::CellDrawFormat(m_pList->GetColFormat(nCol));
-        pDC->DrawText(field.data(), static_cast<int>(field.size()), &rcText, kCellFlags | nAlign);
+        if (rcText.left < rcText.right) {
+            // Without width, centred and right-aligned text would stand beside its cell.
+            const UINT nAlign = qv::CellDrawFormat(m_pList->GetColFormat(nCol));
+            pDC->DrawText(field.data(), static_cast<int>(field.size()), &rcText,
+                          kCellFlags | nAlign);
+        }
         rcCell.left = rcCell.right;
     }
 }

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <afxext.h>
+
 #include "print/print_engine_data.h"
 
 class QVListCtrlEx;
@@ -85,6 +87,12 @@ protected:
     QVListCtrlEx* m_pList;
     unsigned m_nHeaderHeight = 0;  // 0 for a list without headings
     unsigned m_nItemHeight = 0;
+
+private:
+    void BeginRun();
+    void EndRun() noexcept;
+
+    CPrintInfo m_infoForEnd;  // made in time: the end of a run must not need memory
 };
 
 class QVPeDataList : public QVPeDataListBase {
