@@ -140,7 +140,8 @@ unsigned QVPrintEngine::Paginate(const CRect& rect) {
     std::vector<qv::PageRecord> records;
     const unsigned nPages =
         qv::Paginate(items, static_cast<unsigned>(std::max(rect.Width(), 0)),
-                     static_cast<unsigned>(std::max(rect.Height(), 0)), records);
+                     static_cast<unsigned>(std::max(rect.Height(), 0)), records,
+                     m_bPrintAllRows ? qv::RowNumbers::kOwn : qv::RowNumbers::kKept);
     for (const qv::PageRecord& record : records) {
         QVPrintEnginePage page;
         page.SetFirstItem(record.nFirstItem);

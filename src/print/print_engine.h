@@ -8,10 +8,11 @@
 // Ownership: the engine owns its items; copies of an engine share them. Fonts, lists, string arrays
 // and device contexts are the caller's and must outlive the engine.
 //
-// Where a list, a text or a totals list opens a page and the item that was split last has ended on
-// the page before, the row number of that split is still in force: rows before it are not printed.
-// Headers and group headers have no rows and go with what follows them, so a document in which one
-// of them precedes each item with rows never shows this.
+// Call SetPrintAllRows(true) before Paginate, or rows may be missing on paper: where a list, a text
+// or a totals list opens a page and the item that was split last has ended on the page before, the
+// row number of that split is still in force, and rows before it are not printed. Headers and group
+// headers have no rows and go with what follows them, so a document in which one of them precedes
+// each item with rows never shows this.
 //
 // An engine paginates once: a second Paginate gives the number of pages again, but PrintPage finds
 // the pages of the first. What fits on no page gets a page of its own and is cut there.
@@ -75,6 +76,11 @@ public:
     // To be filled by the caller.
     QVPeDataLabeledList& AddLabeledDataList(CDC* pDC);
 
+    // On: each item begins with its first row, and no row is missing on paper. To be called before
+    // Paginate. Off at first, where an item that opens a page begins at the row at which the last
+    // split item went on; page tables of old count on that, new programs switch it on.
+    void SetPrintAllRows(bool bAll) { m_bPrintAllRows = bAll; }
+
     // The number of pages; only the width and height of rect count.
     unsigned Paginate(const CRect& rect);
     // nPage counts from 1; one that does not exist prints nothing.
@@ -93,6 +99,7 @@ private:
     unsigned m_nNormalHeight = 0;
     unsigned m_nSectionHeight = 0;
     bool m_bNeedsPagination = true;
+    bool m_bPrintAllRows = false;
     std::vector<std::shared_ptr<QVPrintEngineData>> m_Items;
     std::vector<QVPrintEnginePage> m_Pages;
 };

@@ -10,7 +10,7 @@
 namespace {
 
 constexpr int kIndentSpaces = 6;
-constexpr char kWidestNumber[] = "9,999,999";
+constexpr char kUsualNumber[] = "9,999,999";
 
 }  // namespace
 
@@ -76,6 +76,17 @@ bool QVPeDataLabeledList::PrintSize(unsigned nFirst, unsigned& nLast, unsigned& 
     return qv::FitRows(Count(), 0, NormalFontHeight(), nFirst, nLast, nRemaining);
 }
 
+// Pixels of the column of numbers, in the font that is selected.
+int QVPeDataLabeledList::NumberWidth(CDC& dc) const {
+    int nWidth = dc.GetTextExtent(CString(kUsualNumber)).cx;
+    for (const QVPeDataLabeledListItem& item : m_Items) {
+        if (m_bFitNumbers && item.Justified() != QVPeDataLabeledListItem::Left) {
+            nWidth = std::max(nWidth, static_cast<int>(dc.GetTextExtent(item.Data()).cx));
+        }
+    }
+    return nWidth;
+}
+
 void QVPeDataLabeledList::Print(CDC* pDC, CRect& rect, unsigned nFirst, unsigned nLast) {
     const unsigned nEnd = nLast == qv::kToEnd ? Count() : std::min(nLast + 1, Count());
     if (nFirst >= nEnd) {
@@ -88,7 +99,7 @@ void QVPeDataLabeledList::Print(CDC* pDC, CRect& rect, unsigned nFirst, unsigned
     CRect rcData(rcLabel);
     rcData.left += static_cast<LONG>(m_nDataOffset);
     CRect rcNumber(rcData);
-    rcNumber.right = rcNumber.left + pDC->GetTextExtent(CString(kWidestNumber)).cx;
+    rcNumber.right = rcNumber.left + NumberWidth(*pDC);
     for (unsigned n = nFirst; n < nEnd; ++n) {
         const QVPeDataLabeledListItem& item = m_Items[n];
         pDC->DrawText(item.Label(), &rcLabel, kPrintLabelFlags);

@@ -143,6 +143,25 @@ TEST_F(PrintEngine, StringListsUseTheColumnsOfAList) {
     EXPECT_EQ(dc.texts[7].rc.top, nHeader * 3 / 2 + 2 * nNormal);
 }
 
+TEST_F(PrintEngine, NumbersWiderThanTheirColumnAreWholeWhereItFitsThem) {
+    const CRect rc(0, 0, 800, 800);
+    for (const char* psz : {"1,234,567,890", "42"}) {
+        for (const bool bFit : {false, true}) {
+            QVPrintEngine engine(&dc, &header, &normal, &section);
+            QVPeDataLabeledList& list = engine.AddLabeledDataList(&dc);
+            list.SetFitNumbers(bFit);
+            list.AddData("a", psz, QVPeDataLabeledListItem::Right);
+            list.AddData("b", "a text that is wider than any number",
+                         QVPeDataLabeledListItem::Left);
+            ASSERT_EQ(engine.Paginate(rc), 1u);
+            Page(engine, 1, rc);
+            const int nLeast = WidthOf(normal, "9,999,999");
+            const int nWanted = bFit ? std::max(nLeast, WidthOf(normal, psz)) : nLeast;
+            EXPECT_EQ(dc.texts[1].rc.Width(), nWanted) << psz;
+        }
+    }
+}
+
 // Nothing of a column that is left out, or too narrow for its padding, may get on paper.
 TEST_F(PrintEngine, StringListsDrawNothingInCellsWithoutWidth) {
     ListWindow<> w("a\tb\tc\td");
@@ -191,12 +210,13 @@ TEST_F(PrintEngine, LabeledListsLineUpTextsAndNumbers) {
     EXPECT_EQ(dc.texts[0].rc.top, 20);
 }
 
-// A page that opens behind a split item still carries that item's row number, by design. Rows that
-// there are not take no room.
+// A page that opens behind a split item still carries that item's row number, unless all rows are
+// asked for. Rows that there are not take no room.
 TEST_F(PrintEngine, ARowNumberLeftFromASplitItemPrintsFromThatRow) {
     const int nPage = 2 * nSection;
-    const auto run = [&](int nEntries) {
+    const auto run = [&](int nEntries, bool bAllRows) {
         QVPrintEngine engine(&dc, &header, &normal, &section);
+        engine.SetPrintAllRows(bAllRows);
         CStringArray text;
         for (const char* psz : {"1", "2", "3", "4"}) {
             text.Add(psz);
@@ -212,9 +232,11 @@ TEST_F(PrintEngine, ARowNumberLeftFromASplitItemPrintsFromThatRow) {
         return Page(engine, 3, rc);
     };
     ASSERT_GE(nPage, 3 * nNormal);
-    EXPECT_EQ(run(3).substr(0, 5), "row|2");
-    EXPECT_EQ(run(2), "end");
+    EXPECT_EQ(run(3, false).substr(0, 5), "row|2");
+    EXPECT_EQ(run(2, false), "end");
     EXPECT_EQ(dc.texts[0].rc.top, 0);
+    EXPECT_EQ(run(3, true).substr(0, 17), "row|0|row|1|row|2");
+    EXPECT_EQ(run(2, true).substr(0, 11), "row|0|row|1");
 }
 
 TEST_F(PrintEngine, WhatFitsNoPageIsCutOnAPageOfItsOwn) {
