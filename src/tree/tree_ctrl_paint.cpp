@@ -22,7 +22,7 @@ int Even(int n) {
 
 bool QVTreeCtrlEx::IsHighlighted(HTREEITEM hItem) {
     return (hItem->nState & TVIS_SELECTED) != 0 &&
-           (GetFocus() == this || (GetStyle() & TVS_SHOWSELALWAYS) != 0);
+           (::GetFocus() == m_hWnd || (GetStyle() & TVS_SHOWSELALWAYS) != 0);
 }
 
 COLORREF QVTreeCtrlEx::GetTextColor(HTREEITEM hItem) {
@@ -39,6 +39,7 @@ COLORREF QVTreeCtrlEx::GetBkColor(HTREEITEM hItem) {
 // No erasing and no second buffer: each step excludes what it has painted from the clip, and the
 // fill at the end of a row meets only what is left. Everything is drawn in row coordinates.
 void QVTreeCtrlEx::OnPaint() {
+    m_pCore->FitIfDue();
     m_pCore->DrawBars();
     CPaintDC dc(this);
     if (!m_pCore->m_bRedraw) {
@@ -123,7 +124,7 @@ void QVTreeCtrlEx::DrawItem(CDC& dc, HTREEITEM hItem, const CRect& rcItem) {
     } else {
         dc.DrawText(strText, -1, &rcInner, kTextFlags);
     }
-    if (bSelected && GetFocus() == this) {
+    if (bSelected && ::GetFocus() == m_hWnd) {
         dc.DrawFocusRect(&rcText);
     }
     dc.ExcludeClipRect(&rcText);
@@ -159,7 +160,7 @@ void QVTreeCtrlEx::DrawImage(CDC& dc, CImageList& images, int nImage, CRect rcCe
 
 void QVTreeCtrlEx::OutputFormattedText(CDC& dc, const CRect& rect, const CString& strText,
                                        BOOL bSelected) {
-    const bool bKeepColors = bSelected && GetFocus() == this;
+    const bool bKeepColors = bSelected && ::GetFocus() == m_hWnd;
     qv::FieldReader fields({strText, static_cast<size_t>(strText.GetLength())}, qv::ToRect(rect),
                            m_pCore->Tabs(), m_pCore->IndentTabs(), m_aStyles);
     qv::Field field;

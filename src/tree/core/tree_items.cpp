@@ -239,7 +239,23 @@ HTREEITEM TreeItems::InsertItem(const char* pszText, int nImage, int nSelectedIm
         return nullptr;
     }
     std::memcpy(hItem->pszText, pszText, nBytes);
-    return PositionInTree(hItem, hParent, hInsertAfter) ? hItem : nullptr;
+    const Watch watch(*this, hItem);
+    try {
+        return PositionInTree(hItem, hParent, hInsertAfter) ? hItem : nullptr;
+    } catch (const std::bad_alloc&) {
+        ReturnUnplaced(hItem, watch);
+        return nullptr;
+    } catch (...) {
+        ReturnUnplaced(hItem, watch);
+        throw;
+    }
+}
+
+// A comparison has thrown before the new item had a place.
+void TreeItems::ReturnUnplaced(HTREEITEM hItem, const Watch& watch) {
+    if (watch.ItemAlive()) {
+        ReturnHandle(hItem);
+    }
 }
 
 // The first item of the root level, also while m_hRootItem has been moved away from it.

@@ -223,7 +223,11 @@ void TreeView::SetIndentTabs(bool bIndentTabs) {
 
 int TreeView::ItemHeight() {
     if (m_nItemHeight == 0) {
-        CalcItemHeight();
+        try {
+            CalcItemHeight();
+        } catch (const std::bad_alloc&) {
+            m_bFitDue = true;  // no height yet; it is measured the next time
+        }
     }
     return m_nItemHeight;
 }
@@ -315,6 +319,14 @@ void TreeView::CalcItemRect(TextMeasure* pOther, int nTop, HTREEITEM hItem, Rect
 }
 
 bool TreeView::GetItemRect(HTREEITEM hItem, Rect& rect, bool bTextOnly) {
+    try {
+        return FindRect(hItem, rect, bTextOnly);
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+}
+
+bool TreeView::FindRect(HTREEITEM hItem, Rect& rect, bool bTextOnly) {
     if (hItem == nullptr || !m_port.HasWindow() || ItemHeight() == 0) {
         return false;
     }
@@ -368,7 +380,11 @@ HTREEITEM TreeView::HitTest(Point pt, unsigned* pFlags, Rect* pRect) {
         return nullptr;
     }
     Rect rect;
-    RowRect(nRow * nHeight, hItem, rect, false);
+    try {
+        RowRect(nRow * nHeight, hItem, rect, false);
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
     if (pRect != nullptr) {
         *pRect = rect;
     }
@@ -431,11 +447,15 @@ bool TreeView::SelectItem(HTREEITEM hItem) {
 }
 
 void TreeView::InvalidateItem(HTREEITEM hItem, bool bErase) {
-    Rect rect;
-    if (GetItemRect(hItem, rect, false)) {
-        rect.left -= m_nHScrollPos;
-        rect.right = std::max(rect.right - m_nHScrollPos, m_port.ClientRect().right);
-        m_port.Invalidate(rect, bErase);
+    try {
+        Rect rect;
+        if (FindRect(hItem, rect, false)) {
+            rect.left -= m_nHScrollPos;
+            rect.right = std::max(rect.right - m_nHScrollPos, m_port.ClientRect().right);
+            m_port.Invalidate(rect, bErase);
+        }
+    } catch (const std::bad_alloc&) {
+        m_port.InvalidateAll();  // it is not known where the row ends
     }
 }
 

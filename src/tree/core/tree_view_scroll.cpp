@@ -202,7 +202,6 @@ void TreeView::CalcTopItem() {
     }
 }
 
-// Works from the client area as it would be without bars, since one bar may force the other.
 // Showing a bar resizes the window, which leads back here: the call that is under way has the whole
 // picture and finishes the job.
 void TreeView::CalcScroll() {
@@ -210,6 +209,23 @@ void TreeView::CalcScroll() {
         return;
     }
     const Fitting fitting(*this);
+    m_bFitDue = false;
+    try {
+        Fit();
+    } catch (const std::bad_alloc&) {
+        m_bFitDue = true;
+    }
+}
+
+void TreeView::FitIfDue() {
+    if (m_bFitDue && m_bRedraw) {
+        CalcScroll();
+        CalcBottomItem();
+    }
+}
+
+// Works from the client area as it would be without bars, since one bar may force the other.
+void TreeView::Fit() {
     const int cyBar = m_port.HorizontalBarHeight();
     const int cxBar = m_port.VerticalBarWidth();
     Rect rcClient = m_port.ClientRect();

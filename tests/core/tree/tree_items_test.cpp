@@ -136,6 +136,21 @@ TEST(TreeInsert, WithoutMemoryLeavesTheTreeAsItWas) {
     }
 }
 
+TEST(TreeInsert, AComparisonThatThrowsLeavesTheTreeAsItWas) {
+    TestTree tree;
+    HTREEITEM p = tree.Add("p");
+    tree.Add("b", p);
+    tree.Add("a", p);
+    tree.compare = [](HTREEITEM, HTREEITEM) -> int { throw std::bad_alloc(); };
+    EXPECT_EQ(tree.Add("c", p, TVI_SORT), nullptr);
+    EXPECT_FALSE(tree.SortChildren(p));
+    tree.compare = [](HTREEITEM, HTREEITEM) -> int { throw 1; };
+    EXPECT_THROW(tree.Add("c", p, TVI_SORT), int);
+    EXPECT_THROW(tree.SortChildren(p), int);
+    EXPECT_EQ(tree.Walk(), "p b a");
+    EXPECT_TRUE(tree.CheckInvariants());
+}
+
 TEST(TreeText, KeepsTheOldTextWithoutMemoryAndTakesPartsOfItself) {
     TestTree tree;
     HTREEITEM h = tree.Add("some text");

@@ -444,6 +444,34 @@ TEST_F(TreeScrolling, WithoutMemoryForAnIndexRowsAreWalked) {
     EXPECT_TRUE(tree.CheckInvariants());
 }
 
+TEST_F(TreeScrolling, AChangeThatCannotBeMeasuredIsFittedLater) {
+    Fill(3);
+    tree.measure.bOutOfMemory = true;
+    HTREEITEM added = tree.Add("a row that is too long for the window", rows[0]);
+    ASSERT_NE(added, nullptr);
+    EXPECT_TRUE(tree.Expand(rows[0], TVE_EXPAND, true, false));
+    qv::Rect rect;
+    EXPECT_FALSE(tree.GetItemRect(added, rect, false));
+    EXPECT_EQ(tree.HitTest({5, 20}, nullptr, nullptr), nullptr);
+    const int nAll = tree.window.nAllInvalid;
+    EXPECT_TRUE(tree.SelectItem(added));
+    EXPECT_GT(tree.window.nAllInvalid, nAll) << "where the row ends is not known";
+    EXPECT_TRUE(tree.DeleteItem(rows[1]));
+    EXPECT_TRUE(tree.ChangeParent(rows[2], added));
+    EXPECT_TRUE(tree.EnsureVisible(rows[2]));
+    EXPECT_TRUE(tree.SortChildren(rows[0]));
+    EXPECT_EQ(tree.Rows(), "row0 a row that is too long for the window row2");
+    EXPECT_FALSE(tree.window.bShown[SB_HORZ]);
+    EXPECT_TRUE(tree.CheckInvariants());
+    tree.measure.bOutOfMemory = false;
+    tree.FitIfDue();
+    EXPECT_TRUE(tree.window.bShown[SB_HORZ]);
+    EXPECT_EQ(tree.m_hBottomItem, rows[2]);
+    const int nCalls = tree.measure.nCalls;
+    tree.FitIfDue();
+    EXPECT_EQ(tree.measure.nCalls, nCalls);
+}
+
 // Whatever happens to the tree, a refit gives what walking all rows gives.
 TEST(TreeProperty, RefitsAgreeWithAPlainWalk) {
     for (unsigned nSeed = 1; nSeed <= 30; ++nSeed) {
