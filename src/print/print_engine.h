@@ -14,6 +14,10 @@
 // headers have no rows and go with what follows them, so a document in which one of them precedes
 // each item with rows never shows this.
 //
+// Nothing is thrown for want of memory: what cannot be added or printed is left out, and IsComplete
+// tells. Ask it before a job is ended. What a list's replaced steps throw otherwise goes on to the
+// caller.
+//
 // An engine paginates once: a second Paginate gives the number of pages again, but PrintPage finds
 // the pages of the first. What fits on no page gets a page of its own and is cut there.
 
@@ -51,8 +55,8 @@ class QV_CONTROLS_API QVPrintEngine {
 public:
     // Measures the fonts on pDC, which is not kept; without it all heights are 0.
     QVPrintEngine(CDC* pDC, CFont* pHeaderFont, CFont* pNormalFont, CFont* pSectionFont);
-    QVPrintEngine(const QVPrintEngine&) = default;
-    QVPrintEngine& operator=(const QVPrintEngine&) = default;
+    QVPrintEngine(const QVPrintEngine& other);
+    QVPrintEngine& operator=(const QVPrintEngine& other);
     ~QVPrintEngine();
 
     // A line in the section font with a blank line above and below. Goes with what follows it.
@@ -73,7 +77,7 @@ public:
     void AddList(QVListCtrlEx* pList, CDC* pDC);
     // Rows of TAB-separated fields in the columns of a list. The array is not copied.
     void AddStringList(CStringArray* pRows, QVListCtrlEx* pList, CDC* pDC);
-    // To be filled by the caller.
+    // To be filled by the caller. Without memory it is a list that the document does not have.
     QVPeDataLabeledList& AddLabeledDataList(CDC* pDC);
 
     // On: each item begins with its first row, and no row is missing on paper. To be called before
@@ -81,25 +85,31 @@ public:
     // split item went on; page tables of old count on that, new programs switch it on.
     void SetPrintAllRows(bool bAll) { m_bPrintAllRows = bAll; }
 
-    // The number of pages; only the width and height of rect count.
+    // The number of pages; only the width and height of rect count. 0 without memory; it may be
+    // called again then.
     unsigned Paginate(const CRect& rect);
     // nPage counts from 1; one that does not exist prints nothing.
     void PrintPage(CDC* pDC, const CRect& rect, unsigned nPage);
+    // False once memory did not suffice for something that was added or printed: it is missing.
+    bool IsComplete() const;
 
 private:
     class PageItems;
 
     void ClearData();
-    void Add(std::shared_ptr<QVPrintEngineData> pItem) { m_Items.push_back(std::move(pItem)); }
+    template <class Make>
+    bool Add(Make make);
 
-    CFont* m_pHeaderFont;
-    CFont* m_pNormalFont;
-    CFont* m_pSectionFont;
+    CFont* m_pHeaderFont = nullptr;
+    CFont* m_pNormalFont = nullptr;
+    CFont* m_pSectionFont = nullptr;
     unsigned m_nHeaderHeight = 0;
     unsigned m_nNormalHeight = 0;
     unsigned m_nSectionHeight = 0;
     bool m_bNeedsPagination = true;
     bool m_bPrintAllRows = false;
+    bool m_bComplete = true;
     std::vector<std::shared_ptr<QVPrintEngineData>> m_Items;
     std::vector<QVPrintEnginePage> m_Pages;
+    QVPeDataLabeledList m_unprinted;  // stands in for one that there was no memory for
 };

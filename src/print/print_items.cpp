@@ -118,16 +118,17 @@ void QVPeDataText::CalcSize(unsigned nWidth) {
     const qv::SelectGuard<CFont> font(*m_pDC, NormalFont());
     qv::DcMeasure measure(*m_pDC);
     std::vector<std::string_view> lines;
-    m_aLines.RemoveAll();
+    std::vector<CString> aLines;
     for (INT_PTR i = 0; i < m_aSource.GetSize(); ++i) {
         const CString& strSource = m_aSource.ElementAt(i);
         lines.clear();
         qv::WrapLine({strSource, static_cast<size_t>(strSource.GetLength())}, nWidth, measure,
                      qv::ProcessText(), lines);
         for (const std::string_view line : lines) {
-            m_aLines.Add(CString(line.data(), static_cast<int>(line.size())));
+            aLines.emplace_back(line.data(), static_cast<int>(line.size()));
         }
     }
+    m_aLines.swap(aLines);
     m_bWrapped = true;
     m_nWidth = nWidth;
     SetMaxSize(m_nLineHeight * Count());
@@ -152,7 +153,7 @@ void QVPeDataText::PrintLines(CDC* pDC, unsigned nFirst, unsigned nLast, const C
     CRect rcLine(rect);
     for (unsigned n = 0; n < nRows && nFirst + n < nEnd; ++n) {
         rcLine.bottom = rcLine.top + static_cast<LONG>(m_nLineHeight);
-        pDC->DrawText(m_aLines[static_cast<INT_PTR>(nFirst + n)], &rcLine, kLineFlags);
+        pDC->DrawText(m_aLines[nFirst + n], &rcLine, kLineFlags);
         rcLine.top = rcLine.bottom;
     }
 }

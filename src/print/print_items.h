@@ -5,6 +5,8 @@
 
 #include <afxext.h>
 
+#include <vector>
+
 #include "print/print_engine_data.h"
 
 class QVListCtrlEx;
@@ -57,11 +59,11 @@ protected:
 
 private:
     QVPeDataText(CDC* pDC, CFont* pFont);
-    unsigned Count() const { return static_cast<unsigned>(m_aLines.GetSize()); }
+    unsigned Count() const { return static_cast<unsigned>(m_aLines.size()); }
 
     CDC* m_pDC;
     CStringArray m_aSource;
-    CStringArray m_aLines;  // wrapped to m_nWidth
+    std::vector<CString> m_aLines;  // wrapped to m_nWidth
     bool m_bWrapped = false;
     unsigned m_nWidth = 0;
     unsigned m_nLineHeight = 0;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "frame/out_of_memory.h"
 #include "frame/select_object.h"
 #include "print/core/pagination.h"
 #include "print/core/row_split.h"
@@ -28,8 +29,10 @@ QVPeDataLabeledListItem& QVPeDataLabeledListItem::operator=(const QVPeDataLabele
 
 void QVPeDataLabeledListItem::Set(const char* pszLabel, const char* pszData,
                                   Justification eJustification) {
-    m_strLabel = pszLabel;
-    m_strData = pszData;
+    const CString strLabel(pszLabel);
+    const CString strData(pszData);
+    m_strLabel = strLabel;
+    m_strData = strData;
     m_eJustification = eJustification;
 }
 
@@ -40,19 +43,53 @@ QVPeDataLabeledList::QVPeDataLabeledList(CDC* pDC, CFont* pHeaderFont, unsigned 
     m_nSpace = static_cast<unsigned>(pDC->GetTextExtent("M", 1).cx);
 }
 
+QVPeDataLabeledList::QVPeDataLabeledList(const QVPeDataLabeledList& other)
+    : QVPrintEngineData(other) {
+    *this = other;
+}
+
+QVPeDataLabeledList& QVPeDataLabeledList::operator=(const QVPeDataLabeledList& other) {
+    std::vector<QVPeDataLabeledListItem> items;
+    if (!qv::MemorySuffices([&] { items = other.m_Items; })) {
+        SetIncomplete();
+        return *this;
+    }
+    QVPrintEngineData::operator=(other);
+    m_Items.swap(items);
+    m_pDC = other.m_pDC;
+    m_nLabelWidth = other.m_nLabelWidth;
+    m_nDataOffset = other.m_nDataOffset;
+    m_nSpace = other.m_nSpace;
+    m_bIndented = other.m_bIndented;
+    m_bFitNumbers = other.m_bFitNumbers;
+    return *this;
+}
+
 void QVPeDataLabeledList::AddData(const char* pszLabel, const char* pszData,
                                   QVPeDataLabeledListItem::Justification eJustification) {
-    CheckLabelWidth(pszLabel);
-    QVPeDataLabeledListItem item;
-    item.Set(pszLabel, pszData, eJustification);
-    m_Items.push_back(item);
+    if (m_pDC == nullptr) {
+        return;
+    }
+    const size_t nRows = m_Items.size();
+    if (!qv::MemorySuffices([&] {
+            QVPeDataLabeledListItem item;
+            item.Set(pszLabel, pszData, eJustification);
+            m_Items.push_back(item);
+            CheckLabelWidth(pszLabel);
+        })) {
+        m_Items.resize(nRows);
+        SetIncomplete();
+    }
 }
 
 void QVPeDataLabeledList::AddData(unsigned nLabelID, const char* pszData,
                                   QVPeDataLabeledListItem::Justification eJustification) {
     CString strLabel;
-    strLabel.LoadString(nLabelID);
-    AddData(static_cast<const char*>(strLabel), pszData, eJustification);
+    if (qv::MemorySuffices([&] { strLabel.LoadString(nLabelID); })) {
+        AddData(static_cast<const char*>(strLabel), pszData, eJustification);
+    } else {
+        SetIncomplete();
+    }
 }
 
 void QVPeDataLabeledList::CheckLabelWidth(const char* pszLabel) {

@@ -31,11 +31,15 @@ private:
     Justification m_eJustification = Left;
 };
 
-// Made and owned by a QVPrintEngine, filled by the caller before the engine paginates.
+// Made and owned by a QVPrintEngine, filled by the caller before the engine paginates. A row that
+// there is no memory for is not added; IsComplete tells, the list's and the engine's.
 class QV_CONTROLS_API QVPeDataLabeledList : public QVPrintEngineData {
 public:
     QVPeDataLabeledList(CDC* pDC, CFont* pHeaderFont, unsigned nHeaderHeight, CFont* pNormalFont,
                         unsigned nNormalHeight);
+    // Without memory for its rows a copy has none, or those it had.
+    QVPeDataLabeledList(const QVPeDataLabeledList& other);
+    QVPeDataLabeledList& operator=(const QVPeDataLabeledList& other);
 
     void AddData(const char* pszLabel, const char* pszData,
                  QVPeDataLabeledListItem::Justification eJustification);
@@ -56,12 +60,16 @@ public:
     bool PrintSize(unsigned nFirst, unsigned& nLast, unsigned& nRemaining) override;
 
 private:
+    friend class QVPrintEngine;
+
+    // Takes no rows.
+    QVPeDataLabeledList() : QVPrintEngineData(nullptr, 0, nullptr, 0) {}
     void CheckLabelWidth(const char* pszLabel);
     int NumberWidth(CDC& dc) const;
     unsigned Count() const { return static_cast<unsigned>(m_Items.size()); }
 
     std::vector<QVPeDataLabeledListItem> m_Items;
-    CDC* m_pDC;
+    CDC* m_pDC = nullptr;
     unsigned m_nLabelWidth = 0;
     unsigned m_nDataOffset = 0;
     unsigned m_nSpace = 0;  // the width of "M"
