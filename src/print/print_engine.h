@@ -1,25 +1,26 @@
 // QVPrintEngine: turns a document, given as items in reading order, into pages.
 //
-// Construct it with the device context that will be printed on, add items, call Paginate once with
-// the rectangle that pages have for text, then PrintPage for each page; draw page numbers and other
-// furniture around that rectangle yourself. Destroy the engine before the device context goes:
-// lists end their print run then.
+// Construct it with the device context that will be printed on, call SetPrintAllRows(true), add
+// items, call Paginate once with the rectangle that pages have for text, then PrintPage for each
+// page; draw page numbers and other furniture around that rectangle yourself. Destroy the engine
+// before the device context goes: lists end their print run then.
 //
 // Ownership: the engine owns its items; copies of an engine share them. Fonts, lists, string arrays
 // and device contexts are the caller's and must outlive the engine.
 //
-// Call SetPrintAllRows(true) before Paginate, or rows may be missing on paper: where a list, a text
-// or a totals list opens a page and the item that was split last has ended on the page before, the
-// row number of that split is still in force, and rows before it are not printed. Headers and group
-// headers have no rows and go with what follows them, so a document in which one of them precedes
-// each item with rows never shows this.
+// Without SetPrintAllRows(true) rows may be missing on paper: where a list, a text or a totals list
+// opens a page and the item that was split last has ended on the page before, the row number of
+// that split is still in force, and rows before it are not printed. Headers and group headers have
+// no rows and go with what follows them, so a document in which one of them precedes each item with
+// rows never shows this.
 //
 // Nothing is thrown for want of memory: what cannot be added or printed is left out, and IsComplete
 // tells. Ask it before a job is ended. What a list's replaced steps throw otherwise goes on to the
 // caller.
 //
 // An engine paginates once: a second Paginate gives the number of pages again, but PrintPage finds
-// the pages of the first. What fits on no page gets a page of its own and is cut there.
+// the pages of the first. What fits on no page gets a page of its own and is cut there; of a text
+// or a list that is its first row, and the rows behind that one are not printed.
 
 #pragma once
 
@@ -55,6 +56,7 @@ class QV_CONTROLS_API QVPrintEngine {
 public:
     // Measures the fonts on pDC, which is not kept; without it all heights are 0.
     QVPrintEngine(CDC* pDC, CFont* pHeaderFont, CFont* pNormalFont, CFont* pSectionFont);
+    // Without memory a copy is empty, or what it was, and not complete.
     QVPrintEngine(const QVPrintEngine& other);
     QVPrintEngine& operator=(const QVPrintEngine& other);
     ~QVPrintEngine();
