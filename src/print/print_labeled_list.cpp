@@ -117,10 +117,11 @@ bool QVPeDataLabeledList::PrintSize(unsigned nFirst, unsigned& nLast, unsigned& 
 
 // Pixels of the column of numbers, in the font that is selected.
 int QVPeDataLabeledList::NumberWidth(CDC& dc) const {
-    int nWidth = dc.GetTextExtent(CString(kUsualNumber)).cx;
+    int nWidth = static_cast<int>(qv::TextExtent(dc, kUsualNumber).cx);
     for (const QVPeDataLabeledListItem& item : m_Items) {
         if (m_bFitNumbers && item.Justified() != QVPeDataLabeledListItem::Left) {
-            nWidth = std::max(nWidth, static_cast<int>(dc.GetTextExtent(item.Data()).cx));
+            nWidth =
+                std::max(nWidth, static_cast<int>(qv::TextExtent(dc, qv::View(item.Data())).cx));
         }
     }
     return nWidth;

@@ -418,6 +418,7 @@ BOOL QVTreeCtrlEx::LoadTreeStates(UINT nBitmapId) {
         return FALSE;
     }
     const HIMAGELIST hStates = states.Detach();
+    m_imlStates.DeleteImageList();
     qv::MemorySuffices([&] { m_imlStates.Attach(hStates); });
     if (m_imlStates.GetSafeHandle() != hStates) {
         ::ImageList_Destroy(hStates);
