@@ -231,6 +231,31 @@ TYPED_TEST(TreeMemory, NothingLeavesTheWindowProcedure) {
     }
 }
 
+TEST(TreeMemoryFirst, AWindowComesWholeOrNotAtAll) {
+    QuietParent parent;
+    for (const auto mode : {FailingHeap::kAllLater, FailingHeap::kJustOne}) {
+        auto pTree = std::make_unique<WatchedTree>();
+        BOOL bMade = FALSE;
+        bool bThrown = false;
+        RefuseEachAllocation(
+            mode,
+            [&] {
+                try {
+                    bMade = pTree->Create(kTreeStyle, CRect(0, 0, 300, 100), &parent, kTreeId);
+                } catch (...) {
+                    bThrown = true;
+                }
+            },
+            [&](int n) {
+                EXPECT_FALSE(bThrown) << n;
+                EXPECT_EQ(bMade != FALSE, pTree->m_hWnd != nullptr) << n;
+                EXPECT_EQ(pTree->nThrown, 0) << n;
+                pTree = std::make_unique<WatchedTree>();
+            });
+        EXPECT_TRUE(bMade);
+    }
+}
+
 // Where the first item of a window cannot be measured, the next paint measures it.
 TEST(TreeMemoryFirst, TheFirstItemIsMeasuredAsSoonAsThereIsMemory) {
     QuietParent parent;
