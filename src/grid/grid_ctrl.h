@@ -150,6 +150,7 @@ protected:
     afx_msg void OnKillFocus(CWnd* pNewWnd);
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnSysKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnChangeEditText();
     afx_msg void OnDestroy();
     DECLARE_MESSAGE_MAP()
@@ -183,6 +184,8 @@ private:
     bool EditUp() const;
     bool ListUp() const;
     void MoveRowMark(int nRow);
+    bool LedElsewhere(unsigned nMove, int nRow, int nCol) const;
+    void KeepTypedText();
     void SaveEditors();
     void DropEditors(int nRow, int nCol);
     void PressButton(bool bPressed);

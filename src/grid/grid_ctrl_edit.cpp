@@ -94,6 +94,12 @@ void QVGridCtrl::GotoCell(int nRow, int nCol, BOOL bActivate) {
     InvalidateRow(nRow, FALSE);
 }
 
+// Whether the parent, being told of something, has taken the row away or made another cell current
+// since the current cell had been moved nMove times.
+bool QVGridCtrl::LedElsewhere(unsigned nMove, int nRow, int nCol) const {
+    return !IsValidRow(nRow) || (nMove != m_nMoves && !IsCurrent(nRow, nCol));
+}
+
 void QVGridCtrl::ActivateCell(int nRow, int nCol) {
     if (m_hWnd == nullptr || (IsCurrent(nRow, nCol) && m_bEditing)) {
         return;
@@ -103,10 +109,11 @@ void QVGridCtrl::ActivateCell(int nRow, int nCol) {
         return;
     }
     const Watch watch(*this);
+    const unsigned nMove = m_nMoves;
     if (ListUp()) {
         SaveListBox();
     }
-    if (!watch || !IsValidRow(nRow)) {
+    if (!watch || LedElsewhere(nMove, nRow, nCol)) {
         return;
     }
     const IgnoreFocus ignore(m_bIgnoreFocus, m_pAlive);
@@ -144,7 +151,8 @@ void QVGridCtrl::ActivateCell(int nRow, int nCol) {
     for (int nTry = 0; nTry == 0 || (nTry == 1 && strShown != text()); ++nTry) {
         strShown = text();
         m_pEdit->SetWindowText(strShown);
-        if (!watch || m_pEdit == nullptr || !IsValidRow(nRow) || nOpening != m_nOpenings) {
+        if (!watch || m_pEdit == nullptr || nOpening != m_nOpenings ||
+            LedElsewhere(nMove, nRow, nCol)) {
             return;
         }
     }
@@ -178,17 +186,20 @@ void QVGridCtrl::HideEditCtrl() {
     m_bEditing = FALSE;
 }
 
-void QVGridCtrl::SaveEditCtrl() {
-    if (!EditUp()) {
-        return;
-    }
+// Not through the public SetCellText, which would write the text into the edit again. To the cell
+// that it was opened for, wherever the current cell has gone meanwhile.
+void QVGridCtrl::KeepTypedText() {
     CString strText;
     m_pEdit->GetWindowText(strText);
-    // Not through the public SetCellText, which would write the text into the edit again. To the
-    // cell that it was opened for, wherever the current cell has gone meanwhile.
     m_model.SetText(m_editCell.nRow, m_editCell.nCol,
                     {strText, static_cast<size_t>(strText.GetLength())});
-    HideEditCtrl();
+}
+
+void QVGridCtrl::SaveEditCtrl() {
+    if (EditUp()) {
+        KeepTypedText();
+        HideEditCtrl();
+    }
 }
 
 void QVGridCtrl::SaveEditors() {
@@ -510,6 +521,17 @@ void QVGridCtrl::OnKeyDown(UINT nChar, UINT, UINT) {
     }
 }
 
+// A key that opened the edit has left its character behind for the grid. What is not to be seen
+// would only do harm there: it would act on a text that is selected as a whole.
+void QVGridCtrl::OnChar(UINT nChar, UINT nRepCnt, UINT nFlags) {
+    constexpr UINT kDelete = 0x7F;
+    if (nChar >= ' ' && nChar != kDelete && EditUp() && ::GetFocus() == m_pEdit->m_hWnd) {
+        m_pEdit->SendMessage(WM_CHAR, nChar, MAKELPARAM(nRepCnt, nFlags));
+    } else {
+        Default();
+    }
+}
+
 void QVGridCtrl::OnSysKeyDown(UINT nChar, UINT, UINT) {
     const bool bOpens = nChar == VK_DOWN && IsValidRow(m_nCurRow) &&
                         GetColType(m_nCurCol) == gctDropList &&
@@ -527,9 +549,20 @@ void QVGridCtrl::OnSysKeyDown(UINT nChar, UINT, UINT) {
 // --- QVGridEdit
 
 BEGIN_MESSAGE_MAP(QVGridEdit, CEdit)
+    ON_WM_SETFOCUS()
     ON_WM_KILLFOCUS()
     ON_WM_KEYDOWN()
 END_MESSAGE_MAP()
+
+// A dialog that comes to the front again gives the focus back to the window that had it, hidden
+// meanwhile or not.
+void QVGridEdit::OnSetFocus(CWnd*) {
+    if (m_grid.EditUp()) {
+        Default();
+    } else {
+        m_grid.SetFocus();  // opens it again
+    }
+}
 
 void QVGridEdit::OnKillFocus(CWnd*) {
     const HWND hWnd = m_hWnd;
@@ -547,8 +580,9 @@ bool QVGridEdit::LeavesCell(UINT nChar) {
     int nStart;
     int nEnd;
     GetSel(nStart, nEnd);
-    return nStart == nEnd && ((nChar == VK_LEFT && nStart == 0) ||
-                              (nChar == VK_RIGHT && nStart == GetWindowTextLength()));
+    // In the units of the selection, which the bytes of the text are not everywhere.
+    return nStart == nEnd &&
+           ((nChar == VK_LEFT && nStart == 0) || (nChar == VK_RIGHT && nStart == LineLength(0)));
 }
 
 void QVGridEdit::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {

@@ -13,6 +13,7 @@ public:
     explicit QVGridEdit(QVGridCtrl& grid) : m_grid(grid) {}
 
 protected:
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg void OnKillFocus(CWnd* pNewWnd);
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     DECLARE_MESSAGE_MAP()
@@ -40,13 +41,16 @@ private:
 };
 
 // Watches the grid over a call that leads out of it: the parent may destroy its window or delete
-// the control. False from then on; nothing of the grid may be touched.
+// the control. False from then on; nothing of the grid may be touched. A grid that has no window
+// yet is only watched for its life.
 class QVGridCtrl::Watch {
 public:
-    explicit Watch(const QVGridCtrl& grid) : m_grid(grid), m_pAlive(grid.m_pAlive) {}
-    explicit operator bool() const { return *m_pAlive && m_grid.m_hWnd != nullptr; }
+    explicit Watch(const QVGridCtrl& grid)
+        : m_grid(grid), m_hWnd(grid.m_hWnd), m_pAlive(grid.m_pAlive) {}
+    explicit operator bool() const { return *m_pAlive && m_grid.m_hWnd == m_hWnd; }
 
 private:
     const QVGridCtrl& m_grid;
+    HWND m_hWnd;
     std::shared_ptr<const bool> m_pAlive;
 };

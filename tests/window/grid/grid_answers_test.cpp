@@ -216,6 +216,82 @@ TEST(GridAnswers, ATextChangedWhileItsEditorOpensIsNotOverwritten) {
     EXPECT_EQ(w.Text(0, kEdit), "fresh");
 }
 
+// --- Where a parent leads elsewhere
+
+// The edit, if it shows, lies in the current cell.
+void ExpectEditInCurrentCell(GridWindow<>& w, const char* pszCurrent) {
+    EXPECT_EQ(w.Current(), pszCurrent);
+    ASSERT_NE(w.Edit(), nullptr);
+    CRect rcEdit;
+    ::GetWindowRect(w.Edit(), &rcEdit);
+    w.grid.ScreenToClient(&rcEdit);
+    CRect rcIn;
+    rcIn.IntersectRect(&rcEdit, w.CellRect(w.grid.CurrentRow(), w.grid.CurrentColumn()));
+    EXPECT_EQ(rcIn, rcEdit);
+    TypeText("typed");
+    EXPECT_EQ(w.Text(w.grid.CurrentRow(), w.grid.CurrentColumn()), "typed");
+}
+
+TEST(GridAnswers, AClickOverAnOpenListEndsWhereTheParentLeads) {
+    GridWindow<> w(5);
+    ClickAt(w.grid.m_hWnd, w.At(0, kList));
+    TypeKey(VK_DOWN);
+    w.parent.m_answer = [&](UINT nCode) {
+        if (nCode == kListChanged) {
+            w.grid.GotoCell(3, kEditButton, TRUE);
+        }
+    };
+    ClickAt(w.grid.m_hWnd, w.At(1, kEdit));
+    ExpectEditInCurrentCell(w, "3,2");
+    w.other.SetFocus();
+    EXPECT_EQ(w.Text(1, kEdit), "abc");
+}
+
+TEST(GridAnswers, AnOpeningEditGivesWayWhereTheParentLeadsElsewhere) {
+    for (const bool bOpens : {false, true}) {
+        GridWindow<> w(5);
+        w.other.SetFocus();
+        BringToFront(w.parent.m_hWnd);
+        bool bLed = false;
+        w.parent.m_answer = [&](UINT nCode) {
+            if (nCode == EN_CHANGE && !bLed) {
+                bLed = true;
+                w.grid.GotoCell(3, bOpens ? kEditButton : kStatic, TRUE);
+            }
+        };
+        ClickAt(w.grid.m_hWnd, w.At(1, kEdit));
+        EXPECT_TRUE(bLed);
+        if (bOpens) {
+            ExpectEditInCurrentCell(w, "3,2");
+        } else {
+            EXPECT_EQ(w.Current(), "3,0");
+            EXPECT_EQ(w.Edit(), nullptr);
+            EXPECT_EQ(CWnd::GetFocus(), &w.grid);
+        }
+    }
+}
+
+TEST(GridStore, HasACurrentCellWithoutAWindow) {
+    OpenGrid grid;
+    grid.AddColumn(gctStatic, 50);
+    grid.AddColumn(gctEdit, 50);
+    for (int i = 0; i < 3; ++i) {
+        grid.AddRow("a\tb", 0);
+    }
+    const auto state = [&] {
+        std::string strState = std::to_string(grid.CurrentRow()) + "," +
+                               std::to_string(grid.CurrentColumn()) + " marked";
+        for (int nRow = 0; nRow < 3; ++nRow) {
+            strState += (grid.RowAt(nRow).dwState & GRS_CURRENT) != 0 ? " yes" : " no";
+        }
+        return strState;
+    };
+    grid.GotoCell(1, 0, FALSE);
+    EXPECT_EQ(state(), "1,0 marked no yes no");
+    grid.GotoCell(2, 1, TRUE);
+    EXPECT_EQ(state(), "2,1 marked no no yes");
+}
+
 // --- Anything in any order
 
 TEST(GridMonkey, SurvivesAnyOrderOfInputAndAnswers) {
