@@ -30,6 +30,7 @@ BEGIN_MESSAGE_MAP(QVGridCtrl, QVCustCtrl)
     ON_WM_KILLFOCUS()
     ON_WM_KEYDOWN()
     ON_WM_SYSKEYDOWN()
+    ON_WM_CHAR()
     ON_WM_DESTROY()
     ON_EN_CHANGE(kGridEditId, OnChangeEditText)
 END_MESSAGE_MAP()
@@ -65,6 +66,9 @@ void QVGridCtrl::RegisterDlgControlClass(UINT nDialogID) {
 void QVGridCtrl::OnDestroy() {
     // An edit that goes may hand its focus to the grid, which must not open another one.
     m_bIgnoreFocus = TRUE;
+    if (EditUp()) {
+        KeepTypedText();  // the store lives on
+    }
     QVCustCtrl::OnDestroy();
     m_bEditing = m_bBtnDown = FALSE;
     m_pEdit.reset();
