@@ -16,6 +16,7 @@ constexpr int kTextRoom = 6;  // beside a column's widest text, in pixels
 IMPLEMENT_DYNCREATE(QVGridCtrl, QVCustCtrl)
 
 BEGIN_MESSAGE_MAP(QVGridCtrl, QVCustCtrl)
+    ON_WM_PAINT()
     ON_WM_VSCROLL()
     ON_MESSAGE(WM_SETREDRAW, OnSetRedraw)
     ON_MESSAGE(WM_GETFONT, OnGetFont)
@@ -37,7 +38,8 @@ END_MESSAGE_MAP()
 
 // --- Life
 
-QVGridCtrl::QVGridCtrl() : m_pAlive(std::make_shared<bool>(true)) {
+QVGridCtrl::QVGridCtrl()
+    : m_pPort(std::make_unique<qv::WndPort>(*this)), m_pAlive(std::make_shared<bool>(true)) {
     m_si.cbSize = sizeof(m_si);
     m_si.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
 }
@@ -392,7 +394,8 @@ void QVGridCtrl::CalcScrollBars() {
         m_si.nPos = m_nTopRow;
         m_si.nMin = 0;
         m_si.nMax = NumRows() - 1;
-        SetScrollInfo(SB_VERT, &m_si, TRUE);
+        // Drawn with the next paint, if one is due: each of many added rows would draw it else.
+        m_pPort->SetScrollRange(SB_VERT, {m_si.nMin, m_si.nMax, nVisible, m_si.nPos});
     }
     if (bHasBar != bNeed) {
         ShowScrollBar(SB_VERT, bNeed);

@@ -32,6 +32,10 @@
 class QVGridEdit;
 class QVGridList;
 
+namespace qv {
+class WndPort;
+}
+
 class QV_CONTROLS_API QVGridCtrl : public QVCustCtrl {
     DECLARE_DYNCREATE(QVGridCtrl)
 
@@ -136,6 +140,7 @@ protected:
     void SaveListBox();
     void TogglePopupList();
 
+    afx_msg void OnPaint();
     afx_msg void OnVScroll(UINT nCode, UINT nPos, CScrollBar* pBar);
     afx_msg LRESULT OnSetRedraw(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnGetFont(WPARAM wParam, LPARAM lParam);
@@ -194,6 +199,7 @@ private:
     bool OwnKey(UINT nChar);
 
     qv::GridModel m_model;
+    std::unique_ptr<qv::WndPort> m_pPort;
     qv::GridCell m_editCell;   // that the edit was opened for
     unsigned m_nMoves = 0;     // of the current cell
     unsigned m_nOpenings = 0;  // of the edit

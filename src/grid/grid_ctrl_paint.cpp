@@ -37,6 +37,11 @@ void QVGridCtrl::MeasureRows() {
     }
 }
 
+void QVGridCtrl::OnPaint() {
+    m_pPort->DrawBars();
+    QVCustCtrl::OnPaint();
+}
+
 void QVGridCtrl::Draw(CDC& dc, const CRect& rcClient) {
     MeasureRows();
     const qv::BrushLife window(m_brWindow, Sys(COLOR_WINDOW));
