@@ -17,6 +17,7 @@ IMPLEMENT_DYNCREATE(QVGridCtrl, QVCustCtrl)
 
 BEGIN_MESSAGE_MAP(QVGridCtrl, QVCustCtrl)
     ON_WM_PAINT()
+    ON_WM_SIZE()
     ON_WM_VSCROLL()
     ON_MESSAGE(WM_SETREDRAW, OnSetRedraw)
     ON_MESSAGE(WM_GETFONT, OnGetFont)
@@ -107,6 +108,7 @@ void QVGridCtrl::SetColWidth(int nCol, int nWidth) {
     if (_QVGRID_COL_INFO* pColumn = m_model.Column(nCol)) {
         pColumn->nWidth = nWidth;
         InvalidateAll();
+        PlaceEditors();
     }
 }
 
@@ -398,9 +400,38 @@ void QVGridCtrl::CalcScrollBars() {
         m_pPort->SetScrollRange(SB_VERT, {m_si.nMin, m_si.nMax, nVisible, m_si.nPos});
     }
     if (bHasBar != bNeed) {
+        m_bShowingBar = true;
         ShowScrollBar(SB_VERT, bNeed);
+        m_bShowingBar = false;
     }
     InvalidateAll();
+}
+
+// To a client area or a font of another height: no empty space under the last row while there are
+// rows above the first.
+void QVGridCtrl::RefitRows() {
+    const int nLastTop = std::max(NumRows() - Layout().VisibleRows(), 0);
+    if (m_nTopRow > nLastTop) {
+        m_nTopRow = nLastTop;
+        InvalidateAll();
+    }
+    CalcScrollBars();
+}
+
+// Before the first paint there is no font to fit anything to.
+void QVGridCtrl::OnSize(UINT nType, int cx, int cy) {
+    QVCustCtrl::OnSize(nType, cx, cy);
+    if (m_nCellHeight == -1 || !m_bRedraw) {
+        return;  // the next paint measures and fits
+    }
+    if (!m_bShowingBar) {
+        RefitRows();
+    }
+    InvalidateAll();  // the last column reaches the edge
+    PlaceEditors();
+    if (!m_bShowingBar) {
+        CloseListOutOfView();
+    }
 }
 
 // Moves the window's pixels to a new top row, and paints what comes into view.
@@ -419,6 +450,8 @@ void QVGridCtrl::ShowTopRow(int nTop) {
     GetClientRect(&rcClient);
     ScrollWindowEx(0, (nOld - nTop) * m_nCellHeight, nullptr, &rcClient, nullptr, nullptr,
                    SW_INVALIDATE | SW_ERASE);
+    PlaceEditors();
+    CloseListOutOfView();
 }
 
 void QVGridCtrl::ScrollDown(int nRows) {

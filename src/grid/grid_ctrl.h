@@ -141,6 +141,7 @@ protected:
     void TogglePopupList();
 
     afx_msg void OnPaint();
+    afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnVScroll(UINT nCode, UINT nPos, CScrollBar* pBar);
     afx_msg LRESULT OnSetRedraw(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnGetFont(WPARAM wParam, LPARAM lParam);
@@ -182,9 +183,15 @@ private:
 
     qv::GridLayout Layout();
     void MeasureRows();  // if that is due
+    void RefitRows();
     bool CanRepaint() const { return m_bRedraw && m_hWnd != nullptr; }
     void InvalidateAll();
     void ShowTopRow(int nTop);
+    bool RowShows(int nRow);
+    void PlaceEdit();
+    void PlaceList();
+    void PlaceEditors();
+    void CloseListOutOfView();
     bool IsCurrent(int nRow, int nCol) const { return nRow == m_nCurRow && nCol == m_nCurCol; }
     bool EditUp() const;
     bool ListUp() const;
@@ -200,7 +207,8 @@ private:
 
     qv::GridModel m_model;
     std::unique_ptr<qv::WndPort> m_pPort;
-    qv::GridCell m_editCell;   // that the edit was opened for
+    qv::GridCell m_editCell;  // that the edit was opened for
+    bool m_bShowingBar = false;
     unsigned m_nMoves = 0;     // of the current cell
     unsigned m_nOpenings = 0;  // of the edit
     std::unique_ptr<QVGridEdit> m_pEdit;

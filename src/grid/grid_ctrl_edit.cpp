@@ -134,11 +134,6 @@ void QVGridCtrl::ActivateCell(int nRow, int nCol) {
     } else {
         m_pEdit->ShowWindow(SW_HIDE);
     }
-    CRect rcCell(0, 0, 0, 0);
-    CalcCellRect(nRow, nCol, rcCell);
-    const CRect rcEdit = qv::ToCRect(qv::GridEditRect(
-        qv::ToRect(rcCell), GetColType(nCol) == gctEditButton ? m_nCellHeight : 0));
-    m_pEdit->MoveWindow(&rcEdit, TRUE);
     // The parent hears of the new text, and may change the cell or take the ground away. A text
     // that it changed must not come back when the edit is saved.
     const auto text = [&] {
@@ -156,6 +151,8 @@ void QVGridCtrl::ActivateCell(int nRow, int nCol) {
             return;
         }
     }
+    m_editCell = {nRow, nCol};  // the rows may be other ones now, and lie elsewhere
+    PlaceEdit();
     m_pEdit->SendMessage(EM_SETSEL, 0, -1);
     m_pEdit->SendMessage(EM_SCROLLCARET);
     m_pEdit->ShowWindow(SW_SHOW);
@@ -226,6 +223,7 @@ void QVGridCtrl::HideListBox() {
     if (m_pList == nullptr || m_pList->m_hWnd == nullptr) {
         return;
     }
+    m_pList->Follow(false);
     if (::GetCapture() == m_pList->m_hWnd) {
         ::ReleaseCapture();
     }
@@ -279,20 +277,15 @@ void QVGridCtrl::PopupList(CStringArray& strings) {
     for (INT_PTR i = 0; i < strings.GetSize(); ++i) {
         m_pList->InsertString(-1, strings[i]);
     }
-    CRect rc(0, 0, 0, 0);
-    CalcCellRect(m_nCurRow, m_nCurCol, rc);
-    rc.right -= 1;
-    rc.top = rc.bottom - 1;  // over the cell's lower line
-    rc.bottom = rc.top + m_pList->GetItemHeight(0) * static_cast<int>(strings.GetSize()) + 2;
     CString strCell;
     GetCellText(m_nCurRow, m_nCurCol, strCell);
     const int nLine = m_pList->FindStringExact(-1, strCell);
     if (nLine != LB_ERR) {
         m_pList->SetCurSel(nLine);
     }
-    ClientToScreen(&rc);
-    m_pList->MoveWindow(&rc, FALSE);
+    PlaceList();
     m_pList->ShowWindow(SW_SHOWNA);
+    m_pList->Follow(true);
     m_bEditing = TRUE;
 }
 
@@ -513,7 +506,11 @@ void QVGridCtrl::OnKeyDown(UINT nChar, UINT, UINT) {
         return;
     }
     const IgnoreFocus ignore(m_bIgnoreFocus, m_pAlive);
+    const unsigned nMove = m_nMoves;
     EnsureRowVisible(target.nRow);
+    if (!watch || nMove != m_nMoves) {
+        return;  // the parent was told of an open list's choice, and has led elsewhere
+    }
     GotoCell(target.nRow, target.nCol, FALSE);
     if (watch && IsCurrent(target.nRow, target.nCol) && m_model.UsesEdit(target.nCol) &&
         IsCellEnabled(target.nRow, target.nCol) && !m_bReadOnly) {
@@ -541,8 +538,11 @@ void QVGridCtrl::OnSysKeyDown(UINT nChar, UINT, UINT) {
     } else if (m_bEditing) {
         SaveListBox();
     } else {
+        const Watch watch(*this);
         EnsureRowVisible(m_nCurRow);
-        TogglePopupList();
+        if (watch) {
+            TogglePopupList();
+        }
     }
 }
 

@@ -33,7 +33,8 @@ void QVGridCtrl::CalcCellHeight() {
 void QVGridCtrl::MeasureRows() {
     if (m_nCellHeight == -1) {
         CalcCellHeight();
-        CalcScrollBars();
+        RefitRows();
+        PlaceEditors();
     }
 }
 

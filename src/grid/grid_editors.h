@@ -28,6 +28,11 @@ private:
 class QVGridList : public CListBox {
 public:
     explicit QVGridList(QVGridCtrl& grid) : m_grid(grid) {}
+    ~QVGridList() override { Follow(false); }
+
+    // Whether it moves along with its cell as the windows around the grid move, which the grid is
+    // not told of.
+    void Follow(bool bFollow);
 
 protected:
     afx_msg void OnKillFocus(CWnd* pNewWnd);
@@ -37,7 +42,14 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    static LRESULT CALLBACK AfterMessage(int nCode, WPARAM wParam, LPARAM lParam);
+
+    static inline HHOOK s_hHook = nullptr;  // while there is a list that follows
+    static inline QVGridList* s_pFollowing = nullptr;
+
     QVGridCtrl& m_grid;
+    QVGridList* m_pNext = nullptr;  // that follows as well
+    bool m_bFollows = false;
 };
 
 // Watches the grid over a call that leads out of it: the parent may destroy its window or delete

@@ -214,6 +214,11 @@ TEST(GridAnswers, ATextChangedWhileItsEditorOpensIsNotOverwritten) {
     w.other.SetFocus();
     EXPECT_EQ(nChanges, 2);
     EXPECT_EQ(w.Text(0, kEdit), "fresh");
+    nChanges = 0;
+    w.grid.GotoCell(0, kEdit, TRUE);
+    TypeText("typed");
+    w.other.SetFocus();
+    EXPECT_EQ(w.Text(0, kEdit), "typed");
 }
 
 // --- Where a parent leads elsewhere
@@ -375,7 +380,14 @@ TEST(GridMonkey, SurvivesAnyOrderOfInputAndAnswers) {
                 BringToFront(pick(3) == 0 ? away.m_hWnd : w.parent.m_hWnd);
                 break;
             case 12:
-                w.grid.SendMessage(WM_VSCROLL, static_cast<WPARAM>(pick(8)));
+                if (pick(2) != 0) {
+                    w.grid.SendMessage(WM_VSCROLL, static_cast<WPARAM>(pick(8)));
+                } else if (pick(2) != 0) {
+                    w.grid.EnsureRowVisible(pick(40));
+                } else {
+                    w.grid.SetWindowPos(nullptr, 0, 0, 300 + pick(120), 20 + pick(180),
+                                        SWP_NOMOVE | SWP_NOZORDER);
+                }
                 break;
             case 13:
                 w.grid.SetCellReadOnly(pick(9), pick(5), pick(3) == 0);
@@ -405,6 +417,14 @@ TEST(GridMonkey, SurvivesAnyOrderOfInputAndAnswers) {
         ASSERT_LT(w.grid.CurrentRow(), w.grid.NumRows()) << "step " << i;
         ASSERT_TRUE(w.grid.m_nTopRow >= 0 || w.grid.NumRows() == 0) << "step " << i;
         ASSERT_FALSE(w.grid.m_bIgnoreFocus) << "step " << i;
+        if (w.Edit() != nullptr && w.grid.CurrentRow() >= 0) {
+            w.grid.UpdateWindow();
+            CRect rcEdit;
+            ::GetWindowRect(w.Edit(), &rcEdit);
+            w.grid.ScreenToClient(&rcEdit);
+            const CRect rcCell = w.CellRect(w.grid.CurrentRow(), w.grid.CurrentColumn());
+            ASSERT_EQ(rcEdit.TopLeft(), rcCell.TopLeft() + CSize(2, 1)) << "step " << i;
+        }
     }
     EXPECT_GT(nEdits, 100);
     EXPECT_GT(nLists, 20);
