@@ -182,6 +182,9 @@ int QVGridCtrl::AddRow(const CString& strRow, DWORD dwState) {
     const int nRow = m_model.AddRow({strRow, static_cast<size_t>(strRow.GetLength())}, dwState);
     if (CanRepaint()) {
         CalcScrollBars();
+        if (m_bShowAddedRows) {
+            InvalidateRow(nRow, FALSE);
+        }
     }
     return nRow;
 }

@@ -68,6 +68,9 @@ public:
 
     // --- Rows
 
+    // Whether an added row is painted by itself. Off, it shows with the next paint of its place, or
+    // as the scroll bar moves; that is how it has always been.
+    void SetShowAddedRows(BOOL bShow) { m_bShowAddedRows = bShow; }
     // A row of TAB-separated texts; gives its index. dwState is normally 0.
     int AddRow(const CString& strRow, DWORD dwState);
     int AddRow(UINT nStringID, DWORD dwState);
@@ -91,6 +94,9 @@ public:
     BOOL IsCellEnabled(int nRow, int nCol) const;
     void SetCellReadOnly(int nRow, int nCol, BOOL bReadOnly);
     BOOL IsCellReadOnly(int nRow, int nCol) const;
+    // Whether a drop-list cell that is read-only by itself stays closed, tells nothing and shows no
+    // button. Off, it opens like any other; that is how it has always been.
+    void SetLockReadOnlyLists(BOOL bLock) { m_bLockReadOnlyLists = bLock; }
     // Of the whole grid. Neither repaints nor closes an editor. An edit column still opens as the
     // grid gets the focus; that is how it has always been.
     void SetReadOnly(BOOL bReadOnly) { m_bReadOnly = bReadOnly; }
@@ -102,6 +108,10 @@ public:
     void EnsureRowVisible(int nRow);
     // Shows choices for the current cell.
     void PopupList(CStringArray& strings);
+    // How many lines of a list show at most; the list scrolls to the others, and keeps to the
+    // screen. 0 is no limit: as tall as its choices, wherever that ends, as it has always been. For
+    // the next list that opens.
+    void SetMaxListLines(int nLines) { m_nMaxListLines = nLines; }
 
 protected:
     friend class QVGridEdit;
@@ -195,6 +205,7 @@ private:
     bool IsCurrent(int nRow, int nCol) const { return nRow == m_nCurRow && nCol == m_nCurCol; }
     bool EditUp() const;
     bool ListUp() const;
+    bool IsLockedList(int nRow, int nCol) const;
     void MoveRowMark(int nRow);
     bool LedElsewhere(unsigned nMove, int nRow, int nCol) const;
     void KeepTypedText();
@@ -208,6 +219,9 @@ private:
     qv::GridModel m_model;
     std::unique_ptr<qv::WndPort> m_pPort;
     qv::GridCell m_editCell;  // that the edit was opened for
+    BOOL m_bShowAddedRows = FALSE;
+    BOOL m_bLockReadOnlyLists = FALSE;
+    int m_nMaxListLines = 0;
     bool m_bShowingBar = false;
     unsigned m_nMoves = 0;     // of the current cell
     unsigned m_nOpenings = 0;  // of the edit

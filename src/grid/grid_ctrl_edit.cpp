@@ -43,6 +43,10 @@ bool QVGridCtrl::ListUp() const {
            (m_pList->GetStyle() & WS_VISIBLE) != 0;
 }
 
+bool QVGridCtrl::IsLockedList(int nRow, int nCol) const {
+    return m_bLockReadOnlyLists && GetColType(nCol) == gctDropList && IsCellReadOnly(nRow, nCol);
+}
+
 // The parent answers at once; it may change or destroy anything of the grid.
 void QVGridCtrl::NotifyParent(UINT nCode) {
     if (CWnd* pParent = GetParent()) {
@@ -263,7 +267,9 @@ void QVGridCtrl::PopupList(CStringArray& strings) {
     MeasureRows();
     if (m_pList == nullptr) {
         m_pList = std::make_unique<QVGridList>(*this);
-        m_pList->CreateEx(0, "LISTBOX", nullptr, WS_POPUP | WS_BORDER, CRect(0, 0, 0, 0), this, 0);
+        // The bar shows in a list that is limited in height alone.
+        m_pList->CreateEx(0, "LISTBOX", nullptr, WS_POPUP | WS_BORDER | WS_VSCROLL,
+                          CRect(0, 0, 0, 0), this, 0);
         if (m_pList->m_hWnd == nullptr) {
             m_pList.reset();
             return;
@@ -277,13 +283,13 @@ void QVGridCtrl::PopupList(CStringArray& strings) {
     for (INT_PTR i = 0; i < strings.GetSize(); ++i) {
         m_pList->InsertString(-1, strings[i]);
     }
+    PlaceList();  // first: a selected line is scrolled to
     CString strCell;
     GetCellText(m_nCurRow, m_nCurCol, strCell);
     const int nLine = m_pList->FindStringExact(-1, strCell);
     if (nLine != LB_ERR) {
         m_pList->SetCurSel(nLine);
     }
-    PlaceList();
     m_pList->ShowWindow(SW_SHOWNA);
     m_pList->Follow(true);
     m_bEditing = TRUE;
@@ -336,7 +342,7 @@ void QVGridCtrl::OnLButtonDown(UINT, CPoint pt) {
         return;
     }
     InvalidateAll();
-    if (bDisabled || m_bReadOnly || !IsCurrent(nRow, nCol)) {
+    if (bDisabled || m_bReadOnly || !IsCurrent(nRow, nCol) || IsLockedList(nRow, nCol)) {
         return;
     }
     if (GetColType(nCol) == gctDropList) {
@@ -530,9 +536,9 @@ void QVGridCtrl::OnChar(UINT nChar, UINT nRepCnt, UINT nFlags) {
 }
 
 void QVGridCtrl::OnSysKeyDown(UINT nChar, UINT, UINT) {
-    const bool bOpens = nChar == VK_DOWN && IsValidRow(m_nCurRow) &&
-                        GetColType(m_nCurCol) == gctDropList &&
-                        IsCellEnabled(m_nCurRow, m_nCurCol) && !m_bReadOnly;
+    const bool bOpens =
+        nChar == VK_DOWN && IsValidRow(m_nCurRow) && GetColType(m_nCurCol) == gctDropList &&
+        IsCellEnabled(m_nCurRow, m_nCurCol) && !m_bReadOnly && !IsLockedList(m_nCurRow, m_nCurCol);
     if (!bOpens) {
         Default();
     } else if (m_bEditing) {
@@ -596,6 +602,7 @@ void QVGridEdit::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
 // --- QVGridList
 
 BEGIN_MESSAGE_MAP(QVGridList, CListBox)
+    ON_WM_MOUSEACTIVATE()
     ON_WM_KILLFOCUS()
     ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONUP()
@@ -609,6 +616,10 @@ void QVGridList::OnKillFocus(CWnd*) {
     if (::IsWindow(hWnd)) {
         DefWindowProc(msg.message, msg.wParam, msg.lParam);
     }
+}
+
+int QVGridList::OnMouseActivate(CWnd*, UINT, UINT) {
+    return MA_NOACTIVATE;
 }
 
 // The choice is made by the release.

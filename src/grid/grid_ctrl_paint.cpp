@@ -86,8 +86,8 @@ void QVGridCtrl::DrawRow(CDC& dc, int nRow, const CRect& rcRow, BOOL bFocus) {
             continue;
         }
         const bool bCurrent = IsCurrent(nRow, nCol);
-        const bool bButton =
-            bCurrent && UseFieldButton(nCol) && (dwStyle & GCS_DISABLED) == 0 && !m_bReadOnly;
+        const bool bButton = bCurrent && UseFieldButton(nCol) && (dwStyle & GCS_DISABLED) == 0 &&
+                             !m_bReadOnly && !IsLockedList(nRow, nCol);
         DrawCell(dc, rc, strText, dwStyle | (bCurrent && bFocus ? GCS_FOCUS : 0),
                  bButton ? m_nCellHeight : 0);
         if (bButton) {

@@ -6,6 +6,18 @@
 #include "grid/grid_ctrl.h"
 #include "grid/grid_editors.h"
 
+namespace {
+
+// Of the screen that the rectangle lies on, or is nearest to.
+qv::Rect WorkArea(const CRect& rc) {
+    MONITORINFO info{};
+    info.cbSize = sizeof(info);
+    ::GetMonitorInfo(::MonitorFromRect(&rc, MONITOR_DEFAULTTONEAREST), &info);
+    return qv::ToRect(info.rcWork);
+}
+
+}  // namespace
+
 bool QVGridCtrl::RowShows(int nRow) {
     return nRow >= m_nTopRow && nRow < Layout().EndOfShownRows();
 }
@@ -18,14 +30,16 @@ void QVGridCtrl::PlaceEdit() {
     m_pEdit->MoveWindow(&rcEdit, TRUE);
 }
 
-// Hangs it on the current cell, over that one's lower line.
 void QVGridCtrl::PlaceList() {
-    CRect rc(0, 0, 0, 0);
-    CalcCellRect(m_nCurRow, m_nCurCol, rc);
-    rc.right -= 1;
-    rc.top = rc.bottom - 1;
-    rc.bottom = rc.top + m_pList->GetItemHeight(0) * m_pList->GetCount() + 2;
-    ClientToScreen(&rc);
+    CRect rcCell(0, 0, 0, 0);
+    CalcCellRect(m_nCurRow, m_nCurCol, rcCell);
+    ClientToScreen(&rcCell);
+    const int nHeight = m_pList->GetItemHeight(0);
+    const int nLines = m_pList->GetCount();
+    const CRect rc = qv::ToCRect(m_nMaxListLines > 0
+                                     ? qv::GridListRectOnScreen(qv::ToRect(rcCell), nHeight, nLines,
+                                                                m_nMaxListLines, WorkArea(rcCell))
+                                     : qv::GridListRect(qv::ToRect(rcCell), nHeight, nLines));
     m_pList->MoveWindow(&rc, ListUp());
 }
 

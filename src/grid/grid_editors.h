@@ -36,6 +36,7 @@ public:
 
 protected:
     afx_msg void OnKillFocus(CWnd* pNewWnd);
+    afx_msg int OnMouseActivate(CWnd* pDesktopWnd, UINT nHitTest, UINT message);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint pt);
     afx_msg void OnLButtonUp(UINT nFlags, CPoint pt);
     afx_msg void OnMouseMove(UINT nFlags, CPoint pt);
