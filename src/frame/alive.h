@@ -32,6 +32,12 @@ private:
     mutable AliveWatch* m_pLast = nullptr;
 };
 
+// The compiler does not see that a watch takes itself off its token again.
+#if defined(__GNUC__) && !defined(__clang__)
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wdangling-pointer"
+#endif
+
 // False once the token's object is gone.
 class AliveWatch {
 public:
@@ -62,6 +68,10 @@ private:
     AliveWatch* m_pBefore;
     AliveWatch* m_pAfter = nullptr;
 };
+
+#if defined(__GNUC__) && !defined(__clang__)
+#pragma GCC diagnostic pop
+#endif
 
 inline AliveToken::~AliveToken() {
     for (AliveWatch* pWatch = m_pLast; pWatch != nullptr; pWatch = pWatch->m_pBefore) {

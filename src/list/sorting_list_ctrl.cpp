@@ -72,10 +72,16 @@ struct QVSortingListCtrl::Record {
 class QVSortingListCtrl::Sort {
 public:
     explicit Sort(QVSortingListCtrl& list)
-        : m_list(list), m_keys(qv::ProcessText()), m_outer(list.m_pSort) {
+        : m_list(list),
+          m_watch(list.m_alive, list.m_hWnd),
+          m_keys(qv::ProcessText()),
+          m_outer(list.m_pSort) {
         list.m_pSort = this;
     }
     ~Sort() {
+        if (!m_watch.ObjectAlive()) {
+            return;
+        }
         Unpark();
         if (m_bHoldsRedraw) {
             m_list.SetRedraw(TRUE);
@@ -85,9 +91,10 @@ public:
     Sort(const Sort&) = delete;
     Sort& operator=(const Sort&) = delete;
 
-    // Reads the rows and finds their order; equal ones stay in turn. Changes nothing, so it may
-    // throw std::bad_alloc.
-    void MakeRecords(int nCol, bool bAscending);
+    // Reads the rows and finds their order; equal ones stay in turn. False if the list is gone, or
+    // its rows are others than before: the parent may be asked for texts. Changes nothing, so it
+    // may throw std::bad_alloc.
+    bool MakeRecords(int nCol, bool bAscending);
     // Makes the rows distinct. False if the control refuses; what was parked is put back.
     bool Prepare() { return m_bDistinct || Park(); }
     // Of a row by its item data.
@@ -100,7 +107,10 @@ private:
     std::uint32_t ParkedRank(DWORD_PTR dwData) const;
     void Unpark();
 
+    bool ReadKeys(int nCol);
+
     QVSortingListCtrl& m_list;
+    const qv::WindowWatch<HWND> m_watch;
     qv::SortKeys m_keys;
     std::vector<Record> m_records;  // by rank
     qv::RowRanks m_ranks;
@@ -111,17 +121,30 @@ private:
     Sort* m_outer;
 };
 
-void QVSortingListCtrl::Sort::MakeRecords(int nCol, bool bAscending) {
+bool QVSortingListCtrl::Sort::ReadKeys(int nCol) {
     const auto nType = m_list.ColumnSortType(nCol);
     const int nItems = m_list.GetItemCount();
     m_records.reserve(static_cast<size_t>(nItems));
     for (int nItem = 0; nItem < nItems; ++nItem) {
         LPCSTR pszText = m_list.CellText(nItem, nCol);
+        if (!m_watch) {
+            return false;
+        }
         if (nCol == 0) {
             pszText = m_list.ParseStyleText(pszText);
         }
-        const qv::SortKey key = MakeKey(pszText, nType);
-        m_records.push_back({m_list.GetItemData(nItem), key, nItem});
+        m_records.push_back({0, MakeKey(pszText, nType), nItem});
+    }
+    return m_list.GetItemCount() == nItems;
+}
+
+bool QVSortingListCtrl::Sort::MakeRecords(int nCol, bool bAscending) {
+    if (!ReadKeys(nCol)) {
+        return false;
+    }
+    // Not before: a parent that was asked for a text may have sorted the rows.
+    for (Record& record : m_records) {
+        record.dwData = m_list.GetItemData(record.nRow);
     }
     std::stable_sort(m_records.begin(), m_records.end(),
                      [&](const Record& record1, const Record& record2) {
@@ -134,6 +157,7 @@ void QVSortingListCtrl::Sort::MakeRecords(int nCol, bool bAscending) {
         words.push_back(record.dwData);
     }
     m_bDistinct = m_ranks.Assign(words);
+    return true;
 }
 
 qv::SortKey QVSortingListCtrl::Sort::MakeKey(LPCSTR pszText, QVLISTCTRL_DATATYPE nType) {
@@ -210,7 +234,9 @@ void QVSortingListCtrl::SortOnHeader(int nCol) {
     try {
         Sort sort(*this);
         const bool bAscending = nCol != m_nSortCol || !m_bAscending;
-        sort.MakeRecords(nCol, bAscending);
+        if (!sort.MakeRecords(nCol, bAscending)) {
+            return;
+        }
         m_bAscending = bAscending;
         m_nSortCol = nCol;
         if (sort.Prepare()) {
