@@ -98,6 +98,9 @@ BOOL QVListCtrlEx::Initialize(UINT nID, UINT nBitmapID, COLORREF crMask, int cx,
     if (m_hWnd == nullptr && !SubclassDlgItem(nID, pParent)) {
         return FALSE;
     }
+    if (m_hTold == nullptr) {
+        m_hTold = ::GetParent(m_hWnd);
+    }
     const qv::WindowWatch watch(m_alive, m_hWnd);
     ModifyStyle(LVS_TYPEMASK, LVS_REPORT | LVS_OWNERDRAWFIXED, 0);
     LoadImages(nBitmapID, crMask, cx);
@@ -123,7 +126,12 @@ BOOL QVListCtrlEx::Initialize(UINT nID, UINT nBitmapID, COLORREF crMask, int cx,
 // The control deletes the image lists that it has when it goes; ours is not its own.
 void QVListCtrlEx::OnDestroy() {
     SetImageList(nullptr, LVSIL_SMALL);
+    m_hTold = nullptr;
     CListCtrl::OnDestroy();
+}
+
+HWND QVListCtrlEx::ToldWindow() const {
+    return m_hTold != nullptr ? m_hTold : ::GetParent(m_hWnd);
 }
 
 void QVListCtrlEx::LoadImages(UINT nBitmapID, COLORREF crMask, int cx) {

@@ -185,6 +185,8 @@ protected:
     UINT GetColDrawFormat(int nCol) const;
     UINT GetHdrDrawFormat(int nCol);
     BOOL NextField(const CString& strRow, int& nPos, CString& strField) const;
+    // The window that the control tells in notifications: its parent when it was made.
+    HWND ToldWindow() const;
     // The text of a cell with its style code, valid until the next call; empty if the parent, asked
     // for it, takes the list away.
     LPCSTR CellText(int nItem, int nCol);
@@ -263,6 +265,7 @@ private:
     std::string PlaceKey(LPCSTR pszText, bool bNumeric) const;
     bool ReadPlaces(bool bNumeric);
 
+    HWND m_hTold = nullptr;
     std::vector<char> m_aCellText;
     std::unique_ptr<Places> m_pPlaces;
 };
