@@ -67,11 +67,12 @@ BOOL QVListCtrlEx::Create(UINT nID, const CRect& rc, UINT nBitmapID, COLORREF cr
     if (!CListCtrl::Create(m_dwDefStyle, rc, pParent, nID)) {
         return FALSE;
     }
-    if (!Initialize(nID, nBitmapID, crMask, cx, pParent)) {
+    const qv::WindowWatch watch(m_alive, m_hWnd);
+    const BOOL bInitialized = Initialize(nID, nBitmapID, crMask, cx, pParent);
+    if (!bInitialized && watch) {
         DestroyWindow();
-        return FALSE;
     }
-    return TRUE;
+    return bInitialized && watch;
 }
 
 BOOL QVListCtrlEx::Create(UINT nID, const CRect& rc, CWnd* pParent) {
@@ -98,6 +99,10 @@ BOOL QVListCtrlEx::Initialize(UINT nID, UINT nBitmapID, COLORREF crMask, int cx,
     if (m_hWnd == nullptr && !SubclassDlgItem(nID, pParent)) {
         return FALSE;
     }
+    if (m_hTold == nullptr) {
+        m_hTold = ::GetParent(m_hWnd);
+    }
+    const qv::WindowWatch watch(m_alive, m_hWnd);
     ModifyStyle(LVS_TYPEMASK, LVS_REPORT | LVS_OWNERDRAWFIXED, 0);
     LoadImages(nBitmapID, crMask, cx);
     TakeFontOfParents();
@@ -113,14 +118,21 @@ BOOL QVListCtrlEx::Initialize(UINT nID, UINT nBitmapID, COLORREF crMask, int cx,
             SetColWidth(0, m_nClientWidth, nullptr);
         }
     }
-    SetupColumns();
-    return TRUE;
+    if (watch) {
+        SetupColumns();
+    }
+    return watch ? TRUE : FALSE;
 }
 
 // The control deletes the image lists that it has when it goes; ours is not its own.
 void QVListCtrlEx::OnDestroy() {
     SetImageList(nullptr, LVSIL_SMALL);
+    m_hTold = nullptr;
     CListCtrl::OnDestroy();
+}
+
+HWND QVListCtrlEx::ToldWindow() const {
+    return m_hTold != nullptr ? m_hTold : ::GetParent(m_hWnd);
 }
 
 void QVListCtrlEx::LoadImages(UINT nBitmapID, COLORREF crMask, int cx) {
@@ -178,16 +190,20 @@ void QVListCtrlEx::AddHeader(UINT nStringID) {
 }
 
 void QVListCtrlEx::AddHeader(LPCSTR pszHeaders) {
+    const qv::WindowWatch watch(m_alive, m_hWnd);
     if (m_bSingleColumn) {
         DeleteColumn(0);
+        if (!watch.ObjectAlive()) {
+            return;
+        }
         m_bSingleColumn = FALSE;
         m_columns.SetCount(0);
     }
     const std::string_view headers = pszHeaders != nullptr ? pszHeaders : "";
     std::string_view field;
     int nCol = m_columns.Count();
-    for (int nPos = 0; nCol <= qv::kLastHeaderColumn && qv::NextField(headers, nPos, field);
-         ++nCol) {
+    for (int nPos = 0;
+         watch && nCol <= qv::kLastHeaderColumn && qv::NextField(headers, nPos, field); ++nCol) {
         std::string strHeading(field);
         strHeading.resize(qv::ProcessText().PrefixBytes(strHeading.c_str(), kHeadingBytes - 1));
         LVCOLUMN column{};
@@ -203,10 +219,13 @@ void QVListCtrlEx::AddHeader(LPCSTR pszHeaders) {
 void QVListCtrlEx::ClearHeaders() {
     LVCOLUMN column{};
     column.mask = LVCF_WIDTH;
+    const qv::AliveWatch watch(m_alive);
     // A control that refuses to delete a column ends the walk as well.
-    while (GetColumn(0, &column) && DeleteColumn(0)) {
+    while (watch && GetColumn(0, &column) && DeleteColumn(0)) {
     }
-    m_columns.SetCount(0);
+    if (watch) {
+        m_columns.SetCount(0);
+    }
 }
 
 void QVListCtrlEx::ClearCols() {
@@ -218,9 +237,13 @@ void QVListCtrlEx::SetupColumns() {
         CalcSingleColWidth();
         return;
     }
+    const qv::AliveWatch watch(m_alive);
     CWindowDC dc(this);
     const qv::SelectGuard<CFont> font(dc, GetFont());
-    m_columns.SetCount(CalcColWidths(&dc, nullptr));
+    const int nColumns = CalcColWidths(&dc, nullptr);
+    if (watch) {
+        m_columns.SetCount(nColumns);
+    }
 }
 
 int QVListCtrlEx::CalcColWidths(CDC*, int*) {
@@ -228,18 +251,21 @@ int QVListCtrlEx::CalcColWidths(CDC*, int*) {
 }
 
 void QVListCtrlEx::SetupColumnsFromString(const CString& strSample) {
+    const qv::WindowWatch watch(m_alive, m_hWnd);
     int nFillCol = -1;
     int nCol = 0;
     std::string_view field;
-    for (int nPos = 0; qv::NextField(std::string_view(strSample), nPos, field); ++nCol) {
+    for (int nPos = 0; watch && qv::NextField(std::string_view(strSample), nPos, field); ++nCol) {
         if (qv::TakeFillMark(field)) {
             nFillCol = nCol;
         }
         const int nWidth = GetStringWidth(std::string(field).c_str()) + qv::kColumnMargin;
         SetColWidth(nCol, std::max(nWidth, GetColWidth(nCol, nullptr)), nullptr);
     }
-    // Room for the scroll bar is left whether or not there is one.
-    FillRest(nFillCol, ::GetSystemMetrics(SM_CXVSCROLL));
+    if (watch) {
+        // Room for the scroll bar is left whether or not there is one.
+        FillRest(nFillCol, ::GetSystemMetrics(SM_CXVSCROLL));
+    }
 }
 
 // Widens a column to what the window has left, nReserved pixels apart. -1 is no column.
@@ -253,9 +279,10 @@ void QVListCtrlEx::FillRest(int nFillCol, int nReserved) {
 }
 
 int QVListCtrlEx::MakeColsFromString(CDC* pDC, const CString& strRow, int* pWidths) {
+    const qv::AliveWatch watch(m_alive);
     int nCol = 0;
     std::string_view field;
-    for (int nPos = 0; qv::NextField(std::string_view(strRow), nPos, field); ++nCol) {
+    for (int nPos = 0; watch && qv::NextField(std::string_view(strRow), nPos, field); ++nCol) {
         const CSize size = qv::TextExtent(*pDC, field);
         SetColWidth(nCol, size.cx + qv::kColumnMargin, pWidths);
     }
@@ -288,13 +315,18 @@ void QVListCtrlEx::CalcColsFromHeader(int nFillCol) {
     if (strHeaders.IsEmpty()) {
         return;
     }
+    const qv::WindowWatch watch(m_alive, m_hWnd);
     CWindowDC dc(this);
     const qv::SelectGuard<CFont> font(dc, GetFont());
-    m_columns.SetCount(MakeColsFromString(&dc, strHeaders, nullptr));
-    if (m_columns.Count() >= 1) {
-        FillRest(nFillCol, 0);
+    const int nColumns = MakeColsFromString(&dc, strHeaders, nullptr);
+    if (!watch) {
+        return;
     }
     m_bSingleColumn = FALSE;
+    m_columns.SetCount(nColumns);
+    if (nColumns >= 1) {
+        FillRest(nFillCol, 0);
+    }
 }
 
 int QVListCtrlEx::CalcDataWidth(int* pWidths) {
@@ -321,8 +353,11 @@ int QVListCtrlEx::GetColWidth(int nCol, int* pWidths) {
 
 void QVListCtrlEx::SetColWidth(int nCol, int nWidth, int* pWidths) {
     if (pWidths == nullptr) {
+        const qv::AliveWatch watch(m_alive);
         SendMessage(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(nCol), MAKELPARAM(nWidth, 0));
-        CalcDataWidth(nullptr);
+        if (watch) {
+            CalcDataWidth(nullptr);
+        }
     } else if (nCol >= 0 && nCol < m_columns.Count()) {
         pWidths[nCol] = nWidth;
     }
@@ -387,20 +422,26 @@ void QVListCtrlEx::SortOnHeader(int nCol) {
 }
 
 void QVListCtrlEx::CalcSingleColWidth() {
+    const qv::WindowWatch watch(m_alive, m_hWnd);
     CClientDC dc(this);
     const qv::SelectGuard<CFont> font(dc, GetFont());
     m_nDataWidth = 0;
     const int nItems = GetItemCount();
-    for (int nItem = 0; nItem < nItems; ++nItem) {
-        m_nDataWidth = std::max(m_nDataWidth, CalculateItemWidth(&dc, nItem));
+    for (int nItem = 0; watch && nItem < nItems; ++nItem) {
+        const int nWidth = CalculateItemWidth(&dc, nItem);
+        if (watch) {
+            m_nDataWidth = std::max(m_nDataWidth, nWidth);
+        }
     }
-    SetColWidth(0, std::max(m_nClientWidth, m_nDataWidth), nullptr);
+    if (watch) {
+        SetColWidth(0, std::max(m_nClientWidth, m_nDataWidth), nullptr);
+    }
 }
 
 int QVListCtrlEx::CalculateItemWidth(CDC* pDC, int nItem) {
     CString strRow;
     if (!GetItemString(nItem, strRow)) {
-        return 0;
+        return 0;  // also where the list is gone
     }
     const CString strText(ParseStyleText(strRow));
     return m_nImageWidth + qv::TextExtent(*pDC, qv::View(strText)).cx + qv::kColumnMargin;
@@ -413,13 +454,14 @@ int QVListCtrlEx::GetSelectedItem() {
 }
 
 int QVListCtrlEx::SelectItem(int nItem) {
-    for (int nOld; (nOld = GetSelectedItem()) != -1;) {
+    const qv::WindowWatch watch(m_alive, m_hWnd);
+    for (int nOld; watch && (nOld = GetSelectedItem()) != -1;) {
         // A parent may refuse the change; it would be asked without end.
-        if (!SetItemState(nOld, 0, LVIS_SELECTED) || GetSelectedItem() == nOld) {
+        if (!SetItemState(nOld, 0, LVIS_SELECTED) || !watch || GetSelectedItem() == nOld) {
             break;
         }
     }
-    if (nItem != -1) {
+    if (watch && nItem != -1) {
         const UINT nState = LVIS_SELECTED | (HasFocus() ? LVIS_FOCUSED : 0);
         SetItemState(nItem, nState, nState);
     }
@@ -443,7 +485,8 @@ void QVListCtrlEx::RestoreSelections() {
     for (int nItem = 0; nItem < nItems; ++nItem) {
         rows.emplace(GetItemData(nItem), nItem);
     }
-    for (INT_PTR i = 0; i < m_aSavedSel.GetSize(); ++i) {
+    const qv::WindowWatch watch(m_alive, m_hWnd);
+    for (INT_PTR i = 0; watch && i < m_aSavedSel.GetSize(); ++i) {
         if (const auto it = rows.find(m_aSavedSel[i]); it != rows.end()) {
             SetItemState(it->second, LVIS_SELECTED, LVIS_SELECTED);
         }
@@ -480,8 +523,9 @@ LRESULT QVListCtrlEx::OnDeleteColumn(WPARAM, LPARAM) {
 
 LRESULT QVListCtrlEx::OnDeleteListItem(WPARAM, LPARAM) {
     m_pPlaces->CountChange();
+    const qv::WindowWatch watch(m_alive, m_hWnd);
     const LRESULT lResult = Default();
-    if (m_bSingleColumn) {
+    if (watch && m_bSingleColumn) {
         CalcSingleColWidth();
     }
     return lResult;
@@ -536,7 +580,11 @@ BOOL QVListCtrlEx::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT*) {
 }
 
 void QVListCtrlEx::OnSize(UINT, int cx, int) {
+    const qv::WindowWatch watch(m_alive, m_hWnd);
     Default();
+    if (!watch) {
+        return;
+    }
     m_nClientWidth = cx;
     if (!m_bSingleColumn) {
         return;
@@ -545,7 +593,9 @@ void QVListCtrlEx::OnSize(UINT, int cx, int) {
     GetWindowRect(&rcWindow);
     if (rcWindow.Width() != m_rcWindow.Width()) {
         CalcSingleColWidth();
-        m_rcWindow = rcWindow;
+        if (watch) {
+            m_rcWindow = rcWindow;
+        }
     }
 }
 
@@ -555,15 +605,21 @@ void QVListCtrlEx::OnWindowPosChanging(WINDOWPOS* pPos) {
 }
 
 void QVListCtrlEx::OnWindowPosChanged(WINDOWPOS*) {
+    const qv::WindowWatch watch(m_alive, m_hWnd);
     Default();
-    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
+    if (watch) {
+        RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME);
+    }
 }
 
 BOOL QVListCtrlEx::OnMouseWheel(UINT, short zDelta, CPoint) {
     // One remainder for all lists of the process: the wheel is one.
     static int s_nRemainder = 0;
-    qv::TurnWheel(s_nRemainder, zDelta, GetMouseScrollLines(FALSE), [this](bool bUp, bool) {
-        Scroll(CSize(0, bUp ? -m_nTextHeight : m_nTextHeight));
+    const qv::WindowWatch watch(m_alive, m_hWnd);
+    qv::TurnWheel(s_nRemainder, zDelta, GetMouseScrollLines(FALSE), [&](bool bUp, bool) {
+        if (watch) {
+            Scroll(CSize(0, bUp ? -m_nTextHeight : m_nTextHeight));
+        }
     });
     return TRUE;
 }

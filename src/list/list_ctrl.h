@@ -10,6 +10,10 @@
 // On paper the list follows a protocol: SetPrintFonts, BeginPrinting, CalcPrintCols, then any
 // number of PrintHeader and PrintItems, EndPrinting. A QVPrintEngine drives it; so can any caller.
 //
+// The parent may destroy the list's window or delete the list whenever it is told or asked
+// something; what was under way then ends, and reports failure if it reports. In one notification
+// the platform's own control does not live through it: LVN_DELETEITEM of a DeleteAllItems.
+//
 // Ownership: print fonts and image resources are the caller's; the image list is the control's.
 // Widths are in pixels of the control's font, on paper in units of the printer's device context.
 
@@ -24,6 +28,7 @@
 #include <string_view>
 #include <vector>
 
+#include "frame/alive.h"
 #include "frame/styled_rows.h"
 #include "list/core/list_columns.h"
 #include "list/core/list_row.h"
@@ -180,7 +185,10 @@ protected:
     UINT GetColDrawFormat(int nCol) const;
     UINT GetHdrDrawFormat(int nCol);
     BOOL NextField(const CString& strRow, int& nPos, CString& strField) const;
-    // The text of a cell with its style code, valid until the next call.
+    // The window that the control tells in notifications: its parent when it was made.
+    HWND ToldWindow() const;
+    // The text of a cell with its style code, valid until the next call; empty if the parent, asked
+    // for it, takes the list away.
     LPCSTR CellText(int nItem, int nCol);
 
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
@@ -203,6 +211,7 @@ protected:
     afx_msg LRESULT OnSetListItemText(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
+    qv::AliveToken m_alive;  // for whoever leads out to the parent
     void (*m_pfnSort)(int nCol, void* pData) = nullptr;
     void* m_pSortData = nullptr;
     qv::ListColumns m_columns;
@@ -252,10 +261,11 @@ private:
     int PrintRows(CDC* pDC, UINT nFirst, UINT nEnd, const CRect& rc, int nHeight, int nMost);
     // Inserting a row, and what becomes of the places kept for AddBitmapString.
     int InsertRow(int nImage, int nIndex, LPCSTR pszText);
-    void SetFields(int nItem, int nCol, std::string_view fields);
+    bool SetFields(int nItem, int nCol, std::string_view fields);
     std::string PlaceKey(LPCSTR pszText, bool bNumeric) const;
-    void ReadPlaces(bool bNumeric);
+    bool ReadPlaces(bool bNumeric);
 
+    HWND m_hTold = nullptr;
     std::vector<char> m_aCellText;
     std::unique_ptr<Places> m_pPlaces;
 };

@@ -35,6 +35,7 @@ qv::RowLayout QVListCtrlEx::Layout() {
 // The control paints itself and asks for one row after the other; each row is composed in a bitmap
 // and reaches the screen in one piece.
 void QVListCtrlEx::OnPaint() {
+    const qv::WindowWatch watch(m_alive, m_hWnd);
     CRect rcItem;
     const bool bRows = InReportMode() && GetTopIndex() < GetItemCount() &&
                        GetItemRect(GetTopIndex(), &rcItem, LVIR_BOUNDS);
@@ -51,13 +52,14 @@ void QVListCtrlEx::OnPaint() {
         m_dcMem.CreateCompatibleDC(&dc);
     }
     {
-        const qv::SelectGuard<CBitmap> bitmap(m_dcMem, bRows ? &m_bmpBack : nullptr);
+        const qv::WhileAlive<qv::SelectGuard<CBitmap>> bitmap(watch, m_dcMem,
+                                                              bRows ? &m_bmpBack : nullptr);
         Default();
     }
-    if (m_dcMem.GetSafeHdc() != nullptr) {
+    if (watch.ObjectAlive() && m_dcMem.GetSafeHdc() != nullptr) {
         m_dcMem.DeleteDC();
     }
-    if (GetItemCount() > 0) {
+    if (watch && GetItemCount() > 0) {
         CClientDC dc(this);
         FillEmptySpace(&dc);
     }
@@ -94,13 +96,17 @@ void QVListCtrlEx::DrawItem(LPDRAWITEMSTRUCT lpDIS) {
     }
     const auto highlight = qv::RowHighlight(m_bAllowSel && (lpDIS->itemState & ODS_SELECTED) != 0,
                                             HasFocus(), ShowsSelAlways(), m_bAlwaysHighlightSel);
-    const qv::BrushLife item(m_brItem, ::GetSysColor(RowColor(highlight)));
-    const qv::BrushLife blank(m_brBlank, ::GetSysColor(COLOR_WINDOW));
+    const qv::WindowWatch watch(m_alive, m_hWnd);
+    const qv::WhileAlive<qv::BrushLife> item(watch, m_brItem, ::GetSysColor(RowColor(highlight)));
+    const qv::WhileAlive<qv::BrushLife> blank(watch, m_brBlank, ::GetSysColor(COLOR_WINDOW));
     const CRect rcRow(0, 0, rc.Width(), rc.Height());
     if ((lpDIS->itemAction & (ODA_DRAWENTIRE | ODA_SELECT)) != 0) {
         ComposeText(lpDIS->itemID, rcRow, layout, highlight);
-        if (m_nImageWidth > 0) {
+        if (watch && m_nImageWidth > 0) {
             DrawItemBitmap(&m_dcMem, lpDIS->itemID, rcRow);
+        }
+        if (!watch) {
+            return;
         }
     }
     if ((lpDIS->itemState & ODS_FOCUS) != 0 && HasFocus()) {
@@ -122,17 +128,22 @@ void QVListCtrlEx::ComposeText(UINT nItem, const CRect& rcRow, const qv::RowLayo
         m_dcMem.FillRect(&rcBlank, &m_brBlank);
     }
     rcText.DeflateRect(0, layout.TextInset());
-    const qv::ColorGuard colors(m_dcMem);
+    const qv::AliveWatch watch(m_alive);
+    const qv::WhileAlive<qv::ColorGuard> colors(watch, m_dcMem);
     // Window colour on the highlight, as the rows have always shown it.
     m_dcMem.SetTextColor(
         ::GetSysColor(highlight == qv::Highlight::Full ? COLOR_WINDOW : COLOR_WINDOWTEXT));
     m_dcMem.SetBkColor(::GetSysColor(RowColor(highlight)));
-    const qv::SelectGuard<CFont> font(m_dcMem, GetFont());
+    const qv::WhileAlive<qv::SelectGuard<CFont>> font(watch, m_dcMem, GetFont());
     DrawItemText(&m_dcMem, nItem, rcText, highlight != qv::Highlight::None, nullptr);
 }
 
 void QVListCtrlEx::DrawItemBitmap(CDC* pDC, UINT nItem, const CRect& rc) {
+    const qv::WindowWatch watch(m_alive, m_hWnd);
     const int nImage = GetImage(static_cast<int>(nItem));
+    if (!watch) {
+        return;
+    }
     const qv::RowLayout layout = Layout();
     // The image's cell is never highlighted.
     const CRect rcCell = qv::ToCRect(layout.ImageCell(qv::ToRect(rc)));
@@ -164,9 +175,14 @@ void QVListCtrlEx::FillCell(CDC& dc, const CRect& rc, const CString& strText, in
 
 void QVListCtrlEx::DrawItemText(CDC* pDC, UINT nItem, const CRect& rc, BOOL bSelected,
                                 int* pWidths) {
-    const qv::ColorGuard colors(*pDC);
+    // On screen the device context is a part of the list.
+    const qv::WindowWatch watch(m_alive, m_hWnd);
+    const qv::WhileAlive<qv::ColorGuard> colors(watch, *pDC);
     if (m_bSingleColumn) {
         const CString strText(CellText(static_cast<int>(nItem), 0));
+        if (!watch) {
+            return;
+        }
         if (!bSelected) {
             FillCell(*pDC, rc, strText, 0);
         }
@@ -185,6 +201,9 @@ void QVListCtrlEx::DrawItemText(CDC* pDC, UINT nItem, const CRect& rc, BOOL bSel
             rcCol.right -= m_nImageWidth;  // the rectangle begins behind the image
         }
         const CString strText(CellText(static_cast<int>(nItem), nCol));
+        if (!watch) {
+            return;
+        }
         if (!bSelected) {
             CRect rcFill(rcCol);
             rcFill.InflateRect(0, nInset);

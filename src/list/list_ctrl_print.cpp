@@ -113,11 +113,16 @@ int QVListCtrlEx::RowsThatFit(CDC* pDC, const CRect& rc, int& nHeight) {
 // Rows nFirst up to nEnd, without it, but no more than nMost.
 int QVListCtrlEx::PrintRows(CDC* pDC, UINT nFirst, UINT nEnd, const CRect& rc, int nHeight,
                             int nMost) {
+    const qv::WindowWatch watch(m_alive, m_hWnd);
+    const qv::ColorGuard colors(*pDC);
     CRect rcRow(rc);
     int nPrinted = 0;
     for (UINT nItem = nFirst; nItem < nEnd && nPrinted < nMost; ++nItem, ++nPrinted) {
         rcRow.bottom = rcRow.top + nHeight;
         DrawItemText(pDC, nItem, rcRow, FALSE, m_columns.PrintWidths());
+        if (!watch) {
+            break;
+        }
         rcRow.top = rcRow.bottom;
     }
     return nPrinted;
@@ -144,12 +149,17 @@ BOOL QVListCtrlEx::ExportData(LPCSTR pszPath, char chSeparator) {
     if (!file.Open(pszPath, CFile::modeCreate | CFile::modeWrite | CFile::typeText)) {
         return FALSE;
     }
+    const qv::WindowWatch watch(m_alive, m_hWnd);
     std::string strLine;
     const int nItems = GetItemCount();
     for (int nItem = 0; nItem < nItems; ++nItem) {
         strLine.clear();
         for (int nCol = 0; nCol < m_columns.Count(); ++nCol) {
-            qv::JoinCell(strLine, ParseStyleText(CellText(nItem, nCol)), chSeparator);
+            LPCSTR pszCell = CellText(nItem, nCol);
+            if (!watch) {
+                return FALSE;
+            }
+            qv::JoinCell(strLine, ParseStyleText(pszCell), chSeparator);
         }
         strLine += '\n';
         file.WriteString(strLine.c_str());

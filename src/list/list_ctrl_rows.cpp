@@ -18,14 +18,19 @@ constexpr int kBehindAllRows = std::numeric_limits<int>::max();
 LPCSTR QVListCtrlEx::CellText(int nItem, int nCol) {
     constexpr size_t kUsualRoom = 256;
     constexpr int kLongestCharacter = 4;
+    const qv::AliveWatch watch(m_alive);
     // A parent that is asked for the text may come back here: it must not meet this buffer.
     std::vector<char> text = std::move(m_aCellText);
     text.resize(std::max(text.size(), kUsualRoom));
     for (;;) {
         const int nRoom = static_cast<int>(text.size()) - 1;
         text.front() = text.back() = '\0';
+        const int nBytes = CListCtrl::GetItemText(nItem, nCol, text.data(), nRoom);
+        if (!watch) {
+            return "";
+        }
         // A text that all but fills the room may have been cut.
-        if (CListCtrl::GetItemText(nItem, nCol, text.data(), nRoom) < nRoom - kLongestCharacter) {
+        if (nBytes < nRoom - kLongestCharacter) {
             break;
         }
         text.resize(text.size() * 2);
@@ -45,28 +50,35 @@ BOOL QVListCtrlEx::SetItemString(int nItem, LPCSTR pszText) {
     if (nItem >= GetItemCount()) {
         return FALSE;
     }
-    SetFields(nItem, FirstTextColumn(), pszText != nullptr ? pszText : "");
-    return TRUE;
+    return SetFields(nItem, FirstTextColumn(), pszText != nullptr ? pszText : "") ? TRUE : FALSE;
 }
 
-// Sets a cell to each field from column nCol on.
-void QVListCtrlEx::SetFields(int nItem, int nCol, std::string_view fields) {
+// Sets a cell to each field from column nCol on. False if the list is gone.
+bool QVListCtrlEx::SetFields(int nItem, int nCol, std::string_view fields) {
+    const qv::WindowWatch watch(m_alive, m_hWnd);
     std::string strField;
     std::string_view field;
-    for (int nPos = 0; nCol < m_columns.Count() && qv::NextField(fields, nPos, field); ++nCol) {
+    for (int nPos = 0; watch && nCol < m_columns.Count() && qv::NextField(fields, nPos, field);
+         ++nCol) {
         strField = field;
         m_pPlaces->CountSent();
         SetItemText(nItem, nCol, strField.c_str());
     }
+    return static_cast<bool>(watch);
 }
 
 BOOL QVListCtrlEx::GetItemString(int nItem, CString& str) {
     if (nItem >= GetItemCount()) {
         return FALSE;
     }
+    const qv::WindowWatch watch(m_alive, m_hWnd);
     std::string strRow;
     for (int nCol = FirstTextColumn(); nCol < m_columns.Count(); ++nCol) {
-        qv::JoinCell(strRow, CellText(nItem, nCol), qv::kFieldSeparator);
+        LPCSTR pszCell = CellText(nItem, nCol);
+        if (!watch) {
+            return FALSE;
+        }
+        qv::JoinCell(strRow, pszCell, qv::kFieldSeparator);
     }
     str = CString(strRow.data(), static_cast<int>(strRow.size()));
     return TRUE;
@@ -88,12 +100,10 @@ int QVListCtrlEx::InsertRow(int nImage, int nIndex, LPCSTR pszText) {
         nCol = 1;
     }
     m_pPlaces->CountSent();
+    const qv::WindowWatch watch(m_alive, m_hWnd);
     nIndex = CListCtrl::InsertItem(LVIF_TEXT | LVIF_IMAGE, nIndex != -1 ? nIndex : kBehindAllRows,
                                    strFirst.c_str(), 0, 0, nImage, 0);
-    if (nIndex != -1) {
-        SetFields(nIndex, nCol, fields);
-    }
-    return nIndex;
+    return watch && nIndex != -1 && SetFields(nIndex, nCol, fields) ? nIndex : -1;
 }
 
 int QVListCtrlEx::InsertBitmapString(int nImage, int nIndex, LPCSTR pszText) {
@@ -118,15 +128,21 @@ std::string QVListCtrlEx::PlaceKey(LPCSTR pszText, bool bNumeric) const {
     return strKey;
 }
 
-void QVListCtrlEx::ReadPlaces(bool bNumeric) {
-    qv::SortedPlaces& rows = m_pPlaces->rows;
-    rows.Clear();
+// False if the list is gone.
+bool QVListCtrlEx::ReadPlaces(bool bNumeric) {
+    const qv::WindowWatch watch(m_alive, m_hWnd);
+    m_pPlaces->rows.Clear();
     CString strRow;
     const int nItems = GetItemCount();
     for (int nItem = 0; nItem < nItems && GetItemString(nItem, strRow); ++nItem) {
-        rows.Append(PlaceKey(bNumeric ? ParseStyleText(strRow) : LPCSTR(strRow), bNumeric));
+        m_pPlaces->rows.Append(
+            PlaceKey(bNumeric ? ParseStyleText(strRow) : LPCSTR(strRow), bNumeric));
+    }
+    if (!watch) {
+        return false;
     }
     m_pPlaces->SetValid(bNumeric, NumColumns(), m_aStyles.Count());
+    return true;
 }
 
 int QVListCtrlEx::AddBitmapString(int nImage, LPCSTR pszText, BOOL bNumeric) {
@@ -134,15 +150,22 @@ int QVListCtrlEx::AddBitmapString(int nImage, LPCSTR pszText, BOOL bNumeric) {
     // Labels that the user edits change without a message.
     if ((GetStyle() & LVS_EDITLABELS) != 0 ||
         !m_pPlaces->Valid(bNumber, GetItemCount(), NumColumns(), m_aStyles.Count())) {
-        ReadPlaces(bNumber);
+        if (!ReadPlaces(bNumber)) {
+            return -1;
+        }
     }
     const std::string strKey = PlaceKey(ParseStyleText(pszText), bNumber);
     const size_t nPlace = m_pPlaces->rows.Find(strKey);
     const int nForeign = m_pPlaces->ForeignChanges();
+    const qv::WindowWatch watch(m_alive, m_hWnd);
     const int nIndex = InsertBitmapString(nImage, static_cast<int>(nPlace), pszText);
     CString strRow;
-    if (nIndex == static_cast<int>(nPlace) && nForeign == m_pPlaces->ForeignChanges() &&
-        GetItemString(nIndex, strRow)) {
+    const bool bKeep = watch && nIndex == static_cast<int>(nPlace) &&
+                       nForeign == m_pPlaces->ForeignChanges() && GetItemString(nIndex, strRow);
+    if (!watch) {
+        return -1;
+    }
+    if (bKeep) {
         // What stands in the control now, with its code, is what later rows are compared with.
         m_pPlaces->rows.Insert(
             nPlace, PlaceKey(bNumber ? ParseStyleText(strRow) : LPCSTR(strRow), bNumber));

@@ -32,12 +32,14 @@ public:
     void ReSort();
 
 protected:
-    // Sorts, and turns the direction if nCol is the column of the last sort. Item data come back
-    // unchanged. Without memory the rows stay as they are.
+    // Sorts, and turns the direction if nCol is the column of the last sort. The parent is told
+    // nothing of it, and item data stay the caller's, whoever asks for them meanwhile. Without
+    // memory the rows stay as they are, and so does the direction.
     void SortOnHeader(int nCol) override;
     int HeaderColumnCount(LPCSTR pszHeaders) const;
     static int CALLBACK SortFunc(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort);
 
+    afx_msg LRESULT OnGetListItem(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSetRedraw(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 

@@ -141,6 +141,107 @@ TEST(SortingList, ASortRepaintsUnlessRedrawIsOff) {
     EXPECT_TRUE(repaints());
 }
 
+// What a window that is no framework's sees before anybody else: a parent of the old kind.
+class RawParent {
+public:
+    RawParent() {
+        WNDCLASS wc{};
+        wc.lpfnWndProc = Proc;
+        wc.lpszClassName = "QVRawParent";
+        wc.hInstance = ::GetModuleHandle(nullptr);
+        ::RegisterClass(&wc);
+        m_hWnd = ::CreateWindow("QVRawParent", "", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 500, 300,
+                                nullptr, nullptr, wc.hInstance, this);
+        ::SetWindowLongPtr(m_hWnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    }
+    ~RawParent() { ::DestroyWindow(m_hWnd); }
+
+    HWND m_hWnd;
+    int nNotifications = 0;
+
+private:
+    static LRESULT CALLBACK Proc(HWND hWnd, UINT nMessage, WPARAM wParam, LPARAM lParam) {
+        if (nMessage == WM_NOTIFY) {
+            auto* pParent = reinterpret_cast<RawParent*>(::GetWindowLongPtr(hWnd, GWLP_USERDATA));
+            ++pParent->nNotifications;
+        }
+        return ::DefWindowProc(hWnd, nMessage, wParam, lParam);
+    }
+};
+
+TEST(SortingList, NobodyIsToldOfASort) {
+    RawParent parent;
+    RawParent later;
+    QVSortingListCtrl list;
+    list.Create(kListId, CRect(0, 0, 300, 200), CWnd::FromHandle(parent.m_hWnd));
+    list.AddHeader("name", lcdtString);
+    for (const char* psz : {"b", "c", "a"}) {
+        list.InsertBitmapString(0, -1, psz);
+    }
+    const auto sorts = [&](const char* pszFirst) {
+        parent.nNotifications = 0;
+        list.ReSort();
+        EXPECT_EQ(list.GetItemText(0, 0), CString(pszFirst));
+        EXPECT_EQ(list.GetItemData(0), 0u);
+        return parent.nNotifications + later.nNotifications;
+    };
+    EXPECT_EQ(sorts("a"), 0);
+    // The control goes on telling the window that it was made in.
+    list.SetParent(CWnd::FromHandle(later.m_hWnd));
+    list.SetItemText(0, 0, "z");
+    EXPECT_GT(parent.nNotifications, 0);
+    EXPECT_EQ(sorts("b"), 0);
+    list.SetItemText(0, 0, "y");
+    EXPECT_GT(parent.nNotifications, 0) << "and tells it again once the sort is done";
+}
+
+// Reads an item's data while the control sorts.
+class PeekingList : public QVSortingListCtrl {
+public:
+    LRESULT WindowProc(UINT nMessage, WPARAM wParam, LPARAM lParam) override {
+        if (nMessage == LVM_SORTITEMS) {
+            dwSeen = GetItemData(0);
+        }
+        return QVSortingListCtrl::WindowProc(nMessage, wParam, lParam);
+    }
+
+    DWORD_PTR dwSeen = 0;
+};
+
+TEST(SortingList, ItemDataAreTheCallersEvenWhileTheControlSorts) {
+    ListWindow<PeekingList> w("a");
+    for (const char* psz : {"b", "c", "a"}) {
+        w.list.SetItemData(w.Add(psz), 7);
+    }
+    w.list.ReSort();
+    EXPECT_EQ(w.list.dwSeen, 7u);
+    EXPECT_EQ(w.list.GetItemText(0, 0), CString("a"));
+}
+
+// A parent that is asked for a text may sort the rows by itself.
+TEST(SortingList, ASortWithinASortMixesNoItemData) {
+    SortWindow w;
+    for (const char* psz : {"0\tx", "1\tx", "2\tx", "3\tx"}) {
+        w.list.SetItemData(w.Add(psz), static_cast<DWORD_PTR>(psz[0] - '0') / 2);
+    }
+    w.list.SetItemText(2, 1, LPSTR_TEXTCALLBACK);
+    bool bInner = false;
+    w.parent.m_hook = [&](NMHDR* pHdr, LRESULT*) {
+        if (pHdr->code == LVN_GETDISPINFO && !bInner) {
+            bInner = true;
+            w.list.SortOnHeader(0);
+        }
+        return false;
+    };
+    w.list.SortOnHeader(1);
+    w.parent.m_hook = nullptr;
+    ASSERT_TRUE(bInner);
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_EQ(w.list.GetItemData(i),
+                  static_cast<DWORD_PTR>(atoi(w.list.GetItemText(i, 0)) / 2));
+    }
+}
+
 // The parent may refuse that an item changes; no row may keep what is no data of its own.
 TEST(SortingList, ARefusedChangeLeavesTheRowsAlone) {
     SortWindow w;

@@ -1,0 +1,217 @@
+// Parents that take the list away while they are told of something, or asked.
+#include <gtest/gtest.h>
+
+#include <afxext.h>
+
+#include <algorithm>
+#include <functional>
+
+#include "support/list_window.h"
+#include "support/mortal.h"
+#include "support/test_app.h"
+
+namespace {
+
+template <class List>
+struct AttackedList {
+    explicit AttackedList(const char* pszHeaders) : parent(CSize(400, 200)) {
+        list->ModifyDefStyle(LVS_SINGLESEL, 0);
+        list->Create(kListId, CRect(0, 0, 400, 200), kListImages, kListImageMask, kListImageWidth,
+                     &parent);
+        if (pszHeaders != nullptr) {
+            list->QVListCtrlEx::AddHeader(pszHeaders);
+        }
+        for (const char* psz : {"b\tx", "a\ty", "c\tz"}) {
+            list->InsertBitmapString(0, -1, psz);
+        }
+    }
+    ~AttackedList() {
+        parent.m_hook = nullptr;
+        if (!bDeleted) {
+            delete list;
+        }
+    }
+    // Texts and images that the parent supplies.
+    void AskForAll() {
+        for (int i = 0; i < list->GetItemCount(); ++i) {
+            list->SetItemText(i, 0, LPSTR_TEXTCALLBACK);
+            list->SetImage(i, I_IMAGECALLBACK);
+        }
+    }
+    // At the notification nCode, after nSkip of them.
+    void Attack(UINT nCode, int nSkip, bool bDelete) {
+        parent.m_hook = [this, nCode, nSkip, bDelete](NMHDR* pHdr, LRESULT*) mutable {
+            if (pHdr->code == nCode && nSkip-- == 0) {
+                bFired = true;
+                bDeleted = bDelete;
+                if (bDelete) {
+                    delete list;
+                } else {
+                    list->DestroyWindow();
+                }
+            }
+            return false;
+        };
+    }
+
+    FontParent parent;
+    Mortal<OpenList<List>>* list = new Mortal<OpenList<List>>;
+    bool bFired = false;
+    bool bDeleted = false;
+};
+
+using Attacked = AttackedList<QVListCtrlEx>;
+
+// What is done to the list, and whether it says that all is done. False also from what says
+// nothing.
+struct Attack {
+    const char* pszName;
+    UINT nCode;
+    const char* pszHeaders;  // null: a single column
+    std::function<void(Attacked&)> prepare;
+    std::function<bool(Attacked&)> act;
+};
+
+void Nothing(Attacked&) {}
+void Ask(Attacked& w) {
+    w.AskForAll();
+}
+bool Paint(Attacked& w) {
+    w.list->Invalidate();
+    w.list->UpdateWindow();
+    return false;
+}
+bool SelectNext(Attacked& w) {
+    w.list->SelectItem(1);
+    return false;
+}
+void SelectAndSave(Attacked& w) {
+    for (int i = 0; i < 3; ++i) {
+        w.list->SetItemData(i, static_cast<DWORD_PTR>(i));
+        w.list->SetItemState(i, LVIS_SELECTED, LVIS_SELECTED);
+    }
+    w.list->SaveSelections();
+    w.list->SetItemState(-1, 0, LVIS_SELECTED);
+}
+bool Print(Attacked& w) {
+    TextRecorder dc;
+    CPrintInfo info;
+    w.list->CalcPrintCols(&dc, 200);
+    return w.list->PrintItems(&dc, &info, CRect(0, 0, 200, 500)) == 3;
+}
+
+const Attack kAttacks[] = {
+    {"select, asked", LVN_ITEMCHANGING, "a\tb", [](Attacked& w) { w.list->SelectItem(0); },
+     SelectNext},
+    {"select, told", LVN_ITEMCHANGED, "a\tb", [](Attacked& w) { w.list->SelectItem(0); },
+     SelectNext},
+    {"restore", LVN_ITEMCHANGED, "a\tb", SelectAndSave,
+     [](Attacked& w) {
+         w.list->RestoreSelections();
+         return false;
+     }},
+    {"delete", LVN_DELETEITEM, nullptr, Nothing,
+     [](Attacked& w) {
+         w.list->DeleteItem(1);
+         return false;
+     }},
+    {"empty", LVN_DELETEALLITEMS, nullptr, Nothing,
+     [](Attacked& w) {
+         w.list->DeleteAllItems();
+         return false;
+     }},
+    {"fit", LVN_GETDISPINFO, nullptr, Ask,
+     [](Attacked& w) {
+         w.list->DeleteItem(1);
+         return false;
+     }},
+    {"size", LVN_GETDISPINFO, nullptr, Ask,
+     [](Attacked& w) {
+         w.list->SetWindowPos(nullptr, 0, 0, 300, 150, SWP_NOMOVE | SWP_NOZORDER);
+         return false;
+     }},
+    {"set up", LVN_GETDISPINFO, nullptr, Ask,
+     [](Attacked& w) {
+         w.list->SetupColumns();
+         return false;
+     }},
+    {"insert", LVN_INSERTITEM, "a\tb", Nothing,
+     [](Attacked& w) { return w.list->InsertBitmapString(0, 0, "x\ty") != -1; }},
+    {"insert in one column", LVN_INSERTITEM, nullptr, Nothing,
+     [](Attacked& w) { return w.list->InsertBitmapString(0, 0, "x") != -1; }},
+    {"add", LVN_INSERTITEM, "a\tb", Nothing,
+     [](Attacked& w) { return w.list->AddBitmapString(0, "x\ty", FALSE) != -1; }},
+    {"add, asked", LVN_GETDISPINFO, "a\tb", Ask,
+     [](Attacked& w) { return w.list->AddBitmapString(0, "x\ty", TRUE) != -1; }},
+    {"change, asked", LVN_ITEMCHANGING, "a\tb", Nothing,
+     [](Attacked& w) { return w.list->SetItemString(0, "x\ty") != FALSE; }},
+    {"change, told", LVN_ITEMCHANGED, "a\tb", Nothing,
+     [](Attacked& w) { return w.list->SetItemString(0, "x\ty") != FALSE; }},
+    {"read", LVN_GETDISPINFO, "a\tb", Ask,
+     [](Attacked& w) {
+         CString str;
+         return w.list->GetItemString(1, str) != FALSE;
+     }},
+    {"paint", LVN_GETDISPINFO, "a\tb", Ask, Paint},
+    {"paint one column", LVN_GETDISPINFO, nullptr, Ask, Paint},
+    {"print", LVN_GETDISPINFO, "a\tb", Ask, Print},
+    {"export", LVN_GETDISPINFO, "a\tb", Ask,
+     [](Attacked& w) { return w.list->ExportData("NUL", ',') != FALSE; }},
+    {"focus", static_cast<UINT>(NM_SETFOCUS), "a\tb", Nothing,
+     [](Attacked& w) {
+         w.list->SetFocus();
+         return false;
+     }},
+    {"leave", static_cast<UINT>(NM_KILLFOCUS), "a\tb", [](Attacked& w) { w.list->SetFocus(); },
+     [](Attacked& w) {
+         ::SetFocus(w.parent.m_hWnd);
+         return false;
+     }},
+};
+
+void PrintTo(const Attack& attack, std::ostream* pOut) {
+    *pOut << attack.pszName;
+}
+
+class ListAttack : public testing::TestWithParam<Attack> {};
+
+// At the first time that the parent is told, or at a later one: other texts, or the image.
+TEST_P(ListAttack, TheListMayBeTakenAway) {
+    const Attack& attack = GetParam();
+    TheTestApp().Forget();
+    for (const bool bDelete : {true, false}) {
+        for (int nSkip = 0; nSkip < 4; ++nSkip) {
+            Attacked w(attack.pszHeaders);
+            attack.prepare(w);
+            w.list->ValidateRect(nullptr);
+            w.Attack(attack.nCode, nSkip, bDelete);
+            const bool bDone = attack.act(w);
+            EXPECT_TRUE(w.bFired || nSkip > 0);
+            EXPECT_FALSE(w.bFired && bDone) << bDelete << nSkip;
+        }
+    }
+    EXPECT_TRUE(TheTestApp().m_exceptions.empty());
+}
+
+std::string NameOf(const testing::TestParamInfo<Attack>& info) {
+    std::string strName = info.param.pszName;
+    std::replace_if(
+        strName.begin(), strName.end(), [](char ch) { return ch == ' ' || ch == ','; }, '_');
+    return strName;
+}
+
+INSTANTIATE_TEST_SUITE_P(Told, ListAttack, testing::ValuesIn(kAttacks), NameOf);
+
+TEST(SortingListAttack, TheListMayBeTakenAwayWhileTheRowsAreRead) {
+    for (const bool bDelete : {true, false}) {
+        for (const bool bAgain : {true, false}) {
+            AttackedList<QVSortingListCtrl> w("a\tb");
+            w.AskForAll();
+            w.Attack(LVN_GETDISPINFO, 1, bDelete);
+            bAgain ? w.list->ReSort() : w.list->SortOnHeader(0);
+            EXPECT_TRUE(w.bFired);
+        }
+    }
+}
+
+}  // namespace
