@@ -1,3 +1,4 @@
+#include "afx_wide_input.h"
 #include "afx_wnd_state.h"
 #include "afxcmn.h"
 #include "afxpriv.h"
@@ -73,14 +74,14 @@ int CWinThread::Run() {
 }
 
 BOOL CWinThread::PumpMessage() {
-    if (::GetMessage(&m_msgCur, nullptr, 0, 0) <= 0) {
+    if (!AfxGetMessage(m_msgCur)) {
         return FALSE;
     }
     const MSG msg = m_msgCur;  // loops inside will bring others
     try {
         if (m_msgCur.message != WM_KICKIDLE && !PreTranslateMessage(&m_msgCur)) {
             ::TranslateMessage(&m_msgCur);
-            ::DispatchMessage(&m_msgCur);
+            AfxDispatchMessage(m_msgCur);
         }
     } catch (...) {
         AfxProcessCurrentException(msg);

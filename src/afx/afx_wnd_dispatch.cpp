@@ -1,4 +1,5 @@
 // The way of a message: window procedure, message map, reflection to the control it is about.
+#include "afx_wide_input.h"
 #include "afxwin.h"
 
 #include "afx_wnd_state.h"
@@ -67,6 +68,9 @@ WNDPROC* CWnd::GetSuperWndProcAddr() {
 
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (WNDPROC pfnSuper = *GetSuperWndProcAddr()) {
+        if (message == WM_CHAR && AfxDefaultTypedByte(m_hWnd, wParam, lParam)) {
+            return 0;
+        }
         return ::CallWindowProc(pfnSuper, m_hWnd, message, wParam, lParam);
     }
     return ::DefWindowProc(m_hWnd, message, wParam, lParam);

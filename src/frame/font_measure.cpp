@@ -70,11 +70,12 @@ std::size_t FontMeasure::CharBytes(std::string_view text) const {
 int FontMeasure::CharWidth(std::string_view ch) {
     const WideText wide(ch);
     const std::wstring_view units = wide.View();
-    if (units.size() != 1 || !StandsAlone(units.front())) {
-        return CharWidths::kByCall;
-    }
     MeasuringDC dc;
     const SelectGuard<CFont> font(dc, m_hFont);
+    if (units.size() != 1 || !StandsAlone(units.front()) ||
+        (!IsAscii(ch) && IsReadByBytes(dc.m_hAttribDC, ch))) {
+        return CharWidths::kByCall;
+    }
     const auto width = [&](std::initializer_list<wchar_t> text) {
         SIZE size{};
         ::GetTextExtentPoint32W(dc.m_hAttribDC, text.begin(), static_cast<int>(text.size()), &size);

@@ -180,13 +180,27 @@ int ElsewhereMeasured::Draw(std::wstring_view text, CRect& rect, UINT nFormat) {
 
 }  // namespace
 
+bool IsReadByBytes(HDC hDC, std::string_view text) {
+    return IsAscii(text) || ::GetTextCharset(hDC) == SYMBOL_CHARSET;
+}
+
 CSize TextExtent(const CDC& dc, std::string_view text) {
+    if (IsReadByBytes(dc.m_hAttribDC, text)) {
+        return dc.GetTextExtent(text.data(), static_cast<int>(text.size()));
+    }
     return WideExtent(dc.m_hAttribDC, WideText(text).View());
 }
 
 void TextPrefixWidths(const CDC& dc, std::string_view text, int* pWidths) {
-    const WideText wide(text);
     SIZE size{};
+    if (IsReadByBytes(dc.m_hAttribDC, text)) {
+        if (!::GetTextExtentExPointA(dc.m_hAttribDC, text.data(), static_cast<int>(text.size()), 0,
+                                     nullptr, pWidths, &size)) {
+            std::fill_n(pWidths, text.size(), 0);
+        }
+        return;
+    }
+    const WideText wide(text);
     if (!::GetTextExtentExPointW(dc.m_hAttribDC, wide.Data(), wide.Length(), 0, nullptr, pWidths,
                                  &size)) {
         std::fill_n(pWidths, text.size(), 0);
@@ -196,7 +210,7 @@ void TextPrefixWidths(const CDC& dc, std::string_view text, int* pWidths) {
 }
 
 int DrawTextIn(CDC& dc, std::string_view text, CRect& rect, UINT nFormat) {
-    if (IsAscii(text)) {
+    if (IsReadByBytes(dc.m_hDC, text)) {
         return dc.DrawText(text.data(), static_cast<int>(text.size()), &rect, nFormat);
     }
     const WideText wide(text);
@@ -206,7 +220,7 @@ int DrawTextIn(CDC& dc, std::string_view text, CRect& rect, UINT nFormat) {
 }
 
 BOOL DrawTextAt(CDC& dc, int x, int y, std::string_view text) {
-    if (IsAscii(text)) {
+    if (IsReadByBytes(dc.m_hDC, text)) {
         return dc.TextOut(x, y, text.data(), static_cast<int>(text.size()));
     }
     const WideText wide(text);
@@ -215,7 +229,7 @@ BOOL DrawTextAt(CDC& dc, int x, int y, std::string_view text) {
 }
 
 CSize DrawTabbedText(CDC& dc, int x, int y, std::string_view text, int nTabStop, int nOrigin) {
-    if (IsAscii(text)) {
+    if (IsReadByBytes(dc.m_hDC, text)) {
         return dc.TabbedTextOut(x, y, text.data(), static_cast<int>(text.size()), 1, &nTabStop,
                                 nOrigin);
     }

@@ -4,7 +4,8 @@
 // Texts are in the process's code page. The platform's 8-bit calls would read them in the character
 // set of the font instead, so what is not ASCII is converted here and goes to the wide calls. ASCII
 // texts go through the device context's own virtual calls, so that a context of an application that
-// replaces them sees each of these texts.
+// replaces them sees each of these texts. So do all texts in a symbol font, whose bytes are glyphs
+// and of no code page.
 //
 // Drawing is done in dc.m_hDC, measuring in dc.m_hAttribDC; where they differ, texts that are not
 // ASCII take the room on m_hDC that m_hAttribDC gives them. Nothing here throws.
@@ -22,6 +23,9 @@ namespace qv {
 inline std::string_view View(const CString& str) {
     return {str, static_cast<size_t>(str.GetLength())};
 }
+
+// True for a text that the 8-bit calls read as it is meant, in the font selected in hDC.
+bool IsReadByBytes(HDC hDC, std::string_view text);
 
 // Extent of one line of text, in units of dc.
 CSize TextExtent(const CDC& dc, std::string_view text);

@@ -34,8 +34,14 @@ void QVGridCtrl::CalcCellHeight() {
 void QVGridCtrl::MeasureRows() {
     if (m_nCellHeight == -1) {
         CalcCellHeight();
-        CalcScrollBars();
+        RefitRows();
+        PlaceEditors();
     }
+}
+
+void QVGridCtrl::OnPaint() {
+    m_pPort->DrawBars();
+    QVCustCtrl::OnPaint();
 }
 
 void QVGridCtrl::Draw(CDC& dc, const CRect& rcClient) {
@@ -81,8 +87,8 @@ void QVGridCtrl::DrawRow(CDC& dc, int nRow, const CRect& rcRow, BOOL bFocus) {
             continue;
         }
         const bool bCurrent = IsCurrent(nRow, nCol);
-        const bool bButton =
-            bCurrent && UseFieldButton(nCol) && (dwStyle & GCS_DISABLED) == 0 && !m_bReadOnly;
+        const bool bButton = bCurrent && UseFieldButton(nCol) && (dwStyle & GCS_DISABLED) == 0 &&
+                             !m_bReadOnly && !IsLockedList(nRow, nCol);
         DrawCell(dc, rc, strText, dwStyle | (bCurrent && bFocus ? GCS_FOCUS : 0),
                  bButton ? m_nCellHeight : 0);
         if (bButton) {

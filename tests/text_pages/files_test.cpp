@@ -3,6 +3,9 @@
 
 #include <afxext.h>
 
+#include <algorithm>
+
+#include "drawn_text.h"
 #include "page_text.h"
 #include "support/list_window.h"
 #include "support/text_window.h"
@@ -85,18 +88,6 @@ TEST(TextFiles, ClipboardHasTheTextWideAndInTheCodePage) {
 
 // --- Paper
 
-int CALLBACK CollectText(HDC, HANDLETABLE*, const ENHMETARECORD* pRecord, int, LPARAM lParam) {
-    if (pRecord->iType == EMR_EXTTEXTOUTW) {
-        const auto* pText = reinterpret_cast<const EMREXTTEXTOUTW*>(pRecord);
-        const auto* pBytes = reinterpret_cast<const BYTE*>(pRecord);
-        auto& strAll = *reinterpret_cast<std::wstring*>(lParam);
-        strAll += std::wstring(reinterpret_cast<const wchar_t*>(pBytes + pText->emrtext.offString),
-                               pText->emrtext.nChars) +
-                  L'|';
-    }
-    return 1;
-}
-
 TEST(TextFiles, PrintedPagesHoldTheWords) {
     ListWindow<> w("one\ttwo");
     w.list.SetColWidth(0, 100, nullptr);
@@ -123,15 +114,10 @@ TEST(TextFiles, PrintedPagesHoldTheWords) {
             ASSERT_EQ(engine.Paginate(rc), 1u);
             engine.PrintPage(&dc, rc, 1);
         }
-        const HENHMETAFILE hFile = ::CloseEnhMetaFile(dc.Detach());
-        std::wstring strAll;
-        const RECT rc{0, 0, 10, 10};
-        ::EnumEnhMetaFile(nullptr, hFile, CollectText, &strAll, &rc);
-        ::DeleteEnhMetaFile(hFile);
-        int nFound = 0;
-        for (size_t n = 0; (n = strAll.find(word.strWide + L'|', n)) != std::wstring::npos; ++n) {
-            ++nFound;
-        }
+        const std::vector<DrawnText> texts = TakeTexts(::CloseEnhMetaFile(dc.Detach()));
+        const auto nFound = std::count_if(texts.begin(), texts.end(), [&](const DrawnText& text) {
+            return text.str == word.strWide;
+        });
         EXPECT_EQ(nFound, 7) << "section, group, text, two rows, label and data: " << word.str;
     }
 }

@@ -1,6 +1,7 @@
 // Measuring and drawing in the process's code page, beside the platform's wide calls.
 #include <gtest/gtest.h>
 
+#include "drawn_text.h"
 #include "frame/font_measure.h"
 #include "frame/module_state.h"
 #include "frame/text_out.h"
@@ -155,30 +156,6 @@ TEST(TextDrawing, TabsLeadToTheSamePlaces) {
     }
 }
 
-// The texts of a metafile with the room that each takes.
-struct DrawnText {
-    std::wstring str;
-    int nWidth = 0;
-    POINT pt{};
-};
-
-int CALLBACK CollectText(HDC, HANDLETABLE*, const ENHMETARECORD* pRecord, int, LPARAM lParam) {
-    if (pRecord->iType == EMR_EXTTEXTOUTW) {
-        const auto* pText = reinterpret_cast<const EMREXTTEXTOUTW*>(pRecord);
-        const auto* pBytes = reinterpret_cast<const BYTE*>(pRecord);
-        DrawnText text;
-        text.str.assign(reinterpret_cast<const wchar_t*>(pBytes + pText->emrtext.offString),
-                        pText->emrtext.nChars);
-        const auto* pWidths = reinterpret_cast<const UINT*>(pBytes + pText->emrtext.offDx);
-        for (UINT i = 0; i < pText->emrtext.nChars; ++i) {
-            text.nWidth += static_cast<int>(pWidths[i]);
-        }
-        text.pt = {pText->emrtext.ptlReference.x, pText->emrtext.ptlReference.y};
-        reinterpret_cast<std::vector<DrawnText>*>(lParam)->push_back(text);
-    }
-    return 1;
-}
-
 // Draws into a metafile in a small font, measuring on another device in a larger one, as a preview
 // does.
 template <class Draw>
@@ -194,11 +171,7 @@ std::vector<DrawnText> DrawnElsewhere(const Sheet& device, Draw draw) {
     const HENHMETAFILE hFile = ::CloseEnhMetaFile(dc.m_hDC);
     dc.ReleaseOutputDC();
     dc.ReleaseAttribDC();
-    std::vector<DrawnText> texts;
-    const RECT rc{0, 0, 10, 10};
-    ::EnumEnhMetaFile(nullptr, hFile, CollectText, &texts, &rc);
-    ::DeleteEnhMetaFile(hFile);
-    return texts;
+    return TakeTexts(hFile);
 }
 
 TEST(TextDrawing, TakesTheRoomOfTheDeviceThatIsMeasured) {

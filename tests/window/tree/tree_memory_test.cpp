@@ -161,9 +161,8 @@ TYPED_TEST(TreeMemory, ItemsComeGoAndMoveOrStay) {
             return true;
         },
         [&] { tree.SetItemText(q, strOld); });
-    EXPECT_GT(this->Refuse(
-                  "states", [&] { return tree.LoadTreeStates(30008) != 0; }, [] {}),
-              0);
+    this->Refuse(
+        "states", [&] { return tree.LoadTreeStates(30008) != 0; }, [] {});
 }
 
 TYPED_TEST(TreeMemory, TheViewFollowsOrIsFittedLater) {
@@ -229,6 +228,31 @@ TYPED_TEST(TreeMemory, NothingLeavesTheWindowProcedure) {
                          tree.Expand(this->p, TVE_EXPAND, FALSE, FALSE);
                          tree.EnsureVisible(this->p);
                      });
+    }
+}
+
+TEST(TreeMemoryFirst, AWindowComesWholeOrNotAtAll) {
+    QuietParent parent;
+    for (const auto mode : {FailingHeap::kAllLater, FailingHeap::kJustOne}) {
+        auto pTree = std::make_unique<WatchedTree>();
+        BOOL bMade = FALSE;
+        bool bThrown = false;
+        RefuseEachAllocation(
+            mode,
+            [&] {
+                try {
+                    bMade = pTree->Create(kTreeStyle, CRect(0, 0, 300, 100), &parent, kTreeId);
+                } catch (...) {
+                    bThrown = true;
+                }
+            },
+            [&](int n) {
+                EXPECT_FALSE(bThrown) << n;
+                EXPECT_EQ(bMade != FALSE, pTree->m_hWnd != nullptr) << n;
+                EXPECT_EQ(pTree->nThrown, 0) << n;
+                pTree = std::make_unique<WatchedTree>();
+            });
+        EXPECT_TRUE(bMade);
     }
 }
 
