@@ -334,7 +334,10 @@ int CListCtrl::FindItem(LVFINDINFO* pFindInfo, int nStart) const {
 }
 
 BOOL CListCtrl::SortItems(PFNLVCOMPARE pfnCompare, DWORD_PTR dwData) {
-    return AfxSend<BOOL>(m_hWnd, LVM_SORTITEMS, dwData, pfnCompare);
+    AfxCompareGuard guard(pfnCompare, static_cast<LPARAM>(dwData));
+    const BOOL bSorted =
+        AfxSend<BOOL>(m_hWnd, LVM_SORTITEMS, guard.Param(), &AfxCompareGuard::Call);
+    return guard.Result(bSorted, m_hWnd, LVM_SORTITEMS);
 }
 
 int CListCtrl::HitTest(LVHITTESTINFO* pHitTestInfo) const {

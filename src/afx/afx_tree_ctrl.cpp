@@ -331,7 +331,10 @@ BOOL CTreeCtrl::SortChildren(HTREEITEM hItem) {
 }
 
 BOOL CTreeCtrl::SortChildrenCB(LPTVSORTCB pSort) {
-    return AfxSend<BOOL>(m_hWnd, TVM_SORTCHILDRENCB, 0, pSort);
+    AfxCompareGuard guard(pSort->lpfnCompare, pSort->lParam);
+    TVSORTCB sort = {pSort->hParent, &AfxCompareGuard::Call, guard.Param()};
+    const BOOL bSorted = AfxSend<BOOL>(m_hWnd, TVM_SORTCHILDRENCB, 0, &sort);
+    return guard.Result(bSorted, m_hWnd, TVM_SORTCHILDRENCB);
 }
 
 BOOL CTreeCtrl::EnsureVisible(HTREEITEM hItem) {

@@ -79,6 +79,31 @@ LRESULT AfxProcessCurrentException(const MSG& msg) {
     }
 }
 
+int CALLBACK AfxCompareGuard::Call(LPARAM lParam1, LPARAM lParam2, LPARAM lGuard) {
+    auto* pGuard = reinterpret_cast<AfxCompareGuard*>(lGuard);
+    if (pGuard->m_pThrown != nullptr) {
+        return 0;
+    }
+    try {
+        return pGuard->m_pfnCompare(lParam1, lParam2, pGuard->m_lParamSort);
+    } catch (...) {
+        pGuard->m_pThrown = std::current_exception();
+        return 0;
+    }
+}
+
+BOOL AfxCompareGuard::Result(BOOL bSorted, HWND hWnd, UINT message) const {
+    if (m_pThrown == nullptr) {
+        return bSorted;
+    }
+    try {
+        std::rethrow_exception(m_pThrown);
+    } catch (...) {
+        AfxProcessCurrentException(hWnd, message);
+    }
+    return FALSE;
+}
+
 LRESULT AfxProcessCurrentException(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
     MSG msg = {};
     msg.hwnd = hWnd;

@@ -5,6 +5,8 @@
 #include "support/test_app.h"
 #include "window/afx/afx_test_ids.h"
 
+#include "afxcmn.h"
+
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -366,6 +368,64 @@ TEST_F(ExceptionBorder, ADialogWithEachAllocationRefused_StartsOrFails) {
     }
     CWnd* pMain = AfxGetMainWnd();
     EXPECT_TRUE(pMain == nullptr || pMain->IsWindowEnabled());
+}
+
+int s_nComparisonsLeft = 0;
+
+/// Throws when its comparisons are used up.
+int CALLBACK CompareSome(LPARAM lParam1, LPARAM lParam2, LPARAM) {
+    if (s_nComparisonsLeft-- == 0) {
+        throw std::runtime_error("tired");
+    }
+    return lParam1 < lParam2 ? -1 : lParam1 > lParam2;
+}
+
+/// Notices whether the control's own code came to its end.
+template <class Control>
+class WatchedControl : public Control {
+public:
+    bool m_bLeftInTheMiddle = false;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        m_bLeftInTheMiddle = true;
+        const LRESULT lResult = Control::WindowProc(message, wParam, lParam);
+        m_bLeftInTheMiddle = false;
+        return lResult;
+    }
+};
+
+TEST_F(ExceptionBorder, AComparisonThatThrows_LetsTheSortingComeToItsEnd) {
+    constexpr int kRows = 9;
+    CWnd parent;
+    ASSERT_TRUE(MakePopup(parent));
+    WatchedControl<CListCtrl> list;
+    WatchedControl<CTreeCtrl> tree;
+    ASSERT_TRUE(list.Create(WS_CHILD | LVS_REPORT, CRect(0, 0, 50, 50), &parent, 1));
+    ASSERT_TRUE(tree.Create(WS_CHILD, CRect(0, 0, 50, 50), &parent, 2));
+    for (int nRow = 0; nRow < kRows; ++nRow) {
+        list.InsertItem(LVIF_TEXT | LVIF_PARAM, nRow, "row", 0, 0, 0, kRows - nRow);
+        tree.SetItemData(tree.InsertItem("row"), static_cast<DWORD_PTR>(kRows - nRow));
+    }
+    TVSORTCB sort = {TVI_ROOT, CompareSome, 0};
+    for (int nComparisons = 0; nComparisons < 5; ++nComparisons) {
+        m_app.Forget();
+        BOOL bSorted = TRUE;
+        s_nComparisonsLeft = nComparisons;
+        EXPECT_FALSE(Leaks([&] { bSorted = list.SortItems(CompareSome, 0); }));
+        EXPECT_FALSE(bSorted);
+        s_nComparisonsLeft = nComparisons;
+        EXPECT_FALSE(Leaks([&] { bSorted = tree.SortChildrenCB(&sort); }));
+        EXPECT_FALSE(bSorted);
+        EXPECT_FALSE(list.m_bLeftInTheMiddle);
+        EXPECT_FALSE(tree.m_bLeftInTheMiddle);
+        EXPECT_EQ((std::vector<std::string>{"tired", "tired"}), m_app.m_exceptions);
+    }
+    s_nComparisonsLeft = 1000;
+    EXPECT_TRUE(list.SortItems(CompareSome, 0));
+    EXPECT_TRUE(tree.SortChildrenCB(&sort));
+    EXPECT_EQ(1u, list.GetItemData(0));
+    EXPECT_EQ(1u, tree.GetItemData(tree.GetRootItem()));
 }
 
 }  // namespace
