@@ -192,7 +192,7 @@ private:
     class Watch;
 
     qv::GridLayout Layout();
-    void MeasureRows();  // if that is due
+    bool MeasureRows();  // if that is due; false without memory
     void RefitRows();
     bool CanRepaint() const { return m_bRedraw && m_hWnd != nullptr; }
     void InvalidateAll();
@@ -208,7 +208,14 @@ private:
     bool IsLockedList(int nRow, int nCol) const;
     void MoveRowMark(int nRow);
     bool LedElsewhere(unsigned nMove, int nRow, int nCol) const;
-    void KeepTypedText();
+    bool KeepTypedText();
+    bool SaveEdit();
+    void OpenEdit(int nRow, int nCol);
+    void MakeEdit();
+    void FillList(const CStringArray& strings);
+    bool KeepChosenLine();
+    bool ReadCell(int nRow, int nCol, CString& str) const;
+    void DrawRows(CDC& dc, const CRect& rcClient);
     void SaveEditors();
     void DropEditors(int nRow, int nCol);
     void PressButton(bool bPressed);
