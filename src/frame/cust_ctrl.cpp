@@ -1,5 +1,6 @@
 #include "frame/cust_ctrl.h"
 
+#include "frame/memory.h"
 #include "frame/select_object.h"
 
 IMPLEMENT_DYNCREATE(QVCustCtrl, CWnd)
@@ -18,14 +19,38 @@ void QVCustCtrl::ModifyDefStyle(DWORD dwRemove, DWORD dwAdd) {
 }
 
 int QVCustCtrl::Create(UINT nID, const CRect& rect, CWnd* pParent) {
-    return CWnd::Create(nullptr, "", m_dwDefStyle, rect, pParent, nID, nullptr);
+    BOOL bCreated = FALSE;
+    qv::FindsMemory(
+        [&] { bCreated = CWnd::Create(nullptr, "", m_dwDefStyle, rect, pParent, nID, nullptr); });
+    if (!bCreated) {
+        ForgetHalfAttached();
+    }
+    return bCreated ? 1 : 0;
 }
 
 int QVCustCtrl::Initialize(UINT nID, CWnd* pParent) {
     if (m_hWnd != nullptr) {
         return 1;
     }
-    return pParent != nullptr && SubclassDlgItem(nID, pParent) ? 1 : 0;
+    BOOL bAttached = FALSE;
+    if (!qv::FindsMemory(
+            [&] { bAttached = pParent != nullptr && SubclassDlgItem(nID, pParent); })) {
+        ForgetHalfAttached();
+    }
+    return bAttached ? 1 : 0;
+}
+
+// A handle that the framework found no memory to remember.
+void QVCustCtrl::ForgetHalfAttached() {
+    if (FromHandlePermanent(m_hWnd) != this) {
+        m_hWnd = nullptr;
+    }
+}
+
+LRESULT QVCustCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    LRESULT lResult = message == WM_CREATE ? -1 : 0;
+    qv::FindsMemory([&] { lResult = CWnd::WindowProc(message, wParam, lParam); });
+    return lResult;
 }
 
 void QVCustCtrl::Draw(CDC& dc, const CRect& rect) {

@@ -28,6 +28,8 @@ public:
     virtual int Create(UINT nID, const CRect& rect, CWnd* pParent);
 
 protected:
+    // Ends quietly where a handler finds no memory; a window that is being made is not made then.
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     // Draws the whole client area rect. The base fills it in COLOR_BTNFACE.
     virtual void Draw(CDC& dc, const CRect& rect);
 
@@ -39,4 +41,5 @@ protected:
 
 private:
     using CWnd::Create;
+    void ForgetHalfAttached();
 };

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "frame/core/styled_text.h"
+#include "frame/memory.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "frame/wnd_port.h"
@@ -40,10 +41,12 @@ END_MESSAGE_MAP()
 
 // --- Life
 
-QVGridCtrl::QVGridCtrl()
+QVGridCtrl::QVGridCtrl() try
     : m_pPort(std::make_unique<qv::WndPort>(*this)), m_pAlive(std::make_shared<bool>(true)) {
     m_si.cbSize = sizeof(m_si);
     m_si.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
+} catch (const std::bad_alloc&) {
+    AfxThrowMemoryException();
 }
 
 QVGridCtrl::~QVGridCtrl() {
@@ -89,7 +92,7 @@ void QVGridCtrl::InvalidateAll() {
 // --- Columns
 
 int QVGridCtrl::AddColumn(GridColType nType, int nWidth) {
-    return m_model.AddColumn(nType, nWidth);
+    return qv::SayMemoryException([&] { return m_model.AddColumn(nType, nWidth); });
 }
 
 int QVGridCtrl::NumColumns() const {
@@ -150,25 +153,35 @@ BOOL QVGridCtrl::UseFieldButton(int nCol) const {
 }
 
 int QVGridCtrl::AutoSizeColumn(int nCol, int nMinWidth) {
-    CStringArray strings;
-    CString strText;
-    for (int nRow = 0; nRow < NumRows(); ++nRow) {
-        if (GetCellText(nRow, nCol, strText) && !strText.IsEmpty()) {
-            strings.Add(strText);
+    int nWidth = 0;
+    qv::FindsMemory([&] {
+        CStringArray strings;
+        CString strText;
+        for (int nRow = 0; nRow < NumRows(); ++nRow) {
+            if (ReadCell(nRow, nCol, strText) && !strText.IsEmpty()) {
+                strings.Add(strText);
+            }
         }
-    }
-    return SizeToStrings(nCol, strings, nMinWidth);
+        nWidth = SizeToStrings(nCol, strings, nMinWidth);
+    });
+    return nWidth;
 }
 
 int QVGridCtrl::SizeToStrings(int nCol, const CStringArray& strings, int nMinWidth) {
-    CClientDC dc(this);
-    MeasureRows();
-    const qv::SelectGuard<CFont> font(dc, m_hFont);
-    const int nRoom = kTextRoom + (UseFieldButton(nCol) ? m_nCellHeight : 0);
     int nWidth = std::max(-1, nMinWidth);
-    for (INT_PTR i = 0; i < strings.GetSize(); ++i) {
-        const int nText = static_cast<int>(qv::TextExtent(dc, qv::View(strings.ElementAt(i))).cx);
-        nWidth = std::max(nWidth, nText + nRoom);
+    const bool bMeasured =
+        MeasureRows() && qv::FindsMemory([&] {
+            CClientDC dc(this);
+            const qv::SelectGuard<CFont> font(dc, m_hFont);
+            const int nRoom = kTextRoom + (UseFieldButton(nCol) ? m_nCellHeight : 0);
+            for (INT_PTR i = 0; i < strings.GetSize(); ++i) {
+                const int nText =
+                    static_cast<int>(qv::TextExtent(dc, qv::View(strings.ElementAt(i))).cx);
+                nWidth = std::max(nWidth, nText + nRoom);
+            }
+        });
+    if (!bMeasured) {
+        return 0;
     }
     SetColWidth(nCol, nWidth);
     return nWidth;
@@ -177,10 +190,12 @@ int QVGridCtrl::SizeToStrings(int nCol, const CStringArray& strings, int nMinWid
 // --- Rows
 
 int QVGridCtrl::AddRow(const CString& strRow, DWORD dwState) {
+    const int nRow = qv::SayMemoryException([&] {
+        return m_model.AddRow({strRow, static_cast<size_t>(strRow.GetLength())}, dwState);
+    });
     if (m_nTopRow == -1) {
-        m_nTopRow = NumRows();
+        m_nTopRow = nRow;
     }
-    const int nRow = m_model.AddRow({strRow, static_cast<size_t>(strRow.GetLength())}, dwState);
     if (CanRepaint()) {
         CalcScrollBars();
         if (m_bShowAddedRows) {
@@ -240,12 +255,21 @@ void QVGridCtrl::ParseRowString(const CString& strRow, CStringArray& fields) con
 // --- Cells
 
 BOOL QVGridCtrl::GetCellText(int nRow, int nCol, CString& str) {
+    bool bText = false;
+    return qv::FindsMemory([&] { bText = ReadCell(nRow, nCol, str); }) && bText;
+}
+
+// As the public one, but says that there was no memory by an exception: an empty text would be
+// taken for the cell's.
+bool QVGridCtrl::ReadCell(int nRow, int nCol, CString& str) const {
     if (!IsValidRow(nRow) || !IsValidColumn(nCol)) {
-        return FALSE;
+        return false;
     }
     if (m_bEditing && m_editCell == qv::GridCell{nRow, nCol} && EditUp()) {
-        m_pEdit->GetWindowText(str);
-        return TRUE;
+        CString strTyped;
+        m_pEdit->GetWindowText(strTyped);
+        str = strTyped;
+        return true;
     }
     const char* pszText = m_model.Text(nRow, nCol);
     str = pszText != nullptr ? pszText : "";
@@ -256,7 +280,9 @@ void QVGridCtrl::SetCellText(int nRow, int nCol, const CString& str) {
     if (!IsValidRow(nRow) || !IsValidColumn(nCol)) {
         return;
     }
-    m_model.SetText(nRow, nCol, {str, static_cast<size_t>(str.GetLength())});
+    qv::SayMemoryException([&] {
+        m_model.SetText(nRow, nCol, {str, static_cast<size_t>(str.GetLength())});
+    });
     const Watch watch(*this);
     if (m_bEditing && m_editCell == qv::GridCell{nRow, nCol} && EditUp()) {
         m_pEdit->SetWindowText(str);
@@ -389,6 +415,9 @@ void QVGridCtrl::CalcScrollBars() {
     const bool bHasBar = (GetStyle() & WS_VSCROLL) != 0;
     if (m_nCellHeight == -1) {
         CalcCellHeight();
+    }
+    if (m_nCellHeight == -1) {
+        return;  // no memory; the next paint tries again
     }
     const int nVisible = Layout().VisibleRows();
     const bool bNeed = NumRows() > nVisible;

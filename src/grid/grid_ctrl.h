@@ -11,9 +11,14 @@
 // being typed has changed. Nothing tells that typed text was saved: GetCellText gives it while it
 // is being typed.
 //
-// What is typed is saved as the focus leaves, another cell is chosen, the view scrolls or the
-// cell's button is clicked. It is dropped when the cell is disabled or made read-only, when its row
-// is deleted, and, in a drop list, by Escape.
+// What is typed is saved as the focus leaves, another cell is chosen, the scroll bar is used, the
+// cell's button is clicked or the window is destroyed. It is dropped when the cell is disabled or
+// made read-only, when its row is deleted, and, in a drop list, by Escape. Where code scrolls or a
+// window is moved or resized, editors follow their cells.
+//
+// Without memory: AddColumn, AddRow and SetCellText throw CMemoryException, and leave what was
+// there. All other operations tell it by their result, or leave things as they are: an editor stays
+// closed, and one whose text cannot be saved stays open with it.
 //
 // Ownership: arrays of choices are the caller's and must outlive their use; the grid owns its
 // texts, which it keeps until it is destroyed (see grid/core/grid_model.h), and its editors.
@@ -62,7 +67,7 @@ public:
     DWORD_PTR GetColumnData(int nCol) const;
     void SetColumnData(int nCol, DWORD_PTR dwData);
     // Fits the column to its texts or to the given ones, with room for a button, and to nMinWidth
-    // at least. Gives the width.
+    // at least. Gives the width; 0 without memory, the column keeping its own.
     int AutoSizeColumn(int nCol, int nMinWidth);
     int SizeToStrings(int nCol, const CStringArray& strings, int nMinWidth);
 
@@ -84,7 +89,8 @@ public:
 
     // --- Cells
 
-    // What is being typed in the cell, or its text. 0 for a cell that never had a text.
+    // What is being typed in the cell, or its text. 0 for a cell that never had a text, and, with
+    // str as it was, where there is no such cell or no memory.
     BOOL GetCellText(int nRow, int nCol, CString& str);
     void SetCellText(int nRow, int nCol, const CString& str);
     DWORD_PTR GetItemData(int nRow, int nCol) const;
@@ -192,7 +198,7 @@ private:
     class Watch;
 
     qv::GridLayout Layout();
-    void MeasureRows();  // if that is due
+    bool MeasureRows();  // if that is due; false without memory
     void RefitRows();
     bool CanRepaint() const { return m_bRedraw && m_hWnd != nullptr; }
     void InvalidateAll();
@@ -208,7 +214,14 @@ private:
     bool IsLockedList(int nRow, int nCol) const;
     void MoveRowMark(int nRow);
     bool LedElsewhere(unsigned nMove, int nRow, int nCol) const;
-    void KeepTypedText();
+    bool KeepTypedText();
+    bool SaveEdit();
+    void OpenEdit(int nRow, int nCol);
+    void MakeEdit();
+    void FillList(const CStringArray& strings);
+    bool KeepChosenLine();
+    bool ReadCell(int nRow, int nCol, CString& str) const;
+    void DrawRows(CDC& dc, const CRect& rcClient);
     void SaveEditors();
     void DropEditors(int nRow, int nCol);
     void PressButton(bool bPressed);

@@ -49,9 +49,10 @@ bool QVGridCtrl::IsLockedList(int nRow, int nCol) const {
 
 // The parent answers at once; it may change or destroy anything of the grid.
 void QVGridCtrl::NotifyParent(UINT nCode) {
-    if (CWnd* pParent = GetParent()) {
-        pParent->SendMessage(WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), nCode),
-                             reinterpret_cast<LPARAM>(m_hWnd));
+    // Without an object for it, which might find no memory.
+    if (HWND hWndParent = ::GetParent(m_hWnd)) {
+        ::SendMessage(hWndParent, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), nCode),
+                      reinterpret_cast<LPARAM>(m_hWnd));
     }
 }
 
@@ -81,8 +82,10 @@ void QVGridCtrl::GotoCell(int nRow, int nCol, BOOL bActivate) {
     if (!watch) {
         return;
     }
-    if (nMove != m_nMoves || !IsValidRow(nRow)) {
-        // The parent, being told, has gone elsewhere or taken the row away: it stays at that.
+    const bool bTextStays = EditUp() && m_editCell != qv::GridCell{nRow, nCol};
+    if (nMove != m_nMoves || !IsValidRow(nRow) || bTextStays) {
+        // The parent, being told, has gone elsewhere or taken the row away: it stays at that. So
+        // it does where what was typed found no memory, and would be lost.
         if (nRow != m_nCurRow && IsValidRow(nRow)) {
             RowAt(nRow).dwState &= ~GRS_CURRENT;
         }
@@ -121,23 +124,31 @@ void QVGridCtrl::ActivateCell(int nRow, int nCol) {
         return;
     }
     const IgnoreFocus ignore(m_bIgnoreFocus, m_pAlive);
-    SaveEditCtrl();  // of the cell that is left; a hidden edit would lose what it holds
-    if (!watch) {
-        return;
+    // Of the cell that is left; a hidden edit would lose what it holds.
+    if (SaveEdit() && watch && MeasureRows()) {
+        qv::FindsMemory([&] { OpenEdit(nRow, nCol); });  // else the cell stays closed
     }
-    MeasureRows();
+}
+
+// Hidden.
+void QVGridCtrl::MakeEdit() {
+    auto pEdit = std::make_unique<QVGridEdit>(*this);
+    if (!pEdit->Create(WS_CHILD | ES_WANTRETURN | ES_AUTOHSCROLL, CRect(0, 0, 0, 0), this,
+                       kGridEditId)) {
+        AfxThrowResourceException();
+    }
+    pEdit->SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(m_hFont), FALSE);
+    m_pEdit = std::move(pEdit);
+}
+
+void QVGridCtrl::OpenEdit(int nRow, int nCol) {
     if (m_pEdit == nullptr) {
-        m_pEdit = std::make_unique<QVGridEdit>(*this);
-        m_pEdit->Create(WS_CHILD | ES_WANTRETURN | ES_AUTOHSCROLL, CRect(0, 0, 0, 0), this,
-                        kGridEditId);
-        if (m_pEdit->m_hWnd == nullptr) {
-            m_pEdit.reset();
-            return;
-        }
-        m_pEdit->SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(m_hFont), FALSE);
+        MakeEdit();
     } else {
         m_pEdit->ShowWindow(SW_HIDE);
     }
+    const Watch watch(*this);
+    const unsigned nMove = m_nMoves;
     // The parent hears of the new text, and may change the cell or take the ground away. A text
     // that it changed must not come back when the edit is saved.
     const auto text = [&] {
@@ -188,19 +199,30 @@ void QVGridCtrl::HideEditCtrl() {
 }
 
 // Not through the public SetCellText, which would write the text into the edit again. To the cell
-// that it was opened for, wherever the current cell has gone meanwhile.
-void QVGridCtrl::KeepTypedText() {
-    CString strText;
-    m_pEdit->GetWindowText(strText);
-    m_model.SetText(m_editCell.nRow, m_editCell.nCol,
-                    {strText, static_cast<size_t>(strText.GetLength())});
+// that it was opened for, wherever the current cell has gone meanwhile. False without memory.
+bool QVGridCtrl::KeepTypedText() {
+    return qv::FindsMemory([this] {
+        CString strText;
+        m_pEdit->GetWindowText(strText);
+        m_model.SetText(m_editCell.nRow, m_editCell.nCol,
+                        {strText, static_cast<size_t>(strText.GetLength())});
+    });
+}
+
+// An edit whose text finds no memory stays up with it, and gives false.
+bool QVGridCtrl::SaveEdit() {
+    if (!EditUp()) {
+        return true;
+    }
+    if (!KeepTypedText()) {
+        return false;
+    }
+    HideEditCtrl();
+    return true;
 }
 
 void QVGridCtrl::SaveEditCtrl() {
-    if (EditUp()) {
-        KeepTypedText();
-        HideEditCtrl();
-    }
+    SaveEdit();
 }
 
 void QVGridCtrl::SaveEditors() {
@@ -236,24 +258,34 @@ void QVGridCtrl::HideListBox() {
     m_bBtnDown = FALSE;
 }
 
+// Whether the selected line is another text than the cell's, which it is then.
+bool QVGridCtrl::KeepChosenLine() {
+    const int nLine = m_pList->GetCurSel();
+    if (nLine == LB_ERR || !IsValidRow(m_nCurRow)) {
+        return false;
+    }
+    CString strLine;
+    CString strCell;
+    m_pList->GetText(nLine, strLine);
+    ReadCell(m_nCurRow, m_nCurCol, strCell);
+    if (_mbscmp(reinterpret_cast<const unsigned char*>(static_cast<LPCSTR>(strLine)),
+                reinterpret_cast<const unsigned char*>(static_cast<LPCSTR>(strCell))) == 0) {
+        return false;
+    }
+    SetCellText(m_nCurRow, m_nCurCol, strLine);
+    return true;
+}
+
+// A choice that finds no memory is not made, and not told.
 void QVGridCtrl::SaveListBox() {
     if (m_pList == nullptr || m_pList->m_hWnd == nullptr) {
         return;
     }
     const Watch watch(*this);
-    const int nLine = m_pList->GetCurSel();
-    if (nLine != LB_ERR && IsValidRow(m_nCurRow)) {
-        CString strLine;
-        CString strCell;
-        m_pList->GetText(nLine, strLine);
-        GetCellText(m_nCurRow, m_nCurCol, strCell);
-        if (_mbscmp(reinterpret_cast<const unsigned char*>(static_cast<LPCSTR>(strLine)),
-                    reinterpret_cast<const unsigned char*>(static_cast<LPCSTR>(strCell))) != 0) {
-            SetCellText(m_nCurRow, m_nCurCol, strLine);
-            if (watch) {
-                NotifyParent(1);
-            }
-        }
+    bool bChosen = false;
+    qv::FindsMemory([&] { bChosen = KeepChosenLine(); });
+    if (bChosen && watch) {
+        NotifyParent(1);
     }
     if (watch && ListUp()) {
         HideListBox();  // unless the parent has done so, and perhaps opened the edit
@@ -264,35 +296,43 @@ void QVGridCtrl::PopupList(CStringArray& strings) {
     if (m_hWnd == nullptr || !IsValidRow(m_nCurRow) || !IsValidColumn(m_nCurCol)) {
         return;
     }
-    MeasureRows();
+    if (!MeasureRows() || !qv::FindsMemory([&] { FillList(strings); })) {
+        HideListBox();
+        return;
+    }
+    m_pList->ShowWindow(SW_SHOWNA);
+    m_pList->Follow(true);
+    m_bEditing = TRUE;
+}
+
+// Hidden, with the choices, at its place, and with the line of the cell's text selected.
+void QVGridCtrl::FillList(const CStringArray& strings) {
     if (m_pList == nullptr) {
-        m_pList = std::make_unique<QVGridList>(*this);
+        auto pList = std::make_unique<QVGridList>(*this);
         // The bar shows in a list that is limited in height alone.
-        m_pList->CreateEx(0, "LISTBOX", nullptr, WS_POPUP | WS_BORDER | WS_VSCROLL,
-                          CRect(0, 0, 0, 0), this, 0);
-        if (m_pList->m_hWnd == nullptr) {
-            m_pList.reset();
-            return;
+        if (!pList->CreateEx(0, "LISTBOX", nullptr, WS_POPUP | WS_BORDER | WS_VSCROLL,
+                             CRect(0, 0, 0, 0), this, 0)) {
+            AfxThrowResourceException();
         }
-        m_pList->SetOwner(this);
-        m_pList->SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(m_hFont), FALSE);
+        pList->SetOwner(this);
+        pList->SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(m_hFont), FALSE);
+        m_pList = std::move(pList);
     } else {
         m_pList->ShowWindow(SW_HIDE);
     }
     m_pList->ResetContent();
     for (INT_PTR i = 0; i < strings.GetSize(); ++i) {
-        m_pList->InsertString(-1, strings[i]);
+        if (m_pList->InsertString(-1, strings[i]) < 0) {
+            AfxThrowMemoryException();
+        }
     }
     PlaceList();  // first: a selected line is scrolled to
     CString strCell;
-    GetCellText(m_nCurRow, m_nCurCol, strCell);
+    ReadCell(m_nCurRow, m_nCurCol, strCell);
     const int nLine = m_pList->FindStringExact(-1, strCell);
     if (nLine != LB_ERR) {
         m_pList->SetCurSel(nLine);
     }
-    m_pList->ShowWindow(SW_SHOWNA);
-    m_pList->Follow(true);
-    m_bEditing = TRUE;
 }
 
 void QVGridCtrl::TogglePopupList() {

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "frame/memory.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "frame/wnd_port.h"
@@ -18,25 +19,28 @@ COLORREF Sys(int nIndex) {
 
 // The font is that of the parent unless the grid was given one of its own.
 void QVGridCtrl::CalcCellHeight() {
-    CClientDC dc(this);
-    CWnd* pParent = GetParent();
-    if (m_hFont == nullptr && pParent != nullptr) {
-        const CFont* pFont = pParent->GetFont();
-        const auto hFont = pFont != nullptr ? pFont->GetSafeHandle() : nullptr;
-        SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(hFont), TRUE);
-    }
-    const qv::SelectGuard<CFont> font(dc, m_hFont);
-    TEXTMETRIC metrics{};
-    dc.GetTextMetrics(&metrics);
-    m_nCellHeight = metrics.tmHeight + qv::kRowPadding;
+    qv::FindsMemory([this] {
+        CClientDC dc(this);
+        CWnd* pParent = GetParent();
+        if (m_hFont == nullptr && pParent != nullptr) {
+            const CFont* pFont = pParent->GetFont();
+            const auto hFont = pFont != nullptr ? pFont->GetSafeHandle() : nullptr;
+            SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(hFont), TRUE);
+        }
+        const qv::SelectGuard<CFont> font(dc, m_hFont);
+        TEXTMETRIC metrics{};
+        dc.GetTextMetrics(&metrics);
+        m_nCellHeight = metrics.tmHeight + qv::kRowPadding;
+    });
 }
 
-void QVGridCtrl::MeasureRows() {
+bool QVGridCtrl::MeasureRows() {
     if (m_nCellHeight == -1) {
         CalcCellHeight();
         RefitRows();
         PlaceEditors();
     }
+    return m_nCellHeight != -1;
 }
 
 void QVGridCtrl::OnPaint() {
@@ -45,6 +49,10 @@ void QVGridCtrl::OnPaint() {
 }
 
 void QVGridCtrl::Draw(CDC& dc, const CRect& rcClient) {
+    qv::FindsMemory([&] { DrawRows(dc, rcClient); });
+}
+
+void QVGridCtrl::DrawRows(CDC& dc, const CRect& rcClient) {
     MeasureRows();
     const qv::BrushLife window(m_brWindow, Sys(COLOR_WINDOW));
     const qv::BrushLife highlight(m_brHighlight, Sys(COLOR_HIGHLIGHT));

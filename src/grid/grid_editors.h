@@ -3,12 +3,13 @@
 
 #pragma once
 
+#include "frame/memory.h"
 #include "grid/grid_ctrl.h"
 
 // Leaves the cell by the arrow keys at the ends of its text, and saves as it loses the focus.
 inline constexpr UINT kGridEditId = 100;
 
-class QVGridEdit : public CEdit {
+class QVGridEdit : public qv::QuietWithoutMemory<CEdit> {
 public:
     explicit QVGridEdit(QVGridCtrl& grid) : m_grid(grid) {}
 
@@ -25,7 +26,7 @@ private:
 };
 
 // Never has the focus: keys reach the grid, and the pointer is followed by capture.
-class QVGridList : public CListBox {
+class QVGridList : public qv::QuietWithoutMemory<CListBox> {
 public:
     explicit QVGridList(QVGridCtrl& grid) : m_grid(grid) {}
     ~QVGridList() override { Follow(false); }

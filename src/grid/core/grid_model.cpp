@@ -64,13 +64,24 @@ int GridModel::AllocateCellDataIndex() {
 }
 
 int GridModel::AddRow(std::string_view row, unsigned dwState) {
+    const size_t nBlocks = m_aCellData.size();
+    const size_t nStrings = m_aStrings.size();
     m_aRows.push_back({dwState, -1, 0});
     const int nRow = NumRows() - 1;
-    m_aRows[nRow].nCellIndex = AllocateCellDataIndex();
-    std::string_view field;
-    int nPos = 0;
-    for (int nCol = 0; nCol < NumColumns() && NextField(row, nPos, field); ++nCol) {
-        SetText(nRow, nCol, field);
+    try {
+        m_aRows[nRow].nCellIndex = AllocateCellDataIndex();
+        std::string_view field;
+        int nPos = 0;
+        for (int nCol = 0; nCol < NumColumns() && NextField(row, nPos, field); ++nCol) {
+            SetText(nRow, nCol, field);
+        }
+    } catch (const std::bad_alloc&) {
+        m_aRows.pop_back();
+        m_aCellData.resize(nBlocks);
+        std::for_each(m_aStrings.begin() + static_cast<std::ptrdiff_t>(nStrings), m_aStrings.end(),
+                      [this](char* psz) { m_texts.Free(psz); });
+        m_aStrings.resize(nStrings);
+        throw;
     }
     return nRow;
 }

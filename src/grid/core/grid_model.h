@@ -82,7 +82,7 @@ public:
     // --- Rows
 
     // TAB-separated fields; those beyond the columns are dropped, missing ones are empty. May throw
-    // std::bad_alloc, with the row there and its cells empty from the one on that found no memory.
+    // std::bad_alloc, without a new row then. One whose block found no memory reads as empty.
     int AddRow(std::string_view row, unsigned dwState);
     void DeleteAllRows();
     int NumRows() const { return static_cast<int>(m_aRows.size()); }

@@ -1,0 +1,285 @@
+#include <gtest/gtest.h>
+
+#include <new>
+
+#include "support/failing_heap.h"
+#include "support/grid_window.h"
+#include "support/pump.h"
+#include "support/test_app.h"
+
+namespace {
+
+// What came out of an operation.
+enum class Left { Nothing, MemoryException, Other };
+
+template <class Action>
+Left WhatLeaves(Action action) {
+    try {
+        action();
+        return Left::Nothing;
+    } catch (CMemoryException* pException) {
+        pException->Delete();
+        return Left::MemoryException;
+    } catch (...) {
+        return Left::Other;
+    }
+}
+
+// Operations on a grid with each allocation refused in turn, and with all from each on.
+class GridWithoutMemory : public testing::TestWithParam<FailingHeap::Mode> {
+protected:
+    GridWithoutMemory() : grid(w.grid) {
+        TheTestApp().Forget();
+        w.parent.m_commands.reserve(kManyCommands);
+        grid.SetFocus();
+        PumpPending();
+    }
+    ~GridWithoutMemory() override {
+        EXPECT_TRUE(TheTestApp().m_exceptions.empty()) << TheTestApp().m_exceptions.front();
+    }
+
+    // check gets what left the operation, and makes the grid ready for the next run.
+    template <class Action, class Check>
+    void Refuse(Action action, Check check) {
+        Left left = Left::Nothing;
+        const int nRuns = RefuseEachAllocation(
+            GetParam(), [&] { left = WhatLeaves(action); },
+            [&](int nSucceeding) {
+                SCOPED_TRACE(nSucceeding);
+                EXPECT_NE(left, Left::Other);
+                check(left);
+            });
+        EXPECT_GT(nRuns, 0);
+    }
+    // The same for what may tell nothing.
+    template <class Action, class Check>
+    void RefuseQuietly(Action action, Check check) {
+        Refuse(action, [&](Left left) {
+            EXPECT_EQ(left, Left::Nothing);
+            EXPECT_FALSE(grid.m_bIgnoreFocus);
+            check();
+        });
+    }
+    void Press(int nRow, int nCol) {
+        const CPoint pt = w.At(nRow, nCol);
+        ::SendMessage(grid.m_hWnd, WM_LBUTTONDOWN, 0, MAKELPARAM(pt.x, pt.y));
+    }
+    void Type(const char* psz) {
+        ::SendMessage(w.Edit(), EM_SETSEL, 0, -1);
+        ::SendMessage(w.Edit(), EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(psz));
+    }
+    // As it was, with memory: no editor, the texts of the first row.
+    void Restore() {
+        grid.GotoCell(0, kStatic, FALSE);
+        w.parent.SetFocus();
+        grid.EnsureRowVisible(0);
+        EXPECT_EQ(w.Edit(), nullptr);
+        EXPECT_EQ(w.List(), nullptr);
+        grid.SetCellText(0, kEdit, "abc");
+        grid.SetCellText(0, kList, "one");
+        grid.GotoCell(0, kStatic, FALSE);
+        grid.SetFocus();
+        w.Told();
+    }
+
+    static constexpr size_t kManyCommands = 1000;  // that the parent finds memory for
+    const CString kLong = CString('x', 300);
+    GridWindow<> w{3};
+    OpenGrid& grid;
+};
+
+TEST_P(GridWithoutMemory, FillingSaysSoAndLeavesWhatWasThere) {
+    Refuse([&] { grid.SetCellText(0, kEdit, kLong); },
+           [&](Left left) {
+               EXPECT_EQ(w.Text(0, kEdit), left == Left::Nothing ? std::string(kLong) : "abc");
+           });
+    int nColumns = grid.NumColumns();
+    Refuse([&] { grid.AddColumn(gctStatic, 20); },
+           [&](Left left) {
+               EXPECT_EQ(grid.NumColumns(), nColumns + (left == Left::Nothing));
+               nColumns = grid.NumColumns();
+           });
+    int nRows = grid.NumRows();
+    const CString strRow = "a\tb\t" + kLong;
+    Refuse([&] { grid.AddRow(strRow, 0); },
+           [&](Left left) {
+               EXPECT_EQ(grid.NumRows(), nRows + (left == Left::Nothing));
+               nRows = grid.NumRows();
+           });
+    grid.DeleteAllRows();
+    Refuse([&] { grid.AddRow(strRow, 0); },
+           [&](Left) { EXPECT_EQ(grid.m_nTopRow, grid.NumRows() > 0 ? 0 : -1); });
+}
+
+TEST_P(GridWithoutMemory, AskingGivesNothing) {
+    for (const bool bTyped : {false, true}) {
+        if (bTyped) {
+            Press(0, kEdit);
+        }
+        CString str;
+        BOOL bGiven = FALSE;
+        RefuseQuietly(
+            [&] {
+                str.Empty();
+                bGiven = grid.GetCellText(0, kEdit, str);
+            },
+            [&] { EXPECT_EQ(std::string(str), bGiven ? "abc" : ""); });
+    }
+    int nGiven = 0;
+    const int nWidth = grid.AutoSizeColumn(kEdit, 10);
+    grid.SetColWidth(kEdit, 77);
+    RefuseQuietly([&] { nGiven = grid.AutoSizeColumn(kEdit, 10); },
+                  [&] {
+                      EXPECT_EQ(nGiven, nGiven != 0 ? nWidth : 0);
+                      EXPECT_EQ(grid.GetColWidth(kEdit), nGiven != 0 ? nWidth : 77);
+                  });
+}
+
+TEST_P(GridWithoutMemory, AnEditOpensWithItsTextOrNotAtAll) {
+    const auto check = [&] {
+        const std::string strTold = w.Edit() != nullptr ? w.Text(0, kEdit) : "closed";
+        EXPECT_TRUE(strTold == "abc" || strTold == "closed") << strTold;
+        Restore();
+        EXPECT_EQ(w.Text(0, kEdit), "abc");
+    };
+    Press(0, kEdit);  // makes the edit
+    Restore();
+    RefuseQuietly([&] { grid.GotoCell(0, kEdit, TRUE); }, check);
+    RefuseQuietly([&] { Press(0, kEdit); }, check);
+    RefuseQuietly([&] { grid.SendMessage(WM_KEYDOWN, VK_RIGHT); }, check);
+    grid.GotoCell(0, kEdit, FALSE);
+    w.parent.SetFocus();
+    RefuseQuietly([&] { grid.SetFocus(); },
+                  [&] {
+                      check();
+                      grid.GotoCell(0, kEdit, FALSE);
+                      w.parent.SetFocus();
+                  });
+}
+
+TEST_P(GridWithoutMemory, TheFirstEditAndTheFirstListAreMadeOrNot) {
+    for (const bool bList : {false, true}) {
+        std::unique_ptr<GridWindow<>> pFresh;
+        const auto make = [&] {
+            pFresh.reset();
+            pFresh = std::make_unique<GridWindow<>>(1);
+            pFresh->parent.m_commands.reserve(kManyCommands);
+            pFresh->grid.GotoCell(0, kStatic, FALSE);
+        };
+        make();
+        RefuseQuietly(
+            [&] {
+                if (bList) {
+                    pFresh->grid.PopupList(pFresh->choices);
+                } else {
+                    pFresh->grid.GotoCell(0, kEdit, TRUE);
+                }
+            },
+            [&] {
+                EXPECT_EQ(pFresh->grid.m_bEditing, pFresh->List() || pFresh->Edit());
+                make();
+            });
+    }
+    TheTestApp().Forget();  // a window that the framework could not make
+}
+
+TEST_P(GridWithoutMemory, WhatWasTypedIsSavedOrStaysInTheEdit) {
+    const auto run = [&](const char* pszHow, auto leave) {
+        SCOPED_TRACE(pszHow);
+        const auto type = [&] {
+            Restore();
+            Press(0, kEdit);
+            Type(kLong);
+        };
+        type();
+        RefuseQuietly(leave, [&] {
+            EXPECT_EQ(w.Text(0, kEdit), std::string(kLong));
+            const bool bMoved = w.Current() != "0,1";
+            if (w.Edit() != nullptr && !bMoved) {
+                EXPECT_TRUE(grid.m_bEditing);
+            }
+            w.parent.SetFocus();
+            EXPECT_EQ(w.Text(0, kEdit), std::string(kLong));
+            type();
+        });
+    };
+    run("GotoCell", [&] { grid.GotoCell(1, kStatic, FALSE); });
+    run("GotoEdit", [&] { grid.GotoCell(1, kEdit, TRUE); });
+    run("Press", [&] { Press(1, kEditButton); });
+    run("Scroll", [&] { grid.SendMessage(WM_VSCROLL, SB_LINEDOWN); });
+    run("Key", [&] { ::SendMessage(w.Edit(), WM_KEYDOWN, VK_DOWN, 1); });
+    run("Focus", [&] { w.parent.SetFocus(); });
+}
+
+TEST_P(GridWithoutMemory, AChoiceIsMadeAndToldOrNeither) {
+    const auto open = [&] {
+        Restore();
+        Press(0, kList);
+        ::SendMessage(w.List(), LB_SETCURSEL, 1, 0);
+        w.Told();
+    };
+    const auto run = [&](auto close) {
+        open();
+        RefuseQuietly(close, [&] {
+            EXPECT_EQ(w.List(), nullptr);
+            const std::string strText = w.Text(0, kList);
+            EXPECT_TRUE(strText == "one" || strText == "two") << strText;
+            EXPECT_EQ(w.parent.CountCommands(kListChanged), strText == "two");
+            open();
+        });
+    };
+    run([&] { ::SendMessage(w.List(), WM_LBUTTONUP, 0, 0); });
+    run([&] { grid.SendMessage(WM_KEYDOWN, VK_LEFT); });
+    run([&] { w.parent.SetFocus(); });
+    Restore();
+    RefuseQuietly([&] { Press(0, kList); },
+                  [&] {
+                      EXPECT_TRUE(w.List() == nullptr || w.ListLine() == "one");
+                      Restore();
+                      EXPECT_EQ(w.Text(0, kList), "one");
+                  });
+}
+
+TEST_P(GridWithoutMemory, PaintingAndFittingEndQuietly) {
+    RefuseQuietly(
+        [&] {
+            grid.SendMessage(WM_SETREDRAW, TRUE);
+            grid.UpdateWindow();
+        },
+        [&] {
+            grid.Invalidate(FALSE);
+            grid.UpdateWindow();
+            EXPECT_GT(grid.m_nCellHeight, 0);
+        });
+    RefuseQuietly(
+        [&] {
+            grid.SendMessage(WM_SETREDRAW, TRUE);
+            grid.EnsureRowVisible(2);
+            grid.DeleteAllRows();
+        },
+        [&] { EXPECT_EQ(grid.NumRows(), 0); });
+}
+
+TEST_P(GridWithoutMemory, AControlIsMadeOrNot) {
+    std::unique_ptr<OpenGrid> pGrid;
+    Refuse([&] { pGrid = std::make_unique<OpenGrid>(); },
+           [&](Left left) {
+               EXPECT_EQ(pGrid != nullptr, left == Left::Nothing);
+               pGrid.reset();
+           });
+    pGrid = std::make_unique<OpenGrid>();
+    int nMade = 0;
+    RefuseQuietly([&] { nMade = pGrid->Create(kGridId + 1, CRect(0, 0, 50, 50), &w.parent); },
+                  [&] {
+                      EXPECT_EQ(nMade != 0, pGrid->m_hWnd != nullptr);
+                      pGrid = std::make_unique<OpenGrid>();
+                  });
+}
+
+INSTANTIATE_TEST_SUITE_P(Refused, GridWithoutMemory,
+                         testing::Values(FailingHeap::kJustOne, FailingHeap::kAllLater),
+                         [](const auto& test) {
+                             return test.param == FailingHeap::kJustOne ? "One" : "AllLater";
+                         });
+
+}  // namespace
