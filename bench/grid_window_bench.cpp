@@ -11,6 +11,7 @@ constexpr int kFewRows = 100;
 constexpr int kColumns = 5;
 constexpr int kColumnWidth = 90;
 constexpr int kRepeats = 100;
+constexpr int kAddedRows = 100;
 const CSize kWindow(500, 640);
 
 class Grid {
@@ -46,6 +47,17 @@ public:
                kRepeats;
     }
 
+    // Each row refits the scroll bar; what is due for painting is painted once, at the end.
+    double AddRows() {
+        return bench::Time([&] {
+                   for (int i = 0; i < kAddedRows; ++i) {
+                       grid.AddRow("row\tone\ttwo\tthree\tfour", 0);
+                   }
+                   grid.UpdateWindow();
+               }) /
+               kAddedRows;
+    }
+
 private:
     bench::Frame m_frame;
 
@@ -63,4 +75,6 @@ void MeasureGrid() {
     bench::Figure("grid/repaint-page", bench::MedianOf([&] { return many.Repaint(); }) * 1e3, "ms");
     bench::Figure("grid/change-cell", bench::MedianOf([&] { return many.ChangeCell(); }) * 1e3,
                   "ms");
+    bench::Figure("grid/add-row-redraw-on", bench::MedianOf([&] { return few.AddRows(); }) * 1e3,
+                  "ms a row");
 }

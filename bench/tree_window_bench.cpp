@@ -97,6 +97,25 @@ double TimeFillDeep() {
     });
 }
 
+// Rows that begin with signs, which may be others than ASCII has.
+double TimeFillWith(const wchar_t* pszSigns) {
+    constexpr size_t kRows = 20000;
+    const std::string strSigns = static_cast<LPCSTR>(CString(pszSigns));
+    std::vector<std::string> texts;
+    for (size_t i = 0; i < kRows; ++i) {
+        texts.push_back(strSigns + Texts()[i]);
+    }
+    Ours side;
+    return bench::Time([&] {
+        side.tree.SetRedraw(FALSE);
+        for (const std::string& strText : texts) {
+            side.Add(strText.c_str(), nullptr);
+        }
+        side.tree.SetRedraw(TRUE);
+        side.tree.UpdateWindow();
+    });
+}
+
 template <class Side>
 double TimeDelete() {
     Side side;
@@ -197,6 +216,11 @@ void MeasureTree() {
             bench::MedianPair(TimeFillFlat<Ours>, TimeFillFlat<Theirs>));
     Compare("tree/fill-3level-110k", 1e3, "ms",
             bench::MedianPair(TimeFillDeep<Ours>, TimeFillDeep<Theirs>));
+    const bench::Pair signs =
+        bench::MedianPair([] { return TimeFillWith(L"\u201C\u201D\u20AC\u2013"); },
+                          [] { return TimeFillWith(L"\"\"E-"); });
+    bench::Figure("tree/fill-20k-quotes", signs.ours * 1e3, "ms");
+    bench::Ratio("tree/fill-20k-quotes", signs.ours, signs.theirs);
     Compare("tree/delete-all-100k", 1e3, "ms",
             bench::MedianPair(TimeDelete<Ours>, TimeDelete<Theirs>));
     Compare("tree/repaint-page", 1e3, "ms",

@@ -72,8 +72,8 @@ Counts Printed(const FakePageItems& items, const std::vector<PageRecord>& pages)
 // Walks the table with the place that the document has reached.
 class PageWalk {
 public:
-    PageWalk(const std::vector<Item>& items, unsigned nHeight)
-        : m_items(items), m_nHeight(nHeight) {
+    PageWalk(const std::vector<Item>& items, unsigned nHeight, qv::RowNumbers numbers)
+        : m_items(items), m_nHeight(nHeight), m_numbers(numbers) {
         for (const Item& item : items) {
             m_expected.emplace_back(Rows(item), 1u);
         }
@@ -101,6 +101,9 @@ public:
         }
         m_nItem = page.nLastItem + 1;
         m_nRow = 0;
+        if (m_numbers == qv::RowNumbers::kOwn) {
+            m_nCarried = 0;
+        }
         FUZZ_CHECK(bTall || IsFull(page, m_nHeight - nUsed));
     }
 
@@ -162,6 +165,7 @@ private:
 
     const std::vector<Item>& m_items;
     const unsigned m_nHeight;
+    const qv::RowNumbers m_numbers;
     Counts m_expected;
     std::size_t m_nItem = 0;
     unsigned m_nRow = 0;      // the next row of that item
@@ -214,9 +218,10 @@ void Run(FuzzInput& input) {
     if (bWild) {
         return RunWild(std::move(items), input, nHeight);
     }
+    const auto numbers = input.Byte() % 2 == 0 ? qv::RowNumbers::kOwn : qv::RowNumbers::kKept;
     std::vector<PageRecord> pages;
-    FUZZ_CHECK(qv::Paginate(items, nWidth, nHeight, pages) == pages.size());
-    PageWalk walk(items.items, nHeight);
+    FUZZ_CHECK(qv::Paginate(items, nWidth, nHeight, pages, numbers) == pages.size());
+    PageWalk walk(items.items, nHeight, numbers);
     for (const PageRecord& page : pages) {
         walk.Check(page);
     }

@@ -41,6 +41,7 @@ Report::Report(const Inventory& inventory, const ReportOptions& options, const S
     MeasurePaper(dc);
     MakeFonts(dc);
     m_pEngine = std::make_unique<QVPrintEngine>(&dc, &m_fontHeader, &m_fontNormal, &m_fontSection);
+    m_pEngine->SetPrintAllRows(true);
     if (options.bIntroduction) {
         AddIntroduction(inventory, dc);
     }
@@ -123,12 +124,11 @@ void Report::AddSection(const Section& section, QVListCtrlEx& columns, CDC& dc) 
 
 void Report::AddTotals(const Section& section, CDC& dc) {
     using Item = QVPeDataLabeledListItem;
-    // A header has no rows and stays with what follows: whatever was split before, the totals begin
-    // with their first row.
     m_pEngine->AddBreak();
     m_pEngine->AddGroupHeader("Totals");
     QVPeDataLabeledList& totals = m_pEngine->AddLabeledDataList(&dc);
     totals.SetIndented(m_options.bSections);
+    totals.SetFitNumbers(true);
     totals.AddData("Packages:", WithThousands(section.packages.size()), Item::Right);
     totals.AddData("KiB on disk:", WithThousands(static_cast<size_t>(SizeOf(section))),
                    Item::Right);

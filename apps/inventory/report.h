@@ -26,6 +26,8 @@ public:
            QVListCtrlEx& columns, QVListCtrlEx& list, CDC& dc);
 
     unsigned Pages() const { return m_nPages; }
+    // False if memory did not suffice for all of it.
+    bool IsComplete() const { return m_pEngine->IsComplete(); }
     // Of the whole sheet, in units of the device context.
     CSize PaperSize() const { return m_paper; }
     // Where the device context's origin lies on the sheet.

@@ -237,6 +237,10 @@ bool ReportPage::PrintPages(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR psz
         m_strMessage = "The printer did not take the report.";
         return false;
     }
+    if (!pReport->IsComplete()) {
+        m_strMessage = "There was not enough memory: parts of the report are missing.";
+        return false;
+    }
     m_strMessage.Format("%u pages printed", nLast - nFirst + 1);
     return true;
 }

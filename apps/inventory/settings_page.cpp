@@ -12,6 +12,7 @@ constexpr int kTextColumn = 1;
 constexpr int kChoiceColumn = 2;
 constexpr int kFolderColumn = 3;
 constexpr int kLeastWidth = 140;
+constexpr int kListLines = 8;
 
 int ColumnOf(SettingKind kind) {
     return kind == SettingKind::Text     ? kTextColumn
@@ -37,6 +38,9 @@ int SettingsPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     m_grid.AddColumn(gctEdit, 2 * kLeastWidth);
     m_grid.AddColumn(gctDropList, kLeastWidth);
     m_grid.AddColumn(gctEditButton, kLeastWidth);
+    m_grid.SetShowAddedRows(TRUE);
+    m_grid.SetLockReadOnlyLists(TRUE);
+    m_grid.SetMaxListLines(kListLines);
     return 0;
 }
 

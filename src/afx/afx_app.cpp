@@ -216,7 +216,7 @@ int CWinApp::DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT) {
         nType |= bQuestion ? MB_ICONQUESTION : MB_ICONEXCLAMATION;
     }
     HWND hWndTop = nullptr;
-    HWND hWndOwner = CWnd::GetSafeOwner(nullptr, &hWndTop)->GetSafeHwnd();
+    HWND hWndOwner = AfxGetSafeOwner(nullptr, &hWndTop);
     const int nResult = ::MessageBox(hWndOwner, lpszPrompt, AfxGetAppName(), nType);
     if (hWndTop != nullptr) {
         ::EnableWindow(hWndTop, TRUE);

@@ -31,8 +31,9 @@ public:
     virtual BOOL OnIdle(LONG lCount);
     /// Whether idle work is due after this message.
     virtual BOOL IsIdleMessage(MSG* pMsg);
-    /// An exception that left a window's handler. The result goes to the message's sender. The
-    /// exception is deleted by the caller.
+    /// An exception that left a window's handler, or work of the message loop. The result goes to
+    /// the message's sender. The exception is deleted by the caller; one that is thrown here ends
+    /// there. There may be no memory.
     virtual LRESULT ProcessWndProcException(CException* e, const MSG* pMsg);
     /// Messages of modal loops that the system runs (menus, message boxes).
     virtual BOOL ProcessMessageFilter(int code, LPMSG lpMsg);

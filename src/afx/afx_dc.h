@@ -158,6 +158,11 @@ public:
     BOOL ScrollDC(int dx, int dy, LPCRECT lpRectScroll, LPCRECT lpRectClip, CRgn* pRgnUpdate,
                   LPRECT lpRectUpdate);
 
+    // Texts are of the process's code page, whatever character set the font was made for; a symbol
+    // font's bytes are its glyphs. Counts, and widths in lists, are for each byte: where a width is
+    // given, a character gets the sum of its bytes', and where extents are asked for, each byte
+    // gets the one at its character's end. Want of memory leaves a text to the font's character
+    // set.
     virtual BOOL TextOut(int x, int y, LPCTSTR lpszString, int nCount);
     BOOL TextOut(int x, int y, const CString& str) { return TextOut(x, y, str, str.GetLength()); }
     virtual BOOL ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, LPCTSTR lpszString,
@@ -197,7 +202,10 @@ public:
 
 private:
     friend struct AfxDcMap;
+    template <class, class>
+    friend class CHandleMap;
     bool m_bTemporary = false;
+    CHandleMapLink<CDC> m_mapLink;
 };
 
 class QVAFX_API CPaintDC : public CDC {

@@ -40,28 +40,41 @@ void CDataExchange::Fail() {
     AfxThrowUserException();
 }
 
+namespace {
+
+/// A window's notifications dropped while this lives.
+class NotifyLockout {
+public:
+    explicit NotifyLockout(HWND hWnd) : m_hOld(AfxGetWndState().hLockoutNotify) {
+        AfxGetWndState().hLockoutNotify = hWnd;
+    }
+    ~NotifyLockout() { AfxGetWndState().hLockoutNotify = m_hOld; }
+    NotifyLockout(const NotifyLockout&) = delete;
+    NotifyLockout& operator=(const NotifyLockout&) = delete;
+
+private:
+    HWND m_hOld;
+};
+
+}  // namespace
+
 BOOL CWnd::UpdateData(BOOL bSaveAndValidate) {
     CDataExchange dx(this, bSaveAndValidate);
     // Filling a control makes it notify; nobody is to take that for the user's doing.
-    AfxWndState& state = AfxGetWndState();
-    const HWND hOldLockout = state.hLockoutNotify;
-    state.hLockoutNotify = m_hWnd;
-
-    BOOL bDone = FALSE;
+    NotifyLockout lockout(m_hWnd);
     try {
         DoDataExchange(&dx);
-        bDone = TRUE;
+        return TRUE;
     } catch (CUserException* e) {
         e->Delete();  // the user was told
     } catch (CException* e) {
         e->ReportError();
         e->Delete();
-    } catch (...) {
-        state.hLockoutNotify = hOldLockout;
-        throw;
+    } catch (const std::bad_alloc&) {
+        CMemoryException memory(FALSE);
+        memory.ReportError();
     }
-    state.hLockoutNotify = hOldLockout;
-    return bDone;
+    return FALSE;
 }
 
 void CWnd::DoDataExchange(CDataExchange*) {}

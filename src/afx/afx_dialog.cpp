@@ -69,13 +69,10 @@ INT_PTR CALLBACK DialogProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lPara
     try {
         return pDlg->OnInitDialog();
     } catch (...) {
-        MSG msg = {};
-        msg.hwnd = hWnd;
-        msg.message = message;
-        msg.wParam = wParam;
-        msg.lParam = lParam;
-        AfxProcessCurrentException(msg);
-        pDlg->EndDialog(-1);
+        AfxProcessCurrentException(hWnd, message, wParam, lParam);
+        if (CWnd::FromHandlePermanent(hWnd) == pDlg) {
+            pDlg->EndDialog(-1);
+        }
         return FALSE;
     }
 }
@@ -174,7 +171,7 @@ BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWn
 }
 
 HWND CDialog::PreModal() {
-    return CWnd::GetSafeOwner(m_pParentWnd, &m_hWndTop)->GetSafeHwnd();
+    return AfxGetSafeOwner(m_pParentWnd->GetSafeHwnd(), &m_hWndTop);
 }
 
 void CDialog::PostModal() {
@@ -198,22 +195,13 @@ INT_PTR CDialog::DoModal() {
 
 INT_PTR CDialog::RunModal(LPCDLGTEMPLATE lpDialogTemplate, HINSTANCE hInst) {
     const HWND hWndOwner = PreModal();
-    {
-        DisabledOwner disabled(hWndOwner);
-        if (CreateDlgIndirect(lpDialogTemplate, CWnd::FromHandle(hWndOwner), hInst)) {
-            if (m_nFlags & WF_CONTINUEMODAL) {
-                DWORD dwFlags = MLF_SHOWONIDLE;
-                if (GetStyle() & DS_NOIDLEMSG) {
-                    dwFlags |= MLF_NOIDLEMSG;
-                }
-                RunModalLoop(dwFlags);
-            }
-            if (m_hWnd != nullptr) {
-                SetWindowPos(
-                    nullptr, 0, 0, 0, 0,
-                    SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
-            }
-        }
+    try {
+        RunModalFor(hWndOwner, lpDialogTemplate, hInst);
+    } catch (CException* e) {
+        e->Delete();
+        m_nModalResult = -1;
+    } catch (const std::bad_alloc&) {
+        m_nModalResult = -1;
     }
     if (hWndOwner != nullptr && ::GetActiveWindow() == m_hWnd) {
         ::SetActiveWindow(hWndOwner);
@@ -221,6 +209,21 @@ INT_PTR CDialog::RunModal(LPCDLGTEMPLATE lpDialogTemplate, HINSTANCE hInst) {
     DestroyWindow();
     PostModal();
     return m_nModalResult;
+}
+
+// The owner is disabled meanwhile.
+void CDialog::RunModalFor(HWND hWndOwner, LPCDLGTEMPLATE lpDialogTemplate, HINSTANCE hInst) {
+    DisabledOwner disabled(hWndOwner);
+    if (!CreateDlgIndirect(lpDialogTemplate, CWnd::FromHandle(hWndOwner), hInst)) {
+        return;
+    }
+    if (m_nFlags & WF_CONTINUEMODAL) {
+        RunModalLoop(MLF_SHOWONIDLE | (GetStyle() & DS_NOIDLEMSG ? MLF_NOIDLEMSG : 0));
+    }
+    if (m_hWnd != nullptr) {
+        SetWindowPos(nullptr, 0, 0, 0, 0,
+                     SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
+    }
 }
 
 void CDialog::EndDialog(int nResult) {

@@ -87,6 +87,7 @@ protected:
 private:
     CString m_strTemplateName;  ///< owns a name given as text
     INT_PTR RunModal(LPCDLGTEMPLATE lpDialogTemplate, HINSTANCE hInst);
+    void RunModalFor(HWND hWndOwner, LPCDLGTEMPLATE lpDialogTemplate, HINSTANCE hInst);
 };
 
 #include "afxdd_.h"

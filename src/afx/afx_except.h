@@ -41,25 +41,25 @@ public:
 class QVAFX_API CNotSupportedException : public CSimpleException {
     DECLARE_DYNAMIC(CNotSupportedException)
 public:
-    CNotSupportedException();
+    explicit CNotSupportedException(BOOL bAutoDelete = TRUE);
 };
 
 class QVAFX_API CResourceException : public CSimpleException {
     DECLARE_DYNAMIC(CResourceException)
 public:
-    CResourceException();
+    explicit CResourceException(BOOL bAutoDelete = TRUE);
 };
 
 class QVAFX_API CUserException : public CSimpleException {
     DECLARE_DYNAMIC(CUserException)
 public:
-    CUserException();
+    explicit CUserException(BOOL bAutoDelete = TRUE);
 };
 
 class QVAFX_API CInvalidArgException : public CSimpleException {
     DECLARE_DYNAMIC(CInvalidArgException)
 public:
-    CInvalidArgException();
+    explicit CInvalidArgException(BOOL bAutoDelete = TRUE);
 };
 
 class QVAFX_API CFileException : public CException {
@@ -97,6 +97,8 @@ public:
     BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = nullptr) override;
 };
 
+// What these throw, but for a file's, is kept for the purpose: throwing needs no memory, and Delete
+// leaves it alone. A file's exception becomes a CMemoryException where there is no memory for it.
 [[noreturn]] QVAFX_API void AfxThrowMemoryException();
 [[noreturn]] QVAFX_API void AfxThrowNotSupportedException();
 [[noreturn]] QVAFX_API void AfxThrowResourceException();

@@ -93,7 +93,8 @@ CString CFileDialog::GetNextPathName(POSITION& pos) const {
         lpszName = lpszFirst;
     }
     CString strPath(lpszFolder);
-    if (strPath.IsEmpty() || strPath[strPath.GetLength() - 1] != '\\') {
+    // A backslash may be the second byte of a character.
+    if (strPath.IsEmpty() || strPath.ReverseFind('\\') != strPath.GetLength() - 1) {
         strPath += '\\';
     }
     strPath += lpszName;

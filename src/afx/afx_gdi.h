@@ -38,7 +38,10 @@ public:
 
 private:
     friend struct AfxGdiMap;
+    template <class, class>
+    friend class CHandleMap;
     bool m_bTemporary = false;
+    CHandleMapLink<CGdiObject> m_mapLink;
 };
 
 class QVAFX_API CPen : public CGdiObject {

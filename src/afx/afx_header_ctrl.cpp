@@ -1,4 +1,5 @@
 // Header.
+#include "afx_owned_handles.h"
 #include "afx_wnd_state.h"
 #include "afxcmn.h"
 
@@ -67,13 +68,7 @@ int CHeaderCtrl::HitTest(LPHDHITTESTINFO phdhti) {
 }
 
 CImageList* CHeaderCtrl::CreateDragImage(int nIndex) {
-    HIMAGELIST hList = AfxSend<HIMAGELIST>(m_hWnd, HDM_CREATEDRAGIMAGE, nIndex);
-    if (hList == nullptr) {
-        return nullptr;
-    }
-    auto* pList = new CImageList;
-    pList->Attach(hList);
-    return pList;
+    return AfxNewImageList(AfxSend<HIMAGELIST>(m_hWnd, HDM_CREATEDRAGIMAGE, nIndex));
 }
 
 int CHeaderCtrl::SetHotDivider(CPoint pt) {

@@ -48,5 +48,8 @@ public:
 
 private:
     friend struct AfxImageListMap;
+    template <class, class>
+    friend class CHandleMap;
     bool m_bTemporary = false;
+    CHandleMapLink<CImageList> m_mapLink;
 };

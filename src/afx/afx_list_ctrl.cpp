@@ -1,4 +1,5 @@
 // List view.
+#include "afx_owned_handles.h"
 #include "afx_wnd_state.h"
 #include "afxcmn.h"
 
@@ -333,7 +334,10 @@ int CListCtrl::FindItem(LVFINDINFO* pFindInfo, int nStart) const {
 }
 
 BOOL CListCtrl::SortItems(PFNLVCOMPARE pfnCompare, DWORD_PTR dwData) {
-    return AfxSend<BOOL>(m_hWnd, LVM_SORTITEMS, dwData, pfnCompare);
+    AfxCompareGuard guard(pfnCompare, static_cast<LPARAM>(dwData));
+    const BOOL bSorted =
+        AfxSend<BOOL>(m_hWnd, LVM_SORTITEMS, guard.Param(), &AfxCompareGuard::Call);
+    return guard.Result(bSorted, m_hWnd, LVM_SORTITEMS);
 }
 
 int CListCtrl::HitTest(LVHITTESTINFO* pHitTestInfo) const {
@@ -379,13 +383,7 @@ BOOL CListCtrl::Update(int nItem) {
 }
 
 CImageList* CListCtrl::CreateDragImage(int nItem, LPPOINT lpPoint) {
-    HIMAGELIST hList = AfxSend<HIMAGELIST>(m_hWnd, LVM_CREATEDRAGIMAGE, nItem, lpPoint);
-    if (hList == nullptr) {
-        return nullptr;
-    }
-    auto* pList = new CImageList;
-    pList->Attach(hList);
-    return pList;
+    return AfxNewImageList(AfxSend<HIMAGELIST>(m_hWnd, LVM_CREATEDRAGIMAGE, nItem, lpPoint));
 }
 
 BOOL CListCtrl::GetColumn(int nCol, LVCOLUMN* pColumn) const {

@@ -88,6 +88,8 @@ public:
     BOOL DeleteItem(int nItem);
     BOOL DeleteAllItems();
     int FindItem(LVFINDINFO* pFindInfo, int nStart = -1) const;
+    /// A comparison that throws is told to the application; the result is FALSE then, the order
+    /// any.
     BOOL SortItems(PFNLVCOMPARE pfnCompare, DWORD_PTR dwData);
     int HitTest(LVHITTESTINFO* pHitTestInfo) const;
     int HitTest(CPoint pt, UINT* pFlags = nullptr) const;

@@ -58,5 +58,8 @@ public:
 
 private:
     friend struct AfxMenuMap;
+    template <class, class>
+    friend class CHandleMap;
     bool m_bTemporary = false;
+    CHandleMapLink<CMenu> m_mapLink;
 };

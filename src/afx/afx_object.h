@@ -24,9 +24,16 @@ struct QVAFX_API CRuntimeClass {
     static CObject* CreateObject(LPCSTR lpszClassName);
 };
 
-/// Enters a record into the list of the module that is being initialized.
+/// Enters a record into the list of the process, from which AfxInitExtensionModule takes those of
+/// an extension module. A record that is still there when its module goes, goes with it.
 struct QVAFX_API AFX_CLASSINIT {
     explicit AFX_CLASSINIT(CRuntimeClass* pNewClass);
+    ~AFX_CLASSINIT();
+    AFX_CLASSINIT(const AFX_CLASSINIT&) = delete;
+    AFX_CLASSINIT& operator=(const AFX_CLASSINIT&) = delete;
+
+private:
+    CRuntimeClass* m_pClass;
 };
 
 class QVAFX_API CObject {
@@ -83,6 +90,14 @@ public:                                     \
         return new class_name;                           \
     }                                                    \
     AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, 0xFFFF, &class_name::CreateObject)
+
+/// An object's place in a CHandleMap. It lies in the object itself, so that entering one needs no
+/// memory and cannot fail.
+template <class Object>
+struct CHandleMapLink {
+    Object* pNext = nullptr;
+    const void* handle = nullptr;  ///< null: the object is in no map
+};
 
 /// The object as a class_name, or null if it is none.
 QVAFX_API CObject* AfxDynamicDownCast(CRuntimeClass* pClass, CObject* pObject);

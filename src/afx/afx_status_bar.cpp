@@ -1,3 +1,4 @@
+#include "afx_wide_text.h"
 #include "afx_wnd_state.h"
 #include "afxcmn.h"
 #include "afxext.h"
@@ -54,8 +55,7 @@ int CStatusBar::TextWidth(LPCTSTR lpszText) {
     HDC hDC = ::GetDC(m_hWnd);
     HFONT hFont = AfxSend<HFONT>(m_hWnd, WM_GETFONT);
     HGDIOBJ hOldFont = hFont != nullptr ? ::SelectObject(hDC, hFont) : nullptr;
-    SIZE size = {};
-    ::GetTextExtentPoint32(hDC, lpszText, lstrlen(lpszText), &size);
+    const SIZE size = AfxTextExtent(hDC, lpszText, lstrlen(lpszText));
     if (hOldFont != nullptr) {
         ::SelectObject(hDC, hOldFont);
     }
@@ -67,8 +67,9 @@ BOOL CStatusBar::SetIndicators(const UINT* lpIDArray, int nIDCount) {
     if (nIDCount < 1) {
         return FALSE;
     }
+    auto* pPanes = new Pane[nIDCount];
     delete[] m_pPanes;
-    m_pPanes = new Pane[nIDCount];
+    m_pPanes = pPanes;
     m_nCount = nIDCount;
     BOOL bFound = TRUE;
     for (int nPane = 0; nPane < nIDCount && lpIDArray != nullptr; ++nPane) {

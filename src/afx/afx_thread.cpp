@@ -1,3 +1,4 @@
+#include "afx_wide_input.h"
 #include "afx_wnd_state.h"
 #include "afxcmn.h"
 #include "afxpriv.h"
@@ -54,7 +55,12 @@ int CWinThread::Run() {
     for (;;) {
         MSG msg;
         if (bIdle && !::PeekMessage(&msg, nullptr, 0, 0, PM_NOREMOVE)) {
-            bIdle = OnIdle(lIdleCount++);
+            try {
+                bIdle = OnIdle(lIdleCount++);
+            } catch (...) {
+                AfxProcessCurrentException(nullptr, WM_NULL);
+                bIdle = FALSE;
+            }
             continue;
         }
         if (!PumpMessage()) {
@@ -68,12 +74,17 @@ int CWinThread::Run() {
 }
 
 BOOL CWinThread::PumpMessage() {
-    if (::GetMessage(&m_msgCur, nullptr, 0, 0) <= 0) {
+    if (!AfxGetMessage(m_msgCur)) {
         return FALSE;
     }
-    if (m_msgCur.message != WM_KICKIDLE && !PreTranslateMessage(&m_msgCur)) {
-        ::TranslateMessage(&m_msgCur);
-        ::DispatchMessage(&m_msgCur);
+    const MSG msg = m_msgCur;  // loops inside will bring others
+    try {
+        if (m_msgCur.message != WM_KICKIDLE && !PreTranslateMessage(&m_msgCur)) {
+            ::TranslateMessage(&m_msgCur);
+            AfxDispatchMessage(m_msgCur);
+        }
+    } catch (...) {
+        AfxProcessCurrentException(msg);
     }
     return TRUE;
 }
@@ -127,9 +138,13 @@ static void UpdateCommandUI(HWND hWnd) {
 }
 
 static BOOL CALLBACK UpdateFrame(HWND hWnd, LPARAM lMainWnd) {
-    CWnd* pWnd = CWnd::FromHandlePermanent(hWnd);
-    if (pWnd != nullptr && pWnd->IsFrameWnd() && hWnd != reinterpret_cast<HWND>(lMainWnd)) {
-        UpdateCommandUI(hWnd);
+    try {
+        CWnd* pWnd = CWnd::FromHandlePermanent(hWnd);
+        if (pWnd != nullptr && pWnd->IsFrameWnd() && hWnd != reinterpret_cast<HWND>(lMainWnd)) {
+            UpdateCommandUI(hWnd);
+        }
+    } catch (...) {
+        AfxProcessCurrentException(hWnd, WM_IDLEUPDATECMDUI);
     }
     return TRUE;
 }

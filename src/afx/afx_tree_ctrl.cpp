@@ -1,4 +1,5 @@
 // Tree view.
+#include "afx_owned_handles.h"
 #include "afx_wnd_state.h"
 #include "afxcmn.h"
 
@@ -330,7 +331,10 @@ BOOL CTreeCtrl::SortChildren(HTREEITEM hItem) {
 }
 
 BOOL CTreeCtrl::SortChildrenCB(LPTVSORTCB pSort) {
-    return AfxSend<BOOL>(m_hWnd, TVM_SORTCHILDRENCB, 0, pSort);
+    AfxCompareGuard guard(pSort->lpfnCompare, pSort->lParam);
+    TVSORTCB sort = {pSort->hParent, &AfxCompareGuard::Call, guard.Param()};
+    const BOOL bSorted = AfxSend<BOOL>(m_hWnd, TVM_SORTCHILDRENCB, 0, &sort);
+    return guard.Result(bSorted, m_hWnd, TVM_SORTCHILDRENCB);
 }
 
 BOOL CTreeCtrl::EnsureVisible(HTREEITEM hItem) {
@@ -338,11 +342,5 @@ BOOL CTreeCtrl::EnsureVisible(HTREEITEM hItem) {
 }
 
 CImageList* CTreeCtrl::CreateDragImage(HTREEITEM hItem) {
-    HIMAGELIST hList = AfxSend<HIMAGELIST>(m_hWnd, TVM_CREATEDRAGIMAGE, 0, hItem);
-    if (hList == nullptr) {
-        return nullptr;
-    }
-    auto* pList = new CImageList;
-    pList->Attach(hList);
-    return pList;
+    return AfxNewImageList(AfxSend<HIMAGELIST>(m_hWnd, TVM_CREATEDRAGIMAGE, 0, hItem));
 }

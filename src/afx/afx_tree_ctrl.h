@@ -84,6 +84,8 @@ public:
     HTREEITEM HitTest(CPoint pt, UINT* pFlags = nullptr) const;
     HTREEITEM HitTest(TVHITTESTINFO* pHitTestInfo) const;
     BOOL SortChildren(HTREEITEM hItem);
+    /// A comparison that throws is told to the application; the result is FALSE then, the order
+    /// any.
     BOOL SortChildrenCB(LPTVSORTCB pSort);
     BOOL EnsureVisible(HTREEITEM hItem);
     /// The caller deletes the list.

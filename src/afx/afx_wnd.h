@@ -445,9 +445,13 @@ protected:
 
 protected:
     friend struct AfxWndAccess;
+    template <class, class>
+    friend class CHandleMap;
 
     BOOL DispatchMapMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     BOOL DispatchCtlColor(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+
+    CHandleMapLink<CWnd> m_mapLink;
 
     DECLARE_MESSAGE_MAP()
 };

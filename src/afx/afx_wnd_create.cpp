@@ -3,6 +3,7 @@
 #include <set>
 #include <string>
 
+#include "afx_wide_input.h"
 #include "afx_wnd_state.h"
 #include "afxwin.h"
 
@@ -59,11 +60,16 @@ BOOL RegisterFrameworkClass(LPCTSTR lpszName) {
 }
 
 void PutProcedureInFront(HWND hWnd, WNDPROC* ppfnSuper) {
+    if (AfxTakesWideInput(hWnd)) {
+        return;  // it is in front already
+    }
+    const WNDPROC pfnWide = AfxWideProcedure(hWnd);
     auto pfnOld = reinterpret_cast<WNDPROC>(
         ::SetWindowLongPtr(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&AfxWndProc)));
     if (pfnOld != &AfxWndProc && *ppfnSuper == nullptr) {
         *ppfnSuper = pfnOld;
     }
+    AfxTakeWideInput(hWnd, pfnWide);
 }
 
 /// A thread's first window brings an input method window along, which is nobody's object.
@@ -86,10 +92,11 @@ static LRESULT CALLBACK CreationFilter(int code, WPARAM wParam, LPARAM lParam) {
             pWnd->PreSubclassWindow();
             PutProcedureInFront(hWnd, AfxWndAccess::SuperWndProc(pWnd));
         } catch (...) {
-            MSG msg = {};
-            msg.hwnd = hWnd;
-            msg.message = WM_NCCREATE;
-            AfxProcessCurrentException(msg);
+            AfxProcessCurrentException(hWnd, WM_NCCREATE);
+            if (CWnd::FromHandlePermanent(hWnd) == pWnd) {
+                pWnd->Detach();
+                state.pWndInit = pWnd;  // not taken: whoever creates it tells the object
+            }
             return 1;  // no window
         }
     }
@@ -198,6 +205,7 @@ HWND CWnd::UnsubclassWindow() {
     WNDPROC* ppfnSuper = GetSuperWndProcAddr();
     if (*ppfnSuper != nullptr) {
         ::SetWindowLongPtr(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(*ppfnSuper));
+        AfxEndWideInput(m_hWnd);
         *ppfnSuper = nullptr;
     }
     return Detach();
@@ -230,9 +238,11 @@ void CWnd::OnNcDestroy() {
     // Somebody who put himself in front of us later takes himself out; then ours is not on top.
     WNDPROC* ppfnSuper = GetSuperWndProcAddr();
     if (*ppfnSuper != nullptr &&
-        ::GetWindowLongPtr(m_hWnd, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(&AfxWndProc)) {
+        (AfxTakesWideInput(m_hWnd) ||
+         ::GetWindowLongPtr(m_hWnd, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(&AfxWndProc))) {
         ::SetWindowLongPtr(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(*ppfnSuper));
     }
+    AfxEndWideInput(m_hWnd);
     m_pfnSuper = nullptr;
     Detach();
     PostNcDestroy();

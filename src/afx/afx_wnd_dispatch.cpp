@@ -1,4 +1,5 @@
 // The way of a message: window procedure, message map, reflection to the control it is about.
+#include "afx_wide_input.h"
 #include "afxwin.h"
 
 #include "afx_wnd_state.h"
@@ -15,6 +16,22 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) 
     return AfxCallWndProc(pWnd, hWnd, nMsg, wParam, lParam);
 }
 
+/// A window that is gone takes no more messages. Whatever its object threw in the last one, the two
+/// part here, or another window of the same handle would be served by a stranger's object.
+static void PartFromGoneWindow(CWnd* pWnd, HWND hWnd) {
+    if (CWnd::FromHandlePermanent(hWnd) != pWnd) {
+        return;
+    }
+    try {
+        AfxWndAccess::OnNcDestroy(pWnd);
+    } catch (...) {
+        AfxProcessCurrentException(hWnd, WM_NCDESTROY);
+        if (CWnd::FromHandlePermanent(hWnd) == pWnd) {
+            pWnd->Detach();
+        }
+    }
+}
+
 LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) {
     AfxMessageScope scope(hWnd, nMsg, wParam, lParam);
     if (nMsg == WM_INITMENUPOPUP) {
@@ -23,12 +40,11 @@ LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM l
     try {
         return AfxWndAccess::WindowProc(pWnd, nMsg, wParam, lParam);
     } catch (...) {
-        MSG msg = {};
-        msg.hwnd = hWnd;
-        msg.message = nMsg;
-        msg.wParam = wParam;
-        msg.lParam = lParam;
-        return AfxProcessCurrentException(msg);
+        const LRESULT lResult = AfxProcessCurrentException(hWnd, nMsg, wParam, lParam);
+        if (nMsg == WM_NCDESTROY) {
+            PartFromGoneWindow(pWnd, hWnd);
+        }
+        return lResult;
     }
 }
 
@@ -52,6 +68,9 @@ WNDPROC* CWnd::GetSuperWndProcAddr() {
 
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (WNDPROC pfnSuper = *GetSuperWndProcAddr()) {
+        if (message == WM_CHAR && AfxDefaultTypedByte(m_hWnd, wParam, lParam)) {
+            return 0;
+        }
         return ::CallWindowProc(pfnSuper, m_hWnd, message, wParam, lParam);
     }
     return ::DefWindowProc(m_hWnd, message, wParam, lParam);

@@ -82,7 +82,7 @@ BOOL CWnd::Attach(HWND hWndNew) {
 HWND CWnd::Detach() {
     HWND hWnd = m_hWnd;
     if (hWnd != nullptr) {
-        ThreadWndMap().RemoveHandle(hWnd);
+        ThreadWndMap().RemovePermanent(this);
         m_hWnd = nullptr;
     }
     return hWnd;

@@ -1,4 +1,5 @@
 // Messages before they are dispatched, and loops of a window's own.
+#include "afx_wide_input.h"
 #include "afx_wnd_state.h"
 #include "afxpriv.h"
 #include "afxwin.h"
@@ -23,7 +24,7 @@ BOOL CWnd::WalkPreTranslateTree(HWND hWndStop, MSG* pMsg) {
 BOOL CWnd::PreTranslateInput(LPMSG lpMsg) {
     const bool bKey = lpMsg->message >= WM_KEYFIRST && lpMsg->message <= WM_KEYLAST;
     const bool bMouse = lpMsg->message >= WM_MOUSEFIRST && lpMsg->message <= WM_MOUSELAST;
-    return (bKey || bMouse) && ::IsDialogMessage(m_hWnd, lpMsg);
+    return (bKey || bMouse) && AfxIsDialogMessage(m_hWnd, *lpMsg);
 }
 
 int CWnd::MessageBox(LPCTSTR lpszText, LPCTSTR lpszCaption, UINT nType) {

@@ -3,6 +3,7 @@
 
 #include "afxwin.h"
 
+#include <exception>
 #include <type_traits>
 
 /// All null in a new thread.
@@ -24,6 +25,7 @@ struct AfxWndAccess {
         return pWnd->WindowProc(message, wParam, lParam);
     }
     static WNDPROC* SuperWndProc(CWnd* pWnd) { return pWnd->GetSuperWndProcAddr(); }
+    static void OnNcDestroy(CWnd* pWnd) { pWnd->CWnd::OnNcDestroy(); }
     /// Fills in the names that the application did not give.
     static void NameApp(CWinApp* pApp, HINSTANCE hInstance);
 };
@@ -49,8 +51,34 @@ private:
 };
 
 /// Hands the exception that is being handled to the thread, and gives the message's result. To be
-/// called in a handler for everything, at the border to the system's code.
+/// called in a handler for everything, at the border to the system's code. Throws nothing itself
+/// and needs no memory.
 LRESULT AfxProcessCurrentException(const MSG& msg);
+LRESULT AfxProcessCurrentException(HWND hWnd, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+
+/// A comparison of the program's on its way through a control's sorting: what it throws is kept
+/// while the control's code runs, and told to the application behind it. All rows compare as equal
+/// from there on.
+class AfxCompareGuard {
+public:
+    using Compare = int(CALLBACK*)(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort);
+
+    AfxCompareGuard(Compare pfnCompare, LPARAM lParamSort)
+        : m_pfnCompare(pfnCompare), m_lParamSort(lParamSort) {}
+    /// To be handed to the control, with this object as its parameter.
+    static int CALLBACK Call(LPARAM lParam1, LPARAM lParam2, LPARAM lGuard);
+    LPARAM Param() { return reinterpret_cast<LPARAM>(this); }
+    /// The sorting's result, FALSE if a comparison threw. hWnd and message: what sorted.
+    BOOL Result(BOOL bSorted, HWND hWnd, UINT message) const;
+
+private:
+    Compare m_pfnCompare;
+    LPARAM m_lParamSort;
+    std::exception_ptr m_pThrown;
+};
+
+/// CWnd::GetSafeOwner by handles, which makes no objects and so needs no memory.
+HWND AfxGetSafeOwner(HWND hWndParent, HWND* phWndTop);
 
 /// The entry for a window or reflected message along a chain of maps, or null. Cached by thread.
 const AFX_MSGMAP_ENTRY* AfxFindWindowEntry(const AFX_MSGMAP* pMap, UINT nMsg);

@@ -69,7 +69,11 @@ BOOL CWnd::IsTopParentActive() const {
 }
 
 CWnd* CWnd::GetSafeOwner(CWnd* pParent, HWND* pWndTop) {
-    HWND hWnd = pParent->GetSafeHwnd();
+    return FromHandle(AfxGetSafeOwner(pParent->GetSafeHwnd(), pWndTop));
+}
+
+HWND AfxGetSafeOwner(HWND hWndParent, HWND* phWndTop) {
+    HWND hWnd = hWndParent;
     if (hWnd == nullptr) {
         hWnd = AfxGetMainWnd()->GetSafeHwnd();
     }
@@ -81,17 +85,17 @@ CWnd* CWnd::GetSafeOwner(CWnd* pParent, HWND* pWndTop) {
         hWndTop = ::GetParent(hWndTop);
     }
     // Without a parent to go by, the dialog or popup that the main window shows now is the owner.
-    if (pParent->GetSafeHwnd() == nullptr && hWnd != nullptr) {
+    if (hWndParent == nullptr && hWnd != nullptr) {
         hWnd = ::GetLastActivePopup(hWnd);
     }
-    if (pWndTop != nullptr) {
+    if (phWndTop != nullptr) {
         const bool bDisable = hWndTop != nullptr && hWndTop != hWnd && ::IsWindowEnabled(hWndTop);
-        *pWndTop = bDisable ? hWndTop : nullptr;
+        *phWndTop = bDisable ? hWndTop : nullptr;
         if (bDisable) {
             ::EnableWindow(hWndTop, FALSE);
         }
     }
-    return FromHandle(hWnd);
+    return hWnd;
 }
 
 void CWnd::CalcWindowRect(LPRECT lpClientRect, UINT nAdjustType) {

@@ -4,6 +4,8 @@
 
 #include "afx.h"
 
+#include <new>
+
 class CWinApp;
 class CDynLinkLibrary;
 class COleObjectFactory;
@@ -56,6 +58,11 @@ public:
     explicit CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL bSystem = FALSE);
     ~CDynLinkLibrary() override;
 
+    /// Made with new under the loader's lock, where no exception may pass: null without memory.
+    static void* operator new(size_t nBytes) noexcept;
+    static void* operator new(size_t nBytes, const std::nothrow_t&) noexcept;
+    static void operator delete(void* p) noexcept;
+
     HMODULE m_hModule;
     HMODULE m_hResource;
     CRuntimeClassList m_classList;
@@ -71,8 +78,8 @@ struct AFX_MODULE_STATE {
     HINSTANCE m_hCurrentResourceHandle = nullptr;
     LPCTSTR m_lpszCurrentAppName = nullptr;
 
-    /// What static constructors have registered. A module's raw entry parks both heads in the init
-    /// slots before its own static constructors run; AfxInitExtensionModule puts them back.
+    /// What static constructors have registered. A module's raw entry may park both heads in the
+    /// init slots before its own static constructors run; AfxInitExtensionModule puts them back.
     CRuntimeClassList m_classList;
     CRuntimeClass* m_pClassInit = nullptr;
     CFactoryList m_factoryList;
@@ -85,10 +92,12 @@ QVAFX_API AFX_MODULE_STATE* AfxGetModuleState();
 QVAFX_API AFX_MODULE_STATE* AfxGetStaticModuleState();
 QVAFX_API AFX_MODULE_STATE* AfxGetAppModuleState();
 
-/// Fills the record at process attach and takes over the classes that were registered since the
-/// module's raw entry. A second call does nothing. Gives FALSE without an instance.
+/// Fills the record at process attach and takes over the classes and factories that the module's
+/// static constructors have registered: those that lie in its image. What a raw entry of the module
+/// parked is put back. A second call does nothing. Gives FALSE without an instance.
 QVAFX_API BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HINSTANCE hInstance);
-/// Takes the module's entries out of the chain. bAll: those of all extension modules.
+/// Takes the module's entries out of the chain, and what it registered since out of the lists of
+/// the process. bAll: the entries of all extension modules.
 QVAFX_API void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL bAll = FALSE);
 
 QVAFX_API HINSTANCE AfxGetInstanceHandle();

@@ -3,8 +3,11 @@
 
 #include "afx.h"
 
+#include <algorithm>
+#include <iterator>
 #include <list>
 #include <new>
+#include <stdexcept>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -29,7 +32,20 @@ struct AFX_MAP_HASH<CString> {
     }
 };
 
-/// A growing array. An index that is none throws CInvalidArgException.
+/// Runs an action that needs memory. The framework's exception stands for the language's.
+template <class Action>
+auto AfxNeedMemory(Action action) -> decltype(action()) {
+    try {
+        return action();
+    } catch (const std::bad_alloc&) {
+        AfxThrowMemoryException();
+    } catch (const std::length_error&) {
+        AfxThrowMemoryException();
+    }
+}
+
+/// A growing array. An index that is none throws CInvalidArgException, want of memory
+/// CMemoryException; then the array is as it was.
 template <class TYPE, class ARG_TYPE = const TYPE&>
 class CArray : public CObject {
 public:
@@ -44,10 +60,10 @@ public:
         if (nNewSize < 0) {
             AfxThrowInvalidArgException();
         }
+        AfxNeedMemory([&] { m_data.resize(static_cast<size_t>(nNewSize)); });
         if (nGrowBy >= 0) {
             m_nGrowBy = nGrowBy;
         }
-        Change([&] { m_data.resize(static_cast<size_t>(nNewSize)); });
     }
     void FreeExtra() { m_data.shrink_to_fit(); }
     void RemoveAll() { std::vector<Slot>().swap(m_data); }
@@ -56,7 +72,10 @@ public:
     TYPE& GetAt(INT_PTR nIndex) { return m_data[Check(nIndex)].value; }
     TYPE& ElementAt(INT_PTR nIndex) { return m_data[Check(nIndex)].value; }
     const TYPE& ElementAt(INT_PTR nIndex) const { return m_data[Check(nIndex)].value; }
-    void SetAt(INT_PTR nIndex, ARG_TYPE newElement) { m_data[Check(nIndex)].value = newElement; }
+    void SetAt(INT_PTR nIndex, ARG_TYPE newElement) {
+        TYPE& value = m_data[Check(nIndex)].value;
+        AfxNeedMemory([&] { value = newElement; });
+    }
     const TYPE& operator[](INT_PTR nIndex) const { return GetAt(nIndex); }
     TYPE& operator[](INT_PTR nIndex) { return ElementAt(nIndex); }
     const TYPE* GetData() const {
@@ -68,43 +87,54 @@ public:
         if (nIndex < 0) {
             AfxThrowInvalidArgException();
         }
-        const TYPE value(newElement);  // it may lie in this array
-        if (nIndex >= GetSize()) {
-            SetSize(nIndex + 1);
-        }
-        m_data[static_cast<size_t>(nIndex)].value = value;
+        AfxNeedMemory([&] {
+            TYPE value(newElement);  // it may lie in this array
+            if (nIndex >= GetSize()) {
+                m_data.resize(static_cast<size_t>(nIndex) + 1);
+            }
+            m_data[static_cast<size_t>(nIndex)].value = std::move(value);
+        });
     }
     INT_PTR Add(ARG_TYPE newElement) {
         const INT_PTR nIndex = GetSize();
-        Change([&] { m_data.push_back(Slot{TYPE(newElement)}); });
+        AfxNeedMemory([&] {
+            Slot added{TYPE(newElement)};  // it may lie in this array
+            Reserve(m_data.size(), 1);
+            m_data.push_back(std::move(added));
+        });
         return nIndex;
     }
     INT_PTR Append(const CArray& src) {
         const INT_PTR nOldSize = GetSize();
-        const std::vector<Slot> copy(src.m_data);
-        Change([&] { m_data.insert(m_data.end(), copy.begin(), copy.end()); });
+        AddBehind(nOldSize, src.m_data.size(),
+                  [&](size_t n) -> const TYPE& { return src.m_data[n].value; });
         return nOldSize;
     }
     void Copy(const CArray& src) {
         if (this != &src) {
-            Change([&] { m_data = src.m_data; });
+            AfxNeedMemory([&] { std::vector<Slot>(src.m_data).swap(m_data); });
         }
     }
+    /// Makes room by moving what stands at nIndex and behind it; elements that are missing before
+    /// nIndex are added as well.
     void InsertAt(INT_PTR nIndex, ARG_TYPE newElement, INT_PTR nCount = 1) {
         if (nIndex < 0 || nCount <= 0) {
             AfxThrowInvalidArgException();
         }
-        const TYPE value(newElement);
-        if (nIndex > GetSize()) {
-            SetSize(nIndex);
-        }
-        Change([&] {
-            m_data.insert(m_data.begin() + nIndex, static_cast<size_t>(nCount), Slot{value});
-        });
+        const INT_PTR nOldSize = GetSize();
+        AddBehind(nIndex, static_cast<size_t>(nCount),
+                  [&](size_t) -> ARG_TYPE { return newElement; });
+        MoveNewTo(nIndex, nOldSize);
     }
     void InsertAt(INT_PTR nStartIndex, CArray* pNewArray) {
-        for (INT_PTR i = 0; i < pNewArray->GetSize(); ++i) {
-            InsertAt(nStartIndex + i, pNewArray->GetAt(i));
+        if (nStartIndex < 0) {
+            AfxThrowInvalidArgException();
+        }
+        if (!pNewArray->IsEmpty()) {
+            const INT_PTR nOldSize = GetSize();
+            AddBehind(nStartIndex, pNewArray->m_data.size(),
+                      [&](size_t n) -> const TYPE& { return pNewArray->m_data[n].value; });
+            MoveNewTo(nStartIndex, nOldSize);
         }
     }
     void RemoveAt(INT_PTR nIndex, INT_PTR nCount = 1) {
@@ -126,16 +156,39 @@ private:
         }
         return static_cast<size_t>(nIndex);
     }
-    // The framework's exception stands for the language's.
-    template <class Action>
-    void Change(Action action) {
-        try {
-            if (m_nGrowBy > 0 && m_data.size() == m_data.capacity()) {
-                m_data.reserve(m_data.size() + static_cast<size_t>(m_nGrowBy));
+    // Adds nCount elements, element(n) for each, behind the last one or behind nIndex - 1,
+    // whichever comes later. All of them or none.
+    template <class Element>
+    void AddBehind(INT_PTR nIndex, size_t nCount, Element element) {
+        const size_t nOldSize = m_data.size();
+        AfxNeedMemory([&] {
+            try {
+                std::vector<Slot> added;  // apart: they may be copies of this array's own
+                added.reserve(nCount);
+                for (size_t n = 0; n < nCount; ++n) {
+                    added.push_back(Slot{TYPE(element(n))});
+                }
+                const size_t nGap = std::max(static_cast<size_t>(nIndex), nOldSize);
+                Reserve(nGap, nCount);
+                m_data.resize(nGap);
+                std::move(added.begin(), added.end(), std::back_inserter(m_data));
+            } catch (...) {
+                m_data.erase(m_data.begin() + static_cast<INT_PTR>(nOldSize), m_data.end());
+                throw;
             }
-            action();
-        } catch (const std::bad_alloc&) {
-            AfxThrowMemoryException();
+        });
+    }
+    // Room for nCount elements behind nSize, and for more, so that adding one by one stays cheap.
+    void Reserve(size_t nSize, size_t nCount) {
+        if (m_data.capacity() < nSize || m_data.capacity() - nSize < nCount) {
+            const size_t nMore = m_nGrowBy > 0 ? static_cast<size_t>(m_nGrowBy) : m_data.capacity();
+            m_data.reserve(nSize + std::max(nCount, nMore));
+        }
+    }
+    // The elements that came behind nOldSize change places with those from nIndex on.
+    void MoveNewTo(INT_PTR nIndex, INT_PTR nOldSize) {
+        if (nIndex < nOldSize) {
+            std::rotate(m_data.begin() + nIndex, m_data.begin() + nOldSize, m_data.end());
         }
     }
 
@@ -224,7 +277,7 @@ private:
     }
     POSITION Link(ARG_TYPE value, Node* pNext) {
         Node* pPrev = pNext != nullptr ? pNext->pPrev : m_pTail;
-        auto* pNode = new Node{{}, pNext, pPrev, value};
+        auto* pNode = AfxNeedMemory([&] { return new Node{{}, pNext, pPrev, TYPE(value)}; });
         (pPrev != nullptr ? pPrev->pNext : m_pHead) = pNode;
         (pNext != nullptr ? pNext->pPrev : m_pTail) = pNode;
         ++m_nCount;
@@ -263,11 +316,17 @@ public:
         rValue = it->second;
         return TRUE;
     }
-    VALUE& operator[](ARG_KEY key) { return m_map[key]; }
-    void SetAt(ARG_KEY key, ARG_VALUE newValue) { m_map[key] = newValue; }
+    VALUE& operator[](ARG_KEY key) {
+        return AfxNeedMemory([&]() -> VALUE& { return m_map[key]; });
+    }
+    void SetAt(ARG_KEY key, ARG_VALUE newValue) {
+        AfxNeedMemory([&] { m_map.insert_or_assign(KEY(key), VALUE(newValue)); });
+    }
     BOOL RemoveKey(ARG_KEY key) { return m_map.erase(key) > 0; }
     void RemoveAll() { m_map.clear(); }
-    void InitHashTable(UINT nHashSize, BOOL = TRUE) { m_map.reserve(nHashSize); }
+    void InitHashTable(UINT nHashSize, BOOL = TRUE) {
+        AfxNeedMemory([&] { m_map.reserve(nHashSize); });
+    }
 
     POSITION GetStartPosition() const { return m_map.empty() ? nullptr : ToPosition(1); }
     /// Walks in no particular order; the position becomes null behind the last.

@@ -38,6 +38,7 @@ CDC::~CDC() {
     if (m_hDC != nullptr && !m_bTemporary) {
         ::DeleteDC(Detach());
     }
+    AfxDcMap::Get().RemovePermanent(this);  // with the output context taken away it is still there
 }
 
 HDC CDC::GetSafeHdc() const {
@@ -69,7 +70,7 @@ BOOL CDC::Attach(HDC hDC) {
 HDC CDC::Detach() {
     const HDC hDC = m_hDC;
     if (hDC != nullptr && !m_bTemporary) {
-        AfxDcMap::Get().RemoveHandle(hDC);
+        AfxDcMap::Get().RemovePermanent(this);
         AfxCountOwnedHandle(-1);
     }
     m_hDC = nullptr;
@@ -139,11 +140,21 @@ CWnd* CDC::GetWindow() const {
 
 namespace {
 
+// The object that another of its kind is about to replace is looked up beforehand: the lookup may
+// want memory, and an object that nobody can put back would stay selected.
+void LookUpCurrent(HDC hDC, HGDIOBJ hNext) {
+    const DWORD dwType = hNext != nullptr ? ::GetObjectType(hNext) : 0;
+    if (dwType != 0 && hDC != nullptr) {
+        CGdiObject::FromHandle(::GetCurrentObject(hDC, dwType == OBJ_EXTPEN ? OBJ_PEN : dwType));
+    }
+}
+
 HGDIOBJ SelectInto(const CDC& dc, HGDIOBJ hObject) {
     HGDIOBJ hOld = nullptr;
     if (hObject == nullptr) {
         return nullptr;
     }
+    LookUpCurrent(dc.m_hDC != nullptr ? dc.m_hDC : dc.m_hAttribDC, hObject);
     if (dc.m_hDC != dc.m_hAttribDC && dc.m_hAttribDC != nullptr) {
         hOld = ::SelectObject(dc.m_hAttribDC, hObject);
     }
@@ -170,6 +181,7 @@ CFont* CDC::SelectObject(CFont* p) {
 CBitmap* CDC::SelectObject(CBitmap* p) {
     // A bitmap goes into one context only.
     const HGDIOBJ hBitmap = ObjectOf(p);
+    LookUpCurrent(m_hDC, hBitmap);
     return hBitmap != nullptr
                ? CBitmap::FromHandle(static_cast<HBITMAP>(::SelectObject(m_hDC, hBitmap)))
                : nullptr;

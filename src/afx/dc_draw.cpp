@@ -1,5 +1,11 @@
 // CDC's output and measuring: clip, lines, areas, pixels, text, print jobs.
+#include "afx_wide_text.h"
+#include "afxtempl.h"
 #include "afxwin.h"
+
+#include <algorithm>
+#include <cwchar>
+#include <vector>
 
 namespace {
 
@@ -141,9 +147,14 @@ BOOL CDC::DrawState(CPoint pt, CSize size, HICON hIcon, UINT nFlags, HBRUSH hBru
 }
 BOOL CDC::DrawState(CPoint pt, CSize size, LPCTSTR lpszText, UINT nFlags, BOOL bPrefixText,
                     int nTextLen, HBRUSH hBrush) {
-    return ::DrawState(m_hDC, hBrush, nullptr, reinterpret_cast<LPARAM>(lpszText),
-                       static_cast<WPARAM>(nTextLen), pt.x, pt.y, size.cx, size.cy,
-                       nFlags | (bPrefixText ? DST_PREFIXTEXT : DST_TEXT));
+    nFlags |= bPrefixText ? DST_PREFIXTEXT : DST_TEXT;
+    const AfxWideText wide(m_hDC, lpszText, nTextLen != 0 ? nTextLen : -1);
+    return wide.IsPlain()
+               ? ::DrawStateA(m_hDC, hBrush, nullptr, reinterpret_cast<LPARAM>(lpszText),
+                              static_cast<WPARAM>(nTextLen), pt.x, pt.y, size.cx, size.cy, nFlags)
+               : ::DrawStateW(m_hDC, hBrush, nullptr, reinterpret_cast<LPARAM>(wide.Get()),
+                              static_cast<WPARAM>(wide.Length()), pt.x, pt.y, size.cx, size.cy,
+                              nFlags);
 }
 
 // --- Pixels
@@ -176,54 +187,162 @@ BOOL CDC::ScrollDC(int dx, int dy, LPCRECT lpRectScroll, LPCRECT lpRectClip, CRg
 
 // --- Text
 
-BOOL CDC::TextOut(int x, int y, LPCTSTR lpszString, int nCount) {
-    return ::TextOut(m_hDC, x, y, lpszString, nCount);
-}
-BOOL CDC::ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, LPCTSTR lpszString, UINT nCount,
-                     LPINT lpDxWidths) {
-    return ::ExtTextOut(m_hDC, x, y, nOptions, lpRect, lpszString, nCount, lpDxWidths);
-}
-CSize CDC::TabbedTextOut(int x, int y, LPCTSTR lpszString, int nCount, int nTabPositions,
-                         LPINT lpnTabStopPositions, int nTabOrigin) {
-    return CSize(static_cast<DWORD>(::TabbedTextOut(m_hDC, x, y, lpszString, nCount, nTabPositions,
-                                                    lpnTabStopPositions, nTabOrigin)));
-}
-int CDC::DrawText(LPCTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat) {
-    return ::DrawText(m_hDC, lpszString, nCount, lpRect, nFormat);
-}
-int CDC::DrawText(const CString& str, LPRECT lpRect, UINT nFormat) {
-    return DrawText(str, str.GetLength(), lpRect, nFormat);
-}
-int CDC::DrawTextEx(LPTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat,
-                    LPDRAWTEXTPARAMS lpDTParams) {
-    return ::DrawTextEx(m_hDC, lpszString, nCount, lpRect, nFormat, lpDTParams);
-}
-
 namespace {
 
-CSize TextExtent(HDC hDC, LPCTSTR lpszString, int nCount) {
-    SIZE size{};
-    ::GetTextExtentPoint32(hDC, lpszString, nCount, &size);
-    return size;
+template <typename Value>
+std::vector<Value> Zeros(int nCount) {
+    return AfxNeedMemory([&] { return std::vector<Value>(static_cast<size_t>(nCount)); });
+}
+
+/// Widths given for each byte, as widths for each unit: a character gets the sum of its bytes'.
+/// nPerPlace: numbers for each byte and unit.
+std::vector<int> WidthsOfUnits(const AfxWideText& wide, const INT* pWidths, int nPerPlace) {
+    std::vector<int> widths = Zeros<int>(wide.Length() * nPerPlace);
+    wide.ForEachChar([&](int nByte, int nBytes, int nUnit, int) {
+        for (int i = 0; i < nBytes * nPerPlace; ++i) {
+            widths[static_cast<size_t>(nUnit * nPerPlace + i % nPerPlace)] +=
+                pWidths[nByte * nPerPlace + i];
+        }
+    });
+    return widths;
+}
+
+/// Draws with DT_MODIFYSTRING, by which a text that was shortened for display comes back in the
+/// caller's buffer. That has room for four bytes more than the text.
+int DrawAndModify(HDC hDC, const AfxWideText& wide, LPSTR lpszString, LPRECT lpRect, UINT nFormat,
+                  LPDRAWTEXTPARAMS lpDTParams) {
+    constexpr int kMoreRoom = 4;
+    std::vector<WCHAR> text = Zeros<WCHAR>(wide.Length() + kMoreRoom + 1);
+    std::copy_n(wide.Get(), wide.Length(), text.begin());
+    const int nHeight = ::DrawTextExW(hDC, text.data(), wide.Length(), lpRect, nFormat, lpDTParams);
+    if (std::wcscmp(text.data(), wide.Get()) != 0) {
+        ::WideCharToMultiByte(CP_ACP, 0, text.data(), -1, lpszString, wide.Bytes() + kMoreRoom,
+                              nullptr, nullptr);
+    }
+    return nHeight;
+}
+
+/// The character of an 8-bit code: one byte, or lead byte and trail byte. 0 where it is none.
+WCHAR CharOfCode(UINT nCode) {
+    const char bytes[] = {static_cast<char>(nCode >> 8), static_cast<char>(nCode)};
+    const int nBytes = nCode > 0xFF ? 2 : 1;
+    WCHAR chars[2] = {};
+    return ::MultiByteToWideChar(CP_ACP, MB_ERR_INVALID_CHARS, bytes + 2 - nBytes, nBytes, chars,
+                                 2) == 1
+               ? chars[0]
+               : L'\0';
 }
 
 }  // namespace
 
+BOOL CDC::TextOut(int x, int y, LPCTSTR lpszString, int nCount) {
+    const AfxWideText wide(m_hDC, lpszString, nCount);
+    return wide.IsPlain() ? ::TextOutA(m_hDC, x, y, lpszString, nCount)
+                          : ::TextOutW(m_hDC, x, y, wide.Get(), wide.Length());
+}
+
+BOOL CDC::ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, LPCTSTR lpszString, UINT nCount,
+                     LPINT lpDxWidths) {
+    const bool bText = (nOptions & ETO_GLYPH_INDEX) == 0;
+    const AfxWideText wide(m_hDC, bText ? lpszString : nullptr, static_cast<int>(nCount));
+    if (wide.IsPlain()) {
+        return ::ExtTextOutA(m_hDC, x, y, nOptions, lpRect, lpszString, nCount, lpDxWidths);
+    }
+    const auto draw = [&](const INT* pWidths) {
+        return ::ExtTextOutW(m_hDC, x, y, nOptions, lpRect, wide.Get(),
+                             static_cast<UINT>(wide.Length()), pWidths);
+    };
+    return lpDxWidths == nullptr
+               ? draw(nullptr)
+               : draw(WidthsOfUnits(wide, lpDxWidths, nOptions & ETO_PDY ? 2 : 1).data());
+}
+
+CSize CDC::TabbedTextOut(int x, int y, LPCTSTR lpszString, int nCount, int nTabPositions,
+                         LPINT lpnTabStopPositions, int nTabOrigin) {
+    const AfxWideText wide(m_hDC, lpszString, nCount);
+    const LONG lSize = wide.IsPlain()
+                           ? ::TabbedTextOutA(m_hDC, x, y, lpszString, nCount, nTabPositions,
+                                              lpnTabStopPositions, nTabOrigin)
+                           : ::TabbedTextOutW(m_hDC, x, y, wide.Get(), wide.Length(), nTabPositions,
+                                              lpnTabStopPositions, nTabOrigin);
+    return CSize(static_cast<DWORD>(lSize));
+}
+
+int CDC::DrawText(LPCTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat) {
+    const AfxWideText wide(m_hDC, lpszString, nCount);
+    if (wide.IsPlain()) {
+        return ::DrawTextA(m_hDC, lpszString, nCount, lpRect, nFormat);
+    }
+    return nFormat & DT_MODIFYSTRING
+               ? DrawAndModify(m_hDC, wide, const_cast<LPSTR>(lpszString), lpRect, nFormat, nullptr)
+               : ::DrawTextW(m_hDC, wide.Get(), wide.Length(), lpRect, nFormat);
+}
+int CDC::DrawText(const CString& str, LPRECT lpRect, UINT nFormat) {
+    return DrawText(str, str.GetLength(), lpRect, nFormat);
+}
+
+int CDC::DrawTextEx(LPTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat,
+                    LPDRAWTEXTPARAMS lpDTParams) {
+    const AfxWideText wide(m_hDC, lpszString, nCount);
+    if (wide.IsPlain()) {
+        return ::DrawTextExA(m_hDC, lpszString, nCount, lpRect, nFormat, lpDTParams);
+    }
+    const int nHeight = nFormat & DT_MODIFYSTRING
+                            ? DrawAndModify(m_hDC, wide, lpszString, lpRect, nFormat, lpDTParams)
+                            : ::DrawTextExW(m_hDC, const_cast<LPWSTR>(wide.Get()), wide.Length(),
+                                            lpRect, nFormat, lpDTParams);
+    if (lpDTParams != nullptr) {
+        lpDTParams->uiLengthDrawn =
+            static_cast<UINT>(wide.BytesOf(static_cast<int>(lpDTParams->uiLengthDrawn)));
+    }
+    return nHeight;
+}
+
 CSize CDC::GetTextExtent(LPCTSTR lpszString, int nCount) const {
-    return TextExtent(m_hAttribDC, lpszString, nCount);
+    return AfxTextExtent(m_hAttribDC, lpszString, nCount);
 }
 CSize CDC::GetOutputTextExtent(LPCTSTR lpszString, int nCount) const {
-    return TextExtent(m_hDC, lpszString, nCount);
+    return AfxTextExtent(m_hDC, lpszString, nCount);
 }
 CSize CDC::GetTabbedTextExtent(LPCTSTR lpszString, int nCount, int nTabPositions,
                                LPINT lpnTabStopPositions) const {
-    return CSize(static_cast<DWORD>(::GetTabbedTextExtent(m_hAttribDC, lpszString, nCount,
-                                                          nTabPositions, lpnTabStopPositions)));
+    const AfxWideText wide(m_hAttribDC, lpszString, nCount);
+    const DWORD dwSize = wide.IsPlain()
+                             ? ::GetTabbedTextExtentA(m_hAttribDC, lpszString, nCount,
+                                                      nTabPositions, lpnTabStopPositions)
+                             : ::GetTabbedTextExtentW(m_hAttribDC, wide.Get(), wide.Length(),
+                                                      nTabPositions, lpnTabStopPositions);
+    return CSize(dwSize);
 }
+
 BOOL CDC::GetTextExtentExPoint(LPCTSTR lpszString, int nCount, int nMaxExtent, LPINT lpnFit,
                                LPINT lpnDx, LPSIZE lpSize) const {
-    return ::GetTextExtentExPoint(m_hAttribDC, lpszString, nCount, nMaxExtent, lpnFit, lpnDx,
-                                  lpSize);
+    const AfxWideText wide(m_hAttribDC, lpszString, nCount);
+    if (wide.IsPlain()) {
+        return ::GetTextExtentExPointA(m_hAttribDC, lpszString, nCount, nMaxExtent, lpnFit, lpnDx,
+                                       lpSize);
+    }
+    int nFit = 0;
+    std::vector<int> extents = Zeros<int>(wide.Length());
+    if (!::GetTextExtentExPointW(m_hAttribDC, wide.Get(), wide.Length(), nMaxExtent,
+                                 lpnFit != nullptr ? &nFit : nullptr,
+                                 lpnDx != nullptr ? extents.data() : nullptr, lpSize)) {
+        return FALSE;
+    }
+    const int nGiven = lpnFit != nullptr ? nFit : wide.Length();
+    if (lpnFit != nullptr) {
+        *lpnFit = wide.BytesOf(nFit);
+    }
+    if (lpnDx != nullptr) {
+        // Each byte of a character reaches to where the character ends.
+        wide.ForEachChar([&](int nByte, int nBytes, int nUnit, int nUnits) {
+            if (nUnit + nUnits <= nGiven) {
+                std::fill_n(lpnDx + nByte, nBytes,
+                            extents[static_cast<size_t>(nUnit + nUnits - 1)]);
+            }
+        });
+    }
+    return TRUE;
 }
 BOOL CDC::GetTextMetrics(LPTEXTMETRIC p) const {
     return ::GetTextMetrics(m_hAttribDC, p);
@@ -241,7 +360,19 @@ int CDC::GetTextFace(CString& rString) const {
     return nResult;
 }
 BOOL CDC::GetCharWidth(UINT nFirstChar, UINT nLastChar, LPINT lpBuffer) const {
-    return ::GetCharWidth32(m_hAttribDC, nFirstChar, nLastChar, lpBuffer);
+    if (!::GetCharWidth32A(m_hAttribDC, nFirstChar, nLastChar, lpBuffer)) {
+        return FALSE;
+    }
+    if (::GetTextCharset(m_hAttribDC) == SYMBOL_CHARSET) {
+        return TRUE;
+    }
+    constexpr UINT kFirstBeyondAscii = 0x80;
+    for (UINT nCode = std::max(nFirstChar, kFirstBeyondAscii); nCode <= nLastChar; ++nCode) {
+        if (const WCHAR ch = CharOfCode(nCode)) {
+            ::GetCharWidth32W(m_hAttribDC, ch, ch, lpBuffer + (nCode - nFirstChar));
+        }
+    }
+    return TRUE;
 }
 
 // --- Print jobs

@@ -1,6 +1,7 @@
 #include "afxwin.h"
 
-#include <algorithm>
+#include <cstdio>
+#include <new>
 
 IMPLEMENT_DYNAMIC(CException, CObject)
 IMPLEMENT_DYNAMIC(CSimpleException, CException)
@@ -57,12 +58,13 @@ BOOL CSimpleException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT p
 
 CMemoryException::CMemoryException(BOOL bAutoDelete)
     : CSimpleException(bAutoDelete, "Out of memory.") {}
-CNotSupportedException::CNotSupportedException()
-    : CSimpleException(TRUE, "The operation is not supported.") {}
-CResourceException::CResourceException() : CSimpleException(TRUE, "A resource is not available.") {}
-CUserException::CUserException() : CSimpleException(TRUE, nullptr) {}
-CInvalidArgException::CInvalidArgException()
-    : CSimpleException(TRUE, "An argument is not valid.") {}
+CNotSupportedException::CNotSupportedException(BOOL bAutoDelete)
+    : CSimpleException(bAutoDelete, "The operation is not supported.") {}
+CResourceException::CResourceException(BOOL bAutoDelete)
+    : CSimpleException(bAutoDelete, "A resource is not available.") {}
+CUserException::CUserException(BOOL bAutoDelete) : CSimpleException(bAutoDelete, nullptr) {}
+CInvalidArgException::CInvalidArgException(BOOL bAutoDelete)
+    : CSimpleException(bAutoDelete, "An argument is not valid.") {}
 
 CFileException::CFileException(int cause, LONG lOsError, LPCTSTR lpszFileName)
     : m_cause(cause), m_lOsError(lOsError), m_strFileName(lpszFileName) {}
@@ -145,29 +147,45 @@ BOOL CFileException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnH
                                            "The end of %s was passed"};
     const int nMessages = static_cast<int>(std::size(kMessages));
     const int nMessage = m_cause >= 0 && m_cause < nMessages ? m_cause : genericException;
-    CString strMessage;
-    strMessage.Format(kMessages[nMessage],
-                      m_strFileName.IsEmpty() ? "a file" : static_cast<LPCTSTR>(m_strFileName));
-    return GiveMessage(strMessage, lpszError, nMaxError, pnHelpContext);
+    GiveMessage("", lpszError, nMaxError, pnHelpContext);
+    if (lpszError == nullptr || nMaxError == 0) {
+        return FALSE;
+    }
+    std::snprintf(lpszError, nMaxError, kMessages[nMessage],
+                  m_strFileName.IsEmpty() ? "a file" : static_cast<LPCTSTR>(m_strFileName));
+    return TRUE;
 }
 
-void AfxThrowMemoryException() {
-    // Making the exception must not need memory.
-    static CMemoryException s_exception(FALSE);
+namespace {
+
+// The simple exceptions are thrown where things are short already, so making them needs nothing.
+template <class Exception>
+[[noreturn]] void ThrowKept() {
+    static Exception s_exception(FALSE);
     throw &s_exception;
 }
+
+}  // namespace
+
+void AfxThrowMemoryException() {
+    ThrowKept<CMemoryException>();
+}
 void AfxThrowNotSupportedException() {
-    throw new CNotSupportedException;
+    ThrowKept<CNotSupportedException>();
 }
 void AfxThrowResourceException() {
-    throw new CResourceException;
+    ThrowKept<CResourceException>();
 }
 void AfxThrowUserException() {
-    throw new CUserException;
+    ThrowKept<CUserException>();
 }
 void AfxThrowInvalidArgException() {
-    throw new CInvalidArgException;
+    ThrowKept<CInvalidArgException>();
 }
 void AfxThrowFileException(int cause, LONG lOsError, LPCTSTR lpszFileName) {
-    throw new CFileException(cause, lOsError, lpszFileName);
+    auto* pException = new (std::nothrow) CFileException(cause, lOsError, lpszFileName);
+    if (pException == nullptr) {
+        AfxThrowMemoryException();
+    }
+    throw pException;
 }

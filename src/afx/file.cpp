@@ -283,7 +283,7 @@ BOOL CStdioFile::ReadString(CString& rString) {
     // A line may hold zeros, so its end is not the first one: behind it the filling is untouched.
     constexpr char kFilling = 1;
     char szPart[1024];
-    std::string strLine;
+    CString strLine;
     bool bRead = false;
     bool bEnd = false;
     while (!bEnd) {
@@ -297,9 +297,9 @@ BOOL CStdioFile::ReadString(CString& rString) {
             --nPart;
         }
         bEnd = nPart > 0 && szPart[nPart - 1] == '\n';
-        strLine.append(szPart, bEnd ? nPart - 1 : nPart);
+        strLine.Append(szPart, static_cast<int>(bEnd ? nPart - 1 : nPart));
     }
-    rString = CString(strLine.data(), static_cast<int>(strLine.size()));
+    rString = strLine;
     return bRead;
 }
 

@@ -72,7 +72,7 @@ HGDIOBJ CGdiObject::Detach() {
     const HGDIOBJ hObject = m_hObject;
     m_hObject = nullptr;
     if (hObject != nullptr && !m_bTemporary) {
-        AfxGdiMap::Get().RemoveHandle(hObject);
+        AfxGdiMap::Get().RemovePermanent(this);
         AfxCountOwnedHandle(-1);
     }
     return hObject;

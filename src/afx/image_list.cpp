@@ -61,11 +61,24 @@ BOOL CImageList::Attach(HIMAGELIST hImageList) {
 HIMAGELIST CImageList::Detach() {
     const HIMAGELIST hImageList = m_hImageList;
     if (hImageList != nullptr && !m_bTemporary) {
-        AfxImageListMap::Get().RemoveHandle(hImageList);
+        AfxImageListMap::Get().RemovePermanent(this);
         AfxCountOwnedHandle(-1);
     }
     m_hImageList = nullptr;
     return hImageList;
+}
+
+CImageList* AfxNewImageList(HIMAGELIST hImageList) {
+    if (hImageList == nullptr) {
+        return nullptr;
+    }
+    auto* pList = new (std::nothrow) CImageList;
+    if (pList == nullptr) {
+        ::ImageList_Destroy(hImageList);
+        AfxThrowMemoryException();
+    }
+    pList->Attach(hImageList);
+    return pList;
 }
 
 BOOL CImageList::DeleteImageList() {

@@ -59,7 +59,7 @@ BOOL CMenu::Attach(HMENU hMenu) {
 HMENU CMenu::Detach() {
     const HMENU hMenu = m_hMenu;
     if (hMenu != nullptr && !m_bTemporary) {
-        AfxMenuMap::Get().RemoveHandle(hMenu);
+        AfxMenuMap::Get().RemovePermanent(this);
     }
     m_hMenu = nullptr;
     return hMenu;

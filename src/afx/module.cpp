@@ -2,7 +2,7 @@
 
 #include "afx_cmdtarget.h"
 
-#include <memory>
+#include <cstdlib>
 
 IMPLEMENT_DYNAMIC(CDynLinkLibrary, CObject)
 
@@ -27,9 +27,71 @@ CDynLinkLibrary::CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL bSystem)
     AfxGetModuleState()->m_libraryList.AddHead(this);
 }
 
+void* CDynLinkLibrary::operator new(size_t nBytes) noexcept {
+    return std::malloc(nBytes);
+}
+
+void* CDynLinkLibrary::operator new(size_t nBytes, const std::nothrow_t&) noexcept {
+    return std::malloc(nBytes);
+}
+
+void CDynLinkLibrary::operator delete(void* p) noexcept {
+    std::free(p);
+}
+
 CDynLinkLibrary::~CDynLinkLibrary() {
     AfxGetModuleState()->m_libraryList.Remove(this);
 }
+
+namespace {
+
+/// Where a module lies.
+class ModuleImage {
+public:
+    explicit ModuleImage(HMODULE hModule) : m_pBegin(reinterpret_cast<const BYTE*>(hModule)) {
+        const auto* pDos = reinterpret_cast<const IMAGE_DOS_HEADER*>(m_pBegin);
+        const auto* pNt = reinterpret_cast<const IMAGE_NT_HEADERS*>(m_pBegin + pDos->e_lfanew);
+        m_nBytes = pNt->OptionalHeader.SizeOfImage;
+    }
+    bool Holds(const void* p) const { return p >= m_pBegin && p < m_pBegin + m_nBytes; }
+
+private:
+    const BYTE* m_pBegin;
+    size_t m_nBytes;
+};
+
+/// Takes the records that lie in an image out of a list, and gives them as a list of their own, in
+/// the same order.
+template <class Element, Element* Element::*pNext>
+Element* TakeOut(CTypedSimpleList<Element, pNext>& list, const ModuleImage& image) {
+    Element* pTaken = nullptr;
+    Element** ppTakenEnd = &pTaken;
+    for (Element** pp = &list.m_pHead; *pp != nullptr;) {
+        Element* p = *pp;
+        if (!image.Holds(p)) {
+            pp = &(p->*pNext);
+            continue;
+        }
+        *pp = p->*pNext;
+        p->*pNext = nullptr;
+        *ppTakenEnd = p;
+        ppTakenEnd = &(p->*pNext);
+    }
+    return pTaken;
+}
+
+/// Puts what was parked behind a list's elements.
+template <class Element, Element* Element::*pNext>
+void PutBack(CTypedSimpleList<Element, pNext>& list, Element*& pParked) {
+    Element** pp = &list.m_pHead;
+    while (*pp != nullptr) {
+        pp = &((*pp)->*pNext);
+    }
+    *pp = pParked;
+    pParked = nullptr;
+}
+
+}  // namespace
 
 BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HINSTANCE hInstance) {
     if (state.bInitialized) {
@@ -41,12 +103,13 @@ BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HINSTANCE hInstance) {
     AFX_MODULE_STATE* pState = AfxGetModuleState();
     state.bInitialized = TRUE;
     state.hModule = state.hResource = hInstance;
-    state.pFirstSharedClass = pState->m_classList.m_pHead;
-    state.pFirstSharedFactory = pState->m_factoryList.m_pHead;
-    pState->m_classList.m_pHead = pState->m_pClassInit;
-    pState->m_factoryList.m_pHead = pState->m_pFactoryInit;
-    pState->m_pClassInit = nullptr;
-    pState->m_pFactoryInit = nullptr;
+    // By place rather than by time: a module without a raw entry of its own registers straight into
+    // the lists of whoever loads it.
+    const ModuleImage image(hInstance);
+    state.pFirstSharedClass = TakeOut(pState->m_classList, image);
+    state.pFirstSharedFactory = TakeOut(pState->m_factoryList, image);
+    PutBack(pState->m_classList, pState->m_pClassInit);
+    PutBack(pState->m_factoryList, pState->m_pFactoryInit);
     return TRUE;
 }
 
@@ -62,6 +125,11 @@ void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL bAll) {
             delete pDll;
         }
     }
+    const ModuleImage image(state.hModule);
+    TakeOut(AfxGetModuleState()->m_classList, image);
+    TakeOut(AfxGetModuleState()->m_factoryList, image);
+    state.pFirstSharedClass = nullptr;
+    state.pFirstSharedFactory = nullptr;
     state.bInitialized = FALSE;
     AfxForgetMessageMaps();
 }

@@ -40,6 +40,9 @@ CObject* CRuntimeClass::CreateObject() {
         return m_pfnCreateObject();
     } catch (const std::bad_alloc&) {
         return nullptr;
+    } catch (CMemoryException* e) {
+        e->Delete();
+        return nullptr;
     }
 }
 
@@ -64,8 +67,12 @@ CObject* CRuntimeClass::CreateObject(LPCSTR lpszClassName) {
     return pClass != nullptr ? pClass->CreateObject() : nullptr;
 }
 
-AFX_CLASSINIT::AFX_CLASSINIT(CRuntimeClass* pNewClass) {
+AFX_CLASSINIT::AFX_CLASSINIT(CRuntimeClass* pNewClass) : m_pClass(pNewClass) {
     AfxGetModuleState()->m_classList.AddHead(pNewClass);
+}
+
+AFX_CLASSINIT::~AFX_CLASSINIT() {
+    AfxGetModuleState()->m_classList.Remove(m_pClass);
 }
 
 CObject* AfxDynamicDownCast(CRuntimeClass* pClass, CObject* pObject) {

@@ -4,6 +4,7 @@
 #include <mbstring.h>
 
 #include <algorithm>
+#include <climits>
 #include <new>
 
 namespace {
@@ -18,6 +19,9 @@ EmptyString& Nothing() {
     static EmptyString s_empty;
     return s_empty;
 }
+
+// Lengths are int, and header and terminator come on top.
+constexpr int kMostBytes = INT_MAX - 64;
 
 int Length(LPCSTR lpsz) {
     return lpsz != nullptr ? static_cast<int>(std::strlen(lpsz)) : 0;
@@ -176,11 +180,12 @@ CString& CString::operator=(LPCWSTR lpsz) {
     const int nBytes =
         lpsz != nullptr ? ::WideCharToMultiByte(CP_ACP, 0, lpsz, -1, nullptr, 0, nullptr, nullptr)
                         : 0;
-    Release();
+    CString strNew;
     if (nBytes > 1) {
-        Allocate(nBytes - 1);
-        ::WideCharToMultiByte(CP_ACP, 0, lpsz, -1, m_pchData, nBytes, nullptr, nullptr);
+        strNew.Allocate(nBytes - 1);
+        ::WideCharToMultiByte(CP_ACP, 0, lpsz, -1, strNew.m_pchData, nBytes, nullptr, nullptr);
     }
+    std::swap(m_pchData, strNew.m_pchData);
     return *this;
 }
 
@@ -191,9 +196,12 @@ void CString::Append(LPCSTR lpch, int nLength) {
     const int nOld = GetLength();
     const ptrdiff_t nInside = lpch - m_pchData;  // the source may be a part of this string
     const bool bInside = nInside >= 0 && nInside <= nOld;
+    if (nLength > kMostBytes - nOld) {
+        AfxThrowMemoryException();
+    }
     const int nNew = nOld + nLength;
     if (Data()->nRefs != 1 || Data()->nAllocLength < nNew) {
-        MakeUnique(std::max(nNew, nOld + nOld / 2));
+        MakeUnique(std::max(nNew, nOld + std::min(nOld / 2, kMostBytes - nOld)));
     }
     if (bInside) {
         lpch = m_pchData + nInside;

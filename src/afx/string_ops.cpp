@@ -1,5 +1,6 @@
 // CString's operations on text: comparing, searching, cutting, changing, formatting.
 #include "afx.h"
+#include "afx_wide_text.h"
 #include "afxdll_.h"
 
 #include <mbctype.h>
@@ -13,9 +14,10 @@ const unsigned char* Mb(LPCSTR psz) {
     return reinterpret_cast<const unsigned char*>(psz);
 }
 
-// Behind the character at psz, which is not the terminator; a lead byte alone counts as one.
+// Behind the character at psz, which is not the terminator. No character reaches beyond one.
 LPCSTR NextChar(LPCSTR psz) {
-    return psz + (::IsDBCSLeadByte(static_cast<BYTE>(psz[0])) && psz[1] != 0 ? 2 : 1);
+    constexpr int kLongestChar = 4;
+    return psz + AfxCharBytes(psz, kLongestChar);
 }
 
 // True if the character at psz is in the set.
@@ -255,8 +257,16 @@ int CString::Find(LPCSTR lpszSub, int nStart) const {
     if (nStart < 0 || nStart > GetLength() || lpszSub == nullptr) {
         return -1;
     }
-    const auto* pFound = _mbsstr(Mb(m_pchData + nStart), Mb(lpszSub));
-    return pFound != nullptr ? static_cast<int>(pFound - Mb(m_pchData)) : -1;
+    // Not every run-time library's _mbsstr leaves the inside of characters alone.
+    const size_t nSub = std::strlen(lpszSub);
+    LPCSTR p = m_pchData + nStart;
+    while (std::strncmp(p, lpszSub, nSub) != 0) {
+        if (*p == 0) {
+            return -1;
+        }
+        p = NextChar(p);
+    }
+    return static_cast<int>(p - m_pchData);
 }
 
 int CString::ReverseFind(char ch) const {
@@ -319,13 +329,13 @@ BOOL CString::LoadString(HINSTANCE hInstance, UINT nID) {
     const int nWide = ::LoadStringW(hInstance, nID, reinterpret_cast<LPWSTR>(&pwsz), 0);
     const int nBytes =
         nWide > 0 ? ::WideCharToMultiByte(CP_ACP, 0, pwsz, nWide, nullptr, 0, nullptr, nullptr) : 0;
-    Release();
-    if (nBytes == 0) {
-        return FALSE;
+    CString strNew;
+    if (nBytes > 0) {
+        strNew.Allocate(nBytes);
+        ::WideCharToMultiByte(CP_ACP, 0, pwsz, nWide, strNew.m_pchData, nBytes, nullptr, nullptr);
     }
-    Allocate(nBytes);
-    ::WideCharToMultiByte(CP_ACP, 0, pwsz, nWide, m_pchData, nBytes, nullptr, nullptr);
-    return TRUE;
+    std::swap(m_pchData, strNew.m_pchData);
+    return nBytes > 0;
 }
 
 BSTR CString::AllocSysString() const {

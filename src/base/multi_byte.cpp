@@ -40,13 +40,17 @@ std::uint32_t FoldCodePoint(std::uint32_t c) {
     return c;
 }
 
+// Bytes of the sequence that first announces.
+std::size_t Utf8Announced(unsigned char first) {
+    return first >= 0xF0 && first < 0xF8   ? 4
+           : first >= 0xE0 && first < 0xF0 ? 3
+           : first >= 0xC2 && first < 0xE0 ? 2
+                                           : 1;
+}
+
 // Bytes of a well-formed sequence of at most nMost bytes, or 1 for a byte that starts none.
 std::size_t Utf8Bytes(const char* p, std::size_t nMost) {
-    const auto first = static_cast<unsigned char>(p[0]);
-    const std::size_t nBytes = first >= 0xF0 && first < 0xF8   ? 4
-                               : first >= 0xE0 && first < 0xF0 ? 3
-                               : first >= 0xC2 && first < 0xE0 ? 2
-                                                               : 1;
+    const std::size_t nBytes = Utf8Announced(static_cast<unsigned char>(p[0]));
     for (std::size_t i = 1; i < nBytes; ++i) {
         if (i == nMost || (static_cast<unsigned char>(p[i]) & 0xC0) != 0x80) {
             return 1;
@@ -101,6 +105,10 @@ std::size_t MultiByte::CharBytes(const char* p, std::size_t nMost) const {
             break;
     }
     return 1;
+}
+
+bool MultiByte::CanLead(unsigned char byte) const {
+    return m_kind == Kind::Utf8 ? Utf8Announced(byte) > 1 : m_lead[byte];
 }
 
 std::size_t MultiByte::PrefixBytes(const char* psz, std::size_t nMost) const {

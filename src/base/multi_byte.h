@@ -40,6 +40,9 @@ public:
     // Bytes of the first character, 0 for an empty text. A null is a character of its own.
     std::size_t CharBytes(std::string_view text) const;
 
+    // True for a byte that begins a character of several bytes if the right ones follow it.
+    bool CanLead(unsigned char byte) const;
+
     // Bytes of the longest start of psz that has at most nMost bytes and splits no character.
     std::size_t PrefixBytes(const char* psz, std::size_t nMost) const;
 

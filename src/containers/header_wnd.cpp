@@ -2,6 +2,7 @@
 
 #include "frame/ancestor_font.h"
 #include "frame/select_object.h"
+#include "frame/text_out.h"
 #include "frame/wnd_port.h"
 
 IMPLEMENT_DYNCREATE(QVHeaderWnd, CWnd)
@@ -90,7 +91,7 @@ void QVHeaderWnd::CalcHeaderTextRect(CRect& rect) {
     const qv::SelectGuard<CFont> font(dc, m_hHeaderFont);
     TEXTMETRIC metrics{};
     dc.GetTextMetrics(&metrics);
-    const CSize size = dc.GetTextExtent(m_strHeaderText);
+    const CSize size = qv::TextExtent(dc, qv::View(m_strHeaderText));
     rect = qv::ToCRect(Layout().Caption(metrics.tmHeight, size.cx));
 }
 
@@ -143,7 +144,8 @@ void QVHeaderWnd::DrawHeader(CDC& dc, CRect& rect) {
     dc.SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
     dc.SetBkColor(::GetSysColor(COLOR_BTNFACE));
     const qv::SelectGuard<CFont> font(dc, m_hHeaderFont);
-    dc.DrawText(m_strHeaderText, &rect, DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
+    qv::DrawTextIn(dc, qv::View(m_strHeaderText), rect,
+                   DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
 }
 
 // --- The inner control

@@ -4,6 +4,7 @@
 
 #include "frame/core/styled_text.h"
 #include "frame/select_object.h"
+#include "frame/text_out.h"
 #include "frame/wnd_port.h"
 #include "grid/grid_editors.h"
 
@@ -16,6 +17,8 @@ constexpr int kTextRoom = 6;  // beside a column's widest text, in pixels
 IMPLEMENT_DYNCREATE(QVGridCtrl, QVCustCtrl)
 
 BEGIN_MESSAGE_MAP(QVGridCtrl, QVCustCtrl)
+    ON_WM_PAINT()
+    ON_WM_SIZE()
     ON_WM_VSCROLL()
     ON_MESSAGE(WM_SETREDRAW, OnSetRedraw)
     ON_MESSAGE(WM_GETFONT, OnGetFont)
@@ -30,13 +33,15 @@ BEGIN_MESSAGE_MAP(QVGridCtrl, QVCustCtrl)
     ON_WM_KILLFOCUS()
     ON_WM_KEYDOWN()
     ON_WM_SYSKEYDOWN()
+    ON_WM_CHAR()
     ON_WM_DESTROY()
     ON_EN_CHANGE(kGridEditId, OnChangeEditText)
 END_MESSAGE_MAP()
 
 // --- Life
 
-QVGridCtrl::QVGridCtrl() : m_pAlive(std::make_shared<bool>(true)) {
+QVGridCtrl::QVGridCtrl()
+    : m_pPort(std::make_unique<qv::WndPort>(*this)), m_pAlive(std::make_shared<bool>(true)) {
     m_si.cbSize = sizeof(m_si);
     m_si.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
 }
@@ -65,6 +70,9 @@ void QVGridCtrl::RegisterDlgControlClass(UINT nDialogID) {
 void QVGridCtrl::OnDestroy() {
     // An edit that goes may hand its focus to the grid, which must not open another one.
     m_bIgnoreFocus = TRUE;
+    if (EditUp()) {
+        KeepTypedText();  // the store lives on
+    }
     QVCustCtrl::OnDestroy();
     m_bEditing = m_bBtnDown = FALSE;
     m_pEdit.reset();
@@ -101,6 +109,7 @@ void QVGridCtrl::SetColWidth(int nCol, int nWidth) {
     if (_QVGRID_COL_INFO* pColumn = m_model.Column(nCol)) {
         pColumn->nWidth = nWidth;
         InvalidateAll();
+        PlaceEditors();
     }
 }
 
@@ -158,7 +167,7 @@ int QVGridCtrl::SizeToStrings(int nCol, const CStringArray& strings, int nMinWid
     const int nRoom = kTextRoom + (UseFieldButton(nCol) ? m_nCellHeight : 0);
     int nWidth = std::max(-1, nMinWidth);
     for (INT_PTR i = 0; i < strings.GetSize(); ++i) {
-        const int nText = static_cast<int>(dc.GetTextExtent(strings.ElementAt(i)).cx);
+        const int nText = static_cast<int>(qv::TextExtent(dc, qv::View(strings.ElementAt(i))).cx);
         nWidth = std::max(nWidth, nText + nRoom);
     }
     SetColWidth(nCol, nWidth);
@@ -174,6 +183,9 @@ int QVGridCtrl::AddRow(const CString& strRow, DWORD dwState) {
     const int nRow = m_model.AddRow({strRow, static_cast<size_t>(strRow.GetLength())}, dwState);
     if (CanRepaint()) {
         CalcScrollBars();
+        if (m_bShowAddedRows) {
+            InvalidateRow(nRow, FALSE);
+        }
     }
     return nRow;
 }
@@ -388,12 +400,42 @@ void QVGridCtrl::CalcScrollBars() {
         m_si.nPos = m_nTopRow;
         m_si.nMin = 0;
         m_si.nMax = NumRows() - 1;
-        SetScrollInfo(SB_VERT, &m_si, TRUE);
+        // Drawn with the next paint, if one is due: each of many added rows would draw it else.
+        m_pPort->SetScrollRange(SB_VERT, {m_si.nMin, m_si.nMax, nVisible, m_si.nPos});
     }
     if (bHasBar != bNeed) {
+        m_bShowingBar = true;
         ShowScrollBar(SB_VERT, bNeed);
+        m_bShowingBar = false;
     }
     InvalidateAll();
+}
+
+// To a client area or a font of another height: no empty space under the last row while there are
+// rows above the first.
+void QVGridCtrl::RefitRows() {
+    const int nLastTop = std::max(NumRows() - Layout().VisibleRows(), 0);
+    if (m_nTopRow > nLastTop) {
+        m_nTopRow = nLastTop;
+        InvalidateAll();
+    }
+    CalcScrollBars();
+}
+
+// Before the first paint there is no font to fit anything to.
+void QVGridCtrl::OnSize(UINT nType, int cx, int cy) {
+    QVCustCtrl::OnSize(nType, cx, cy);
+    if (m_nCellHeight == -1 || !m_bRedraw) {
+        return;  // the next paint measures and fits
+    }
+    if (!m_bShowingBar) {
+        RefitRows();
+    }
+    InvalidateAll();  // the last column reaches the edge
+    PlaceEditors();
+    if (!m_bShowingBar) {
+        CloseListOutOfView();
+    }
 }
 
 // Moves the window's pixels to a new top row, and paints what comes into view.
@@ -412,6 +454,8 @@ void QVGridCtrl::ShowTopRow(int nTop) {
     GetClientRect(&rcClient);
     ScrollWindowEx(0, (nOld - nTop) * m_nCellHeight, nullptr, &rcClient, nullptr, nullptr,
                    SW_INVALIDATE | SW_ERASE);
+    PlaceEditors();
+    CloseListOutOfView();
 }
 
 void QVGridCtrl::ScrollDown(int nRows) {

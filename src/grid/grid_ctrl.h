@@ -32,6 +32,10 @@
 class QVGridEdit;
 class QVGridList;
 
+namespace qv {
+class WndPort;
+}
+
 class QV_CONTROLS_API QVGridCtrl : public QVCustCtrl {
     DECLARE_DYNCREATE(QVGridCtrl)
 
@@ -64,6 +68,9 @@ public:
 
     // --- Rows
 
+    // Whether an added row is painted by itself. Off, it shows with the next paint of its place, or
+    // as the scroll bar moves; that is how it has always been.
+    void SetShowAddedRows(BOOL bShow) { m_bShowAddedRows = bShow; }
     // A row of TAB-separated texts; gives its index. dwState is normally 0.
     int AddRow(const CString& strRow, DWORD dwState);
     int AddRow(UINT nStringID, DWORD dwState);
@@ -87,6 +94,9 @@ public:
     BOOL IsCellEnabled(int nRow, int nCol) const;
     void SetCellReadOnly(int nRow, int nCol, BOOL bReadOnly);
     BOOL IsCellReadOnly(int nRow, int nCol) const;
+    // Whether a drop-list cell that is read-only by itself stays closed, tells nothing and shows no
+    // button. Off, it opens like any other; that is how it has always been.
+    void SetLockReadOnlyLists(BOOL bLock) { m_bLockReadOnlyLists = bLock; }
     // Of the whole grid. Neither repaints nor closes an editor. An edit column still opens as the
     // grid gets the focus; that is how it has always been.
     void SetReadOnly(BOOL bReadOnly) { m_bReadOnly = bReadOnly; }
@@ -98,6 +108,10 @@ public:
     void EnsureRowVisible(int nRow);
     // Shows choices for the current cell.
     void PopupList(CStringArray& strings);
+    // How many lines of a list show at most; the list scrolls to the others, and keeps to the
+    // screen. 0 is no limit: as tall as its choices, wherever that ends, as it has always been. For
+    // the next list that opens.
+    void SetMaxListLines(int nLines) { m_nMaxListLines = nLines; }
 
 protected:
     friend class QVGridEdit;
@@ -136,6 +150,8 @@ protected:
     void SaveListBox();
     void TogglePopupList();
 
+    afx_msg void OnPaint();
+    afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnVScroll(UINT nCode, UINT nPos, CScrollBar* pBar);
     afx_msg LRESULT OnSetRedraw(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnGetFont(WPARAM wParam, LPARAM lParam);
@@ -150,6 +166,7 @@ protected:
     afx_msg void OnKillFocus(CWnd* pNewWnd);
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnSysKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnChangeEditText();
     afx_msg void OnDestroy();
     DECLARE_MESSAGE_MAP()
@@ -176,13 +193,22 @@ private:
 
     qv::GridLayout Layout();
     void MeasureRows();  // if that is due
+    void RefitRows();
     bool CanRepaint() const { return m_bRedraw && m_hWnd != nullptr; }
     void InvalidateAll();
     void ShowTopRow(int nTop);
+    bool RowShows(int nRow);
+    void PlaceEdit();
+    void PlaceList();
+    void PlaceEditors();
+    void CloseListOutOfView();
     bool IsCurrent(int nRow, int nCol) const { return nRow == m_nCurRow && nCol == m_nCurCol; }
     bool EditUp() const;
     bool ListUp() const;
+    bool IsLockedList(int nRow, int nCol) const;
     void MoveRowMark(int nRow);
+    bool LedElsewhere(unsigned nMove, int nRow, int nCol) const;
+    void KeepTypedText();
     void SaveEditors();
     void DropEditors(int nRow, int nCol);
     void PressButton(bool bPressed);
@@ -191,7 +217,12 @@ private:
     bool OwnKey(UINT nChar);
 
     qv::GridModel m_model;
-    qv::GridCell m_editCell;   // that the edit was opened for
+    std::unique_ptr<qv::WndPort> m_pPort;
+    qv::GridCell m_editCell;  // that the edit was opened for
+    BOOL m_bShowAddedRows = FALSE;
+    BOOL m_bLockReadOnlyLists = FALSE;
+    int m_nMaxListLines = 0;
+    bool m_bShowingBar = false;
     unsigned m_nMoves = 0;     // of the current cell
     unsigned m_nOpenings = 0;  // of the edit
     std::unique_ptr<QVGridEdit> m_pEdit;

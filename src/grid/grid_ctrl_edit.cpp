@@ -43,6 +43,10 @@ bool QVGridCtrl::ListUp() const {
            (m_pList->GetStyle() & WS_VISIBLE) != 0;
 }
 
+bool QVGridCtrl::IsLockedList(int nRow, int nCol) const {
+    return m_bLockReadOnlyLists && GetColType(nCol) == gctDropList && IsCellReadOnly(nRow, nCol);
+}
+
 // The parent answers at once; it may change or destroy anything of the grid.
 void QVGridCtrl::NotifyParent(UINT nCode) {
     if (CWnd* pParent = GetParent()) {
@@ -94,6 +98,12 @@ void QVGridCtrl::GotoCell(int nRow, int nCol, BOOL bActivate) {
     InvalidateRow(nRow, FALSE);
 }
 
+// Whether the parent, being told of something, has taken the row away or made another cell current
+// since the current cell had been moved nMove times.
+bool QVGridCtrl::LedElsewhere(unsigned nMove, int nRow, int nCol) const {
+    return !IsValidRow(nRow) || (nMove != m_nMoves && !IsCurrent(nRow, nCol));
+}
+
 void QVGridCtrl::ActivateCell(int nRow, int nCol) {
     if (m_hWnd == nullptr || (IsCurrent(nRow, nCol) && m_bEditing)) {
         return;
@@ -103,10 +113,11 @@ void QVGridCtrl::ActivateCell(int nRow, int nCol) {
         return;
     }
     const Watch watch(*this);
+    const unsigned nMove = m_nMoves;
     if (ListUp()) {
         SaveListBox();
     }
-    if (!watch || !IsValidRow(nRow)) {
+    if (!watch || LedElsewhere(nMove, nRow, nCol)) {
         return;
     }
     const IgnoreFocus ignore(m_bIgnoreFocus, m_pAlive);
@@ -127,11 +138,6 @@ void QVGridCtrl::ActivateCell(int nRow, int nCol) {
     } else {
         m_pEdit->ShowWindow(SW_HIDE);
     }
-    CRect rcCell(0, 0, 0, 0);
-    CalcCellRect(nRow, nCol, rcCell);
-    const CRect rcEdit = qv::ToCRect(qv::GridEditRect(
-        qv::ToRect(rcCell), GetColType(nCol) == gctEditButton ? m_nCellHeight : 0));
-    m_pEdit->MoveWindow(&rcEdit, TRUE);
     // The parent hears of the new text, and may change the cell or take the ground away. A text
     // that it changed must not come back when the edit is saved.
     const auto text = [&] {
@@ -144,10 +150,13 @@ void QVGridCtrl::ActivateCell(int nRow, int nCol) {
     for (int nTry = 0; nTry == 0 || (nTry == 1 && strShown != text()); ++nTry) {
         strShown = text();
         m_pEdit->SetWindowText(strShown);
-        if (!watch || m_pEdit == nullptr || !IsValidRow(nRow) || nOpening != m_nOpenings) {
+        if (!watch || m_pEdit == nullptr || nOpening != m_nOpenings ||
+            LedElsewhere(nMove, nRow, nCol)) {
             return;
         }
     }
+    m_editCell = {nRow, nCol};  // the rows may be other ones now, and lie elsewhere
+    PlaceEdit();
     m_pEdit->SendMessage(EM_SETSEL, 0, -1);
     m_pEdit->SendMessage(EM_SCROLLCARET);
     m_pEdit->ShowWindow(SW_SHOW);
@@ -178,17 +187,20 @@ void QVGridCtrl::HideEditCtrl() {
     m_bEditing = FALSE;
 }
 
-void QVGridCtrl::SaveEditCtrl() {
-    if (!EditUp()) {
-        return;
-    }
+// Not through the public SetCellText, which would write the text into the edit again. To the cell
+// that it was opened for, wherever the current cell has gone meanwhile.
+void QVGridCtrl::KeepTypedText() {
     CString strText;
     m_pEdit->GetWindowText(strText);
-    // Not through the public SetCellText, which would write the text into the edit again. To the
-    // cell that it was opened for, wherever the current cell has gone meanwhile.
     m_model.SetText(m_editCell.nRow, m_editCell.nCol,
                     {strText, static_cast<size_t>(strText.GetLength())});
-    HideEditCtrl();
+}
+
+void QVGridCtrl::SaveEditCtrl() {
+    if (EditUp()) {
+        KeepTypedText();
+        HideEditCtrl();
+    }
 }
 
 void QVGridCtrl::SaveEditors() {
@@ -215,6 +227,7 @@ void QVGridCtrl::HideListBox() {
     if (m_pList == nullptr || m_pList->m_hWnd == nullptr) {
         return;
     }
+    m_pList->Follow(false);
     if (::GetCapture() == m_pList->m_hWnd) {
         ::ReleaseCapture();
     }
@@ -254,7 +267,9 @@ void QVGridCtrl::PopupList(CStringArray& strings) {
     MeasureRows();
     if (m_pList == nullptr) {
         m_pList = std::make_unique<QVGridList>(*this);
-        m_pList->CreateEx(0, "LISTBOX", nullptr, WS_POPUP | WS_BORDER, CRect(0, 0, 0, 0), this, 0);
+        // The bar shows in a list that is limited in height alone.
+        m_pList->CreateEx(0, "LISTBOX", nullptr, WS_POPUP | WS_BORDER | WS_VSCROLL,
+                          CRect(0, 0, 0, 0), this, 0);
         if (m_pList->m_hWnd == nullptr) {
             m_pList.reset();
             return;
@@ -268,20 +283,15 @@ void QVGridCtrl::PopupList(CStringArray& strings) {
     for (INT_PTR i = 0; i < strings.GetSize(); ++i) {
         m_pList->InsertString(-1, strings[i]);
     }
-    CRect rc(0, 0, 0, 0);
-    CalcCellRect(m_nCurRow, m_nCurCol, rc);
-    rc.right -= 1;
-    rc.top = rc.bottom - 1;  // over the cell's lower line
-    rc.bottom = rc.top + m_pList->GetItemHeight(0) * static_cast<int>(strings.GetSize()) + 2;
+    PlaceList();  // first: a selected line is scrolled to
     CString strCell;
     GetCellText(m_nCurRow, m_nCurCol, strCell);
     const int nLine = m_pList->FindStringExact(-1, strCell);
     if (nLine != LB_ERR) {
         m_pList->SetCurSel(nLine);
     }
-    ClientToScreen(&rc);
-    m_pList->MoveWindow(&rc, FALSE);
     m_pList->ShowWindow(SW_SHOWNA);
+    m_pList->Follow(true);
     m_bEditing = TRUE;
 }
 
@@ -332,7 +342,7 @@ void QVGridCtrl::OnLButtonDown(UINT, CPoint pt) {
         return;
     }
     InvalidateAll();
-    if (bDisabled || m_bReadOnly || !IsCurrent(nRow, nCol)) {
+    if (bDisabled || m_bReadOnly || !IsCurrent(nRow, nCol) || IsLockedList(nRow, nCol)) {
         return;
     }
     if (GetColType(nCol) == gctDropList) {
@@ -502,7 +512,11 @@ void QVGridCtrl::OnKeyDown(UINT nChar, UINT, UINT) {
         return;
     }
     const IgnoreFocus ignore(m_bIgnoreFocus, m_pAlive);
+    const unsigned nMove = m_nMoves;
     EnsureRowVisible(target.nRow);
+    if (!watch || nMove != m_nMoves) {
+        return;  // the parent was told of an open list's choice, and has led elsewhere
+    }
     GotoCell(target.nRow, target.nCol, FALSE);
     if (watch && IsCurrent(target.nRow, target.nCol) && m_model.UsesEdit(target.nCol) &&
         IsCellEnabled(target.nRow, target.nCol) && !m_bReadOnly) {
@@ -510,26 +524,51 @@ void QVGridCtrl::OnKeyDown(UINT nChar, UINT, UINT) {
     }
 }
 
+// A key that opened the edit has left its character behind for the grid. What is not to be seen
+// would only do harm there: it would act on a text that is selected as a whole.
+void QVGridCtrl::OnChar(UINT nChar, UINT nRepCnt, UINT nFlags) {
+    constexpr UINT kDelete = 0x7F;
+    if (nChar >= ' ' && nChar != kDelete && EditUp() && ::GetFocus() == m_pEdit->m_hWnd) {
+        m_pEdit->SendMessage(WM_CHAR, nChar, MAKELPARAM(nRepCnt, nFlags));
+    } else {
+        Default();
+    }
+}
+
 void QVGridCtrl::OnSysKeyDown(UINT nChar, UINT, UINT) {
-    const bool bOpens = nChar == VK_DOWN && IsValidRow(m_nCurRow) &&
-                        GetColType(m_nCurCol) == gctDropList &&
-                        IsCellEnabled(m_nCurRow, m_nCurCol) && !m_bReadOnly;
+    const bool bOpens =
+        nChar == VK_DOWN && IsValidRow(m_nCurRow) && GetColType(m_nCurCol) == gctDropList &&
+        IsCellEnabled(m_nCurRow, m_nCurCol) && !m_bReadOnly && !IsLockedList(m_nCurRow, m_nCurCol);
     if (!bOpens) {
         Default();
     } else if (m_bEditing) {
         SaveListBox();
     } else {
+        const Watch watch(*this);
         EnsureRowVisible(m_nCurRow);
-        TogglePopupList();
+        if (watch) {
+            TogglePopupList();
+        }
     }
 }
 
 // --- QVGridEdit
 
 BEGIN_MESSAGE_MAP(QVGridEdit, CEdit)
+    ON_WM_SETFOCUS()
     ON_WM_KILLFOCUS()
     ON_WM_KEYDOWN()
 END_MESSAGE_MAP()
+
+// A dialog that comes to the front again gives the focus back to the window that had it, hidden
+// meanwhile or not.
+void QVGridEdit::OnSetFocus(CWnd*) {
+    if (m_grid.EditUp()) {
+        Default();
+    } else {
+        m_grid.SetFocus();  // opens it again
+    }
+}
 
 void QVGridEdit::OnKillFocus(CWnd*) {
     const HWND hWnd = m_hWnd;
@@ -547,8 +586,9 @@ bool QVGridEdit::LeavesCell(UINT nChar) {
     int nStart;
     int nEnd;
     GetSel(nStart, nEnd);
-    return nStart == nEnd && ((nChar == VK_LEFT && nStart == 0) ||
-                              (nChar == VK_RIGHT && nStart == GetWindowTextLength()));
+    // In the units of the selection, which the bytes of the text are not everywhere.
+    return nStart == nEnd &&
+           ((nChar == VK_LEFT && nStart == 0) || (nChar == VK_RIGHT && nStart == LineLength(0)));
 }
 
 void QVGridEdit::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
@@ -562,6 +602,7 @@ void QVGridEdit::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
 // --- QVGridList
 
 BEGIN_MESSAGE_MAP(QVGridList, CListBox)
+    ON_WM_MOUSEACTIVATE()
     ON_WM_KILLFOCUS()
     ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONUP()
@@ -575,6 +616,10 @@ void QVGridList::OnKillFocus(CWnd*) {
     if (::IsWindow(hWnd)) {
         DefWindowProc(msg.message, msg.wParam, msg.lParam);
     }
+}
+
+int QVGridList::OnMouseActivate(CWnd*, UINT, UINT) {
+    return MA_NOACTIVATE;
 }
 
 // The choice is made by the release.

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "frame/select_object.h"
+#include "frame/text_out.h"
 #include "frame/wnd_port.h"
 #include "grid/grid_ctrl.h"
 #include "grid/grid_editors.h"
@@ -33,8 +34,14 @@ void QVGridCtrl::CalcCellHeight() {
 void QVGridCtrl::MeasureRows() {
     if (m_nCellHeight == -1) {
         CalcCellHeight();
-        CalcScrollBars();
+        RefitRows();
+        PlaceEditors();
     }
+}
+
+void QVGridCtrl::OnPaint() {
+    m_pPort->DrawBars();
+    QVCustCtrl::OnPaint();
 }
 
 void QVGridCtrl::Draw(CDC& dc, const CRect& rcClient) {
@@ -80,8 +87,8 @@ void QVGridCtrl::DrawRow(CDC& dc, int nRow, const CRect& rcRow, BOOL bFocus) {
             continue;
         }
         const bool bCurrent = IsCurrent(nRow, nCol);
-        const bool bButton =
-            bCurrent && UseFieldButton(nCol) && (dwStyle & GCS_DISABLED) == 0 && !m_bReadOnly;
+        const bool bButton = bCurrent && UseFieldButton(nCol) && (dwStyle & GCS_DISABLED) == 0 &&
+                             !m_bReadOnly && !IsLockedList(nRow, nCol);
         DrawCell(dc, rc, strText, dwStyle | (bCurrent && bFocus ? GCS_FOCUS : 0),
                  bButton ? m_nCellHeight : 0);
         if (bButton) {
@@ -100,7 +107,7 @@ void QVGridCtrl::DrawCell(CDC& dc, const CRect& rc, const CString& str, DWORD dw
         if ((dwStyle & GCS_DISABLED) != 0) {
             dc.SetTextColor(Sys(COLOR_GRAYTEXT));
         }
-        dc.DrawText(str, &rcText, kTextFlags);
+        qv::DrawTextIn(dc, qv::View(str), rcText, kTextFlags);
     }
     dc.MoveTo(rc.left, rc.bottom - 1);
     dc.LineTo(rc.right - 1, rc.bottom - 1);
@@ -137,7 +144,7 @@ void QVGridCtrl::DrawButton(CDC& dc, const CRect& rc, GridColType nType, BOOL bP
     rcDots.OffsetRect(bPressed ? 1 : 0, bPressed ? 0 : -1);
     dc.SetBkColor(Sys(COLOR_BTNFACE));
     dc.SetTextColor(Sys(COLOR_WINDOWTEXT));
-    dc.DrawText("...", 3, &rcDots, DT_CENTER | DT_SINGLELINE);
+    qv::DrawTextIn(dc, "...", rcDots, DT_CENTER | DT_SINGLELINE);
 }
 
 LRESULT QVGridCtrl::OnSetRedraw(WPARAM wParam, LPARAM) {

@@ -10,6 +10,7 @@
 #include "frame/module_state.h"
 #include "frame/mouse_wheel.h"
 #include "frame/select_object.h"
+#include "frame/text_out.h"
 #include "list/cell_format.h"
 #include "list/cut_text.h"
 #include "list/list_places.h"
@@ -307,7 +308,7 @@ int QVListCtrlEx::MakeColsFromString(CDC* pDC, const CString& strRow, int* pWidt
     int nCol = 0;
     std::string_view field;
     for (int nPos = 0; watch && qv::NextField(std::string_view(strRow), nPos, field); ++nCol) {
-        const CSize size = pDC->GetTextExtent(field.data(), static_cast<int>(field.size()));
+        const CSize size = qv::TextExtent(*pDC, field);
         SetColWidth(nCol, size.cx + qv::kColumnMargin, pWidths);
     }
     return nCol;
@@ -484,7 +485,7 @@ int QVListCtrlEx::CalculateItemWidth(CDC* pDC, int nItem) {
         return 0;  // also where the list is gone
     }
     const CString strText(ParseStyleText(strRow));
-    return m_nImageWidth + pDC->GetTextExtent(strText).cx + qv::kColumnMargin;
+    return m_nImageWidth + qv::TextExtent(*pDC, qv::View(strText)).cx + qv::kColumnMargin;
 }
 
 // --- Selection

@@ -2,6 +2,7 @@
 
 #include "frame/gets_done.h"
 #include "frame/select_object.h"
+#include "frame/text_out.h"
 #include "frame/wnd_port.h"
 #include "list/cell_format.h"
 #include "list/list_ctrl.h"
@@ -272,7 +273,7 @@ void QVListCtrlEx::OutputFormattedText(CDC* pDC, const CRect& rc, const CString&
         (!bSelected || (!HasFocus() && !ShowsSelAlways()))) {
         pDC->SetTextColor(m_aStyles[ParseStyle(strText)].crText);
     }
-    pDC->DrawText(ParseStyleText(strText), -1, &rcText, nFormat | kTextFlags);
+    qv::DrawTextIn(*pDC, ParseStyleText(strText), rcText, nFormat | kTextFlags);
 }
 
 BOOL QVListCtrlEx::FillEmptySpace(CDC* pDC) {

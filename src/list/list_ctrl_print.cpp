@@ -2,6 +2,7 @@
 
 #include "frame/gets_done.h"
 #include "frame/select_object.h"
+#include "frame/text_out.h"
 #include "list/list_ctrl.h"
 
 namespace {
@@ -44,12 +45,12 @@ int QVListCtrlEx::HeaderPrintHeight(CDC* pDC) {
         return m_nPrintHeaderHeight;
     }
     const qv::SelectGuard<CFont> font(*pDC, m_pPrintHeaderFont);
-    return HeaderBand(pDC->GetTextExtent("0", 1).cy);
+    return HeaderBand(qv::TextExtent(*pDC, "0").cy);
 }
 
 int QVListCtrlEx::CalculateItemHeight(CDC* pDC) {
     const qv::SelectGuard<CFont> font(*pDC, m_pPrintFont);
-    return pDC->GetTextExtent("0", 1).cy;
+    return qv::TextExtent(*pDC, "0").cy;
 }
 
 void QVListCtrlEx::ExcludeColumnFromPrinting(int nCol) {
@@ -111,7 +112,7 @@ void QVListCtrlEx::PrintHeadings(CDC* pDC, const CRect& rc) {
             rcCol.left = rcCol.right;
         }
     }
-    const int y = rc.top + RuleOffset(pDC->GetTextExtent(strHeaders).cy);
+    const int y = rc.top + RuleOffset(qv::TextExtent(*pDC, qv::View(strHeaders)).cy);
     pDC->MoveTo(rc.left, y);
     pDC->LineTo(rc.right, y);
 }

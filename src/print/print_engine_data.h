@@ -5,6 +5,8 @@
 // height. A row is whatever the item makes of it; an item without rows ignores row numbers.
 //
 // Heights and widths are in units of the device context that the engine was made for.
+//
+// A step may throw std::bad_alloc or CMemoryException; the engine catches both.
 
 #pragma once
 
@@ -37,8 +39,11 @@ public:
     // Printing would start at nFirst with nRemaining of the page left: sets nLast to the last row
     // that fits and takes the height used off nRemaining. True if that ends the item.
     virtual bool PrintSize(unsigned nFirst, unsigned& nLast, unsigned& nRemaining);
+    // False once memory did not suffice for a row that was added to it.
+    bool IsComplete() const { return m_bComplete; }
 
 protected:
+    void SetIncomplete() { m_bComplete = false; }
     void SetMinSize(unsigned nSize) { m_nMinSize = nSize; }
     void SetMaxSize(unsigned nSize) { m_nMaxSize = nSize; }
     CFont* HeaderFont() const { return m_pHeaderFont; }
@@ -53,4 +58,5 @@ private:
     unsigned m_nNormalFontHeight;
     unsigned m_nMinSize = 0;
     unsigned m_nMaxSize = 0;
+    bool m_bComplete = true;
 };

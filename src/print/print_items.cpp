@@ -1,13 +1,11 @@
 #include "print/print_items.h"
 
-#include <afxext.h>
-
 #include <algorithm>
 
 #include "frame/core/styled_text.h"
 #include "frame/module_state.h"
 #include "frame/select_object.h"
-#include "frame/wnd_port.h"
+#include "frame/text_out.h"
 #include "list/cell_format.h"
 #include "list/list_ctrl.h"
 #include "print/core/pagination.h"
@@ -73,7 +71,7 @@ void QVPeDataSectionHeader::Print(CDC* pDC, CRect& rect, unsigned, unsigned) {
     rcText.top += static_cast<LONG>(HeaderFontHeight());
     rcText.bottom = rcText.top + static_cast<LONG>(HeaderFontHeight());
     const qv::SelectGuard<CFont> font(*pDC, HeaderFont());
-    pDC->DrawText(m_strText, &rcText, kPrintLabelFlags);
+    qv::DrawTextIn(*pDC, qv::View(m_strText), rcText, kPrintLabelFlags);
     rect.top += static_cast<LONG>(MaxSize());
 }
 
@@ -89,7 +87,7 @@ void QVPeDataGroupHeader::Print(CDC* pDC, CRect& rect, unsigned, unsigned) {
     CRect rcText(rect);
     rcText.bottom = rcText.top + static_cast<LONG>(NormalFontHeight());
     const qv::SelectGuard<CFont> font(*pDC, NormalFont());
-    pDC->DrawText(m_strText, &rcText, kPrintLabelFlags);
+    qv::DrawTextIn(*pDC, qv::View(m_strText), rcText, kPrintLabelFlags);
     rect.top += static_cast<LONG>(MaxSize());
 }
 
@@ -98,7 +96,7 @@ void QVPeDataGroupHeader::Print(CDC* pDC, CRect& rect, unsigned, unsigned) {
 QVPeDataText::QVPeDataText(CDC* pDC, CFont* pFont)
     : QVPrintEngineData(nullptr, 0, pFont, 0), m_pDC(pDC) {
     const qv::SelectGuard<CFont> font(*pDC, pFont);
-    m_nLineHeight = static_cast<unsigned>(pDC->GetTextExtent("0", 1).cy);
+    m_nLineHeight = static_cast<unsigned>(qv::TextExtent(*pDC, "0").cy);
     SetMinSize(m_nLineHeight);
     SetMaxSize(m_nLineHeight);
 }
@@ -120,16 +118,17 @@ void QVPeDataText::CalcSize(unsigned nWidth) {
     const qv::SelectGuard<CFont> font(*m_pDC, NormalFont());
     qv::DcMeasure measure(*m_pDC);
     std::vector<std::string_view> lines;
-    m_aLines.RemoveAll();
+    std::vector<CString> aLines;
     for (INT_PTR i = 0; i < m_aSource.GetSize(); ++i) {
         const CString& strSource = m_aSource.ElementAt(i);
         lines.clear();
         qv::WrapLine({strSource, static_cast<size_t>(strSource.GetLength())}, nWidth, measure,
                      qv::ProcessText(), lines);
         for (const std::string_view line : lines) {
-            m_aLines.Add(CString(line.data(), static_cast<int>(line.size())));
+            aLines.emplace_back(line.data(), static_cast<int>(line.size()));
         }
     }
+    m_aLines.swap(aLines);
     m_bWrapped = true;
     m_nWidth = nWidth;
     SetMaxSize(m_nLineHeight * Count());
@@ -154,7 +153,7 @@ void QVPeDataText::PrintLines(CDC* pDC, unsigned nFirst, unsigned nLast, const C
     CRect rcLine(rect);
     for (unsigned n = 0; n < nRows && nFirst + n < nEnd; ++n) {
         rcLine.bottom = rcLine.top + static_cast<LONG>(m_nLineHeight);
-        pDC->DrawText(m_aLines[static_cast<INT_PTR>(nFirst + n)], &rcLine, kLineFlags);
+        qv::DrawTextIn(*pDC, qv::View(m_aLines[nFirst + n]), rcLine, kLineFlags);
         rcLine.top = rcLine.bottom;
     }
 }
@@ -165,18 +164,37 @@ QVPeDataListBase::QVPeDataListBase(CDC* pDC, QVListCtrlEx* pList, QVPeFont heade
     : QVPrintEngineData(header.pFont, header.nHeight, normal.pFont, normal.nHeight),
       m_pDC(pDC),
       m_pList(pList) {
-    CPrintInfo info;
-    pList->SetPrintFonts(NormalFont(), HeaderFont());
-    pList->BeginPrinting(pDC, &info);
-    if ((pList->GetStyle() & LVS_NOCOLUMNHEADER) == 0) {
-        m_nHeaderHeight = static_cast<unsigned>(pList->HeaderPrintHeight(pDC));
+    try {
+        BeginRun();
+    } catch (...) {
+        EndRun();  // no destructor will
+        throw;
     }
-    m_nItemHeight = static_cast<unsigned>(pList->CalculateItemHeight(pDC));
 }
 
 QVPeDataListBase::~QVPeDataListBase() {
+    EndRun();
+}
+
+void QVPeDataListBase::BeginRun() {
     CPrintInfo info;
-    m_pList->EndPrinting(m_pDC, &info);
+    m_pList->SetPrintFonts(NormalFont(), HeaderFont());
+    m_pList->BeginPrinting(m_pDC, &info);
+    if ((m_pList->GetStyle() & LVS_NOCOLUMNHEADER) == 0) {
+        m_nHeaderHeight = static_cast<unsigned>(m_pList->HeaderPrintHeight(m_pDC));
+    }
+    m_nItemHeight = static_cast<unsigned>(m_pList->CalculateItemHeight(m_pDC));
+}
+
+// Comes from the destructor and from a constructor that fails: nothing may be thrown, not even by a
+// list that replaces the step.
+void QVPeDataListBase::EndRun() noexcept {
+    try {
+        m_pList->EndPrinting(m_pDC, &m_infoForEnd);
+    } catch (CException* pException) {
+        pException->Delete();
+    } catch (...) {
+    }
 }
 
 void QVPeDataListBase::TakeSizes() {
@@ -258,8 +276,11 @@ void QVPeDataStringList::PrintRow(CDC* pDC, const CRect& rcRow, const CString& s
         }
         CRect rcText(rcCell);
         rcText.DeflateRect(qv::kCellMargin * static_cast<int>(m_nScale), 0);
-        const UINT nAlign = qv::CellDrawFormat(m_pList->GetColFormat(nCol));
-        pDC->DrawText(field.data(), static_cast<int>(field.size()), &rcText, kCellFlags | nAlign);
+        if (rcText.left < rcText.right) {
+            // Without width, centred and right-aligned text would stand beside its cell.
+            const UINT nAlign = qv::CellDrawFormat(m_pList->GetColFormat(nCol));
+            qv::DrawTextIn(*pDC, field, rcText, kCellFlags | nAlign);
+        }
         rcCell.left = rcCell.right;
     }
 }

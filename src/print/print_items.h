@@ -3,6 +3,10 @@
 
 #pragma once
 
+#include <afxext.h>
+
+#include <vector>
+
 #include "print/print_engine_data.h"
 
 class QVListCtrlEx;
@@ -55,11 +59,11 @@ protected:
 
 private:
     QVPeDataText(CDC* pDC, CFont* pFont);
-    unsigned Count() const { return static_cast<unsigned>(m_aLines.GetSize()); }
+    unsigned Count() const { return static_cast<unsigned>(m_aLines.size()); }
 
     CDC* m_pDC;
     CStringArray m_aSource;
-    CStringArray m_aLines;  // wrapped to m_nWidth
+    std::vector<CString> m_aLines;  // wrapped to m_nWidth
     bool m_bWrapped = false;
     unsigned m_nWidth = 0;
     unsigned m_nLineHeight = 0;
@@ -85,6 +89,12 @@ protected:
     QVListCtrlEx* m_pList;
     unsigned m_nHeaderHeight = 0;  // 0 for a list without headings
     unsigned m_nItemHeight = 0;
+
+private:
+    void BeginRun();
+    void EndRun() noexcept;
+
+    CPrintInfo m_infoForEnd;  // made in time: the end of a run must not need memory
 };
 
 class QVPeDataList : public QVPeDataListBase {

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "frame/out_of_memory.h"
 #include "frame/select_object.h"
+#include "frame/text_out.h"
 #include "print/core/pagination.h"
 #include "print/core/row_split.h"
 #include "print/print_items.h"
@@ -10,7 +12,7 @@
 namespace {
 
 constexpr int kIndentSpaces = 6;
-constexpr char kWidestNumber[] = "9,999,999";
+constexpr char kUsualNumber[] = "9,999,999";
 
 }  // namespace
 
@@ -28,8 +30,10 @@ QVPeDataLabeledListItem& QVPeDataLabeledListItem::operator=(const QVPeDataLabele
 
 void QVPeDataLabeledListItem::Set(const char* pszLabel, const char* pszData,
                                   Justification eJustification) {
-    m_strLabel = pszLabel;
-    m_strData = pszData;
+    const CString strLabel(pszLabel);
+    const CString strData(pszData);
+    m_strLabel = strLabel;
+    m_strData = strData;
     m_eJustification = eJustification;
 }
 
@@ -37,27 +41,62 @@ QVPeDataLabeledList::QVPeDataLabeledList(CDC* pDC, CFont* pHeaderFont, unsigned 
                                          CFont* pNormalFont, unsigned nNormalHeight)
     : QVPrintEngineData(pHeaderFont, nHeaderHeight, pNormalFont, nNormalHeight), m_pDC(pDC) {
     const qv::SelectGuard<CFont> font(*pDC, pNormalFont);
-    m_nSpace = static_cast<unsigned>(pDC->GetTextExtent("M", 1).cx);
+    m_nSpace = static_cast<unsigned>(qv::TextExtent(*pDC, "M").cx);
+}
+
+QVPeDataLabeledList::QVPeDataLabeledList(const QVPeDataLabeledList& other)
+    : QVPrintEngineData(other) {
+    *this = other;
+}
+
+QVPeDataLabeledList& QVPeDataLabeledList::operator=(const QVPeDataLabeledList& other) {
+    std::vector<QVPeDataLabeledListItem> items;
+    if (!qv::MemorySuffices([&] { items = other.m_Items; })) {
+        SetIncomplete();
+        return *this;
+    }
+    QVPrintEngineData::operator=(other);
+    m_Items.swap(items);
+    m_pDC = other.m_pDC;
+    m_nLabelWidth = other.m_nLabelWidth;
+    m_nDataOffset = other.m_nDataOffset;
+    m_nSpace = other.m_nSpace;
+    m_bIndented = other.m_bIndented;
+    m_bFitNumbers = other.m_bFitNumbers;
+    return *this;
 }
 
 void QVPeDataLabeledList::AddData(const char* pszLabel, const char* pszData,
                                   QVPeDataLabeledListItem::Justification eJustification) {
-    CheckLabelWidth(pszLabel);
-    QVPeDataLabeledListItem item;
-    item.Set(pszLabel, pszData, eJustification);
-    m_Items.push_back(item);
+    if (m_pDC == nullptr) {
+        return;
+    }
+    const size_t nRows = m_Items.size();
+    if (!qv::MemorySuffices([&] {
+            QVPeDataLabeledListItem item;
+            item.Set(pszLabel, pszData, eJustification);
+            m_Items.push_back(item);
+            CheckLabelWidth(pszLabel);
+        })) {
+        m_Items.resize(nRows);
+        SetIncomplete();
+    }
 }
 
 void QVPeDataLabeledList::AddData(unsigned nLabelID, const char* pszData,
                                   QVPeDataLabeledListItem::Justification eJustification) {
     CString strLabel;
-    strLabel.LoadString(nLabelID);
-    AddData(static_cast<const char*>(strLabel), pszData, eJustification);
+    if (qv::MemorySuffices([&] { strLabel.LoadString(nLabelID); })) {
+        AddData(static_cast<const char*>(strLabel), pszData, eJustification);
+    } else {
+        SetIncomplete();
+    }
 }
 
 void QVPeDataLabeledList::CheckLabelWidth(const char* pszLabel) {
     const qv::SelectGuard<CFont> font(*m_pDC, NormalFont());
-    const auto nWidth = static_cast<unsigned>(m_pDC->GetTextExtent(CString(pszLabel)).cx);
+    const auto nWidth =
+        static_cast<unsigned>(qv::TextExtent(*m_pDC, pszLabel != nullptr ? pszLabel : "").cx);
     if (nWidth > m_nLabelWidth) {
         m_nLabelWidth = nWidth;
         m_nDataOffset = nWidth + m_nSpace;
@@ -76,6 +115,18 @@ bool QVPeDataLabeledList::PrintSize(unsigned nFirst, unsigned& nLast, unsigned& 
     return qv::FitRows(Count(), 0, NormalFontHeight(), nFirst, nLast, nRemaining);
 }
 
+// Pixels of the column of numbers, in the font that is selected.
+int QVPeDataLabeledList::NumberWidth(CDC& dc) const {
+    int nWidth = static_cast<int>(qv::TextExtent(dc, kUsualNumber).cx);
+    for (const QVPeDataLabeledListItem& item : m_Items) {
+        if (m_bFitNumbers && item.Justified() != QVPeDataLabeledListItem::Left) {
+            nWidth =
+                std::max(nWidth, static_cast<int>(qv::TextExtent(dc, qv::View(item.Data())).cx));
+        }
+    }
+    return nWidth;
+}
+
 void QVPeDataLabeledList::Print(CDC* pDC, CRect& rect, unsigned nFirst, unsigned nLast) {
     const unsigned nEnd = nLast == qv::kToEnd ? Count() : std::min(nLast + 1, Count());
     if (nFirst >= nEnd) {
@@ -88,14 +139,14 @@ void QVPeDataLabeledList::Print(CDC* pDC, CRect& rect, unsigned nFirst, unsigned
     CRect rcData(rcLabel);
     rcData.left += static_cast<LONG>(m_nDataOffset);
     CRect rcNumber(rcData);
-    rcNumber.right = rcNumber.left + pDC->GetTextExtent(CString(kWidestNumber)).cx;
+    rcNumber.right = rcNumber.left + NumberWidth(*pDC);
     for (unsigned n = nFirst; n < nEnd; ++n) {
         const QVPeDataLabeledListItem& item = m_Items[n];
-        pDC->DrawText(item.Label(), &rcLabel, kPrintLabelFlags);
+        qv::DrawTextIn(*pDC, qv::View(item.Label()), rcLabel, kPrintLabelFlags);
         if (item.Justified() == QVPeDataLabeledListItem::Left) {
-            pDC->DrawText(item.Data(), &rcData, kPrintLabelFlags);
+            qv::DrawTextIn(*pDC, qv::View(item.Data()), rcData, kPrintLabelFlags);
         } else {
-            pDC->DrawText(item.Data(), &rcNumber, kPrintLabelFlags | DT_RIGHT);
+            qv::DrawTextIn(*pDC, qv::View(item.Data()), rcNumber, kPrintLabelFlags | DT_RIGHT);
         }
         for (CRect* pRect : {&rcLabel, &rcData, &rcNumber}) {
             pRect->OffsetRect(0, nHeight);

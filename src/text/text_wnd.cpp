@@ -6,6 +6,7 @@
 
 #include "frame/module_state.h"
 #include "frame/select_object.h"
+#include "frame/text_out.h"
 #include "text/text_wnd_measure.h"
 
 namespace {
@@ -15,10 +16,6 @@ namespace {
 std::vector<QVTextWnd*>& Windows() {
     static thread_local auto* pWindows = new std::vector<QVTextWnd*>;
     return *pWindows;
-}
-
-std::string_view View(const CString& str) {
-    return {str, static_cast<size_t>(str.GetLength())};
 }
 
 }  // namespace
@@ -40,7 +37,7 @@ END_MESSAGE_MAP()
 // --- Life
 
 QVTextWnd::QVTextWnd()
-    : m_crBk(::GetSysColor(COLOR_WINDOW)), m_pMeasure(std::make_unique<Measure>(*this)) {
+    : m_crBk(::GetSysColor(COLOR_WINDOW)), m_pMeasure(std::make_unique<Measure>()) {
     Windows().push_back(this);
 }
 
@@ -107,7 +104,7 @@ int QVTextWnd::Initialize(UINT nID, CWnd* pParent, int bBorder) {
     {
         CClientDC dc(this);
         const qv::SelectGuard<CFont> selected(dc, &font);
-        const CSize size = dc.GetTextExtent("O", 1);
+        const CSize size = qv::TextExtent(dc, "O");
         m_nCharWidth = size.cx;
         m_nCharHeight = size.cy;
     }
@@ -242,16 +239,7 @@ int QVTextWnd::CopyToClipboard() {
     append(kLineEnd);
     *pText = '\0';
     ::GlobalUnlock(hText);
-    bool bTaken = false;
-    if (OpenClipboard()) {
-        ::EmptyClipboard();
-        bTaken = ::SetClipboardData(CF_TEXT, hText) != nullptr;
-        ::CloseClipboard();
-    }
-    if (!bTaken) {
-        ::GlobalFree(hText);
-    }
-    return bTaken;
+    return qv::GiveToClipboard(*this, hText);
 }
 
 // --- Printing
@@ -260,7 +248,7 @@ void QVTextWnd::SplitTextLines(CDC* pDC, int nWidth, const CString& strText,
                                CArray<int, int>& aStarts) {
     qv::DcMeasure measure(*pDC);
     std::vector<int> starts;
-    qv::TextSplitter(measure).Split(View(strText), nWidth, starts);
+    qv::TextSplitter(measure).Split(qv::View(strText), nWidth, starts);
     aStarts.RemoveAll();
     for (const int nStart : starts) {
         aStarts.Add(nStart);
@@ -275,7 +263,7 @@ void QVTextWnd::FormatText(CDC* pDC, const CSize& sizeArea) {
     QVTextWnd* pPartner = m_pSyncWnd;
     ClearPrintData();
     SetPrintAreaSize(sizeArea);
-    const int nHeight = pDC->GetTextExtent(" ", 1).cy;
+    const int nHeight = qv::TextExtent(*pDC, " ").cy;
     SetLinesPerPage(nHeight > 0 ? sizeArea.cy / nHeight : 0);
     if (pPartner != nullptr) {
         pPartner->ClearPrintData();
@@ -307,7 +295,7 @@ template <class Read>
 int GiveRow(CDC* pDC, CString& strText, int& nStyle, int& nLine, Read read) {
     qv::DcMeasure measure(*pDC);
     qv::TextSplitter splitter(measure);
-    qv::PrintedRow row{std::string(View(strText)), nStyle, nLine};
+    qv::PrintedRow row{std::string(qv::View(strText)), nStyle, nLine};
     const bool bRow = read(splitter, row);
     strText = CString(row.strText.data(), static_cast<int>(row.strText.size()));
     nStyle = row.nStyle;

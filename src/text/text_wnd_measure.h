@@ -2,12 +2,12 @@
 
 #pragma once
 
-#include "frame/wnd_port.h"
+#include "frame/font_measure.h"
 #include "text/text_wnd.h"
 
 class QVTextWnd::Measure {
 public:
-    explicit Measure(CWnd& wnd) : font(wnd), splitter(font) {}
+    Measure() : splitter(font) {}
 
     qv::FontMeasure font;
     qv::TextSplitter splitter;

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "frame/select_object.h"
+#include "frame/text_out.h"
 #include "text/text_wnd.h"
 #include "text/text_wnd_measure.h"
 
@@ -236,8 +237,8 @@ void QVTextWnd::DrawPiece(CDC& dc, const CRect& rcRow, std::string_view text, si
     while (text.ends_with(' ')) {
         text.remove_suffix(1);
     }
-    const CSize size = dc.TabbedTextOut(rcRow.left, rcRow.top, text.data(),
-                                        static_cast<int>(text.size()), 1, &m_nTabStop, rcRow.left);
+    const CSize size = qv::DrawTabbedText(dc, rcRow.left, rcRow.top, text, m_nTabStop,
+                                          static_cast<int>(rcRow.left));
     CRect rcRest(rcRow);
     rcRest.left += static_cast<short>(size.cx);
     FillRow(dc, rcRest, style.crBk);

@@ -3,7 +3,9 @@
 #include <algorithm>
 
 #include "frame/ancestor_font.h"
+#include "frame/out_of_memory.h"
 #include "frame/select_object.h"
+#include "frame/text_out.h"
 #include "frame/virtual_step.h"
 #include "tree/tree_ctrl_core.h"
 
@@ -56,7 +58,7 @@ QVTreeCtrlEx::Core::Core(QVTreeCtrlEx& tree)
       m_tree(tree) {}
 
 int QVTreeCtrlEx::Core::CompareItems(HTREEITEM hItem1, HTREEITEM hItem2) {
-    return m_tree.CompareItems(hItem1, hItem2);
+    return qv::AsBadAlloc([&] { return m_tree.CompareItems(hItem1, hItem2); });
 }
 
 bool QVTreeCtrlEx::Core::ReplacesCompareItems() const {
@@ -89,8 +91,10 @@ void QVTreeCtrlEx::Core::UseFont(HFONT hFont) {
 }
 
 int QVTreeCtrlEx::Core::FontHeight() {
-    m_tree.FindFont();
-    return m_tree.m_hFont != nullptr ? measure.Extent(" ").cy : 0;
+    return qv::AsBadAlloc([this] {
+        m_tree.FindFont();
+        return m_tree.m_hFont != nullptr ? measure.Extent(" ").cy : 0;
+    });
 }
 
 void QVTreeCtrlEx::Core::RowRect(int nTop, HTREEITEM hItem, qv::Rect& rect, bool bTextOnly) {
@@ -98,23 +102,27 @@ void QVTreeCtrlEx::Core::RowRect(int nTop, HTREEITEM hItem, qv::Rect& rect, bool
         TreeView::CalcItemRect(nullptr, nTop, hItem, rect, bTextOnly);
         return;
     }
-    CClientDC dc(&m_tree);
-    const qv::SelectGuard<CFont> font(dc, m_tree.m_hFont);
-    CRect rc;
-    m_tree.CalcItemRect(dc, nTop, hItem, rc, bTextOnly);
-    rect = qv::ToRect(rc);
+    rect = qv::AsBadAlloc([&] {
+        CClientDC dc(&m_tree);
+        const qv::SelectGuard<CFont> font(dc, m_tree.m_hFont);
+        CRect rc;
+        m_tree.CalcItemRect(dc, nTop, hItem, rc, bTextOnly);
+        return qv::ToRect(rc);
+    });
 }
 
 int QVTreeCtrlEx::Core::WidestRow() {
-    CClientDC dc(&m_tree);
-    const qv::SelectGuard<CFont> font(dc, m_tree.m_hFont);
-    int nWidest = 0;
-    for (HTREEITEM h = m_hRootItem; h != nullptr; h = TreeItems::NextDisplayableItem(h)) {
-        CRect rc;
-        m_tree.CalcItemRect(dc, 0, h, rc, FALSE);
-        nWidest = std::max(nWidest, static_cast<int>(rc.right));
-    }
-    return nWidest;
+    return qv::AsBadAlloc([this] {
+        CClientDC dc(&m_tree);
+        const qv::SelectGuard<CFont> font(dc, m_tree.m_hFont);
+        int nWidest = 0;
+        for (HTREEITEM h = m_hRootItem; h != nullptr; h = TreeItems::NextDisplayableItem(h)) {
+            CRect rc;
+            m_tree.CalcItemRect(dc, 0, h, rc, FALSE);
+            nWidest = std::max(nWidest, static_cast<int>(rc.right));
+        }
+        return nWidest;
+    });
 }
 
 void QVTreeCtrlEx::Core::NfySelectItem(HTREEITEM hItem) {
@@ -123,7 +131,8 @@ void QVTreeCtrlEx::Core::NfySelectItem(HTREEITEM hItem) {
 
 // --- Creation
 
-QVTreeCtrlEx::QVTreeCtrlEx() : m_pCore(std::make_unique<Core>(*this)) {}
+QVTreeCtrlEx::QVTreeCtrlEx()
+    : m_pCore(qv::AsMemoryException([this] { return std::make_unique<Core>(*this); })) {}
 
 QVTreeCtrlEx::~QVTreeCtrlEx() {
     DestroyWindow();
@@ -401,8 +410,18 @@ void QVTreeCtrlEx::LoadStandardCheckStates() {
 }
 
 BOOL QVTreeCtrlEx::LoadTreeStates(UINT nBitmapId) {
+    CImageList states;
+    BOOL bLoaded = FALSE;
+    qv::MemorySuffices(
+        [&] { bLoaded = states.Create(nBitmapId, kStateImageWidth, 0, kStateImageMask); });
+    if (!bLoaded) {
+        return FALSE;
+    }
+    const HIMAGELIST hStates = states.Detach();
     m_imlStates.DeleteImageList();
-    if (!m_imlStates.Create(nBitmapId, kStateImageWidth, 0, kStateImageMask)) {
+    qv::MemorySuffices([&] { m_imlStates.Attach(hStates); });
+    if (m_imlStates.GetSafeHandle() != hStates) {
+        ::ImageList_Destroy(hStates);
         return FALSE;
     }
     SetImageList(&m_imlStates, TVSIL_STATE);
@@ -423,7 +442,8 @@ void QVTreeCtrlEx::CalcItemRect(CDC& dc, int nTop, HTREEITEM hItem, CRect& rect,
         dc.GetMapMode() == MM_TEXT && dc.GetDeviceCaps(TECHNOLOGY) == DT_RASDISPLAY;
     qv::DcMeasure other(dc);
     qv::Rect rc;
-    m_pCore->CalcItemRect(bOwnFont ? nullptr : &other, nTop, hItem, rc, bTextOnly);
+    qv::AsMemoryException(
+        [&] { m_pCore->CalcItemRect(bOwnFont ? nullptr : &other, nTop, hItem, rc, bTextOnly); });
     rect = qv::ToCRect(rc);
 }
 
@@ -468,6 +488,21 @@ BOOL QVTreeCtrlEx::SelectItem(HTREEITEM hItem) {
 
 void QVTreeCtrlEx::InvalidateItem(HTREEITEM hItem, BOOL bErase) {
     m_pCore->InvalidateItem(Live(hItem), bErase);
+}
+
+// Nothing leaves the window procedure for want of memory, and nobody is asked to close a message
+// about it: what the message was to do is left undone.
+LRESULT QVTreeCtrlEx::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    const HWND hWnd = m_hWnd;
+    LRESULT lResult = 0;
+    if (!qv::MemorySuffices([&] { lResult = CWnd::WindowProc(message, wParam, lParam); })) {
+        // The control itself may be gone.
+        if (message == WM_PAINT) {
+            ::ValidateRect(hWnd, nullptr);
+        }
+        lResult = message == WM_CREATE ? -1 : 0;
+    }
+    return lResult;
 }
 
 void QVTreeCtrlEx::OnSize(UINT, int, int) {

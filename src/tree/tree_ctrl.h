@@ -13,8 +13,14 @@
 // Coordinates: row coordinates are client pixels plus the horizontal scroll position; GetItemRect,
 // CalcItemRect and HitTest's rectangle are in them. All rows have one height.
 //
-// The font is that of the nearest ancestor that has one, looked up at the first measure and kept
-// until the window is destroyed. Set image lists before that too: the row height follows both.
+// The font is that of the nearest ancestor that has one, looked up when the first item is measured
+// and kept until the window is destroyed. Set image lists before the first item too: the row height
+// follows both.
+//
+// Without memory an operation gives its error result and the tree is as it was; one that has none
+// does nothing. Only where a result has no room for that - the constructor, a CString, the step
+// CalcItemRect - a CMemoryException leaves it. A refit or a paint that fails is made up for by the
+// next one. Steps that a derived class replaces may throw CMemoryException or std::bad_alloc.
 //
 // Bulk changes go between SetRedraw(FALSE) and SetRedraw(TRUE), as with any control.
 
@@ -63,7 +69,8 @@ public:
     // Moves an item with all below it to the end of another parent's children. 0 if that lies below
     // the item or is it. Levels below the item stay as they were until reinserted.
     BOOL ChangeParent(HTREEITEM hItem, HTREEITEM hNewParent);
-    // Sorts the direct children by CompareItems; 0 for null and without children.
+    // Sorts the direct children by CompareItems; 0 for null, without children and without memory.
+    // The view keeps its top row, but stays full.
     BOOL SortChildren(HTREEITEM hParent);
     // First direct child whose whole row behind the first style code equals strText, case ignored,
     // and whose image is nImage (-1: any).
@@ -150,7 +157,8 @@ public:
     CImageList* SetImageList(CImageList* pImageList, int nImageList);
     // Empty, ticked, grey empty, grey ticked box.
     void LoadStandardCheckStates();
-    // State images 12 pixels wide from a bitmap resource; RGB(0,128,128) is transparent.
+    // State images 12 pixels wide from a bitmap resource; RGB(0,128,128) is transparent. 0 if there
+    // is no such bitmap; the images loaded before stay then.
     BOOL LoadTreeStates(UINT nBitmapId);
 
     // --- Geometry and view
@@ -188,6 +196,7 @@ public:
     virtual COLORREF GetBkColor(HTREEITEM hItem);
 
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     int ItemHeight();
     void DrawDottedLine(CDC& dc, int x1, int y1, int x2, int y2);
     void OutputFormattedText(CDC& dc, const CRect& rect, const CString& strText, BOOL bSelected);

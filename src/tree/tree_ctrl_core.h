@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "frame/font_measure.h"
 #include "frame/module_state.h"
 #include "frame/wnd_port.h"
 #include "tree/core/tree_view.h"
@@ -9,7 +10,7 @@
 
 // Made before the core, which holds on to both.
 struct QVTreeCtrlCoreParts {
-    explicit QVTreeCtrlCoreParts(CWnd& wnd) : port(wnd), measure(wnd) {}
+    explicit QVTreeCtrlCoreParts(CWnd& wnd) : port(wnd) {}
     qv::WndPort port;
     qv::FontMeasure measure;
 };

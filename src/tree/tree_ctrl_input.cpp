@@ -65,9 +65,9 @@ LRESULT QVTreeCtrlEx::NotifyParent(UINT nCode, UINT nAction, HTREEITEM hOld, HTR
     MakeTVItem(hOld, notification.itemOld, FALSE);
     MakeTVItem(hNew, notification.itemNew, FALSE);
     notification.ptDrag = pt;
-    CWnd* pParent = GetParent();
-    return pParent != nullptr ? pParent->SendMessage(WM_NOTIFY, notification.hdr.idFrom,
-                                                     reinterpret_cast<LPARAM>(&notification))
+    const HWND hParent = ::GetParent(m_hWnd);
+    return hParent != nullptr ? ::SendMessage(hParent, WM_NOTIFY, notification.hdr.idFrom,
+                                              reinterpret_cast<LPARAM>(&notification))
                               : 0;
 }
 
@@ -87,11 +87,10 @@ void QVTreeCtrlEx::NfySelectItem(HTREEITEM hItem) {
 // True if the parent let the change through and the item still stands.
 bool QVTreeCtrlEx::ChangeOneStateImage(HTREEITEM hItem, UINT nImage) {
     const Guard guard(*this, hItem);
-    CWnd* pParent = GetParent();
-    if (pParent == nullptr) {
+    const HWND hParent = ::GetParent(m_hWnd);
+    if (hParent == nullptr) {
         return false;
     }
-    const HWND hParent = pParent->m_hWnd;
     NM_TREEVIEW notification{};
     notification.hdr.hwndFrom = m_hWnd;
     notification.hdr.idFrom = static_cast<UINT>(GetDlgCtrlID());

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "frame/select_object.h"
+#include "frame/text_out.h"
 #include "tree/core/tree_columns.h"
 #include "tree/tree_ctrl.h"
 #include "tree/tree_ctrl_core.h"
@@ -22,7 +23,7 @@ int Even(int n) {
 
 bool QVTreeCtrlEx::IsHighlighted(HTREEITEM hItem) {
     return (hItem->nState & TVIS_SELECTED) != 0 &&
-           (GetFocus() == this || (GetStyle() & TVS_SHOWSELALWAYS) != 0);
+           (::GetFocus() == m_hWnd || (GetStyle() & TVS_SHOWSELALWAYS) != 0);
 }
 
 COLORREF QVTreeCtrlEx::GetTextColor(HTREEITEM hItem) {
@@ -39,6 +40,7 @@ COLORREF QVTreeCtrlEx::GetBkColor(HTREEITEM hItem) {
 // No erasing and no second buffer: each step excludes what it has painted from the clip, and the
 // fill at the end of a row meets only what is left. Everything is drawn in row coordinates.
 void QVTreeCtrlEx::OnPaint() {
+    m_pCore->FitIfDue();
     m_pCore->DrawBars();
     CPaintDC dc(this);
     if (!m_pCore->m_bRedraw) {
@@ -46,7 +48,8 @@ void QVTreeCtrlEx::OnPaint() {
     }
     CRect rcClient;
     GetClientRect(&rcClient);
-    const int nHeight = ItemHeight();
+    HTREEITEM hItem = GetNextItem(nullptr, TVGN_FIRSTVISIBLE);
+    const int nHeight = hItem != nullptr ? ItemHeight() : 0;
     const qv::BrushLife background(m_brBackground, ::GetSysColor(COLOR_WINDOW));
     const qv::PenLife lines(m_penLines, ::GetSysColor(COLOR_BTNSHADOW));
     {
@@ -57,8 +60,7 @@ void QVTreeCtrlEx::OnPaint() {
         const bool bLines = (GetStyle() & TVS_HASLINES) != 0;
         int y = 0;
         bool bPartial = false;
-        HTREEITEM hItem = nHeight > 0 ? GetNextItem(nullptr, TVGN_FIRSTVISIBLE) : nullptr;
-        while (hItem != nullptr && y < rcClient.bottom) {
+        while (nHeight > 0 && hItem != nullptr && y < rcClient.bottom) {
             CRect rcItem;
             CalcItemRect(dc, y, hItem, rcItem, FALSE);
             if (bLines) {
@@ -121,9 +123,9 @@ void QVTreeCtrlEx::DrawItem(CDC& dc, HTREEITEM hItem, const CRect& rcItem) {
         _mbschr(psz, qv::kStyleEscape) != nullptr) {
         OutputFormattedText(dc, rcInner, strText, bSelected);
     } else {
-        dc.DrawText(strText, -1, &rcInner, kTextFlags);
+        qv::DrawTextIn(dc, qv::View(strText), rcInner, kTextFlags);
     }
-    if (bSelected && GetFocus() == this) {
+    if (bSelected && ::GetFocus() == m_hWnd) {
         dc.DrawFocusRect(&rcText);
     }
     dc.ExcludeClipRect(&rcText);
@@ -159,7 +161,7 @@ void QVTreeCtrlEx::DrawImage(CDC& dc, CImageList& images, int nImage, CRect rcCe
 
 void QVTreeCtrlEx::OutputFormattedText(CDC& dc, const CRect& rect, const CString& strText,
                                        BOOL bSelected) {
-    const bool bKeepColors = bSelected && GetFocus() == this;
+    const bool bKeepColors = bSelected && ::GetFocus() == m_hWnd;
     qv::FieldReader fields({strText, static_cast<size_t>(strText.GetLength())}, qv::ToRect(rect),
                            m_pCore->Tabs(), m_pCore->IndentTabs(), m_aStyles);
     qv::Field field;
@@ -170,8 +172,7 @@ void QVTreeCtrlEx::OutputFormattedText(CDC& dc, const CRect& rect, const CString
             dc.SetTextColor(m_aStyles[field.nStyle].crText);
         }
         CRect rcField = qv::ToCRect(field.rect);
-        dc.DrawText(field.text.data(), static_cast<int>(field.text.size()), &rcField,
-                    field.nFormat | kTextFlags);
+        qv::DrawTextIn(dc, field.text, rcField, field.nFormat | kTextFlags);
     }
 }
 

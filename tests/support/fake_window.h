@@ -4,6 +4,7 @@
 #pragma once
 
 #include <functional>
+#include <new>
 #include <string_view>
 #include <vector>
 
@@ -66,7 +67,11 @@ public:
     static constexpr int kCharWidth = 7;
     qv::Size Extent(std::string_view text) override {
         ++nCalls;
+        if (bOutOfMemory) {
+            throw std::bad_alloc();
+        }
         return {static_cast<int>(text.size()) * kCharWidth, 13};
     }
     int nCalls = 0;
+    bool bOutOfMemory = false;
 };

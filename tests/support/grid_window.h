@@ -23,6 +23,7 @@ public:
     using QVGridCtrl::m_bIgnoreFocus;
     using QVGridCtrl::m_nCellHeight;
     using QVGridCtrl::m_nTopRow;
+    using QVGridCtrl::m_si;
     using QVGridCtrl::RowAt;
 };
 

@@ -6,6 +6,9 @@ int TestApp::DoMessageBox(LPCTSTR lpszPrompt, UINT, UINT) {
 }
 
 LRESULT TestApp::ProcessWndProcException(CException* e, const MSG* pMsg) {
+    if (m_report) {
+        m_report(e);
+    }
     char szMessage[256] = "";
     e->GetErrorMessage(szMessage, sizeof szMessage);
     m_exceptions.emplace_back(szMessage);

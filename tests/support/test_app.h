@@ -4,6 +4,7 @@
 
 #include "afxwin.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -11,9 +12,10 @@ class TestApp : public CWinApp {
 public:
     TestApp() : CWinApp("Window tests") {}
 
-    std::vector<std::string> m_prompts;     ///< texts of message boxes
-    std::vector<std::string> m_exceptions;  ///< messages of exceptions that left a handler
-    int m_nAnswer = IDOK;                   ///< what a message box gives
+    std::vector<std::string> m_prompts;         ///< texts of message boxes
+    std::vector<std::string> m_exceptions;      ///< messages of exceptions that left a handler
+    int m_nAnswer = IDOK;                       ///< what a message box gives
+    std::function<void(CException*)> m_report;  ///< runs before an exception is written down
 
     void Forget() {
         m_prompts.clear();

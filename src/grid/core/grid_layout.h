@@ -48,6 +48,15 @@ Rect GridFocusRect(const Rect& rcCell, int nButtonWidth);
 // The in-place edit.
 Rect GridEditRect(const Rect& rcCell, int nButtonWidth);
 
+// A list of choices with its border, hanging on a cell: over that one's lower line, as tall as its
+// lines, wherever that ends.
+Rect GridListRect(const Rect& rcCell, int nLineHeight, int nLines);
+// The same on rcScreen, all in screen coordinates: nMaxLines at most, above the cell where it does
+// not fit under it, and where it fits nowhere as many lines as the roomier side has room for, one
+// at least.
+Rect GridListRectOnScreen(const Rect& rcCell, int nLineHeight, int nLines, int nMaxLines,
+                          const Rect& rcScreen);
+
 // The cell that a VK_ code leads to, without regard to editors. current may be without cell; the
 // walk then starts at nTopRow and column 0, and any key leads there. nPage: whole rows that show.
 // VK_PRIOR leads nowhere, unlike VK_NEXT: users of old are used to it.

@@ -6,8 +6,12 @@ namespace {
 
 class Pagination {
 public:
-    Pagination(PageItems& items, unsigned nWidth, unsigned nHeight)
-        : m_items(items), m_nCount(items.Count()), m_nWidth(nWidth), m_nHeight(nHeight) {}
+    Pagination(PageItems& items, unsigned nWidth, unsigned nHeight, RowNumbers numbers)
+        : m_items(items),
+          m_nCount(items.Count()),
+          m_nWidth(nWidth),
+          m_nHeight(nHeight),
+          m_numbers(numbers) {}
 
     bool NextPage(PageRecord& page) {
         SkipOptional();
@@ -94,8 +98,10 @@ private:
         return false;
     }
 
-    // m_nSub stays: see the header.
     void EndItem() {
+        if (m_numbers == RowNumbers::kOwn) {
+            m_nSub = 0;
+        }
         m_page.nLastItem = static_cast<unsigned>(m_nItem);
         m_page.nLastSub = kToEnd;
         m_bInSplit = false;
@@ -123,6 +129,7 @@ private:
     const std::size_t m_nCount;
     const unsigned m_nWidth;
     const unsigned m_nHeight;
+    const RowNumbers m_numbers;
     std::size_t m_nItem = 0;
     unsigned m_nSub = 0;      // where a split item goes on, or where the last one did
     bool m_bInSplit = false;  // m_nItem began on an earlier page
@@ -133,8 +140,8 @@ private:
 }  // namespace
 
 unsigned Paginate(PageItems& items, unsigned nWidth, unsigned nHeight,
-                  std::vector<PageRecord>& pages) {
-    Pagination pagination(items, nWidth, nHeight);
+                  std::vector<PageRecord>& pages, RowNumbers numbers) {
+    Pagination pagination(items, nWidth, nHeight, numbers);
     unsigned nPages = 0;
     for (PageRecord page; pagination.NextPage(page); ++nPages) {
         pages.push_back(page);

@@ -47,11 +47,14 @@ struct PageRecord {
 // and is split otherwise. A page that would end with a DoNotWidow item, followed by one that is
 // not, gives that one item to the next page.
 //
-// nFirstSub is cleared only by an optional item left out at the top. After the end of a split item
-// it keeps that item's last starting row, so a page that opens with a new item may carry a row
-// number that is not this item's: its rows before that one are not printed, and if the item is
-// split on the page as well, nLastSub may be less than nFirstSub, which prints no row. Heights are
-// counted as if all rows were there. Callers rely on these page tables; they are kept.
+// With RowNumbers::kOwn an item that opens a page begins there with its own row, and all rows are
+// printed.
+//
+// With RowNumbers::kKept nFirstSub is cleared only by an optional item left out at the top. After
+// the end of a split item it keeps that item's last starting row, so a page that opens with a new
+// item may carry a row number that is not this item's: its rows before that one are not printed,
+// and if the item is split on the page as well, nLastSub may be less than nFirstSub, which prints
+// no row. Heights are counted as if all rows were there. Callers rely on these page tables.
 //
 // The run always ends:
 // - An item whose MinSize exceeds a whole page has a page for itself, with nLastSub kToEnd.
@@ -60,8 +63,9 @@ struct PageRecord {
 // - An item to be split of which no row fits goes to the next page; if no row fits on a page that
 //   it opens, it ends there, with nLastSub kToEnd, and the page holds nothing else.
 // - A height that PrintSize leaves greater than it was counts as 0.
+enum class RowNumbers { kOwn, kKept };
 unsigned Paginate(PageItems& items, unsigned nWidth, unsigned nHeight,
-                  std::vector<PageRecord>& pages);
+                  std::vector<PageRecord>& pages, RowNumbers numbers = RowNumbers::kKept);
 
 // Calls print(nItem, nFirst, nLast) for each item of a page in order; nLast may be kToEnd.
 template <class Print>

@@ -7,6 +7,7 @@ namespace qv {
 namespace {
 
 constexpr size_t kLeastWindow = 64;
+constexpr size_t kLongestChar = 4;  // bytes
 constexpr char kLineFeed = '\n';
 
 }  // namespace
@@ -27,7 +28,10 @@ size_t TextSplitter::FirstBeyond(std::string_view text, size_t nStart, size_t nF
             m_widths.resize(nMeasured);
         }
         m_measure.PrefixWidths(text.substr(nStart, nMeasured), m_widths.data());
-        for (; i < nStart + nMeasured; ++i) {
+        // The window may end in the middle of a character, which has its width in the next one.
+        const size_t nKnown =
+            nStart + nMeasured == nEnd ? nMeasured : nMeasured - (kLongestChar - 1);
+        for (; i < nStart + nKnown; ++i) {
             if (m_widths[i - nStart] > nWidth) {
                 // Room for a piece somewhat longer the next time.
                 m_nWindow = std::max(kLeastWindow, (i - nStart) * 5 / 4 + 8);
@@ -73,7 +77,9 @@ void TextSplitter::Split(std::string_view text, int nWidth, std::vector<int>& st
         }
         starts.push_back(static_cast<int>(i));
         nStart = i;
-        ++i;  // the piece's first byte is taken whatever its width
+        if (i < nLength) {
+            i += m_measure.CharBytes(text.substr(i));  // is taken whatever its width
+        }
         if (nStart < nLength && text[nStart] == kLineFeed) {
             // So is a line feed that blanks led to: the line ends at the next one.
             nLineEnd = std::min(text.find(kLineFeed, i), nLength);

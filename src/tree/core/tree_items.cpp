@@ -221,6 +221,11 @@ HTREEITEM TreeItems::InsertItem(const char* pszText, int nImage, int nSelectedIm
     if (pszText == nullptr) {
         pszText = "";
     }
+    // Asked before there is a record for the new item: it may be the very one that was deleted.
+    if (hInsertAfter == nullptr || hInsertAfter == TVI_ROOT ||
+        (!IsPosition(hInsertAfter) && !IsLive(hInsertAfter))) {
+        hInsertAfter = TVI_LAST;
+    }
     HTREEITEM hItem = AllocNewHandle();
     if (hItem == nullptr) {
         return nullptr;
@@ -234,7 +239,23 @@ HTREEITEM TreeItems::InsertItem(const char* pszText, int nImage, int nSelectedIm
         return nullptr;
     }
     std::memcpy(hItem->pszText, pszText, nBytes);
-    return PositionInTree(hItem, hParent, hInsertAfter) ? hItem : nullptr;
+    const Watch watch(*this, hItem);
+    try {
+        return PositionInTree(hItem, hParent, hInsertAfter) ? hItem : nullptr;
+    } catch (const std::bad_alloc&) {
+        ReturnUnplaced(hItem, watch);
+        return nullptr;
+    } catch (...) {
+        ReturnUnplaced(hItem, watch);
+        throw;
+    }
+}
+
+// A comparison has thrown before the new item had a place.
+void TreeItems::ReturnUnplaced(HTREEITEM hItem, const Watch& watch) {
+    if (watch.ItemAlive()) {
+        ReturnHandle(hItem);
+    }
 }
 
 // The first item of the root level, also while m_hRootItem has been moved away from it.
@@ -253,10 +274,6 @@ HTREEITEM TreeItems::RootRunStart() const {
 bool TreeItems::PositionInTree(HTREEITEM hItem, HTREEITEM hParent, HTREEITEM hInsertAfter) {
     if (hParent == TVI_ROOT) {
         hParent = nullptr;
-    }
-    if (hInsertAfter == nullptr || hInsertAfter == TVI_ROOT ||
-        (!IsPosition(hInsertAfter) && !IsLive(hInsertAfter))) {
-        hInsertAfter = TVI_LAST;
     }
     const bool bBehindItem = !IsPosition(hInsertAfter);
     if (bBehindItem) {

@@ -119,7 +119,8 @@ public:
     // --- Virtual step
 
     // -1, 0 or 1. Null as first item gives 1, as second -1. By default the order of the texts
-    // behind their style codes, without regard to case.
+    // behind their style codes, without regard to case. One that throws leaves the tree as it was;
+    // std::bad_alloc makes the operation fail, anything else goes on to its caller.
     virtual int CompareItems(HTREEITEM hItem1, HTREEITEM hItem2);
 
     // True if all links, ends of runs and counts agree.
@@ -169,6 +170,7 @@ protected:
 private:
     HTREEITEM AllocNewHandle();
     void ReturnHandle(HTREEITEM hItem);
+    void ReturnUnplaced(HTREEITEM hItem, const Watch& watch);
     bool AddSlab();
     bool PositionInTree(HTREEITEM hItem, HTREEITEM hParent, HTREEITEM hInsertAfter);
     bool FindSortedPlace(HTREEITEM hItem, HTREEITEM hFirst, HTREEITEM& hNext);

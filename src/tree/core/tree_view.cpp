@@ -101,6 +101,9 @@ bool TreeView::ChangeParent(HTREEITEM hItem, HTREEITEM hNewParent) {
     if (bMoved) {
         CalcScroll();
         CalcBottomItem();
+        if (m_bRedraw && m_port.HasWindow()) {
+            m_port.InvalidateAll();
+        }
     }
     return bMoved;
 }
@@ -119,6 +122,9 @@ bool TreeView::SortChildren(HTREEITEM hParent) {
                 DropRows();
             }
         });
+    }
+    if (m_bRedraw) {
+        RefitAll();
     }
     if (m_port.HasWindow()) {
         m_port.InvalidateAll();
@@ -217,7 +223,11 @@ void TreeView::SetIndentTabs(bool bIndentTabs) {
 
 int TreeView::ItemHeight() {
     if (m_nItemHeight == 0) {
-        CalcItemHeight();
+        try {
+            CalcItemHeight();
+        } catch (const std::bad_alloc&) {
+            m_bFitDue = true;  // no height yet; it is measured the next time
+        }
     }
     return m_nItemHeight;
 }
@@ -309,6 +319,14 @@ void TreeView::CalcItemRect(TextMeasure* pOther, int nTop, HTREEITEM hItem, Rect
 }
 
 bool TreeView::GetItemRect(HTREEITEM hItem, Rect& rect, bool bTextOnly) {
+    try {
+        return FindRect(hItem, rect, bTextOnly);
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+}
+
+bool TreeView::FindRect(HTREEITEM hItem, Rect& rect, bool bTextOnly) {
     if (hItem == nullptr || !m_port.HasWindow() || ItemHeight() == 0) {
         return false;
     }
@@ -349,7 +367,7 @@ HTREEITEM TreeView::HitTest(Point pt, unsigned* pFlags, Rect* pRect) {
         return nullptr;
     }
     nFlags = TVHT_NOWHERE;
-    const int nHeight = ItemHeight();
+    const int nHeight = m_hTopItem != nullptr ? ItemHeight() : 0;
     if (nHeight == 0) {
         return nullptr;
     }
@@ -362,7 +380,11 @@ HTREEITEM TreeView::HitTest(Point pt, unsigned* pFlags, Rect* pRect) {
         return nullptr;
     }
     Rect rect;
-    RowRect(nRow * nHeight, hItem, rect, false);
+    try {
+        RowRect(nRow * nHeight, hItem, rect, false);
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
     if (pRect != nullptr) {
         *pRect = rect;
     }
@@ -425,20 +447,22 @@ bool TreeView::SelectItem(HTREEITEM hItem) {
 }
 
 void TreeView::InvalidateItem(HTREEITEM hItem, bool bErase) {
-    Rect rect;
-    if (GetItemRect(hItem, rect, false)) {
-        rect.left -= m_nHScrollPos;
-        rect.right = std::max(rect.right - m_nHScrollPos, m_port.ClientRect().right);
-        m_port.Invalidate(rect, bErase);
+    try {
+        Rect rect;
+        if (FindRect(hItem, rect, false)) {
+            rect.left -= m_nHScrollPos;
+            rect.right = std::max(rect.right - m_nHScrollPos, m_port.ClientRect().right);
+            m_port.Invalidate(rect, bErase);
+        }
+    } catch (const std::bad_alloc&) {
+        m_port.InvalidateAll();  // it is not known where the row ends
     }
 }
 
 void TreeView::SetRedraw(bool bRedraw) {
     m_bRedraw = bRedraw;
     if (m_bRedraw && m_port.HasWindow()) {
-        CalcScroll();
-        CalcBottomItem();
-        CalcTopItem();
+        RefitAll();
         m_port.InvalidateAll();
     }
 }

@@ -9,6 +9,10 @@
 // The refit of the scroll bars after a change (CalcScroll) wants the number of rows, the place of
 // the top row and the widest row. A RowIndex that is kept up to date answers that in a few steps.
 // Where a control replaces CalcItemRect, its version is asked about every row instead.
+//
+// Steps of the control may throw std::bad_alloc. It leaves none of the operations but CalcItemRect:
+// a question without memory has no answer, a change of the tree is done all the same, and the refit
+// of the scroll bars that it wants is made up for by FitIfDue.
 
 #pragma once
 
@@ -68,7 +72,8 @@ public:
 
     // --- Geometry
 
-    // 0 while there is neither a font nor an image to measure.
+    // 0 while there is neither a font nor an image to measure. Asked for only where there are rows:
+    // it is measured once, and image lists that come before the first item are to count.
     int ItemHeight();
     // Pixels by which each level moves a row right: 19, or the height of a taller image. The height
     // and not the width counts; applications size their images by that.
@@ -86,6 +91,8 @@ public:
     void CalcBottomItem();
     void CalcTopItem();
     void CalcScroll();
+    // Before painting: the refit that failed for want of memory.
+    void FitIfDue();
     // The window's size has changed.
     void Resize();
 
@@ -151,7 +158,10 @@ private:
     };
 
     void Refresh();
+    void RefitAll();
     void CalcItemHeight();
+    void Fit();
+    bool FindRect(HTREEITEM hItem, Rect& rect, bool bTextOnly);
     int RowsThatFit(int nHeight);
     void CheckStyles();
     int TextExtent(HTREEITEM hItem, TextMeasure* pOther);
@@ -212,6 +222,7 @@ private:
     RowMetrics m_metrics;
     std::vector<HTREEITEM> m_collected;
     bool m_bFitting = false;
+    bool m_bFitDue = false;  // the last one ran out of memory
     bool m_bResizedWhileFitting = false;
 };
 

@@ -166,7 +166,7 @@ void TreeView::CalcBottomItem() {
     if (!m_port.HasWindow()) {
         return;
     }
-    if (ItemHeight() == 0 || m_hTopItem == nullptr) {
+    if (m_hTopItem == nullptr || ItemHeight() == 0) {
         m_hBottomItem = nullptr;
         return;
     }
@@ -184,7 +184,7 @@ void TreeView::CalcTopItem() {
     if (!m_port.HasWindow()) {
         return;
     }
-    if (ItemHeight() == 0 || m_hBottomItem == nullptr) {
+    if (m_hBottomItem == nullptr || ItemHeight() == 0) {
         m_hTopItem = m_hRootItem;
         return;
     }
@@ -202,7 +202,6 @@ void TreeView::CalcTopItem() {
     }
 }
 
-// Works from the client area as it would be without bars, since one bar may force the other.
 // Showing a bar resizes the window, which leads back here: the call that is under way has the whole
 // picture and finishes the job.
 void TreeView::CalcScroll() {
@@ -210,6 +209,23 @@ void TreeView::CalcScroll() {
         return;
     }
     const Fitting fitting(*this);
+    m_bFitDue = false;
+    try {
+        Fit();
+    } catch (const std::bad_alloc&) {
+        m_bFitDue = true;
+    }
+}
+
+void TreeView::FitIfDue() {
+    if (m_bFitDue && m_bRedraw) {
+        CalcScroll();
+        CalcBottomItem();
+    }
+}
+
+// Works from the client area as it would be without bars, since one bar may force the other.
+void TreeView::Fit() {
     const int cyBar = m_port.HorizontalBarHeight();
     const int cxBar = m_port.VerticalBarWidth();
     Rect rcClient = m_port.ClientRect();
@@ -222,7 +238,8 @@ void TreeView::CalcScroll() {
     if (bHorizontal) {
         rcClient.bottom -= cyBar;
     }
-    const bool bVertical = ItemHeight() != 0 && nRows > RowsThatFit(rcClient.Height());
+    // Without rows the height is not asked for: it is measured once, and image lists may come yet.
+    const bool bVertical = nRows > 0 && ItemHeight() != 0 && nRows > RowsThatFit(rcClient.Height());
     if (bVertical) {
         rcClient.right -= cxBar;
         if (!bHorizontal && m_nMaxWidth > rcClient.Width()) {
@@ -279,6 +296,13 @@ void TreeView::FitHorizontalBar(const Rect& rcClient, bool bNeeded) {
     if ((bShown || bMoves) && m_bRedraw) {
         m_port.InvalidateAll();
     }
+}
+
+// After a change that may leave rows above the view and room below it.
+void TreeView::RefitAll() {
+    CalcScroll();
+    CalcBottomItem();
+    CalcTopItem();
 }
 
 void TreeView::Resize() {
@@ -491,9 +515,7 @@ bool TreeView::Expand(HTREEITEM hItem, unsigned nCode, bool bInvalidate, bool bC
         }
     }
     if (m_bRedraw) {
-        CalcScroll();
-        CalcBottomItem();
-        CalcTopItem();
+        RefitAll();
         if (bInvalidate && m_port.HasWindow()) {
             m_port.InvalidateAll();
         }

@@ -19,9 +19,10 @@ std::string Row(unsigned nRow) {
 }
 
 // "first item.row-last item.row" for each page.
-std::string Pages(qv::PageItems& items, unsigned nHeight) {
+std::string Pages(qv::PageItems& items, unsigned nHeight,
+                  qv::RowNumbers numbers = qv::RowNumbers::kKept) {
     std::vector<PageRecord> pages;
-    const unsigned nPages = qv::Paginate(items, kWidth, nHeight, pages);
+    const unsigned nPages = qv::Paginate(items, kWidth, nHeight, pages, numbers);
     EXPECT_EQ(nPages, pages.size());
     std::string strPages;
     for (const PageRecord& page : pages) {
@@ -104,6 +105,17 @@ TEST(Pagination, RowNumberOfASplitItemStaysForTheNextPageTop) {
     EXPECT_EQ(Pages(FakePageItems().List(10).Break().Block(40), 50),
               "0.0-0.4 | 0.5-0.end | 2.0-2.end")
         << "a break left out at the top clears it";
+}
+
+TEST(Pagination, WithItsOwnRowNumbersNoItemLosesRows) {
+    const auto pages = [](FakePageItems& items) { return Pages(items, 50, qv::RowNumbers::kOwn); };
+    EXPECT_EQ(pages(FakePageItems().List(8).Block(40).Labelled(3)),
+              "0.0-0.4 | 0.5-0.end | 1.0-1.end | 2.0-2.end");
+    EXPECT_EQ(pages(FakePageItems().List(8, 0, 10).List(9, 30)),
+              "0.0-0.4 | 0.5-0.end | 1.0-1.1 | 1.2-1.3 | 1.4-1.5 | 1.6-1.7 | 1.8-1.end");
+    EXPECT_EQ(pages(FakePageItems().List(8).Group().List(9, 10)),
+              "0.0-0.4 | 0.5-0.end | 1.0-2.2 | 2.3-2.6 | 2.7-2.end")
+        << "a header that is taken back opens the page at its own start";
 }
 
 TEST(Pagination, ItemThatSplitsItselfStartsFromItsOwnRows) {

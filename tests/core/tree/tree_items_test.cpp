@@ -69,6 +69,14 @@ TEST(TreeInsert, DeletedHandlesAreHarmless) {
     EXPECT_EQ(tree.Children(nullptr), "a c");
     EXPECT_EQ(a->pNextSibling, c);
     EXPECT_TRUE(tree.CheckInvariants());
+
+    HTREEITEM a1 = tree.Add("a1", a);
+    tree.DeleteItem(a1);
+    HTREEITEM n = tree.Add("n", c, a1);
+    EXPECT_EQ(n, a1);
+    EXPECT_EQ(tree.Children(c), "n") << "behind an item that its own record once was";
+    EXPECT_EQ(n->nLevel, 1);
+    EXPECT_TRUE(tree.CheckInvariants());
 }
 
 TEST(TreeSort, AComparisonThatChangesTheTreeStopsIt) {
@@ -126,6 +134,21 @@ TEST(TreeInsert, WithoutMemoryLeavesTheTreeAsItWas) {
         EXPECT_NE(tree.Add("next"), nullptr);
         EXPECT_TRUE(tree.CheckInvariants());
     }
+}
+
+TEST(TreeInsert, AComparisonThatThrowsLeavesTheTreeAsItWas) {
+    TestTree tree;
+    HTREEITEM p = tree.Add("p");
+    tree.Add("b", p);
+    tree.Add("a", p);
+    tree.compare = [](HTREEITEM, HTREEITEM) -> int { throw std::bad_alloc(); };
+    EXPECT_EQ(tree.Add("c", p, TVI_SORT), nullptr);
+    EXPECT_FALSE(tree.SortChildren(p));
+    tree.compare = [](HTREEITEM, HTREEITEM) -> int { throw 1; };
+    EXPECT_THROW(tree.Add("c", p, TVI_SORT), int);
+    EXPECT_THROW(tree.SortChildren(p), int);
+    EXPECT_EQ(tree.Walk(), "p b a");
+    EXPECT_TRUE(tree.CheckInvariants());
 }
 
 TEST(TreeText, KeepsTheOldTextWithoutMemoryAndTakesPartsOfItself) {

@@ -126,6 +126,20 @@ TEST(TreeGeometry, WithoutAHeightThereAreNoRows) {
     tree.VScroll(SB_PAGEDOWN, 0);
 }
 
+TEST(TreeGeometry, AnEmptyTreeMeasuresNothing) {
+    TestTree tree;
+    tree.Resize();
+    tree.SetRedraw(true);
+    tree.VScroll(SB_LINEDOWN, 0);
+    tree.HitTest({5, 5}, nullptr, nullptr);
+    tree.m_images.cyImage = 24;
+    tree.Add("a");
+    EXPECT_EQ(tree.ItemHeight(), 24) << "a list set before the first item counts";
+    tree.m_images.cyImage = 40;
+    tree.Add("b");
+    EXPECT_EQ(tree.ItemHeight(), 24);
+}
+
 TEST(TreeGeometry, RectanglesLeaveRoomForIndentationAndImages) {
     TestTree tree;
     HTREEITEM a = tree.Add("root");
@@ -262,6 +276,43 @@ TEST_F(TreeScrolling, EnsureVisibleBringsRowsToTheNearerEdge) {
     EXPECT_FALSE(tree.EnsureVisible(nullptr));
 }
 
+TEST_F(TreeScrolling, SortingRefitsTheViewToTheNewOrder) {
+    HTREEITEM p = tree.Add("p");
+    tree.Expand(p, TVE_EXPAND, false, false);
+    for (const char* psz : {"h", "g", "f", "e", "d", "c", "b", "a"}) {
+        rows.push_back(tree.Add(psz, p));
+    }
+    ASSERT_EQ(tree.m_hBottomItem, rows[4]);  // "d"
+    EXPECT_TRUE(tree.SortChildren(p));
+    EXPECT_EQ(tree.m_hTopItem, p);
+    EXPECT_EQ(tree.m_hBottomItem, rows[3]) << "e: the sixth row";
+    tree.EnsureVisible(rows[0]);  // "h", the last row now
+    ASSERT_EQ(tree.m_hTopItem, rows[5]);
+    tree.compare = [](HTREEITEM h1, HTREEITEM h2) { return *h1->pszText > *h2->pszText ? -1 : 1; };
+    EXPECT_TRUE(tree.SortChildren(p));
+    EXPECT_EQ(tree.m_hBottomItem, rows[7]);
+    EXPECT_EQ(tree.m_hTopItem, rows[2]) << "the window stays full";
+    EXPECT_EQ(tree.window.ranges[SB_VERT].nPos, 3);
+
+    tree.SetRedraw(false);
+    const int nAll = tree.window.nAllInvalid;
+    tree.compare = nullptr;
+    EXPECT_TRUE(tree.SortChildren(p));
+    EXPECT_EQ(tree.m_hBottomItem, rows[7]) << "nothing moves while redraw is off";
+    EXPECT_EQ(tree.window.nAllInvalid, nAll + 1);
+}
+
+TEST_F(TreeScrolling, AMovedItemIsPaintedWhereItIsNow) {
+    Fill(3);
+    const int nAll = tree.window.nAllInvalid;
+    EXPECT_TRUE(tree.ChangeParent(rows[2], rows[0]));
+    EXPECT_EQ(tree.window.nAllInvalid, nAll + 1);
+    EXPECT_FALSE(tree.ChangeParent(rows[0], rows[2]));
+    tree.SetRedraw(false);
+    EXPECT_TRUE(tree.ChangeParent(rows[2], rows[1]));
+    EXPECT_EQ(tree.window.nAllInvalid, nAll + 1);
+}
+
 TEST_F(TreeScrolling, AWindowLowerThanARowShowsOne) {
     tree.window.size = {200, 7};
     Fill(4);
@@ -391,6 +442,34 @@ TEST_F(TreeScrolling, WithoutMemoryForAnIndexRowsAreWalked) {
     }
     EXPECT_EQ(tree.m_nVScrollPos, 300);
     EXPECT_TRUE(tree.CheckInvariants());
+}
+
+TEST_F(TreeScrolling, AChangeThatCannotBeMeasuredIsFittedLater) {
+    Fill(3);
+    tree.measure.bOutOfMemory = true;
+    HTREEITEM added = tree.Add("a row that is too long for the window", rows[0]);
+    ASSERT_NE(added, nullptr);
+    EXPECT_TRUE(tree.Expand(rows[0], TVE_EXPAND, true, false));
+    qv::Rect rect;
+    EXPECT_FALSE(tree.GetItemRect(added, rect, false));
+    EXPECT_EQ(tree.HitTest({5, 20}, nullptr, nullptr), nullptr);
+    const int nAll = tree.window.nAllInvalid;
+    EXPECT_TRUE(tree.SelectItem(added));
+    EXPECT_GT(tree.window.nAllInvalid, nAll) << "where the row ends is not known";
+    EXPECT_TRUE(tree.DeleteItem(rows[1]));
+    EXPECT_TRUE(tree.ChangeParent(rows[2], added));
+    EXPECT_TRUE(tree.EnsureVisible(rows[2]));
+    EXPECT_TRUE(tree.SortChildren(rows[0]));
+    EXPECT_EQ(tree.Rows(), "row0 a row that is too long for the window row2");
+    EXPECT_FALSE(tree.window.bShown[SB_HORZ]);
+    EXPECT_TRUE(tree.CheckInvariants());
+    tree.measure.bOutOfMemory = false;
+    tree.FitIfDue();
+    EXPECT_TRUE(tree.window.bShown[SB_HORZ]);
+    EXPECT_EQ(tree.m_hBottomItem, rows[2]);
+    const int nCalls = tree.measure.nCalls;
+    tree.FitIfDue();
+    EXPECT_EQ(tree.measure.nCalls, nCalls);
 }
 
 // Whatever happens to the tree, a refit gives what walking all rows gives.

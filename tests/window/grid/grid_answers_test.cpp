@@ -214,6 +214,87 @@ TEST(GridAnswers, ATextChangedWhileItsEditorOpensIsNotOverwritten) {
     w.other.SetFocus();
     EXPECT_EQ(nChanges, 2);
     EXPECT_EQ(w.Text(0, kEdit), "fresh");
+    nChanges = 0;
+    w.grid.GotoCell(0, kEdit, TRUE);
+    TypeText("typed");
+    w.other.SetFocus();
+    EXPECT_EQ(w.Text(0, kEdit), "typed");
+}
+
+// --- Where a parent leads elsewhere
+
+// The edit, if it shows, lies in the current cell.
+void ExpectEditInCurrentCell(GridWindow<>& w, const char* pszCurrent) {
+    EXPECT_EQ(w.Current(), pszCurrent);
+    ASSERT_NE(w.Edit(), nullptr);
+    CRect rcEdit;
+    ::GetWindowRect(w.Edit(), &rcEdit);
+    w.grid.ScreenToClient(&rcEdit);
+    CRect rcIn;
+    rcIn.IntersectRect(&rcEdit, w.CellRect(w.grid.CurrentRow(), w.grid.CurrentColumn()));
+    EXPECT_EQ(rcIn, rcEdit);
+    TypeText("typed");
+    EXPECT_EQ(w.Text(w.grid.CurrentRow(), w.grid.CurrentColumn()), "typed");
+}
+
+TEST(GridAnswers, AClickOverAnOpenListEndsWhereTheParentLeads) {
+    GridWindow<> w(5);
+    ClickAt(w.grid.m_hWnd, w.At(0, kList));
+    TypeKey(VK_DOWN);
+    w.parent.m_answer = [&](UINT nCode) {
+        if (nCode == kListChanged) {
+            w.grid.GotoCell(3, kEditButton, TRUE);
+        }
+    };
+    ClickAt(w.grid.m_hWnd, w.At(1, kEdit));
+    ExpectEditInCurrentCell(w, "3,2");
+    w.other.SetFocus();
+    EXPECT_EQ(w.Text(1, kEdit), "abc");
+}
+
+TEST(GridAnswers, AnOpeningEditGivesWayWhereTheParentLeadsElsewhere) {
+    for (const bool bOpens : {false, true}) {
+        GridWindow<> w(5);
+        w.other.SetFocus();
+        BringToFront(w.parent.m_hWnd);
+        bool bLed = false;
+        w.parent.m_answer = [&](UINT nCode) {
+            if (nCode == EN_CHANGE && !bLed) {
+                bLed = true;
+                w.grid.GotoCell(3, bOpens ? kEditButton : kStatic, TRUE);
+            }
+        };
+        ClickAt(w.grid.m_hWnd, w.At(1, kEdit));
+        EXPECT_TRUE(bLed);
+        if (bOpens) {
+            ExpectEditInCurrentCell(w, "3,2");
+        } else {
+            EXPECT_EQ(w.Current(), "3,0");
+            EXPECT_EQ(w.Edit(), nullptr);
+            EXPECT_EQ(CWnd::GetFocus(), &w.grid);
+        }
+    }
+}
+
+TEST(GridStore, HasACurrentCellWithoutAWindow) {
+    OpenGrid grid;
+    grid.AddColumn(gctStatic, 50);
+    grid.AddColumn(gctEdit, 50);
+    for (int i = 0; i < 3; ++i) {
+        grid.AddRow("a\tb", 0);
+    }
+    const auto state = [&] {
+        std::string strState = std::to_string(grid.CurrentRow()) + "," +
+                               std::to_string(grid.CurrentColumn()) + " marked";
+        for (int nRow = 0; nRow < 3; ++nRow) {
+            strState += (grid.RowAt(nRow).dwState & GRS_CURRENT) != 0 ? " yes" : " no";
+        }
+        return strState;
+    };
+    grid.GotoCell(1, 0, FALSE);
+    EXPECT_EQ(state(), "1,0 marked no yes no");
+    grid.GotoCell(2, 1, TRUE);
+    EXPECT_EQ(state(), "2,1 marked no no yes");
 }
 
 // --- Anything in any order
@@ -299,7 +380,14 @@ TEST(GridMonkey, SurvivesAnyOrderOfInputAndAnswers) {
                 BringToFront(pick(3) == 0 ? away.m_hWnd : w.parent.m_hWnd);
                 break;
             case 12:
-                w.grid.SendMessage(WM_VSCROLL, static_cast<WPARAM>(pick(8)));
+                if (pick(2) != 0) {
+                    w.grid.SendMessage(WM_VSCROLL, static_cast<WPARAM>(pick(8)));
+                } else if (pick(2) != 0) {
+                    w.grid.EnsureRowVisible(pick(40));
+                } else {
+                    w.grid.SetWindowPos(nullptr, 0, 0, 300 + pick(120), 20 + pick(180),
+                                        SWP_NOMOVE | SWP_NOZORDER);
+                }
                 break;
             case 13:
                 w.grid.SetCellReadOnly(pick(9), pick(5), pick(3) == 0);
@@ -329,6 +417,14 @@ TEST(GridMonkey, SurvivesAnyOrderOfInputAndAnswers) {
         ASSERT_LT(w.grid.CurrentRow(), w.grid.NumRows()) << "step " << i;
         ASSERT_TRUE(w.grid.m_nTopRow >= 0 || w.grid.NumRows() == 0) << "step " << i;
         ASSERT_FALSE(w.grid.m_bIgnoreFocus) << "step " << i;
+        if (w.Edit() != nullptr && w.grid.CurrentRow() >= 0) {
+            w.grid.UpdateWindow();
+            CRect rcEdit;
+            ::GetWindowRect(w.Edit(), &rcEdit);
+            w.grid.ScreenToClient(&rcEdit);
+            const CRect rcCell = w.CellRect(w.grid.CurrentRow(), w.grid.CurrentColumn());
+            ASSERT_EQ(rcEdit.TopLeft(), rcCell.TopLeft() + CSize(2, 1)) << "step " << i;
+        }
     }
     EXPECT_GT(nEdits, 100);
     EXPECT_GT(nLists, 20);

@@ -206,6 +206,30 @@ TEST_F(GridEdit, DeletedRowsTakeWhatWasTypedWithThem) {
     EXPECT_EQ(w.Text(0, kList) + w.Told(), "two");
 }
 
+TEST_F(GridEdit, AWindowThatGoesLeavesWhatWasTypedInTheStore) {
+    Click(0, kEdit);
+    TypeText("new");
+    grid.DestroyWindow();
+    EXPECT_EQ(w.Text(0, kEdit), "new");
+    w.parent.DestroyWindow();
+    EXPECT_EQ(w.Text(0, kEdit), "new");
+}
+
+TEST_F(GridEdit, TheKeyThatOpensTheFirstCellIsTypedThere) {
+    grid.SetColType(0, gctEdit);
+    grid.SetFocus();
+    TypeText("abc");
+    EXPECT_EQ(w.Text(0, 0), "abc");
+    for (const WORD vk : {VK_BACK, VK_RETURN, VK_ESCAPE}) {
+        grid.DeleteAllRows();
+        grid.AddRow("name", 0);
+        w.other.SetFocus();
+        grid.SetFocus();
+        TypeKey(vk);
+        EXPECT_EQ(w.Current() + w.Text(0, 0), "0,0name") << "only what is to be seen is typed";
+    }
+}
+
 // --- The list
 
 TEST_F(GridEdit, ADropListOpensByAClickAnywhereInTheCell) {
@@ -422,6 +446,82 @@ TEST_F(GridEdit, KeysWalkThroughTheRows) {
 }
 
 // --- In a dialog
+
+// Asks something in a message box at the first change, if it was told to.
+class AskingDialog : public CDialog {
+public:
+    bool m_bAsk = false;
+
+protected:
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
+        if (LOWORD(wParam) == IDC_GRID && HIWORD(wParam) == EN_CHANGE && m_bAsk) {
+            m_bAsk = false;
+            PostMessage(kAnswer);
+            ::MessageBox(m_hWnd, "Is it?", kBox, MB_OK);
+        }
+        return CDialog::OnCommand(wParam, lParam);
+    }
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == kAnswer) {
+            ::PostMessage(::FindWindow(nullptr, kBox), WM_COMMAND, IDOK, 0);
+        }
+        return CDialog::WindowProc(message, wParam, lParam);
+    }
+
+private:
+    static constexpr UINT kAnswer = WM_APP;
+    static constexpr LPCSTR kBox = "The grid's question";
+};
+
+class GridInDialog : public testing::Test {
+protected:
+    GridInDialog() {
+        QVGridCtrl::RegisterDlgControlClass(IDD_GRID);
+        dlg.Create(IDD_GRID);
+        grid.AddColumn(gctEdit, 50);
+        grid.AddRow("old", 0);
+        grid.Initialize(IDC_GRID, &dlg);
+        dlg.ShowWindow(SW_SHOW);
+        grid.UpdateWindow();
+        ClickAt(grid.m_hWnd, CPoint(10, 5));
+    }
+    std::string Text() {
+        CString str;
+        grid.GetCellText(0, 0, str);
+        return std::string(str);
+    }
+    bool FocusInShownEdit() {
+        HWND hWndEdit = ::GetDlgItem(grid.m_hWnd, kGridEditChild);
+        return ::GetFocus() == hWndEdit && ::IsWindowVisible(hWndEdit);
+    }
+
+    AskingDialog dlg;
+    OpenGrid grid;
+};
+
+TEST_F(GridInDialog, TypingGoesOnAfterAnotherWindowWasInFront) {
+    TypeText("one");
+    RecordingParent away(CSize(50, 50));
+    ASSERT_TRUE(BringToFront(away.m_hWnd));
+    PumpPending();
+    EXPECT_EQ(Text(), "one");
+    ASSERT_TRUE(BringToFront(dlg.m_hWnd));
+    PumpPending();
+    EXPECT_TRUE(FocusInShownEdit());
+    TypeText("two");
+    EXPECT_EQ(Text(), "two") << "all was selected again";
+}
+
+TEST_F(GridInDialog, TypingGoesOnAfterAMessageBoxOfTheParent) {
+    dlg.m_bAsk = true;
+    TypeText("x");
+    ASSERT_FALSE(dlg.m_bAsk);
+    EXPECT_TRUE(FocusInShownEdit());
+    EXPECT_EQ(Text(), "x");
+    TypeKey(VK_END);
+    TypeText("yz");
+    EXPECT_EQ(Text(), "xyz");
+}
 
 TEST(GridDialog, ATemplateNamesTheClassAndTheGridTakesTheDialogsFont) {
     QVGridCtrl::RegisterControlClass(nullptr);

@@ -159,6 +159,44 @@ TEST_F(GridPaint, TheBarComesWithOneRowMoreThanFits) {
     EXPECT_EQ(Shown().Count(kFace, CRect(59, 5 * h, 60, 5 * h + h / 2)), h / 2);
 }
 
+TEST_F(GridPaint, AResizedWindowFitsItsBarItsTopRowAndItsLastColumn) {
+    AddRows(10);
+    const auto fit = [&](int nHeight) {
+        SetHeight(nHeight);
+        SCROLLINFO info{};
+        grid.GetScrollInfo(SB_VERT, &info, SIF_PAGE | SIF_POS);
+        return "top " + std::to_string(grid.m_nTopRow) +
+               (HasBar()
+                    ? " bar at " + std::to_string(info.nPos) + " page " + std::to_string(info.nPage)
+                    : " no bar");
+    };
+    EXPECT_EQ(fit(5 * h), "top 0 bar at 0 page 5");
+    grid.SendMessage(WM_VSCROLL, SB_BOTTOM);
+    EXPECT_EQ(fit(8 * h), "top 2 bar at 2 page 8") << "no empty space under the last row";
+    EXPECT_EQ(fit(12 * h), "top 0 no bar");
+    grid.SendMessage(WM_SETREDRAW, FALSE);
+    EXPECT_EQ(fit(4 * h), "top 0 no bar");
+    grid.SendMessage(WM_SETREDRAW, TRUE);
+    grid.UpdateWindow();
+    EXPECT_EQ(fit(4 * h), "top 0 bar at 0 page 4");
+
+    SetHeight(12 * h);
+    grid.UpdateWindow();
+    grid.SetWindowPos(nullptr, 0, 0, 500, 12 * h, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_EQ(Picture::OfClient(grid.m_hWnd).Count(kFace, CRect(419, 0, 420, 10 * h)), 10)
+        << "only the lines under the cells are left at the old edge";
+}
+
+TEST_F(GridPaint, AWindowResizedBeforeItsFirstPaintWaitsForItsFont) {
+    OpenGrid fresh;
+    fresh.AddColumn(gctStatic, 50);
+    fresh.AddRow("a", 0);
+    fresh.ModifyDefStyle(WS_VISIBLE, 0);
+    fresh.Create(kGridId + 1, CRect(0, 0, 10, 10), &w.parent);
+    fresh.MoveWindow(0, 0, 10, 12);
+    EXPECT_EQ(fresh.m_nCellHeight, -1);
+}
+
 TEST_F(GridPaint, ScrollingMovesThePixelsAndPaintsWhatComesIntoView) {
     SetHeight(5 * h);
     AddRows(20);

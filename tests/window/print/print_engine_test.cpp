@@ -37,6 +37,22 @@ protected:
         return dc.All();
     }
 
+    // The same, with some ink on the page and none below it.
+    std::string CutPage(QVPrintEngine& engine, unsigned nPage, const CRect& rc) {
+        dc.FillSolidRect(0, 0, 900, 900, RGB(255, 255, 255));
+        const std::string strPage = Page(engine, nPage, rc);
+        int nInk = 0;
+        int nOutside = 0;
+        for (int y = 0; y < 3 * nSection; ++y) {
+            for (int x = 0; x < 100; ++x) {
+                (y < rc.bottom ? nInk : nOutside) += dc.GetPixel(x, y) != RGB(255, 255, 255);
+            }
+        }
+        EXPECT_GT(nInk, 0);
+        EXPECT_EQ(nOutside, 0);
+        return strPage;
+    }
+
     TextRecorder dc;
     CFont header, normal, section;
     int nHeader, nNormal, nSection;
@@ -127,6 +143,45 @@ TEST_F(PrintEngine, StringListsUseTheColumnsOfAList) {
     EXPECT_EQ(dc.texts[7].rc.top, nHeader * 3 / 2 + 2 * nNormal);
 }
 
+TEST_F(PrintEngine, NumbersWiderThanTheirColumnAreWholeWhereItFitsThem) {
+    const CRect rc(0, 0, 800, 800);
+    for (const char* psz : {"1,234,567,890", "42"}) {
+        for (const bool bFit : {false, true}) {
+            QVPrintEngine engine(&dc, &header, &normal, &section);
+            QVPeDataLabeledList& list = engine.AddLabeledDataList(&dc);
+            list.SetFitNumbers(bFit);
+            list.AddData("a", psz, QVPeDataLabeledListItem::Right);
+            list.AddData("b", "a text that is wider than any number",
+                         QVPeDataLabeledListItem::Left);
+            ASSERT_EQ(engine.Paginate(rc), 1u);
+            Page(engine, 1, rc);
+            const int nLeast = WidthOf(normal, "9,999,999");
+            const int nWanted = bFit ? std::max(nLeast, WidthOf(normal, psz)) : nLeast;
+            EXPECT_EQ(dc.texts[1].rc.Width(), nWanted) << psz;
+        }
+    }
+}
+
+// Nothing of a column that is left out, or too narrow for its padding, may get on paper.
+TEST_F(PrintEngine, StringListsDrawNothingInCellsWithoutWidth) {
+    ListWindow<> w("a\tb\tc\td");
+    w.list.SetColFormat(1, LVCFMT_CENTER);
+    w.list.SetColFormat(2, LVCFMT_RIGHT);
+    w.list.ExcludeColumnFromPrinting(1);
+    w.list.SetColumnWidth(2, 1);
+    CStringArray rows;
+    rows.Add("1\tWWWW\tMMMM\t4");
+    rows.Add("1\tlast");
+    QVPrintEngine engine(&dc, &header, &normal, &section);
+    engine.AddStringList(&rows, &w.list, &dc);
+    const CRect rc(0, 0, 600, 800);
+    ASSERT_EQ(engine.Paginate(rc), 1u);
+    const std::string strPage = Page(engine, 1, rc);
+    EXPECT_EQ(strPage.substr(strPage.find("d|")), "d|1|4|1|last");
+    EXPECT_EQ(dc.texts.back().rc.right, 600 - 6) << "the last field has all that is left";
+    EXPECT_GT(dc.texts.back().rc.Width(), 100);
+}
+
 TEST_F(PrintEngine, LabeledListsLineUpTextsAndNumbers) {
     QVPrintEngine engine(&dc, &header, &normal, &section);
     QVPeDataLabeledList& empty = engine.AddLabeledDataList(&dc);
@@ -155,12 +210,13 @@ TEST_F(PrintEngine, LabeledListsLineUpTextsAndNumbers) {
     EXPECT_EQ(dc.texts[0].rc.top, 20);
 }
 
-// A page that opens behind a split item still carries that item's row number, by design. Rows that
-// there are not take no room.
+// A page that opens behind a split item still carries that item's row number, unless all rows are
+// asked for. Rows that there are not take no room.
 TEST_F(PrintEngine, ARowNumberLeftFromASplitItemPrintsFromThatRow) {
     const int nPage = 2 * nSection;
-    const auto run = [&](int nEntries) {
+    const auto run = [&](int nEntries, bool bAllRows) {
         QVPrintEngine engine(&dc, &header, &normal, &section);
+        engine.SetPrintAllRows(bAllRows);
         CStringArray text;
         for (const char* psz : {"1", "2", "3", "4"}) {
             text.Add(psz);
@@ -176,9 +232,11 @@ TEST_F(PrintEngine, ARowNumberLeftFromASplitItemPrintsFromThatRow) {
         return Page(engine, 3, rc);
     };
     ASSERT_GE(nPage, 3 * nNormal);
-    EXPECT_EQ(run(3).substr(0, 5), "row|2");
-    EXPECT_EQ(run(2), "end");
+    EXPECT_EQ(run(3, false).substr(0, 5), "row|2");
+    EXPECT_EQ(run(2, false), "end");
     EXPECT_EQ(dc.texts[0].rc.top, 0);
+    EXPECT_EQ(run(3, true).substr(0, 17), "row|0|row|1|row|2");
+    EXPECT_EQ(run(2, true).substr(0, 11), "row|0|row|1");
 }
 
 TEST_F(PrintEngine, WhatFitsNoPageIsCutOnAPageOfItsOwn) {
@@ -189,17 +247,7 @@ TEST_F(PrintEngine, WhatFitsNoPageIsCutOnAPageOfItsOwn) {
     const CRect rc(0, 0, 600, nSection + nSection / 2);
     ASSERT_EQ(engine.Paginate(rc), 3u);
     EXPECT_EQ(Page(engine, 1, rc), "before");
-    dc.FillSolidRect(0, 0, 900, 900, RGB(255, 255, 255));
-    EXPECT_EQ(Page(engine, 2, rc), "WWWWWWWW");
-    int nInk = 0;
-    int nOutside = 0;
-    for (int y = 0; y < 3 * nSection; ++y) {
-        for (int x = 0; x < 100; ++x) {
-            (y < rc.bottom ? nInk : nOutside) += dc.GetPixel(x, y) != RGB(255, 255, 255);
-        }
-    }
-    EXPECT_GT(nInk, 0);
-    EXPECT_EQ(nOutside, 0);
+    EXPECT_EQ(CutPage(engine, 2, rc), "WWWWWWWW");
     EXPECT_EQ(Page(engine, 3, rc), "after");
     QVPrintEngine flat(&dc, &header, &normal, &section);
     flat.AddText("x", &dc, nullptr);
@@ -207,6 +255,74 @@ TEST_F(PrintEngine, WhatFitsNoPageIsCutOnAPageOfItsOwn) {
     flat.AddGroupHeader("y");
     EXPECT_EQ(flat.Paginate(CRect(0, 0, 600, 0)), 2u);
     EXPECT_EQ(flat.Paginate(CRect(0, 0, 0, -5)), 2u);
+}
+
+TEST_F(PrintEngine, RowsThatFitNoPageAreCutAndNotLeftOut) {
+    ListWindow<> w("a\tb");
+    w.Add("0\tx");
+    w.Add("1\ty");
+    CStringArray rows;
+    rows.Add("2\tz");
+    QVPrintEngine engine(&dc, &header, &normal, &section);
+    engine.AddText("WWWW", &dc, &section);
+    engine.AddList(&w.list, &dc);
+    const CRect rc(0, 0, 600, nSection / 2);
+    ASSERT_EQ(engine.Paginate(rc), 2u);
+    EXPECT_EQ(CutPage(engine, 1, rc), "WWWW");
+    const CRect rcLow(0, 0, 600, nHeader * 3 / 2 + nNormal / 2);
+    EXPECT_EQ(CutPage(engine, 2, rcLow), "a|b|0|x") << "the row that the least height counts";
+    QVPrintEngine strings(&dc, &header, &normal, &section);
+    strings.AddStringList(&rows, &w.list, &dc);
+    ASSERT_EQ(strings.Paginate(rcLow), 1u);
+    EXPECT_EQ(CutPage(strings, 1, rcLow), "a|b|2|z");
+}
+
+// One of its printing steps throws.
+class ThrowingList : public QVListCtrlEx {
+public:
+    enum Step { Begin, HeaderHeight, ItemHeight, None };
+    void BeginPrinting(CDC* pDC, CPrintInfo* pInfo) override {
+        QVListCtrlEx::BeginPrinting(pDC, pInfo);
+        ThrowAt(Begin);
+    }
+    int HeaderPrintHeight(CDC* pDC) override {
+        ThrowAt(HeaderHeight);
+        return QVListCtrlEx::HeaderPrintHeight(pDC);
+    }
+    int CalculateItemHeight(CDC* pDC) override {
+        ThrowAt(ItemHeight);
+        return QVListCtrlEx::CalculateItemHeight(pDC);
+    }
+    void EndPrinting(CDC* pDC, CPrintInfo* pInfo) override {
+        ++nEnded;
+        QVListCtrlEx::EndPrinting(pDC, pInfo);
+    }
+    Step step = None;
+    int nEnded = 0;
+
+private:
+    void ThrowAt(Step where) {
+        if (step == where) {
+            throw where;
+        }
+    }
+};
+
+TEST_F(PrintEngine, AListStepThatThrowsEndsThePrintRun) {
+    ListWindow<ThrowingList> w("a");
+    TextRecorder other;
+    const int nOther = other.GetTextExtent("0", 1).cy;
+    for (const auto step :
+         {ThrowingList::Begin, ThrowingList::HeaderHeight, ThrowingList::ItemHeight}) {
+        w.list.step = step;
+        w.list.nEnded = 0;
+        QVPrintEngine engine(&dc, &header, &normal, &section);
+        EXPECT_THROW(engine.AddList(&w.list, &dc), ThrowingList::Step);
+        w.list.step = ThrowingList::None;
+        EXPECT_EQ(w.list.nEnded, 1);
+        EXPECT_EQ(w.list.CalculateItemHeight(&other), nOther) << "the engine's font is forgotten";
+        EXPECT_EQ(engine.Paginate(CRect(0, 0, 100, 100)), 0u);
+    }
 }
 
 TEST_F(PrintEngine, CopiesShareTheirItemsAndNoHandleIsKept) {

@@ -126,6 +126,58 @@ TEST(TreePaint, StateImageZeroIsAPicture) {
     EXPECT_EQ(Shown(w.tree).Count(RGB(192, 192, 192), rcBox), 80) << "grey";
 }
 
+TEST(TreePaint, CheckBoxesOutliveABitmapThatIsMissing) {
+    TreeWindow<> w;
+    w.tree.SetShowStatesAtRoot(TRUE);
+    w.tree.LoadStandardCheckStates();
+    w.tree.SetCheck(w.Add("a row"), TRUE, FALSE);
+    const Picture before = Shown(w.tree);
+    constexpr UINT kNoBitmap = 4711;
+    EXPECT_FALSE(w.tree.LoadTreeStates(kNoBitmap));
+    EXPECT_TRUE(Shown(w.tree) == before);
+    EXPECT_TRUE(w.tree.LoadTreeStates(30008));
+    EXPECT_TRUE(Shown(w.tree) == before);
+}
+
+TEST(TreePaint, ListsSetBeforeTheFirstItemDecideTheRowHeight) {
+    TreeWindow<> w;
+    w.tree.UpdateWindow();
+    CImageList images;
+    images.Create(16, 40, ILC_COLOR, 1, 1);
+    CBitmap bitmap;
+    bitmap.CreateBitmap(16, 40, 1, 1, nullptr);
+    images.Add(&bitmap, static_cast<CBitmap*>(nullptr));
+    w.tree.SetImageList(&images, TVSIL_NORMAL);
+    w.Add("a row");
+    EXPECT_EQ(w.RowHeight(), 40);
+    w.tree.SetImageList(nullptr, TVSIL_NORMAL);
+}
+
+// A change of the order or of parents shows without any other call.
+TEST(TreePaint, SortedAndMovedRowsShowAtOnce) {
+    TreeWindow<> w;
+    HTREEITEM p = w.Add("p");
+    // The last row in view, the eleventh child, is to be the first one.
+    std::vector<HTREEITEM> rows;
+    for (const char ch : std::string("bcdefghijkalmnopq")) {
+        rows.push_back(w.Add(std::string(1, ch).c_str(), p));
+    }
+    w.tree.Expand(p, TVE_EXPAND, TRUE, FALSE);
+    const auto shownOf = [&w](auto change) {
+        w.tree.UpdateWindow();
+        change();
+        w.tree.UpdateWindow();
+        return Picture::OfClient(w.tree.m_hWnd);
+    };
+    const Picture sorted = shownOf([&] { EXPECT_TRUE(w.tree.SortChildren(p)); });
+    EXPECT_TRUE(w.tree.ItemVisible(rows[9])) << "k";
+    w.tree.SetRedraw(TRUE);  // refits and paints everything
+    EXPECT_TRUE(Shown(w.tree) == sorted);
+    const Picture moved = shownOf([&] { EXPECT_TRUE(w.tree.ChangeParent(rows.back(), nullptr)); });
+    EXPECT_FALSE(moved == sorted);
+    EXPECT_TRUE(Shown(w.tree) == moved);
+}
+
 TEST(TreePaint, ScrollsToTheSamePixelsAsAFullPaintGives) {
     TreeWindow<> w;
     std::mt19937 random(4);

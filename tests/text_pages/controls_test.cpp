@@ -1,0 +1,182 @@
+// What the controls show of a text, beside the platform's wide calls.
+#include <gtest/gtest.h>
+
+#include "ink.h"
+#include "page_text.h"
+#include "support/grid_window.h"
+#include "support/list_window.h"
+#include "support/text_window.h"
+#include "support/tree_window.h"
+
+namespace {
+
+constexpr COLORREF kText = RGB(10, 20, 200);
+constexpr COLORREF kBack = RGB(250, 240, 200);
+
+Picture Fresh(CWnd& wnd) {
+    wnd.Invalidate(FALSE);
+    return Picture::OfClient(wnd.m_hWnd);
+}
+
+// The ink that a control leaves for each word where it had a blank before, and the platform's. show
+// gives the control a text; the font is the control's.
+template <class Show>
+void ExpectInk(CWnd& parent, CWnd& wnd, HFONT hFont, COLORREF crText, COLORREF crBk, Show show) {
+    WideLabel label(parent, hFont, crText, crBk);
+    for (const PageWord& word : PageWords()) {
+        label.ShowWindow(SW_HIDE);
+        show(" ");
+        const Picture blank = Fresh(wnd);
+        show(word.str);
+        const Ink ink(Fresh(wnd), blank, crBk);
+        label.ShowWindow(SW_SHOW);
+        const Ink wanted = label.Shows(word.strWide);
+        ASSERT_FALSE(wanted.IsEmpty());
+        EXPECT_EQ(ink, wanted) << word.str;
+    }
+}
+
+HFONT FontOf(CWnd& wnd) {
+    return reinterpret_cast<HFONT>(wnd.SendMessage(WM_GETFONT));
+}
+
+TEST(TextControls, TreeShowsItemsAndTheirFields) {
+    TreeWindow<> w(WS_CHILD | WS_VISIBLE);
+    const int nStyle = w.tree.AddStyle(kText, kBack);
+    const int stops[] = {100};
+    w.tree.UseTabs(stops, 1);
+    const HTREEITEM h = w.Add(w.tree.MakeStyleText("first", nStyle));
+    const HFONT hFont = FontOf(w.parent);
+    ExpectInk(w.parent, w.tree, hFont, kText, kBack, [&](const std::string& str) {
+        w.tree.SetItemText(h, w.tree.MakeStyleText(str.c_str(), nStyle));
+    });
+    ExpectInk(w.parent, w.tree, hFont, kText, kBack, [&](const std::string& str) {
+        CString strRow = w.tree.MakeStyleText("x", nStyle);
+        w.tree.AppendStyleText(strRow, str.c_str(), nStyle);
+        w.tree.SetItemText(h, strRow);
+    });
+    for (const PageWord& word : PageWords()) {
+        w.tree.SetItemText(h, word.str.c_str());
+        EXPECT_EQ(std::string(w.tree.GetItemText(h)), word.str);
+        EXPECT_EQ(w.tree.FindItem(nullptr, word.str.c_str(), -1), h);
+    }
+}
+
+TEST(TextControls, ListShowsCellsAndHeadings) {
+    ListWindow<> w("one\ttwo");
+    w.list.SetColWidth(0, 150, nullptr);
+    w.list.SetColWidth(1, 150, nullptr);
+    w.list.SetAllowSel(FALSE);
+    const int nStyle = w.list.AddStyle(kText, kBack);
+    w.Add("x");
+    const HFONT hFont = FontOf(w.list);
+    for (const char* pszBefore : {"", "x\t"}) {
+        ExpectInk(w.parent, w.list, hFont, kText, kBack, [&](const std::string& str) {
+            CString strRow = pszBefore;
+            w.list.AppendStyleText(strRow, str.c_str(), nStyle);
+            w.list.SetItemString(0, strRow);
+        });
+    }
+    const auto setHeading = [&](const std::string& str) {
+        LVCOLUMN column{};
+        column.mask = LVCF_TEXT;
+        column.pszText = const_cast<char*>(str.c_str());
+        w.list.SetColumn(1, &column);
+    };
+    CHeaderCtrl& header = *w.list.GetHeaderCtrl();
+    setHeading(" ");
+    const Picture blank = Fresh(header);
+    const COLORREF crHeading = blank.At(250, blank.Height() / 2);
+    ExpectInk(w.parent, header, FontOf(header), ::GetSysColor(COLOR_BTNTEXT), crHeading,
+              setHeading);
+    for (const PageWord& word : PageWords()) {
+        QVListCtrlEx list;
+        list.Create(5, CRect(0, 0, 100, 100), &w.parent);
+        list.AddHeader((word.str + "\t" + word.str).c_str());
+        CString strHeadings;
+        EXPECT_EQ(list.MakeHeaderString(strHeadings), 2);
+        EXPECT_EQ(std::string(strHeadings), word.str + "\t" + word.str);
+    }
+}
+
+TEST(TextControls, ListKeepsLongTextsWhole) {
+    ListWindow<> w("one\ttwo");
+    for (const size_t nChars : {80u, 90u, 130u, 250u, 2000u}) {
+        const PageWord word = LongWord(nChars);
+        const int nRow = w.Add((word.str + "\tx").c_str());
+        EXPECT_EQ(w.Row(nRow), word.str + "\tx") << nChars;
+        w.list.SetItemString(nRow, ("y\t" + word.str).c_str());
+        EXPECT_EQ(w.Row(nRow), "y\t" + word.str) << nChars;
+    }
+}
+
+TEST(TextControls, ListHeadingOf254BytesIsCutBehindACharacter) {
+    const PageWord word = LongWord(300);
+    ListWindow<> w(word.str.c_str());
+    CString strHeading;
+    w.list.MakeHeaderString(strHeading);
+    const std::string strGot(strHeading);
+    EXPECT_LE(strGot.size(), 254u);
+    EXPECT_GT(strGot.size(), 250u);
+    EXPECT_EQ(word.str.find(strGot), 0u);
+    EXPECT_EQ(word.strWide.find(FromPage(strGot)), 0u);
+}
+
+TEST(TextControls, GridShowsCells) {
+    GridWindow<> w(1);
+    w.grid.SetColWidth(kEdit, 150);
+    const HFONT hFont = FontOf(w.parent);
+    ExpectInk(w.parent, w.grid, hFont, ::GetSysColor(COLOR_WINDOWTEXT), ::GetSysColor(COLOR_WINDOW),
+              [&](const std::string& str) { w.grid.SetCellText(0, kEdit, str.c_str()); });
+    for (const PageWord& word : PageWords()) {
+        EXPECT_GE(w.grid.AutoSizeColumn(kEdit, 0), 0);
+        w.grid.SetCellText(0, kEdit, word.str.c_str());
+        EXPECT_EQ(w.Text(0, kEdit), word.str);
+    }
+}
+
+TEST(TextControls, TextWindowShowsLines) {
+    TextWindow<> w;
+    const int nStyle = w.text.AddStyle(kText, kBack);
+    const HFONT hFont = static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT));
+    ExpectInk(w.parent, w.text, hFont, kText, kBack, [&](const std::string& str) {
+        w.text.ClearTextData();
+        w.text.AddText(str.c_str(), nStyle);
+        w.text.CalcLayout();
+    });
+}
+
+TEST(TextControls, CaptionsShowTheirText) {
+    FontParent parent(CSize(300, 200));
+    QVTreeHeaderWnd wnd;
+    CRect rc(0, 0, 300, 200);
+    ASSERT_TRUE(wnd.Create(WS_CHILD | WS_VISIBLE, rc, &parent, 12));
+    ExpectInk(parent, wnd, FontOf(parent), ::GetSysColor(COLOR_WINDOWTEXT),
+              ::GetSysColor(COLOR_BTNFACE),
+              [&](const std::string& str) { wnd.SetHeaderText(str.c_str()); });
+}
+
+// --- Word wrap
+
+class WrapText : public OpenText {
+public:
+    using QVTextWnd::SplitTextLines;
+};
+
+TEST(TextControls, WrapBreaksBetweenCharacters) {
+    TextWindow<WrapText> w;
+    CClientDC dc(&w.text);
+    const PageWord word = LongWord(300);
+    for (const int nWidth : {1, 9, 40, 333}) {
+        CArray<int, int> aStarts;
+        w.text.SplitTextLines(&dc, nWidth, word.str.c_str(), aStarts);
+        ASSERT_GT(aStarts.GetSize(), 5);
+        for (INT_PTR i = 0; i < aStarts.GetSize(); ++i) {
+            const std::string strBefore = word.str.substr(0, static_cast<size_t>(aStarts[i]));
+            ASSERT_EQ(word.strWide.find(FromPage(strBefore)), 0u)
+                << "piece " << i << " at width " << nWidth;
+        }
+    }
+}
+
+}  // namespace

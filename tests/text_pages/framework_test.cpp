@@ -1,0 +1,442 @@
+// The framework's own texts: what is set comes back, and means the same to the wide calls.
+#include <gtest/gtest.h>
+
+#include "afxcmn.h"
+#include "afxdlgs.h"
+#include "afxext.h"
+#include "page_text.h"
+#include "support/picture.h"
+
+namespace {
+
+BOOL MakePopup(CWnd& wnd) {
+    return wnd.CreateEx(0, nullptr, "", WS_POPUP, 0, 0, 300, 200, nullptr, nullptr);
+}
+
+std::wstring WideTextOf(HWND hWnd) {
+    wchar_t szText[256] = L"";
+    ::GetWindowTextW(hWnd, szText, 256);
+    return szText;
+}
+
+TEST(FrameworkText, CaptionsOfWindowsAndControls) {
+    CWnd parent;
+    ASSERT_TRUE(MakePopup(parent));
+    CEdit edit;
+    CButton button;
+    CStatic label;
+    const CRect rc(0, 0, 100, 20);
+    ASSERT_TRUE(edit.Create(WS_CHILD | ES_AUTOHSCROLL, rc, &parent, 1));
+    ASSERT_TRUE(button.Create("", WS_CHILD, rc, &parent, 2));
+    ASSERT_TRUE(label.Create("", WS_CHILD, rc, &parent, 3));
+    for (const PageWord& word : PageWords()) {
+        for (CWnd* pWnd : std::initializer_list<CWnd*>{&parent, &edit, &button, &label}) {
+            pWnd->SetWindowText(word.str.c_str());
+            EXPECT_EQ(word.strWide, WideTextOf(pWnd->m_hWnd));
+            CString strBack("before");
+            pWnd->GetWindowText(strBack);
+            EXPECT_EQ(word.str, std::string(strBack));
+            EXPECT_GE(pWnd->GetWindowTextLength(), strBack.GetLength());
+            char szBack[256] = "";
+            pWnd->GetWindowText(szBack, sizeof szBack);
+            EXPECT_EQ(word.str, szBack);
+        }
+        CWnd made;
+        ASSERT_TRUE(
+            made.CreateEx(0, nullptr, word.str.c_str(), WS_POPUP, 0, 0, 9, 9, nullptr, nullptr));
+        EXPECT_EQ(word.strWide, WideTextOf(made.m_hWnd));
+    }
+}
+
+TEST(FrameworkText, MenusAndTheirRows) {
+    CMenu menu;
+    ASSERT_TRUE(menu.CreatePopupMenu());
+    UINT nID = 100;
+    for (const PageWord& word : PageWords()) {
+        ASSERT_TRUE(menu.AppendMenu(MF_STRING, ++nID, word.str.c_str()));
+        CString strBack;
+        menu.GetMenuString(nID, strBack, MF_BYCOMMAND);
+        EXPECT_EQ(word.str, std::string(strBack));
+        wchar_t szWide[256] = L"";
+        ::GetMenuStringW(menu.m_hMenu, nID, szWide, 256, MF_BYCOMMAND);
+        EXPECT_EQ(word.strWide, szWide);
+    }
+}
+
+TEST(FrameworkText, BoxesFindWhatTheyWereGiven) {
+    CWnd parent;
+    ASSERT_TRUE(MakePopup(parent));
+    CListBox list;
+    CComboBox combo;
+    ASSERT_TRUE(list.Create(WS_CHILD, CRect(0, 0, 100, 100), &parent, 1));
+    ASSERT_TRUE(combo.Create(WS_CHILD | CBS_DROPDOWN, CRect(0, 0, 100, 100), &parent, 2));
+    for (const PageWord& word : PageWords()) {
+        const int nItem = list.AddString(word.str.c_str());
+        CString strBack;
+        list.GetText(nItem, strBack);
+        EXPECT_EQ(word.str, std::string(strBack));
+        EXPECT_EQ(nItem, list.FindStringExact(-1, word.str.c_str()));
+        const int nChoice = combo.AddString(word.str.c_str());
+        combo.GetLBText(nChoice, strBack);
+        EXPECT_EQ(word.str, std::string(strBack));
+        combo.SetCurSel(combo.FindStringExact(-1, word.str.c_str()));
+        combo.GetWindowText(strBack);
+        EXPECT_EQ(word.str, std::string(strBack));
+    }
+}
+
+TEST(FrameworkText, CommonControls) {
+    CWnd parent;
+    ASSERT_TRUE(MakePopup(parent));
+    const CRect rc(0, 0, 100, 100);
+    CListCtrl list;
+    CTreeCtrl tree;
+    CTabCtrl tab;
+    CHeaderCtrl header;
+    ASSERT_TRUE(list.Create(WS_CHILD | LVS_REPORT, rc, &parent, 1));
+    ASSERT_TRUE(tree.Create(WS_CHILD, rc, &parent, 2));
+    ASSERT_TRUE(tab.Create(WS_CHILD, rc, &parent, 3));
+    ASSERT_TRUE(header.Create(WS_CHILD, rc, &parent, 4));
+    list.InsertColumn(0, "column", LVCFMT_LEFT, 50);
+    for (const PageWord& word : PageWords()) {
+        const int nItem = list.InsertItem(0, word.str.c_str());
+        EXPECT_EQ(word.str, std::string(list.GetItemText(nItem, 0)));
+        const HTREEITEM hItem = tree.InsertItem(word.str.c_str());
+        EXPECT_EQ(word.str, std::string(tree.GetItemText(hItem)));
+        char szBack[256] = "";
+        std::string strText(word.str);
+        TCITEM tabItem = {};
+        tabItem.mask = TCIF_TEXT;
+        tabItem.pszText = strText.data();
+        const int nTab = tab.InsertItem(0, &tabItem);
+        tabItem.pszText = szBack;
+        tabItem.cchTextMax = sizeof szBack;
+        EXPECT_TRUE(tab.GetItem(nTab, &tabItem));
+        EXPECT_EQ(word.str, szBack);
+        HDITEM column = {};
+        column.mask = HDI_TEXT;
+        column.pszText = strText.data();
+        const int nColumn = header.InsertItem(0, &column);
+        column.pszText = szBack;
+        column.cchTextMax = sizeof szBack;
+        EXPECT_TRUE(header.GetItem(nColumn, &column));
+        EXPECT_EQ(word.str, szBack);
+    }
+}
+
+TEST(FrameworkText, LongTextsComeBackWhole) {
+    CWnd parent;
+    ASSERT_TRUE(MakePopup(parent));
+    const CRect rc(0, 0, 100, 100);
+    CListCtrl list;
+    CTreeCtrl tree;
+    CMenu menu;
+    CStatusBar bar;
+    ASSERT_TRUE(list.Create(WS_CHILD | LVS_REPORT, rc, &parent, 1));
+    ASSERT_TRUE(tree.Create(WS_CHILD, rc, &parent, 2));
+    ASSERT_TRUE(menu.CreatePopupMenu());
+    ASSERT_TRUE(bar.Create(&parent));
+    const UINT indicators[] = {ID_SEPARATOR};
+    bar.SetIndicators(indicators, 1);
+    list.InsertColumn(0, "column", LVCFMT_LEFT, 50);
+    // Round about the room that is tried first, with the characters at odd and even places.
+    for (size_t nChars = 25; nChars < 260; nChars += nChars < 140 ? 1 : 30) {
+        for (const char* pszBefore : {"", "x"}) {
+            const std::string str = pszBefore + LongWord(nChars).str;
+            list.DeleteAllItems();
+            list.InsertItem(0, "first");
+            list.SetItemText(0, 0, str.c_str());
+            EXPECT_EQ(str, std::string(list.GetItemText(0, 0)));
+            const HTREEITEM hItem = tree.InsertItem(str.c_str());
+            EXPECT_EQ(str, std::string(tree.GetItemText(hItem)));
+            parent.SetWindowText(str.c_str());
+            CString strBack;
+            parent.GetWindowText(strBack);
+            EXPECT_EQ(str, std::string(strBack));
+            menu.AppendMenu(MF_STRING, static_cast<UINT>(nChars), str.c_str());
+            menu.GetMenuString(static_cast<UINT>(menu.GetMenuItemCount()) - 1, strBack,
+                               MF_BYPOSITION);
+            EXPECT_EQ(str, std::string(strBack));
+            bar.SetPaneText(0, str.c_str());
+            wchar_t szWide[600] = L"";
+            ::SendMessageW(bar.m_hWnd, SB_GETTEXTW, 0, reinterpret_cast<LPARAM>(szWide));
+            EXPECT_EQ(FromPage(str), szWide);
+        }
+    }
+}
+
+/// Reads the box that is up, and closes it.
+struct SeenBox {
+    std::wstring strCaption;
+    std::wstring strText;
+};
+SeenBox s_seenBox;
+
+void CALLBACK CloseBox(HWND, UINT, UINT_PTR nTimer, DWORD) {
+    const HWND hBox = ::GetLastActivePopup(::GetActiveWindow());
+    wchar_t szClass[32] = L"";
+    ::GetClassNameW(hBox, szClass, 32);
+    if (std::wstring(szClass) != L"#32770") {
+        return;
+    }
+    constexpr int kTextOfBox = 0xFFFF;
+    ::KillTimer(nullptr, nTimer);
+    s_seenBox = {WideTextOf(hBox), WideTextOf(::GetDlgItem(hBox, kTextOfBox))};
+    ::PostMessage(hBox, WM_COMMAND, IDOK, 0);
+}
+
+TEST(FrameworkText, MessageBoxes) {
+    CWnd parent;
+    ASSERT_TRUE(MakePopup(parent));
+    parent.ShowWindow(SW_SHOW);
+    for (const PageWord& word : PageWords()) {
+        s_seenBox = {};
+        ASSERT_NE(::SetTimer(nullptr, 0, 10, CloseBox), 0u);
+        EXPECT_EQ(IDOK, parent.MessageBox(word.str.c_str(), word.str.c_str(), MB_OK));
+        EXPECT_EQ(word.strWide, s_seenBox.strCaption);
+        EXPECT_EQ(word.strWide, s_seenBox.strText);
+    }
+}
+
+// What a module's string table holds, in UTF-16, comes in the process's code page.
+TEST(FrameworkText, StringsFromResources) {
+    const HINSTANCE hModule = ::LoadLibrary("comdlg32.dll");
+    ASSERT_NE(hModule, nullptr);
+    int nFound = 0;
+    for (UINT nID = 0; nID < 2000; ++nID) {
+        wchar_t szWide[2048] = L"";
+        const int nUnits = ::LoadStringW(hModule, nID, szWide, 2048);
+        CString str("before");
+        EXPECT_EQ(nUnits > 0, str.LoadString(hModule, nID) != FALSE);
+        std::string strPage;
+        if (ToPage(std::wstring(szWide, static_cast<size_t>(nUnits)), strPage)) {
+            EXPECT_EQ(strPage, std::string(str));
+            nFound += nUnits > 0;
+        }
+    }
+    EXPECT_GT(nFound, 10);
+    ::FreeLibrary(hModule);
+}
+
+/// A field of a dialog, exchanged without the dialog.
+class Field : public CWnd {
+public:
+    CString m_strValue;
+    int m_nMost = 200;
+
+    void DoDataExchange(CDataExchange* pDX) override {
+        DDX_Text(pDX, 1, m_strValue);
+        DDV_MaxChars(pDX, m_strValue, m_nMost);
+    }
+};
+
+TEST(FrameworkText, FieldsOfDialogs) {
+    Field parent;
+    ASSERT_TRUE(MakePopup(parent));
+    CEdit edit;
+    ASSERT_TRUE(edit.Create(WS_CHILD | ES_AUTOHSCROLL, CRect(0, 0, 50, 20), &parent, 1));
+    for (const PageWord& word : PageWords()) {
+        parent.m_strValue = word.str.c_str();
+        ASSERT_TRUE(parent.UpdateData(FALSE));
+        EXPECT_EQ(word.strWide, WideTextOf(edit.m_hWnd));
+        parent.m_strValue = "before";
+        ASSERT_TRUE(parent.UpdateData(TRUE));
+        EXPECT_EQ(word.str, std::string(parent.m_strValue));
+    }
+}
+
+// Character by character, whatever bytes those have.
+TEST(FrameworkText, StringsAreCutAtCharacters) {
+    for (const PageWord& word : PageWords()) {
+        const CString str(word.str.c_str());
+        std::wstring strReversed;
+        for (size_t i = 0; i < word.strWide.size(); ++i) {
+            const bool bPair = word.strWide[i] >= 0xD800 && word.strWide[i] < 0xDC00;
+            strReversed.insert(0, word.strWide.substr(i, bPair ? 2 : 1));
+            i += bPair;
+        }
+        EXPECT_EQ(strReversed, FromPage(std::string(CString(str).MakeReverse()))) << word.str;
+
+        const CString strBetween = "." + str + "\\";
+        EXPECT_EQ(str.GetLength() + 1, strBetween.Find('\\'));
+        EXPECT_EQ(str.GetLength() + 1, strBetween.ReverseFind('\\'));
+        EXPECT_EQ(str.GetLength() + 1, strBetween.FindOneOf("\\|"));
+        EXPECT_EQ(1, strBetween.Find(str));
+        EXPECT_EQ(0, str.Compare(str));
+        EXPECT_EQ(0, str.CompareNoCase(CString(str)));
+
+        // A set of other characters that share bytes with these.
+        for (const PageWord& other : PageWords()) {
+            if (other.str == word.str) {
+                continue;
+            }
+            const size_t nWide = word.strWide.find_first_of(other.strWide);
+            const int nByte = str.FindOneOf(other.str.c_str());
+            const bool bPairs = other.strWide.find_first_of(L"\xD83D") != std::wstring::npos ||
+                                word.strWide.find_first_of(L"\xD83D") != std::wstring::npos;
+            if (!bPairs) {
+                std::string strBefore;
+                ToPage(word.strWide.substr(0, nWide), strBefore);
+                EXPECT_EQ(nWide == std::wstring::npos ? -1 : static_cast<int>(strBefore.size()),
+                          nByte)
+                    << word.str << " / " << other.str;
+            }
+            EXPECT_EQ(
+                word.str,
+                std::string(
+                    CString(str + other.str.c_str()).Left(static_cast<int>(word.str.size()))));
+        }
+    }
+}
+
+TEST(FrameworkText, LettersChangeTheirCase) {
+    for (const PageWord& word : PageWords()) {
+        std::wstring strUpper(word.strWide);
+        std::wstring strLower(word.strWide);
+        ::CharUpperBuffW(strUpper.data(), static_cast<DWORD>(strUpper.size()));
+        ::CharLowerBuffW(strLower.data(), static_cast<DWORD>(strLower.size()));
+        std::string strPage;
+        if (ToPage(strUpper, strPage)) {
+            EXPECT_EQ(strPage, std::string(CString(word.str.c_str()).MakeUpper()));
+        }
+        if (ToPage(strLower, strPage)) {
+            EXPECT_EQ(strPage, std::string(CString(word.str.c_str()).MakeLower()));
+        }
+        CString strFormatted;
+        strFormatted.Format("%d %s.", 5, word.str.c_str());
+        EXPECT_EQ("5 " + word.str + ".", std::string(strFormatted));
+        EXPECT_EQ(word.str, std::string(CString(word.strWide.c_str())));
+        BSTR bstr = CString(word.str.c_str()).AllocSysString();
+        EXPECT_EQ(word.strWide, bstr);
+        ::SysFreeString(bstr);
+    }
+}
+
+TEST(FrameworkText, FilesAndTheirNames) {
+    char szFolder[MAX_PATH] = "";
+    ::GetTempPath(MAX_PATH, szFolder);
+    for (const PageWord& word : PageWords()) {
+        const CString strName = CString(word.str.c_str()) + ".txt";
+        const CString strPath = szFolder + strName;
+        const std::wstring strWidePath = FromPage(std::string(strPath));
+        const HANDLE hFile = ::CreateFileW(strWidePath.c_str(), GENERIC_WRITE, 0, nullptr,
+                                           CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+        if (hFile == INVALID_HANDLE_VALUE) {
+            continue;  // the file system of this locale has no such names
+        }
+        ::CloseHandle(hFile);
+        {
+            CStdioFile file(strPath, CFile::modeCreate | CFile::modeWrite);
+            EXPECT_STREQ(strName, file.GetFileName());
+            EXPECT_STREQ(word.str.c_str(), file.GetFileTitle());
+            file.WriteString(CString(word.str.c_str()) + "\n");
+        }
+        EXPECT_NE(INVALID_FILE_ATTRIBUTES, ::GetFileAttributesW(strWidePath.c_str()));
+        CStdioFile file(strPath, CFile::modeRead);
+        CString strLine;
+        EXPECT_TRUE(file.ReadString(strLine));
+        EXPECT_EQ(word.str, std::string(strLine));
+        file.Close();
+        CFile::Remove(strPath);
+    }
+}
+
+TEST(FrameworkText, FoldersOfChosenFiles) {
+    std::vector<PageWord> words = PageWords();
+    PageWord backslash{L"\u8868", {}};  // in 932 its second byte is one
+    if (ToPage(backslash.strWide, backslash.str)) {
+        words.push_back(backslash);
+    }
+    for (const PageWord& word : words) {
+        CFileDialog dlg(TRUE, nullptr, nullptr, OFN_ALLOWMULTISELECT,
+                        (word.str + "|*.*||").c_str());
+        EXPECT_EQ(word.str, dlg.m_ofn.lpstrFilter);
+        const std::string strChosen =
+            "C:\\" + word.str + '\0' + word.str + '\0' + "two" + '\0' + '\0';
+        std::copy(strChosen.begin(), strChosen.end(), dlg.m_ofn.lpstrFile);
+        POSITION pos = dlg.GetStartPosition();
+        EXPECT_EQ("C:\\" + word.str + "\\" + word.str, std::string(dlg.GetNextPathName(pos)));
+        ASSERT_NE(nullptr, pos);
+        EXPECT_EQ("C:\\" + word.str + "\\two", std::string(dlg.GetNextPathName(pos)));
+        EXPECT_EQ(nullptr, pos);
+    }
+}
+
+/// Two pictures of the same words: the context's own calls, and the wide ones.
+class DrawingWnd : public CWnd {
+public:
+    PageWord m_word;
+    bool m_bWide = false;
+
+    std::vector<int> m_extents;
+
+protected:
+    LRESULT WindowProc(UINT nMessage, WPARAM wParam, LPARAM lParam) override {
+        if (nMessage != WM_PAINT) {
+            return CWnd::WindowProc(nMessage, wParam, lParam);
+        }
+        CPaintDC dc(this);
+        CFont font;
+        font.CreatePointFont(100, "Tahoma");
+        CFont* pOld = dc.SelectObject(&font);
+        CRect rc(0, 0, 300, 200);
+        dc.FillSolidRect(rc, RGB(255, 255, 255));
+        rc.top = 60;
+        m_extents.clear();
+        m_bWide ? DrawWide(dc, rc) : DrawByFramework(dc, rc);
+        dc.SelectObject(pOld);
+        return 0;
+    }
+
+private:
+    void DrawByFramework(CDC& dc, CRect rc) {
+        const CString str(m_word.str.c_str());
+        INT nTab = 70;
+        dc.TextOut(0, 0, str);
+        dc.ExtTextOut(0, 20, ETO_CLIPPED, rc, str, nullptr);
+        dc.TabbedTextOut(0, 40, "\t" + str, str.GetLength() + 1, 1, &nTab, 0);
+        dc.DrawText(str, rc, DT_RIGHT | DT_NOPREFIX);
+        dc.DrawState(CPoint(0, 100), CSize(200, 20), str, DSS_NORMAL, FALSE);
+        const CSize size = dc.GetTextExtent(str);
+        m_extents = {static_cast<int>(size.cx), static_cast<int>(size.cy)};
+        std::vector<int> dx(static_cast<size_t>(str.GetLength()));
+        SIZE sizeAll = {};
+        dc.GetTextExtentExPoint(str, str.GetLength(), 0, nullptr, dx.data(), &sizeAll);
+        m_extents.push_back(dx.back());
+    }
+    void DrawWide(CDC& dc, CRect rc) {
+        const std::wstring& str = m_word.strWide;
+        const int nLength = static_cast<int>(str.size());
+        INT nTab = 70;
+        ::TextOutW(dc, 0, 0, str.c_str(), nLength);
+        ::ExtTextOutW(dc, 0, 20, ETO_CLIPPED, rc, str.c_str(), static_cast<UINT>(nLength), nullptr);
+        ::TabbedTextOutW(dc, 0, 40, (L"\t" + str).c_str(), nLength + 1, 1, &nTab, 0);
+        ::DrawTextW(dc, str.c_str(), nLength, rc, DT_RIGHT | DT_NOPREFIX);
+        ::DrawStateW(dc, nullptr, nullptr, reinterpret_cast<LPARAM>(str.c_str()), 0, 0, 100, 200,
+                     20, DST_TEXT | DSS_NORMAL);
+        SIZE size = {};
+        ::GetTextExtentPoint32W(dc, str.c_str(), nLength, &size);
+        m_extents = {static_cast<int>(size.cx), static_cast<int>(size.cy),
+                     static_cast<int>(size.cx)};
+    }
+};
+
+TEST(FrameworkText, ContextsDrawAndMeasureTheSame) {
+    DrawingWnd wnd;
+    ASSERT_TRUE(MakePopup(wnd));
+    wnd.ShowWindow(SW_SHOWNA);
+    for (const PageWord& word : PageWords()) {
+        wnd.m_word = word;
+        wnd.m_bWide = false;
+        wnd.Invalidate();
+        const Picture picture = Picture::OfClient(wnd.m_hWnd);
+        const std::vector<int> extents = wnd.m_extents;
+        wnd.m_bWide = true;
+        wnd.Invalidate();
+        EXPECT_TRUE(Picture::OfClient(wnd.m_hWnd) == picture) << word.str;
+        EXPECT_EQ(wnd.m_extents, extents) << word.str;
+        EXPECT_GT(picture.Count(RGB(0, 0, 0)), 0);
+    }
+}
+
+}  // namespace

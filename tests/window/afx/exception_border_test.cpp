@@ -1,0 +1,431 @@
+// Exceptions stop where the system called: whatever a handler throws, and with however little
+// memory, the caller gets a result.
+#include "support/failing_heap.h"
+#include "support/pump.h"
+#include "support/test_app.h"
+#include "window/afx/afx_test_ids.h"
+
+#include "afxcmn.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <stdexcept>
+#include <string>
+
+namespace {
+
+using Thrower = void (*)();
+
+struct Kind {
+    const char* pszMessage;  ///< what the application hears
+    Thrower pfnThrow;
+};
+constexpr Kind kKinds[] = {
+    {"Out of memory.", AfxThrowMemoryException},
+    {"Out of memory.", [] { throw std::bad_alloc(); }},
+    {"A resource is not available.", AfxThrowResourceException},
+    {"", AfxThrowUserException},
+    {"missing was not found",
+     [] { AfxThrowFileException(CFileException::fileNotFound, -1, "missing"); }},
+    {"foreign", [] { throw std::runtime_error("foreign"); }},
+    {"unknown exception", [] { throw 5; }},
+    {"unknown exception", [] { throw static_cast<const char*>("text"); }}};
+
+constexpr UINT kThrow = WM_APP + 40;
+
+/// Throws from one message. With the message it fails before the base class saw it.
+class ThrowingWnd : public CWnd {
+public:
+    UINT m_nWhere = kThrow;
+    std::function<void()> m_throw;
+    int m_nPostNcDestroy = 0;
+
+    BOOL PreTranslateMessage(MSG* pMsg) override {
+        if (m_bBeforeTheQueue && pMsg->message == m_nWhere) {
+            m_throw();
+        }
+        return CWnd::PreTranslateMessage(pMsg);
+    }
+    bool m_bBeforeTheQueue = false;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == m_nWhere && m_throw && !m_bBeforeTheQueue) {
+            m_throw();
+        }
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+    void PostNcDestroy() override { ++m_nPostNcDestroy; }
+};
+
+BOOL MakePopup(CWnd& wnd) {
+    return wnd.CreateEx(0, nullptr, "", WS_POPUP, 0, 0, 50, 50, nullptr, nullptr);
+}
+
+/// Runs something that the system may do; true if an exception came out.
+template <typename Operation>
+bool Leaks(Operation operation) {
+    try {
+        operation();
+    } catch (...) {
+        return true;
+    }
+    return false;
+}
+
+/// The application as other tests know it, whatever a test here told it to do.
+class ExceptionBorder : public testing::Test {
+protected:
+    void SetUp() override { TheTestApp().Forget(); }
+    void TearDown() override {
+        TheTestApp().m_report = nullptr;
+        TheTestApp().Forget();
+    }
+    TestApp& m_app = TheTestApp();
+};
+
+TEST_F(ExceptionBorder, EveryKindIsToldToTheApplication_AndGivesZero) {
+    ThrowingWnd wnd;
+    ASSERT_TRUE(MakePopup(wnd));
+    for (const Kind& kind : kKinds) {
+        m_app.Forget();
+        wnd.m_throw = kind.pfnThrow;
+        LRESULT lResult = -1;
+        EXPECT_FALSE(Leaks([&] { lResult = ::SendMessage(wnd.m_hWnd, kThrow, 0, 0); }));
+        EXPECT_EQ(0, lResult);
+        EXPECT_EQ(std::vector<std::string>{kind.pszMessage}, m_app.m_exceptions);
+    }
+}
+
+TEST_F(ExceptionBorder, AReportThatFailsItself_EndsThere) {
+    ThrowingWnd wnd;
+    ASSERT_TRUE(MakePopup(wnd));
+    const auto rethrow = [](CException* e) { throw e; };
+    for (const Kind& kind : kKinds) {
+        wnd.m_throw = kind.pfnThrow;
+        for (const Kind& second : kKinds) {
+            m_app.m_report = [&second](CException*) { second.pfnThrow(); };
+            EXPECT_FALSE(Leaks([&] { ::SendMessage(wnd.m_hWnd, kThrow, 0, 0); }));
+        }
+        m_app.m_report = rethrow;
+        EXPECT_FALSE(Leaks([&] { ::SendMessage(wnd.m_hWnd, kThrow, 0, 0); }));
+    }
+    // The results by which the system goes on are the same.
+    wnd.m_nWhere = WM_PAINT;
+    wnd.ShowWindow(SW_SHOWNA);
+    wnd.Invalidate();
+    wnd.UpdateWindow();
+    EXPECT_FALSE(wnd.GetUpdateRect(nullptr));
+    for (const UINT nMessage : {WM_NCCREATE, WM_CREATE}) {
+        ThrowingWnd another;
+        another.m_throw = AfxThrowMemoryException;
+        another.m_nWhere = nMessage;
+        EXPECT_FALSE(MakePopup(another));
+        EXPECT_EQ(another.m_hWnd, nullptr);
+        EXPECT_EQ(1, another.m_nPostNcDestroy);
+    }
+}
+
+TEST_F(ExceptionBorder, WithoutMemory_TheReportStillComes) {
+    for (const Kind& kind : kKinds) {
+        ThrowingWnd wnd;
+        ASSERT_TRUE(MakePopup(wnd));
+        wnd.m_throw = kind.pfnThrow;
+        for (const auto mode : {FailingHeap::kAllLater, FailingHeap::kJustOne}) {
+            bool bLeaked = false;
+            int nReports = 0;
+            m_app.m_report = [&nReports](CException*) { ++nReports; };
+            const int nRefusals = RefuseEachAllocation(
+                mode, [&] { bLeaked |= Leaks([&] { ::SendMessage(wnd.m_hWnd, kThrow, 0, 0); }); },
+                [&](int nSucceeding) { EXPECT_EQ(nSucceeding + 1, nReports); });
+            EXPECT_GT(nRefusals, 0);
+            EXPECT_FALSE(bLeaked) << kind.pszMessage;
+        }
+    }
+}
+
+/// A window with a child that asks it for a colour, and a menu: many ways through the framework.
+class BusyWnd : public CWnd {
+public:
+    CStatic m_label;
+    CString m_strText;
+
+protected:
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct) {
+        return CWnd::OnCreate(lpCreateStruct) == 0 &&
+                       m_label.Create("label", WS_CHILD | WS_VISIBLE, CRect(0, 0, 40, 20), this, 7)
+                   ? 0
+                   : -1;
+    }
+    afx_msg void OnPaint() {
+        CPaintDC dc(this);
+        CBrush brush(RGB(1, 2, 3));
+        dc.FillRect(CRect(0, 0, 5, 5), &brush);
+        dc.TextOut(0, 0, CString("painted"));
+    }
+    afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) {
+        pDC->SetTextColor(RGB(255, 0, 0));
+        pWnd->GetWindowText(m_strText);
+        return CWnd::OnCtlColor(pDC, pWnd, nCtlColor);
+    }
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point) {
+        GetParent();
+        WindowFromPoint(point);
+        CWnd::OnLButtonDown(nFlags, point);
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(BusyWnd, CWnd)
+    ON_WM_CREATE()
+    ON_WM_PAINT()
+    ON_WM_CTLCOLOR()
+    ON_WM_LBUTTONDOWN()
+END_MESSAGE_MAP()
+
+// A whole life of a window, with each allocation in turn refused. What it leaves behind must be
+// nothing: no object bound to a window that is gone, no handle owned by nobody.
+TEST_F(ExceptionBorder, AWindowsLife_WithEachAllocationRefused) {
+    HWND hWnd = nullptr;
+    bool bLeaked = false;
+    const auto live = [&] {
+        BusyWnd wnd;
+        hWnd = nullptr;
+        // Creation is the program's own call; that may throw.
+        Leaks([&] { MakePopup(wnd); });
+        hWnd = wnd.m_hWnd;
+        bLeaked |= Leaks([&] {
+            ::ShowWindow(hWnd, SW_SHOWNA);
+            ::UpdateWindow(hWnd);
+            ::SendMessage(hWnd, WM_LBUTTONDOWN, 0, 0);
+            ::SendMessage(hWnd, WM_COMMAND, 99, 0);
+            ::SendMessage(hWnd, WM_SIZE, 0, 0);
+            ::DestroyWindow(hWnd);
+        });
+    };
+    live();
+    CWinThread* pThread = AfxGetThread();
+    pThread->OnIdle(1);
+    const int nOwned = AfxGetOwnedHandleCount();
+    for (const auto mode : {FailingHeap::kAllLater, FailingHeap::kJustOne}) {
+        const int nRefusals = RefuseEachAllocation(mode, live, [&](int nSucceeding) {
+            ASSERT_FALSE(bLeaked) << nSucceeding;
+            pThread->OnIdle(1);
+            EXPECT_EQ(nOwned, AfxGetOwnedHandleCount());
+            EXPECT_FALSE(::IsWindow(hWnd));
+            EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(hWnd));
+        });
+        EXPECT_GT(nRefusals, 3);
+    }
+}
+
+TEST_F(ExceptionBorder, ThrowingInTheLastMessage_LetsGoOfTheWindowAllTheSame) {
+    for (const Kind& kind : kKinds) {
+        ThrowingWnd wnd;
+        ASSERT_TRUE(MakePopup(wnd));
+        const HWND hWnd = wnd.m_hWnd;
+        wnd.m_nWhere = WM_NCDESTROY;
+        wnd.m_throw = kind.pfnThrow;
+        EXPECT_FALSE(Leaks([&] { ::DestroyWindow(hWnd); }));
+        EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(hWnd));
+        EXPECT_EQ(nullptr, wnd.m_hWnd);
+        EXPECT_EQ(1, wnd.m_nPostNcDestroy);
+    }
+}
+
+/// Throws while its window is made, before and after it is bound.
+class UnreadyWnd : public CWnd {
+public:
+    Thrower m_pfnThrow = nullptr;
+    int m_nPostNcDestroy = 0;
+
+protected:
+    void PreSubclassWindow() override { m_pfnThrow(); }
+    void PostNcDestroy() override { ++m_nPostNcDestroy; }
+};
+
+TEST_F(ExceptionBorder, ThrowingWhileTheWindowIsBound_MakesCreationFail) {
+    for (const Kind& kind : kKinds) {
+        UnreadyWnd wnd;
+        wnd.m_pfnThrow = kind.pfnThrow;
+        BOOL bMade = TRUE;
+        EXPECT_FALSE(Leaks([&] { bMade = MakePopup(wnd); }));
+        EXPECT_FALSE(bMade);
+        EXPECT_EQ(nullptr, wnd.m_hWnd);
+        EXPECT_EQ(1, wnd.m_nPostNcDestroy);
+    }
+}
+
+TEST_F(ExceptionBorder, TheQueueGoesOn_WhateverItsMessagesThrow) {
+    ThrowingWnd wnd;
+    ASSERT_TRUE(MakePopup(wnd));
+    wnd.m_bBeforeTheQueue = true;
+    for (const Kind& kind : kKinds) {
+        m_app.Forget();
+        wnd.m_throw = kind.pfnThrow;
+        wnd.PostMessage(kThrow);
+        EXPECT_FALSE(Leaks([] { PumpPending(); }));
+        EXPECT_EQ(std::vector<std::string>{kind.pszMessage}, m_app.m_exceptions);
+    }
+}
+
+/// A frame that fails when idle work asks what it is.
+class UneasyFrame : public CFrameWnd {
+public:
+    Thrower m_pfnThrow = nullptr;
+    BOOL IsFrameWnd() const override {
+        if (m_pfnThrow != nullptr) {
+            m_pfnThrow();
+        }
+        return TRUE;
+    }
+};
+
+TEST_F(ExceptionBorder, IdleWorkOverAllFrames_IsNotLeftInTheMiddle) {
+    auto* pFrame = new UneasyFrame;
+    ASSERT_TRUE(pFrame->Create(nullptr, "Uneasy"));
+    for (const Kind& kind : kKinds) {
+        m_app.Forget();
+        pFrame->m_pfnThrow = kind.pfnThrow;
+        EXPECT_FALSE(Leaks([] { AfxGetThread()->OnIdle(0); }));
+        EXPECT_EQ(std::vector<std::string>{kind.pszMessage}, m_app.m_exceptions);
+    }
+    pFrame->m_pfnThrow = nullptr;
+    pFrame->DestroyWindow();
+}
+
+/// A thread of idle work that throws, until it is asked to end.
+class IdleThread : public CWinThread {
+public:
+    Thrower m_pfnThrow = nullptr;
+    int m_nIdle = 0;
+
+    BOOL OnIdle(LONG) override {
+        ++m_nIdle;
+        ::PostMessage(nullptr, m_nIdle < 3 ? WM_NULL + kThrow : WM_QUIT, 0, 0);
+        m_pfnThrow();
+        return FALSE;
+    }
+};
+
+TEST_F(ExceptionBorder, IdleWorkThatThrows_DoesNotEndTheLoop) {
+    PumpPending();
+    for (const Kind& kind : kKinds) {
+        m_app.Forget();
+        IdleThread thread;
+        thread.m_pfnThrow = kind.pfnThrow;
+        EXPECT_FALSE(Leaks([&] { thread.Run(); }));
+        EXPECT_EQ(3, thread.m_nIdle);
+        EXPECT_EQ(3u, m_app.m_exceptions.size());
+    }
+}
+
+/// Its initialization throws, or it does not get the memory that it needs.
+class UnreadyDialog : public CDialog {
+public:
+    UnreadyDialog() : CDialog(IDD_MODAL) {}
+    Thrower m_pfnThrow = nullptr;
+
+    BOOL OnInitDialog() override {
+        CDialog::OnInitDialog();
+        m_strText.Format("%d", 12345);
+        if (m_pfnThrow != nullptr) {
+            m_pfnThrow();
+        }
+        EndDialog(IDOK);
+        return TRUE;
+    }
+    CString m_strText;
+};
+
+TEST_F(ExceptionBorder, ADialogThatFailsToStart_EndsWithMinusOne) {
+    for (const Kind& kind : kKinds) {
+        m_app.m_report = [](CException*) { AfxThrowMemoryException(); };
+        UnreadyDialog dlg;
+        dlg.m_pfnThrow = kind.pfnThrow;
+        INT_PTR nResult = 0;
+        EXPECT_FALSE(Leaks([&] { nResult = dlg.DoModal(); }));
+        EXPECT_EQ(-1, nResult);
+    }
+}
+
+TEST_F(ExceptionBorder, ADialogWithEachAllocationRefused_StartsOrFails) {
+    INT_PTR nResult = 0;
+    bool bThrew = false;
+    const auto run = [&] {
+        UnreadyDialog dlg;
+        nResult = 0;
+        bThrew = Leaks([&] { nResult = dlg.DoModal(); });
+    };
+    run();
+    for (const auto mode : {FailingHeap::kAllLater, FailingHeap::kJustOne}) {
+        RefuseEachAllocation(mode, run, [&](int nSucceeding) {
+            EXPECT_TRUE(bThrew || nResult == -1 || nResult == IDOK) << nSucceeding;
+            AfxGetThread()->OnIdle(1);
+        });
+        EXPECT_EQ(IDOK, nResult);
+    }
+    CWnd* pMain = AfxGetMainWnd();
+    EXPECT_TRUE(pMain == nullptr || pMain->IsWindowEnabled());
+}
+
+int s_nComparisonsLeft = 0;
+
+/// Throws when its comparisons are used up.
+int CALLBACK CompareSome(LPARAM lParam1, LPARAM lParam2, LPARAM) {
+    if (s_nComparisonsLeft-- == 0) {
+        throw std::runtime_error("tired");
+    }
+    return lParam1 < lParam2 ? -1 : lParam1 > lParam2;
+}
+
+/// Notices whether the control's own code came to its end.
+template <class Control>
+class WatchedControl : public Control {
+public:
+    bool m_bLeftInTheMiddle = false;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        m_bLeftInTheMiddle = true;
+        const LRESULT lResult = Control::WindowProc(message, wParam, lParam);
+        m_bLeftInTheMiddle = false;
+        return lResult;
+    }
+};
+
+TEST_F(ExceptionBorder, AComparisonThatThrows_LetsTheSortingComeToItsEnd) {
+    constexpr int kRows = 9;
+    CWnd parent;
+    ASSERT_TRUE(MakePopup(parent));
+    WatchedControl<CListCtrl> list;
+    WatchedControl<CTreeCtrl> tree;
+    ASSERT_TRUE(list.Create(WS_CHILD | LVS_REPORT, CRect(0, 0, 50, 50), &parent, 1));
+    ASSERT_TRUE(tree.Create(WS_CHILD, CRect(0, 0, 50, 50), &parent, 2));
+    for (int nRow = 0; nRow < kRows; ++nRow) {
+        list.InsertItem(LVIF_TEXT | LVIF_PARAM, nRow, "row", 0, 0, 0, kRows - nRow);
+        tree.SetItemData(tree.InsertItem("row"), static_cast<DWORD_PTR>(kRows - nRow));
+    }
+    TVSORTCB sort = {TVI_ROOT, CompareSome, 0};
+    for (int nComparisons = 0; nComparisons < 5; ++nComparisons) {
+        m_app.Forget();
+        BOOL bSorted = TRUE;
+        s_nComparisonsLeft = nComparisons;
+        EXPECT_FALSE(Leaks([&] { bSorted = list.SortItems(CompareSome, 0); }));
+        EXPECT_FALSE(bSorted);
+        s_nComparisonsLeft = nComparisons;
+        EXPECT_FALSE(Leaks([&] { bSorted = tree.SortChildrenCB(&sort); }));
+        EXPECT_FALSE(bSorted);
+        EXPECT_FALSE(list.m_bLeftInTheMiddle);
+        EXPECT_FALSE(tree.m_bLeftInTheMiddle);
+        EXPECT_EQ((std::vector<std::string>{"tired", "tired"}), m_app.m_exceptions);
+    }
+    s_nComparisonsLeft = 1000;
+    EXPECT_TRUE(list.SortItems(CompareSome, 0));
+    EXPECT_TRUE(tree.SortChildrenCB(&sort));
+    EXPECT_EQ(1u, list.GetItemData(0));
+    EXPECT_EQ(1u, tree.GetItemData(tree.GetRootItem()));
+}
+
+}  // namespace

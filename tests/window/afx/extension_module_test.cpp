@@ -1,0 +1,103 @@
+// Extension modules: whose classes and resources are found while they are loaded, and afterwards.
+#include "support/failing_heap.h"
+#include "support/test_app.h"
+#include "window/late_module/late_module_ids.h"
+#include "window/second_module/second_module_ids.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace {
+
+class ProgramObject : public CObject {
+    DECLARE_DYNCREATE(ProgramObject)
+};
+IMPLEMENT_DYNCREATE(ProgramObject, CObject)
+
+/// The records of everybody who was there before the late module: the program, the framework, the
+/// library, a module of the program's.
+void ExpectTheOthersFound() {
+    for (const char* pszName :
+         {"ProgramObject", "CWnd", "CObject", "CDynLinkLibrary", "QVTreeCtrlEx", "ModuleWnd"}) {
+        EXPECT_NE(nullptr, CRuntimeClass::FromName(pszName)) << pszName;
+    }
+    CString str;
+    EXPECT_TRUE(str.LoadString(IDS_SECOND));
+    EXPECT_TRUE(str.LoadString(AFX_IDP_PARSE_INT));
+}
+
+int LengthOfChain() {
+    int nEntries = 0;
+    for (CDynLinkLibrary* p = AfxGetModuleState()->m_libraryList.m_pHead; p != nullptr;
+         p = p->m_pNextDLL) {
+        ++nEntries;
+    }
+    return nEntries;
+}
+
+TEST(ExtensionModule, LoadedLate_JoinsAndLeaves) {
+    ExpectTheOthersFound();
+    const int nChain = LengthOfChain();
+    for (int nRound = 0; nRound < 2; ++nRound) {
+        EXPECT_EQ(nullptr, CRuntimeClass::FromName("LateObject"));
+        const HMODULE hLate = ::LoadLibrary("late_module.dll");
+        ASSERT_NE(nullptr, hLate);
+        EXPECT_EQ(nChain + 1, LengthOfChain());
+        ExpectTheOthersFound();
+        CString str;
+        EXPECT_TRUE(str.LoadString(IDS_LATE));
+        EXPECT_STREQ("text of the late module", str);
+
+        std::unique_ptr<CObject> pObject(CRuntimeClass::CreateObject("LateObject"));
+        ASSERT_NE(nullptr, pObject);
+        EXPECT_STREQ("LateObject", pObject->GetRuntimeClass()->m_lpszClassName);
+        EXPECT_TRUE(pObject->IsKindOf(RUNTIME_CLASS(CObject)));
+        pObject.reset();
+        std::unique_ptr<CObject> pWnd(CRuntimeClass::CreateObject("LateWnd"));
+        auto* pLateWnd = DYNAMIC_DOWNCAST(CWnd, pWnd.get());
+        ASSERT_NE(nullptr, pLateWnd);
+        ASSERT_TRUE(pLateWnd->CreateEx(0, nullptr, "", WS_POPUP, 0, 0, 5, 5, nullptr, nullptr));
+        EXPECT_EQ(77, pLateWnd->SendMessage(WM_APP));
+        pLateWnd->DestroyWindow();
+        pWnd.reset();
+
+        ASSERT_TRUE(::FreeLibrary(hLate));
+        ASSERT_EQ(nullptr, ::GetModuleHandle("late_module.dll"));
+        EXPECT_EQ(nChain, LengthOfChain());
+        EXPECT_EQ(nullptr, CRuntimeClass::FromName("LateObject"));
+        EXPECT_EQ(nullptr, CRuntimeClass::FromName("no such class"));
+        EXPECT_FALSE(str.LoadString(IDS_LATE));
+        ExpectTheOthersFound();
+    }
+}
+
+TEST(ExtensionModule, ARecordThatGoes_LeavesTheList) {
+    CRuntimeClass record = {"Passing", sizeof(CObject), 0xFFFF, nullptr, nullptr, nullptr};
+    {
+        const AFX_CLASSINIT init(&record);
+        EXPECT_EQ(&record, CRuntimeClass::FromName("Passing"));
+    }
+    EXPECT_EQ(nullptr, CRuntimeClass::FromName("Passing"));
+    ExpectTheOthersFound();
+}
+
+TEST(ExtensionModule, WithoutMemoryForAnEntry_ThereIsNone) {
+    AFX_EXTENSION_MODULE module;
+    const int nChain = LengthOfChain();
+    CDynLinkLibrary* pEntry = nullptr;
+    bool bThrew = false;
+    {
+        FailingHeap heap(0);
+        try {
+            pEntry = new CDynLinkLibrary(module);
+        } catch (...) {
+            bThrew = true;
+        }
+    }
+    EXPECT_FALSE(bThrew);
+    EXPECT_EQ(nullptr, pEntry);
+    EXPECT_EQ(nChain, LengthOfChain());
+}
+
+}  // namespace

@@ -1,0 +1,285 @@
+// Values and collections without memory: the framework's exception, and everything as it was.
+#include "support/failing_heap.h"
+
+#include "afxcoll.h"
+#include "afxwin.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace {
+
+enum class Outcome { kDone, kMemoryException, kOther };
+
+template <typename Operation>
+Outcome Try(Operation operation) {
+    try {
+        operation();
+        return Outcome::kDone;
+    } catch (CMemoryException* e) {
+        e->Delete();
+        return Outcome::kMemoryException;
+    } catch (CException* e) {
+        e->Delete();
+    } catch (...) {
+        return Outcome::kOther;
+    }
+    return Outcome::kOther;
+}
+
+/// Has the change made to a fresh object again and again, each allocation refused once. A refusal
+/// must come out as the framework's exception and leave what show() tells as it was; unless the
+/// change can do without the memory it asked for.
+template <class Object>
+void RefuseInChange(const char* pszName, const std::function<void(Object&)>& prepare,
+                    const std::function<std::string(const Object&)>& show,
+                    const std::function<void(Object&)>& change) {
+    SCOPED_TRACE(pszName);
+    for (int nSucceeding = 0; nSucceeding < 1000; ++nSucceeding) {
+        Object object;
+        prepare(object);
+        const std::string strBefore = show(object);
+        Outcome outcome = Outcome::kDone;
+        int nRefused = 0;
+        {
+            FailingHeap heap(nSucceeding, FailingHeap::kJustOne);
+            outcome = Try([&] { change(object); });
+            nRefused = heap.Refused();
+        }
+        if (nRefused == 0) {
+            EXPECT_GT(nSucceeding, 0) << "it asked for nothing";
+            EXPECT_EQ(Outcome::kDone, outcome);
+            EXPECT_NE(strBefore, show(object)) << "it did nothing";
+            return;
+        }
+        EXPECT_NE(Outcome::kOther, outcome);
+        if (outcome == Outcome::kMemoryException) {
+            EXPECT_EQ(strBefore, show(object)) << nSucceeding;
+        }
+    }
+    ADD_FAILURE() << "never done";
+}
+
+constexpr char kLong[] = "a text that is longer than what any string keeps in itself";
+
+struct StringChange {
+    const char* pszName;
+    void (*pfnChange)(CString&);
+};
+const StringChange kStringChanges[] = {
+    {"=", [](CString& s) { s = kLong; }},
+    {"= wide",
+     [](CString& s) { s = L"another text that is as long as the first one was, or longer"; }},
+    {"+=", [](CString& s) { s += kLong; }},
+    {"+", [](CString& s) { s = s + kLong + CString(s); }},
+    {"Insert", [](CString& s) { s.Insert(3, kLong); }},
+    {"Delete", [](CString& s) { s.Delete(2, 3); }},
+    {"Replace", [](CString& s) { s.Replace("t", kLong); }},
+    {"Format", [](CString& s) { s.Format("%s %s", kLong, kLong); }},
+    {"AppendFormat", [](CString& s) { s.AppendFormat("%s %s", kLong, kLong); }},
+    {"LoadString", [](CString& s) { s.LoadString(AFX_IDP_PARSE_INT); }},
+    {"SetAt",
+     [](CString& s) {
+         CString copy(s);
+         s.SetAt(0, 'x');
+     }},
+    {"MakeUpper",
+     [](CString& s) {
+         CString copy(s);
+         s.MakeUpper();
+     }},
+    {"MakeReverse", [](CString& s) { s.MakeReverse(); }},
+    {"TrimLeft", [](CString& s) { s.TrimLeft('t'); }},
+    {"GetBuffer", [](CString& s) {
+         lstrcpy(s.GetBuffer(500), "x");
+         s.ReleaseBuffer();
+     }}};
+
+TEST(OutOfMemory, AStringKeepsItsText) {
+    for (const StringChange& change : kStringChanges) {
+        RefuseInChange<CString>(
+            change.pszName, [](CString& s) { s = "the text before"; },
+            [](const CString& s) { return std::string(s); }, change.pfnChange);
+    }
+}
+
+std::string Show(const CStringArray& array) {
+    std::string strShown;
+    for (INT_PTR i = 0; i < array.GetSize(); ++i) {
+        strShown += std::string(array[i]) + ",";
+    }
+    return strShown;
+}
+
+struct ArrayChange {
+    const char* pszName;
+    void (*pfnChange)(CStringArray&);
+};
+const ArrayChange kArrayChanges[] = {
+    {"Add", [](CStringArray& a) { a.Add(kLong); }},
+    {"SetAt", [](CStringArray& a) { a.SetAt(1, kLong); }},
+    {"SetAtGrow", [](CStringArray& a) { a.SetAtGrow(7, kLong); }},
+    {"SetSize", [](CStringArray& a) { a.SetSize(50, 10); }},
+    {"InsertAt", [](CStringArray& a) { a.InsertAt(1, kLong, 3); }},
+    {"InsertAt behind the end", [](CStringArray& a) { a.InsertAt(8, kLong, 2); }},
+    {"InsertAt of an array",
+     [](CStringArray& a) {
+         CStringArray other;
+         other.Add("1");
+         other.Add(kLong);
+         a.InsertAt(1, &other);
+     }},
+    {"Append", [](CStringArray& a) { a.Append(a); }},
+    {"Copy", [](CStringArray& a) {
+         CStringArray other;
+         other.Add("1");
+         a.Copy(other);
+     }}};
+
+TEST(OutOfMemory, AnArrayKeepsItsElements) {
+    for (const ArrayChange& change : kArrayChanges) {
+        RefuseInChange<CStringArray>(
+            change.pszName,
+            [](CStringArray& a) {
+                for (const char* psz : {"one", "two", "three"}) {
+                    a.Add(psz);
+                }
+            },
+            Show, change.pfnChange);
+    }
+}
+
+/// Copying one takes memory, with the language's exception where there is none.
+using StdArray = CArray<std::string>;
+const std::string kOwnLong(kLong);
+const std::string kMuch(4000, 'x');
+
+TEST(OutOfMemory, AnArrayOfTheProgramsOwnTypeKeepsItsElements) {
+    const auto prepare = [](StdArray& a) {
+        a.Add("one");
+        a.Add("two");
+        a.Add("three");
+    };
+    const auto show = [](const StdArray& a) {
+        std::string strShown;
+        for (INT_PTR i = 0; i < a.GetSize(); ++i) {
+            strShown += a[i] + ",";
+        }
+        return strShown;
+    };
+    const std::vector<std::pair<const char*, void (*)(StdArray&)>> changes = {
+        {"Add", [](StdArray& a) { a.Add(kOwnLong); }},
+        {"SetAtGrow", [](StdArray& a) { a.SetAtGrow(7, kOwnLong); }},
+        {"SetAtGrow inside", [](StdArray& a) { a.SetAtGrow(1, kOwnLong); }},
+        {"InsertAt", [](StdArray& a) { a.InsertAt(1, kOwnLong, 5); }},
+        {"InsertAt behind the end", [](StdArray& a) { a.InsertAt(6, kOwnLong); }},
+        {"Append",
+         [](StdArray& a) {
+             StdArray other;
+             other.SetAtGrow(1, kOwnLong);
+             a.Append(other);
+         }},
+        {"Copy", [](StdArray& a) {
+             StdArray other;
+             other.SetAtGrow(1, kOwnLong);
+             a.Copy(other);
+         }}};
+    for (const auto& [pszName, pfnChange] : changes) {
+        RefuseInChange<StdArray>(pszName, prepare, show, pfnChange);
+    }
+}
+
+TEST(OutOfMemory, AnAbsurdSizeIsAMatterOfMemory) {
+    CByteArray bytes;
+    EXPECT_EQ(Outcome::kMemoryException, Try([&] { bytes.SetSize(INTPTR_MAX); }));
+    EXPECT_EQ(0, bytes.GetSize());
+    CString str("a");
+    EXPECT_EQ(Outcome::kMemoryException, Try([&] { str.Append(kLong, INT_MAX); }));
+    EXPECT_STREQ("a", str);
+}
+
+TEST(OutOfMemory, ListsAndMapsKeepTheirElements) {
+    RefuseInChange<CStringList>(
+        "list", [](CStringList& l) { l.AddTail("one"); },
+        [](const CStringList& l) {
+            std::string strShown;
+            for (POSITION pos = l.GetHeadPosition(); pos != nullptr;) {
+                strShown += std::string(l.GetNext(pos)) + ",";
+            }
+            return strShown;
+        },
+        [](CStringList& l) { l.AddHead(kLong); });
+    const auto prepare = [](CMapStringToString& m) { m.SetAt("one", "1"); };
+    const auto show = [](const CMapStringToString& m) {
+        CString strOne;
+        CString strTwo;
+        m.Lookup("one", strOne);
+        m.Lookup("two", strTwo);
+        return std::to_string(m.GetCount()) + std::string(strOne) + std::string(strTwo);
+    };
+    RefuseInChange<CMapStringToString>("map, new key", prepare, show,
+                                       [](CMapStringToString& m) { m.SetAt("two", kLong); });
+    RefuseInChange<CMapStringToString>("map, old key", prepare, show,
+                                       [](CMapStringToString& m) { m.SetAt("one", kLong); });
+    RefuseInChange<CMapStringToString>("map, by index", prepare, show,
+                                       [](CMapStringToString& m) { m["two"]; });
+}
+
+TEST(OutOfMemory, AMemoryFileKeepsItsBytes) {
+    RefuseInChange<CMemFile>(
+        "memory file", [](CMemFile& f) { f.Write("abc", 3); },
+        [](const CMemFile& f) {
+            auto& file = const_cast<CMemFile&>(f);
+            char szRead[5000] = "";
+            const ULONGLONG nAt = file.GetPosition();
+            file.SeekToBegin();
+            file.Read(szRead, sizeof szRead);
+            file.Seek(static_cast<LONGLONG>(nAt), CFile::begin);
+            return std::to_string(nAt) + "/" + std::to_string(file.GetLength()) + szRead;
+        },
+        [](CMemFile& f) { f.Write(kMuch.c_str(), 4000); });
+}
+
+TEST(OutOfMemory, AFileThatIsNotThereIsAMatterOfMemory_WhereThatIsMissing) {
+    bool bToldOfFile = false;
+    const auto open = [&] {
+        try {
+            CFile file("no such folder\\no such file", CFile::modeRead);
+        } catch (CFileException* e) {
+            bToldOfFile = true;
+            e->Delete();
+        }
+    };
+    Outcome outcome = Outcome::kDone;
+    const int nRefused = RefuseEachAllocation(
+        FailingHeap::kAllLater, [&] { outcome = Try(open); },
+        [&](int) { EXPECT_NE(Outcome::kOther, outcome); });
+    EXPECT_GT(nRefused, 0);
+    EXPECT_TRUE(bToldOfFile);
+}
+
+TEST(OutOfMemory, SelectingDrawingObjects_HappensWhollyOrNotAtAll) {
+    CDC dc;
+    ASSERT_TRUE(dc.CreateCompatibleDC(nullptr));
+    CFont font;
+    ASSERT_TRUE(font.CreatePointFont(120, "Tahoma"));
+    CGdiObject::DeleteTempMap();
+    const HGDIOBJ hBefore = ::GetCurrentObject(dc.m_hDC, OBJ_FONT);
+    Outcome outcome = Outcome::kDone;
+    CFont* pOld = nullptr;
+    {
+        FailingHeap heap(0);
+        outcome = Try([&] { pOld = dc.SelectObject(&font); });
+    }
+    EXPECT_EQ(Outcome::kMemoryException, outcome);
+    EXPECT_EQ(nullptr, pOld);
+    EXPECT_EQ(hBefore, ::GetCurrentObject(dc.m_hDC, OBJ_FONT));
+    pOld = dc.SelectObject(&font);
+    EXPECT_EQ(hBefore, pOld->GetSafeHandle());
+    dc.SelectObject(pOld);
+}
+
+}  // namespace

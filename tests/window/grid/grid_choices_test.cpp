@@ -1,0 +1,123 @@
+#include <gtest/gtest.h>
+
+#include "support/grid_window.h"
+#include "support/picture.h"
+#include "support/pump.h"
+#include "support/real_input.h"
+
+namespace {
+
+// What an application may have otherwise than by default; each test begins with the default.
+class GridChoices : public testing::Test {
+protected:
+    GridChoices() : grid(w.grid) {
+        BringToFront(w.parent.m_hWnd);
+        w.other.SetFocus();
+        PumpPending();
+    }
+    bool Click(int nRow, int nCol) { return ClickAt(grid.m_hWnd, w.At(nRow, nCol)); }
+    void AltDown() { TypeKey(VK_DOWN, false, false, true); }
+    CRect ListRect() {
+        CRect rc;
+        ::GetWindowRect(w.List(), &rc);
+        return rc;
+    }
+    int LineHeight() { return static_cast<int>(::SendMessage(w.List(), LB_GETITEMHEIGHT, 0, 0)); }
+    bool ListHasBar() { return (::GetWindowLong(w.List(), GWL_STYLE) & WS_VSCROLL) != 0; }
+
+    GridWindow<> w{3};
+    OpenGrid& grid;
+};
+
+TEST_F(GridChoices, AnAddedRowIsPaintedByItself) {
+    const auto linesOfAddedRow = [&] {
+        grid.UpdateWindow();
+        const int nRow = grid.AddRow("name\tabc", 0);
+        return Picture::OfClient(grid.m_hWnd)
+            .Count(::GetSysColor(COLOR_BTNFACE), w.CellRect(nRow, kStatic));
+    };
+    EXPECT_EQ(linesOfAddedRow(), 0);
+    grid.SetShowAddedRows(TRUE);
+    EXPECT_GT(linesOfAddedRow(), 0);
+}
+
+TEST_F(GridChoices, AReadOnlyListStaysClosed) {
+    grid.SetCellReadOnly(1, kList, TRUE);
+    Click(1, kList);
+    EXPECT_NE(w.List(), nullptr);
+    TypeKey(VK_ESCAPE);
+    grid.SetLockReadOnlyLists(TRUE);
+    w.Told();
+    for (const bool bAsks : {false, true}) {
+        grid.SetColListData(kList, bAsks ? nullptr : &w.choices);
+        Click(1, kList);
+        AltDown();
+        EXPECT_EQ(w.Current() + w.Told(), "1,3");
+        EXPECT_EQ(w.List(), nullptr);
+    }
+    grid.Invalidate(FALSE);
+    EXPECT_EQ(Picture::OfClient(grid.m_hWnd)
+                  .Count(::GetSysColor(COLOR_BTNFACE),
+                         CRect(w.ButtonRect(1, kList).TopLeft(), CSize(5, 5))),
+              0);
+    grid.SetCellReadOnly(1, kList, FALSE);
+    grid.SetColListData(kList, &w.choices);
+    AltDown();
+    EXPECT_NE(w.List(), nullptr);
+}
+
+TEST_F(GridChoices, AListIsLimitedInHeightScrollsAndKeepsToTheScreen) {
+    constexpr int kMany = 100;
+    CStringArray many;
+    for (int i = 0; i < kMany; ++i) {
+        CString str;
+        str.Format("line %d", i);
+        many.Add(str);
+    }
+    grid.SetColListData(kList, &many);
+    grid.SetCellText(0, kList, "line 60");
+    Click(0, kList);
+    EXPECT_EQ(ListRect().Height(), kMany * LineHeight() + 2);
+    EXPECT_FALSE(ListHasBar());
+    TypeKey(VK_ESCAPE);
+
+    grid.SetMaxListLines(6);
+    Click(0, kList);
+    EXPECT_EQ(ListRect().Height(), 6 * LineHeight() + 2);
+    EXPECT_TRUE(ListHasBar());
+    EXPECT_EQ(w.ListLine(), "line 60");
+    const auto top = [&] {
+        return static_cast<int>(::SendMessage(w.List(), LB_GETTOPINDEX, 0, 0));
+    };
+    const int nTop = top();
+    EXPECT_TRUE(nTop > 54 && nTop <= 60) << nTop;
+    // Its bar works, and the keys still go to the grid.
+    CPoint ptBar(ListRect().right - 5, ListRect().bottom - 5);
+    grid.ScreenToClient(&ptBar);
+    ClickAt(grid.m_hWnd, ptBar);
+    EXPECT_EQ(top(), nTop + 1);
+    EXPECT_EQ(CWnd::GetFocus(), &grid);
+    ClickAt(grid.m_hWnd, w.LineAt(nTop + 3));
+    EXPECT_EQ(w.Text(0, kList), "line " + std::to_string(nTop + 3));
+
+    grid.SetColListData(kList, &w.choices);
+    Click(0, kList);
+    EXPECT_EQ(ListRect().Height(), 3 * LineHeight() + 2);
+    EXPECT_FALSE(ListHasBar());
+    TypeKey(VK_ESCAPE);
+
+    CRect rc;
+    w.parent.GetWindowRect(&rc);
+    const int nBottom = ::GetSystemMetrics(SM_CYSCREEN);
+    w.parent.SetWindowPos(nullptr, rc.left, nBottom - 60, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    grid.SetColListData(kList, &many);
+    grid.GotoCell(1, kList, FALSE);
+    grid.SetFocus();
+    AltDown();
+    CRect rcCell = w.CellRect(1, kList);
+    grid.ClientToScreen(&rcCell);
+    EXPECT_EQ(ListRect().bottom, rcCell.top) << "there is no room under the cell";
+    EXPECT_EQ(ListRect().Height(), 6 * LineHeight() + 2);
+}
+
+}  // namespace

@@ -1,0 +1,166 @@
+// Each allocation on the way to paper is refused in turn: nothing may be thrown, the document stays
+// as it was or says that something is missing, and lists come out of their print runs.
+#include <gtest/gtest.h>
+
+#include "support/failing_heap.h"
+#include "support/list_window.h"
+
+namespace {
+
+constexpr int kSize = 400;
+
+class PrintMemory : public testing::Test {
+protected:
+    PrintMemory() : w("a\tb") {
+        dc.CreateCompatibleDC(nullptr);
+        bitmap.CreateBitmap(kSize, kSize, 1, 32, nullptr);
+        hOld = ::SelectObject(dc, bitmap);
+        header.CreatePointFont(120, "Tahoma");
+        normal.CreatePointFont(90, "Tahoma");
+        for (int i = 0; i < 30; ++i) {
+            w.Add((std::to_string(i) + "\tx").c_str());
+            rows.Add((std::to_string(i) + "\ty").c_str());
+        }
+        strText = CString('w', 300) + " and some more";
+        nListHeight = w.list.CalculateItemHeight(&dc);
+    }
+    ~PrintMemory() override { ::SelectObject(dc, hOld); }
+
+    // The pages as drawn, one behind the other.
+    std::vector<DWORD> Drawn(QVPrintEngine& engine, unsigned nPages) {
+        std::vector<DWORD> pixels;
+        for (unsigned n = 1; n <= nPages; ++n) {
+            dc.FillSolidRect(0, 0, kSize, kSize, RGB(255, 255, 255));
+            engine.PrintPage(&dc, rc, n);
+            std::vector<DWORD> page(kSize * kSize);
+            bitmap.GetBitmapBits(kSize * kSize * sizeof(DWORD), page.data());
+            pixels.insert(pixels.end(), page.begin(), page.end());
+        }
+        return pixels;
+    }
+    QVPrintEngine Whole() {
+        QVPrintEngine engine(&dc, &header, &normal, &header);
+        engine.AddSectionHeader("section");
+        engine.AddText(strText, &dc, nullptr);
+        engine.AddList(&w.list, &dc);
+        QVPeDataLabeledList& totals = engine.AddLabeledDataList(&dc);
+        totals.AddData("label", "1", QVPeDataLabeledListItem::Right);
+        return engine;
+    }
+    // Runs op with each allocation refused; gives the number of refusals.
+    template <class Op, class Check>
+    int Refuse(Op op, Check check) {
+        int nAll = 0;
+        for (const auto mode : {FailingHeap::kAllLater, FailingHeap::kJustOne}) {
+            bool bThrown = false;
+            nAll += RefuseEachAllocation(
+                mode,
+                [&] {
+                    try {
+                        op();
+                    } catch (...) {
+                        bThrown = true;
+                    }
+                },
+                [&](int n) {
+                    EXPECT_FALSE(bThrown) << n;
+                    bThrown = false;
+                    check(n);
+                });
+        }
+        return nAll;
+    }
+
+    ListWindow<> w;
+    CDC dc;
+    CBitmap bitmap;
+    HGDIOBJ hOld;
+    CFont header, normal;
+    CStringArray rows;
+    CString strText;
+    int nListHeight;
+    const CRect rc = CRect(0, 0, kSize, kSize);
+};
+
+TEST_F(PrintMemory, WhatCannotBeAddedIsLeftOutAndTold) {
+    const std::function<void(QVPrintEngine&)> kAdds[] = {
+        [](QVPrintEngine& e) { e.AddSectionHeader("a long enough section"); },
+        [](QVPrintEngine& e) { e.AddGroupHeader("a long enough group"); },
+        [this](QVPrintEngine& e) { e.AddHeader(strText, &dc); },
+        [this](QVPrintEngine& e) { e.AddText(rows, &dc, nullptr); },
+        [](QVPrintEngine& e) { e.AddBreak(); },
+        [this](QVPrintEngine& e) { e.AddList(&w.list, &dc); },
+        [this](QVPrintEngine& e) { e.AddStringList(&rows, &w.list, &dc); },
+        [this](QVPrintEngine& e) {
+            QVPeDataLabeledList& list = e.AddLabeledDataList(&dc);
+            for (int i = 0; i < 5; ++i) {
+                list.AddData("label", "data", QVPeDataLabeledListItem::Right);
+            }
+        },
+        [](QVPrintEngine& e) { const QVPrintEngine copy(e); },
+    };
+    for (const auto& add : kAdds) {
+        const auto fresh = [this] {
+            auto pEngine = std::make_unique<QVPrintEngine>(&dc, &header, &normal, &header);
+            pEngine->AddGroupHeader("start");
+            return pEngine;
+        };
+        auto pWhole = fresh();
+        add(*pWhole);
+        const std::vector<DWORD> whole = Drawn(*pWhole, pWhole->Paginate(rc));
+        pWhole.reset();
+        auto pEngine = fresh();
+        const int nRefused = Refuse([&] { add(*pEngine); },
+                                    [&](int n) {
+                                        const bool bComplete = pEngine->IsComplete();
+                                        const auto drawn = Drawn(*pEngine, pEngine->Paginate(rc));
+                                        EXPECT_TRUE(!bComplete || drawn == whole) << n;
+                                        EXPECT_FALSE(drawn.empty()) << "what was there stays";
+                                        pEngine.reset();
+                                        EXPECT_EQ(w.list.CalculateItemHeight(&dc), nListHeight);
+                                        pEngine = fresh();
+                                    });
+        EXPECT_GT(nRefused, 0);
+    }
+}
+
+TEST_F(PrintMemory, PagesAreTakenInWhenThereIsMemory) {
+    QVPrintEngine reference = Whole();
+    const unsigned nPages = reference.Paginate(rc);
+    ASSERT_GT(nPages, 1u);
+    auto pEngine = std::make_unique<QVPrintEngine>(Whole());
+    unsigned nResult = 0;
+    const int nRefused = Refuse([&] { nResult = pEngine->Paginate(rc); },
+                                [&](int n) {
+                                    EXPECT_TRUE(nResult == 0 || nResult == nPages) << n;
+                                    EXPECT_TRUE(pEngine->IsComplete());
+                                    EXPECT_EQ(pEngine->Paginate(rc), nPages) << n;
+                                    pEngine.reset();
+                                    pEngine = std::make_unique<QVPrintEngine>(Whole());
+                                });
+    EXPECT_GT(nRefused, 0);
+    EXPECT_EQ(nResult, nPages);
+}
+
+TEST_F(PrintMemory, APageThatCannotBePrintedIsTold) {
+    auto pEngine = std::make_unique<QVPrintEngine>(Whole());
+    const unsigned nPages = pEngine->Paginate(rc);
+    const std::vector<DWORD> whole = Drawn(*pEngine, 1);
+    const HGDIOBJ hFont = ::GetCurrentObject(dc, OBJ_FONT);
+    dc.FillSolidRect(0, 0, kSize, kSize, RGB(255, 255, 255));
+    const int nRefused =
+        Refuse([&] { pEngine->PrintPage(&dc, rc, 1); },
+               [&](int n) {
+                   std::vector<DWORD> drawn(kSize * kSize);
+                   bitmap.GetBitmapBits(kSize * kSize * sizeof(DWORD), drawn.data());
+                   EXPECT_TRUE(!pEngine->IsComplete() || drawn == whole) << n;
+                   EXPECT_EQ(::GetCurrentObject(dc, OBJ_FONT), hFont) << n;
+                   pEngine.reset();
+                   pEngine = std::make_unique<QVPrintEngine>(Whole());
+                   EXPECT_EQ(pEngine->Paginate(rc), nPages);
+                   dc.FillSolidRect(0, 0, kSize, kSize, RGB(255, 255, 255));
+               });
+    EXPECT_GT(nRefused, 0);
+}
+
+}  // namespace
