@@ -1,11 +1,10 @@
 #include "list/header_ctrl_ex.h"
 
-#include <string>
 #include <string_view>
 
 #include "frame/core/styled_text.h"
-#include "frame/module_state.h"
 #include "list/core/header_fields.h"
+#include "list/cut_text.h"
 
 namespace {
 
@@ -28,12 +27,11 @@ void QVHeaderCtrlEx::AddHeader(const CString& strHeaders) {
     int nCol = 0;
     for (int nPos = 0; qv::NextField(headers, nPos, text);) {
         const qv::HeaderField field = qv::ParseHeaderField(text);
-        std::string strTitle(field.title);
-        strTitle.resize(qv::ProcessText().PrefixBytes(strTitle.c_str(), qv::kHeaderItemBytes));
+        const qv::Heading<qv::kHeaderItemBytes + 1> title(field.title);
         HDITEMA item{};
         item.mask = HDI_WIDTH | HDI_TEXT | HDI_FORMAT;
         item.cxy = qv::kHeaderItemWidth;
-        item.pszText = strTitle.data();
+        item.pszText = title.Text();
         item.fmt = HeaderFormat(field.align);
         if (SendMessage(HDM_INSERTITEMA, static_cast<WPARAM>(nCol),
                         reinterpret_cast<LPARAM>(&item)) >= 0) {

@@ -6,11 +6,13 @@
 
 #include "frame/ancestor_font.h"
 #include "frame/core/wheel.h"
+#include "frame/gets_done.h"
 #include "frame/module_state.h"
 #include "frame/mouse_wheel.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "list/cell_format.h"
+#include "list/cut_text.h"
 #include "list/list_places.h"
 
 namespace {
@@ -25,6 +27,8 @@ IMPLEMENT_DYNCREATE(QVListCtrlEx, CListCtrl)
 BEGIN_MESSAGE_MAP(QVListCtrlEx, CListCtrl)
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
+    ON_WM_SETFOCUS()
+    ON_WM_KILLFOCUS()
     ON_WM_MOUSEWHEEL()
     ON_WM_SIZE()
     ON_WM_DESTROY()
@@ -64,15 +68,16 @@ void QVListCtrlEx::ModifyDefStyle(DWORD dwRemove, DWORD dwAdd) {
 
 BOOL QVListCtrlEx::Create(UINT nID, const CRect& rc, UINT nBitmapID, COLORREF crMask, int cx,
                           CWnd* pParent) {
-    if (!CListCtrl::Create(m_dwDefStyle, rc, pParent, nID)) {
-        return FALSE;
-    }
-    const qv::WindowWatch watch(m_alive, m_hWnd);
-    const BOOL bInitialized = Initialize(nID, nBitmapID, crMask, cx, pParent);
+    const qv::AliveWatch watch(m_alive);
+    BOOL bInitialized = FALSE;
+    qv::GetsDone([&] {
+        bInitialized = CListCtrl::Create(m_dwDefStyle, rc, pParent, nID) &&
+                       Initialize(nID, nBitmapID, crMask, cx, pParent);
+    });
     if (!bInitialized && watch) {
         DestroyWindow();
     }
-    return bInitialized && watch;
+    return bInitialized;
 }
 
 BOOL QVListCtrlEx::Create(UINT nID, const CRect& rc, CWnd* pParent) {
@@ -96,9 +101,20 @@ BOOL QVListCtrlEx::Initialize(UINT nID, CWnd* pParent) {
 }
 
 BOOL QVListCtrlEx::Initialize(UINT nID, UINT nBitmapID, COLORREF crMask, int cx, CWnd* pParent) {
-    if (m_hWnd == nullptr && !SubclassDlgItem(nID, pParent)) {
-        return FALSE;
+    const bool bAttach = m_hWnd == nullptr;
+    bool bDone = false;
+    const qv::AliveWatch watch(m_alive);
+    qv::GetsDone([&] {
+        bDone = (!bAttach || SubclassDlgItem(nID, pParent)) && SetUp(nBitmapID, crMask, cx);
+    });
+    if (!bDone && watch && bAttach && m_hWnd != nullptr) {
+        UnsubclassWindow();
     }
+    return bDone;
+}
+
+// False if the list is gone.
+bool QVListCtrlEx::SetUp(UINT nBitmapID, COLORREF crMask, int cx) {
     if (m_hTold == nullptr) {
         m_hTold = ::GetParent(m_hWnd);
     }
@@ -121,7 +137,7 @@ BOOL QVListCtrlEx::Initialize(UINT nID, UINT nBitmapID, COLORREF crMask, int cx,
     if (watch) {
         SetupColumns();
     }
-    return watch ? TRUE : FALSE;
+    return static_cast<bool>(watch);
 }
 
 // The control deletes the image lists that it has when it goes; ours is not its own.
@@ -184,7 +200,9 @@ void QVListCtrlEx::SetImageFirstCol(BOOL bFirst) {
 
 void QVListCtrlEx::AddHeader(UINT nStringID) {
     CString strHeaders;
-    if (strHeaders.LoadString(nStringID)) {
+    BOOL bLoaded = FALSE;
+    qv::GetsDone([&] { bLoaded = strHeaders.LoadString(nStringID); });
+    if (bLoaded) {
         AddHeader(strHeaders);
     }
 }
@@ -204,13 +222,12 @@ void QVListCtrlEx::AddHeader(LPCSTR pszHeaders) {
     int nCol = m_columns.Count();
     for (int nPos = 0;
          watch && nCol <= qv::kLastHeaderColumn && qv::NextField(headers, nPos, field); ++nCol) {
-        std::string strHeading(field);
-        strHeading.resize(qv::ProcessText().PrefixBytes(strHeading.c_str(), kHeadingBytes - 1));
+        const qv::Heading<kHeadingBytes> heading(field);
         LVCOLUMN column{};
         column.mask = LVCF_FMT | LVCF_WIDTH | LVCF_TEXT | LVCF_SUBITEM;
         column.fmt = LVCFMT_LEFT;
         column.cx = qv::kNewColumnWidth;
-        column.pszText = strHeading.data();
+        column.pszText = heading.Text();
         column.iSubItem = nCol;
         SendMessage(LVM_INSERTCOLUMN, static_cast<WPARAM>(nCol), reinterpret_cast<LPARAM>(&column));
     }
@@ -237,13 +254,15 @@ void QVListCtrlEx::SetupColumns() {
         CalcSingleColWidth();
         return;
     }
-    const qv::AliveWatch watch(m_alive);
-    CWindowDC dc(this);
-    const qv::SelectGuard<CFont> font(dc, GetFont());
-    const int nColumns = CalcColWidths(&dc, nullptr);
-    if (watch) {
-        m_columns.SetCount(nColumns);
-    }
+    qv::GetsDone([&] {
+        const qv::AliveWatch watch(m_alive);
+        CWindowDC dc(this);
+        const qv::SelectGuard<CFont> font(dc, GetFont());
+        const int nColumns = CalcColWidths(&dc, nullptr);
+        if (watch) {
+            m_columns.SetCount(nColumns);
+        }
+    });
 }
 
 int QVListCtrlEx::CalcColWidths(CDC*, int*) {
@@ -251,15 +270,21 @@ int QVListCtrlEx::CalcColWidths(CDC*, int*) {
 }
 
 void QVListCtrlEx::SetupColumnsFromString(const CString& strSample) {
+    qv::GetsDone([&] { SizeToSample(std::string(strSample)); });
+}
+
+void QVListCtrlEx::SizeToSample(std::string strSample) {
     const qv::WindowWatch watch(m_alive, m_hWnd);
     int nFillCol = -1;
     int nCol = 0;
-    std::string_view field;
-    for (int nPos = 0; watch && qv::NextField(std::string_view(strSample), nPos, field); ++nCol) {
+    char* pszRest = strSample.data();
+    for (char* psz; watch && (psz = qv::CutField(pszRest)) != nullptr; ++nCol) {
+        std::string_view field = psz;
         if (qv::TakeFillMark(field)) {
             nFillCol = nCol;
+            psz[field.size()] = '\0';
         }
-        const int nWidth = GetStringWidth(std::string(field).c_str()) + qv::kColumnMargin;
+        const int nWidth = GetStringWidth(psz) + qv::kColumnMargin;
         SetColWidth(nCol, std::max(nWidth, GetColWidth(nCol, nullptr)), nullptr);
     }
     if (watch) {
@@ -296,20 +321,28 @@ int QVListCtrlEx::MakeHeaderString(CString& str) {
     column.pszText = szHeading;
     column.cchTextMax = kHeadingBytes + 1;
     int nRead = 0;
-    for (int nCol = 0; nCol < m_columns.Count(); ++nCol) {
-        szHeading[0] = '\0';
-        if (GetColumn(nCol, &column)) {
-            if (nCol > 0) {
-                str += qv::kFieldSeparator;
+    const bool bDone = qv::GetsDone([&] {
+        CString strAll(str);
+        for (int nCol = 0; nCol < m_columns.Count(); ++nCol) {
+            szHeading[0] = '\0';
+            if (GetColumn(nCol, &column)) {
+                if (nCol > 0) {
+                    strAll += qv::kFieldSeparator;
+                }
+                strAll += column.pszText;
+                ++nRead;
             }
-            str += column.pszText;
-            ++nRead;
         }
-    }
-    return nRead;
+        str = strAll;
+    });
+    return bDone ? nRead : 0;
 }
 
 void QVListCtrlEx::CalcColsFromHeader(int nFillCol) {
+    qv::GetsDone([&] { SizeToHeadings(nFillCol); });
+}
+
+void QVListCtrlEx::SizeToHeadings(int nFillCol) {
     CString strHeaders;
     MakeHeaderString(strHeaders);
     if (strHeaders.IsEmpty()) {
@@ -372,7 +405,7 @@ int QVListCtrlEx::GetColFormat(int nCol) const {
 }
 
 void QVListCtrlEx::SetColFormat(int nCol, int nFormat) {
-    m_columns.SetFormat(nCol, nFormat);
+    qv::GetsDone([&] { m_columns.SetFormat(nCol, nFormat); });
 }
 
 int QVListCtrlEx::GetColStyle(int nCol) const {
@@ -380,7 +413,7 @@ int QVListCtrlEx::GetColStyle(int nCol) const {
 }
 
 void QVListCtrlEx::SetColStyle(int nCol, int nStyle) {
-    m_columns.SetStyle(nCol, nStyle);
+    qv::GetsDone([&] { m_columns.SetStyle(nCol, nStyle); });
 }
 
 int QVListCtrlEx::GetHdrFormat(int nCol) {
@@ -423,18 +456,26 @@ void QVListCtrlEx::SortOnHeader(int nCol) {
 
 void QVListCtrlEx::CalcSingleColWidth() {
     const qv::WindowWatch watch(m_alive, m_hWnd);
-    CClientDC dc(this);
-    const qv::SelectGuard<CFont> font(dc, GetFont());
-    m_nDataWidth = 0;
-    const int nItems = GetItemCount();
-    for (int nItem = 0; watch && nItem < nItems; ++nItem) {
-        const int nWidth = CalculateItemWidth(&dc, nItem);
-        if (watch) {
-            m_nDataWidth = std::max(m_nDataWidth, nWidth);
+    const int nOld = m_nDataWidth;
+    const bool bMeasured = qv::GetsDone([&] {
+        CClientDC dc(this);
+        const qv::SelectGuard<CFont> font(dc, GetFont());
+        m_nDataWidth = 0;
+        const int nItems = GetItemCount();
+        for (int nItem = 0; watch && nItem < nItems; ++nItem) {
+            const int nWidth = CalculateItemWidth(&dc, nItem);
+            if (watch) {
+                m_nDataWidth = std::max(m_nDataWidth, nWidth);
+            }
         }
+    });
+    if (!watch) {
+        return;
     }
-    if (watch) {
+    if (bMeasured) {
         SetColWidth(0, std::max(m_nClientWidth, m_nDataWidth), nullptr);
+    } else {
+        m_nDataWidth = nOld;
     }
 }
 
@@ -469,24 +510,28 @@ int QVListCtrlEx::SelectItem(int nItem) {
 }
 
 void QVListCtrlEx::SaveSelections() {
-    m_aSavedSel.RemoveAll();
-    for (int nItem = -1; (nItem = GetNextItem(nItem, LVNI_SELECTED)) != -1;) {
-        m_aSavedSel.Add(GetItemData(nItem));
+    INT_PTR nSaved = 0;
+    const auto nSelected = static_cast<INT_PTR>(GetSelectedCount());
+    if (!qv::GetsDone([&] { m_aSavedSel.SetSize(nSelected); })) {
+        return;
     }
+    for (int nItem = -1; (nItem = GetNextItem(nItem, LVNI_SELECTED)) != -1 && nSaved < nSelected;) {
+        m_aSavedSel[nSaved++] = GetItemData(nItem);
+    }
+    m_aSavedSel.SetSize(nSaved);
 }
 
 void QVListCtrlEx::RestoreSelections() {
-    if (m_aSavedSel.GetSize() == 0) {
-        return;
-    }
     // The first row of each value.
     std::unordered_map<DWORD_PTR, int> rows;
-    const int nItems = GetItemCount();
-    for (int nItem = 0; nItem < nItems; ++nItem) {
-        rows.emplace(GetItemData(nItem), nItem);
-    }
+    const bool bRead = qv::GetsDone([&] {
+        const int nItems = m_aSavedSel.GetSize() != 0 ? GetItemCount() : 0;
+        for (int nItem = 0; nItem < nItems; ++nItem) {
+            rows.emplace(GetItemData(nItem), nItem);
+        }
+    });
     const qv::WindowWatch watch(m_alive, m_hWnd);
-    for (INT_PTR i = 0; watch && i < m_aSavedSel.GetSize(); ++i) {
+    for (INT_PTR i = 0; bRead && watch && i < m_aSavedSel.GetSize(); ++i) {
         if (const auto it = rows.find(m_aSavedSel[i]); it != rows.end()) {
             SetItemState(it->second, LVIS_SELECTED, LVIS_SELECTED);
         }

@@ -14,6 +14,9 @@
 // something; what was under way then ends, and reports failure if it reports. In one notification
 // the platform's own control does not live through it: LVN_DELETEITEM of a DeleteAllItems.
 //
+// Without memory nothing is thrown: what was there stays, and what reports failure reports it. The
+// protected steps may throw, to whoever of the public operations called them.
+//
 // Ownership: print fonts and image resources are the caller's; the image list is the control's.
 // Widths are in pixels of the control's font, on paper in units of the printer's device context.
 
@@ -33,6 +36,7 @@
 #include "list/core/list_columns.h"
 #include "list/core/list_row.h"
 
+class CStdioFile;
 struct CPrintInfo;
 
 class QV_CONTROLS_API QVListCtrlEx : public CListCtrl, public QVStyledRows {
@@ -53,7 +57,7 @@ public:
     BOOL Create(UINT nID, const CRect& rc, UINT nBitmapID, COLORREF crMask, int cx, CWnd* pParent);
     BOOL Create(UINT nID, const CRect& rc, CWnd* pParent);
     // Attaches to the dialog item nID if there is no window yet, and makes the control an
-    // owner-drawn report. 0 if there is no such item.
+    // owner-drawn report. 0 if there is no such item, or no memory.
     virtual BOOL Initialize(UINT nID, UINT nBitmapID, COLORREF crMask, int cx, CWnd* pParent);
     BOOL Initialize(UINT nID, CWnd* pParent);
 
@@ -77,7 +81,7 @@ public:
     // Sets each column to its field's width and 12 pixels, codes measured as they stand. Gives the
     // number of fields. A null table means the control's columns, here and below.
     int MakeColsFromString(CDC* pDC, const CString& strRow, int* pWidths);
-    // Appends the headings with TABs between; gives their number.
+    // Appends the headings with TABs between; gives their number, 0 without memory.
     int MakeHeaderString(CString& str);
     // Sets each column to its heading; nFillCol, unless -1, gets what the window has left.
     void CalcColsFromHeader(int nFillCol);
@@ -108,9 +112,10 @@ public:
     int AddBitmapString(int nImage, LPCSTR pszText, BOOL bNumeric);
     // nIndex -1: at the end. An empty row shows "-".
     int InsertBitmapString(int nImage, int nIndex, LPCSTR pszText);
-    // Columns without a field keep their text. 0 if there is no such row.
+    // Columns without a field keep their text. 0 if there is no such row, or no memory.
     BOOL SetItemString(int nItem, LPCSTR pszText);
-    // Empty columns at the start leave no TAB.
+    // Empty columns at the start leave no TAB. 0, and str as it was, if there is no such row or no
+    // memory.
     BOOL GetItemString(int nItem, CString& str);
     int GetImage(int nItem);
     BOOL SetImage(int nItem, int nImage);
@@ -145,12 +150,12 @@ public:
     virtual int HeaderPrintHeight(CDC* pDC);
     // Spreads nPageWidth over the columns that are printed, in proportion to their widths on
     // screen. Where these have no width at all, neither have they on paper. Gives the number of
-    // columns.
+    // columns, 0 without memory.
     virtual int CalcPrintCols(CDC* pDC, int nPageWidth);
     // The headings and a rule under them.
     virtual void PrintHeader(CDC* pDC, const CRect& rc);
     // As many rows as fit, from nFirst to nLast or from the page pInfo->m_nCurPage on; gives their
-    // number. 0 for a row height of 0.
+    // number. 0 for a row height of 0; without memory, those that were printed.
     virtual int PrintItems(CDC* pDC, UINT nFirst, UINT nLast, const CRect& rc);
     virtual int PrintItems(CDC* pDC, CPrintInfo* pInfo, const CRect& rc);
     virtual int CalculateItemHeight(CDC* pDC);
@@ -162,8 +167,9 @@ public:
     int CalcExcludedColsWidth();
     int GetPrintColWidth(int nCol);
     // A line for each row, chSeparator between the cells, codes removed, nothing quoted; empty
-    // cells at the start of a row leave no separator. 0 if the file cannot be opened. Throws the
-    // framework's CFileException if writing fails.
+    // cells at the start of a row leave no separator. 0 if the file cannot be opened, or if memory
+    // runs out, with the lines before in the file. Throws the framework's CFileException if writing
+    // fails.
     virtual BOOL ExportData(LPCSTR pszPath, char chSeparator);
 
     void DrawItem(LPDRAWITEMSTRUCT lpDIS) override;
@@ -195,6 +201,8 @@ protected:
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg void OnKillFocus(CWnd* pNewWnd);
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);
     afx_msg void OnDestroy();
     afx_msg void OnSize(UINT nType, int cx, int cy);
@@ -246,22 +254,32 @@ private:
 
     int FirstTextColumn() const { return m_bImageFirstCol ? 1 : 0; }
     qv::RowLayout Layout();
+    bool SetUp(UINT nBitmapID, COLORREF crMask, int cx);
+    void SizeToSample(std::string strSample);
+    void SizeToHeadings(int nFillCol);
     void LoadImages(UINT nBitmapID, COLORREF crMask, int cx);
     void TakeFontOfParents();
     void MeasureFont();
     void FillRest(int nFillCol, int nReserved);
     bool HasFocus() const { return ::GetFocus() == m_hWnd; }
     bool ShowsSelAlways() const { return (GetStyle() & LVS_SHOWSELALWAYS) != 0; }
+    bool BeginRows();
+    void DrawRow(LPDRAWITEMSTRUCT lpDIS);
+    void ExcludeHeader(CDC& dc);
+    void DefaultAndRedrawFocus();
     void GrowBackBitmap(CDC& dc, int cx, int cy);
     COLORREF StyleBackground(int nStyle) const;
     void FillCell(CDC& dc, const CRect& rc, const CString& strText, int nCol);
     void ComposeText(UINT nItem, const CRect& rcRow, const qv::RowLayout& layout,
                      qv::Highlight highlight);
+    void PrintHeadings(CDC* pDC, const CRect& rc);
+    bool WriteRows(CStdioFile& file, char chSeparator);
     int RowsThatFit(CDC* pDC, const CRect& rc, int& nHeight);
     int PrintRows(CDC* pDC, UINT nFirst, UINT nEnd, const CRect& rc, int nHeight, int nMost);
     // Inserting a row, and what becomes of the places kept for AddBitmapString.
     int InsertRow(int nImage, int nIndex, LPCSTR pszText);
-    bool SetFields(int nItem, int nCol, std::string_view fields);
+    bool SetFields(int nItem, int nCol, char* pszFields);
+    void AddInPlace(int nImage, LPCSTR pszText, bool bNumeric, int& nIndex);
     std::string PlaceKey(LPCSTR pszText, bool bNumeric) const;
     bool ReadPlaces(bool bNumeric);
 

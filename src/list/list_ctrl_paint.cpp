@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "frame/gets_done.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "frame/wnd_port.h"
@@ -36,21 +37,8 @@ qv::RowLayout QVListCtrlEx::Layout() {
 // and reaches the screen in one piece.
 void QVListCtrlEx::OnPaint() {
     const qv::WindowWatch watch(m_alive, m_hWnd);
-    CRect rcItem;
-    const bool bRows = InReportMode() && GetTopIndex() < GetItemCount() &&
-                       GetItemRect(GetTopIndex(), &rcItem, LVIR_BOUNDS);
-    if (bRows) {
-        CPaintDC dc(this);
-        CRect rcClip;
-        dc.GetClipBox(&rcClip);
-        // The region is valid from here on; what the control is to find goes to the window's right
-        // edge and holds the last pixel of the row.
-        rcClip.left = std::min(rcClip.left, rcItem.right - 1);
-        rcClip.right = m_nClientWidth;
-        InvalidateRect(&rcClip, FALSE);
-        GrowBackBitmap(dc, Layout().Width(), rcItem.Height());
-        m_dcMem.CreateCompatibleDC(&dc);
-    }
+    bool bRows = false;
+    qv::GetsDone([&] { bRows = BeginRows(); });
     {
         const qv::WhileAlive<qv::SelectGuard<CBitmap>> bitmap(watch, m_dcMem,
                                                               bRows ? &m_bmpBack : nullptr);
@@ -59,15 +47,69 @@ void QVListCtrlEx::OnPaint() {
     if (watch.ObjectAlive() && m_dcMem.GetSafeHdc() != nullptr) {
         m_dcMem.DeleteDC();
     }
-    if (watch && GetItemCount() > 0) {
-        CClientDC dc(this);
-        FillEmptySpace(&dc);
+    if (watch && InReportMode()) {
+        qv::GetsDone([&] {
+            CClientDC dc(this);
+            // The empty space of an empty list begins at the top, where the headings are.
+            ExcludeHeader(dc);
+            FillEmptySpace(&dc);
+        });
+    }
+}
+
+// Makes ready what rows are composed in. False if there are none, or none can be drawn.
+bool QVListCtrlEx::BeginRows() {
+    CRect rcItem;
+    if (!InReportMode() || GetTopIndex() >= GetItemCount() ||
+        !GetItemRect(GetTopIndex(), &rcItem, LVIR_BOUNDS)) {
+        return false;
+    }
+    CPaintDC dc(this);
+    CRect rcClip;
+    dc.GetClipBox(&rcClip);
+    // The region is valid from here on; what the control is to find goes from the row's left edge,
+    // which the control leaves out, to the window's right edge and holds the last pixel of the row.
+    rcClip.left = std::min({rcClip.left, rcItem.left, rcItem.right - 1});
+    rcClip.right = m_nClientWidth;
+    InvalidateRect(&rcClip, FALSE);
+    GrowBackBitmap(dc, Layout().Width(), rcItem.Height());
+    return m_dcMem.CreateCompatibleDC(&dc) != FALSE;
+}
+
+void QVListCtrlEx::ExcludeHeader(CDC& dc) {
+    if (CHeaderCtrl* pHeader = GetHeaderCtrl(); pHeader != nullptr && pHeader->IsWindowVisible()) {
+        CRect rc;
+        pHeader->GetWindowRect(&rc);
+        ScreenToClient(&rc);
+        dc.ExcludeClipRect(&rc);
     }
 }
 
 // Rows erase themselves.
 BOOL QVListCtrlEx::OnEraseBkgnd(CDC* pDC) {
-    return FillEmptySpace(pDC);
+    BOOL bFilled = FALSE;
+    qv::GetsDone([&] { bFilled = FillEmptySpace(pDC); });
+    return bFilled;
+}
+
+// A focused row that is not selected has nothing else to tell the control by that it has changed.
+void QVListCtrlEx::OnSetFocus(CWnd*) {
+    DefaultAndRedrawFocus();
+}
+
+void QVListCtrlEx::OnKillFocus(CWnd*) {
+    DefaultAndRedrawFocus();
+}
+
+void QVListCtrlEx::DefaultAndRedrawFocus() {
+    const qv::WindowWatch watch(m_alive, m_hWnd);
+    Default();
+    if (!watch) {
+        return;
+    }
+    if (const int nFocus = GetNextItem(-1, LVNI_FOCUSED); nFocus != -1) {
+        RedrawItems(nFocus, nFocus);
+    }
 }
 
 void QVListCtrlEx::GrowBackBitmap(CDC& dc, int cx, int cy) {
@@ -83,6 +125,10 @@ void QVListCtrlEx::GrowBackBitmap(CDC& dc, int cx, int cy) {
 }
 
 void QVListCtrlEx::DrawItem(LPDRAWITEMSTRUCT lpDIS) {
+    qv::GetsDone([&] { DrawRow(lpDIS); });
+}
+
+void QVListCtrlEx::DrawRow(LPDRAWITEMSTRUCT lpDIS) {
     CDC* pDC = CDC::FromHandle(lpDIS->hDC);
     const qv::RowLayout layout = Layout();
     CRect rc(lpDIS->rcItem);
@@ -135,7 +181,9 @@ void QVListCtrlEx::ComposeText(UINT nItem, const CRect& rcRow, const qv::RowLayo
         ::GetSysColor(highlight == qv::Highlight::Full ? COLOR_WINDOW : COLOR_WINDOWTEXT));
     m_dcMem.SetBkColor(::GetSysColor(RowColor(highlight)));
     const qv::WhileAlive<qv::SelectGuard<CFont>> font(watch, m_dcMem, GetFont());
-    DrawItemText(&m_dcMem, nItem, rcText, highlight != qv::Highlight::None, nullptr);
+    // Cells that find no memory stay blank.
+    qv::GetsDone(
+        [&] { DrawItemText(&m_dcMem, nItem, rcText, highlight != qv::Highlight::None, nullptr); });
 }
 
 void QVListCtrlEx::DrawItemBitmap(CDC* pDC, UINT nItem, const CRect& rc) {
@@ -154,6 +202,9 @@ void QVListCtrlEx::DrawItemBitmap(CDC* pDC, UINT nItem, const CRect& rc) {
 
 // A style that is none counts as the default one.
 COLORREF QVListCtrlEx::StyleBackground(int nStyle) const {
+    if (m_aStyles.Count() == 0) {
+        return ::GetSysColor(COLOR_WINDOW);  // there was no memory for it
+    }
     return m_aStyles[nStyle >= 0 && nStyle < m_aStyles.Count() ? nStyle : 0].crBk;
 }
 
@@ -218,7 +269,8 @@ void QVListCtrlEx::OutputFormattedText(CDC* pDC, const CRect& rc, const CString&
                                        BOOL bSelected, UINT nFormat, BOOL bUseColors) {
     CRect rcText(rc);
     rcText.DeflateRect(qv::kCellMargin * (pDC->IsPrinting() ? m_nPrintScale : 1), 0);
-    if (HasStyle(strText) && bUseColors && (!bSelected || (!HasFocus() && !ShowsSelAlways()))) {
+    if (HasStyle(strText) && bUseColors && m_aStyles.Count() > 0 &&
+        (!bSelected || (!HasFocus() && !ShowsSelAlways()))) {
         pDC->SetTextColor(m_aStyles[ParseStyle(strText)].crText);
     }
     qv::DrawTextIn(*pDC, ParseStyleText(strText), rcText, nFormat | kTextFlags);

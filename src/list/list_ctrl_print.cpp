@@ -1,5 +1,6 @@
 #include <afxext.h>
 
+#include "frame/gets_done.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "list/list_ctrl.h"
@@ -22,11 +23,13 @@ void QVListCtrlEx::SetPrintFonts(CFont* pItemFont, CFont* pHeaderFont) {
 }
 
 void QVListCtrlEx::BeginPrinting(CDC* pDC, CPrintInfo*) {
-    CWindowDC dc(this);
-    m_penPrint.DeleteObject();
-    m_penPrint.CreateStockObject(BLACK_PEN);
-    const int nScreen = dc.GetDeviceCaps(LOGPIXELSX);
-    m_nPrintScale = nScreen > 0 ? pDC->GetDeviceCaps(LOGPIXELSX) / nScreen : 1;
+    qv::GetsDone([&] {
+        CWindowDC dc(this);
+        m_penPrint.DeleteObject();
+        m_penPrint.CreateStockObject(BLACK_PEN);
+        const int nScreen = dc.GetDeviceCaps(LOGPIXELSX);
+        m_nPrintScale = nScreen > 0 ? pDC->GetDeviceCaps(LOGPIXELSX) / nScreen : 1;
+    });
 }
 
 void QVListCtrlEx::EndPrinting(CDC*, CPrintInfo*) {
@@ -51,7 +54,7 @@ int QVListCtrlEx::CalculateItemHeight(CDC* pDC) {
 }
 
 void QVListCtrlEx::ExcludeColumnFromPrinting(int nCol) {
-    m_columns.Exclude(nCol);
+    qv::GetsDone([&] { m_columns.Exclude(nCol); });
 }
 
 BOOL QVListCtrlEx::IsColumnExcludedFromPrinting(int nCol) const {
@@ -59,7 +62,9 @@ BOOL QVListCtrlEx::IsColumnExcludedFromPrinting(int nCol) const {
 }
 
 int QVListCtrlEx::GetPrintColWidth(int nCol) {
-    return GetColWidth(nCol, m_columns.PrintWidths());
+    int nWidth = 0;
+    qv::GetsDone([&] { nWidth = GetColWidth(nCol, m_columns.PrintWidths()); });
+    return nWidth;
 }
 
 int QVListCtrlEx::CalcExcludedColsWidth() {
@@ -72,7 +77,10 @@ int QVListCtrlEx::CalcExcludedColsWidth() {
 
 int QVListCtrlEx::CalcPrintCols(CDC*, int nPageWidth) {
     const int nTotal = CalcDataWidth(nullptr) - CalcExcludedColsWidth();
-    int* pWidths = m_columns.PrintWidths();
+    int* pWidths = nullptr;
+    if (!qv::GetsDone([&] { pWidths = m_columns.PrintWidths(); })) {
+        return 0;
+    }
     for (int nCol = 0; nCol < m_columns.Count(); ++nCol) {
         const int nWidth = m_columns.IsExcluded(nCol)
                                ? 0
@@ -83,6 +91,10 @@ int QVListCtrlEx::CalcPrintCols(CDC*, int nPageWidth) {
 }
 
 void QVListCtrlEx::PrintHeader(CDC* pDC, const CRect& rc) {
+    qv::GetsDone([&] { PrintHeadings(pDC, rc); });
+}
+
+void QVListCtrlEx::PrintHeadings(CDC* pDC, const CRect& rc) {
     const qv::SelectGuard<CPen> pen(*pDC, &m_penPrint);
     const qv::SelectGuard<CFont> font(*pDC, m_pPrintHeaderFont);
     CString strHeaders;
@@ -113,18 +125,20 @@ int QVListCtrlEx::RowsThatFit(CDC* pDC, const CRect& rc, int& nHeight) {
 // Rows nFirst up to nEnd, without it, but no more than nMost.
 int QVListCtrlEx::PrintRows(CDC* pDC, UINT nFirst, UINT nEnd, const CRect& rc, int nHeight,
                             int nMost) {
-    const qv::WindowWatch watch(m_alive, m_hWnd);
     const qv::ColorGuard colors(*pDC);
-    CRect rcRow(rc);
     int nPrinted = 0;
-    for (UINT nItem = nFirst; nItem < nEnd && nPrinted < nMost; ++nItem, ++nPrinted) {
-        rcRow.bottom = rcRow.top + nHeight;
-        DrawItemText(pDC, nItem, rcRow, FALSE, m_columns.PrintWidths());
-        if (!watch) {
-            break;
+    qv::GetsDone([&] {
+        const qv::WindowWatch watch(m_alive, m_hWnd);
+        CRect rcRow(rc);
+        for (UINT nItem = nFirst; nItem < nEnd && nPrinted < nMost; ++nItem, ++nPrinted) {
+            rcRow.bottom = rcRow.top + nHeight;
+            DrawItemText(pDC, nItem, rcRow, FALSE, m_columns.PrintWidths());
+            if (!watch) {
+                break;
+            }
+            rcRow.top = rcRow.bottom;
         }
-        rcRow.top = rcRow.bottom;
-    }
+    });
     return nPrinted;
 }
 
@@ -145,10 +159,17 @@ int QVListCtrlEx::PrintItems(CDC* pDC, UINT nFirst, UINT nLast, const CRect& rc)
 }
 
 BOOL QVListCtrlEx::ExportData(LPCSTR pszPath, char chSeparator) {
-    CStdioFile file;
-    if (!file.Open(pszPath, CFile::modeCreate | CFile::modeWrite | CFile::typeText)) {
-        return FALSE;
-    }
+    bool bWritten = false;
+    qv::GetsDone([&] {
+        CStdioFile file;
+        bWritten = file.Open(pszPath, CFile::modeCreate | CFile::modeWrite | CFile::typeText) &&
+                   WriteRows(file, chSeparator);
+    });
+    return bWritten;
+}
+
+// False if the list is gone.
+bool QVListCtrlEx::WriteRows(CStdioFile& file, char chSeparator) {
     const qv::WindowWatch watch(m_alive, m_hWnd);
     std::string strLine;
     const int nItems = GetItemCount();
@@ -157,7 +178,7 @@ BOOL QVListCtrlEx::ExportData(LPCSTR pszPath, char chSeparator) {
         for (int nCol = 0; nCol < m_columns.Count(); ++nCol) {
             LPCSTR pszCell = CellText(nItem, nCol);
             if (!watch) {
-                return FALSE;
+                return false;
             }
             qv::JoinCell(strLine, ParseStyleText(pszCell), chSeparator);
         }
@@ -165,5 +186,5 @@ BOOL QVListCtrlEx::ExportData(LPCSTR pszPath, char chSeparator) {
         file.WriteString(strLine.c_str());
     }
     file.Close();
-    return TRUE;
+    return true;
 }

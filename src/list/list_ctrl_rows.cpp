@@ -4,7 +4,9 @@
 #include <cstdlib>
 #include <limits>
 
+#include "frame/gets_done.h"
 #include "frame/module_state.h"
+#include "list/cut_text.h"
 #include "list/list_ctrl.h"
 #include "list/list_places.h"
 
@@ -50,19 +52,23 @@ BOOL QVListCtrlEx::SetItemString(int nItem, LPCSTR pszText) {
     if (nItem >= GetItemCount()) {
         return FALSE;
     }
-    return SetFields(nItem, FirstTextColumn(), pszText != nullptr ? pszText : "") ? TRUE : FALSE;
+    bool bSet = false;
+    qv::GetsDone([&] {
+        std::string strRow = pszText != nullptr ? pszText : "";
+        bSet = SetFields(nItem, FirstTextColumn(), strRow.data());
+    });
+    return bSet;
 }
 
-// Sets a cell to each field from column nCol on. False if the list is gone.
-bool QVListCtrlEx::SetFields(int nItem, int nCol, std::string_view fields) {
+// Sets a cell to each field from column nCol on, and cuts the text to pieces. False if the list is
+// gone.
+bool QVListCtrlEx::SetFields(int nItem, int nCol, char* pszFields) {
     const qv::WindowWatch watch(m_alive, m_hWnd);
-    std::string strField;
-    std::string_view field;
-    for (int nPos = 0; watch && nCol < m_columns.Count() && qv::NextField(fields, nPos, field);
+    LPCSTR pszField;
+    for (; watch && nCol < m_columns.Count() && (pszField = qv::CutField(pszFields)) != nullptr;
          ++nCol) {
-        strField = field;
         m_pPlaces->CountSent();
-        SetItemText(nItem, nCol, strField.c_str());
+        SetItemText(nItem, nCol, pszField);
     }
     return static_cast<bool>(watch);
 }
@@ -71,43 +77,46 @@ BOOL QVListCtrlEx::GetItemString(int nItem, CString& str) {
     if (nItem >= GetItemCount()) {
         return FALSE;
     }
-    const qv::WindowWatch watch(m_alive, m_hWnd);
-    std::string strRow;
-    for (int nCol = FirstTextColumn(); nCol < m_columns.Count(); ++nCol) {
-        LPCSTR pszCell = CellText(nItem, nCol);
-        if (!watch) {
-            return FALSE;
+    bool bRead = false;
+    qv::GetsDone([&] {
+        const qv::WindowWatch watch(m_alive, m_hWnd);
+        std::string strRow;
+        for (int nCol = FirstTextColumn(); watch && nCol < m_columns.Count(); ++nCol) {
+            qv::JoinCell(strRow, CellText(nItem, nCol), qv::kFieldSeparator);
         }
-        qv::JoinCell(strRow, pszCell, qv::kFieldSeparator);
-    }
-    str = CString(strRow.data(), static_cast<int>(strRow.size()));
-    return TRUE;
+        if (watch) {
+            str = CString(strRow.data(), static_cast<int>(strRow.size()));
+            bRead = true;
+        }
+    });
+    return bRead;
 }
 
 int QVListCtrlEx::InsertRow(int nImage, int nIndex, LPCSTR pszText) {
-    std::string_view fields = pszText != nullptr ? pszText : "";
-    std::string strFirst = "-";
+    std::string strRow = pszText != nullptr ? pszText : "";
+    char* pszRest = strRow.data();
+    LPCSTR pszFirst = "-";
     int nCol = FirstTextColumn();
     // A cell that is inserted with its text needs no change afterwards. A control that sorts by
     // itself sorts a row in by what it is inserted with: by the placeholder.
-    std::string_view field;
-    int nPos = 0;
     if (nCol == 0 && m_columns.Count() > 0 &&
-        (GetStyle() & (LVS_SORTASCENDING | LVS_SORTDESCENDING)) == 0 &&
-        qv::NextField(fields, nPos, field)) {
-        strFirst = field;
-        fields.remove_prefix(static_cast<size_t>(nPos));
-        nCol = 1;
+        (GetStyle() & (LVS_SORTASCENDING | LVS_SORTDESCENDING)) == 0) {
+        if (LPCSTR pszField = qv::CutField(pszRest)) {
+            pszFirst = pszField;
+            nCol = 1;
+        }
     }
     m_pPlaces->CountSent();
     const qv::WindowWatch watch(m_alive, m_hWnd);
     nIndex = CListCtrl::InsertItem(LVIF_TEXT | LVIF_IMAGE, nIndex != -1 ? nIndex : kBehindAllRows,
-                                   strFirst.c_str(), 0, 0, nImage, 0);
-    return watch && nIndex != -1 && SetFields(nIndex, nCol, fields) ? nIndex : -1;
+                                   pszFirst, 0, 0, nImage, 0);
+    return watch && nIndex != -1 && SetFields(nIndex, nCol, pszRest) ? nIndex : -1;
 }
 
 int QVListCtrlEx::InsertBitmapString(int nImage, int nIndex, LPCSTR pszText) {
-    nIndex = InsertRow(nImage, nIndex, pszText);
+    const int nPlace = nIndex;
+    nIndex = -1;
+    qv::GetsDone([&] { nIndex = InsertRow(nImage, nPlace, pszText); });
     if (nIndex != -1 && m_bSingleColumn) {
         // Without the margin that CalculateItemWidth adds: the next fit widens the column by it.
         const int nWidth = m_nImageWidth + GetStringWidth(ParseStyleText(pszText));
@@ -128,13 +137,17 @@ std::string QVListCtrlEx::PlaceKey(LPCSTR pszText, bool bNumeric) const {
     return strKey;
 }
 
-// False if the list is gone.
+// False if the list is gone, or a row cannot be read.
 bool QVListCtrlEx::ReadPlaces(bool bNumeric) {
     const qv::WindowWatch watch(m_alive, m_hWnd);
+    m_pPlaces->Invalidate();
     m_pPlaces->rows.Clear();
     CString strRow;
     const int nItems = GetItemCount();
-    for (int nItem = 0; nItem < nItems && GetItemString(nItem, strRow); ++nItem) {
+    for (int nItem = 0; nItem < nItems; ++nItem) {
+        if (!GetItemString(nItem, strRow)) {
+            return false;
+        }
         m_pPlaces->rows.Append(
             PlaceKey(bNumeric ? ParseStyleText(strRow) : LPCSTR(strRow), bNumeric));
     }
@@ -146,34 +159,42 @@ bool QVListCtrlEx::ReadPlaces(bool bNumeric) {
 }
 
 int QVListCtrlEx::AddBitmapString(int nImage, LPCSTR pszText, BOOL bNumeric) {
-    const bool bNumber = bNumeric != FALSE;
-    // Labels that the user edits change without a message.
-    if ((GetStyle() & LVS_EDITLABELS) != 0 ||
-        !m_pPlaces->Valid(bNumber, GetItemCount(), NumColumns(), m_aStyles.Count())) {
-        if (!ReadPlaces(bNumber)) {
-            return -1;
-        }
+    const qv::AliveWatch watch(m_alive);
+    int nIndex = -1;
+    if (!qv::GetsDone([&] { AddInPlace(nImage, pszText, bNumeric != FALSE, nIndex); }) && watch) {
+        m_pPlaces->Invalidate();
     }
-    const std::string strKey = PlaceKey(ParseStyleText(pszText), bNumber);
+    return nIndex;
+}
+
+// nIndex is right also where memory runs out once the row is in.
+void QVListCtrlEx::AddInPlace(int nImage, LPCSTR pszText, bool bNumeric, int& nIndex) {
+    // Labels that the user edits change without a message.
+    if (((GetStyle() & LVS_EDITLABELS) != 0 ||
+         !m_pPlaces->Valid(bNumeric, GetItemCount(), NumColumns(), m_aStyles.Count())) &&
+        !ReadPlaces(bNumeric)) {
+        return;
+    }
+    const qv::WindowWatch watch(m_alive, m_hWnd);
+    const std::string strKey = PlaceKey(ParseStyleText(pszText), bNumeric);
     const size_t nPlace = m_pPlaces->rows.Find(strKey);
     const int nForeign = m_pPlaces->ForeignChanges();
-    const qv::WindowWatch watch(m_alive, m_hWnd);
-    const int nIndex = InsertBitmapString(nImage, static_cast<int>(nPlace), pszText);
+    nIndex = InsertBitmapString(nImage, static_cast<int>(nPlace), pszText);
     CString strRow;
     const bool bKeep = watch && nIndex == static_cast<int>(nPlace) &&
                        nForeign == m_pPlaces->ForeignChanges() && GetItemString(nIndex, strRow);
     if (!watch) {
-        return -1;
+        nIndex = -1;
+        return;
     }
     if (bKeep) {
         // What stands in the control now, with its code, is what later rows are compared with.
         m_pPlaces->rows.Insert(
-            nPlace, PlaceKey(bNumber ? ParseStyleText(strRow) : LPCSTR(strRow), bNumber));
-        m_pPlaces->SetValid(bNumber, NumColumns(), m_aStyles.Count());
+            nPlace, PlaceKey(bNumeric ? ParseStyleText(strRow) : LPCSTR(strRow), bNumeric));
+        m_pPlaces->SetValid(bNumeric, NumColumns(), m_aStyles.Count());
     } else {
         m_pPlaces->Invalidate();
     }
-    return nIndex;
 }
 
 int QVListCtrlEx::GetImage(int nItem) {

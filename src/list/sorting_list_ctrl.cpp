@@ -4,11 +4,11 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <new>
 #include <optional>
 #include <unordered_map>
 
 #include "frame/core/sort_keys.h"
+#include "frame/gets_done.h"
 #include "frame/module_state.h"
 #include "list/core/row_ranks.h"
 
@@ -23,25 +23,35 @@ END_MESSAGE_MAP()
 // --- Columns
 
 void QVSortingListCtrl::AddHeader(LPCSTR pszHeaders, QVLISTCTRL_DATATYPE nType) {
-    QVListCtrlEx::AddHeader(pszHeaders);
     const int nAdded = HeaderColumnCount(pszHeaders);
-    for (int i = 1; i <= nAdded && i <= NumColumns(); ++i) {
-        m_aColTypes.SetAtGrow(NumColumns() - i, static_cast<WORD>(nType));
+    // Room for the types first: no column is to come without one.
+    const INT_PTR nMost = NumColumns() + nAdded;
+    const bool bRoom =
+        qv::GetsDone([&] { m_aColTypes.SetSize(std::max(m_aColTypes.GetSize(), nMost)); });
+    if (!bRoom) {
+        return;
+    }
+    const qv::AliveWatch watch(m_alive);
+    QVListCtrlEx::AddHeader(pszHeaders);
+    for (int i = 1; watch && i <= nAdded && i <= NumColumns(); ++i) {
+        m_aColTypes[NumColumns() - i] = static_cast<WORD>(nType);
     }
 }
 
 void QVSortingListCtrl::AddHeader(UINT nStringID, QVLISTCTRL_DATATYPE nType) {
     CString strHeaders;
-    if (strHeaders.LoadString(nStringID)) {
+    BOOL bLoaded = FALSE;
+    qv::GetsDone([&] { bLoaded = strHeaders.LoadString(nStringID); });
+    if (bLoaded) {
         AddHeader(strHeaders, nType);
     }
 }
 
 int QVSortingListCtrl::HeaderColumnCount(LPCSTR pszHeaders) const {
-    const CString strHeaders(pszHeaders);
-    CString strField;
+    const std::string_view headers = pszHeaders != nullptr ? pszHeaders : "";
+    std::string_view field;
     int nFields = 0;
-    for (int nPos = 0; NextField(strHeaders, nPos, strField);) {
+    for (int nPos = 0; qv::NextField(headers, nPos, field);) {
         ++nFields;
     }
     return nFields;
@@ -336,27 +346,34 @@ LRESULT QVSortingListCtrl::OnSetRedraw(WPARAM wParam, LPARAM) {
 }
 
 void QVSortingListCtrl::SortOnHeader(int nCol) {
-    try {
+    const qv::AliveWatch watch(m_alive);
+    bool bSorted = false;
+    qv::GetsDone([&] {
         Sort sort(*this);
         const bool bAscending = nCol != m_nSortCol || !m_bAscending;
         if (!sort.MakeRecords(nCol, bAscending)) {
             return;
         }
+        bSorted = true;
         m_bAscending = bAscending;
         m_nSortCol = nCol;
         if (sort.Prepare()) {
             SortItems(SortFunc, reinterpret_cast<DWORD_PTR>(this));
         }
-    } catch (const std::bad_alloc&) {
-        // The rows and their data are as they were.
-    } catch (CMemoryException* pException) {
-        pException->Delete();  // and so here: a date was being read
+    });
+    if (watch) {
+        m_bSortFailed = !bSorted;
     }
 }
 
 void QVSortingListCtrl::ReSort() {
+    const qv::AliveWatch watch(m_alive);
     m_bAscending = !m_bAscending;
+    m_bSortFailed = false;
     SortOnHeader(m_nSortCol);
+    if (watch && m_bSortFailed) {
+        m_bAscending = !m_bAscending;
+    }
 }
 
 int CALLBACK QVSortingListCtrl::SortFunc(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort) {

@@ -53,4 +53,5 @@ private:
 
     Sort* m_pSort = nullptr;  // lives for one sort
     bool m_bRedraw = true;
+    bool m_bSortFailed = false;
 };

@@ -148,6 +148,80 @@ TEST(ListPaint, TheImageStandsInACellOfItsOwn) {
         << "in the middle of the column";
 }
 
+// What the list repaints by itself, without being told to.
+TEST(ListPaint, AChangeReachesTheRowsLeftEdge) {
+    ListWindow<> w("a\tb");
+    w.list.AddStyle(kRed, kGreen);
+    w.Add("x\ty");
+    BringToFront(w.parent.m_hWnd);
+    w.list.SetFocus();
+    Shown(w.list);
+    const CRect rc = w.RectOf(0);
+    const auto edge = [&] {
+        const Picture picture = Picture::OfClient(w.list.m_hWnd);
+        const int y = rc.CenterPoint().y;
+        return Colors{picture.At(rc.left + 1, y), picture.At(rc.left + 3, y)};
+    };
+    w.list.SelectItem(0);
+    EXPECT_EQ(edge(), Colors(2, kHighlight));
+    ::SetFocus(w.parent.m_hWnd);
+    EXPECT_EQ(edge(), Colors(2, kFace));
+    w.list.SelectItem(-1);
+    EXPECT_EQ(edge(), Colors(2, kWindow));
+    w.list.SetItemString(0,
+                         "\x1b"
+                         "bx");
+    EXPECT_EQ(edge(), Colors(2, kGreen));
+}
+
+TEST(ListPaint, AnEmptyListKeepsItsColumnsColours) {
+    ListWindow<> w("a\tb", false, CSize(500, 400));
+    w.list.AddStyle(kRed, kGreen);
+    w.list.SetColStyle(1, 1);
+    w.list.Invalidate(TRUE);
+    CRect rcHeader;
+    w.list.GetHeaderCtrl()->GetClientRect(&rcHeader);
+    const auto shows = [&](int yTop, int yBottom) {
+        const Picture picture = Picture::OfClient(w.list.m_hWnd);
+        const int x = 60 * 2;
+        return picture.Count(kGreen, CRect(61, yTop, x, yBottom)) == (x - 61) * (yBottom - yTop) &&
+               picture.Count(kWindow, CRect(x, yTop, x + 50, yBottom)) == 50 * (yBottom - yTop);
+    };
+    const int yTop = rcHeader.bottom;
+    ASSERT_TRUE(shows(yTop, 150));
+    w.list.SetWindowPos(nullptr, 0, 0, 300, 100, SWP_NOMOVE | SWP_NOZORDER);
+    PumpPending();
+    w.list.SetWindowPos(nullptr, 0, 0, 420, 300, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_TRUE(shows(yTop, 240)) << "made larger";
+    w.list.SetWindowPos(nullptr, 30, 40, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    EXPECT_TRUE(shows(yTop, 240)) << "moved";
+    w.list.ShowWindow(SW_HIDE);
+    w.parent.UpdateWindow();
+    w.list.ShowWindow(SW_SHOW);
+    EXPECT_TRUE(shows(yTop, 240)) << "shown again";
+    EXPECT_EQ(Picture::OfClient(w.list.GetHeaderCtrl()->m_hWnd).Count(kGreen), 0);
+}
+
+TEST(ListPaint, TheFocusedRowShowsItselfWithoutASelection) {
+    ListWindow<> w("a\tb");
+    w.Add("x\ty");
+    w.Add("x\ty");
+    BringToFront(w.parent.m_hWnd);
+    w.list.SetFocus();
+    w.list.SetItemState(1, LVIS_FOCUSED, LVIS_FOCUSED | LVIS_SELECTED);
+    Shown(w.list);
+    const CRect rc = w.RectOf(1);
+    const auto dots = [&] {
+        const CRect rcLine(rc.left, rc.top, rc.left + 120, rc.top + 1);
+        return rcLine.Width() - Picture::OfClient(w.list.m_hWnd).Count(kWindow, rcLine);
+    };
+    EXPECT_GT(dots(), 40);
+    ::SetFocus(w.parent.m_hWnd);
+    EXPECT_EQ(dots(), 0);
+    w.list.SetFocus();
+    EXPECT_GT(dots(), 40);
+}
+
 // Looks at the screen before and after each row is drawn.
 class WatchedList : public QVListCtrlEx {
 public:

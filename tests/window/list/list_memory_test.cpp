@@ -1,0 +1,299 @@
+// Lists without memory: each allocation of an operation is refused once, alone and with all that
+// follow.
+#include <gtest/gtest.h>
+
+#include <afxext.h>
+
+#include <functional>
+
+#include "support/failing_heap.h"
+#include "support/list_window.h"
+#include "support/test_app.h"
+
+namespace {
+
+// A parent that wants no memory for what it is told.
+class QuietParent : public CWnd {
+public:
+    QuietParent() {
+        CreateEx(0, AfxRegisterWndClass(0), "", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 500, 300,
+                 nullptr, nullptr);
+    }
+    ~QuietParent() override { DestroyWindow(); }
+};
+
+struct StarvedList {
+    explicit StarvedList(CWnd& parent, bool bHeaders) {
+        list.Create(kListId, CRect(0, 0, 400, 200), kListImages, kListImageMask, kListImageWidth,
+                    &parent);
+        list.ModifyStyle(LVS_SINGLESEL, 0);
+        list.AddStyle(RGB(255, 0, 0), RGB(0, 255, 0));
+        if (bHeaders) {
+            list.AddHeader("first heading of all\tb", lcdtString);
+            list.AddHeader("c", lcdtDate);
+        }
+        for (const char* psz : {"beta row with a long text\tx\t2020-01-01",
+                                "Alpha\t\x1b"
+                                "by\t2021-01-01",
+                                "gamma\tz\t1999-01-01"}) {
+            list.InsertBitmapString(0, -1, psz);
+        }
+        list.SetItemState(1, LVIS_SELECTED, LVIS_SELECTED);
+        list.SetItemData(1, 7);
+    }
+    // All that the operations change.
+    std::string State() {
+        std::string str = std::to_string(list.NumColumns());
+        CString strText;
+        list.MakeHeaderString(strText);
+        str += strText;
+        for (int i = 0; i < list.NumColumns(); ++i) {
+            str += ' ' + std::to_string(list.GetColWidth(i, nullptr)) + ' ' +
+                   std::to_string(list.GetColFormat(i)) + ' ' +
+                   std::to_string(list.IsColumnExcludedFromPrinting(i)) + ' ' +
+                   std::to_string(list.ColumnSortType(i));
+        }
+        for (int i = 0; i < list.GetItemCount(); ++i) {
+            list.GetItemString(i, strText);
+            str += '\n';
+            str += strText;
+            str += ' ' + std::to_string(list.GetItemData(i)) + ' ' +
+                   std::to_string(list.GetItemState(i, LVIS_SELECTED));
+        }
+        return str;
+    }
+
+    OpenList<QVSortingListCtrl> list;
+    CString strRead = "as it was";
+    const CString strSample = "a sample that is rather long\tis it\tnot*";
+    CPrintInfo info;
+    CClientDC dc{nullptr};  // the screen
+};
+
+// False: it says that it could not. What says nothing gives true.
+struct Operation {
+    const char* pszName;
+    bool bHeaders;
+    bool bReports;
+    std::function<bool(StarvedList&)> act;
+};
+
+const Operation kOperations[] = {
+    {"insert", true, true,
+     [](StarvedList& w) {
+         return w.list.InsertBitmapString(0, 1, "a new row of text\tu\tv") != -1;
+     }},
+    {"insert in one column", false, true,
+     [](StarvedList& w) { return w.list.InsertBitmapString(0, 1, "a new row of text") != -1; }},
+    {"add by text", true, true,
+     [](StarvedList& w) {
+         return w.list.AddBitmapString(0, "bb, a new row of text\tu", FALSE) != -1;
+     }},
+    {"add by number", true, true,
+     [](StarvedList& w) { return w.list.AddBitmapString(0, "5 new rows of text\tu", TRUE) != -1; }},
+    {"change", true, true,
+     [](StarvedList& w) {
+         return w.list.SetItemString(1, "another text for this row\tand\tmore of it") != FALSE;
+     }},
+    {"read", true, true,
+     [](StarvedList& w) { return w.list.GetItemString(0, w.strRead) != FALSE; }},
+    {"headings", true, true,
+     [](StarvedList& w) { return w.list.MakeHeaderString(w.strRead) == 3; }},
+    {"add headings", true, false,
+     [](StarvedList& w) {
+         w.list.AddHeader("a heading that is long\td", lcdtNumber);
+         return true;
+     }},
+    {"first headings", false, false,
+     [](StarvedList& w) {
+         w.list.AddHeader("a heading that is long\td", lcdtNumber);
+         return true;
+     }},
+    {"sample", true, false,
+     [](StarvedList& w) {
+         w.list.SetupColumnsFromString(w.strSample);
+         return true;
+     }},
+    {"fit to headings", true, false,
+     [](StarvedList& w) {
+         w.list.CalcColsFromHeader(1);
+         return true;
+     }},
+    {"fit", false, false,
+     [](StarvedList& w) {
+         w.list.SetupColumns();
+         return true;
+     }},
+    {"delete", false, true, [](StarvedList& w) { return w.list.DeleteItem(0) != FALSE; }},
+    {"align", true, false,
+     [](StarvedList& w) {
+         w.list.SetColFormat(2, LVCFMT_RIGHT);
+         return true;
+     }},
+    {"style", true, false,
+     [](StarvedList& w) {
+         w.list.SetColStyle(2, 1);
+         return true;
+     }},
+    {"exclude", true, false,
+     [](StarvedList& w) {
+         w.list.ExcludeColumnFromPrinting(1);
+         return true;
+     }},
+    {"widths on paper", true, true,
+     [](StarvedList& w) { return w.list.CalcPrintCols(&w.dc, 300) == 3; }},
+    {"print", true, true,
+     [](StarvedList& w) {
+         CPrintInfo& info = w.info;
+         CDC& dc = w.dc;
+         w.list.BeginPrinting(&dc, &info);
+         w.list.PrintHeader(&dc, CRect(0, 0, 300, 30));
+         const bool bAll = w.list.PrintItems(&dc, 0u, 2u, CRect(0, 0, 300, 900)) == 3;
+         w.list.EndPrinting(&dc, &info);
+         return bAll;
+     }},
+    {"export", true, true, [](StarvedList& w) { return w.list.ExportData("NUL", ',') != FALSE; }},
+    {"selection", true, false,
+     [](StarvedList& w) {
+         w.list.SaveSelections();
+         w.list.RestoreSelections();
+         return true;
+     }},
+    {"paint", true, false,
+     [](StarvedList& w) {
+         w.list.Invalidate();
+         w.list.UpdateWindow();
+         return true;
+     }},
+    {"size", false, false,
+     [](StarvedList& w) {
+         w.list.SetWindowPos(nullptr, 0, 0, 390, 190, SWP_NOMOVE | SWP_NOZORDER);
+         w.list.UpdateWindow();
+         return true;
+     }},
+    {"sort", true, false,
+     [](StarvedList& w) {
+         w.list.SortOnHeader(1);
+         return true;
+     }},
+    {"sort again", true, false,
+     [](StarvedList& w) {
+         w.list.ReSort();
+         return true;
+     }},
+    {"sort by date", true, false,
+     [](StarvedList& w) {
+         w.list.SortOnHeader(2);
+         return true;
+     }},
+};
+
+struct Outcome {
+    bool bDone = false;
+    bool bThrown = false;
+    bool bRefused = false;
+};
+
+Outcome Starve(const Operation& operation, StarvedList& w, FailingHeap::Mode mode,
+               int nSucceeding) {
+    Outcome outcome;
+    const FailingHeap heap(nSucceeding, mode);
+    try {
+        outcome.bDone = operation.act(w);
+    } catch (...) {
+        outcome.bThrown = true;
+    }
+    outcome.bRefused = heap.Refused() > 0;
+    return outcome;
+}
+
+class ListMemory : public testing::TestWithParam<Operation> {};
+
+void PrintTo(const Operation& operation, std::ostream* pOut) {
+    *pOut << operation.pszName;
+}
+
+TEST_P(ListMemory, WhatWasThereStays) {
+    const Operation& operation = GetParam();
+    QuietParent parent;
+    std::string strDone;
+    {
+        StarvedList w(parent, operation.bHeaders);
+        ASSERT_TRUE(operation.act(w));
+        strDone = w.State();
+    }
+    TheTestApp().Forget();
+    for (const auto mode : {FailingHeap::kAllLater, FailingHeap::kJustOne}) {
+        for (int nSucceeding = 0;; ++nSucceeding) {
+            SCOPED_TRACE(nSucceeding);
+            StarvedList w(parent, operation.bHeaders);
+            w.list.UpdateWindow();
+            const std::string strBefore = w.State();
+            const Outcome outcome = Starve(operation, w, mode, nSucceeding);
+            ASSERT_FALSE(outcome.bThrown);
+            ASSERT_TRUE(TheTestApp().m_exceptions.empty());
+            const std::string strAfter = w.State();
+            if (!outcome.bDone) {
+                ASSERT_EQ(strAfter, strBefore);
+                ASSERT_STREQ(w.strRead, "as it was");
+            } else if (operation.bReports || !outcome.bRefused) {
+                ASSERT_EQ(strAfter, strDone);
+            } else {
+                ASSERT_TRUE(strAfter == strBefore || strAfter == strDone) << strAfter;
+            }
+            if (!outcome.bRefused) {
+                break;
+            }
+        }
+    }
+}
+
+std::string NameOf(const testing::TestParamInfo<Operation>& info) {
+    std::string strName = info.param.pszName;
+    for (char& ch : strName) {
+        ch = ch == ' ' ? '_' : ch;
+    }
+    return strName;
+}
+
+INSTANTIATE_TEST_SUITE_P(Refused, ListMemory, testing::ValuesIn(kOperations), NameOf);
+
+TEST(ListMemoryAtCreation, AListThatCannotBeMadeLeavesNoWindow) {
+    QuietParent parent;
+    for (const auto mode : {FailingHeap::kAllLater, FailingHeap::kJustOne}) {
+        bool bMade = false;
+        bool bThrown = false;
+        const auto make = [&](QVListCtrlEx& list) {
+            try {
+                bMade = list.Create(kListId, CRect(0, 0, 50, 50), &parent) != FALSE;
+            } catch (...) {
+                bThrown = true;
+            }
+        };
+        int nSucceeding = 0;
+        for (bool bRefused = true; bRefused; ++nSucceeding) {
+            QVListCtrlEx list;
+            {
+                const FailingHeap heap(nSucceeding, mode);
+                make(list);
+                bRefused = heap.Refused() > 0;
+            }
+            ASSERT_FALSE(bThrown) << nSucceeding;
+            ASSERT_EQ(bMade, list.m_hWnd != nullptr) << nSucceeding;
+        }
+    }
+}
+
+TEST(ListMemoryAtCreation, AHeaderTakesItsColumnsWithout) {
+    QuietParent parent;
+    QVHeaderCtrlEx header;
+    header.Create(WS_CHILD, CRect(0, 0, 300, 20), &parent, 5);
+    const CString strHeaders("a title that is long enough\t<b");
+    {
+        const FailingHeap heap(0);
+        header.AddHeader(strHeaders);
+    }
+    EXPECT_EQ(header.GetItemCount(), 2);
+}
+
+}  // namespace
