@@ -1,6 +1,6 @@
 #include "frame/cust_ctrl.h"
 
-#include "frame/memory.h"
+#include "frame/out_of_memory.h"
 #include "frame/select_object.h"
 
 IMPLEMENT_DYNCREATE(QVCustCtrl, CWnd)
@@ -20,7 +20,7 @@ void QVCustCtrl::ModifyDefStyle(DWORD dwRemove, DWORD dwAdd) {
 
 int QVCustCtrl::Create(UINT nID, const CRect& rect, CWnd* pParent) {
     BOOL bCreated = FALSE;
-    qv::FindsMemory(
+    qv::MemorySuffices(
         [&] { bCreated = CWnd::Create(nullptr, "", m_dwDefStyle, rect, pParent, nID, nullptr); });
     if (!bCreated) {
         ForgetHalfAttached();
@@ -33,7 +33,7 @@ int QVCustCtrl::Initialize(UINT nID, CWnd* pParent) {
         return 1;
     }
     BOOL bAttached = FALSE;
-    if (!qv::FindsMemory(
+    if (!qv::MemorySuffices(
             [&] { bAttached = pParent != nullptr && SubclassDlgItem(nID, pParent); })) {
         ForgetHalfAttached();
     }
@@ -49,7 +49,7 @@ void QVCustCtrl::ForgetHalfAttached() {
 
 LRESULT QVCustCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     LRESULT lResult = message == WM_CREATE ? -1 : 0;
-    qv::FindsMemory([&] { lResult = CWnd::WindowProc(message, wParam, lParam); });
+    qv::MemorySuffices([&] { lResult = CWnd::WindowProc(message, wParam, lParam); });
     return lResult;
 }
 

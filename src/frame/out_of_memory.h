@@ -1,22 +1,28 @@
 // Where the heap's refusal ends. The language says it by std::bad_alloc, the framework by a
-// CMemoryException; core knows the first alone.
+// CMemoryException, or by a CResourceException where the system has no brush or device context to
+// give; core knows the first alone.
 
 #pragma once
 
 #include <afxwin.h>
 
 #include <new>
+#include <stdexcept>
 
 namespace qv {
 
-// False if memory ran out on the way; nothing is thrown then. Any other exception goes through.
+// False if memory or the system's objects ran out on the way; nothing is thrown then. Any other
+// exception is not the library's and goes on.
 template <class Action>
-bool MemorySuffices(Action action) {
+bool MemorySuffices(Action&& action) {
     try {
         action();
         return true;
     } catch (const std::bad_alloc&) {
+    } catch (const std::length_error&) {
     } catch (CMemoryException* pException) {
+        pException->Delete();
+    } catch (CResourceException* pException) {
         pException->Delete();
     }
     return false;
@@ -42,5 +48,16 @@ auto AsMemoryException(Action action) {
     }
     AfxThrowMemoryException();
 }
+
+// A platform control whose window procedure ends quietly where there is no memory.
+template <class Control>
+class QuietWithoutMemory : public Control {
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        LRESULT lResult = 0;
+        MemorySuffices([&] { lResult = Control::WindowProc(message, wParam, lParam); });
+        return lResult;
+    }
+};
 
 }  // namespace qv

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "frame/core/styled_text.h"
-#include "frame/memory.h"
+#include "frame/out_of_memory.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "frame/wnd_port.h"
@@ -92,7 +92,7 @@ void QVGridCtrl::InvalidateAll() {
 // --- Columns
 
 int QVGridCtrl::AddColumn(GridColType nType, int nWidth) {
-    return qv::SayMemoryException([&] { return m_model.AddColumn(nType, nWidth); });
+    return qv::AsMemoryException([&] { return m_model.AddColumn(nType, nWidth); });
 }
 
 int QVGridCtrl::NumColumns() const {
@@ -154,7 +154,7 @@ BOOL QVGridCtrl::UseFieldButton(int nCol) const {
 
 int QVGridCtrl::AutoSizeColumn(int nCol, int nMinWidth) {
     int nWidth = 0;
-    qv::FindsMemory([&] {
+    qv::MemorySuffices([&] {
         CStringArray strings;
         CString strText;
         for (int nRow = 0; nRow < NumRows(); ++nRow) {
@@ -170,7 +170,7 @@ int QVGridCtrl::AutoSizeColumn(int nCol, int nMinWidth) {
 int QVGridCtrl::SizeToStrings(int nCol, const CStringArray& strings, int nMinWidth) {
     int nWidth = std::max(-1, nMinWidth);
     const bool bMeasured =
-        MeasureRows() && qv::FindsMemory([&] {
+        MeasureRows() && qv::MemorySuffices([&] {
             CClientDC dc(this);
             const qv::SelectGuard<CFont> font(dc, m_hFont);
             const int nRoom = kTextRoom + (UseFieldButton(nCol) ? m_nCellHeight : 0);
@@ -190,7 +190,7 @@ int QVGridCtrl::SizeToStrings(int nCol, const CStringArray& strings, int nMinWid
 // --- Rows
 
 int QVGridCtrl::AddRow(const CString& strRow, DWORD dwState) {
-    const int nRow = qv::SayMemoryException([&] {
+    const int nRow = qv::AsMemoryException([&] {
         return m_model.AddRow({strRow, static_cast<size_t>(strRow.GetLength())}, dwState);
     });
     if (m_nTopRow == -1) {
@@ -256,7 +256,7 @@ void QVGridCtrl::ParseRowString(const CString& strRow, CStringArray& fields) con
 
 BOOL QVGridCtrl::GetCellText(int nRow, int nCol, CString& str) {
     bool bText = false;
-    return qv::FindsMemory([&] { bText = ReadCell(nRow, nCol, str); }) && bText;
+    return qv::MemorySuffices([&] { bText = ReadCell(nRow, nCol, str); }) && bText;
 }
 
 // As the public one, but says that there was no memory by an exception: an empty text would be
@@ -280,7 +280,7 @@ void QVGridCtrl::SetCellText(int nRow, int nCol, const CString& str) {
     if (!IsValidRow(nRow) || !IsValidColumn(nCol)) {
         return;
     }
-    qv::SayMemoryException([&] {
+    qv::AsMemoryException([&] {
         m_model.SetText(nRow, nCol, {str, static_cast<size_t>(str.GetLength())});
     });
     const Watch watch(*this);

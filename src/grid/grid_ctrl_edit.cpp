@@ -126,7 +126,7 @@ void QVGridCtrl::ActivateCell(int nRow, int nCol) {
     const IgnoreFocus ignore(m_bIgnoreFocus, m_pAlive);
     // Of the cell that is left; a hidden edit would lose what it holds.
     if (SaveEdit() && watch && MeasureRows()) {
-        qv::FindsMemory([&] { OpenEdit(nRow, nCol); });  // else the cell stays closed
+        qv::MemorySuffices([&] { OpenEdit(nRow, nCol); });  // else the cell stays closed
     }
 }
 
@@ -201,7 +201,7 @@ void QVGridCtrl::HideEditCtrl() {
 // Not through the public SetCellText, which would write the text into the edit again. To the cell
 // that it was opened for, wherever the current cell has gone meanwhile. False without memory.
 bool QVGridCtrl::KeepTypedText() {
-    return qv::FindsMemory([this] {
+    return qv::MemorySuffices([this] {
         CString strText;
         m_pEdit->GetWindowText(strText);
         m_model.SetText(m_editCell.nRow, m_editCell.nCol,
@@ -283,7 +283,7 @@ void QVGridCtrl::SaveListBox() {
     }
     const Watch watch(*this);
     bool bChosen = false;
-    qv::FindsMemory([&] { bChosen = KeepChosenLine(); });
+    qv::MemorySuffices([&] { bChosen = KeepChosenLine(); });
     if (bChosen && watch) {
         NotifyParent(1);
     }
@@ -296,7 +296,7 @@ void QVGridCtrl::PopupList(CStringArray& strings) {
     if (m_hWnd == nullptr || !IsValidRow(m_nCurRow) || !IsValidColumn(m_nCurCol)) {
         return;
     }
-    if (!MeasureRows() || !qv::FindsMemory([&] { FillList(strings); })) {
+    if (!MeasureRows() || !qv::MemorySuffices([&] { FillList(strings); })) {
         HideListBox();
         return;
     }

@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "frame/memory.h"
+#include "frame/out_of_memory.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "frame/wnd_port.h"
@@ -19,7 +19,7 @@ COLORREF Sys(int nIndex) {
 
 // The font is that of the parent unless the grid was given one of its own.
 void QVGridCtrl::CalcCellHeight() {
-    qv::FindsMemory([this] {
+    qv::MemorySuffices([this] {
         CClientDC dc(this);
         CWnd* pParent = GetParent();
         if (m_hFont == nullptr && pParent != nullptr) {
@@ -49,7 +49,7 @@ void QVGridCtrl::OnPaint() {
 }
 
 void QVGridCtrl::Draw(CDC& dc, const CRect& rcClient) {
-    qv::FindsMemory([&] { DrawRows(dc, rcClient); });
+    qv::MemorySuffices([&] { DrawRows(dc, rcClient); });
 }
 
 void QVGridCtrl::DrawRows(CDC& dc, const CRect& rcClient) {

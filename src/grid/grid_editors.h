@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "frame/memory.h"
+#include "frame/out_of_memory.h"
 #include "grid/grid_ctrl.h"
 
 // Leaves the cell by the arrow keys at the ends of its text, and saves as it loses the focus.

@@ -6,9 +6,9 @@
 
 #include "frame/ancestor_font.h"
 #include "frame/core/wheel.h"
-#include "frame/gets_done.h"
 #include "frame/module_state.h"
 #include "frame/mouse_wheel.h"
+#include "frame/out_of_memory.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "list/cell_format.h"
@@ -70,7 +70,7 @@ BOOL QVListCtrlEx::Create(UINT nID, const CRect& rc, UINT nBitmapID, COLORREF cr
                           CWnd* pParent) {
     const qv::AliveWatch watch(m_alive);
     BOOL bInitialized = FALSE;
-    qv::GetsDone([&] {
+    qv::MemorySuffices([&] {
         bInitialized = CListCtrl::Create(m_dwDefStyle, rc, pParent, nID) &&
                        Initialize(nID, nBitmapID, crMask, cx, pParent);
     });
@@ -104,7 +104,7 @@ BOOL QVListCtrlEx::Initialize(UINT nID, UINT nBitmapID, COLORREF crMask, int cx,
     const bool bAttach = m_hWnd == nullptr;
     bool bDone = false;
     const qv::AliveWatch watch(m_alive);
-    qv::GetsDone([&] {
+    qv::MemorySuffices([&] {
         bDone = (!bAttach || SubclassDlgItem(nID, pParent)) && SetUp(nBitmapID, crMask, cx);
     });
     if (!bDone && watch && bAttach && m_hWnd != nullptr) {
@@ -201,7 +201,7 @@ void QVListCtrlEx::SetImageFirstCol(BOOL bFirst) {
 void QVListCtrlEx::AddHeader(UINT nStringID) {
     CString strHeaders;
     BOOL bLoaded = FALSE;
-    qv::GetsDone([&] { bLoaded = strHeaders.LoadString(nStringID); });
+    qv::MemorySuffices([&] { bLoaded = strHeaders.LoadString(nStringID); });
     if (bLoaded) {
         AddHeader(strHeaders);
     }
@@ -254,7 +254,7 @@ void QVListCtrlEx::SetupColumns() {
         CalcSingleColWidth();
         return;
     }
-    qv::GetsDone([&] {
+    qv::MemorySuffices([&] {
         const qv::AliveWatch watch(m_alive);
         CWindowDC dc(this);
         const qv::SelectGuard<CFont> font(dc, GetFont());
@@ -270,7 +270,7 @@ int QVListCtrlEx::CalcColWidths(CDC*, int*) {
 }
 
 void QVListCtrlEx::SetupColumnsFromString(const CString& strSample) {
-    qv::GetsDone([&] { SizeToSample(std::string(strSample)); });
+    qv::MemorySuffices([&] { SizeToSample(std::string(strSample)); });
 }
 
 void QVListCtrlEx::SizeToSample(std::string strSample) {
@@ -321,7 +321,7 @@ int QVListCtrlEx::MakeHeaderString(CString& str) {
     column.pszText = szHeading;
     column.cchTextMax = kHeadingBytes + 1;
     int nRead = 0;
-    const bool bDone = qv::GetsDone([&] {
+    const bool bDone = qv::MemorySuffices([&] {
         CString strAll(str);
         for (int nCol = 0; nCol < m_columns.Count(); ++nCol) {
             szHeading[0] = '\0';
@@ -339,7 +339,7 @@ int QVListCtrlEx::MakeHeaderString(CString& str) {
 }
 
 void QVListCtrlEx::CalcColsFromHeader(int nFillCol) {
-    qv::GetsDone([&] { SizeToHeadings(nFillCol); });
+    qv::MemorySuffices([&] { SizeToHeadings(nFillCol); });
 }
 
 void QVListCtrlEx::SizeToHeadings(int nFillCol) {
@@ -405,7 +405,7 @@ int QVListCtrlEx::GetColFormat(int nCol) const {
 }
 
 void QVListCtrlEx::SetColFormat(int nCol, int nFormat) {
-    qv::GetsDone([&] { m_columns.SetFormat(nCol, nFormat); });
+    qv::MemorySuffices([&] { m_columns.SetFormat(nCol, nFormat); });
 }
 
 int QVListCtrlEx::GetColStyle(int nCol) const {
@@ -413,7 +413,7 @@ int QVListCtrlEx::GetColStyle(int nCol) const {
 }
 
 void QVListCtrlEx::SetColStyle(int nCol, int nStyle) {
-    qv::GetsDone([&] { m_columns.SetStyle(nCol, nStyle); });
+    qv::MemorySuffices([&] { m_columns.SetStyle(nCol, nStyle); });
 }
 
 int QVListCtrlEx::GetHdrFormat(int nCol) {
@@ -457,7 +457,7 @@ void QVListCtrlEx::SortOnHeader(int nCol) {
 void QVListCtrlEx::CalcSingleColWidth() {
     const qv::WindowWatch watch(m_alive, m_hWnd);
     const int nOld = m_nDataWidth;
-    const bool bMeasured = qv::GetsDone([&] {
+    const bool bMeasured = qv::MemorySuffices([&] {
         CClientDC dc(this);
         const qv::SelectGuard<CFont> font(dc, GetFont());
         m_nDataWidth = 0;
@@ -512,7 +512,7 @@ int QVListCtrlEx::SelectItem(int nItem) {
 void QVListCtrlEx::SaveSelections() {
     INT_PTR nSaved = 0;
     const auto nSelected = static_cast<INT_PTR>(GetSelectedCount());
-    if (!qv::GetsDone([&] { m_aSavedSel.SetSize(nSelected); })) {
+    if (!qv::MemorySuffices([&] { m_aSavedSel.SetSize(nSelected); })) {
         return;
     }
     for (int nItem = -1; (nItem = GetNextItem(nItem, LVNI_SELECTED)) != -1 && nSaved < nSelected;) {
@@ -524,7 +524,7 @@ void QVListCtrlEx::SaveSelections() {
 void QVListCtrlEx::RestoreSelections() {
     // The first row of each value.
     std::unordered_map<DWORD_PTR, int> rows;
-    const bool bRead = qv::GetsDone([&] {
+    const bool bRead = qv::MemorySuffices([&] {
         const int nItems = m_aSavedSel.GetSize() != 0 ? GetItemCount() : 0;
         for (int nItem = 0; nItem < nItems; ++nItem) {
             rows.emplace(GetItemData(nItem), nItem);

@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "frame/gets_done.h"
+#include "frame/out_of_memory.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "frame/wnd_port.h"
@@ -38,7 +38,7 @@ qv::RowLayout QVListCtrlEx::Layout() {
 void QVListCtrlEx::OnPaint() {
     const qv::WindowWatch watch(m_alive, m_hWnd);
     bool bRows = false;
-    qv::GetsDone([&] { bRows = BeginRows(); });
+    qv::MemorySuffices([&] { bRows = BeginRows(); });
     {
         const qv::WhileAlive<qv::SelectGuard<CBitmap>> bitmap(watch, m_dcMem,
                                                               bRows ? &m_bmpBack : nullptr);
@@ -48,7 +48,7 @@ void QVListCtrlEx::OnPaint() {
         m_dcMem.DeleteDC();
     }
     if (watch && InReportMode()) {
-        qv::GetsDone([&] {
+        qv::MemorySuffices([&] {
             CClientDC dc(this);
             // The empty space of an empty list begins at the top, where the headings are.
             ExcludeHeader(dc);
@@ -88,7 +88,7 @@ void QVListCtrlEx::ExcludeHeader(CDC& dc) {
 // Rows erase themselves.
 BOOL QVListCtrlEx::OnEraseBkgnd(CDC* pDC) {
     BOOL bFilled = FALSE;
-    qv::GetsDone([&] { bFilled = FillEmptySpace(pDC); });
+    qv::MemorySuffices([&] { bFilled = FillEmptySpace(pDC); });
     return bFilled;
 }
 
@@ -125,7 +125,7 @@ void QVListCtrlEx::GrowBackBitmap(CDC& dc, int cx, int cy) {
 }
 
 void QVListCtrlEx::DrawItem(LPDRAWITEMSTRUCT lpDIS) {
-    qv::GetsDone([&] { DrawRow(lpDIS); });
+    qv::MemorySuffices([&] { DrawRow(lpDIS); });
 }
 
 void QVListCtrlEx::DrawRow(LPDRAWITEMSTRUCT lpDIS) {
@@ -182,7 +182,7 @@ void QVListCtrlEx::ComposeText(UINT nItem, const CRect& rcRow, const qv::RowLayo
     m_dcMem.SetBkColor(::GetSysColor(RowColor(highlight)));
     const qv::WhileAlive<qv::SelectGuard<CFont>> font(watch, m_dcMem, GetFont());
     // Cells that find no memory stay blank.
-    qv::GetsDone(
+    qv::MemorySuffices(
         [&] { DrawItemText(&m_dcMem, nItem, rcText, highlight != qv::Highlight::None, nullptr); });
 }
 

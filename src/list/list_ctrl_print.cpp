@@ -1,6 +1,6 @@
 #include <afxext.h>
 
-#include "frame/gets_done.h"
+#include "frame/out_of_memory.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "list/list_ctrl.h"
@@ -23,7 +23,7 @@ void QVListCtrlEx::SetPrintFonts(CFont* pItemFont, CFont* pHeaderFont) {
 }
 
 void QVListCtrlEx::BeginPrinting(CDC* pDC, CPrintInfo*) {
-    qv::GetsDone([&] {
+    qv::MemorySuffices([&] {
         CWindowDC dc(this);
         m_penPrint.DeleteObject();
         m_penPrint.CreateStockObject(BLACK_PEN);
@@ -54,7 +54,7 @@ int QVListCtrlEx::CalculateItemHeight(CDC* pDC) {
 }
 
 void QVListCtrlEx::ExcludeColumnFromPrinting(int nCol) {
-    qv::GetsDone([&] { m_columns.Exclude(nCol); });
+    qv::MemorySuffices([&] { m_columns.Exclude(nCol); });
 }
 
 BOOL QVListCtrlEx::IsColumnExcludedFromPrinting(int nCol) const {
@@ -63,7 +63,7 @@ BOOL QVListCtrlEx::IsColumnExcludedFromPrinting(int nCol) const {
 
 int QVListCtrlEx::GetPrintColWidth(int nCol) {
     int nWidth = 0;
-    qv::GetsDone([&] { nWidth = GetColWidth(nCol, m_columns.PrintWidths()); });
+    qv::MemorySuffices([&] { nWidth = GetColWidth(nCol, m_columns.PrintWidths()); });
     return nWidth;
 }
 
@@ -78,7 +78,7 @@ int QVListCtrlEx::CalcExcludedColsWidth() {
 int QVListCtrlEx::CalcPrintCols(CDC*, int nPageWidth) {
     const int nTotal = CalcDataWidth(nullptr) - CalcExcludedColsWidth();
     int* pWidths = nullptr;
-    if (!qv::GetsDone([&] { pWidths = m_columns.PrintWidths(); })) {
+    if (!qv::MemorySuffices([&] { pWidths = m_columns.PrintWidths(); })) {
         return 0;
     }
     for (int nCol = 0; nCol < m_columns.Count(); ++nCol) {
@@ -91,7 +91,7 @@ int QVListCtrlEx::CalcPrintCols(CDC*, int nPageWidth) {
 }
 
 void QVListCtrlEx::PrintHeader(CDC* pDC, const CRect& rc) {
-    qv::GetsDone([&] { PrintHeadings(pDC, rc); });
+    qv::MemorySuffices([&] { PrintHeadings(pDC, rc); });
 }
 
 void QVListCtrlEx::PrintHeadings(CDC* pDC, const CRect& rc) {
@@ -127,7 +127,7 @@ int QVListCtrlEx::PrintRows(CDC* pDC, UINT nFirst, UINT nEnd, const CRect& rc, i
                             int nMost) {
     const qv::ColorGuard colors(*pDC);
     int nPrinted = 0;
-    qv::GetsDone([&] {
+    qv::MemorySuffices([&] {
         const qv::WindowWatch watch(m_alive, m_hWnd);
         CRect rcRow(rc);
         for (UINT nItem = nFirst; nItem < nEnd && nPrinted < nMost; ++nItem, ++nPrinted) {
@@ -160,7 +160,7 @@ int QVListCtrlEx::PrintItems(CDC* pDC, UINT nFirst, UINT nLast, const CRect& rc)
 
 BOOL QVListCtrlEx::ExportData(LPCSTR pszPath, char chSeparator) {
     bool bWritten = false;
-    qv::GetsDone([&] {
+    qv::MemorySuffices([&] {
         CStdioFile file;
         bWritten = file.Open(pszPath, CFile::modeCreate | CFile::modeWrite | CFile::typeText) &&
                    WriteRows(file, chSeparator);

@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <limits>
 
-#include "frame/gets_done.h"
 #include "frame/module_state.h"
+#include "frame/out_of_memory.h"
 #include "list/cut_text.h"
 #include "list/list_ctrl.h"
 #include "list/list_places.h"
@@ -53,7 +53,7 @@ BOOL QVListCtrlEx::SetItemString(int nItem, LPCSTR pszText) {
         return FALSE;
     }
     bool bSet = false;
-    qv::GetsDone([&] {
+    qv::MemorySuffices([&] {
         std::string strRow = pszText != nullptr ? pszText : "";
         bSet = SetFields(nItem, FirstTextColumn(), strRow.data());
     });
@@ -78,7 +78,7 @@ BOOL QVListCtrlEx::GetItemString(int nItem, CString& str) {
         return FALSE;
     }
     bool bRead = false;
-    qv::GetsDone([&] {
+    qv::MemorySuffices([&] {
         const qv::WindowWatch watch(m_alive, m_hWnd);
         std::string strRow;
         for (int nCol = FirstTextColumn(); watch && nCol < m_columns.Count(); ++nCol) {
@@ -116,7 +116,7 @@ int QVListCtrlEx::InsertRow(int nImage, int nIndex, LPCSTR pszText) {
 int QVListCtrlEx::InsertBitmapString(int nImage, int nIndex, LPCSTR pszText) {
     const int nPlace = nIndex;
     nIndex = -1;
-    qv::GetsDone([&] { nIndex = InsertRow(nImage, nPlace, pszText); });
+    qv::MemorySuffices([&] { nIndex = InsertRow(nImage, nPlace, pszText); });
     if (nIndex != -1 && m_bSingleColumn) {
         // Without the margin that CalculateItemWidth adds: the next fit widens the column by it.
         const int nWidth = m_nImageWidth + GetStringWidth(ParseStyleText(pszText));
@@ -161,7 +161,8 @@ bool QVListCtrlEx::ReadPlaces(bool bNumeric) {
 int QVListCtrlEx::AddBitmapString(int nImage, LPCSTR pszText, BOOL bNumeric) {
     const qv::AliveWatch watch(m_alive);
     int nIndex = -1;
-    if (!qv::GetsDone([&] { AddInPlace(nImage, pszText, bNumeric != FALSE, nIndex); }) && watch) {
+    if (!qv::MemorySuffices([&] { AddInPlace(nImage, pszText, bNumeric != FALSE, nIndex); }) &&
+        watch) {
         m_pPlaces->Invalidate();
     }
     return nIndex;

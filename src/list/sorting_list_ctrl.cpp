@@ -8,8 +8,8 @@
 #include <unordered_map>
 
 #include "frame/core/sort_keys.h"
-#include "frame/gets_done.h"
 #include "frame/module_state.h"
+#include "frame/out_of_memory.h"
 #include "list/core/row_ranks.h"
 
 IMPLEMENT_DYNCREATE(QVSortingListCtrl, QVListCtrlEx)
@@ -27,7 +27,7 @@ void QVSortingListCtrl::AddHeader(LPCSTR pszHeaders, QVLISTCTRL_DATATYPE nType) 
     // Room for the types first: no column is to come without one.
     const INT_PTR nMost = NumColumns() + nAdded;
     const bool bRoom =
-        qv::GetsDone([&] { m_aColTypes.SetSize(std::max(m_aColTypes.GetSize(), nMost)); });
+        qv::MemorySuffices([&] { m_aColTypes.SetSize(std::max(m_aColTypes.GetSize(), nMost)); });
     if (!bRoom) {
         return;
     }
@@ -41,7 +41,7 @@ void QVSortingListCtrl::AddHeader(LPCSTR pszHeaders, QVLISTCTRL_DATATYPE nType) 
 void QVSortingListCtrl::AddHeader(UINT nStringID, QVLISTCTRL_DATATYPE nType) {
     CString strHeaders;
     BOOL bLoaded = FALSE;
-    qv::GetsDone([&] { bLoaded = strHeaders.LoadString(nStringID); });
+    qv::MemorySuffices([&] { bLoaded = strHeaders.LoadString(nStringID); });
     if (bLoaded) {
         AddHeader(strHeaders, nType);
     }
@@ -348,7 +348,7 @@ LRESULT QVSortingListCtrl::OnSetRedraw(WPARAM wParam, LPARAM) {
 void QVSortingListCtrl::SortOnHeader(int nCol) {
     const qv::AliveWatch watch(m_alive);
     bool bSorted = false;
-    qv::GetsDone([&] {
+    qv::MemorySuffices([&] {
         Sort sort(*this);
         const bool bAscending = nCol != m_nSortCol || !m_bAscending;
         if (!sort.MakeRecords(nCol, bAscending)) {
