@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <new>
+#include <utility>
 
 #include "support/failing_heap.h"
 #include "support/grid_window.h"
@@ -261,19 +262,29 @@ TEST_P(GridWithoutMemory, PaintingAndFittingEndQuietly) {
 }
 
 TEST_P(GridWithoutMemory, AControlIsMadeOrNot) {
-    std::unique_ptr<OpenGrid> pGrid;
-    Refuse([&] { pGrid = std::make_unique<OpenGrid>(); },
+    // Its place is there: what the test itself finds no memory for is not the grid's.
+    alignas(OpenGrid) unsigned char place[sizeof(OpenGrid)];
+    OpenGrid* pGrid = nullptr;
+    const auto unmake = [&] {
+        if (pGrid != nullptr) {
+            std::exchange(pGrid, nullptr)->~OpenGrid();
+        }
+    };
+    Refuse([&] { pGrid = new (place) OpenGrid; },
            [&](Left left) {
                EXPECT_EQ(pGrid != nullptr, left == Left::Nothing);
-               pGrid.reset();
+               unmake();
            });
-    pGrid = std::make_unique<OpenGrid>();
+    pGrid = new (place) OpenGrid;
     int nMade = 0;
     RefuseQuietly([&] { nMade = pGrid->Create(kGridId + 1, CRect(0, 0, 50, 50), &w.parent); },
                   [&] {
                       EXPECT_EQ(nMade != 0, pGrid->m_hWnd != nullptr);
-                      pGrid = std::make_unique<OpenGrid>();
+                      unmake();
+                      pGrid = new (place) OpenGrid;
                   });
+    unmake();
+    TheTestApp().Forget();  // a window that the framework could not make
 }
 
 INSTANTIATE_TEST_SUITE_P(Refused, GridWithoutMemory,
