@@ -18,11 +18,11 @@
 #include <memory>
 
 #include "frame/styled_rows.h"
-#include "text/core/text_rows.h"
+#include "text/core/text_view.h"
 
 struct CPrintInfo;
 
-class QV_CONTROLS_API QVTextWnd : public CWnd, public QVStyleTable {
+class QV_CONTROLS_API QVTextWnd : public CWnd, public QVStyleTable, protected qv::TextViewState {
     DECLARE_DYNCREATE(QVTextWnd)
 
 public:
@@ -121,19 +121,9 @@ protected:
     DECLARE_MESSAGE_MAP()
 
     QVTextWnd* m_pSyncWnd = nullptr;
-    int m_bShowVScroll = 1;
     qv::TextLines m_lines;
-    int m_nCharWidth = 0;  // of "O" in the display font, in pixels
-    int m_nCharHeight = 0;
-    int m_nHScrollPos = 0;     // columns
-    int m_nVScrollPos = 0;     // rows
-    int m_nMaxLineLength = 0;  // bytes; 0 once text was wrapped
-    int m_nNumRows = 0;
     int m_nTabStop = 8;  // pixels
-    int m_bHScrollBar = 0;
-    int m_bVScrollBar = 0;
     int m_bBorder = 0;
-    int m_bUseProportionalFont = 1;  // 0: a fixed grid of characters that scrolls sideways
     COLORREF m_crBk;
     qv::DisplayRows m_rows;
     qv::PrintRows m_print;
@@ -142,6 +132,7 @@ private:
     class Measure;
 
     CSize ViewSize();  // columns and rows that show
+    qv::TextView& Layout();
     int DrawRows(CDC& dc, int nRow, int nEnd, int nWidth);
     void FillRow(CDC& dc, const CRect& rc, COLORREF cr);
     void DrawPiece(CDC& dc, const CRect& rcRow, std::string_view text, size_t nLength, int nStyle);

@@ -1,4 +1,4 @@
-// How a text window measures its display font.
+// What a text window lays out with: its port, its display font and its view.
 
 #pragma once
 
@@ -7,9 +7,38 @@
 
 class QVTextWnd::Measure {
 public:
-    explicit Measure(CWnd& wnd) : font(wnd), splitter(font) {}
+    explicit Measure(QVTextWnd& wnd)
+        : font(wnd),
+          splitter(font),
+          port(wnd),
+          view(wnd, port, wnd.m_lines, wnd.m_aStyles, wnd.m_rows, splitter) {}
 
     qv::FontMeasure font;
     qv::TextSplitter splitter;
     std::vector<int> starts;  // of the line that is being painted
+
+private:
+    // A bar that has nothing to scroll is disabled and stays.
+    class Port : public qv::WndPort {
+    public:
+        explicit Port(CWnd& wnd) : WndPort(wnd), m_wnd(wnd) {}
+        void SetScrollRange(int nBar, const qv::ScrollRange& range) override {
+            SCROLLINFO info{};
+            info.cbSize = sizeof(info);
+            info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS | SIF_DISABLENOSCROLL;
+            info.nMin = range.nMin;
+            info.nMax = range.nMax;
+            info.nPage = static_cast<UINT>(range.nPage);
+            info.nPos = range.nPos;
+            m_wnd.SetScrollInfo(nBar, &info, TRUE);
+        }
+
+    private:
+        CWnd& m_wnd;
+    };
+
+    Port port;
+
+public:
+    qv::TextView view;
 };

@@ -4,14 +4,12 @@
 #include "text/text_wnd.h"
 #include "text/text_wnd_measure.h"
 
-namespace {
-
-constexpr UINT kRangeMask = SIF_RANGE | SIF_PAGE | SIF_POS | SIF_DISABLENOSCROLL;
-
-}  // namespace
-
 qv::TextSplitter& QVTextWnd::Splitter() {
     return m_pMeasure->splitter;
+}
+
+qv::TextView& QVTextWnd::Layout() {
+    return m_pMeasure->view;
 }
 
 // --- Layout
@@ -29,34 +27,13 @@ void QVTextWnd::FormatDisplayText(int nWidth) {
         return;
     }
     CleanupDisplayFont(font);
-    if (nWidth == 0) {
-        CRect rc;
-        GetClientRect(&rc);
-        nWidth = rc.Width();
-    }
-    try {
-        m_rows.Format(m_lines, m_aStyles, nWidth, Splitter());
-    } catch (const std::bad_alloc&) {
-        // The rows that there is memory for show; the next layout tries the others again.
-    }
-    m_nMaxLineLength = 0;
-    m_nNumRows = m_rows.Count();
+    Layout().Format(nWidth);
 }
 
 void QVTextWnd::CalculateDataSize(int& cx, int& cy, int nWidth) {
-    if (!m_bUseProportionalFont) {
-        cx = m_nMaxLineLength * m_nCharWidth;
-        cy = m_nNumRows * m_nCharHeight;
-        return;
-    }
-    cx = nWidth;
-    if (nWidth == 0) {
-        CRect rc;
-        GetClientRect(&rc);
-        cx = rc.Width();
-    }
-    FormatDisplayText(nWidth);
-    cy = m_rows.Count() * m_nCharHeight;
+    const qv::Size size = Layout().DataSize(nWidth);
+    cx = size.cx;
+    cy = size.cy;
 }
 
 void QVTextWnd::CalculateLineRect(int nRow, CRect& rc) {
@@ -65,83 +42,19 @@ void QVTextWnd::CalculateLineRect(int nRow, CRect& rc) {
     rc.bottom = rc.top + m_nCharHeight;
 }
 
-// Columns and rows that show whole; a font that is not measured yet shows none.
 CSize QVTextWnd::ViewSize() {
-    CRect rc;
-    GetClientRect(&rc);
-    return CSize(m_nCharWidth > 0 ? rc.Width() / m_nCharWidth : 0,
-                 m_nCharHeight > 0 ? rc.Height() / m_nCharHeight : 0);
+    const qv::Size size = Layout().ViewSize();
+    return CSize(size.cx, size.cy);
 }
 
-// Where a vertical bar was there already, rows stay made for the width without it, though a paint
-// splits at the width that there is: the last piece of a line that needs one more shows with the
-// next full layout. So it has always been.
 void QVTextWnd::CalculateScrollBars() {
-    if (m_hWnd == nullptr || m_nCharWidth <= 0 || m_nCharHeight <= 0) {
-        return;
-    }
-    const int nBarCy = ::GetSystemMetrics(SM_CYHSCROLL);
-    const int nBarCx = ::GetSystemMetrics(SM_CXVSCROLL);
-    CRect rc;
-    GetClientRect(&rc);
-    rc.bottom += m_bHScrollBar ? nBarCy : 0;
-    rc.right += m_bVScrollBar ? nBarCx : 0;
-    int cx;
-    int cy;
-    CalculateDataSize(cx, cy, rc.Width());
-    m_bHScrollBar = cx > rc.Width();
-    rc.bottom -= m_bHScrollBar ? nBarCy : 0;
-    if (m_bShowVScroll && rc.Height() < cy) {
-        const bool bWasShown = m_bVScrollBar != 0;
-        m_bVScrollBar = 1;
-        rc.right -= nBarCx;
-        if (!bWasShown && m_bUseProportionalFont) {
-            CalculateDataSize(cx, cy, rc.Width());
-        } else if (!m_bHScrollBar && cx >= rc.Width()) {
-            m_bHScrollBar = 1;
-            rc.bottom -= nBarCy;
-        }
-    } else {
-        m_bVScrollBar = 0;
-    }
-    if (rc.Height() <= 0 || rc.Width() <= 0) {
-        ShowScrollBar(SB_BOTH, FALSE);
-        return;
-    }
-    SCROLLINFO info{};
-    info.cbSize = sizeof(info);
-    info.fMask = kRangeMask;
-    info.nMax = m_nMaxLineLength - 1;
-    if (m_bHScrollBar) {
-        info.nPage = static_cast<UINT>(rc.Width() / m_nCharWidth);
-        info.nPos = m_nHScrollPos;
-        SetScrollInfo(SB_HORZ, &info, TRUE);
-    } else if (m_pSyncWnd != nullptr) {
-        info.nPage = static_cast<UINT>(m_nMaxLineLength);
-        SetScrollInfo(SB_HORZ, &info, TRUE);
-    }
-    if (m_bVScrollBar) {
-        info.nMax = m_nNumRows - 1;
-        info.nPage = static_cast<UINT>(rc.Height() / m_nCharHeight);
-        info.nPos = m_nVScrollPos;
-        SetScrollInfo(SB_VERT, &info, TRUE);
-    }
-    ShowScrollBar(SB_HORZ, !m_bUseProportionalFont && (m_pSyncWnd != nullptr || m_bHScrollBar));
-    ShowScrollBar(SB_VERT, m_bVScrollBar);
+    Layout().FitBars(m_pSyncWnd != nullptr);
 }
 
 void QVTextWnd::OnSize(UINT nType, int cx, int cy) {
     CWnd::OnSize(nType, cx, cy);
-    if (nType != SIZE_RESTORED) {
-        return;
-    }
-    CalculateScrollBars();
-    const CSize view = ViewSize();
-    if (m_nHScrollPos + view.cx > m_nMaxLineLength) {
-        m_nHScrollPos = std::max(m_nMaxLineLength - static_cast<int>(view.cx), 0);
-    }
-    if (m_nVScrollPos + view.cy > m_nNumRows) {
-        m_nVScrollPos = std::max(m_nNumRows - static_cast<int>(view.cy), 0);
+    if (nType == SIZE_RESTORED) {
+        Layout().Resize(m_pSyncWnd != nullptr);
     }
 }
 

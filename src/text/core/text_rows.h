@@ -28,7 +28,8 @@ void SplitLine(const char* pszLine, int nWidth, const StyleTable& styles, TextSp
 // that were added meanwhile are added.
 class DisplayRows {
 public:
-    // May throw std::bad_alloc; the rows that were made are right then, and the next call goes on.
+    // May throw std::bad_alloc. The rows are those of before then, perhaps with some lines more,
+    // and the next call goes on.
     void Format(const TextLines& lines, const StyleTable& styles, int nWidth,
                 TextSplitter& splitter);
     // The widths measured before are no longer those of the font.
@@ -37,6 +38,8 @@ public:
     const QVTEXTLINE& operator[](int nRow) const { return m_rows[static_cast<size_t>(nRow)]; }
 
 private:
+    void Append(const TextLines& lines, const StyleTable& styles, TextSplitter& splitter);
+
     std::deque<QVTEXTLINE> m_rows;
     std::optional<int> m_width;  // formatted for; none: all is to be made anew
     int m_nStyles = 0;

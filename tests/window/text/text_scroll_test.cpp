@@ -167,6 +167,52 @@ TEST_F(TextScroll, PositionsMayHaveMoreThan16Bits) {
     EXPECT_TRUE(ShowsWhatItShould(w.text));
 }
 
+// Counts the sizes that it is told, and how deep one lies in another.
+class SizedText : public OpenText {
+public:
+    int nSizes = 0;
+    int nDeepest = 0;
+
+protected:
+    LRESULT WindowProc(UINT nMessage, WPARAM wParam, LPARAM lParam) override {
+        if (nMessage != WM_SIZE) {
+            return OpenText::WindowProc(nMessage, wParam, lParam);
+        }
+        ++nSizes;
+        nDeepest = std::max(nDeepest, ++m_nDepth);
+        const LRESULT lResult = OpenText::WindowProc(nMessage, wParam, lParam);
+        --m_nDepth;
+        return lResult;
+    }
+
+private:
+    int m_nDepth = 0;
+};
+
+TEST(TextSize, AResizeLeadsToFewFurtherOnes) {
+    TextWindow<SizedText> w;
+    const int cxBar = ::GetSystemMetrics(SM_CXVSCROLL);
+    for (int i = 0; i < 60; ++i) {
+        w.text.AddText("several words that wrap where there is little room", 0);
+    }
+    w.text.CalcLayout();
+    for (const int cx : {cxBar, cxBar + 1, cxBar - 1, 3, 200, 2 * cxBar, cxBar, 0, cxBar}) {
+        for (const int nPixels : {10 * w.text.m_nCharHeight, 214, 200, 10, 3, 0}) {
+            w.text.nSizes = w.text.nDeepest = 0;
+            w.text.SetWindowPos(nullptr, 0, 0, cx, nPixels, SWP_NOMOVE | SWP_NOZORDER);
+            EXPECT_LE(w.text.nSizes, 4) << cx << " x " << nPixels;
+            EXPECT_LE(w.text.nDeepest, 2) << cx << " x " << nPixels;
+            if (::testing::Test::HasFailure()) {
+                return;
+            }
+        }
+        w.text.SendMessage(WM_KEYDOWN, VK_END);
+    }
+    w.Resize(200, 10);
+    EXPECT_TRUE(w.text.HasBar(SB_VERT));
+    EXPECT_TRUE(ShowsWhatItShould(w.text));
+}
+
 // --- Partners
 
 template <class Text>
