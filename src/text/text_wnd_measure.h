@@ -2,22 +2,25 @@
 
 #pragma once
 
+#include "frame/out_of_memory.h"
 #include "frame/wnd_port.h"
 #include "text/text_wnd.h"
 
 class QVTextWnd::Measure {
-public:
-    explicit Measure(QVTextWnd& wnd)
-        : font(wnd),
-          splitter(font),
-          port(wnd),
-          view(wnd, port, wnd.m_lines, wnd.m_aStyles, wnd.m_rows, splitter) {}
+    class Font : public qv::FontMeasure {
+    public:
+        using FontMeasure::FontMeasure;
+        qv::Size Extent(std::string_view text) override {
+            return qv::AsBadAlloc([&] { return FontMeasure::Extent(text); });
+        }
+        void PrefixWidths(std::string_view text, int* pWidths) override {
+            qv::AsBadAlloc([&] {
+                FontMeasure::PrefixWidths(text, pWidths);
+                return 0;
+            });
+        }
+    };
 
-    qv::FontMeasure font;
-    qv::TextSplitter splitter;
-    std::vector<int> starts;  // of the line that is being painted
-
-private:
     // A bar that has nothing to scroll is disabled and stays.
     class Port : public qv::WndPort {
     public:
@@ -37,8 +40,30 @@ private:
         CWnd& m_wnd;
     };
 
-    Port port;
+    Port m_port;
 
 public:
+    explicit Measure(QVTextWnd& wnd)
+        : m_port(wnd),
+          font(wnd),
+          splitter(font),
+          view(wnd, m_port, wnd.m_lines, wnd.m_aStyles, wnd.m_rows, splitter) {}
+
+    Font font;
+    qv::TextSplitter splitter;
     qv::TextView view;
+    std::vector<int> starts;  // of the line that is being painted
+};
+
+// Lets go of the display font, also where something is thrown.
+class QVTextWnd::FontScope {
+public:
+    FontScope(QVTextWnd& wnd, CFont& font) : m_wnd(wnd), m_font(font) {}
+    ~FontScope() { m_wnd.CleanupDisplayFont(m_font); }
+    FontScope(const FontScope&) = delete;
+    FontScope& operator=(const FontScope&) = delete;
+
+private:
+    QVTextWnd& m_wnd;
+    CFont& m_font;
 };

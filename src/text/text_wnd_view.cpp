@@ -1,5 +1,8 @@
 #include <algorithm>
 
+#include "frame/core/wheel.h"
+#include "frame/mouse_wheel.h"
+#include "frame/out_of_memory.h"
 #include "frame/select_object.h"
 #include "text/text_wnd.h"
 #include "text/text_wnd_measure.h"
@@ -14,6 +17,15 @@ qv::TextView& QVTextWnd::Layout() {
 
 // --- Layout
 
+void QVTextWnd::SetExactLayout(BOOL bExact) {
+    Layout().SetExact(bExact != FALSE);
+    CalcLayout();
+}
+
+BOOL QVTextWnd::IsExactLayout() const {
+    return m_pMeasure->view.IsExact();
+}
+
 void QVTextWnd::CalcLayout() {
     if (m_hWnd != nullptr) {
         CalculateScrollBars();
@@ -22,12 +34,13 @@ void QVTextWnd::CalcLayout() {
 }
 
 void QVTextWnd::FormatDisplayText(int nWidth) {
-    CFont font;
-    if (!CreateDisplayFont(font)) {
-        return;
-    }
-    CleanupDisplayFont(font);
-    Layout().Format(nWidth);
+    qv::MemorySuffices([&] {
+        CFont font;
+        if (CreateDisplayFont(font)) {
+            CleanupDisplayFont(font);
+            Layout().Format(nWidth);
+        }
+    });
 }
 
 void QVTextWnd::CalculateDataSize(int& cx, int& cy, int nWidth) {
@@ -53,45 +66,51 @@ void QVTextWnd::CalculateScrollBars() {
 
 void QVTextWnd::OnSize(UINT nType, int cx, int cy) {
     CWnd::OnSize(nType, cx, cy);
-    if (nType == SIZE_RESTORED) {
+    if (nType == SIZE_RESTORED || (nType == SIZE_MAXIMIZED && IsExactLayout())) {
         Layout().Resize(m_pSyncWnd != nullptr);
     }
 }
 
 // --- Painting
 
+// What there is no memory to paint stays as it is on the screen, and is not asked for again.
 void QVTextWnd::OnPaint() {
+    if (!qv::MemorySuffices([this] { Paint(); })) {
+        ::ValidateRect(m_hWnd, nullptr);
+    }
+}
+
+void QVTextWnd::Paint() {
     CPaintDC dc(this);
     CRect rcClient;
     GetClientRect(&rcClient);
     CFont font;
     CBrush background;
-    if (!dc.RectVisible(&rcClient) || !CreateDisplayFont(font) ||
-        !background.CreateSolidBrush(m_crBk)) {
-        CleanupDisplayFont(font);
+    if (!dc.RectVisible(&rcClient) || !CreateDisplayFont(font)) {
         return;
     }
-    {
-        const qv::SelectGuard<CFont> selected(dc, &font);
-        const qv::ColorGuard colors(dc);
-        const CSize view = ViewSize();
-        const int nEnd = m_nVScrollPos + static_cast<int>(view.cy) + 1;
-        int nRow = m_nVScrollPos;
-        if (!m_bUseProportionalFont) {
-            for (; nRow < std::min(nEnd, NumLines()); ++nRow) {
-                DrawText(dc, nRow, static_cast<int>(view.cx) + 1);
-            }
-        } else {
-            nRow = DrawRows(dc, nRow, std::min(nEnd, m_rows.Count()), rcClient.Width());
-        }
-        CRect rcRest;
-        CalculateLineRect(nRow - m_nVScrollPos, rcRest);
-        rcRest.bottom = rcClient.bottom;
-        if (!rcRest.IsRectEmpty()) {
-            dc.FillRect(&rcRest, &background);
-        }
+    const FontScope scope(*this, font);
+    if (!background.CreateSolidBrush(m_crBk)) {
+        return;
     }
-    CleanupDisplayFont(font);
+    const qv::SelectGuard<CFont> selected(dc, &font);
+    const qv::ColorGuard colors(dc);
+    const CSize view = ViewSize();
+    const int nEnd = m_nVScrollPos + static_cast<int>(view.cy) + 1;
+    int nRow = m_nVScrollPos;
+    if (!m_bUseProportionalFont) {
+        for (; nRow < std::min(nEnd, NumLines()); ++nRow) {
+            DrawText(dc, nRow, static_cast<int>(view.cx) + 1);
+        }
+    } else {
+        nRow = DrawRows(dc, nRow, std::min(nEnd, m_rows.Count()), rcClient.Width());
+    }
+    CRect rcRest;
+    CalculateLineRect(nRow - m_nVScrollPos, rcRest);
+    rcRest.bottom = rcClient.bottom;
+    if (!rcRest.IsRectEmpty()) {
+        dc.FillRect(&rcRest, &background);
+    }
 }
 
 // Rows nRow up to nEnd; gives the row behind the last one drawn. Rows of lines that are gone draw
@@ -201,14 +220,37 @@ void QVTextWnd::OnVScroll(UINT nCode, UINT nPos, CScrollBar* pBar) {
     // The message has room for 16 bits of the position alone.
     SCROLLINFO info{};
     info.cbSize = sizeof(info);
-    if (GetScrollInfo(SB_VERT, &info, SIF_POS | SIF_TRACKPOS)) {
-        nPos = static_cast<UINT>(nCode == SB_THUMBTRACK ? info.nTrackPos : info.nPos);
+    if (GetScrollInfo(SB_VERT, &info, SIF_RANGE | SIF_PAGE | SIF_POS | SIF_TRACKPOS)) {
+        const qv::ScrollRange bar{info.nMin, info.nMax, static_cast<int>(info.nPage), info.nPos};
+        nPos = nCode == SB_THUMBTRACK
+                   ? qv::DraggedTo(info.nTrackPos, bar, m_nNumRows, static_cast<int>(ViewSize().cy))
+                   : static_cast<UINT>(info.nPos);
     }
-    if (!DoVScroll(nCode, nPos)) {
+    if (!ScrollBoth(nCode, nPos)) {
         CWnd::OnVScroll(nCode, nPos, pBar);
-    } else if (m_pSyncWnd != nullptr) {
+    }
+}
+
+// The partner follows where this window has moved.
+bool QVTextWnd::ScrollBoth(UINT nCode, UINT nPos) {
+    if (!DoVScroll(nCode, nPos)) {
+        return false;
+    }
+    if (m_pSyncWnd != nullptr) {
         m_pSyncWnd->DoVScroll(nCode, nPos);
     }
+    return true;
+}
+
+BOOL QVTextWnd::OnMouseWheel(UINT, short zDelta, CPoint) {
+    // One remainder for all text windows of the process: the wheel is one.
+    static int s_nRemainder = 0;
+    qv::TurnWheel(s_nRemainder, zDelta, GetMouseScrollLines(FALSE), [this](bool bUp, bool bPage) {
+        ScrollBoth(static_cast<UINT>(bPage ? (bUp ? SB_PAGEUP : SB_PAGEDOWN)
+                                           : (bUp ? SB_LINEUP : SB_LINEDOWN)),
+                   0);
+    });
+    return TRUE;
 }
 
 void QVTextWnd::OnHScroll(UINT nCode, UINT nPos, CScrollBar* pBar) {
@@ -233,16 +275,14 @@ int QVTextWnd::ScrollTo(int nLine, int nMargin) {
     }
     const int nMost = m_nNumRows - static_cast<int>(ViewSize().cy);
     const int nTarget = std::max(std::min(std::max(nLine - nMargin, 0), nMost), 0);
-    if (DoVScroll(SB_THUMBPOSITION, static_cast<UINT>(nTarget)) && m_pSyncWnd != nullptr) {
-        m_pSyncWnd->DoVScroll(SB_THUMBPOSITION, static_cast<UINT>(nTarget));
-    }
+    ScrollBoth(SB_THUMBPOSITION, static_cast<UINT>(nTarget));
     return 1;
 }
 
 // --- Input
 
 void QVTextWnd::OnLButtonDown(UINT, CPoint) {
-    SetFocus();
+    ::SetFocus(m_hWnd);
     Default();
 }
 

@@ -1,6 +1,7 @@
 #include "text/core/text_view.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <new>
 
 #include "base/platform_names.h"
@@ -97,6 +98,36 @@ TextView::Fit TextView::FitOnce(Size client, bool bPartner) {
     return {room, !bWraps && (bPartner || state.m_bHScrollBar), state.m_bVScrollBar != 0, true};
 }
 
+// Whether the rows do not fit a client area without a bar. A line has a row at least, so that many
+// lines need no counting.
+bool TextView::NeedsBar(Size whole) {
+    const auto exceeds = [&](int nRows) {
+        return static_cast<std::int64_t>(nRows) * m_state.m_nCharHeight > whole.cy;
+    };
+    if (exceeds(m_lines.Count())) {
+        return true;
+    }
+    DisplayRows& rows = m_state.m_bVScrollBar ? m_unbarred : m_rows;
+    try {
+        rows.Format(m_lines, m_styles, whole.cx, m_splitter);
+    } catch (const std::bad_alloc&) {
+        return m_state.m_bVScrollBar != 0;
+    }
+    return exceeds(rows.Count());
+}
+
+TextView::Fit TextView::FitExactly(Size client) {
+    const int cxBar = m_port.VerticalBarWidth();
+    Size room{client.cx + (m_state.m_bVScrollBar ? cxBar : 0), client.cy};
+    const bool bNeeded = m_state.m_bShowVScroll && NeedsBar(room);
+    const bool bFits = room.cy > 0 && room.cx > (bNeeded ? cxBar : 0);
+    room.cx -= bNeeded && bFits ? cxBar : 0;
+    m_state.m_bHScrollBar = 0;
+    m_state.m_bVScrollBar = bNeeded && bFits;
+    Format(room.cx);
+    return {room, false, m_state.m_bVScrollBar != 0, bFits};
+}
+
 // The client area when other bars show in it.
 Size TextView::SizeWith(Size client, Fit shown, Fit next) const {
     const auto change = [](bool bShown, bool bNext) { return int{bShown} - int{bNext}; };
@@ -115,7 +146,7 @@ TextView::Fit TextView::Plan(bool bPartner, Size& client) {
     client = ClientSize();
     for (int i = 0; i < kMostLayouts; ++i) {
         const Fit shown = fit;
-        fit = FitOnce(client, bPartner);
+        fit = FitsExactly() ? FitExactly(client) : FitOnce(client, bPartner);
         const Size next = SizeWith(client, shown, fit);
         const bool bSettled = next == client || (nStyle & (WS_MAXIMIZE | WS_MINIMIZE)) != 0;
         client = next;
@@ -167,6 +198,9 @@ void TextView::FitBars(bool bPartner) {
                 break;
             }
         }
+    }
+    if (FitsExactly() && m_port.HasWindow()) {
+        Format(0);  // for a window that has still another width
     }
     if (m_bResized && m_port.HasWindow()) {
         ReturnToEnd();

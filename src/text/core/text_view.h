@@ -41,12 +41,18 @@ public:
     // Columns and rows that show whole; a font that is not measured yet shows none.
     Size ViewSize() const;
 
+    // Exact: wrapped rows are always made for the width that a paint has, so that every byte of
+    // every line shows in some row, and the page of the bar is what shows. Takes effect with the
+    // next layout.
+    void SetExact(bool bExact) { m_bExact = bExact; }
+    bool IsExact() const { return m_bExact; }
+
     // Fits rows and both scroll bars to text and window. bPartner: another text scrolls with this
     // one, whose horizontal bar in the fixed grid keeps both equally high.
     //
     // Where a vertical bar was there already, rows stay made for the width without it, though a
     // paint splits at the width that there is: the last piece of a line that needs one more shows
-    // with the next full layout. Callers rely on these rows.
+    // with the next full layout. Callers rely on these rows; an exact layout has none of that.
     void FitBars(bool bPartner);
     // The window has another size. Fits the bars, and takes the view back to the last rows and
     // columns. A size that comes while bars are fitted, which they do themselves, is only noted.
@@ -65,6 +71,9 @@ private:
     Size ClientSize() const;
     Size SizeWith(Size client, Fit shown, Fit next) const;
     Fit FitOnce(Size client, bool bPartner);
+    Fit FitExactly(Size client);
+    bool NeedsBar(Size whole);
+    bool FitsExactly() const { return m_bExact && m_state.m_bUseProportionalFont; }
     Fit Plan(bool bPartner, Size& client);
     void Apply(const Fit& fit, bool bPartner);
     void SetVerticalRange();
@@ -77,6 +86,10 @@ private:
     DisplayRows& m_rows;
     TextSplitter& m_splitter;
     int m_nVPage = 0;  // of the vertical bar, in rows
+    bool m_bExact = false;
+    // In an exact layout with a bar and few lines: the rows that there were without the bar, which
+    // tell whether it is needed.
+    DisplayRows m_unbarred;
     bool m_bFitting = false;
     bool m_bResized = false;  // while fitting
 };

@@ -151,4 +151,87 @@ TEST(TextView, BarsSettleInWindowsOfAnySize) {
     }
 }
 
+std::string RandomLine(std::mt19937& random) {
+    static constexpr std::string_view kParts[] = {"a",  "word",     " ",   "   ",
+                                                  "\n", "\xC3\xA4", "\x1B"};
+    std::string strText;
+    for (unsigned n = random() % 40; n > 0; --n) {
+        strText += kParts[random() % std::size(kParts)];
+    }
+    return strText;
+}
+
+// The bytes of lines that show in no row when each is cut at the width of the client area, as a
+// paint does.
+int HiddenBytes(ShownText& text) {
+    std::size_t nHidden = 0;
+    std::vector<int> starts;
+    int nRow = 0;
+    for (int nLine = 0; nLine < text.lines.Count(); ++nLine) {
+        int nPieces = 0;
+        for (; nRow < text.rows.Count() && text.rows[nRow].nLine == nLine; ++nRow) {
+            EXPECT_EQ(text.rows[nRow].nSubLine, nPieces++);
+        }
+        const std::string_view line = qv::LineText(text.styles, text.lines.Line(nLine));
+        text.splitter.Split(line, text.window.ClientRect().Width(), starts);
+        if (nPieces < static_cast<int>(starts.size())) {
+            nHidden +=
+                line.size() - static_cast<std::size_t>(starts[static_cast<std::size_t>(nPieces)]);
+        }
+    }
+    EXPECT_EQ(nRow, text.rows.Count());
+    return static_cast<int>(nHidden);
+}
+
+TEST(TextView, InAnExactLayoutEveryByteShowsInSomeRow) {
+    std::mt19937 random(7);
+    int nHiddenOtherwise = 0;
+    for (int i = 0; i < 30; ++i) {
+        for (const bool bExact : {false, true}) {
+            ShownText text;
+            text.view.SetExact(bExact);
+            for (int j = 0; j < 40; ++j) {
+                for (unsigned n = random() % 4; n > 0; --n) {
+                    text.Add(1, RandomLine(random));
+                }
+                text.window.nStyle = random() % 5 == 0 ? WS_MAXIMIZE : 0u;
+                text.m_bShowVScroll = random() % 5 != 0;
+                if (j % 2 == 0) {
+                    text.Resize(static_cast<int>(random() % 250), static_cast<int>(random() % 300));
+                    ASSERT_LE(text.nSizes, 4);
+                } else {
+                    text.Fit();
+                }
+                if (!bExact) {
+                    nHiddenOtherwise += HiddenBytes(text);
+                    continue;
+                }
+                ASSERT_EQ(HiddenBytes(text), 0) << i << '.' << j;
+                const qv::Size client{text.window.ClientRect().Width(),
+                                      text.window.ClientRect().Height()};
+                const bool bOverflows = text.m_nNumRows * kRow > client.cy;
+                if (text.HasBar(SB_VERT)) {
+                    ASSERT_EQ(text.window.ranges[SB_VERT].nPage, client.cy / kRow);
+                } else if (text.m_bShowVScroll && client.cx > kBar && client.cy > 0) {
+                    ASSERT_FALSE(bOverflows) << i << '.' << j;
+                }
+            }
+        }
+    }
+    EXPECT_GT(nHiddenOtherwise, 100) << "the check sees what is lost without";
+}
+
+TEST(TextView, AnExactLayoutMeasuresNothingTwice) {
+    ShownText text(10 * kChar, 2 * kRow);
+    text.view.SetExact(true);
+    for (const int nLines : {1, 100}) {
+        text.Add(nLines, "several words that wrap");
+        text.Fit();
+        ASSERT_TRUE(text.HasBar(SB_VERT));
+        text.measure.nCalls = 0;
+        text.Fit();
+        EXPECT_EQ(text.measure.nCalls, 0) << text.lines.Count();
+    }
+}
+
 }  // namespace
