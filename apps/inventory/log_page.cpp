@@ -1,7 +1,6 @@
 #include "log_page.h"
 
 #include <afxdlgs.h>
-#include <afxext.h>
 
 #include "printing.h"
 #include "resource.h"
@@ -194,11 +193,9 @@ bool LogPage::Print(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutput) 
         PrintJob(dc, "Log", nFirst, std::min(nLast, nPages), pszOutput, [&](unsigned nPage) {
             // A page of a printer begins with the device's own font.
             CFont* pPageOld = dc.SelectObject(&font);
-            CPrintInfo info;
-            info.m_nCurPage = nPage;
-            PrintColumn(dc, info, left, rcLeft);
+            PrintColumn(dc, nPage, left, rcLeft);
             if (m_bBoth) {
-                PrintColumn(dc, info, m_right.GetTextWnd(), rcRight);
+                PrintColumn(dc, nPage, m_right.GetTextWnd(), rcRight);
             }
             CString strFooter;
             strFooter.Format("Page %u of %u", nPage, nPages);
@@ -211,16 +208,15 @@ bool LogPage::Print(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutput) 
     return bPrinted;
 }
 
-void LogPage::PrintColumn(CDC& dc, CPrintInfo& info, QVTextWnd& text, const CRect& rc) {
+void LogPage::PrintColumn(CDC& dc, unsigned nPage, QVTextWnd& text, const CRect& rc) {
     const int nHeight = dc.GetTextExtent(" ", 1).cy;
     CString strRow;
     int nStyle = 0;
     int nLine = 0;
-    int y = rc.top;
-    for (int bRow = text.StartPage(&dc, &info, strRow, nStyle, nLine); bRow;
-         bRow = text.NextLine(&dc, &info, strRow, nStyle, nLine), y += nHeight) {
-        // The row was cut by the line before it; now that its own line is known, by that.
-        text.GetCurrentLine(&dc, strRow, nStyle, nLine);
-        dc.TextOut(rc.left, y, strRow);
+    const int nFirst = (static_cast<int>(nPage) - 1) * text.LinesPerPage();
+    for (int i = 0; i < text.LinesPerPage(); ++i) {
+        if (text.GetPrintRow(nFirst + i, strRow, nStyle, nLine)) {
+            dc.TextOut(rc.left, rc.top + i * nHeight, strRow);
+        }
     }
 }

@@ -39,7 +39,7 @@ protected:
 private:
     void LayOut();
     void Pair();
-    void PrintColumn(CDC& dc, CPrintInfo& info, QVTextWnd& text, const CRect& rc);
+    void PrintColumn(CDC& dc, unsigned nPage, QVTextWnd& text, const CRect& rc);
 
     LogView m_left;
     LogView m_right;

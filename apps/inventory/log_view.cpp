@@ -7,6 +7,7 @@ bool LogView::Open(const CString& strPath) {
     m_nRead = 0;
     QVTextWnd& text = GetTextWnd();
     if (m_nRemoval == -1) {
+        text.SetExactLayout(TRUE);
         const COLORREF crWindow = ::GetSysColor(COLOR_WINDOW);
         m_nRemoval = text.AddStyle(RGB(0, 0, 160), crWindow);
         m_nTrouble = text.AddStyle(RGB(176, 0, 0), RGB(255, 232, 224));

@@ -27,6 +27,10 @@ inline HTREEITEM PlatformTreePosition(std::intptr_t nValue) {
 #endif
 
 #define QV_PLATFORM_NAMES(NAME)        \
+    NAME(WS_MAXIMIZE, 0x01000000)      \
+    NAME(WS_MINIMIZE, 0x20000000)      \
+    NAME(WS_HSCROLL, 0x00100000)       \
+    NAME(WS_VSCROLL, 0x00200000)       \
     NAME(TVS_HASBUTTONS, 0x0001)       \
     NAME(TVS_HASLINES, 0x0002)         \
     NAME(TVS_LINESATROOT, 0x0004)      \

@@ -1,6 +1,7 @@
 #include "containers/header_wnd.h"
 
 #include "frame/ancestor_font.h"
+#include "frame/create_window.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "frame/wnd_port.h"
@@ -10,6 +11,7 @@ IMPLEMENT_DYNCREATE(QVHeaderWnd, CWnd)
 BEGIN_MESSAGE_MAP(QVHeaderWnd, CWnd)
     ON_WM_CREATE()
     ON_WM_PAINT()
+    ON_WM_SETFOCUS()
     ON_WM_ERASEBKGND()
 END_MESSAGE_MAP()
 
@@ -27,31 +29,49 @@ BOOL QVHeaderWnd::Create(DWORD dwStyle, CRect& rect, CWnd* pParent, UINT nID) {
         dwStyle &= ~static_cast<DWORD>(WS_BORDER);
         dwExStyle = WS_EX_CLIENTEDGE;
     }
-    return CWnd::CreateEx(dwExStyle, nullptr, "", dwStyle, rect, pParent, nID);
+    return qv::CreateWhole(
+        *this, [&] { return CWnd::CreateEx(dwExStyle, nullptr, "", dwStyle, rect, pParent, nID); });
 }
 
 int QVHeaderWnd::Initialize(UINT nID, CWnd* pParent) {
-    if (m_hWnd == nullptr && (pParent == nullptr || !SubclassDlgItem(nID, pParent))) {
-        return 0;
-    }
-    const CFont* pFont = qv::NearestFont(pParent);
-    m_hHeaderFont = pFont != nullptr ? static_cast<HFONT>(*pFont) : nullptr;
-    CalcHeaderHeight();
-    return 1;
+    return InitializeBy([&] {
+        if (m_hWnd == nullptr && (pParent == nullptr || !SubclassDlgItem(nID, pParent))) {
+            return false;
+        }
+        const CFont* pFont = qv::NearestFont(pParent);
+        m_hHeaderFont = pFont != nullptr ? static_cast<HFONT>(*pFont) : nullptr;
+        CalcHeaderHeight();
+        return true;
+    });
+}
+
+// The way to a handler takes memory as well, for the objects that a message brings along.
+LRESULT QVHeaderWnd::WindowProc(UINT nMessage, WPARAM wParam, LPARAM lParam) {
+    LRESULT lResult = nMessage == WM_CREATE ? -1 : 0;
+    qv::MemorySuffices([&] { lResult = CWnd::WindowProc(nMessage, wParam, lParam); });
+    return lResult;
 }
 
 int QVHeaderWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
-    if (CWnd::OnCreate(lpCreateStruct) == -1) {
-        return -1;
-    }
-    const auto nID = static_cast<UINT>(reinterpret_cast<UINT_PTR>(lpCreateStruct->hMenu));
-    return Initialize(nID, CWnd::FromHandle(lpCreateStruct->hwndParent)) ? 0 : -1;
+    int bInitialized = 0;
+    qv::MemorySuffices([&] {
+        if (CWnd::OnCreate(lpCreateStruct) != -1) {
+            const auto nID = static_cast<UINT>(reinterpret_cast<UINT_PTR>(lpCreateStruct->hMenu));
+            bInitialized = Initialize(nID, CWnd::FromHandle(lpCreateStruct->hwndParent));
+        }
+    });
+    return bInitialized ? 0 : -1;
 }
 
 // --- Caption
 
 void QVHeaderWnd::SetHeaderText(LPCSTR pszText) {
-    m_strHeaderText = pszText;
+    if (!qv::MemorySuffices([&] {
+            const CString strText(pszText);
+            m_strHeaderText = strText;
+        })) {
+        return;
+    }
     if (m_hWnd != nullptr) {
         CRect rect;
         CalcHeaderRect(rect);
@@ -60,10 +80,12 @@ void QVHeaderWnd::SetHeaderText(LPCSTR pszText) {
 }
 
 void QVHeaderWnd::SetHeaderText(UINT nStringID) {
-    CString strText;
-    if (strText.LoadString(nStringID)) {
-        SetHeaderText(static_cast<LPCSTR>(strText));
-    }
+    qv::MemorySuffices([&] {
+        CString strText;
+        if (strText.LoadString(nStringID)) {
+            SetHeaderText(static_cast<LPCSTR>(strText));
+        }
+    });
 }
 
 // --- Geometry
@@ -103,20 +125,31 @@ void QVHeaderWnd::CalcBackgroundRect(CRect& rect) {
 
 // The body is left to the inner control.
 void QVHeaderWnd::OnPaint() {
-    CPaintDC dc(this);
-    CRect rect;
-    CalcHeaderRect(rect);
-    if (dc.RectVisible(&rect)) {
-        DrawHeader(dc, rect);
+    const bool bPainted = qv::MemorySuffices([this] {
+        CPaintDC dc(this);
+        CRect rect;
+        CalcHeaderRect(rect);
+        if (dc.RectVisible(&rect)) {
+            DrawHeader(dc, rect);
+        }
+    });
+    if (!bPainted) {
+        ::ValidateRect(m_hWnd, nullptr);  // else it would be asked for without end
     }
 }
 
 BOOL QVHeaderWnd::OnEraseBkgnd(CDC* pDC) {
+    bool bErased = false;
+    qv::MemorySuffices([&] { bErased = Erase(*pDC); });
+    return bErased;
+}
+
+bool QVHeaderWnd::Erase(CDC& dc) {
     CBrush brBody;
     CBrush brBar;
     if (!brBody.CreateSolidBrush(::GetSysColor(COLOR_WINDOW)) ||
         !brBar.CreateSolidBrush(::GetSysColor(COLOR_BTNFACE))) {
-        return FALSE;
+        return false;
     }
     CRect rcBar;
     CRect rcBody;
@@ -124,10 +157,10 @@ BOOL QVHeaderWnd::OnEraseBkgnd(CDC* pDC) {
     CalcBackgroundRect(rcBody);
     rcBar.InflateRect(-1, -1);  // the raised edge is drawn with the bar
     if (m_bFillBody) {
-        pDC->FillRect(&rcBody, &brBody);
+        dc.FillRect(&rcBody, &brBody);
     }
-    pDC->FillRect(&rcBar, &brBar);
-    return TRUE;
+    dc.FillRect(&rcBar, &brBar);
+    return true;
 }
 
 void QVHeaderWnd::DrawHeader(CDC& dc, CRect& rect) {
@@ -157,6 +190,22 @@ void QVHeaderWnd::SizeInnerWnd(UINT nType, CWnd& wndInner) {
     CRect rc;
     CalcBackgroundRect(rc);
     wndInner.SetWindowPos(nullptr, rc.left, rc.top, rc.Width(), rc.Height(), SWP_NOZORDER);
+}
+
+void QVHeaderWnd::ShareTabStop(CWnd& wndInner) {
+    if ((wndInner.GetStyle() & WS_TABSTOP) != 0) {
+        ModifyStyleEx(0, WS_EX_CONTROLPARENT);
+    }
+}
+
+void QVHeaderWnd::OnSetFocus(CWnd*) {
+    Default();
+    if ((GetStyle() & WS_TABSTOP) != 0) {
+        const HWND hInner = ::GetWindow(m_hWnd, GW_CHILD);
+        if (hInner != nullptr && ::IsWindowEnabled(hInner)) {
+            ::SetFocus(hInner);
+        }
+    }
 }
 
 bool QVHeaderWnd::IsInnerId(UINT nInnerID, WPARAM wID) {

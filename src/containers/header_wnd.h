@@ -11,6 +11,7 @@
 #include <afxwin.h>
 
 #include "containers/core/header_bar.h"
+#include "frame/out_of_memory.h"
 #include "frame/qv_api.h"
 
 class QV_CONTROLS_API QVHeaderWnd : public CWnd {
@@ -20,8 +21,9 @@ public:
     QVHeaderWnd();
     ~QVHeaderWnd() override;
 
-    // WS_BORDER in dwStyle makes a sunken frame instead of a border. 0 on failure, also if
-    // Initialize, which WM_CREATE calls, gives 0.
+    // WS_BORDER in dwStyle makes a sunken frame instead of a border. With WS_TABSTOP this window
+    // hands the focus on to the control inside. 0 on failure, also without memory or if Initialize,
+    // which WM_CREATE calls, gives 0.
     BOOL Create(DWORD dwStyle, CRect& rect, CWnd* pParent, UINT nID);
     // Attaches to the item nID of pParent if there is no window yet; 0 if there is no such item.
     // Finds the font and sets the bar's height. A derived class calls this first, then makes its
@@ -33,7 +35,7 @@ public:
     // moves the inner control.
     int HeaderHeight() const { return m_nHeaderHeight; }
     void SetHeaderHeight(int nHeight) { m_nHeaderHeight = nHeight; }
-    // A string that is not in the resources leaves the caption as it is.
+    // Without memory, and with a string that is not in the resources, the caption stays.
     void SetHeaderText(LPCSTR pszText);
     void SetHeaderText(UINT nStringID);
 
@@ -51,6 +53,21 @@ protected:
 
     // --- What derived classes share
 
+    // For Initialize: runs its steps and gives 1 if they give true. Where they do not, or memory
+    // runs out, an item of a dialog that they attached to is let go of.
+    template <class Steps>
+    int InitializeBy(Steps steps) {
+        const bool bAttaches = m_hWnd == nullptr;
+        bool bDone = false;
+        qv::MemorySuffices([&] { bDone = steps(); });
+        if (!bDone && bAttaches && m_hWnd != nullptr) {
+            UnsubclassWindow();
+        }
+        return bDone;
+    }
+    // For Initialize: lets the Tab key of a dialog reach an inner control that has WS_TABSTOP.
+    void ShareTabStop(CWnd& wndInner);
+
     // For WM_SIZE: a restored window moves its inner control to the body.
     void SizeInnerWnd(UINT nType, CWnd& wndInner);
     // Whether a notification is the inner control's and goes on to this window's parent. -1 is no
@@ -59,8 +76,10 @@ protected:
     // The parent's answer. The parent may have destroyed this window, and its object, by then.
     LRESULT SendToParent(UINT nMessage, WPARAM wParam, LPARAM lParam);
 
+    LRESULT WindowProc(UINT nMessage, WPARAM wParam, LPARAM lParam) override;
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnPaint();
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     DECLARE_MESSAGE_MAP()
 
@@ -73,4 +92,5 @@ private:
     using CWnd::Create;
 
     qv::HeaderBar Layout() const;
+    bool Erase(CDC& dc);
 };

@@ -37,17 +37,29 @@ void QVListHeaderWnd::SetImageInfo(UINT nBitmap, COLORREF crMask, int cx) {
 }
 
 int QVListHeaderWnd::Initialize(UINT nID, CWnd* pParent) {
-    if (m_pListCtrl == nullptr || !QVHeaderWnd::Initialize(nID, pParent)) {
-        return 0;
+    return InitializeBy([&] {
+        return m_pListCtrl != nullptr && QVHeaderWnd::Initialize(nID, pParent) &&
+               (m_pListCtrl->m_hWnd != nullptr || CreateList());
+    });
+}
+
+// The window of a list that could not be set up goes again.
+bool QVListHeaderWnd::CreateList() {
+    bool bDone = false;
+    qv::MemorySuffices([&] {
+        CRect rcBody;
+        CalcBackgroundRect(rcBody);
+        m_pListCtrl->SetDefStyle(m_dwListStyle);
+        bDone =
+            m_pListCtrl->Create(m_nListID, rcBody, this) &&
+            m_pListCtrl->Initialize(m_nListID, m_nImageBitmap, m_crImageMask, m_cxListImage, this);
+    });
+    if (bDone) {
+        ShareTabStop(*m_pListCtrl);
+    } else {
+        m_pListCtrl->DestroyWindow();
     }
-    if (m_pListCtrl->m_hWnd != nullptr) {
-        return 1;
-    }
-    CRect rcBody;
-    CalcBackgroundRect(rcBody);
-    m_pListCtrl->SetDefStyle(m_dwListStyle);
-    return m_pListCtrl->Create(m_nListID, rcBody, this) &&
-           m_pListCtrl->Initialize(m_nListID, m_nImageBitmap, m_crImageMask, m_cxListImage, this);
+    return bDone;
 }
 
 int QVListHeaderWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {

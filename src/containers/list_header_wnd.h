@@ -44,4 +44,7 @@ protected:
     int m_cxListImage = 0;  // pixels; 0: no images
     COLORREF m_crImageMask = RGB(255, 255, 255);
     QVListCtrlEx* m_pListCtrl;  // owned; null for a class that is no list
+
+private:
+    bool CreateList();
 };

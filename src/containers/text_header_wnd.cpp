@@ -15,15 +15,20 @@ QVTextHeaderWnd::~QVTextHeaderWnd() {
 }
 
 int QVTextHeaderWnd::Initialize(UINT nID, CWnd* pParent) {
-    if (!QVHeaderWnd::Initialize(nID, pParent)) {
-        return 0;
-    }
-    if (m_wndText.m_hWnd != nullptr) {
-        return 1;
-    }
-    CRect rcBody;
-    CalcBackgroundRect(rcBody);
-    return m_wndText.Create(rcBody, this, static_cast<UINT>(-1), 0);
+    return InitializeBy([&] {
+        if (!QVHeaderWnd::Initialize(nID, pParent)) {
+            return false;
+        }
+        if (m_wndText.m_hWnd == nullptr) {
+            CRect rcBody;
+            CalcBackgroundRect(rcBody);
+            if (!m_wndText.Create(rcBody, this, static_cast<UINT>(-1), 0)) {
+                return false;
+            }
+            ShareTabStop(m_wndText);
+        }
+        return true;
+    });
 }
 
 void QVTextHeaderWnd::ClearTextData() {

@@ -15,15 +15,20 @@ QVTreeHeaderWnd::~QVTreeHeaderWnd() {
 }
 
 int QVTreeHeaderWnd::Initialize(UINT nID, CWnd* pParent) {
-    if (!QVHeaderWnd::Initialize(nID, pParent)) {
-        return 0;
-    }
-    if (m_wndTree.m_hWnd != nullptr) {
-        return 1;
-    }
-    CRect rcBody;
-    CalcBackgroundRect(rcBody);
-    return m_wndTree.Create(m_dwTreeStyle, rcBody, this, m_nTreeID);
+    return InitializeBy([&] {
+        if (!QVHeaderWnd::Initialize(nID, pParent)) {
+            return false;
+        }
+        if (m_wndTree.m_hWnd == nullptr) {
+            CRect rcBody;
+            CalcBackgroundRect(rcBody);
+            if (!m_wndTree.Create(m_dwTreeStyle, rcBody, this, m_nTreeID)) {
+                return false;
+            }
+            ShareTabStop(m_wndTree);
+        }
+        return true;
+    });
 }
 
 int QVTreeHeaderWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {

@@ -4,7 +4,9 @@
 
 #include <algorithm>
 
+#include "frame/create_window.h"
 #include "frame/module_state.h"
+#include "frame/out_of_memory.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "text/text_wnd_measure.h"
@@ -29,6 +31,7 @@ BEGIN_MESSAGE_MAP(QVTextWnd, CWnd)
     ON_WM_PAINT()
     ON_WM_HSCROLL()
     ON_WM_VSCROLL()
+    ON_WM_MOUSEWHEEL()
     ON_WM_LBUTTONDOWN()
     ON_WM_KEYDOWN()
     ON_WM_GETDLGCODE()
@@ -37,7 +40,7 @@ END_MESSAGE_MAP()
 // --- Life
 
 QVTextWnd::QVTextWnd()
-    : m_crBk(::GetSysColor(COLOR_WINDOW)), m_pMeasure(std::make_unique<Measure>()) {
+    : m_crBk(::GetSysColor(COLOR_WINDOW)), m_pMeasure(std::make_unique<Measure>(*this)) {
     Windows().push_back(this);
 }
 
@@ -62,7 +65,10 @@ void QVTextWnd::CleanupDisplayFont(CFont& font) {
 
 int QVTextWnd::Create(CRect& rc, CWnd* pParent, UINT nID, int bBorder) {
     m_bBorder = bBorder;
-    return CWnd::Create(nullptr, "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, rc, pParent, nID, nullptr);
+    return qv::CreateWhole(*this, [&] {
+        return CWnd::Create(nullptr, "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, rc, pParent, nID,
+                            nullptr);
+    });
 }
 
 BOOL QVTextWnd::PreCreateWindow(CREATESTRUCT& cs) {
@@ -74,46 +80,61 @@ BOOL QVTextWnd::PreCreateWindow(CREATESTRUCT& cs) {
 }
 
 int QVTextWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
-    if (CWnd::OnCreate(lpCreateStruct) == -1) {
-        return -1;
-    }
-    const auto nID = static_cast<UINT>(reinterpret_cast<UINT_PTR>(lpCreateStruct->hMenu));
-    return Initialize(nID, CWnd::FromHandle(lpCreateStruct->hwndParent), m_bBorder) ? 0 : -1;
+    int bInitialized = 0;
+    qv::MemorySuffices([&] {
+        if (CWnd::OnCreate(lpCreateStruct) != -1) {
+            const auto nID = static_cast<UINT>(reinterpret_cast<UINT_PTR>(lpCreateStruct->hMenu));
+            bInitialized = Initialize(nID, CWnd::FromHandle(lpCreateStruct->hwndParent), m_bBorder);
+        }
+    });
+    return bInitialized ? 0 : -1;
 }
 
 int QVTextWnd::Initialize(UINT nID, CWnd* pParent, int bBorder) {
-    if (m_hWnd == nullptr) {
-        m_bBorder = bBorder;
-        CWnd* pPlace = pParent != nullptr ? pParent->GetDlgItem(static_cast<int>(nID)) : nullptr;
-        if (pPlace == nullptr) {
-            return 0;
+    bool bDone = false;
+    qv::MemorySuffices([&] {
+        if (m_hWnd == nullptr) {
+            bDone = ReplaceControl(nID, pParent, bBorder);
+        } else if (MeasureFont()) {
+            CalculateScrollBars();
+            bDone = AddStyle(::GetSysColor(COLOR_WINDOWTEXT), m_crBk) != -1;
         }
-        CRect rc;
-        pPlace->GetWindowRect(&rc);
-        pParent->ScreenToClient(&rc);
-        pPlace->ShowWindow(SW_HIDE);
-        pPlace->DestroyWindow();
-        return Create(rc, pParent, nID, bBorder);
+    });
+    return bDone;
+}
+
+// The control goes when the window that takes its place is there.
+bool QVTextWnd::ReplaceControl(UINT nID, CWnd* pParent, int bBorder) {
+    const HWND hPlace =
+        pParent != nullptr ? ::GetDlgItem(pParent->m_hWnd, static_cast<int>(nID)) : nullptr;
+    if (hPlace == nullptr) {
+        return false;
     }
+    CRect rc;
+    ::GetWindowRect(hPlace, &rc);
+    pParent->ScreenToClient(&rc);
+    if (!Create(rc, pParent, nID, bBorder)) {
+        return false;
+    }
+    ::ShowWindow(hPlace, SW_HIDE);
+    ::DestroyWindow(hPlace);
+    return true;
+}
+
+bool QVTextWnd::MeasureFont() {
     CFont font;
     if (!CreateDisplayFont(font)) {
-        return 0;
+        return false;
     }
     m_pMeasure->font.SetFont(static_cast<HFONT>(font.GetSafeHandle()));
     m_rows.Forget();
-    {
-        CClientDC dc(this);
-        const qv::SelectGuard<CFont> selected(dc, &font);
-        const CSize size = qv::TextExtent(dc, "O");
-        m_nCharWidth = size.cx;
-        m_nCharHeight = size.cy;
-    }
-    CleanupDisplayFont(font);
-    if (m_nCharWidth == 0 || m_nCharHeight == 0) {
-        return 0;
-    }
-    CalculateScrollBars();
-    return AddStyle(::GetSysColor(COLOR_WINDOWTEXT), m_crBk) != -1;
+    const FontScope scope(*this, font);
+    CClientDC dc(this);
+    const qv::SelectGuard<CFont> selected(dc, &font);
+    const CSize size = qv::TextExtent(dc, "O");
+    m_nCharWidth = size.cx;
+    m_nCharHeight = size.cy;
+    return m_nCharWidth != 0 && m_nCharHeight != 0;
 }
 
 void QVTextWnd::OnDestroy() {
@@ -137,6 +158,11 @@ const char* QVTextWnd::GetLine(int nLine) const {
     return m_lines.Line(nLine);
 }
 
+const char* QVTextWnd::GetLineText(int nLine) const {
+    const char* pszLine = GetLine(nLine);
+    return pszLine != nullptr ? pszLine + qv::kLineCodeBytes : nullptr;
+}
+
 void QVTextWnd::ClearTextData() {
     m_nHScrollPos = m_nVScrollPos = 0;
     m_nMaxLineLength = m_nNumRows = 0;
@@ -151,11 +177,14 @@ void QVTextWnd::ClearTextData() {
 
 int QVTextWnd::LoadFile(const char* pszPath, int nStyle) {
     const CWaitCursor wait;
-    CStdioFile file;
-    if (!file.Open(pszPath, CFile::modeRead | CFile::typeText | CFile::shareDenyNone)) {
-        return 0;
-    }
-    return LoadFile(file, nStyle);
+    int bRead = 0;
+    qv::MemorySuffices([&] {
+        CStdioFile file;
+        if (file.Open(pszPath, CFile::modeRead | CFile::typeText | CFile::shareDenyNone)) {
+            bRead = LoadFile(file, nStyle);
+        }
+    });
+    return bRead;
 }
 
 int QVTextWnd::LoadFile(CStdioFile& file, int nStyle) {
@@ -171,28 +200,27 @@ int QVTextWnd::LoadFile(CStdioFile& file, int nStyle) {
 
 // What was read before a fault stays.
 bool QVTextWnd::ReadLines(CStdioFile& file, int nStyle) {
+    bool bRead = false;
     try {
-        ClearTextData();
-        file.SeekToBegin();
-        for (CString strLine; file.ReadString(strLine);) {
-            // A line ends at its end, not at a zero; CString itself does not find zeros.
-            const int nLength = strLine.GetLength();
-            char* pText = strLine.GetBuffer();
-            std::replace(pText, pText + nLength, '\0', ' ');
-            strLine.ReleaseBuffer(nLength);
-            if (AddText(strLine, nStyle) == -1) {
-                return false;
+        bRead = qv::MemorySuffices([&] {
+            ClearTextData();
+            file.SeekToBegin();
+            for (CString strLine; file.ReadString(strLine);) {
+                // A line ends at its end, not at a zero; CString itself does not find zeros.
+                const int nLength = strLine.GetLength();
+                char* pText = strLine.GetBuffer();
+                std::replace(pText, pText + nLength, '\0', ' ');
+                strLine.ReleaseBuffer(nLength);
+                if (AddText(strLine, nStyle) == -1) {
+                    throw std::bad_alloc();
+                }
             }
-        }
-        CalcLayout();
-        return true;
+            CalcLayout();
+        });
     } catch (CFileException* pException) {
         pException->Delete();
-    } catch (CMemoryException* pException) {
-        pException->Delete();
-    } catch (const std::bad_alloc&) {
     }
-    return false;
+    return bRead;
 }
 
 void QVTextWnd::SetBkColor(COLORREF cr) {
@@ -205,23 +233,27 @@ void QVTextWnd::SetBkColor(COLORREF cr) {
 // --- Out of the window
 
 int QVTextWnd::ExportData(const char* pszPath) {
-    CStdioFile file;
-    if (!file.Open(pszPath, CFile::modeCreate | CFile::modeWrite | CFile::typeText)) {
-        return 0;
-    }
-    for (int nLine = 0; nLine < NumLines(); ++nLine) {
-        file.WriteString(ParseStyleText(GetLine(nLine)));
-        file.WriteString("\n");
-    }
-    file.Close();
-    return 1;
+    int bWritten = 0;
+    qv::MemorySuffices([&] {
+        CStdioFile file;
+        if (!file.Open(pszPath, CFile::modeCreate | CFile::modeWrite | CFile::typeText)) {
+            return;
+        }
+        for (int nLine = 0; nLine < NumLines(); ++nLine) {
+            file.WriteString(qv::LineText(m_aStyles, GetLine(nLine)));
+            file.WriteString("\n");
+        }
+        file.Close();
+        bWritten = 1;
+    });
+    return bWritten;
 }
 
 int QVTextWnd::CopyToClipboard() {
     constexpr std::string_view kLineEnd = "\r\n";
     size_t nBytes = kLineEnd.size() + 1;
     for (int nLine = 0; nLine < NumLines(); ++nLine) {
-        nBytes += strlen(ParseStyleText(GetLine(nLine))) + kLineEnd.size();
+        nBytes += strlen(qv::LineText(m_aStyles, GetLine(nLine))) + kLineEnd.size();
     }
     const HGLOBAL hText = ::GlobalAlloc(GMEM_MOVEABLE | GMEM_DDESHARE, nBytes);
     auto* pText = static_cast<char*>(hText != nullptr ? ::GlobalLock(hText) : nullptr);
@@ -233,7 +265,7 @@ int QVTextWnd::CopyToClipboard() {
         pText = std::copy(text.begin(), text.end(), pText);
     };
     for (int nLine = 0; nLine < NumLines(); ++nLine) {
-        append(ParseStyleText(GetLine(nLine)));
+        append(qv::LineText(m_aStyles, GetLine(nLine)));
         append(kLineEnd);
     }
     append(kLineEnd);
@@ -246,13 +278,19 @@ int QVTextWnd::CopyToClipboard() {
 
 void QVTextWnd::SplitTextLines(CDC* pDC, int nWidth, const CString& strText,
                                CArray<int, int>& aStarts) {
-    qv::DcMeasure measure(*pDC);
-    std::vector<int> starts;
-    qv::TextSplitter(measure).Split(qv::View(strText), nWidth, starts);
-    aStarts.RemoveAll();
-    for (const int nStart : starts) {
-        aStarts.Add(nStart);
-    }
+    qv::MemorySuffices([&] {
+        qv::DcMeasure measure(*pDC);
+        std::vector<int> starts;
+        qv::TextSplitter(measure).Split(qv::View(strText), nWidth, starts);
+        aStarts.SetSize(static_cast<INT_PTR>(starts.size()));
+        for (size_t i = 0; i < starts.size(); ++i) {
+            aStarts[static_cast<INT_PTR>(i)] = starts[i];
+        }
+    });
+}
+
+void QVTextWnd::AddPrintLine(int nLine, int nSubLine) {
+    qv::MemorySuffices([&] { m_print.Add(nLine, nSubLine); });
 }
 
 void QVTextWnd::SetPrintAreaSize(const CSize& size) {
@@ -260,32 +298,42 @@ void QVTextWnd::SetPrintAreaSize(const CSize& size) {
 }
 
 void QVTextWnd::FormatText(CDC* pDC, const CSize& sizeArea) {
+    qv::MemorySuffices([&] { FormatPrint(*pDC, sizeArea); });
+}
+
+void QVTextWnd::FormatPrint(CDC& dc, const CSize& sizeArea) {
     QVTextWnd* pPartner = m_pSyncWnd;
-    ClearPrintData();
-    SetPrintAreaSize(sizeArea);
-    const int nHeight = qv::TextExtent(*pDC, " ").cy;
-    SetLinesPerPage(nHeight > 0 ? sizeArea.cy / nHeight : 0);
-    if (pPartner != nullptr) {
-        pPartner->ClearPrintData();
-        pPartner->SetPrintAreaSize(sizeArea);
-        pPartner->SetLinesPerPage(m_print.m_nLinesPerPage);
-    }
-    qv::DcMeasure measure(*pDC);
+    qv::PrintRows own;
+    qv::PrintRows other;
+    const int nHeight = qv::TextExtent(dc, " ").cy;
+    own.m_sizePrintArea = {static_cast<int>(sizeArea.cx), static_cast<int>(sizeArea.cy)};
+    own.m_nLinesPerPage = nHeight > 0 ? sizeArea.cy / nHeight : 0;
+    qv::DcMeasure measure(dc);
     qv::TextSplitter splitter(measure);
-    try {
-        qv::FormatPrintRows(m_lines, m_print, pPartner != nullptr ? &pPartner->m_lines : nullptr,
-                            pPartner != nullptr ? &pPartner->m_print : nullptr, m_aStyles,
-                            splitter);
-    } catch (const std::bad_alloc&) {
-        // The rows that there is memory for are printed.
+    qv::FormatPrintRows(m_lines, own, pPartner != nullptr ? &pPartner->m_lines : nullptr,
+                        pPartner != nullptr ? &other : nullptr, m_aStyles, splitter);
+    own.m_nNumPages = own.PagesNeeded();
+    if (pPartner != nullptr) {
+        other.m_sizePrintArea = own.m_sizePrintArea;
+        other.m_nLinesPerPage = own.m_nLinesPerPage;
+        other.m_nNumPages = own.m_nNumPages;
+        pPartner->m_print.SwapLayout(other);
     }
-    const int nPages = m_print.PagesNeeded();
-    if (nPages > 0) {
-        SetNumPages(nPages);
-        if (pPartner != nullptr) {
-            pPartner->SetNumPages(nPages);
+    m_print.SwapLayout(own);
+}
+
+int QVTextWnd::GetPrintRow(int nRow, CString& strText, int& nStyle, int& nLine) {
+    bool bRow = false;
+    qv::MemorySuffices([&] {
+        qv::PrintedRow row;
+        if (m_print.Row(nRow, m_lines, m_aStyles, row)) {
+            strText = CString(row.strText.data(), static_cast<int>(row.strText.size()));
+            nStyle = row.nStyle;
+            nLine = row.nLine;
+            bRow = true;
         }
-    }
+    });
+    return bRow;
 }
 
 namespace {
@@ -293,13 +341,17 @@ namespace {
 // Hands a row out in the caller's variables; only the text changes where there is none.
 template <class Read>
 int GiveRow(CDC* pDC, CString& strText, int& nStyle, int& nLine, Read read) {
-    qv::DcMeasure measure(*pDC);
-    qv::TextSplitter splitter(measure);
-    qv::PrintedRow row{std::string(qv::View(strText)), nStyle, nLine};
-    const bool bRow = read(splitter, row);
-    strText = CString(row.strText.data(), static_cast<int>(row.strText.size()));
-    nStyle = row.nStyle;
-    nLine = row.nLine;
+    bool bRow = false;
+    qv::MemorySuffices([&] {
+        qv::DcMeasure measure(*pDC);
+        qv::TextSplitter splitter(measure);
+        qv::PrintedRow row{std::string(qv::View(strText)), nStyle, nLine};
+        const bool bRead = read(splitter, row);
+        strText = CString(row.strText.data(), static_cast<int>(row.strText.size()));
+        nStyle = row.nStyle;
+        nLine = row.nLine;
+        bRow = bRead;
+    });
     return bRow;
 }
 

@@ -18,11 +18,11 @@
 #include <memory>
 
 #include "frame/styled_rows.h"
-#include "text/core/text_rows.h"
+#include "text/core/text_view.h"
 
 struct CPrintInfo;
 
-class QV_CONTROLS_API QVTextWnd : public CWnd, public QVStyleTable {
+class QV_CONTROLS_API QVTextWnd : public CWnd, public QVStyleTable, protected qv::TextViewState {
     DECLARE_DYNCREATE(QVTextWnd)
 
 public:
@@ -50,6 +50,9 @@ public:
     int NumLines() const { return m_lines.Count(); }
     // With its style code; null if there is no such line.
     const char* GetLine(int nLine) const;
+    // As it was added, without the code in front, whatever styles there are; null if there is no
+    // such line.
+    const char* GetLineText(int nLine) const;
     // Fits rows and scroll bars to the lines, and repaints.
     void CalcLayout();
     // Asks for no repaint. Style 0 takes the colour as well.
@@ -57,6 +60,11 @@ public:
 
     // --- View
 
+    // Exact: every byte of every line shows in some row, whatever the width and the bars; also in a
+    // maximised window. At first off: rows are then made for the width without the vertical bar,
+    // once that shows, and the ends of some lines never show. Lays out.
+    void SetExactLayout(BOOL bExact);
+    BOOL IsExactLayout() const;
     // Scrolls pOther with this window; null ends that. bShowVScroll 0: no vertical bar here.
     void SyncWith(QVTextWnd* pOther, int bShowVScroll);
     // Brings display row nLine to nMargin rows below the top. Always 1.
@@ -66,19 +74,29 @@ public:
 
     // --- Out of the window
 
-    // The lines without style codes. 0 if the file cannot be opened; throws CFileException if
-    // writing fails.
+    // The lines without style codes, also before the window is made. The letter of a style that is
+    // not in the table shows as it does in the window; GetLineText never shows one. 0 if the file
+    // cannot be opened; throws CFileException if writing fails.
     virtual int ExportData(const char* pszPath);
     // All lines as text. 1 if the clipboard has it now.
     int CopyToClipboard();
 
-    // --- Printing: FormatText, then for each page StartPage, and NextLine until it gives 0
+    // --- Printing: FormatText, then GetPrintRow for the rows of each page
 
     // Lays out for an area in units of pDC, which has the font selected. A partner is laid out with
-    // it: both get the same number of rows, blank ones filling the shorter side.
+    // it: both get the same number of rows, blank ones filling the shorter side. Without memory the
+    // layout of before stays.
     void FormatText(CDC* pDC, const CSize& sizeArea);
     int NumPages() const { return m_print.m_nNumPages; }
     void SetNumPages(int nPages) { m_print.m_nNumPages = nPages; }
+    // Row nRow of all pages, from 0, whole: its text, style and line. The rows of a line joined are
+    // the line. A row that only keeps two partners level is blank. 0, and nothing changes, if there
+    // is no such row, if a derived class added it, or without memory.
+    int GetPrintRow(int nRow, CString& strText, int& nStyle, int& nLine);
+    int NumPrintRows() const { return m_print.Count(); }
+    // Page n from 1 has the rows from (n - 1) * LinesPerPage() on.
+    int LinesPerPage() const { return m_print.m_nLinesPerPage; }
+    // For callers of long standing, row by row in order; many a row comes cut in the wrong place.
     // A row of page pInfo->m_nCurPage: its text, style and line; 0 if there is none. Pass the same
     // variable for nLine from row to row: its value going in names the line whose pieces are
     // counted, as it always has.
@@ -107,7 +125,8 @@ protected:
     void SetLinesPerPage(int nLines) { m_print.m_nLinesPerPage = nLines; }
     void SetPrintAreaSize(const CSize& size);
     void ClearPrintData() { m_print.Clear(); }
-    void AddPrintLine(int nLine, int nSubLine) { m_print.Add(nLine, nSubLine); }
+    // Adds nothing without memory.
+    void AddPrintLine(int nLine, int nSubLine);
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnDestroy();
@@ -115,38 +134,36 @@ protected:
     afx_msg void OnPaint();
     afx_msg void OnHScroll(UINT nCode, UINT nPos, CScrollBar* pBar);
     afx_msg void OnVScroll(UINT nCode, UINT nPos, CScrollBar* pBar);
+    afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint pt);
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg UINT OnGetDlgCode();
     DECLARE_MESSAGE_MAP()
 
     QVTextWnd* m_pSyncWnd = nullptr;
-    int m_bShowVScroll = 1;
     qv::TextLines m_lines;
-    int m_nCharWidth = 0;  // of "O" in the display font, in pixels
-    int m_nCharHeight = 0;
-    int m_nHScrollPos = 0;     // columns
-    int m_nVScrollPos = 0;     // rows
-    int m_nMaxLineLength = 0;  // bytes; 0 once text was wrapped
-    int m_nNumRows = 0;
     int m_nTabStop = 8;  // pixels
-    int m_bHScrollBar = 0;
-    int m_bVScrollBar = 0;
     int m_bBorder = 0;
-    int m_bUseProportionalFont = 1;  // 0: a fixed grid of characters that scrolls sideways
     COLORREF m_crBk;
     qv::DisplayRows m_rows;
     qv::PrintRows m_print;
 
 private:
     class Measure;
+    class FontScope;
 
     CSize ViewSize();  // columns and rows that show
+    qv::TextView& Layout();
     int DrawRows(CDC& dc, int nRow, int nEnd, int nWidth);
     void FillRow(CDC& dc, const CRect& rc, COLORREF cr);
     void DrawPiece(CDC& dc, const CRect& rcRow, std::string_view text, size_t nLength, int nStyle);
     qv::TextSplitter& Splitter();
     bool ReadLines(CStdioFile& file, int nStyle);
+    bool ReplaceControl(UINT nID, CWnd* pParent, int bBorder);
+    bool MeasureFont();
+    void Paint();
+    bool ScrollBoth(UINT nCode, UINT nPos);
+    void FormatPrint(CDC& dc, const CSize& sizeArea);
 
     std::unique_ptr<Measure> m_pMeasure;
 };

@@ -1,21 +1,31 @@
 #include <algorithm>
 
+#include "frame/core/wheel.h"
+#include "frame/mouse_wheel.h"
+#include "frame/out_of_memory.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "text/text_wnd.h"
 #include "text/text_wnd_measure.h"
 
-namespace {
-
-constexpr UINT kRangeMask = SIF_RANGE | SIF_PAGE | SIF_POS | SIF_DISABLENOSCROLL;
-
-}  // namespace
-
 qv::TextSplitter& QVTextWnd::Splitter() {
     return m_pMeasure->splitter;
 }
 
+qv::TextView& QVTextWnd::Layout() {
+    return m_pMeasure->view;
+}
+
 // --- Layout
+
+void QVTextWnd::SetExactLayout(BOOL bExact) {
+    Layout().SetExact(bExact != FALSE);
+    CalcLayout();
+}
+
+BOOL QVTextWnd::IsExactLayout() const {
+    return m_pMeasure->view.IsExact();
+}
 
 void QVTextWnd::CalcLayout() {
     if (m_hWnd != nullptr) {
@@ -25,39 +35,19 @@ void QVTextWnd::CalcLayout() {
 }
 
 void QVTextWnd::FormatDisplayText(int nWidth) {
-    CFont font;
-    if (!CreateDisplayFont(font)) {
-        return;
-    }
-    CleanupDisplayFont(font);
-    if (nWidth == 0) {
-        CRect rc;
-        GetClientRect(&rc);
-        nWidth = rc.Width();
-    }
-    try {
-        m_rows.Format(m_lines, m_aStyles, nWidth, Splitter());
-    } catch (const std::bad_alloc&) {
-        // The rows that there is memory for show; the next layout tries the others again.
-    }
-    m_nMaxLineLength = 0;
-    m_nNumRows = m_rows.Count();
+    qv::MemorySuffices([&] {
+        CFont font;
+        if (CreateDisplayFont(font)) {
+            CleanupDisplayFont(font);
+            Layout().Format(nWidth);
+        }
+    });
 }
 
 void QVTextWnd::CalculateDataSize(int& cx, int& cy, int nWidth) {
-    if (!m_bUseProportionalFont) {
-        cx = m_nMaxLineLength * m_nCharWidth;
-        cy = m_nNumRows * m_nCharHeight;
-        return;
-    }
-    cx = nWidth;
-    if (nWidth == 0) {
-        CRect rc;
-        GetClientRect(&rc);
-        cx = rc.Width();
-    }
-    FormatDisplayText(nWidth);
-    cy = m_rows.Count() * m_nCharHeight;
+    const qv::Size size = Layout().DataSize(nWidth);
+    cx = size.cx;
+    cy = size.cy;
 }
 
 void QVTextWnd::CalculateLineRect(int nRow, CRect& rc) {
@@ -66,120 +56,62 @@ void QVTextWnd::CalculateLineRect(int nRow, CRect& rc) {
     rc.bottom = rc.top + m_nCharHeight;
 }
 
-// Columns and rows that show whole; a font that is not measured yet shows none.
 CSize QVTextWnd::ViewSize() {
-    CRect rc;
-    GetClientRect(&rc);
-    return CSize(m_nCharWidth > 0 ? rc.Width() / m_nCharWidth : 0,
-                 m_nCharHeight > 0 ? rc.Height() / m_nCharHeight : 0);
+    const qv::Size size = Layout().ViewSize();
+    return CSize(size.cx, size.cy);
 }
 
-// Where a vertical bar was there already, rows stay made for the width without it, though a paint
-// splits at the width that there is: the last piece of a line that needs one more shows with the
-// next full layout. So it has always been.
 void QVTextWnd::CalculateScrollBars() {
-    if (m_hWnd == nullptr || m_nCharWidth <= 0 || m_nCharHeight <= 0) {
-        return;
-    }
-    const int nBarCy = ::GetSystemMetrics(SM_CYHSCROLL);
-    const int nBarCx = ::GetSystemMetrics(SM_CXVSCROLL);
-    CRect rc;
-    GetClientRect(&rc);
-    rc.bottom += m_bHScrollBar ? nBarCy : 0;
-    rc.right += m_bVScrollBar ? nBarCx : 0;
-    int cx;
-    int cy;
-    CalculateDataSize(cx, cy, rc.Width());
-    m_bHScrollBar = cx > rc.Width();
-    rc.bottom -= m_bHScrollBar ? nBarCy : 0;
-    if (m_bShowVScroll && rc.Height() < cy) {
-        const bool bWasShown = m_bVScrollBar != 0;
-        m_bVScrollBar = 1;
-        rc.right -= nBarCx;
-        if (!bWasShown && m_bUseProportionalFont) {
-            CalculateDataSize(cx, cy, rc.Width());
-        } else if (!m_bHScrollBar && cx >= rc.Width()) {
-            m_bHScrollBar = 1;
-            rc.bottom -= nBarCy;
-        }
-    } else {
-        m_bVScrollBar = 0;
-    }
-    if (rc.Height() <= 0 || rc.Width() <= 0) {
-        ShowScrollBar(SB_BOTH, FALSE);
-        return;
-    }
-    SCROLLINFO info{};
-    info.cbSize = sizeof(info);
-    info.fMask = kRangeMask;
-    info.nMax = m_nMaxLineLength - 1;
-    if (m_bHScrollBar) {
-        info.nPage = static_cast<UINT>(rc.Width() / m_nCharWidth);
-        info.nPos = m_nHScrollPos;
-        SetScrollInfo(SB_HORZ, &info, TRUE);
-    } else if (m_pSyncWnd != nullptr) {
-        info.nPage = static_cast<UINT>(m_nMaxLineLength);
-        SetScrollInfo(SB_HORZ, &info, TRUE);
-    }
-    if (m_bVScrollBar) {
-        info.nMax = m_nNumRows - 1;
-        info.nPage = static_cast<UINT>(rc.Height() / m_nCharHeight);
-        info.nPos = m_nVScrollPos;
-        SetScrollInfo(SB_VERT, &info, TRUE);
-    }
-    ShowScrollBar(SB_HORZ, !m_bUseProportionalFont && (m_pSyncWnd != nullptr || m_bHScrollBar));
-    ShowScrollBar(SB_VERT, m_bVScrollBar);
+    Layout().FitBars(m_pSyncWnd != nullptr);
 }
 
 void QVTextWnd::OnSize(UINT nType, int cx, int cy) {
     CWnd::OnSize(nType, cx, cy);
-    if (nType != SIZE_RESTORED) {
-        return;
-    }
-    CalculateScrollBars();
-    const CSize view = ViewSize();
-    if (m_nHScrollPos + view.cx > m_nMaxLineLength) {
-        m_nHScrollPos = std::max(m_nMaxLineLength - static_cast<int>(view.cx), 0);
-    }
-    if (m_nVScrollPos + view.cy > m_nNumRows) {
-        m_nVScrollPos = std::max(m_nNumRows - static_cast<int>(view.cy), 0);
+    if (nType == SIZE_RESTORED || (nType == SIZE_MAXIMIZED && IsExactLayout())) {
+        Layout().Resize(m_pSyncWnd != nullptr);
     }
 }
 
 // --- Painting
 
+// What there is no memory to paint stays as it is on the screen, and is not asked for again.
 void QVTextWnd::OnPaint() {
+    if (!qv::MemorySuffices([this] { Paint(); })) {
+        ::ValidateRect(m_hWnd, nullptr);
+    }
+}
+
+void QVTextWnd::Paint() {
     CPaintDC dc(this);
     CRect rcClient;
     GetClientRect(&rcClient);
     CFont font;
     CBrush background;
-    if (!dc.RectVisible(&rcClient) || !CreateDisplayFont(font) ||
-        !background.CreateSolidBrush(m_crBk)) {
-        CleanupDisplayFont(font);
+    if (!dc.RectVisible(&rcClient) || !CreateDisplayFont(font)) {
         return;
     }
-    {
-        const qv::SelectGuard<CFont> selected(dc, &font);
-        const qv::ColorGuard colors(dc);
-        const CSize view = ViewSize();
-        const int nEnd = m_nVScrollPos + static_cast<int>(view.cy) + 1;
-        int nRow = m_nVScrollPos;
-        if (!m_bUseProportionalFont) {
-            for (; nRow < std::min(nEnd, NumLines()); ++nRow) {
-                DrawText(dc, nRow, static_cast<int>(view.cx) + 1);
-            }
-        } else {
-            nRow = DrawRows(dc, nRow, std::min(nEnd, m_rows.Count()), rcClient.Width());
-        }
-        CRect rcRest;
-        CalculateLineRect(nRow - m_nVScrollPos, rcRest);
-        rcRest.bottom = rcClient.bottom;
-        if (!rcRest.IsRectEmpty()) {
-            dc.FillRect(&rcRest, &background);
-        }
+    const FontScope scope(*this, font);
+    if (!background.CreateSolidBrush(m_crBk)) {
+        return;
     }
-    CleanupDisplayFont(font);
+    const qv::SelectGuard<CFont> selected(dc, &font);
+    const qv::ColorGuard colors(dc);
+    const CSize view = ViewSize();
+    const int nEnd = m_nVScrollPos + static_cast<int>(view.cy) + 1;
+    int nRow = m_nVScrollPos;
+    if (!m_bUseProportionalFont) {
+        for (; nRow < std::min(nEnd, NumLines()); ++nRow) {
+            DrawText(dc, nRow, static_cast<int>(view.cx) + 1);
+        }
+    } else {
+        nRow = DrawRows(dc, nRow, std::min(nEnd, m_rows.Count()), rcClient.Width());
+    }
+    CRect rcRest;
+    CalculateLineRect(nRow - m_nVScrollPos, rcRest);
+    rcRest.bottom = rcClient.bottom;
+    if (!rcRest.IsRectEmpty()) {
+        dc.FillRect(&rcRest, &background);
+    }
 }
 
 // Rows nRow up to nEnd; gives the row behind the last one drawn. Rows of lines that are gone draw
@@ -289,14 +221,37 @@ void QVTextWnd::OnVScroll(UINT nCode, UINT nPos, CScrollBar* pBar) {
     // The message has room for 16 bits of the position alone.
     SCROLLINFO info{};
     info.cbSize = sizeof(info);
-    if (GetScrollInfo(SB_VERT, &info, SIF_POS | SIF_TRACKPOS)) {
-        nPos = static_cast<UINT>(nCode == SB_THUMBTRACK ? info.nTrackPos : info.nPos);
+    if (GetScrollInfo(SB_VERT, &info, SIF_RANGE | SIF_PAGE | SIF_POS | SIF_TRACKPOS)) {
+        const qv::ScrollRange bar{info.nMin, info.nMax, static_cast<int>(info.nPage), info.nPos};
+        nPos = nCode == SB_THUMBTRACK
+                   ? qv::DraggedTo(info.nTrackPos, bar, m_nNumRows, static_cast<int>(ViewSize().cy))
+                   : static_cast<UINT>(info.nPos);
     }
-    if (!DoVScroll(nCode, nPos)) {
+    if (!ScrollBoth(nCode, nPos)) {
         CWnd::OnVScroll(nCode, nPos, pBar);
-    } else if (m_pSyncWnd != nullptr) {
+    }
+}
+
+// The partner follows where this window has moved.
+bool QVTextWnd::ScrollBoth(UINT nCode, UINT nPos) {
+    if (!DoVScroll(nCode, nPos)) {
+        return false;
+    }
+    if (m_pSyncWnd != nullptr) {
         m_pSyncWnd->DoVScroll(nCode, nPos);
     }
+    return true;
+}
+
+BOOL QVTextWnd::OnMouseWheel(UINT, short zDelta, CPoint) {
+    // One remainder for all text windows of the process: the wheel is one.
+    static int s_nRemainder = 0;
+    qv::TurnWheel(s_nRemainder, zDelta, GetMouseScrollLines(FALSE), [this](bool bUp, bool bPage) {
+        ScrollBoth(static_cast<UINT>(bPage ? (bUp ? SB_PAGEUP : SB_PAGEDOWN)
+                                           : (bUp ? SB_LINEUP : SB_LINEDOWN)),
+                   0);
+    });
+    return TRUE;
 }
 
 void QVTextWnd::OnHScroll(UINT nCode, UINT nPos, CScrollBar* pBar) {
@@ -321,16 +276,14 @@ int QVTextWnd::ScrollTo(int nLine, int nMargin) {
     }
     const int nMost = m_nNumRows - static_cast<int>(ViewSize().cy);
     const int nTarget = std::max(std::min(std::max(nLine - nMargin, 0), nMost), 0);
-    if (DoVScroll(SB_THUMBPOSITION, static_cast<UINT>(nTarget)) && m_pSyncWnd != nullptr) {
-        m_pSyncWnd->DoVScroll(SB_THUMBPOSITION, static_cast<UINT>(nTarget));
-    }
+    ScrollBoth(SB_THUMBPOSITION, static_cast<UINT>(nTarget));
     return 1;
 }
 
 // --- Input
 
 void QVTextWnd::OnLButtonDown(UINT, CPoint) {
-    SetFocus();
+    ::SetFocus(m_hWnd);
     Default();
 }
 

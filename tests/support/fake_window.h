@@ -23,7 +23,9 @@ public:
         return {0, 0, size.cx - (bShown[SB_VERT] ? kBar : 0),
                 size.cy - (bShown[SB_HORZ] ? kBar : 0)};
     }
-    unsigned Style() const override { return nStyle; }
+    unsigned Style() const override {
+        return nStyle | (bShown[SB_HORZ] ? WS_HSCROLL : 0u) | (bShown[SB_VERT] ? WS_VSCROLL : 0u);
+    }
     int VerticalBarWidth() const override { return kBar; }
     int HorizontalBarHeight() const override { return kBar; }
     void ShowScrollBar(int nBar, bool bShow) override {
@@ -47,8 +49,8 @@ public:
     void Update() override { ++nUpdates; }
 
     bool bExists = true;
-    qv::Size size;  // with both bars hidden
-    unsigned nStyle = 0;
+    qv::Size size;        // with both bars hidden
+    unsigned nStyle = 0;  // but for the bits of bars
     bool bShown[2] = {};
     qv::ScrollRange ranges[2];
     bool bPositionKnown = false;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/geometry.h"
+#include "base/window_port.h"
 #include "frame/core/styled_text.h"
 #include "text/core/text_lines.h"
 #include "text/core/text_split.h"
@@ -20,6 +21,12 @@ struct QVTEXTLINE {
 
 namespace qv {
 
+// A stored line without its style code. While there are no styles at all, which is before the
+// window is made, the code that TextLines wrote goes all the same; once there are some, the letter
+// of a style that is not among them shows, here as in every row.
+const char* LineText(const StyleTable& styles, const char* pszLine);
+inline constexpr int kLineCodeBytes = 2;  // that TextLines puts before each text
+
 // The pieces of a line without its style code.
 void SplitLine(const char* pszLine, int nWidth, const StyleTable& styles, TextSplitter& splitter,
                std::vector<int>& starts);
@@ -28,7 +35,8 @@ void SplitLine(const char* pszLine, int nWidth, const StyleTable& styles, TextSp
 // that were added meanwhile are added.
 class DisplayRows {
 public:
-    // May throw std::bad_alloc; the rows that were made are right then, and the next call goes on.
+    // May throw std::bad_alloc. The rows are those of before then, perhaps with some lines more,
+    // and the next call goes on.
     void Format(const TextLines& lines, const StyleTable& styles, int nWidth,
                 TextSplitter& splitter);
     // The widths measured before are no longer those of the font.
@@ -37,6 +45,8 @@ public:
     const QVTEXTLINE& operator[](int nRow) const { return m_rows[static_cast<size_t>(nRow)]; }
 
 private:
+    void Append(const TextLines& lines, const StyleTable& styles, TextSplitter& splitter);
+
     std::deque<QVTEXTLINE> m_rows;
     std::optional<int> m_width;  // formatted for; none: all is to be made anew
     int m_nStyles = 0;
@@ -56,8 +66,17 @@ struct PrintedRow {
 class PrintRows {
 public:
     void Clear();
-    void Add(int nLine, int nSubLine) { m_rows.push_back({nLine, nSubLine}); }
+    // nStart: the byte of the line's text where the piece begins; -1: not known. May throw
+    // std::bad_alloc; nothing has changed then.
+    void Add(int nLine, int nSubLine, int nStart = -1) {
+        m_rows.push_back({{nLine, nSubLine}, nStart});
+    }
     int Count() const { return static_cast<int>(m_rows.size()); }
+    // Rows, pages and area of other, which gets the ones from here. The current row stays.
+    void SwapLayout(PrintRows& other);
+    // Row nRow of all, whole and by its own line, blank for a row that keeps two texts level. False
+    // if there is no such row, or it is not known where its piece begins. May throw std::bad_alloc.
+    bool Row(int nRow, const TextLines& lines, const StyleTable& styles, PrintedRow& row) const;
 
     int m_nLinesPerPage = 0;
     int m_nNumPages = 0;
@@ -79,7 +98,14 @@ public:
                      PrintedRow& row) const;
 
 private:
-    std::deque<QVTEXTLINE> m_rows;
+    struct Record {
+        QVTEXTLINE row;
+        int nStart;
+    };
+    bool RowAt(int nCurrent, const TextLines& lines, const StyleTable& styles,
+               TextSplitter& splitter, PrintedRow& row) const;
+
+    std::deque<Record> m_rows;
     int m_nCurrent = 0;
 };
 
@@ -96,5 +122,9 @@ ScrollCode ScrollCodeOf(unsigned nCode);  // an SB_ value
 // The position that a scroll code leads to, nCount being all rows and nPage those that show. False
 // where the code is refused; positions behind the last page are refused, not clamped.
 bool ScrollTarget(ScrollCode code, unsigned nWanted, int nPos, int nCount, int nPage, int& nTarget);
+
+// Where a thumb that is dragged to nPos of a bar leads. The bar's page may be shorter than what
+// shows: the end of the bar then stands for the last page, which is before it.
+unsigned DraggedTo(int nPos, const ScrollRange& bar, int nCount, int nPage);
 
 }  // namespace qv

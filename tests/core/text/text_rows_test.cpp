@@ -4,6 +4,7 @@
 
 #include <climits>
 #include <new>
+#include <random>
 #include <string>
 #include <tuple>
 
@@ -375,6 +376,99 @@ TEST_F(Printing, NothingIsReadBehindALineWhoseStartsAreAnothers) {
     EXPECT_TRUE(NextLine(m_rows, m_lines, 1));
     EXPECT_EQ(m_row.strText, "");
     EXPECT_EQ(m_row.nLine, 0);
+}
+
+TEST_F(Printing, RowsByNumberJoinedGiveEveryLineBack) {
+    std::mt19937 random(7);
+    static constexpr std::string_view kParts[] = {"a",  "word",     " ",   "   ",
+                                                  "\n", "\xC3\xA4", "\x1B"};
+    const auto fill = [&](TextLines& lines, std::vector<std::string>& texts) {
+        lines.Clear();
+        texts.clear();
+        for (unsigned n = random() % 8; n > 0; --n) {
+            std::string strText;
+            for (unsigned nPart = random() % 30; nPart > 0; --nPart) {
+                strText += kParts[random() % std::size(kParts)];
+            }
+            lines.Add(strText, 0);
+            texts.push_back(strText);
+        }
+    };
+    std::vector<std::string> texts, otherTexts;
+    for (int i = 0; i < 300; ++i) {
+        fill(m_lines, texts);
+        fill(m_other, otherTexts);
+        m_rows.Clear();
+        m_otherRows.Clear();
+        Format(static_cast<int>(random() % 20), 9, i % 2 == 0);
+        const auto check = [&](const PrintRows& rows, const TextLines& lines,
+                               const std::vector<std::string>& expected) {
+            std::vector<std::string> joined(expected.size());
+            for (int nRow = 0; nRow < rows.Count(); ++nRow) {
+                ASSERT_TRUE(rows.Row(nRow, lines, m_styles, m_row));
+                if (m_row.nLine < lines.Count()) {
+                    joined[static_cast<std::size_t>(m_row.nLine)] += m_row.strText;
+                } else {
+                    ASSERT_EQ(m_row.strText, "");
+                }
+            }
+            ASSERT_EQ(joined, expected);
+        };
+        check(m_rows, m_lines, texts);
+        if (i % 2 == 0) {
+            check(m_otherRows, m_other, otherTexts);
+        }
+    }
+}
+
+TEST_F(Printing, RowsByNumberKnowWhatThereIsNot) {
+    m_styles.Add(0, 0);
+    m_lines.Add("abc", 1);
+    m_other.Add("defghi", 0);
+    Format(3, 9, true);
+    ASSERT_EQ(m_rows.Count(), 2);
+    EXPECT_TRUE(m_rows.Row(0, m_lines, m_styles, m_row));
+    EXPECT_EQ(std::tie(m_row.strText, m_row.nStyle, m_row.nLine), std::tuple("abc", 1, 0));
+    EXPECT_TRUE(m_rows.Row(1, m_lines, m_styles, m_row));
+    EXPECT_EQ(m_row.strText, "") << "keeps the other level";
+    m_row = {"before", 7, 0};
+    m_rows.Add(0, 0);
+    for (const int nRow : {-1, 2, 3}) {
+        EXPECT_FALSE(m_rows.Row(nRow, m_lines, m_styles, m_row)) << nRow;
+        EXPECT_EQ(m_row.strText, "before");
+    }
+    m_lines.Clear();
+    EXPECT_TRUE(m_rows.Row(0, m_lines, m_styles, m_row));
+    EXPECT_EQ(m_row.strText, "") << "the line is gone";
+}
+
+TEST_F(Printing, ARowThatFoundNoMemoryIsGivenTheNextTime) {
+    for (const char* psz : {"first", "second"}) {
+        m_lines.Add(std::string(200, '.') + psz, 0);
+    }
+    Format(1000, 9);
+    ASSERT_TRUE(StartPage(m_rows, m_lines, 1));
+    int nRefused = 0;
+    for (bool bGiven = false; !bGiven; ++nRefused) {
+        try {
+            m_row.strText = std::string();
+            const FailingNew failing(nRefused);
+            bGiven = NextLine(m_rows, m_lines, 1);
+        } catch (const std::bad_alloc&) {
+        }
+        ASSERT_LT(nRefused, 100);
+    }
+    EXPECT_GT(nRefused, 1);
+    EXPECT_TRUE(m_row.strText.ends_with("second"));
+}
+
+TEST(TextScroll, TheEndOfAShorterBarStandsForTheLastPage) {
+    const qv::ScrollRange bar{0, 10, 8, 0};  // of 11 rows, 10 of which show
+    for (const auto& [nPos, nTarget] : {std::pair{0, 0u}, {1, 1u}, {2, 2u}, {3, 1u}, {5, 1u}}) {
+        EXPECT_EQ(qv::DraggedTo(nPos, bar, 11, 10), nTarget) << nPos;
+    }
+    EXPECT_EQ(qv::DraggedTo(40, {0, 49, 10, 0}, 50, 10), 40u);
+    EXPECT_EQ(qv::DraggedTo(3, {0, 4, 2, 0}, 5, 10), 0u) << "all shows";
 }
 
 TEST(TextScroll, CodesArePlatformValuesWithBothThumbsAlike) {

@@ -248,6 +248,41 @@ TEST(HeaderWnd, ARestoredWindowMovesItsControl) {
     check(tree, tree.header.GetTreeCtrl());
 }
 
+TEST(HeaderWnd, ATabStopLeadsToTheControlInside) {
+    Window<QVListHeaderWnd> w;
+    ASSERT_TRUE(w.Create(kChild | WS_TABSTOP));
+    EXPECT_FALSE(w.header.GetExStyle() & WS_EX_CONTROLPARENT) << "its list is no tab stop";
+    w.header.SetFocus();
+    EXPECT_EQ(::GetFocus(), w.header.GetListBox()->m_hWnd);
+    Window<QVTreeHeaderWnd> plain;
+    ASSERT_TRUE(plain.Create());
+    plain.header.SetFocus();
+    EXPECT_EQ(::GetFocus(), plain.header.m_hWnd) << "no tab stop: the focus stays";
+
+    // The Tab key of a dialog finds an inner tab stop, and the way out again.
+    const auto reached = [](auto& window, CWnd& inner) {
+        EXPECT_TRUE(window.header.GetExStyle() & WS_EX_CONTROLPARENT);
+        CButton behind;
+        behind.Create("", kChild | WS_TABSTOP, CRect(0, 0, 10, 10), &window.parent, 5);
+        EXPECT_EQ(::GetNextDlgTabItem(window.parent.m_hWnd, behind.m_hWnd, FALSE), inner.m_hWnd);
+        EXPECT_EQ(::GetNextDlgTabItem(window.parent.m_hWnd, inner.m_hWnd, FALSE), behind.m_hWnd);
+        EXPECT_EQ(::GetNextDlgTabItem(window.parent.m_hWnd, inner.m_hWnd, TRUE), behind.m_hWnd);
+    };
+    for (const DWORD dwOwn : {DWORD{0}, DWORD{WS_TABSTOP}}) {
+        Window<QVListHeaderWnd> list;
+        list.header.SetListStyle(list.header.GetListStyle() | WS_TABSTOP);
+        ASSERT_TRUE(list.Create(kChild | dwOwn));
+        reached(list, *list.header.GetListBox());
+        Window<QVTreeHeaderWnd> tree;
+        tree.header.SetTreeStyle(tree.header.GetTreeStyle() | WS_TABSTOP);
+        ASSERT_TRUE(tree.Create(kChild | dwOwn));
+        reached(tree, tree.header.GetTreeCtrl());
+        Window<QVTextHeaderWnd> text;
+        ASSERT_TRUE(text.Create(kChild | dwOwn));
+        reached(text, text.header.GetTextWnd());
+    }
+}
+
 TEST(HeaderWnd, TheListIsOfTheClassThatIsGiven) {
     SpyList::s_nDeleted = 0;
     FontParent parent(CSize(300, 200));

@@ -19,6 +19,37 @@ bool ShowsWhatItShould(Window& wnd) {
     return scrolled == wnd.Fresh();
 }
 
+int LinesANotch() {
+    UINT nLines = 3;
+    ::SystemParametersInfo(SPI_GETWHEELSCROLLLINES, 0, &nLines, 0);
+    return static_cast<int>(nLines);
+}
+
+// With the mouse, from the top of the vertical bar to so many pixels below the window's top.
+bool DragThumb(CWnd& wnd, int nPixels) {
+    CRect rc;
+    wnd.GetWindowRect(&rc);
+    const int xBar = rc.right - ::GetSystemMetrics(SM_CXVSCROLL) / 2;
+    if (!BringToFront(wnd.m_hWnd) ||
+        !::SetCursorPos(xBar, rc.top + ::GetSystemMetrics(SM_CYVSCROLL) + 3)) {
+        return false;
+    }
+    PumpPending();
+    INPUT inputs[3] = {};
+    for (INPUT& input : inputs) {
+        input.type = INPUT_MOUSE;
+    }
+    const auto absolute = [](int n, int nMetric) {
+        return static_cast<LONG>((n * 65536LL + 32768) / ::GetSystemMetrics(nMetric));
+    };
+    inputs[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
+    inputs[1].mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
+    inputs[1].mi.dx = absolute(xBar, SM_CXSCREEN);
+    inputs[1].mi.dy = absolute(rc.top + nPixels, SM_CYSCREEN);
+    inputs[2].mi.dwFlags = MOUSEEVENTF_LEFTUP;
+    return ::SendInput(3, inputs, sizeof(INPUT)) == 3;
+}
+
 // 50 rows of which 10 show.
 class TextScroll : public testing::Test {
 protected:
@@ -57,6 +88,39 @@ TEST_F(TextScroll, TheThumbIsRefusedBehindTheEnd) {
     EXPECT_EQ(w.text.DoVScroll(SB_THUMBPOSITION, static_cast<UINT>(-1)), 0);
     EXPECT_EQ(w.text.VScrollPos(), 40);
     EXPECT_TRUE(ShowsWhatItShould(w.text));
+}
+
+TEST_F(TextScroll, AThumbDraggedToTheEndOfItsBarShowsTheEnd) {
+    for (const int nLines : {11, 12, 50}) {
+        w.Fill(nLines);
+        SCROLLINFO info{};
+        info.cbSize = sizeof(info);
+        ASSERT_TRUE(w.text.GetScrollInfo(SB_VERT, &info, SIF_ALL));
+        EXPECT_EQ(info.nPage, 8u) << "shorter than what shows";
+        ASSERT_TRUE(DragThumb(w.text, 10 * w.text.m_nCharHeight - 3));
+        EXPECT_TRUE(PumpUntil([&] { return w.text.VScrollPos() == nLines - 10; })) << nLines;
+        EXPECT_TRUE(ShowsWhatItShould(w.text));
+    }
+}
+
+TEST_F(TextScroll, TheWheelScrolls) {
+    const auto wheel = [&](int nDelta) {
+        EXPECT_EQ(w.text.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, nDelta)), TRUE);
+        return w.text.VScrollPos();
+    };
+    const int nLines = LinesANotch();
+    ASSERT_GT(nLines, 0);
+    EXPECT_EQ(wheel(-WHEEL_DELTA), nLines);
+    EXPECT_EQ(wheel(-WHEEL_DELTA / 2), nLines + nLines / 2);
+    EXPECT_EQ(wheel(-WHEEL_DELTA / 2), 2 * nLines) << "small movements add up";
+    EXPECT_EQ(wheel(WHEEL_DELTA), nLines);
+    EXPECT_TRUE(ShowsWhatItShould(w.text));
+    EXPECT_EQ(wheel(3 * WHEEL_DELTA), 0);
+    EXPECT_EQ(wheel(-100 * WHEEL_DELTA), 40);
+    EXPECT_EQ(wheel(100 * WHEEL_DELTA), 0);
+    ASSERT_TRUE(ClickAt(w.text.m_hWnd, CPoint(20, 20)));
+    ASSERT_TRUE(Wheel(w.text.m_hWnd, -WHEEL_DELTA));
+    EXPECT_EQ(w.text.VScrollPos(), nLines);
 }
 
 TEST_F(TextScroll, ScrollToKeepsAMargin) {
@@ -147,23 +211,56 @@ TEST_F(TextScroll, PositionsMayHaveMoreThan16Bits) {
     EXPECT_EQ(w.text.Scroll(WM_VSCROLL, SB_THUMBPOSITION, 150000 & 0xFFFF), 150000);
     EXPECT_TRUE(ShowsWhatItShould(w.text));
     w.text.ScrollTo(0, 0);
-    // The thumb dragged to the middle by the mouse.
-    ASSERT_TRUE(BringToFront(w.text.m_hWnd));
     CRect rc;
     w.text.GetWindowRect(&rc);
-    const int xBar = rc.right - ::GetSystemMetrics(SM_CXVSCROLL) / 2;
-    ::SetCursorPos(xBar, rc.top + ::GetSystemMetrics(SM_CYVSCROLL) + 3);
-    PumpPending();
-    INPUT inputs[3] = {};
-    for (INPUT& input : inputs) {
-        input.type = INPUT_MOUSE;
-    }
-    inputs[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
-    inputs[1].mi.dwFlags = MOUSEEVENTF_MOVE;
-    inputs[1].mi.dy = rc.Height() / 2;
-    inputs[2].mi.dwFlags = MOUSEEVENTF_LEFTUP;
-    ASSERT_EQ(::SendInput(3, inputs, sizeof(INPUT)), 3u);
+    ASSERT_TRUE(DragThumb(w.text, rc.Height() / 2));
     EXPECT_TRUE(PumpUntil([&] { return w.text.VScrollPos() > 65535; }));
+    EXPECT_TRUE(ShowsWhatItShould(w.text));
+}
+
+// Counts the sizes that it is told, and how deep one lies in another.
+class SizedText : public OpenText {
+public:
+    int nSizes = 0;
+    int nDeepest = 0;
+
+protected:
+    LRESULT WindowProc(UINT nMessage, WPARAM wParam, LPARAM lParam) override {
+        if (nMessage != WM_SIZE) {
+            return OpenText::WindowProc(nMessage, wParam, lParam);
+        }
+        ++nSizes;
+        nDeepest = std::max(nDeepest, ++m_nDepth);
+        const LRESULT lResult = OpenText::WindowProc(nMessage, wParam, lParam);
+        --m_nDepth;
+        return lResult;
+    }
+
+private:
+    int m_nDepth = 0;
+};
+
+TEST(TextSize, AResizeLeadsToFewFurtherOnes) {
+    TextWindow<SizedText> w;
+    const int cxBar = ::GetSystemMetrics(SM_CXVSCROLL);
+    for (int i = 0; i < 60; ++i) {
+        w.text.AddText("several words that wrap where there is little room", 0);
+    }
+    w.text.CalcLayout();
+    for (const int cx : {cxBar, cxBar + 1, cxBar - 1, 3, 200, 2 * cxBar, cxBar, 0, cxBar}) {
+        for (const int nPixels : {10 * w.text.m_nCharHeight, 214, 200, 10, 3, 0}) {
+            w.text.nSizes = w.text.nDeepest = 0;
+            w.text.SetWindowPos(nullptr, 0, 0, cx, nPixels, SWP_NOMOVE | SWP_NOZORDER);
+            EXPECT_LE(w.text.nSizes, 4) << cx << " x " << nPixels;
+            EXPECT_LE(w.text.nDeepest, 2) << cx << " x " << nPixels;
+            if (::testing::Test::HasFailure()) {
+                return;
+            }
+        }
+        w.text.SendMessage(WM_KEYDOWN, VK_END);
+    }
+    w.Resize(200, 10);
+    EXPECT_TRUE(w.text.HasBar(SB_VERT));
     EXPECT_TRUE(ShowsWhatItShould(w.text));
 }
 
@@ -198,6 +295,11 @@ TEST(TextPartners, ScrollTogether) {
     pair.b->text.SendMessage(WM_KEYDOWN, VK_DOWN);
     EXPECT_TRUE(pair.BothAt(11)) << "by the keys of the one without a bar";
     pair.b->text.ScrollTo(30, 5);
+    EXPECT_TRUE(pair.BothAt(25));
+    const int nLines = LinesANotch();
+    pair.b->text.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA));
+    EXPECT_TRUE(pair.BothAt(25 - nLines)) << "by the wheel over either";
+    pair.a.text.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA));
     EXPECT_TRUE(pair.BothAt(25));
     pair.a.text.ScrollTo(100, 0);
     EXPECT_TRUE(pair.BothAt(40));

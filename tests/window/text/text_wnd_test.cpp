@@ -197,6 +197,40 @@ TEST(TextPaint, KeepsNoHandles) {
     EXPECT_EQ(AfxGetOwnedHandleCount(), nHandles);
 }
 
+// --- What comes out
+
+std::string ClipboardText() {
+    std::string strText;
+    if (::OpenClipboard(nullptr)) {
+        const HANDLE hText = ::GetClipboardData(CF_TEXT);
+        if (const void* p = hText != nullptr ? ::GlobalLock(hText) : nullptr) {
+            strText.append(static_cast<const char*>(p));
+            ::GlobalUnlock(hText);
+        }
+        ::CloseClipboard();
+    }
+    return strText;
+}
+
+// The rows of each page as a caller gets them with one variable for the line: '|' between rows.
+std::vector<std::string> PrintedPages(QVTextWnd& text, CDC& dc) {
+    std::vector<std::string> pages;
+    CString strText;
+    int nStyle = -1;
+    int nLine = 0;
+    CPrintInfo info;
+    for (int nPage = 1; nPage <= text.NumPages(); ++nPage) {
+        info.m_nCurPage = static_cast<UINT>(nPage);
+        std::string strPage;
+        int bRow = text.StartPage(&dc, &info, strText, nStyle, nLine);
+        for (; bRow; bRow = text.NextLine(&dc, &info, strText, nStyle, nLine)) {
+            strPage.append(strText).append("/").append(std::to_string(nStyle)).append("|");
+        }
+        pages.push_back(strPage);
+    }
+    return pages;
+}
+
 // --- Files
 
 std::string TempPath(const char* pszName) {
@@ -223,6 +257,9 @@ protected:
     }
     std::string Exported() {
         EXPECT_EQ(w.text.ExportData(m_strPath.c_str()), 1);
+        return Written();
+    }
+    std::string Written() {
         std::ifstream file(m_strPath, std::ios::binary);
         std::stringstream text;
         text << file.rdbuf();
@@ -311,6 +348,33 @@ TEST_F(TextFile, ExportsLinesAndNotRows) {
     EXPECT_EQ(w.text.ExportData(TempPath("no such folder\\x.txt").c_str()), 0);
 }
 
+TEST_F(TextFile, LinesOfAWindowThatIsNotMadeYetComeOutWithoutCodes) {
+    OpenText text;
+    text.AddText("abc", 0);
+    text.AddText("", 3);
+    text.AddText(
+        "\x1b"
+        "a plain escape",
+        1);
+    ASSERT_EQ(text.ExportData(m_strPath.c_str()), 1);
+    EXPECT_EQ(Written(),
+              "abc\r\n\r\n\x1b"
+              "a plain escape\r\n");
+    EXPECT_EQ(text.CopyToClipboard(), 1);
+    EXPECT_EQ(ClipboardText(),
+              "abc\r\n\r\n\x1b"
+              "a plain escape\r\n\r\n");
+    TextRecorder dc;
+    text.FormatText(&dc, CSize(1000, 1000));
+    EXPECT_EQ(PrintedPages(text, dc), std::vector<std::string>{"abc/0|/0|\x1b"
+                                                               "a plain escape/0|"});
+
+    w.text.AddText("abc", 7);
+    EXPECT_EQ(Exported(), "habc\r\n") << "no such style: its letter shows, as in the window";
+    EXPECT_STREQ(w.text.GetLineText(0), "abc");
+    EXPECT_EQ(w.text.GetLineText(1), nullptr);
+}
+
 TEST_F(TextFile, AFullDiskIsAnException) {
     w.text.AddText("x", 0);
     try {
@@ -325,19 +389,6 @@ TEST_F(TextFile, AFullDiskIsAnException) {
 }
 
 // --- Clipboard
-
-std::string ClipboardText() {
-    std::string strText;
-    if (::OpenClipboard(nullptr)) {
-        const HANDLE hText = ::GetClipboardData(CF_TEXT);
-        if (const void* p = hText != nullptr ? ::GlobalLock(hText) : nullptr) {
-            strText.append(static_cast<const char*>(p));
-            ::GlobalUnlock(hText);
-        }
-        ::CloseClipboard();
-    }
-    return strText;
-}
 
 TEST(TextClipboard, AnotherProgramPastesWhatWasCopied) {
     TextWindow w;
@@ -390,25 +441,6 @@ TEST(TextClipboard, HoldsAllLinesAndAnEmptyOne) {
 }
 
 // --- Printing
-
-// The rows of each page as a caller gets them with one variable for the line: '|' between rows.
-std::vector<std::string> PrintedPages(QVTextWnd& text, CDC& dc) {
-    std::vector<std::string> pages;
-    CString strText;
-    int nStyle = -1;
-    int nLine = 0;
-    CPrintInfo info;
-    for (int nPage = 1; nPage <= text.NumPages(); ++nPage) {
-        info.m_nCurPage = static_cast<UINT>(nPage);
-        std::string strPage;
-        int bRow = text.StartPage(&dc, &info, strText, nStyle, nLine);
-        for (; bRow; bRow = text.NextLine(&dc, &info, strText, nStyle, nLine)) {
-            strPage.append(strText).append("/").append(std::to_string(nStyle)).append("|");
-        }
-        pages.push_back(strPage);
-    }
-    return pages;
-}
 
 TEST(TextPrint, RowsComePageByPage) {
     TextWindow<> w;

@@ -1,0 +1,237 @@
+#include "text/core/text_view.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+
+#include "support/fake_window.h"
+
+namespace {
+
+constexpr int kChar = FixedMeasure::kCharWidth;
+constexpr int kRow = 13;
+constexpr int kBar = FakeWindow::kBar;
+
+// A text in a window whose every resize comes back to it, as the platform's does.
+class ShownText : public qv::TextViewState {
+public:
+    explicit ShownText(int cx = 200, int cy = 10 * kRow) : window(cx, cy) {
+        m_nCharWidth = kChar;
+        m_nCharHeight = kRow;
+        styles.Add(0, 0);
+        window.onResize = [this] { Sized(); };
+    }
+    void Add(int nLines, const std::string& strText) {
+        for (int i = 0; i < nLines; ++i) {
+            const int nCount = lines.Add(strText, 0);
+            m_nNumRows = std::max(m_nNumRows, nCount);
+            m_nMaxLineLength = std::max(m_nMaxLineLength, static_cast<int>(strText.size()));
+        }
+    }
+    void Fit() { view.FitBars(bPartner); }
+    void Resize(int cx, int cy) {
+        window.size = {cx, cy};
+        nSizes = nDeepest = 0;
+        Sized();
+    }
+    bool HasBar(int nBar) const { return window.bShown[nBar]; }
+
+    FakeWindow window;
+    qv::TextLines lines;
+    qv::StyleTable styles;
+    qv::DisplayRows rows;
+    FixedMeasure measure;
+    qv::TextSplitter splitter{measure};
+    qv::TextView view{*this, window, lines, styles, rows, splitter};
+    bool bPartner = false;
+    int nSizes = 0;
+    int nDeepest = 0;
+
+private:
+    void Sized() {
+        ++nSizes;
+        nDeepest = std::max(nDeepest, ++m_nDepth);
+        view.Resize(bPartner);
+        --m_nDepth;
+    }
+
+    int m_nDepth = 0;
+};
+
+TEST(TextView, ABarShowsWhereRowsDoNotFitAndItsPageIsShortOnceItIsThere) {
+    ShownText text;
+    text.Add(10, "ab");
+    text.Fit();
+    EXPECT_FALSE(text.HasBar(SB_VERT));
+    text.Add(1, "ab");
+    for (int i = 0; i < 3; ++i) {
+        text.nSizes = 0;
+        text.Fit();
+        EXPECT_TRUE(text.HasBar(SB_VERT));
+        EXPECT_FALSE(text.HasBar(SB_HORZ));
+        EXPECT_EQ(text.window.ranges[SB_VERT], (qv::ScrollRange{0, 10, 8, 0}));
+        EXPECT_EQ(text.nSizes, i == 0 ? 1 : 0) << "a bar that stays neither goes nor comes";
+    }
+    text.Resize(200, 11 * kRow);
+    EXPECT_FALSE(text.HasBar(SB_VERT));
+}
+
+TEST(TextView, RowsStayMadeForTheWidthWithoutTheBar) {
+    ShownText text(10 * kChar, 2 * kRow);
+    text.Add(3, "0123456789");
+    text.Fit();
+    EXPECT_TRUE(text.HasBar(SB_VERT));
+    EXPECT_EQ(text.m_nNumRows, 3);
+    text.window.nStyle = WS_MAXIMIZE;
+    text.Resize(10 * kChar, 5 * kRow);
+    text.Resize(10 * kChar, 2 * kRow);
+    EXPECT_EQ(text.m_nNumRows, 6) << "but for a window that has its size from the system";
+}
+
+TEST(TextView, ALargerWindowShowsTheEndAndTheBarSaysSo) {
+    ShownText text;
+    text.Add(50, "ab");
+    text.Fit();
+    text.m_nVScrollPos = 40;
+    text.Resize(200, 13 * kRow);
+    EXPECT_EQ(text.m_nVScrollPos, 37);
+    EXPECT_EQ(text.window.ranges[SB_VERT].nPos, 37);
+    text.Resize(200, 60 * kRow);
+    EXPECT_EQ(text.m_nVScrollPos, 0);
+}
+
+TEST(TextView, NoBarFitsAWindowAsWideAsTheBar) {
+    ShownText text;
+    text.Add(60, "several words that wrap");
+    text.Fit();
+    for (int i = 0; i < 3; ++i) {
+        text.Resize(kBar, 214);
+        EXPECT_FALSE(text.HasBar(SB_VERT));
+        EXPECT_EQ(text.m_bVScrollBar, 0);
+    }
+    text.Resize(kBar + 1, 214);
+    EXPECT_TRUE(text.HasBar(SB_VERT));
+    text.Resize(0, 0);
+    EXPECT_FALSE(text.HasBar(SB_VERT));
+}
+
+// Whatever window and text are, a size leads to few others, none deep inside another, and doing it
+// again changes nothing.
+TEST(TextView, BarsSettleInWindowsOfAnySize) {
+    std::mt19937 random(7);
+    for (int i = 0; i < 120; ++i) {
+        ShownText text;
+        text.m_bUseProportionalFont = i % 3 != 0;
+        text.m_bShowVScroll = i % 7 != 0;
+        text.bPartner = i % 5 == 0;
+        text.Add(static_cast<int>(random() % 25), std::string(random() % 30, 'x'));
+        text.Fit();
+        for (int j = 0; j < 50; ++j) {
+            const int cx = static_cast<int>(random() % (j % 2 == 0 ? 40 : 300));
+            const int cy = static_cast<int>(random() % (j % 3 == 0 ? 40 : 300));
+            text.m_nVScrollPos = static_cast<int>(random() % 200);
+            text.Resize(cx, cy);
+            ASSERT_LE(text.nSizes, 4) << cx << " x " << cy << " run " << i;
+            ASSERT_LE(text.nDeepest, 2);
+            ASSERT_LE(text.m_nVScrollPos, std::max(text.m_nNumRows - text.view.ViewSize().cy, 0));
+            if (text.bPartner && !text.m_bUseProportionalFont) {
+                continue;  // the bar that is there for the partner alone is reckoned with next time
+            }
+            const int nRows = text.m_nNumRows;
+            const bool bHorz = text.HasBar(SB_HORZ);
+            const bool bVert = text.HasBar(SB_VERT);
+            text.nSizes = 0;
+            text.Fit();
+            ASSERT_EQ(text.nSizes, 0) << cx << " x " << cy << " run " << i;
+            ASSERT_EQ(text.HasBar(SB_HORZ), bHorz);
+            ASSERT_EQ(text.HasBar(SB_VERT), bVert);
+            ASSERT_EQ(text.m_nNumRows, nRows) << cx << " x " << cy << " run " << i;
+        }
+    }
+}
+
+std::string RandomLine(std::mt19937& random) {
+    static constexpr std::string_view kParts[] = {"a",  "word",     " ",   "   ",
+                                                  "\n", "\xC3\xA4", "\x1B"};
+    std::string strText;
+    for (unsigned n = random() % 40; n > 0; --n) {
+        strText += kParts[random() % std::size(kParts)];
+    }
+    return strText;
+}
+
+// The bytes of lines that show in no row when each is cut at the width of the client area, as a
+// paint does.
+int HiddenBytes(ShownText& text) {
+    std::size_t nHidden = 0;
+    std::vector<int> starts;
+    int nRow = 0;
+    for (int nLine = 0; nLine < text.lines.Count(); ++nLine) {
+        int nPieces = 0;
+        for (; nRow < text.rows.Count() && text.rows[nRow].nLine == nLine; ++nRow) {
+            EXPECT_EQ(text.rows[nRow].nSubLine, nPieces++);
+        }
+        const std::string_view line = qv::LineText(text.styles, text.lines.Line(nLine));
+        text.splitter.Split(line, text.window.ClientRect().Width(), starts);
+        if (nPieces < static_cast<int>(starts.size())) {
+            nHidden +=
+                line.size() - static_cast<std::size_t>(starts[static_cast<std::size_t>(nPieces)]);
+        }
+    }
+    EXPECT_EQ(nRow, text.rows.Count());
+    return static_cast<int>(nHidden);
+}
+
+TEST(TextView, InAnExactLayoutEveryByteShowsInSomeRow) {
+    std::mt19937 random(7);
+    int nHiddenOtherwise = 0;
+    for (int i = 0; i < 30; ++i) {
+        for (const bool bExact : {false, true}) {
+            ShownText text;
+            text.view.SetExact(bExact);
+            for (int j = 0; j < 40; ++j) {
+                for (unsigned n = random() % 4; n > 0; --n) {
+                    text.Add(1, RandomLine(random));
+                }
+                text.window.nStyle = random() % 5 == 0 ? WS_MAXIMIZE : 0u;
+                text.m_bShowVScroll = random() % 5 != 0;
+                if (j % 2 == 0) {
+                    text.Resize(static_cast<int>(random() % 250), static_cast<int>(random() % 300));
+                    ASSERT_LE(text.nSizes, 4);
+                } else {
+                    text.Fit();
+                }
+                if (!bExact) {
+                    nHiddenOtherwise += HiddenBytes(text);
+                    continue;
+                }
+                ASSERT_EQ(HiddenBytes(text), 0) << i << '.' << j;
+                const qv::Size client{text.window.ClientRect().Width(),
+                                      text.window.ClientRect().Height()};
+                const bool bOverflows = text.m_nNumRows * kRow > client.cy;
+                if (text.HasBar(SB_VERT)) {
+                    ASSERT_EQ(text.window.ranges[SB_VERT].nPage, client.cy / kRow);
+                } else if (text.m_bShowVScroll && client.cx > kBar && client.cy > 0) {
+                    ASSERT_FALSE(bOverflows) << i << '.' << j;
+                }
+            }
+        }
+    }
+    EXPECT_GT(nHiddenOtherwise, 100) << "the check sees what is lost without";
+}
+
+TEST(TextView, AnExactLayoutMeasuresNothingTwice) {
+    ShownText text(10 * kChar, 2 * kRow);
+    text.view.SetExact(true);
+    for (const int nLines : {1, 100}) {
+        text.Add(nLines, "several words that wrap");
+        text.Fit();
+        ASSERT_TRUE(text.HasBar(SB_VERT));
+        text.measure.nCalls = 0;
+        text.Fit();
+        EXPECT_EQ(text.measure.nCalls, 0) << text.lines.Count();
+    }
+}
+
+}  // namespace
