@@ -231,27 +231,4 @@ TYPED_TEST(CaptionMemory, AWindowIsMadeOrNot) {
     EXPECT_EQ(header.nLeft, 0);
 }
 
-TYPED_TEST(CaptionMemory, CaptionsAndPaintsLetNothingOut) {
-    FontParent parent(CSize(300, 200));
-    Watched<TypeParam> header;
-    CRect rc(0, 0, 150, 100);
-    ASSERT_TRUE(header.Create(WS_CHILD | WS_VISIBLE, rc, &parent, 7));
-    header.SetHeaderText("before");
-    header.RedrawWindow();
-    const Picture before = Picture::OfClient(header.m_hWnd);
-    RefuseEach(
-        "caption", [&] { header.SetHeaderText("a caption of some length"); }, [] {});
-    const Picture after = Picture::OfClient(header.m_hWnd);
-    EXPECT_FALSE(before == after);
-    RefuseEach(
-        "paint",
-        [&] {
-            ::RedrawWindow(header.m_hWnd, nullptr, nullptr,
-                           RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_NOCHILDREN);
-        },
-        [] {});
-    EXPECT_TRUE(Picture::OfClient(header.m_hWnd) == after);
-    EXPECT_EQ(header.nLeft, 0);
-}
-
 }  // namespace
