@@ -56,7 +56,7 @@ END_MESSAGE_MAP()
 QVListCtrlEx::QVListCtrlEx()
     : m_dwDefStyle(WS_CHILD | WS_VISIBLE | WS_BORDER | LVS_REPORT | LVS_SINGLESEL |
                    LVS_SHOWSELALWAYS | LVS_OWNERDRAWFIXED),
-      m_pPlaces(std::make_unique<Places>()) {}
+      m_pPlaces(qv::AsMemoryException([] { return std::make_unique<Places>(); })) {}
 
 QVListCtrlEx::~QVListCtrlEx() {
     DestroyWindow();

@@ -40,8 +40,9 @@ END_MESSAGE_MAP()
 // --- Life
 
 QVTextWnd::QVTextWnd()
-    : m_crBk(::GetSysColor(COLOR_WINDOW)), m_pMeasure(std::make_unique<Measure>(*this)) {
-    Windows().push_back(this);
+    : m_crBk(::GetSysColor(COLOR_WINDOW)),
+      m_pMeasure(qv::AsMemoryException([this] { return std::make_unique<Measure>(*this); })) {
+    qv::AsMemoryException([this] { Windows().push_back(this); });
 }
 
 QVTextWnd::~QVTextWnd() {
