@@ -78,6 +78,15 @@ private:
         return strText;
     }
 
+    // A stored line, or its start, without the code that every line begins with. Without styles no
+    // letter is known, and none was meant to show.
+    std::string Shown(const std::string& strLine) const {
+        constexpr std::size_t kCode = 2;
+        return m_styles.Count() == 0 && strLine.size() >= kCode
+                   ? strLine.substr(kCode)
+                   : std::string(m_styles.ParseStyleText(strLine.c_str()));
+    }
+
     std::vector<int> Rule(std::string_view text, int nWidth) {
         return SplitByRule(text, nWidth, m_measure);
     }
@@ -122,7 +131,7 @@ private:
         m_display.Format(sister.lines, m_styles, m_nWidth, m_splitter);
         int nRow = 0;
         for (int nLine = 0; nLine < sister.lines.Count(); ++nLine) {
-            const std::string strText = m_styles.ParseStyleText(sister.plain.Line(nLine).c_str());
+            const std::string strText = Shown(sister.plain.Line(nLine));
             const int nPieces = static_cast<int>(Rule(strText, m_nWidth).size());
             for (int i = 0; i < nPieces; ++i, ++nRow) {
                 FUZZ_CHECK(nRow < m_display.Count());
@@ -150,9 +159,7 @@ private:
             std::max(own.plain.lines.size(), bBoth ? other.plain.lines.size() : 0);
         for (std::size_t i = 0; i < nLines; ++i) {
             const auto pieces = [&](const PlainText& plain) {
-                return i < plain.lines.size()
-                           ? Rule(m_styles.ParseStyleText(plain.lines[i].c_str()), nWidth).size()
-                           : 0;
+                return i < plain.lines.size() ? Rule(Shown(plain.lines[i]), nWidth).size() : 0;
             };
             const std::size_t nOwn = pieces(own.plain);
             const std::size_t nOther = bBoth ? pieces(other.plain) : 0;
@@ -181,6 +188,7 @@ private:
         }
         const auto [nLine, nPiece] = plain.printed[static_cast<std::size_t>(plain.nCurrent)];
         std::string strPiece;
+        bool bFirst = false;
         if (nPiece != -1) {
             const std::vector<int> starts = Rule(plain.Line(expected.nLine), nWidth);
             const auto n = static_cast<std::size_t>(nPiece);
@@ -189,11 +197,12 @@ private:
             }
             const std::string strLine = plain.Line(nLine);
             const std::size_t nFrom = std::min<std::size_t>(starts[n], strLine.size());
+            bFirst = nFrom == 0;
             strPiece = strLine.substr(
                 nFrom, n + 1 < starts.size() ? static_cast<std::size_t>(starts[n + 1]) - starts[n]
                                              : std::string::npos);
         }
-        expected = {m_styles.ParseStyleText(strPiece.c_str()),
+        expected = {bFirst ? Shown(strPiece) : m_styles.ParseStyleText(strPiece.c_str()),
                     m_styles.ParseStyle(plain.Line(nLine).c_str()), nLine};
         return true;
     }

@@ -315,27 +315,30 @@ int QVListCtrlEx::MakeColsFromString(CDC* pDC, const CString& strRow, int* pWidt
 }
 
 int QVListCtrlEx::MakeHeaderString(CString& str) {
+    int nRead = 0;
+    return qv::MemorySuffices([&] { nRead = ReadHeadings(str); }) ? nRead : 0;
+}
+
+int QVListCtrlEx::ReadHeadings(CString& str) {
     char szHeading[kHeadingBytes + 1];
     LVCOLUMN column{};
     column.mask = LVCF_TEXT;
     column.pszText = szHeading;
     column.cchTextMax = kHeadingBytes + 1;
     int nRead = 0;
-    const bool bDone = qv::MemorySuffices([&] {
-        CString strAll(str);
-        for (int nCol = 0; nCol < m_columns.Count(); ++nCol) {
-            szHeading[0] = '\0';
-            if (GetColumn(nCol, &column)) {
-                if (nCol > 0) {
-                    strAll += qv::kFieldSeparator;
-                }
-                strAll += column.pszText;
-                ++nRead;
+    CString strAll(str);
+    for (int nCol = 0; nCol < m_columns.Count(); ++nCol) {
+        szHeading[0] = '\0';
+        if (GetColumn(nCol, &column)) {
+            if (nCol > 0) {
+                strAll += qv::kFieldSeparator;
             }
+            strAll += column.pszText;
+            ++nRead;
         }
-        str = strAll;
-    });
-    return bDone ? nRead : 0;
+    }
+    str = strAll;
+    return nRead;
 }
 
 void QVListCtrlEx::CalcColsFromHeader(int nFillCol) {

@@ -161,6 +161,8 @@ public:
     virtual int CalculateItemHeight(CDC* pDC);
     virtual void BeginPrinting(CDC* pDC, CPrintInfo* pInfo);
     virtual void EndPrinting(CDC* pDC, CPrintInfo* pInfo);
+    // False once a heading or a row was left out, since BeginPrinting, for want of memory.
+    BOOL IsPrintComplete() const { return m_bPrintComplete; }
     // For the life of the control. Exports are not affected.
     void ExcludeColumnFromPrinting(int nCol);
     BOOL IsColumnExcludedFromPrinting(int nCol) const;
@@ -274,6 +276,9 @@ private:
                      qv::Highlight highlight);
     void PrintHeadings(CDC* pDC, const CRect& rc);
     bool WriteRows(CStdioFile& file, char chSeparator);
+    template <class Step>
+    bool PrintStep(Step step);
+    int ReadHeadings(CString& str);
     int RowsThatFit(CDC* pDC, const CRect& rc, int& nHeight);
     int PrintRows(CDC* pDC, UINT nFirst, UINT nEnd, const CRect& rc, int nHeight, int nMost);
     // Inserting a row, and what becomes of the places kept for AddBitmapString.
@@ -284,6 +289,7 @@ private:
     bool ReadPlaces(bool bNumeric);
 
     HWND m_hTold = nullptr;
+    bool m_bPrintComplete = true;
     std::vector<char> m_aCellText;
     std::unique_ptr<Places> m_pPlaces;
 };

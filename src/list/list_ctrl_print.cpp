@@ -22,8 +22,20 @@ void QVListCtrlEx::SetPrintFonts(CFont* pItemFont, CFont* pHeaderFont) {
     m_pPrintHeaderFont = pHeaderFont;
 }
 
+// A step of a print run; a run of which one finds no memory is not complete.
+template <class Step>
+bool QVListCtrlEx::PrintStep(Step step) {
+    const qv::AliveWatch watch(m_alive);
+    const bool bDone = qv::MemorySuffices(step);
+    if (!bDone && watch) {
+        m_bPrintComplete = false;
+    }
+    return bDone;
+}
+
 void QVListCtrlEx::BeginPrinting(CDC* pDC, CPrintInfo*) {
-    qv::MemorySuffices([&] {
+    m_bPrintComplete = true;
+    PrintStep([&] {
         CWindowDC dc(this);
         m_penPrint.DeleteObject();
         m_penPrint.CreateStockObject(BLACK_PEN);
@@ -63,7 +75,7 @@ BOOL QVListCtrlEx::IsColumnExcludedFromPrinting(int nCol) const {
 
 int QVListCtrlEx::GetPrintColWidth(int nCol) {
     int nWidth = 0;
-    qv::MemorySuffices([&] { nWidth = GetColWidth(nCol, m_columns.PrintWidths()); });
+    PrintStep([&] { nWidth = GetColWidth(nCol, m_columns.PrintWidths()); });
     return nWidth;
 }
 
@@ -78,7 +90,7 @@ int QVListCtrlEx::CalcExcludedColsWidth() {
 int QVListCtrlEx::CalcPrintCols(CDC*, int nPageWidth) {
     const int nTotal = CalcDataWidth(nullptr) - CalcExcludedColsWidth();
     int* pWidths = nullptr;
-    if (!qv::MemorySuffices([&] { pWidths = m_columns.PrintWidths(); })) {
+    if (!PrintStep([&] { pWidths = m_columns.PrintWidths(); })) {
         return 0;
     }
     for (int nCol = 0; nCol < m_columns.Count(); ++nCol) {
@@ -91,14 +103,14 @@ int QVListCtrlEx::CalcPrintCols(CDC*, int nPageWidth) {
 }
 
 void QVListCtrlEx::PrintHeader(CDC* pDC, const CRect& rc) {
-    qv::MemorySuffices([&] { PrintHeadings(pDC, rc); });
+    PrintStep([&] { PrintHeadings(pDC, rc); });
 }
 
 void QVListCtrlEx::PrintHeadings(CDC* pDC, const CRect& rc) {
     const qv::SelectGuard<CPen> pen(*pDC, &m_penPrint);
     const qv::SelectGuard<CFont> font(*pDC, m_pPrintHeaderFont);
     CString strHeaders;
-    MakeHeaderString(strHeaders);
+    ReadHeadings(strHeaders);
     if (strHeaders.IsEmpty()) {
         return;
     }
@@ -127,7 +139,7 @@ int QVListCtrlEx::PrintRows(CDC* pDC, UINT nFirst, UINT nEnd, const CRect& rc, i
                             int nMost) {
     const qv::ColorGuard colors(*pDC);
     int nPrinted = 0;
-    qv::MemorySuffices([&] {
+    PrintStep([&] {
         const qv::WindowWatch watch(m_alive, m_hWnd);
         CRect rcRow(rc);
         for (UINT nItem = nFirst; nItem < nEnd && nPrinted < nMost; ++nItem, ++nPrinted) {

@@ -222,6 +222,9 @@ void QVPeDataListBase::Print(CDC* pDC, CRect& rect, unsigned nFirst, unsigned nL
     if (nHeight > 0) {
         PrintItems(pDC, nFirst, nLast, rect);
     }
+    if (!m_pList->IsPrintComplete()) {
+        SetIncomplete();
+    }
     rect.top += static_cast<LONG>(nHeight);
 }
 
