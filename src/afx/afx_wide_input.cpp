@@ -1,5 +1,7 @@
 #include "afx_wide_input.h"
 
+#include <utility>
+
 namespace {
 
 constexpr int kMostBytes = 4;  // of a character
@@ -42,8 +44,11 @@ LRESULT CALLBACK WideEntry(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) {
     if (IS_HIGH_SURROGATE(ch)) {
         s_chHigh = ch;
     } else if (IS_LOW_SURROGATE(ch)) {
-        const WCHAR units[] = {s_chHigh, ch};
-        PassBytes(hWnd, units, kMostUnits, lParam);
+        // A second half alone is no character.
+        const WCHAR units[] = {std::exchange(s_chHigh, WCHAR{0}), ch};
+        if (units[0] != 0) {
+            PassBytes(hWnd, units, kMostUnits, lParam);
+        }
     } else {
         PassBytes(hWnd, &ch, 1, lParam);
     }

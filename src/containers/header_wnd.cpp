@@ -47,9 +47,8 @@ int QVHeaderWnd::Initialize(UINT nID, CWnd* pParent) {
 
 // The way to a handler takes memory as well, for the objects that a message brings along.
 LRESULT QVHeaderWnd::WindowProc(UINT nMessage, WPARAM wParam, LPARAM lParam) {
-    LRESULT lResult = nMessage == WM_CREATE ? -1 : 0;
-    qv::MemorySuffices([&] { lResult = CWnd::WindowProc(nMessage, wParam, lParam); });
-    return lResult;
+    return qv::HandleQuietly(m_hWnd, nMessage,
+                             [&] { return CWnd::WindowProc(nMessage, wParam, lParam); });
 }
 
 int QVHeaderWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {

@@ -48,9 +48,8 @@ void QVCustCtrl::ForgetHalfAttached() {
 }
 
 LRESULT QVCustCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    LRESULT lResult = message == WM_CREATE ? -1 : 0;
-    qv::MemorySuffices([&] { lResult = CWnd::WindowProc(message, wParam, lParam); });
-    return lResult;
+    return qv::HandleQuietly(m_hWnd, message,
+                             [&] { return CWnd::WindowProc(message, wParam, lParam); });
 }
 
 void QVCustCtrl::Draw(CDC& dc, const CRect& rect) {

@@ -49,14 +49,28 @@ auto AsMemoryException(Action action) {
     AfxThrowMemoryException();
 }
 
+// For a window procedure, out of which nothing may go: the result of handle, or what says that the
+// message was not done. A paint that failed is not asked for again at once. The object that hWnd
+// belongs to may be gone afterwards.
+template <class Handle>
+LRESULT HandleQuietly(HWND hWnd, UINT message, Handle handle) {
+    LRESULT lResult = 0;
+    if (MemorySuffices([&] { lResult = handle(); })) {
+        return lResult;
+    }
+    if (message == WM_PAINT) {
+        ::ValidateRect(hWnd, nullptr);
+    }
+    return message == WM_CREATE ? -1 : 0;
+}
+
 // A platform control whose window procedure ends quietly where there is no memory.
 template <class Control>
 class QuietWithoutMemory : public Control {
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-        LRESULT lResult = 0;
-        MemorySuffices([&] { lResult = Control::WindowProc(message, wParam, lParam); });
-        return lResult;
+        return HandleQuietly(this->m_hWnd, message,
+                             [&] { return Control::WindowProc(message, wParam, lParam); });
     }
 };
 

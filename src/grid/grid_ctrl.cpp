@@ -42,8 +42,7 @@ END_MESSAGE_MAP()
 // --- Life
 
 QVGridCtrl::QVGridCtrl() try
-    : m_pPort(qv::AsMemoryException([this] { return std::make_unique<qv::WndPort>(*this); })),
-      m_pAlive(qv::AsMemoryException([] { return std::make_shared<bool>(true); })) {
+    : m_pPort(std::make_unique<qv::WndPort>(*this)), m_pAlive(std::make_shared<bool>(true)) {
     m_si.cbSize = sizeof(m_si);
     m_si.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
 } catch (const std::bad_alloc&) {

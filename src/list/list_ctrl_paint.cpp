@@ -50,8 +50,10 @@ void QVListCtrlEx::OnPaint() {
     if (watch && InReportMode()) {
         qv::MemorySuffices([&] {
             CClientDC dc(this);
-            // The empty space of an empty list begins at the top, where the headings are.
-            ExcludeHeader(dc);
+            if (GetItemCount() == 0) {
+                // The empty space begins at the top, where the headings are.
+                ExcludeHeader(dc);
+            }
             FillEmptySpace(&dc);
         });
     }

@@ -493,16 +493,8 @@ void QVTreeCtrlEx::InvalidateItem(HTREEITEM hItem, BOOL bErase) {
 // Nothing leaves the window procedure for want of memory, and nobody is asked to close a message
 // about it: what the message was to do is left undone.
 LRESULT QVTreeCtrlEx::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    const HWND hWnd = m_hWnd;
-    LRESULT lResult = 0;
-    if (!qv::MemorySuffices([&] { lResult = CWnd::WindowProc(message, wParam, lParam); })) {
-        // The control itself may be gone.
-        if (message == WM_PAINT) {
-            ::ValidateRect(hWnd, nullptr);
-        }
-        lResult = message == WM_CREATE ? -1 : 0;
-    }
-    return lResult;
+    return qv::HandleQuietly(m_hWnd, message,
+                             [&] { return CWnd::WindowProc(message, wParam, lParam); });
 }
 
 void QVTreeCtrlEx::OnSize(UINT, int, int) {
