@@ -1,19 +1,18 @@
 // Core without a window; the tree, the grid and the wrapped text beside Qt's own where that was
 // asked for.
 
-#include <malloc.h>
-
-#include <algorithm>
-#include <memory>
-#include <random>
-#include <string>
-
 #include "bench.h"
 #include "grid/core/grid_model.h"
 #include "print/core/text_wrap.h"
 #include "support/fake_page_items.h"
 #include "support/test_tree.h"
 #include "text/core/text_rows.h"
+
+#include <algorithm>
+#include <malloc.h>
+#include <memory>
+#include <random>
+#include <string>
 #ifdef QV_PEERS
 #include "qt_peer.h"
 #endif

@@ -1,6 +1,7 @@
 // The list in real windows, beside a plain list control of the platform in the same process: same
 // size, font, columns and texts. Nobody subclasses the plain one; it draws its rows itself.
 
+#include "QVControls.h"
 #include "window_bench.h"
 
 #include <afxcmn.h>
@@ -11,8 +12,6 @@
 #include <cstdio>
 #include <functional>
 #include <random>
-
-#include "QVControls.h"
 
 // Defines short names that clash with those of the standard library's headers: after them.
 #include <mbstring.h>

@@ -1,13 +1,13 @@
 #include "qt_peer.h"
 
+#include "bench.h"
+
 #include <QApplication>
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QTableWidget>
 #include <QTextLayout>
 #include <QTreeWidget>
-
-#include "bench.h"
 
 namespace qt_peer {
 

@@ -1,12 +1,11 @@
 // The text window in a real window, beside the platform's edit control of many lines in the same
 // process: same size, font and text, both wrapping.
 
+#include "QVControls.h"
 #include "window_bench.h"
 
 #include <cstdio>
 #include <string>
-
-#include "QVControls.h"
 
 namespace {
 

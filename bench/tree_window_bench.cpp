@@ -1,13 +1,12 @@
 // The tree in real windows, beside the platform's own tree control in the same process: same size,
 // font and texts.
 
+#include "QVControls.h"
 #include "window_bench.h"
 
 #include <afxcmn.h>
 
 #include <random>
-
-#include "QVControls.h"
 
 namespace {
 

@@ -2,11 +2,11 @@
 
 #pragma once
 
+#include "bench.h"
+
 #include <afxwin.h>
 
 #include <string>
-
-#include "bench.h"
 
 namespace bench {
 

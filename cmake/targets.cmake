@@ -29,6 +29,18 @@ function(qv_add_core name)
     target_link_libraries(${name} PRIVATE qv_options PUBLIC ${ARG_DEPENDS})
 endfunction()
 
+# Headers that most sources of a target include, read by the compiler once. Sources still include
+# what they use: tests/outside compiles each public header by itself.
+set(QV_STD_HEADERS <algorithm> <array> <functional> <memory> <string> <string_view> <utility> <vector>)
+set(QV_FRAMEWORK_HEADERS <afxwin.h> <afxcmn.h> <afxdlgs.h> <afxext.h> <afxtempl.h>)
+
+# Tests are compiled once and run a few times: what takes time in them is the modules under test.
+function(qv_add_tests target)
+    target_link_libraries(${target} PRIVATE qv_options)
+    target_compile_options(${target} PRIVATE -O0)
+    target_precompile_headers(${target} PRIVATE <gtest/gtest.h> ${QV_STD_HEADERS} ${ARGN})
+endfunction()
+
 # GoogleTest from the distribution's sources, built with whichever compiler this tree uses.
 set(INSTALL_GTEST OFF)
 set(gtest_force_shared_crt ON)

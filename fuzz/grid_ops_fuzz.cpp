@@ -1,16 +1,16 @@
 // Random sequences of all that a grid's store can be told, beside a plain table of texts, and what
 // its layout makes of them.
 
+#include "base/platform_names.h"
+#include "fuzz_input.h"
+#include "grid/core/grid_layout.h"
+
 #include <algorithm>
 #include <array>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "base/platform_names.h"
-#include "fuzz_input.h"
-#include "grid/core/grid_layout.h"
 
 namespace {
 

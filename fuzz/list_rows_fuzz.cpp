@@ -1,9 +1,6 @@
 // What a list does with rows of any bytes: split and join, find a row's place, order by keys, and
 // spread columns over a page.
 
-#include <algorithm>
-#include <numeric>
-
 #include "frame/core/sort_keys.h"
 #include "frame/core/styled_text.h"
 #include "fuzz_input.h"
@@ -11,6 +8,9 @@
 #include "list/core/list_columns.h"
 #include "list/core/list_row.h"
 #include "list/core/sorted_places.h"
+
+#include <algorithm>
+#include <numeric>
 
 namespace {
 

@@ -1,10 +1,10 @@
 // Random documents on random pages. A plain walk over the page table works out what each page must
 // hold and which rows may be missing; the replay of the pages must print the rest exactly once.
 
-#include <vector>
-
 #include "fuzz_input.h"
 #include "support/fake_page_items.h"
+
+#include <vector>
 
 namespace {
 

@@ -1,11 +1,11 @@
 // Row strings, columns and multi-byte text of any bytes.
 
-#include <memory>
-
 #include "fuzz_input.h"
 #include "fuzz_text.h"
 #include "support/fake_window.h"
 #include "tree/core/tree_columns.h"
+
+#include <memory>
 
 namespace {
 

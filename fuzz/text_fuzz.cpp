@@ -1,15 +1,15 @@
 // Random sequences of all that two texts side by side can be told, beside plain vectors of lines
 // and the word wrap done step by step. No text that is measured may hold a byte from behind a line.
 
+#include "fuzz_input.h"
+#include "support/text_split_rule.h"
+#include "text/core/text_rows.h"
+
 #include <algorithm>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "fuzz_input.h"
-#include "support/text_split_rule.h"
-#include "text/core/text_rows.h"
 
 namespace {
 

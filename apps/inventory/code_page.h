@@ -2,11 +2,11 @@
 
 #pragma once
 
+#include "model/inventory.h"
+
 #include <afxwin.h>
 
 #include <vector>
-
-#include "model/inventory.h"
 
 // Characters that the code page has not become question marks.
 void ToProcessCodePage(std::vector<Package>& packages);

@@ -2,9 +2,9 @@
 
 #pragma once
 
-#include <afxwin.h>
-
 #include "resource.h"
+
+#include <afxwin.h>
 
 class FindDialog : public CDialog {
 public:

@@ -2,11 +2,11 @@
 
 #pragma once
 
+#include "model/inventory.h"
+
 #include <afxwin.h>
 
 #include <vector>
-
-#include "model/inventory.h"
 
 // Fills tInstalled from the folder "info" beside the status file; packages without such a file keep
 // theirs.

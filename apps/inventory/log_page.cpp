@@ -1,9 +1,9 @@
 #include "log_page.h"
 
-#include <afxdlgs.h>
-
 #include "printing.h"
 #include "resource.h"
+
+#include <afxdlgs.h>
 
 namespace {
 

@@ -2,8 +2,6 @@
 
 #pragma once
 
-#include <afxext.h>
-
 #include "log_page.h"
 #include "model/package_database.h"
 #include "packages_page.h"
@@ -11,6 +9,8 @@
 #include "report_page.h"
 #include "settings_page.h"
 #include "tree_page.h"
+
+#include <afxext.h>
 
 class MainFrame : public CFrameWnd {
 public:

@@ -3,12 +3,12 @@
 
 #pragma once
 
+#include "QVControls.h"
+#include "model/inventory.h"
+
 #include <map>
 #include <string>
 #include <vector>
-
-#include "QVControls.h"
-#include "model/inventory.h"
 
 class PackageList : public QVSortingListCtrl {
     DECLARE_DYNCREATE(PackageList)

@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include <afxwin.h>
-
 #include "model/inventory.h"
+
+#include <afxwin.h>
 
 class Page : public CWnd {
 public:

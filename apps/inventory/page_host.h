@@ -2,11 +2,11 @@
 
 #pragma once
 
+#include "page.h"
+
 #include <afxcmn.h>
 
 #include <vector>
-
-#include "page.h"
 
 class PageHost : public CWnd {
 public:

@@ -2,9 +2,9 @@
 
 #pragma once
 
-#include <vector>
-
 #include "model/inventory.h"
+
+#include <vector>
 
 // The uninstall entries of the machine, in both views, and of the user; publishers are the
 // sections.

@@ -1,8 +1,8 @@
 #include "report.h"
 
-#include <algorithm>
-
 #include "printing.h"
+
+#include <algorithm>
 
 namespace {
 

@@ -6,11 +6,11 @@
 
 #pragma once
 
-#include <list>
-
 #include "QVControls.h"
 #include "model/inventory.h"
 #include "model/settings.h"
+
+#include <list>
 
 struct ReportOptions {
     bool bIntroduction = true;

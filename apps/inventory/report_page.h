@@ -2,12 +2,12 @@
 
 #pragma once
 
-#include <memory>
-
 #include "packages_page.h"
 #include "page.h"
 #include "preview_window.h"
 #include "report.h"
+
+#include <memory>
 
 class ReportPage : public Page {
 public:

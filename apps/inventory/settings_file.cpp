@@ -1,7 +1,6 @@
 #include "settings_file.h"
 
 #include <shlobj.h>
-
 #include <string>
 
 namespace {

@@ -2,9 +2,9 @@
 
 #pragma once
 
-#include <afxwin.h>
-
 #include "model/settings.h"
+
+#include <afxwin.h>
 
 // In the user's folder for applications.
 CString UsersSettingsPath();

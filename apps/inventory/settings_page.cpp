@@ -1,9 +1,9 @@
 #include "settings_page.h"
 
-#include <shlobj.h>
-
 #include "resource.h"
 #include "settings_file.h"
+
+#include <shlobj.h>
 
 namespace {
 

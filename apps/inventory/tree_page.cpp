@@ -1,8 +1,8 @@
 #include "tree_page.h"
 
-#include <algorithm>
-
 #include "resource.h"
+
+#include <algorithm>
 
 namespace {
 

@@ -1,5 +1,6 @@
-#include "resource.h"
 #include "walk.h"
+
+#include "resource.h"
 
 bool Walk::ReportPages() {
     ClickTab(2);

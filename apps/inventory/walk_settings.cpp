@@ -1,5 +1,6 @@
-#include "settings_file.h"
 #include "walk.h"
+
+#include "settings_file.h"
 
 namespace {
 

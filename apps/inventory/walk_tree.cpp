@@ -1,7 +1,8 @@
-#include <algorithm>
+#include "walk.h"
 
 #include "resource.h"
-#include "walk.h"
+
+#include <algorithm>
 
 namespace {
 

@@ -3,10 +3,10 @@
 
 #pragma once
 
+#include "base/geometry.h"
+
 #include <cstddef>
 #include <string_view>
-
-#include "base/geometry.h"
 
 namespace qv {
 

@@ -8,11 +8,11 @@
 
 #pragma once
 
-#include <afxwin.h>
-
 #include "containers/core/header_bar.h"
 #include "frame/out_of_memory.h"
 #include "frame/qv_api.h"
+
+#include <afxwin.h>
 
 class QV_CONTROLS_API QVHeaderWnd : public CWnd {
     DECLARE_DYNCREATE(QVHeaderWnd)

@@ -2,9 +2,9 @@
 
 #pragma once
 
-#include <afxwin.h>
-
 #include "frame/out_of_memory.h"
+
+#include <afxwin.h>
 
 namespace qv {
 

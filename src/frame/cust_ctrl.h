@@ -5,9 +5,9 @@
 
 #pragma once
 
-#include <afxwin.h>
-
 #include "frame/qv_api.h"
+
+#include <afxwin.h>
 
 class QV_CONTROLS_API QVCustCtrl : public CWnd {
     DECLARE_DYNCREATE(QVCustCtrl)

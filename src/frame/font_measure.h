@@ -2,12 +2,12 @@
 
 #pragma once
 
+#include "base/text_measure.h"
+#include "frame/core/char_widths.h"
+
 #include <afxwin.h>
 
 #include <optional>
-
-#include "base/text_measure.h"
-#include "frame/core/char_widths.h"
 
 namespace qv {
 

@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include <afxwin.h>
-
 #include "base/multi_byte.h"
+
+#include <afxwin.h>
 
 // Shared target of empty results.
 extern const CString g_strEmpty;

@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include <afxwin.h>
-
 #include "frame/qv_api.h"
+
+#include <afxwin.h>
 
 // Call once from a module state other than the one that loaded the library, before the first use of
 // one of its resources or dialogs. Gives the new chain entry, which the framework owns, or null

@@ -10,10 +10,10 @@
 
 #pragma once
 
-#include <afxwin.h>
-
 #include "frame/core/styled_text.h"
 #include "frame/qv_api.h"
+
+#include <afxwin.h>
 
 // The table and how it is read.
 class QV_CONTROLS_API QVStyleTable {

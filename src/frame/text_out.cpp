@@ -1,11 +1,11 @@
 #include "frame/text_out.h"
 
+#include "frame/module_state.h"
+#include "frame/wide_text.h"
+
 #include <algorithm>
 #include <optional>
 #include <utility>
-
-#include "frame/module_state.h"
-#include "frame/wide_text.h"
 
 namespace qv {
 

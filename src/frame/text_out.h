@@ -12,11 +12,11 @@
 
 #pragma once
 
+#include "base/text_measure.h"
+
 #include <afxwin.h>
 
 #include <string_view>
-
-#include "base/text_measure.h"
 
 namespace qv {
 

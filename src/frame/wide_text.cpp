@@ -1,9 +1,9 @@
 #include "frame/wide_text.h"
 
+#include "frame/module_state.h"
+
 #include <algorithm>
 #include <new>
-
-#include "frame/module_state.h"
 
 namespace qv {
 

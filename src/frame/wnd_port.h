@@ -2,9 +2,9 @@
 
 #pragma once
 
-#include <afxwin.h>
-
 #include "base/window_port.h"
+
+#include <afxwin.h>
 
 namespace qv {
 

@@ -1,13 +1,13 @@
 #include "grid/grid_ctrl.h"
 
-#include <algorithm>
-
 #include "frame/core/styled_text.h"
 #include "frame/out_of_memory.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "frame/wnd_port.h"
 #include "grid/grid_editors.h"
+
+#include <algorithm>
 
 namespace {
 

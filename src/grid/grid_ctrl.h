@@ -26,13 +26,13 @@
 
 #pragma once
 
-#include <afxwin.h>
-
-#include <memory>
-
 #include "frame/cust_ctrl.h"
 #include "grid/core/grid_layout.h"
 #include "grid/core/grid_model.h"
+
+#include <afxwin.h>
+
+#include <memory>
 
 class QVGridEdit;
 class QVGridList;

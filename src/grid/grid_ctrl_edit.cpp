@@ -1,10 +1,10 @@
-#include <mbstring.h>
-
-#include <algorithm>
+#include "grid/grid_ctrl.h"
 
 #include "frame/wnd_port.h"
-#include "grid/grid_ctrl.h"
 #include "grid/grid_editors.h"
+
+#include <algorithm>
+#include <mbstring.h>
 
 namespace {
 

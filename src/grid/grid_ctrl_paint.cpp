@@ -1,11 +1,12 @@
-#include <algorithm>
+#include "grid/grid_ctrl.h"
 
 #include "frame/out_of_memory.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "frame/wnd_port.h"
-#include "grid/grid_ctrl.h"
 #include "grid/grid_editors.h"
+
+#include <algorithm>
 
 namespace {
 

@@ -1,10 +1,11 @@
 // Where the editors lie, and how they follow as the cells under them move.
 
-#include <utility>
+#include "grid/grid_ctrl.h"
 
 #include "frame/wnd_port.h"
-#include "grid/grid_ctrl.h"
 #include "grid/grid_editors.h"
+
+#include <utility>
 
 namespace {
 

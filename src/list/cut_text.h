@@ -2,13 +2,13 @@
 
 #pragma once
 
+#include "frame/core/styled_text.h"
+#include "frame/module_state.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <cstring>
 #include <string_view>
-
-#include "frame/core/styled_text.h"
-#include "frame/module_state.h"
 
 namespace qv {
 

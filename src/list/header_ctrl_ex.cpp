@@ -1,10 +1,10 @@
 #include "list/header_ctrl_ex.h"
 
-#include <string_view>
-
 #include "frame/core/styled_text.h"
 #include "list/core/header_fields.h"
 #include "list/cut_text.h"
+
+#include <string_view>
 
 namespace {
 

@@ -2,9 +2,9 @@
 
 #pragma once
 
-#include <afxcmn.h>
-
 #include "frame/qv_api.h"
+
+#include <afxcmn.h>
 
 class QV_CONTROLS_API QVHeaderCtrlEx : public CHeaderCtrl {
 public:

@@ -1,9 +1,5 @@
 #include "list/list_ctrl.h"
 
-#include <algorithm>
-#include <climits>
-#include <unordered_map>
-
 #include "frame/ancestor_font.h"
 #include "frame/core/wheel.h"
 #include "frame/module_state.h"
@@ -14,6 +10,10 @@
 #include "list/cell_format.h"
 #include "list/cut_text.h"
 #include "list/list_places.h"
+
+#include <algorithm>
+#include <climits>
+#include <unordered_map>
 
 namespace {
 

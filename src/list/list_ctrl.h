@@ -22,6 +22,11 @@
 
 #pragma once
 
+#include "frame/alive.h"
+#include "frame/styled_rows.h"
+#include "list/core/list_columns.h"
+#include "list/core/list_row.h"
+
 #include <afxcmn.h>
 #include <afxtempl.h>
 #include <afxwin.h>
@@ -30,11 +35,6 @@
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "frame/alive.h"
-#include "frame/styled_rows.h"
-#include "list/core/list_columns.h"
-#include "list/core/list_row.h"
 
 class CStdioFile;
 struct CPrintInfo;

@@ -1,11 +1,12 @@
-#include <algorithm>
+#include "list/list_ctrl.h"
 
 #include "frame/out_of_memory.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "frame/wnd_port.h"
 #include "list/cell_format.h"
-#include "list/list_ctrl.h"
+
+#include <algorithm>
 
 namespace {
 

@@ -1,9 +1,10 @@
-#include <afxext.h>
+#include "list/list_ctrl.h"
 
 #include "frame/out_of_memory.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
-#include "list/list_ctrl.h"
+
+#include <afxext.h>
 
 namespace {
 

@@ -1,14 +1,15 @@
 // The rows of the list as strings, and where a new one belongs among them.
 
-#include <algorithm>
-#include <cstdlib>
-#include <limits>
+#include "list/list_ctrl.h"
 
 #include "frame/module_state.h"
 #include "frame/out_of_memory.h"
 #include "list/cut_text.h"
-#include "list/list_ctrl.h"
 #include "list/list_places.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <limits>
 
 namespace {
 

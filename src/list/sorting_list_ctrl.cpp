@@ -1,16 +1,16 @@
 #include "list/sorting_list_ctrl.h"
 
+#include "frame/core/sort_keys.h"
+#include "frame/module_state.h"
+#include "frame/out_of_memory.h"
+#include "list/core/row_ranks.h"
+
 #include <afxdisp.h>
 
 #include <algorithm>
 #include <cstdlib>
 #include <optional>
 #include <unordered_map>
-
-#include "frame/core/sort_keys.h"
-#include "frame/module_state.h"
-#include "frame/out_of_memory.h"
-#include "list/core/row_ranks.h"
 
 IMPLEMENT_DYNCREATE(QVSortingListCtrl, QVListCtrlEx)
 

@@ -1,12 +1,12 @@
 #include "print/print_engine.h"
 
-#include <algorithm>
-
 #include "frame/out_of_memory.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "print/core/pagination.h"
 #include "print/print_items.h"
+
+#include <algorithm>
 
 namespace {
 

@@ -24,11 +24,11 @@
 
 #pragma once
 
-#include <memory>
-#include <vector>
-
 #include "print/print_engine_data.h"
 #include "print/print_labeled_list.h"
+
+#include <memory>
+#include <vector>
 
 class QVListCtrlEx;
 

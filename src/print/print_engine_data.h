@@ -10,9 +10,9 @@
 
 #pragma once
 
-#include <afxwin.h>
-
 #include "frame/qv_api.h"
+
+#include <afxwin.h>
 
 class QV_CONTROLS_API QVPrintEngineData {
 public:

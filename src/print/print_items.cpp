@@ -1,7 +1,5 @@
 #include "print/print_items.h"
 
-#include <algorithm>
-
 #include "frame/core/styled_text.h"
 #include "frame/module_state.h"
 #include "frame/select_object.h"
@@ -11,6 +9,8 @@
 #include "print/core/pagination.h"
 #include "print/core/row_split.h"
 #include "print/core/text_wrap.h"
+
+#include <algorithm>
 
 namespace {
 

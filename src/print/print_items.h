@@ -3,11 +3,11 @@
 
 #pragma once
 
+#include "print/print_engine_data.h"
+
 #include <afxext.h>
 
 #include <vector>
-
-#include "print/print_engine_data.h"
 
 class QVListCtrlEx;
 

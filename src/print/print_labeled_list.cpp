@@ -1,13 +1,13 @@
 #include "print/print_labeled_list.h"
 
-#include <algorithm>
-
 #include "frame/out_of_memory.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "print/core/pagination.h"
 #include "print/core/row_split.h"
 #include "print/print_items.h"
+
+#include <algorithm>
 
 namespace {
 

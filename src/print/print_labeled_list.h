@@ -6,9 +6,9 @@
 
 #pragma once
 
-#include <vector>
-
 #include "print/print_engine_data.h"
+
+#include <vector>
 
 class QV_CONTROLS_API QVPeDataLabeledListItem : public CObject {
 public:

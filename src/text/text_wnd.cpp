@@ -1,15 +1,15 @@
 #include "text/text_wnd.h"
 
-#include <afxext.h>
-
-#include <algorithm>
-
 #include "frame/create_window.h"
 #include "frame/module_state.h"
 #include "frame/out_of_memory.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "text/text_wnd_measure.h"
+
+#include <afxext.h>
+
+#include <algorithm>
 
 namespace {
 

@@ -12,13 +12,13 @@
 
 #pragma once
 
+#include "frame/styled_rows.h"
+#include "text/core/text_view.h"
+
 #include <afxtempl.h>
 #include <afxwin.h>
 
 #include <memory>
-
-#include "frame/styled_rows.h"
-#include "text/core/text_view.h"
 
 struct CPrintInfo;
 

@@ -1,12 +1,13 @@
-#include <algorithm>
+#include "text/text_wnd.h"
 
 #include "frame/core/wheel.h"
 #include "frame/mouse_wheel.h"
 #include "frame/out_of_memory.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
-#include "text/text_wnd.h"
 #include "text/text_wnd_measure.h"
+
+#include <algorithm>
 
 qv::TextSplitter& QVTextWnd::Splitter() {
     return m_pMeasure->splitter;

@@ -1,13 +1,13 @@
 #include "tree/tree_ctrl.h"
 
-#include <algorithm>
-
 #include "frame/ancestor_font.h"
 #include "frame/out_of_memory.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "frame/virtual_step.h"
 #include "tree/tree_ctrl_core.h"
+
+#include <algorithm>
 
 // TVSIL_ and state images as the platform publishes them.
 namespace {

@@ -26,12 +26,12 @@
 
 #pragma once
 
+#include "frame/styled_rows.h"
+
 #include <afxcmn.h>
 #include <afxwin.h>
 
 #include <memory>
-
-#include "frame/styled_rows.h"
 
 class QV_CONTROLS_API QVTreeCtrlEx : public CWnd, public QVStyledRows {
     DECLARE_DYNCREATE(QVTreeCtrlEx)

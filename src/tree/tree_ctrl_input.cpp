@@ -1,7 +1,8 @@
+#include "tree/tree_ctrl.h"
+
 #include "frame/core/wheel.h"
 #include "frame/mouse_wheel.h"
 #include "frame/select_object.h"
-#include "tree/tree_ctrl.h"
 #include "tree/tree_ctrl_core.h"
 
 namespace {

@@ -1,12 +1,12 @@
-#include <mbstring.h>
-
-#include <algorithm>
+#include "tree/tree_ctrl.h"
 
 #include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "tree/core/tree_columns.h"
-#include "tree/tree_ctrl.h"
 #include "tree/tree_ctrl_core.h"
+
+#include <algorithm>
+#include <mbstring.h>
 
 namespace {
 

@@ -2,14 +2,14 @@
 // must find on its pages.
 #pragma once
 
+#include "QVControls.h"
+
 #include <afxwin.h>
 
 #include <cstdio>
 #include <memory>
 #include <string>
 #include <vector>
-
-#include "QVControls.h"
 
 // Lines of five fields with blanks between, in reading order: kind, list, row, edge, word. Kinds:
 // "text" stands once; "keep" too, on the page of the word that follows it; "cell" too, in that row

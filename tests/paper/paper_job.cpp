@@ -3,6 +3,8 @@
 #include "paper_document.h"
 #include "virtual_printer/virtual_printer.h"
 
+#include <afxwin.h>
+
 #include <winspool.h>
 
 namespace {

@@ -2,11 +2,10 @@
 
 #include <windows.h>
 
-#include <psapi.h>
-
 #include <array>
 #include <cstdlib>
 #include <cstring>
+#include <psapi.h>
 
 namespace {
 

@@ -3,12 +3,12 @@
 
 #pragma once
 
+#include "print/core/pagination.h"
+#include "print/core/row_split.h"
+
 #include <algorithm>
 #include <string>
 #include <vector>
-
-#include "print/core/pagination.h"
-#include "print/core/row_split.h"
 
 class FakePageItems : public qv::PageItems {
 public:

@@ -3,14 +3,14 @@
 
 #pragma once
 
+#include "base/platform_names.h"
+#include "base/text_measure.h"
+#include "base/window_port.h"
+
 #include <functional>
 #include <new>
 #include <string_view>
 #include <vector>
-
-#include "base/platform_names.h"
-#include "base/text_measure.h"
-#include "base/window_port.h"
 
 class FakeWindow : public qv::WindowPort {
 public:

@@ -1,11 +1,11 @@
 // A grid in a parent that writes down what it is told and may answer, on the screen.
 #pragma once
 
-#include <functional>
-#include <string>
-
 #include "QVControls.h"
 #include "support/tree_window.h"
+
+#include <functional>
+#include <string>
 
 constexpr UINT kGridId = 79;
 constexpr int kGridEditChild = 100;

@@ -1,11 +1,11 @@
 // A list in a recording parent that has a font, on the screen.
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "QVControls.h"
 #include "support/tree_window.h"
+
+#include <string>
+#include <vector>
 
 constexpr UINT kListId = 78;
 constexpr UINT kListImages = 30008;  // the library's own check marks, 12 pixels wide

@@ -1,7 +1,7 @@
 // What a window shows: its client area as pixels.
 #pragma once
 
-#include "afxwin.h"
+#include <afxwin.h>
 
 #include <vector>
 

@@ -2,7 +2,7 @@
 // that will never succeed.
 #pragma once
 
-#include "afxwin.h"
+#include <afxwin.h>
 
 #include <functional>
 

@@ -2,7 +2,7 @@
 // window to the front and comes back when the input has been taken off the queue and handled.
 #pragma once
 
-#include "afxwin.h"
+#include <afxwin.h>
 
 enum class MouseButton { Left, Right, Middle };
 

@@ -2,7 +2,7 @@
 // (reflected messages) does not get here, as with any parent.
 #pragma once
 
-#include "afxwin.h"
+#include <afxwin.h>
 
 #include <functional>
 #include <map>

@@ -2,7 +2,7 @@
 // it are written down.
 #pragma once
 
-#include "afxwin.h"
+#include <afxwin.h>
 
 #include <functional>
 #include <string>

@@ -2,11 +2,11 @@
 
 #pragma once
 
-#include <functional>
-#include <string>
-
 #include "support/fake_window.h"
 #include "tree/core/tree_view.h"
+
+#include <functional>
+#include <string>
 
 struct TestTreeParts {
     FakeWindow window{200, 100};

@@ -3,12 +3,12 @@
 
 #pragma once
 
+#include "base/text_measure.h"
+
 #include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "base/text_measure.h"
 
 inline std::vector<int> SplitByRule(std::string_view text, int nWidth, qv::TextMeasure& measure) {
     std::vector<int> starts{0};

@@ -1,11 +1,11 @@
 // A text window that fills a parent on the screen.
 #pragma once
 
-#include <string>
-
 #include "QVControls.h"
 #include "support/picture.h"
 #include "support/tree_window.h"
+
+#include <string>
 
 constexpr UINT kTextId = 79;
 

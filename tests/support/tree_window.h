@@ -1,11 +1,11 @@
 // A tree in a recording parent that has a font, on the screen.
 #pragma once
 
-#include <functional>
-#include <string>
-
 #include "QVControls.h"
 #include "support/recording_parent.h"
+
+#include <functional>
+#include <string>
 
 // A parent that tells its font, as dialogs do.
 class FontParent : public RecordingParent {

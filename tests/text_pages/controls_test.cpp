@@ -1,12 +1,12 @@
 // What the controls show of a text, beside the platform's wide calls.
-#include <gtest/gtest.h>
-
 #include "ink.h"
 #include "page_text.h"
 #include "support/grid_window.h"
 #include "support/list_window.h"
 #include "support/text_window.h"
 #include "support/tree_window.h"
+
+#include <gtest/gtest.h>
 
 namespace {
 

@@ -1,7 +1,7 @@
 // The texts that a metafile holds.
 #pragma once
 
-#include "afxwin.h"
+#include <afxwin.h>
 
 #include <string>
 #include <vector>

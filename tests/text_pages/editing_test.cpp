@@ -1,10 +1,10 @@
 // Typing in the grid, character by character.
-#include <gtest/gtest.h>
-
 #include "page_text.h"
 #include "support/grid_window.h"
 #include "support/pump.h"
 #include "support/real_input.h"
+
+#include <gtest/gtest.h>
 
 namespace {
 

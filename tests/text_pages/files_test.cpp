@@ -1,14 +1,13 @@
 // Texts that leave the program and come back: files, the clipboard, paper.
-#include <gtest/gtest.h>
-
-#include <afxext.h>
-
-#include <algorithm>
-
 #include "drawn_text.h"
 #include "page_text.h"
 #include "support/list_window.h"
 #include "support/text_window.h"
+
+#include <afxext.h>
+
+#include <algorithm>
+#include <gtest/gtest.h>
 
 namespace {
 

@@ -1,11 +1,12 @@
 // The framework's own texts: what is set comes back, and means the same to the wide calls.
-#include <gtest/gtest.h>
-
-#include "afxcmn.h"
-#include "afxdlgs.h"
-#include "afxext.h"
 #include "page_text.h"
 #include "support/picture.h"
+
+#include <afxcmn.h>
+#include <afxdlgs.h>
+#include <afxext.h>
+
+#include <gtest/gtest.h>
 
 namespace {
 

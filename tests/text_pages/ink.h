@@ -1,12 +1,12 @@
 // What a text leaves on a window, wherever it stands there.
 #pragma once
 
+#include "support/picture.h"
+
 #include <algorithm>
 #include <ostream>
 #include <string>
 #include <vector>
-
-#include "support/picture.h"
 
 /// The pixels in which two pictures differ and that are not of the background, from the first to
 /// the last row and column of them; the others are CLR_INVALID.

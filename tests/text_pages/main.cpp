@@ -1,9 +1,8 @@
 // The program of the text tests, run once for each code page.
-#include <gtest/gtest.h>
+#include "support/test_app.h"
 
 #include <cstdlib>
-
-#include "support/test_app.h"
+#include <gtest/gtest.h>
 
 static TestApp theApp;
 

@@ -1,7 +1,7 @@
 // Words of several scripts, as far as the process's code page has their characters.
 #pragma once
 
-#include "afxwin.h"
+#include <afxwin.h>
 
 #include <string>
 #include <vector>

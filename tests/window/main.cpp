@@ -1,10 +1,9 @@
 // The window tests' program: one application object, all tests on its thread.
 #include "support/test_app.h"
 
-#include <gtest/gtest.h>
-
 #include <cstdio>
 #include <cstring>
+#include <gtest/gtest.h>
 
 static TestApp theApp;
 

@@ -2,9 +2,9 @@
 #include "virtual_printer.h"
 
 #include <windows.h>
-#include <winspool.h>
 
 #include <cstdio>
+#include <winspool.h>
 
 int main() {
     std::string strError;

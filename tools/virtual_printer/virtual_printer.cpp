@@ -3,11 +3,11 @@
 #include "report_ppd.h"
 
 #include <windows.h>
-#include <winspool.h>
 
 #include <cstring>
 #include <string>
 #include <vector>
+#include <winspool.h>
 
 namespace {
 

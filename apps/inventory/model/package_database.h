@@ -2,11 +2,11 @@
 
 #pragma once
 
+#include "model/inventory.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "model/inventory.h"
 
 // What went wrong, and where. Line 0: the file as a whole.
 struct DatabaseError {

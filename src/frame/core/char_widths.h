@@ -3,12 +3,12 @@
 
 #pragma once
 
+#include "base/multi_byte.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
-
-#include "base/multi_byte.h"
 
 namespace qv {
 

@@ -5,10 +5,10 @@
 
 #pragma once
 
+#include "base/multi_byte.h"
+
 #include <cstdint>
 #include <string>
-
-#include "base/multi_byte.h"
 
 namespace qv {
 

@@ -7,11 +7,11 @@
 
 #pragma once
 
+#include "base/platform_names.h"
+
 #include <array>
 #include <string_view>
 #include <vector>
-
-#include "base/platform_names.h"
 
 // One style: colours of the text and behind it. In lists and list boxes a crBk of -1 (0xFFFFFFFF)
 // means that the style sets no background of its own.

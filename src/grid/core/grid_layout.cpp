@@ -1,8 +1,8 @@
 #include "grid/core/grid_layout.h"
 
-#include <algorithm>
-
 #include "base/platform_names.h"
+
+#include <algorithm>
 
 namespace qv {
 

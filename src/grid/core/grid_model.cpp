@@ -1,10 +1,10 @@
 #include "grid/core/grid_model.h"
 
+#include "frame/core/styled_text.h"
+
 #include <algorithm>
 #include <new>
 #include <utility>
-
-#include "frame/core/styled_text.h"
 
 namespace qv {
 

@@ -11,12 +11,12 @@
 
 #pragma once
 
+#include "base/text_pool.h"
+
 #include <cstdint>
 #include <memory>
 #include <string_view>
 #include <vector>
-
-#include "base/text_pool.h"
 
 // What a column's cells are and do.
 enum GridColType {

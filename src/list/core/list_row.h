@@ -4,9 +4,9 @@
 
 #pragma once
 
-#include <string>
-
 #include "base/geometry.h"
+
+#include <string>
 
 namespace qv {
 

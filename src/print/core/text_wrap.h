@@ -2,11 +2,11 @@
 
 #pragma once
 
-#include <string_view>
-#include <vector>
-
 #include "base/multi_byte.h"
 #include "base/text_measure.h"
+
+#include <string_view>
+#include <vector>
 
 namespace qv {
 

@@ -1,10 +1,10 @@
 #include "text/core/text_lines.h"
 
+#include "frame/core/styled_text.h"
+
 #include <algorithm>
 #include <cstring>
 #include <new>
-
-#include "frame/core/styled_text.h"
 
 namespace qv {
 

@@ -1,9 +1,9 @@
 #include "text/core/text_rows.h"
 
+#include "base/platform_names.h"
+
 #include <algorithm>
 #include <cstring>
-
-#include "base/platform_names.h"
 
 namespace qv {
 

@@ -2,16 +2,16 @@
 
 #pragma once
 
-#include <deque>
-#include <optional>
-#include <string>
-#include <vector>
-
 #include "base/geometry.h"
 #include "base/window_port.h"
 #include "frame/core/styled_text.h"
 #include "text/core/text_lines.h"
 #include "text/core/text_split.h"
+
+#include <deque>
+#include <optional>
+#include <string>
+#include <vector>
 
 // One row.
 struct QVTEXTLINE {

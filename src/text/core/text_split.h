@@ -2,10 +2,10 @@
 
 #pragma once
 
+#include "base/text_measure.h"
+
 #include <string_view>
 #include <vector>
-
-#include "base/text_measure.h"
 
 namespace qv {
 
@@ -14,10 +14,10 @@ namespace qv {
 // A text that fits is one piece, line feeds included. Any other breaks at each line feed, which
 // stays with the piece before it, and where the next byte would pass the width: behind a run of
 // blanks that begins there, else at the start of the word, else at that byte. Blanks stay with the
-// piece before them, so a run of blanks at the end may leave an empty last piece. A byte counts with
-// the width of its whole character, which therefore stays in one piece; a character at the very
-// start of a line that is too wide by itself leaves an empty piece before it. Callers rely on these
-// pieces.
+// piece before them, so a run of blanks at the end may leave an empty last piece. A byte counts
+// with the width of its whole character, which therefore stays in one piece; a character at the
+// very start of a line that is too wide by itself leaves an empty piece before it. Callers rely on
+// these pieces.
 //
 // The time is linear in the text: many starts of a piece are measured in one call.
 class TextSplitter {

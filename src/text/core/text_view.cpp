@@ -1,10 +1,10 @@
 #include "text/core/text_view.h"
 
+#include "base/platform_names.h"
+
 #include <algorithm>
 #include <cstdint>
 #include <new>
-
-#include "base/platform_names.h"
 
 namespace qv {
 

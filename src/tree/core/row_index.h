@@ -10,11 +10,11 @@
 
 #pragma once
 
+#include "tree/core/tree_items.h"
+
 #include <functional>
 #include <memory>
 #include <vector>
-
-#include "tree/core/tree_items.h"
 
 namespace qv {
 

@@ -7,12 +7,12 @@
 
 #pragma once
 
-#include <array>
-#include <string_view>
-
 #include "base/geometry.h"
 #include "base/text_measure.h"
 #include "frame/core/styled_text.h"
+
+#include <array>
+#include <string_view>
 
 namespace qv {
 

@@ -11,13 +11,13 @@
 
 #pragma once
 
-#include <cstdint>
-#include <vector>
-
 #include "base/multi_byte.h"
 #include "base/platform_names.h"
 #include "base/text_pool.h"
 #include "frame/core/styled_text.h"
+
+#include <cstdint>
+#include <vector>
 
 namespace qv {
 struct RowLeaf;

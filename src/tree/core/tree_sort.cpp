@@ -1,8 +1,8 @@
-#include <algorithm>
-#include <new>
-
 #include "frame/core/sort_keys.h"
 #include "tree/core/tree_items.h"
+
+#include <algorithm>
+#include <new>
 
 namespace qv {
 

@@ -16,12 +16,12 @@
 
 #pragma once
 
-#include <new>
-
 #include "base/window_port.h"
 #include "tree/core/row_index.h"
 #include "tree/core/tree_columns.h"
 #include "tree/core/tree_items.h"
+
+#include <new>
 
 namespace qv {
 

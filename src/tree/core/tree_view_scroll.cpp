@@ -1,9 +1,9 @@
+#include "tree/core/tree_view.h"
+
 #include <algorithm>
 #include <cstdlib>
 #include <new>
 #include <utility>
-
-#include "tree/core/tree_view.h"
 
 namespace qv {
 

@@ -1,10 +1,9 @@
 #include "base/multi_byte.h"
 
-#include <gtest/gtest.h>
-
-#include <random>
-
 #include "base/text_pool.h"
+
+#include <gtest/gtest.h>
+#include <random>
 
 namespace {
 

@@ -1,7 +1,6 @@
 #include "frame/alive.h"
 
 #include <gtest/gtest.h>
-
 #include <memory>
 #include <optional>
 

@@ -3,7 +3,6 @@
 #include "frame/core/char_widths.h"
 
 #include <gtest/gtest.h>
-
 #include <map>
 #include <random>
 #include <string>

@@ -1,7 +1,6 @@
 #include "frame/core/sort_keys.h"
 
 #include <gtest/gtest.h>
-
 #include <random>
 
 namespace qv {

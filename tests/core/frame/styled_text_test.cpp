@@ -1,9 +1,9 @@
 #include "frame/core/styled_text.h"
 
-#include <gtest/gtest.h>
-
 #include "frame/core/wheel.h"
 #include "support/failing_new.h"
+
+#include <gtest/gtest.h>
 
 namespace {
 

@@ -1,10 +1,9 @@
 #include "grid/core/grid_layout.h"
 
-#include <gtest/gtest.h>
-
-#include <limits>
-
 #include "base/platform_names.h"
+
+#include <gtest/gtest.h>
+#include <limits>
 
 namespace qv {
 

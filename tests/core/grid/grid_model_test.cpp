@@ -1,13 +1,12 @@
 #include "grid/core/grid_model.h"
 
-#include <gtest/gtest.h>
+#include "support/failing_new.h"
 
 #include <algorithm>
+#include <gtest/gtest.h>
 #include <new>
 #include <string>
 #include <string_view>
-
-#include "support/failing_new.h"
 
 namespace qv {
 

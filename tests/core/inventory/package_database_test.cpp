@@ -1,8 +1,7 @@
 #include "model/package_database.h"
 
-#include <gtest/gtest.h>
-
 #include <fstream>
+#include <gtest/gtest.h>
 
 namespace {
 

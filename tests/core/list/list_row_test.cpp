@@ -1,7 +1,6 @@
 #include "list/core/list_row.h"
 
 #include <gtest/gtest.h>
-
 #include <initializer_list>
 
 namespace qv {

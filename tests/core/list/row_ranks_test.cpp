@@ -1,7 +1,6 @@
 #include "list/core/row_ranks.h"
 
 #include <gtest/gtest.h>
-
 #include <random>
 #include <set>
 

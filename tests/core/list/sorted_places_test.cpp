@@ -1,7 +1,6 @@
 #include "list/core/sorted_places.h"
 
 #include <gtest/gtest.h>
-
 #include <random>
 
 namespace qv {

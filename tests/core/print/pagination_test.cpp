@@ -1,11 +1,10 @@
 #include "print/core/pagination.h"
 
-#include <gtest/gtest.h>
+#include "support/fake_page_items.h"
 
 #include <functional>
+#include <gtest/gtest.h>
 #include <string>
-
-#include "support/fake_page_items.h"
 
 namespace {
 

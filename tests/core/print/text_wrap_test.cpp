@@ -1,13 +1,12 @@
 #include "print/core/text_wrap.h"
 
-#include <gtest/gtest.h>
+#include "support/fake_window.h"
 
 #include <algorithm>
 #include <cctype>
+#include <gtest/gtest.h>
 #include <random>
 #include <string>
-
-#include "support/fake_window.h"
 
 namespace {
 

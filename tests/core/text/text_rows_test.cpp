@@ -1,16 +1,15 @@
 #include "text/core/text_rows.h"
 
-#include <gtest/gtest.h>
+#include "base/platform_names.h"
+#include "support/failing_new.h"
+#include "support/fake_window.h"
 
 #include <climits>
+#include <gtest/gtest.h>
 #include <new>
 #include <random>
 #include <string>
 #include <tuple>
-
-#include "base/platform_names.h"
-#include "support/failing_new.h"
-#include "support/fake_window.h"
 
 namespace {
 

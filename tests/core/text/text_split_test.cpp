@@ -1,13 +1,12 @@
 #include "text/core/text_split.h"
 
-#include <gtest/gtest.h>
-
-#include <random>
-#include <string>
-
 #include "base/multi_byte.h"
 #include "support/fake_window.h"
 #include "support/text_split_rule.h"
+
+#include <gtest/gtest.h>
+#include <random>
+#include <string>
 
 namespace {
 

@@ -1,11 +1,10 @@
 #include "text/core/text_view.h"
 
-#include <gtest/gtest.h>
+#include "support/fake_window.h"
 
+#include <gtest/gtest.h>
 #include <random>
 #include <string>
-
-#include "support/fake_window.h"
 
 namespace {
 

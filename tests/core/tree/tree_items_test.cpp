@@ -1,10 +1,9 @@
-#include <gtest/gtest.h>
-
-#include <cstring>
-#include <memory>
-
 #include "support/failing_new.h"
 #include "support/test_tree.h"
+
+#include <cstring>
+#include <gtest/gtest.h>
+#include <memory>
 
 namespace {
 

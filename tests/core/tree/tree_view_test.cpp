@@ -1,9 +1,8 @@
-#include <gtest/gtest.h>
-
-#include <random>
-
 #include "support/failing_new.h"
 #include "support/test_tree.h"
+
+#include <gtest/gtest.h>
+#include <random>
 
 namespace {
 

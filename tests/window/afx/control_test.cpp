@@ -1,8 +1,8 @@
 // The control classes: what goes into the platform's controls through them comes out again.
 #include "support/recording_parent.h"
 
-#include "afxcmn.h"
-#include "afxdtctl.h"
+#include <afxcmn.h>
+#include <afxdtctl.h>
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,9 @@
 // Text beyond ASCII, as the wide calls draw and measure it: by the process's code page, whatever
 // character set the font was asked for.
-#include "afxwin.h"
-
-#include <gtest/gtest.h>
+#include <afxwin.h>
 
 #include <functional>
+#include <gtest/gtest.h>
 #include <string>
 #include <vector>
 

@@ -8,12 +8,11 @@
 #include "window/second_module/second_module.h"
 #include "window/second_module/second_module_ids.h"
 
-#include "afxdlgs.h"
-
-#include <gtest/gtest.h>
+#include <afxdlgs.h>
 
 #include <algorithm>
 #include <functional>
+#include <gtest/gtest.h>
 #include <string>
 #include <vector>
 

@@ -5,11 +5,10 @@
 #include "support/test_app.h"
 #include "window/afx/afx_test_ids.h"
 
-#include "afxcmn.h"
-
-#include <gtest/gtest.h>
+#include <afxcmn.h>
 
 #include <functional>
+#include <gtest/gtest.h>
 #include <stdexcept>
 #include <string>
 

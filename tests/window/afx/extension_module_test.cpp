@@ -5,7 +5,6 @@
 #include "window/second_module/second_module_ids.h"
 
 #include <gtest/gtest.h>
-
 #include <memory>
 
 namespace {

@@ -1,11 +1,10 @@
 // The fault injector itself: what it refuses, whom it leaves alone.
 #include "support/failing_heap.h"
 
-#include "afxtempl.h"
-#include "afxwin.h"
+#include <afxtempl.h>
+#include <afxwin.h>
 
 #include <gtest/gtest.h>
-
 #include <memory>
 #include <string>
 #include <thread>

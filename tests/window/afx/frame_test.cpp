@@ -3,12 +3,11 @@
 #include "support/test_app.h"
 #include "window/afx/afx_test_ids.h"
 
-#include "afxcmn.h"
-#include "afxext.h"
-#include "afxpriv.h"
+#include <afxcmn.h>
+#include <afxext.h>
+#include <afxpriv.h>
 
 #include <gtest/gtest.h>
-
 #include <string>
 #include <vector>
 

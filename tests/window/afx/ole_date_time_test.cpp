@@ -1,9 +1,8 @@
 // Dates of automation: fields, text, comparison and arithmetic.
-#include "afxdisp.h"
-
-#include <gtest/gtest.h>
+#include <afxdisp.h>
 
 #include <ctime>
+#include <gtest/gtest.h>
 
 namespace {
 

@@ -1,12 +1,11 @@
 // Values and collections without memory: the framework's exception, and everything as it was.
 #include "support/failing_heap.h"
 
-#include "afxcoll.h"
-#include "afxwin.h"
-
-#include <gtest/gtest.h>
+#include <afxcoll.h>
+#include <afxwin.h>
 
 #include <functional>
+#include <gtest/gtest.h>
 #include <string>
 #include <vector>
 

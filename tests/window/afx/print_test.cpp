@@ -1,12 +1,12 @@
 // Printing into a file of the virtual printer, the print dialog's answers and the page range.
-#include "afxdlgs.h"
-#include "afxext.h"
 #include "virtual_printer/virtual_printer.h"
 
-#include <gtest/gtest.h>
+#include <afxdlgs.h>
+#include <afxext.h>
 
 #include <algorithm>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <iterator>
 #include <string>
 #include <vector>

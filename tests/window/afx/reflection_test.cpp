@@ -2,7 +2,7 @@
 #include "support/picture.h"
 #include "support/recording_parent.h"
 
-#include "afxcmn.h"
+#include <afxcmn.h>
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,6 @@
 #include "support/test_app.h"
 
 #include <gtest/gtest.h>
-
 #include <stdexcept>
 #include <string>
 #include <vector>

@@ -1,11 +1,10 @@
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <string>
-
 #include "frame/select_object.h"
 #include "support/list_window.h"
 #include "support/picture.h"
+
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
 
 namespace {
 

@@ -1,8 +1,8 @@
-#include <gtest/gtest.h>
-
 #include "QVControls.h"
 #include "support/picture.h"
 #include "support/recording_parent.h"
+
+#include <gtest/gtest.h>
 
 namespace {
 

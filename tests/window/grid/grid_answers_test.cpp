@@ -1,10 +1,9 @@
-#include <gtest/gtest.h>
-
-#include <random>
-
 #include "support/grid_window.h"
 #include "support/pump.h"
 #include "support/real_input.h"
+
+#include <gtest/gtest.h>
+#include <random>
 
 namespace {
 

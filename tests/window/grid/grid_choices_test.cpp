@@ -1,9 +1,9 @@
-#include <gtest/gtest.h>
-
 #include "support/grid_window.h"
 #include "support/picture.h"
 #include "support/pump.h"
 #include "support/real_input.h"
+
+#include <gtest/gtest.h>
 
 namespace {
 

@@ -1,12 +1,11 @@
-#include <gtest/gtest.h>
-
-#include <new>
-#include <utility>
-
 #include "support/failing_heap.h"
 #include "support/grid_window.h"
 #include "support/pump.h"
 #include "support/test_app.h"
+
+#include <gtest/gtest.h>
+#include <new>
+#include <utility>
 
 namespace {
 

@@ -1,10 +1,11 @@
-#include <gtest/gtest.h>
-
-#include "afx_gdi.h"
 #include "support/grid_window.h"
 #include "support/picture.h"
 #include "support/pump.h"
 #include "support/real_input.h"
+
+#include <afx_gdi.h>
+
+#include <gtest/gtest.h>
 
 namespace {
 

@@ -1,5 +1,5 @@
-#include "afxdllx.h"
-#include "afxwin.h"
+#include <afxdllx.h>
+#include <afxwin.h>
 
 static AFX_EXTENSION_MODULE LateModule;
 

@@ -1,14 +1,13 @@
 // Parents that take the list away while they are told of something, or asked.
-#include <gtest/gtest.h>
+#include "support/list_window.h"
+#include "support/mortal.h"
+#include "support/test_app.h"
 
 #include <afxext.h>
 
 #include <algorithm>
 #include <functional>
-
-#include "support/list_window.h"
-#include "support/mortal.h"
-#include "support/test_app.h"
+#include <gtest/gtest.h>
 
 namespace {
 

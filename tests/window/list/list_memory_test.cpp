@@ -1,14 +1,13 @@
 // Lists without memory: each allocation of an operation is refused once, alone and with all that
 // follow.
-#include <gtest/gtest.h>
+#include "support/failing_heap.h"
+#include "support/list_window.h"
+#include "support/test_app.h"
 
 #include <afxext.h>
 
 #include <functional>
-
-#include "support/failing_heap.h"
-#include "support/list_window.h"
-#include "support/test_app.h"
+#include <gtest/gtest.h>
 
 namespace {
 

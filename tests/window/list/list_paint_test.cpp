@@ -1,12 +1,12 @@
-#include <gtest/gtest.h>
-
-#include <random>
-
-#include "afx_gdi.h"
 #include "support/list_window.h"
 #include "support/picture.h"
 #include "support/pump.h"
 #include "support/real_input.h"
+
+#include <afx_gdi.h>
+
+#include <gtest/gtest.h>
+#include <random>
 
 namespace {
 

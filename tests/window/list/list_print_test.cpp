@@ -1,11 +1,10 @@
-#include <gtest/gtest.h>
+#include "support/list_window.h"
 
 #include <afxext.h>
 
 #include <fstream>
+#include <gtest/gtest.h>
 #include <sstream>
-
-#include "support/list_window.h"
 
 namespace {
 

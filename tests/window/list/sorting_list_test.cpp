@@ -1,8 +1,8 @@
-#include <gtest/gtest.h>
-
 #include "support/list_window.h"
 #include "support/pump.h"
 #include "support/real_input.h"
+
+#include <gtest/gtest.h>
 
 namespace {
 

@@ -1,6 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "support/list_window.h"
+
+#include <gtest/gtest.h>
 
 namespace {
 

@@ -1,9 +1,9 @@
 // Each allocation on the way to paper is refused in turn: nothing may be thrown, the document stays
 // as it was or says that something is missing, and lists come out of their print runs.
-#include <gtest/gtest.h>
-
 #include "support/failing_heap.h"
 #include "support/list_window.h"
+
+#include <gtest/gtest.h>
 
 namespace {
 

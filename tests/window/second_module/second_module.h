@@ -1,7 +1,7 @@
 // An extension module for tests: a window class to derive from, and resources of its own.
 #pragma once
 
-#include "afxwin.h"
+#include <afxwin.h>
 
 #ifdef SECOND_MODULE_BUILD
 #define SECOND_MODULE_API __declspec(dllexport)

@@ -1,13 +1,12 @@
-#include <gtest/gtest.h>
+#include "support/failing_heap.h"
+#include "support/list_window.h"
+#include "support/text_window.h"
 
 #include <afxext.h>
 
 #include <cstdio>
 #include <fstream>
-
-#include "support/failing_heap.h"
-#include "support/list_window.h"
-#include "support/text_window.h"
+#include <gtest/gtest.h>
 
 namespace {
 

@@ -1,11 +1,10 @@
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <random>
-
 #include "support/pump.h"
 #include "support/real_input.h"
 #include "support/text_window.h"
+
+#include <gtest/gtest.h>
+#include <memory>
+#include <random>
 
 namespace {
 

@@ -1,15 +1,14 @@
-#include <gtest/gtest.h>
+#include "support/list_window.h"
+#include "support/pump.h"
+#include "support/text_window.h"
 
+#include <afx_gdi.h>
 #include <afxext.h>
 
 #include <cstdio>
 #include <fstream>
+#include <gtest/gtest.h>
 #include <sstream>
-
-#include "afx_gdi.h"
-#include "support/list_window.h"
-#include "support/pump.h"
-#include "support/text_window.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
-#include <gtest/gtest.h>
-
 #include "support/pump.h"
 #include "support/real_input.h"
 #include "support/tree_window.h"
+
+#include <gtest/gtest.h>
 
 namespace {
 

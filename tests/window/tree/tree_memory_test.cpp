@@ -1,10 +1,10 @@
 // Each allocation of each operation is refused in turn: nothing may be thrown, an operation that
 // gives its error result has changed nothing, and the next paint shows what there is.
-#include <gtest/gtest.h>
-
 #include "support/failing_heap.h"
 #include "support/picture.h"
 #include "support/tree_window.h"
+
+#include <gtest/gtest.h>
 
 namespace {
 

@@ -1,13 +1,13 @@
-#include <gtest/gtest.h>
-
-#include <random>
-
-#include "afx_gdi.h"
 #include "frame/virtual_step.h"
 #include "support/picture.h"
 #include "support/pump.h"
 #include "support/real_input.h"
 #include "support/tree_window.h"
+
+#include <afx_gdi.h>
+
+#include <gtest/gtest.h>
+#include <random>
 
 namespace {
 
