@@ -3,10 +3,10 @@
 #include "containers/core/header_bar.h"
 #include "frame/ancestor_font.h"
 #include "frame/create_window.h"
+#include "frame/dc_guards.h"
 #include "frame/notify.h"
-#include "frame/select_object.h"
+#include "frame/rectangles.h"
 #include "frame/text_out.h"
-#include "frame/wnd_port.h"
 
 IMPLEMENT_DYNCREATE(QVHeaderWnd, CWnd)
 

@@ -1,8 +1,8 @@
 #include "tree/tree_ctrl.h"
 
 #include "frame/ancestor_font.h"
+#include "frame/dc_guards.h"
 #include "frame/out_of_memory.h"
-#include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "tree/tree_ctrl_core.h"
 

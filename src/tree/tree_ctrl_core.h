@@ -5,6 +5,8 @@
 #include "frame/alive.h"
 #include "frame/font_measure.h"
 #include "frame/module_state.h"
+#include "frame/process_text.h"
+#include "frame/rectangles.h"
 #include "frame/wnd_port.h"
 #include "tree/core/tree_view.h"
 #include "tree/tree_ctrl.h"

@@ -1,9 +1,9 @@
 #include "tree/tree_ctrl.h"
 
 #include "frame/core/wheel.h"
+#include "frame/dc_guards.h"
 #include "frame/mouse_wheel.h"
 #include "frame/notify.h"
-#include "frame/select_object.h"
 #include "tree/tree_ctrl_core.h"
 
 namespace {

@@ -1,6 +1,7 @@
 #include "tree/tree_ctrl.h"
 
-#include "frame/select_object.h"
+#include "frame/dc_guards.h"
+#include "frame/paint_objects.h"
 #include "frame/text_out.h"
 #include "tree/core/tree_columns.h"
 #include "tree/tree_ctrl_core.h"
