@@ -7,6 +7,7 @@
 #include "containers/text_header_wnd.h"
 #include "containers/tree_header_wnd.h"
 #include "frame/cust_ctrl.h"
+#include "frame/dc_guards.h"
 #include "frame/qv_module.h"
 #include "frame/styled_rows.h"
 #include "grid/grid_ctrl.h"

@@ -1,5 +1,7 @@
 #include "images.h"
 
+#include "QVControls.h"
+
 namespace {
 
 constexpr int kSize = 16;
@@ -49,6 +51,18 @@ void DrawDetail(CDC& dc, int x, int nImage) {
     }
 }
 
+void DrawImages(CDC& dc, CBitmap& bitmap) {
+    const qv::SelectGuard select(dc, &bitmap);
+    dc.FillSolidRect(0, 0, kSize * kImageCount, kSize, kTransparent);
+    DrawFolder(dc, kImageSection * kSize, false);
+    DrawFolder(dc, kImageSectionOpen * kSize, true);
+    DrawPackage(dc, kImagePackage * kSize, RGB(208, 168, 112));
+    DrawPackage(dc, kImageTrouble * kSize, RGB(224, 96, 80));
+    for (int n = kImageVersion; n <= kImageDependency; ++n) {
+        DrawDetail(dc, n * kSize, n);
+    }
+}
+
 }  // namespace
 
 BOOL CreateImages(CImageList& images) {
@@ -61,15 +75,6 @@ BOOL CreateImages(CImageList& images) {
         !bitmap.CreateCompatibleBitmap(&dcScreen, kSize * kImageCount, kSize)) {
         return FALSE;
     }
-    CBitmap* pOld = dc.SelectObject(&bitmap);
-    dc.FillSolidRect(0, 0, kSize * kImageCount, kSize, kTransparent);
-    DrawFolder(dc, kImageSection * kSize, false);
-    DrawFolder(dc, kImageSectionOpen * kSize, true);
-    DrawPackage(dc, kImagePackage * kSize, RGB(208, 168, 112));
-    DrawPackage(dc, kImageTrouble * kSize, RGB(224, 96, 80));
-    for (int n = kImageVersion; n <= kImageDependency; ++n) {
-        DrawDetail(dc, n * kSize, n);
-    }
-    dc.SelectObject(pOld);
+    DrawImages(dc, bitmap);
     return images.Add(&bitmap, kTransparent) >= 0;
 }

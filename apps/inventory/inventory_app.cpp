@@ -2,7 +2,7 @@
 
 #include "main_frame.h"
 #include "resource.h"
-#include "walk.h"
+#include "walk/walk.h"
 
 namespace {
 

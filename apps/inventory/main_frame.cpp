@@ -1,10 +1,10 @@
 #include "main_frame.h"
 
-#include "code_page.h"
-#include "install_dates.h"
-#include "registry_source.h"
 #include "resource.h"
-#include "settings_file.h"
+#include "sources/code_page.h"
+#include "sources/install_dates.h"
+#include "sources/registry_source.h"
+#include "sources/settings_file.h"
 
 namespace {
 

@@ -2,13 +2,13 @@
 
 #pragma once
 
-#include "log_page.h"
 #include "model/package_database.h"
-#include "packages_page.h"
-#include "page_host.h"
-#include "report_page.h"
-#include "settings_page.h"
-#include "tree_page.h"
+#include "pages/log_page.h"
+#include "pages/packages_page.h"
+#include "pages/page_host.h"
+#include "pages/report_page.h"
+#include "pages/settings_page.h"
+#include "pages/tree_page.h"
 
 #include <afxext.h>
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "base/multi_byte.h"
+#include "frame/process_text.h"
 
 #include <afxwin.h>
 
@@ -12,10 +12,3 @@ extern const CString g_strEmpty;
 
 // The registered message of wheel drivers from before WM_MOUSEWHEEL.
 extern UINT g_nMsgMouseWheel;
-
-namespace qv {
-
-// How the process's code page orders text, as _mbsicmp does in it.
-const MultiByte& ProcessText();
-
-}  // namespace qv

@@ -8,9 +8,9 @@
 
 #pragma once
 
-#include <afxwin.h>
-
 #include "frame/alive.h"
+
+#include <afxwin.h>
 
 namespace qv {
 

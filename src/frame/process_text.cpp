@@ -1,5 +1,6 @@
+#include "frame/process_text.h"
 
-#include "frame/module_state.h"
+#include <windows.h>
 
 // Defines short names that clash with those of the standard library's headers: after them.
 #include <mbctype.h>

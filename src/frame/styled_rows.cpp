@@ -1,5 +1,11 @@
 #include "frame/styled_rows.h"
 
+#include "frame/core/styled_text.h"
+
+QVStyleTable::QVStyleTable() : m_pStyles(new qv::StyleTable), m_aStyles(*m_pStyles) {}
+
+QVStyleTable::~QVStyleTable() = default;
+
 int QVStyleTable::AddStyle(COLORREF crText, COLORREF crBk) {
     return m_aStyles.Add(crText, crBk);
 }
@@ -15,6 +21,14 @@ int QVStyleTable::ParseStyle(LPCSTR pszText) const {
 
 LPCSTR QVStyleTable::ParseStyleText(LPCSTR pszText) const {
     return m_aStyles.ParseStyleText(pszText);
+}
+
+int QVStyleTable::NumStyles() const {
+    return m_aStyles.Count();
+}
+
+QVSTYLE QVStyleTable::StyleColors(int nStyle) const {
+    return nStyle >= 0 && nStyle < m_aStyles.Count() ? m_aStyles[nStyle] : QVSTYLE{};
 }
 
 QVStyledRows::QVStyledRows() {

@@ -10,10 +10,16 @@
 
 #pragma once
 
-#include "frame/core/styled_text.h"
 #include "frame/qv_api.h"
+#include "frame/records.h"
 
 #include <afxwin.h>
+
+#include <memory>
+
+namespace qv {
+class StyleTable;
+}
 
 // The table and how it is read.
 class QV_CONTROLS_API QVStyleTable {
@@ -29,11 +35,19 @@ public:
     // The text behind the code. A code outside the table loses its ESC alone: its letter shows.
     LPCSTR ParseStyleText(LPCSTR pszText) const;
 
-protected:
-    QVStyleTable() = default;
-    ~QVStyleTable() = default;
+    int NumStyles() const;
+    // Colours of a style; zeros for one that is not in the table.
+    QVSTYLE StyleColors(int nStyle) const;
 
-    qv::StyleTable m_aStyles;
+protected:
+    QVStyleTable();
+    ~QVStyleTable();
+
+private:
+    const std::unique_ptr<qv::StyleTable> m_pStyles;
+
+protected:
+    qv::StyleTable& m_aStyles;  // for the library's own classes
 };
 
 // With the builders of rows. Entry 0 of the table is made by the constructor, in the system's

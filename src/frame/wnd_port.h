@@ -3,18 +3,11 @@
 #pragma once
 
 #include "base/window_port.h"
+#include "frame/rectangles.h"
 
 #include <afxwin.h>
 
 namespace qv {
-
-inline CRect ToCRect(const Rect& rect) {
-    return {rect.left, rect.top, rect.right, rect.bottom};
-}
-inline Rect ToRect(const RECT& rect) {
-    return {static_cast<int>(rect.left), static_cast<int>(rect.top), static_cast<int>(rect.right),
-            static_cast<int>(rect.bottom)};
-}
 
 class WndPort : public WindowPort {
 public:

@@ -1,6 +1,7 @@
 #include "list/list_ctrl.h"
 
 #include "frame/out_of_memory.h"
+#include "frame/core/styled_text.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "frame/wnd_port.h"

@@ -1,6 +1,7 @@
 #include "list/sorting_list_ctrl.h"
 
 #include "frame/core/sort_keys.h"
+#include "frame/core/styled_text.h"
 #include "frame/module_state.h"
 #include "frame/out_of_memory.h"
 #include "list/core/row_ranks.h"

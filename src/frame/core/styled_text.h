@@ -7,18 +7,11 @@
 
 #pragma once
 
-#include "base/platform_names.h"
+#include "frame/records.h"
 
 #include <array>
 #include <string_view>
 #include <vector>
-
-// One style: colours of the text and behind it. In lists and list boxes a crBk of -1 (0xFFFFFFFF)
-// means that the style sets no background of its own.
-struct QVSTYLE {
-    COLORREF crText;
-    COLORREF crBk;
-};
 
 namespace qv {
 

@@ -1,4 +1,5 @@
 #include "support/grid_window.h"
+#include "support/monkey.h"
 #include "support/pump.h"
 #include "support/real_input.h"
 
@@ -302,7 +303,7 @@ TEST(GridMonkey, SurvivesAnyOrderOfInputAndAnswers) {
     GridWindow<> w(8);
     RecordingParent away(CSize(50, 50));
     BringToFront(w.parent.m_hWnd);
-    std::mt19937 random(11);
+    std::mt19937 random = MonkeyRandom(11);
     const auto pick = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
     int nDepth = 0;
     w.parent.m_answer = [&](UINT) {
@@ -340,7 +341,7 @@ TEST(GridMonkey, SurvivesAnyOrderOfInputAndAnswers) {
     const auto at = [&] { return MAKELPARAM(pick(430), pick(210)); };
     int nEdits = 0;
     int nLists = 0;
-    for (int i = 0; i < 10000; ++i) {
+    for (int i = 0; i < MonkeySteps(); ++i) {
         HWND hWndFocus = ::GetFocus() != nullptr ? ::GetFocus() : w.grid.m_hWnd;
         switch (pick(16)) {
             case 0:

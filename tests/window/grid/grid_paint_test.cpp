@@ -3,7 +3,7 @@
 #include "support/pump.h"
 #include "support/real_input.h"
 
-#include <afx_gdi.h>
+#include <afxwin.h>
 
 #include <gtest/gtest.h>
 

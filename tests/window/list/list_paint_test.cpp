@@ -1,9 +1,10 @@
 #include "support/list_window.h"
+#include "support/monkey.h"
 #include "support/picture.h"
 #include "support/pump.h"
 #include "support/real_input.h"
 
-#include <afx_gdi.h>
+#include <afxwin.h>
 
 #include <gtest/gtest.h>
 #include <random>
@@ -330,9 +331,9 @@ TEST(ListWheel, ScrollsByLines) {
 // Anything may come in any order; nothing may break.
 TEST(ListMonkey, SurvivesAnyOrderOfOperations) {
     ListWindow<> w;
-    std::mt19937 random(5);
+    std::mt19937 random = MonkeyRandom(5);
     w.list.AddStyle(kRed, kNone);
-    for (int i = 0; i < 2500; ++i) {
+    for (int i = 0; i < MonkeySteps(); ++i) {
         const int n = static_cast<int>(random() % 40) - 2;
         switch (random() % 22) {
             case 0:

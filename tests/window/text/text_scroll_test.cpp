@@ -1,3 +1,4 @@
+#include "support/monkey.h"
 #include "support/pump.h"
 #include "support/real_input.h"
 #include "support/text_window.h"
@@ -402,8 +403,8 @@ TYPED_TEST_SUITE(TextMonkey, Kinds);
 
 TYPED_TEST(TextMonkey, SurvivesAnyOrderOfOperations) {
     Pair<TypeParam> pair;
-    std::mt19937 random(7);
-    for (int i = 0; i < 3000; ++i) {
+    std::mt19937 random = MonkeyRandom(7);
+    for (int i = 0; i < MonkeySteps(); ++i) {
         const bool bFirst = random() % 2 != 0;
         TextWindow<TypeParam>& w = bFirst ? pair.a : *pair.b;
         TypeParam& text = w.text;

@@ -2,7 +2,7 @@
 #include "support/pump.h"
 #include "support/text_window.h"
 
-#include <afx_gdi.h>
+#include <afxwin.h>
 #include <afxext.h>
 
 #include <cstdio>

@@ -1,0 +1,157 @@
+#include "pages/package_list.h"
+
+#include "resource.h"
+
+namespace {
+
+constexpr int kImageWidth = 16;
+constexpr int kImagePackage = 0;
+constexpr int kImageTrouble = 1;
+constexpr int kImageRequired = 2;
+
+std::string DateText(std::time_t t) {
+    char szDate[32] = "";
+    if (const std::tm* pTime = t != 0 ? std::localtime(&t) : nullptr) {
+        std::strftime(szDate, sizeof(szDate), "%Y-%m-%d %H:%M", pTime);
+    }
+    return szDate;
+}
+
+}  // namespace
+
+IMPLEMENT_DYNCREATE(PackageList, QVSortingListCtrl)
+
+void PackageList::SetUp(CFont* pFont) {
+    SetFont(pFont);
+    const COLORREF crWindow = ::GetSysColor(COLOR_WINDOW);
+    m_nTrouble = AddStyle(RGB(176, 0, 0), RGB(255, 232, 224));
+    m_nRequired = AddStyle(RGB(0, 0, 144), crWindow);
+    m_nDetail = AddStyle(RGB(96, 96, 96), crWindow);
+    MakeColumns();
+}
+
+void PackageList::MakeColumns() {
+    ClearHeaders();
+    ClearCols();
+    SetImageFirstCol(m_bImageColumn);
+    if (m_bImageColumn) {
+        AddHeader(" ", lcdtString);
+    }
+    AddHeader("Package\tVersion", lcdtString);
+    AddHeader("KiB", lcdtNumber);
+    AddHeader("Installed", lcdtDate);
+    AddHeader("Section\tState\tSummary", lcdtString);
+    const int nFirst = m_bImageColumn ? 1 : 0;
+    SetColFormat(nFirst + 2, LVCFMT_RIGHT);
+    SetHdrFormat(nFirst + 2, LVCFMT_RIGHT);
+    SetColFormat(nFirst + 5, LVCFMT_CENTER);
+    SetHdrFormat(nFirst + 5, LVCFMT_CENTER);
+    const CString strSample =
+        "a-package-with-a-long-name-and\t1:14.0.6-12+deb12u1~\t1234567\t2026-11-21 "
+        "00:00\tinterpreters\tnot-installed\tA summary of what the package is good for, in a line";
+    SetupColumnsFromString(m_bImageColumn ? "\t" + strSample : strSample);
+    if (m_bImageColumn) {
+        SetColWidth(0, 2 * kImageWidth, nullptr);
+    }
+}
+
+void PackageList::UseImageColumn(bool bOwn) {
+    const int nShift = static_cast<int>(bOwn) - static_cast<int>(m_bImageColumn);
+    m_bImageColumn = bOwn;
+    m_nSortCol = std::max(m_nSortCol + nShift, 0);
+    SetRedraw(FALSE);
+    SaveSelections();
+    DeleteAllItems();
+    MakeColumns();
+    Fill();
+    SetRedraw(TRUE);
+    Invalidate(FALSE);
+}
+
+DWORD_PTR PackageList::IdOf(const std::string& strName) {
+    return m_ids.emplace(strName, m_ids.size()).first->second;
+}
+
+void PackageList::Show(const Inventory& inventory) {
+    const bool bFirst = m_pInventory == nullptr;
+    m_pInventory = &inventory;
+    if (bFirst) {
+        m_bAscending = TRUE;
+    }
+    SetRedraw(FALSE);
+    SaveSelections();
+    m_packages.clear();  // what they point at may be gone already
+    DeleteAllItems();
+    Fill();
+    SetRedraw(TRUE);
+    Invalidate(FALSE);
+}
+
+void PackageList::Fill() {
+    if (m_pInventory == nullptr) {
+        return;
+    }
+    for (const Section& section : m_pInventory->Sections()) {
+        for (const Package& package : section.packages) {
+            const int nImage = package.bUnusual    ? kImageTrouble
+                               : package.bRequired ? kImageRequired
+                                                   : kImagePackage;
+            const int nItem = InsertBitmapString(nImage, -1, Row(package));
+            const DWORD_PTR nId = IdOf(package.strName);
+            SetItemData(nItem, nId);
+            m_packages.resize(std::max<size_t>(m_packages.size(), nId + 1));
+            m_packages[nId] = &package;
+        }
+    }
+    ReSort();
+    RestoreSelections();
+}
+
+CString PackageList::Row(const Package& package) const {
+    const int nStyle = package.bUnusual ? m_nTrouble : package.bRequired ? m_nRequired : 0;
+    CString strRow = MakeStyleText(package.strName.c_str(), nStyle);
+    const std::string aFields[] = {package.strVersion, std::to_string(package.nSizeKiB),
+                                   DateText(package.tInstalled), package.strSection};
+    for (const std::string& strField : aFields) {
+        strRow += '\t';
+        strRow += strField.c_str();
+    }
+    AppendStyleText(strRow, package.strState.c_str(), nStyle);
+    AppendStyleText(strRow, package.strSummary.c_str(), m_nDetail);
+    return strRow;
+}
+
+const Package* PackageList::PackageOf(int nItem) {
+    const DWORD_PTR nId = nItem >= 0 ? GetItemData(nItem) : m_packages.size();
+    return nId < m_packages.size() ? m_packages[nId] : nullptr;
+}
+
+bool PackageList::FindNext(const CString& strText) {
+    CString strWanted(strText);
+    strWanted.MakeLower();
+    const int nItems = GetItemCount();
+    const int nStart = std::max(GetNextItem(-1, LVNI_FOCUSED), 0);
+    for (int i = 1; i <= nItems; ++i) {
+        const int nItem = (nStart + i) % nItems;
+        CString strName(PackageOf(nItem)->strName.c_str());
+        strName.MakeLower();
+        if (strName.Find(strWanted) >= 0) {
+            SetItemState(-1, 0, LVIS_SELECTED);
+            SetItemState(nItem, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+            EnsureVisible(nItem, FALSE);
+            return true;
+        }
+    }
+    return false;
+}
+
+PackageList::Selected PackageList::CountSelected() {
+    Selected selected;
+    for (int nItem = -1; (nItem = GetNextItem(nItem, LVNI_SELECTED)) != -1;) {
+        if (const Package* pPackage = PackageOf(nItem)) {
+            ++selected.nPackages;
+            selected.nSizeKiB += pPackage->nSizeKiB;
+        }
+    }
+    return selected;
+}

@@ -1,0 +1,144 @@
+#include "pages/package_tree.h"
+
+#include <iterator>
+
+namespace {
+
+// Version, size (right-aligned), state (centred) and summary, from the start of the text or of the
+// row. A stop behind the last column lets the summary take the room it needs.
+constexpr int kIndentedStops[] = {190, 20310, 10380, 470, 3000};
+constexpr int kAbsoluteStops[] = {290, 20410, 10480, 570, 3000};
+
+// Item data of the child that keeps a package's place until its rows are made.
+constexpr DWORD_PTR kPlaceholder = 1;
+
+}  // namespace
+
+void PackageTree::SetUp() {
+    const COLORREF crWindow = ::GetSysColor(COLOR_WINDOW);
+    m_nTrouble = AddStyle(RGB(176, 0, 0), RGB(255, 232, 224));
+    m_nRequired = AddStyle(RGB(0, 0, 144), crWindow);
+    m_nDetail = AddStyle(RGB(96, 96, 96), crWindow);
+    CreateImages(m_images);
+    SetImageList(&m_images, TVSIL_NORMAL);
+    LoadStandardCheckStates();
+    SetShowStatesAtRoot(TRUE);
+    UseIndentedColumns(true);
+}
+
+void PackageTree::UseIndentedColumns(bool bIndented) {
+    m_bIndented = bIndented;
+    SetIndentTabs(bIndented);
+    UseTabs(bIndented ? kIndentedStops : kAbsoluteStops,
+            static_cast<int>(std::size(kAbsoluteStops)));
+    SetRedraw(TRUE);  // fits the scroll bars to the new columns
+}
+
+void PackageTree::Show(const Inventory& inventory) {
+    SetRedraw(FALSE);
+    DeleteAllItems();
+    for (const Section& section : inventory.Sections()) {
+        const CString strRow = MakeStyleText(section.strName.c_str(), 0);
+        HTREEITEM hSection =
+            InsertItem(strRow, kImageSection, kImageSectionOpen, TVI_ROOT, TVI_LAST);
+        SetItemData(hSection, reinterpret_cast<DWORD_PTR>(&section));
+        for (const Package& package : section.packages) {
+            HTREEITEM hPackage = AddPackage(hSection, package);
+            if (package.bUnusual) {
+                ChangeItemStyles(hPackage, m_nTrouble, TRUE, TRUE);
+            }
+        }
+    }
+    SetRedraw(TRUE);
+}
+
+HTREEITEM PackageTree::AddPackage(HTREEITEM hSection, const Package& package) {
+    const int nStyle = package.bUnusual ? m_nTrouble : package.bRequired ? m_nRequired : 0;
+    CString strRow = MakeStyleText(package.strName.c_str(), nStyle);
+    AppendStyleText(strRow, package.strVersion.c_str(), nStyle);
+    AppendStyleText(strRow, SizeText(package.nSizeKiB).c_str(), nStyle);
+    AppendStyleText(strRow, package.strState.c_str(), nStyle);
+    AppendStyleText(strRow, package.strSummary.c_str(), m_nDetail);
+    const int nImage = package.bUnusual ? kImageTrouble : kImagePackage;
+    HTREEITEM hPackage = InsertItem(strRow, nImage, nImage, hSection, TVI_LAST);
+    SetItemData(hPackage, reinterpret_cast<DWORD_PTR>(&package));
+    SetItemData(InsertItem("", 0, 0, hPackage, TVI_LAST), kPlaceholder);
+    return hPackage;
+}
+
+const Package* PackageTree::PackageOf(HTREEITEM hItem) {
+    const HTREEITEM hParent = GetParentItem(hItem);
+    if (hParent == nullptr || GetParentItem(hParent) != nullptr) {
+        return nullptr;
+    }
+    return reinterpret_cast<const Package*>(GetItemData(hItem));
+}
+
+void PackageTree::Fill(HTREEITEM hPackage) {
+    const Package* pPackage = PackageOf(hPackage);
+    if (pPackage == nullptr || GetItemData(GetChildItem(hPackage)) != kPlaceholder) {
+        return;
+    }
+    SetRedraw(FALSE);
+    DeleteChildren(hPackage);
+    AddDetail(hPackage, "Version", pPackage->strVersion, kImageVersion);
+    AddDetail(hPackage, "Size", SizeText(pPackage->nSizeKiB), kImageSize);
+    for (const std::string& strDependency : pPackage->dependencies) {
+        AddDetail(hPackage, "Depends on", strDependency, kImageDependency);
+    }
+    SetItemStateImage(hPackage, GetItemStateImage(hPackage), TRUE);
+    SetRedraw(TRUE);
+}
+
+void PackageTree::AddDetail(HTREEITEM hPackage, const char* pszWhat, const std::string& strValue,
+                            int nImage) {
+    CString strRow = MakeStyleText(pszWhat, m_nDetail);
+    AppendStyleText(strRow, strValue.c_str(), 0);
+    InsertItem(strRow, nImage, nImage, hPackage, TVI_LAST);
+}
+
+void PackageTree::ExpandSections(UINT nCode) {
+    SetRedraw(FALSE);
+    for (HTREEITEM h = GetRootItem(); h != nullptr; h = GetNextSiblingItem(h)) {
+        Expand(h, nCode, FALSE, FALSE);
+    }
+    SetRedraw(TRUE);
+}
+
+bool PackageTree::FindNext(const CString& strText) {
+    CString strWanted(strText);
+    strWanted.MakeLower();
+    const HTREEITEM hStart = GetSelectedItem();
+    HTREEITEM h = hStart;
+    do {
+        h = WalkNext(h);
+        if (h == nullptr) {
+            h = GetRootItem();
+        }
+        const Package* pPackage = h != nullptr ? PackageOf(h) : nullptr;
+        if (pPackage != nullptr) {
+            CString strName(pPackage->strName.c_str());
+            strName.MakeLower();
+            if (strName.Find(strWanted) >= 0) {
+                EnsureVisible(h);
+                NfySelectItem(h);
+                return true;
+            }
+        }
+    } while (h != hStart && h != nullptr && !(hStart == nullptr && WalkNext(h) == nullptr));
+    return false;
+}
+
+PackageTree::Marked PackageTree::CountMarked() {
+    Marked marked;
+    for (HTREEITEM hSection = GetRootItem(); hSection != nullptr;
+         hSection = GetNextSiblingItem(hSection)) {
+        for (HTREEITEM h = GetChildItem(hSection); h != nullptr; h = GetNextSiblingItem(h)) {
+            if (GetCheck(h)) {
+                ++marked.nPackages;
+                marked.nSizeKiB += PackageOf(h)->nSizeKiB;
+            }
+        }
+    }
+    return marked;
+}

@@ -1,0 +1,39 @@
+// PageHost: a row of tabs and the page that is in front. Commands go to that page.
+
+#pragma once
+
+#include "pages/page.h"
+
+#include <afxcmn.h>
+
+#include <vector>
+
+class PageHost : public CWnd {
+public:
+    BOOL Create(CWnd* pParent);
+    BOOL Add(Page& page);
+    Page& Active() { return *m_pages[m_nActive]; }
+    void SetInventory(const Inventory& inventory);
+    CTabCtrl& Tabs() { return m_tabs; }
+
+protected:
+    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
+    void PostNcDestroy() override {}
+
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg void OnTab(NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg void OnPage(UINT nID);
+    afx_msg void OnUpdatePage(CCmdUI* pCmdUI);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CRect PageRect();
+    void Show(size_t nPage);
+
+    CFont m_font;
+    CTabCtrl m_tabs;
+    std::vector<Page*> m_pages;  // the frame's
+    size_t m_nActive = 0;
+};

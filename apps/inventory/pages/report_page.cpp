@@ -1,0 +1,246 @@
+#include "pages/report_page.h"
+
+#include "pages/printing.h"
+#include "resource.h"
+
+namespace {
+
+constexpr int kGap = 6;
+constexpr int kPanelWidth = 130;
+constexpr int kRowHeight = 22;
+
+struct Choice {
+    UINT nID;
+    const char* pszText;
+};
+constexpr Choice kOptionTexts[] = {{ID_REPORT_INTRODUCTION, "Introduction"},
+                                   {ID_REPORT_SECTIONS, "Sections"},
+                                   {ID_REPORT_TOTALS, "Totals"},
+                                   {ID_REPORT_LIST, "List as sorted"}};
+constexpr Choice kButtonTexts[] = {{ID_REPORT_PREVIOUS, "Previous page"},
+                                   {ID_REPORT_NEXT, "Next page"},
+                                   {ID_REPORT_ZOOM_IN, "Zoom in"},
+                                   {ID_REPORT_ZOOM_OUT, "Zoom out"},
+                                   {ID_REPORT_FIT, "Fit"},
+                                   {ID_REPORT_PRINT, "Print..."}};
+
+}  // namespace
+
+BEGIN_MESSAGE_MAP(ReportPage, Page)
+    ON_WM_CREATE()
+    ON_WM_SIZE()
+    ON_COMMAND_RANGE(ID_REPORT_FIRST_OPTION, ID_REPORT_LAST_OPTION, OnOption)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_REPORT_FIRST_OPTION, ID_REPORT_LAST_OPTION, OnUpdateOption)
+    ON_COMMAND(ID_REPORT_PREVIOUS, OnPrevious)
+    ON_COMMAND(ID_REPORT_NEXT, OnNext)
+    ON_COMMAND(ID_REPORT_ZOOM_IN, OnZoomIn)
+    ON_COMMAND(ID_REPORT_ZOOM_OUT, OnZoomOut)
+    ON_COMMAND(ID_REPORT_FIT, OnFit)
+    ON_COMMAND(ID_REPORT_PRINT, OnPrint)
+    ON_UPDATE_COMMAND_UI(ID_REPORT_PREVIOUS, OnUpdatePrevious)
+    ON_UPDATE_COMMAND_UI(ID_REPORT_NEXT, OnUpdateNext)
+END_MESSAGE_MAP()
+
+int ReportPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
+    if (Page::OnCreate(lpCreateStruct) == -1 || !m_preview.Create(this, IDC_PREVIEW)) {
+        return -1;
+    }
+    const CRect rcNone(0, 0, 0, 0);
+    const auto make = [&](CButton& button, const Choice& choice, DWORD dwStyle) {
+        button.Create(choice.pszText, WS_CHILD | WS_VISIBLE | WS_TABSTOP | dwStyle, rcNone, this,
+                      choice.nID);
+        button.SetFont(&m_font);
+    };
+    for (int i = 0; i < kOptions; ++i) {
+        make(m_aOptions[i], kOptionTexts[i], BS_AUTOCHECKBOX);
+        m_aOptions[i].SetCheck(Option(kOptionTexts[i].nID));
+    }
+    for (int i = 0; i < kButtons; ++i) {
+        make(m_aButtons[i], kButtonTexts[i], BS_PUSHBUTTON);
+    }
+    m_columns.ModifyDefStyle(WS_VISIBLE, 0);
+    if (!m_columns.Create(IDC_COLUMNS, rcNone, this)) {
+        return -1;
+    }
+    m_columns.SetFont(&m_font);
+    m_columns.AddHeader("Package\tVersion\tSize\tState\tSummary");
+    m_columns.SetColFormat(2, LVCFMT_RIGHT);
+    m_columns.SetHdrFormat(2, LVCFMT_RIGHT);
+    m_columns.SetupColumnsFromString(
+        "a-package-with-a-long-name-and-more\t1:14.0.6-12+deb12u1~~\t1023.9 MiB~\tinstalled ~~\t"
+        "A summary of what the package is good for, on paper");
+    return 0;
+}
+
+void ReportPage::OnSize(UINT nType, int cx, int cy) {
+    Page::OnSize(nType, cx, cy);
+    int y = kGap;
+    const auto place = [&](CWnd& wnd) {
+        wnd.MoveWindow(kGap, y, kPanelWidth - 2 * kGap, kRowHeight);
+        y += kRowHeight + kGap;
+    };
+    for (CButton& option : m_aOptions) {
+        place(option);
+    }
+    y += kRowHeight;
+    for (CButton& button : m_aButtons) {
+        place(button);
+    }
+    m_preview.MoveWindow(kPanelWidth, 0, std::max(cx - kPanelWidth, 0), cy);
+}
+
+bool& ReportPage::Option(UINT nID) {
+    switch (nID) {
+        case ID_REPORT_INTRODUCTION:
+            return m_options.bIntroduction;
+        case ID_REPORT_SECTIONS:
+            return m_options.bSections;
+        case ID_REPORT_TOTALS:
+            return m_options.bTotals;
+        default:
+            return m_options.bList;
+    }
+}
+
+// --- The report
+
+void ReportPage::SetInventory(const Inventory& inventory) {
+    m_pInventory = &inventory;
+    m_preview.SetReport(nullptr, nullptr);
+    m_pReport.reset();
+    if (IsWindowVisible()) {
+        MakeReport();
+    }
+}
+
+void ReportPage::OnShown() {
+    MakeReport();
+}
+
+// Pages are laid out for the printer that they will come from.
+void ReportPage::OpenDevice() {
+    if (m_dcDevice.GetSafeHdc() != nullptr) {
+        return;
+    }
+    if (OpenDefaultPrinter(this, m_dcDevice)) {
+        return;
+    }
+    m_dcDevice.CreateCompatibleDC(nullptr);
+}
+
+std::unique_ptr<Report> ReportPage::Compose(CDC& dc) {
+    return std::make_unique<Report>(*m_pInventory, m_options, m_settings, m_columns,
+                                    m_packages.List(), dc);
+}
+
+void ReportPage::MakeReport() {
+    if (m_pInventory == nullptr) {
+        return;
+    }
+    const CWaitCursor wait;
+    m_preview.SetReport(nullptr, nullptr);
+    m_pReport.reset();
+    OpenDevice();
+    m_pReport = Compose(m_dcDevice);
+    m_preview.SetReport(m_pReport.get(), &m_dcDevice);
+    m_strMessage.Empty();
+}
+
+CString ReportPage::MarkedText() {
+    CString strText;
+    if (Pages() > 0) {
+        strText.Format("Page %u of %u, %d%%", m_preview.PageShown(), Pages(), m_preview.Percent());
+    }
+    return strText;
+}
+
+void ReportPage::OnOption(UINT nID) {
+    bool& bOption = Option(nID);
+    bOption = !bOption;
+    m_aOptions[nID - ID_REPORT_FIRST_OPTION].SetCheck(bOption);
+    MakeReport();
+}
+
+void ReportPage::OnUpdateOption(CCmdUI* pCmdUI) {
+    pCmdUI->SetCheck(Option(pCmdUI->m_nID));
+}
+
+// --- The preview
+
+void ReportPage::OnPrevious() {
+    m_preview.ShowPage(m_preview.PageShown() - 1);
+}
+
+void ReportPage::OnNext() {
+    m_preview.ShowPage(m_preview.PageShown() + 1);
+}
+
+void ReportPage::OnZoomIn() {
+    m_preview.Zoom(true);
+}
+
+void ReportPage::OnZoomOut() {
+    m_preview.Zoom(false);
+}
+
+void ReportPage::OnFit() {
+    m_preview.Fit();
+}
+
+void ReportPage::OnUpdatePrevious(CCmdUI* pCmdUI) {
+    pCmdUI->Enable(m_preview.PageShown() > 1);
+}
+
+void ReportPage::OnUpdateNext(CCmdUI* pCmdUI) {
+    pCmdUI->Enable(m_preview.PageShown() < Pages());
+}
+
+// --- Paper
+
+void ReportPage::OnPrint() {
+    if (m_pInventory == nullptr) {
+        return;
+    }
+    PrinterChoice printer(this);
+    CDC dc;
+    if (printer.Ask(Pages(), dc) && !Print(dc, printer.FirstPage(), printer.LastPage(), nullptr)) {
+        AfxMessageBox(m_strMessage, MB_ICONEXCLAMATION);
+    }
+}
+
+bool ReportPage::PrintToFile(LPCSTR pszOutput) {
+    CDC dc;
+    if (!OpenDefaultPrinter(this, dc)) {
+        m_strMessage = "There is no printer to print on.";
+        return false;
+    }
+    return Print(dc, 1, ~0u, pszOutput);
+}
+
+bool ReportPage::Print(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutput) {
+    const CWaitCursor wait;
+    // The lists can be in one print run at a time: the preview begins another one afterwards.
+    m_preview.SetReport(nullptr, nullptr);
+    m_pReport.reset();
+    const bool bPrinted = PrintPages(dc, nFirst, nLast, pszOutput);
+    const CString strMessage = m_strMessage;
+    MakeReport();
+    m_strMessage = strMessage;
+    return bPrinted;
+}
+
+bool ReportPage::PrintPages(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutput) {
+    const std::unique_ptr<Report> pReport = Compose(dc);
+    nLast = std::min(nLast, pReport->Pages());
+    if (!PrintJob(dc, "Inventory", nFirst, nLast, pszOutput,
+                  [&](unsigned nPage) { pReport->PrintPage(dc, nPage); })) {
+        m_strMessage = "The printer did not take the report.";
+        return false;
+    }
+    if (!pReport->IsComplete()) {
+        m_strMessage = "There was not enough memory: parts of the report are missing.";
+        return false;
+    }
+    m_strMessage.Format("%u pages printed", nLast - nFirst + 1);
+    return true;
+}

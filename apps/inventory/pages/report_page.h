@@ -1,0 +1,67 @@
+// ReportPage: chooses what goes into the report, shows its pages and prints them.
+
+#pragma once
+
+#include "pages/packages_page.h"
+#include "pages/page.h"
+#include "pages/preview_window.h"
+#include "pages/report.h"
+
+#include <memory>
+
+class ReportPage : public Page {
+public:
+    // The list that can be printed as it stands.
+    ReportPage(PackagesPage& packages, const Settings& settings)
+        : m_packages(packages), m_settings(settings) {}
+
+    LPCSTR Title() const override { return "Report"; }
+    void SetInventory(const Inventory& inventory) override;
+    CWnd& Control() override { return m_preview; }
+    void OnShown() override;
+    CString MarkedText() override;
+
+    PreviewWindow& Preview() { return m_preview; }
+    unsigned Pages() const { return m_pReport != nullptr ? m_pReport->Pages() : 0; }
+    // Prints pages nFirst to nLast on a printer's context. pszOutput: a file that the job goes to,
+    // null for the printer's own port. False, with the reason in the page's message, if it fails.
+    bool Print(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutput);
+    // The whole report on the default printer, without a question.
+    bool PrintToFile(LPCSTR pszOutput);
+
+protected:
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnOption(UINT nID);
+    afx_msg void OnUpdateOption(CCmdUI* pCmdUI);
+    afx_msg void OnPrevious();
+    afx_msg void OnNext();
+    afx_msg void OnZoomIn();
+    afx_msg void OnZoomOut();
+    afx_msg void OnFit();
+    afx_msg void OnPrint();
+    afx_msg void OnUpdatePrevious(CCmdUI* pCmdUI);
+    afx_msg void OnUpdateNext(CCmdUI* pCmdUI);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    static constexpr int kOptions = 4;
+    static constexpr int kButtons = 6;
+
+    bool& Option(UINT nID);
+    bool PrintPages(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutput);
+    void OpenDevice();
+    void MakeReport();
+    std::unique_ptr<Report> Compose(CDC& dc);
+
+    PackagesPage& m_packages;
+    const Settings& m_settings;
+    const Inventory* m_pInventory = nullptr;
+    ReportOptions m_options;
+    QVListCtrlEx m_columns;  // hidden: gives the sections their columns
+    CButton m_aOptions[kOptions];
+    CButton m_aButtons[kButtons];
+    PreviewWindow m_preview;
+    CDC m_dcDevice;  // the default printer, or the screen where there is none
+    std::unique_ptr<Report> m_pReport;
+};

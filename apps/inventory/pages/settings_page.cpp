@@ -1,0 +1,182 @@
+#include "pages/settings_page.h"
+
+#include "resource.h"
+#include "sources/settings_file.h"
+
+#include <shlobj.h>
+
+namespace {
+
+constexpr int kNameColumn = 0;
+constexpr int kTextColumn = 1;
+constexpr int kChoiceColumn = 2;
+constexpr int kFolderColumn = 3;
+constexpr int kLeastWidth = 140;
+constexpr int kListLines = 8;
+
+int ColumnOf(SettingKind kind) {
+    return kind == SettingKind::Text     ? kTextColumn
+           : kind == SettingKind::Choice ? kChoiceColumn
+                                         : kFolderColumn;
+}
+
+}  // namespace
+
+BEGIN_MESSAGE_MAP(SettingsPage, Page)
+    ON_WM_CREATE()
+    ON_WM_SIZE()
+    ON_WM_SHOWWINDOW()
+    ON_WM_DESTROY()
+END_MESSAGE_MAP()
+
+int SettingsPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
+    if (Page::OnCreate(lpCreateStruct) == -1 ||
+        !m_grid.Create(IDC_SETTINGS, CRect(0, 0, 0, 0), this)) {
+        return -1;
+    }
+    m_grid.AddColumn(gctStatic, kLeastWidth);
+    m_grid.AddColumn(gctEdit, 2 * kLeastWidth);
+    m_grid.AddColumn(gctDropList, kLeastWidth);
+    m_grid.AddColumn(gctEditButton, kLeastWidth);
+    m_grid.SetShowAddedRows(TRUE);
+    m_grid.SetLockReadOnlyLists(TRUE);
+    m_grid.SetMaxListLines(kListLines);
+    return 0;
+}
+
+void SettingsPage::OnSize(UINT nType, int cx, int cy) {
+    Page::OnSize(nType, cx, cy);
+    m_grid.MoveWindow(0, 0, cx, cy);
+}
+
+void SettingsPage::OnShowWindow(BOOL bShow, UINT nStatus) {
+    Page::OnShowWindow(bShow, nStatus);
+    if (!bShow) {
+        Keep();
+    }
+}
+
+void SettingsPage::OnDestroy() {
+    Keep();
+    Page::OnDestroy();
+}
+
+CString SettingsPage::Load(const CString& strPath) {
+    m_strPath = strPath;
+    m_strMessage = LoadSettings(strPath, m_settings);
+    m_strSaved = m_settings.Format();
+    Fill();
+    return m_strMessage;
+}
+
+void SettingsPage::ShowDatabase(const CString& strPath) {
+    m_strDatabase = strPath;
+    Fill();
+}
+
+void SettingsPage::Fill() {
+    m_grid.SetRedraw(FALSE);
+    m_grid.DeleteAllRows();
+    for (const Setting& setting : m_settings.All()) {
+        const int nRow = m_grid.AddRow(CString(setting.pszName), 0);
+        m_grid.SetCellText(nRow, ColumnOf(setting.kind), setting.strValue.c_str());
+        for (int nCol = kTextColumn; nCol <= kFolderColumn; ++nCol) {
+            m_grid.EnableCell(nRow, nCol, nCol == ColumnOf(setting.kind));
+        }
+    }
+    // What is only told: the database may be copied from its cell's text, the machine's name is
+    // out of anybody's hands.
+    char szMachine[MAX_COMPUTERNAME_LENGTH + 1] = "";
+    DWORD nLength = sizeof(szMachine);
+    ::GetComputerName(szMachine, &nLength);
+    const int nDatabase = m_grid.AddRow(CString("Package database"), 0);
+    m_grid.SetCellText(nDatabase, kFolderColumn, m_strDatabase);
+    const int nMachine = m_grid.AddRow(CString("Machine"), 0);
+    m_grid.SetCellText(nMachine, kTextColumn, szMachine);
+    for (int nCol = kTextColumn; nCol <= kFolderColumn; ++nCol) {
+        m_grid.SetCellReadOnly(nDatabase, nCol, TRUE);
+        m_grid.EnableCell(nMachine, nCol, FALSE);
+    }
+    m_grid.AutoSizeColumn(kNameColumn, kLeastWidth);
+    m_grid.AutoSizeColumn(kChoiceColumn, kLeastWidth);
+    m_grid.SetRedraw(TRUE);
+}
+
+void SettingsPage::Keep() {
+    if (m_grid.m_hWnd == nullptr || m_strPath.IsEmpty() || m_grid.NumRows() < kSettingCount) {
+        return;
+    }
+    for (int n = 0; n < kSettingCount; ++n) {
+        CString strValue;
+        m_grid.GetCellText(n, ColumnOf(m_settings.All()[n].kind), strValue);
+        m_settings.Set(static_cast<SettingIndex>(n), static_cast<LPCSTR>(strValue));
+    }
+    const std::string text = m_settings.Format();
+    if (text == m_strSaved) {
+        return;
+    }
+    if (SaveSettings(m_strPath, m_settings)) {
+        m_strSaved = text;
+        m_strMessage.Format("Settings kept in %s", static_cast<LPCTSTR>(m_strPath));
+    } else {
+        m_strMessage.Format("The settings cannot be written to %s",
+                            static_cast<LPCTSTR>(m_strPath));
+    }
+}
+
+// --- What the grid tells
+
+BOOL SettingsPage::OnCommand(WPARAM wParam, LPARAM lParam) {
+    constexpr UINT kButton = 0;
+    constexpr UINT kChosen = 1;
+    if (LOWORD(wParam) != IDC_SETTINGS || lParam == 0) {
+        return Page::OnCommand(wParam, lParam);
+    }
+    switch (HIWORD(wParam)) {
+        case kButton:
+            OnButton();
+            break;
+        case kChosen:
+            Keep();
+            break;
+        default:
+            break;
+    }
+    return TRUE;
+}
+
+void SettingsPage::OnButton() {
+    const int nRow = m_grid.CurrentRow();
+    if (nRow < 0 || nRow >= kSettingCount || m_grid.IsCellReadOnly(nRow, m_grid.CurrentColumn())) {
+        return;
+    }
+    if (m_grid.CurrentColumn() == kChoiceColumn) {
+        Choose(nRow);
+    } else {
+        Browse(nRow);
+    }
+}
+
+void SettingsPage::Choose(int nRow) {
+    m_choices.RemoveAll();
+    for (const std::string& strChoice : m_settings.All()[nRow].choices) {
+        m_choices.Add(strChoice.c_str());
+    }
+    m_grid.PopupList(m_choices);
+}
+
+void SettingsPage::Browse(int nRow) {
+    char szFolder[MAX_PATH] = "";
+    BROWSEINFO info{};
+    info.hwndOwner = m_hWnd;
+    info.pszDisplayName = szFolder;
+    info.lpszTitle = "Folder for exports";
+    info.ulFlags = BIF_RETURNONLYFSDIRS | BIF_NEWDIALOGSTYLE;
+    if (LPITEMIDLIST pidl = ::SHBrowseForFolder(&info)) {
+        if (::SHGetPathFromIDList(pidl, szFolder)) {
+            m_grid.SetCellText(nRow, kFolderColumn, szFolder);
+            Keep();
+        }
+        ::CoTaskMemFree(pidl);
+    }
+}

@@ -1,0 +1,44 @@
+// SettingsPage: the application's settings in a grid. Each setting has a row, and its value stands
+// in the column of its kind; the other cells of the row are disabled.
+
+#pragma once
+
+#include "QVControls.h"
+#include "model/settings.h"
+#include "pages/page.h"
+
+class SettingsPage : public Page {
+public:
+    LPCSTR Title() const override { return "Settings"; }
+    void SetInventory(const Inventory& /*inventory*/) override {}
+    CWnd& Control() override { return m_grid; }
+
+    // Reads the settings and shows them. The message says what was wrong, or is empty.
+    CString Load(const CString& strPath);
+    void ShowDatabase(const CString& strPath);
+    const Settings& Values() const { return m_settings; }
+    QVGridCtrl& Grid() { return m_grid; }
+    // Takes what stands in the cells, also what is being typed, and writes it if it is new.
+    void Keep();
+
+protected:
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);
+    afx_msg void OnDestroy();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void Fill();
+    void OnButton();
+    void Choose(int nRow);
+    void Browse(int nRow);
+
+    QVGridCtrl m_grid;
+    CStringArray m_choices;  // of the list that is up
+    Settings m_settings;
+    std::string m_strSaved;  // as it stands in the file
+    CString m_strPath;
+    CString m_strDatabase;
+};

@@ -1,0 +1,35 @@
+#include "sources/code_page.h"
+
+#include <algorithm>
+
+namespace {
+
+void Convert(std::string& str) {
+    if (std::all_of(str.begin(), str.end(),
+                    [](char ch) { return static_cast<signed char>(ch) >= 0; })) {
+        return;
+    }
+    const int nBytes = static_cast<int>(str.size());
+    std::wstring strWide(str.size(), L'\0');
+    const int nWide = ::MultiByteToWideChar(CP_UTF8, 0, str.data(), nBytes, strWide.data(), nBytes);
+    std::string strOut(static_cast<size_t>(nWide) * 4, '\0');
+    const int nOut = ::WideCharToMultiByte(CP_ACP, 0, strWide.data(), nWide, strOut.data(),
+                                           static_cast<int>(strOut.size()), nullptr, nullptr);
+    strOut.resize(static_cast<size_t>(nOut));
+    str = strOut;
+}
+
+}  // namespace
+
+void ToProcessCodePage(std::vector<Package>& packages) {
+    if (::GetACP() == CP_UTF8) {
+        return;
+    }
+    for (Package& package : packages) {
+        for (std::string* pText : {&package.strName, &package.strSection, &package.strVersion,
+                                   &package.strState, &package.strSummary}) {
+            Convert(*pText);
+        }
+        std::for_each(package.dependencies.begin(), package.dependencies.end(), Convert);
+    }
+}

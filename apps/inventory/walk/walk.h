@@ -1,0 +1,59 @@
+// The walk through the application without a person: real input, a picture at each station, and a
+// word when an input had no effect.
+
+#pragma once
+
+#include "main_frame.h"
+#include "walk/walk_input.h"
+
+class Walk {
+public:
+    Walk(MainFrame& frame, const CString& strFolder) : m_frame(frame), m_strFolder(strFolder) {}
+    // False, with the reason on standard output, as soon as something does not happen.
+    bool Run();
+
+private:
+    // The tree
+    bool TreePage();
+    bool OpenBranch();
+    bool Marks();
+    bool AbsoluteColumns();
+    bool Find();
+    bool Vetoes();
+    // The list
+    bool Packages();
+    bool FindPackage();
+    bool ImageColumn();
+    bool Export();
+    bool Refresh();
+    // The logs
+    bool Logs();
+    bool FollowLog();
+    bool LogOnPaper();
+    // The settings
+    bool TypeSettings();
+    bool ChooseSetting();
+    bool SettingsKept();
+    // The report
+    bool ReportPages();
+    bool Zoom();
+    bool Paper();
+
+    PackageTree& Tree() { return m_frame.Sections().Tree(); }
+    PackageList& List() { return m_frame.Packages().List(); }
+    CPoint PointOf(HTREEITEM hItem, int nOffset);
+    CPoint PointOfHeading(int nCol);
+    CPoint PointOfRow(int nItem);
+    void ClickTab(int nPage);
+    // Opens the dialog that asks what to find, and types letters into it.
+    void AskFor(const char* pszLetters);
+    bool Station(const char* pszName);
+    bool Happened(const char* pszWhat, bool bHappened);
+    template <class Condition>
+    bool Expect(const char* pszWhat, Condition condition) {
+        return Happened(pszWhat, WaitFor(condition));
+    }
+
+    MainFrame& m_frame;
+    CString m_strFolder;
+};

@@ -1,0 +1,88 @@
+#include "walk/walk.h"
+
+#include "resource.h"
+
+namespace {
+
+constexpr int kPageLog = 4;
+
+}  // namespace
+
+bool Walk::Logs() {
+    ClickTab(kPageLog);
+    QVTextWnd& left = m_frame.Log().Left().GetTextWnd();
+    QVTextWnd& right = m_frame.Log().Right().GetTextWnd();
+    if (!Expect("the log comes up",
+                [&] { return left.IsWindowVisible() && left.NumLines() > 0; }) ||
+        !Station("log-1-two-files")) {
+        return false;
+    }
+    left.SetFocus();
+    Press(VK_NEXT);
+    Press(VK_DOWN);
+    return Expect("both scroll together",
+                  [&] {
+                      return left.VScrollPos() > 1 &&
+                             (right.NumRows() < 40 || right.VScrollPos() == left.VScrollPos());
+                  }) &&
+           Station("log-2-scrolled");
+}
+
+// A log of the walk's own grows while it is shown.
+bool Walk::FollowLog() {
+    const CString strFile = m_strFolder + "\\growing.log";
+    const auto append = [&](int nFrom, int nTo) {
+        CStdioFile file;
+        if (!file.Open(strFile, CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite |
+                                    CFile::typeText | CFile::shareDenyNone)) {
+            return;
+        }
+        file.SeekToEnd();
+        for (int i = nFrom; i < nTo; ++i) {
+            CString strLine;
+            strLine.Format("line %d%s\n", i, i % 10 == 0 ? " remove a package" : "");
+            file.WriteString(strLine);
+        }
+    };
+    append(0, 100);
+    QVTextWnd& left = m_frame.Log().Left().GetTextWnd();
+    if (!Happened("a file of its own opens",
+                  m_frame.Log().Open(strFile) && left.NumLines() == 100)) {
+        return false;
+    }
+    m_frame.PostMessage(WM_COMMAND, ID_LOG_FOLLOW);
+    if (!Expect("following begins at the end", [&] { return left.VScrollPos() > 0; })) {
+        return false;
+    }
+    const int nPos = left.VScrollPos();
+    append(100, 150);
+    if (!Expect("the end of a growing log is followed",
+                [&] { return left.NumLines() == 150 && left.VScrollPos() > nPos; }) ||
+        !Station("log-3-following")) {
+        return false;
+    }
+    m_frame.PostMessage(WM_COMMAND, ID_LOG_FOLLOW);
+    Press('C', VK_CONTROL);
+    return Expect("the log is on the clipboard", [&] {
+        return m_frame.StatusText(0).Find("lines copied") >= 0 &&
+               ::IsClipboardFormatAvailable(CF_TEXT);
+    });
+}
+
+bool Walk::LogOnPaper() {
+    constexpr unsigned kPages = 4;
+    LogPage& log = m_frame.Log();
+    const CString strExport = m_strFolder + "\\log.txt";
+    if (!Happened("the log is exported", log.Export(strExport)) ||
+        !Happened("the log opens again", log.Open("Z:\\var\\log\\dpkg.log"))) {
+        return false;
+    }
+    const CString strFile = m_strFolder + "\\log.ps";
+    if (!log.PrintToFile(strFile, 1, kPages)) {
+        std::printf("walk: not printed: %s\n", static_cast<LPCTSTR>(log.Message()));
+        return true;
+    }
+    CFileStatus status;
+    std::printf("walk: log.ps\n");
+    return Happened("the log comes out of the printer", CFile::GetStatus(strFile, status) != FALSE);
+}

@@ -1,0 +1,142 @@
+// Threads and the application: message pump, idle time, services that an application overrides.
+#pragma once
+
+#include "afx/window/wnd.h"
+
+/// A thread with a message pump. The application object is the main thread's.
+class QVAFX_API CWinThread : public CCmdTarget {
+    DECLARE_DYNAMIC(CWinThread)
+
+public:
+    CWinThread();
+    ~CWinThread() override;
+
+    CWnd* m_pMainWnd = nullptr;    ///< closing it ends the application
+    CWnd* m_pActiveWnd = nullptr;  ///< main window of an in-place container, usually null
+    BOOL m_bAutoDelete = TRUE;
+    HANDLE m_hThread = nullptr;
+    DWORD m_nThreadID = 0;
+    MSG m_msgCur = {};
+
+    virtual CWnd* GetMainWnd();
+    BOOL PostThreadMessage(UINT message, WPARAM wParam, LPARAM lParam);
+
+    virtual BOOL InitInstance();
+    virtual int ExitInstance();
+    virtual int Run();
+    virtual BOOL PreTranslateMessage(MSG* pMsg);
+    /// Takes one message off the queue, waiting for it, and dispatches it. FALSE for WM_QUIT.
+    virtual BOOL PumpMessage();
+    /// Called with rising counts while the queue is empty; FALSE when there is no more to do.
+    virtual BOOL OnIdle(LONG lCount);
+    /// Whether idle work is due after this message.
+    virtual BOOL IsIdleMessage(MSG* pMsg);
+    /// An exception that left a window's handler, or work of the message loop. The result goes to
+    /// the message's sender. The exception is deleted by the caller; one that is thrown here ends
+    /// there. There may be no memory.
+    virtual LRESULT ProcessWndProcException(CException* e, const MSG* pMsg);
+    /// Messages of modal loops that the system runs (menus, message boxes).
+    virtual BOOL ProcessMessageFilter(int code, LPMSG lpMsg);
+
+protected:
+    DECLARE_MESSAGE_MAP()
+
+private:
+    BOOL DispatchThreadMessageMap(MSG* pMsg);
+    POINT m_ptLastMouse = {-1, -1};
+    UINT m_nLastMouseMsg = 0;
+};
+
+/// The application. A program has one global object of a class derived from this.
+class QVAFX_API CWinApp : public CWinThread {
+    DECLARE_DYNAMIC(CWinApp)
+
+public:
+    explicit CWinApp(LPCTSTR lpszAppName = nullptr);
+    ~CWinApp() override;
+
+    HINSTANCE m_hInstance = nullptr;
+    LPTSTR m_lpCmdLine = nullptr;
+    int m_nCmdShow = SW_SHOWNORMAL;
+    LPCTSTR m_pszAppName = nullptr;
+    LPCTSTR m_pszExeName = nullptr;
+    LPCTSTR m_pszRegistryKey = nullptr;
+    LPCTSTR m_pszProfileName = nullptr;
+    LPCTSTR m_pszHelpFilePath = nullptr;
+
+    virtual BOOL InitApplication();
+    BOOL InitInstance() override;
+    int ExitInstance() override;
+    int Run() override;
+    BOOL OnIdle(LONG lCount) override;
+
+    HICON LoadIcon(LPCTSTR lpszResourceName) const;
+    HICON LoadIcon(UINT nIDResource) const;
+    HICON LoadStandardIcon(LPCTSTR lpszIconName) const;
+    HICON LoadOEMIcon(UINT nIDIcon) const;
+    HCURSOR LoadCursor(LPCTSTR lpszResourceName) const;
+    HCURSOR LoadCursor(UINT nIDResource) const;
+    HCURSOR LoadStandardCursor(LPCTSTR lpszCursorName) const;
+    HCURSOR LoadOEMCursor(UINT nIDCursor) const;
+
+    /// Settings go to HKEY_CURRENT_USER\Software\<key>\<application> once a key is set, before that
+    /// to the application's ini file.
+    UINT GetProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nDefault);
+    BOOL WriteProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nValue);
+    CString GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszDefault = nullptr);
+    BOOL WriteProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszValue);
+    /// The caller deletes the array of bytes.
+    BOOL GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* ppData, UINT* pBytes);
+    BOOL WriteProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE pData, UINT nBytes);
+
+    virtual int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt);
+    /// 1 shows the wait cursor, -1 takes one call back, 0 shows it again if calls are open.
+    virtual void DoWaitCursor(int nCode);
+    void EnableModeless(BOOL bEnable);
+    BOOL IsWaitCursor() const { return m_nWaitCursorCount > 0; }
+
+protected:
+    void SetRegistryKey(LPCTSTR lpszRegistryKey);
+    void SetRegistryKey(UINT nIDRegistryKey);
+
+    afx_msg void OnAppExit();
+
+    int m_nWaitCursorCount = 0;
+    HCURSOR m_hcurWaitCursorRestore = nullptr;
+
+    DECLARE_MESSAGE_MAP()
+
+private:
+    HKEY OpenSection(LPCTSTR lpszSection);
+
+    CString m_strAppName;
+    CString m_strExeName;
+    CString m_strRegistryKey;
+    CString m_strProfileName;
+    CString m_strHelpFilePath;
+
+    friend struct AfxWndAccess;
+};
+
+QVAFX_API CWinApp* AfxGetApp();
+QVAFX_API CWinThread* AfxGetThread();
+QVAFX_API CWnd* AfxGetMainWnd();
+QVAFX_API LPCTSTR AfxGetAppName();
+
+QVAFX_API int AfxMessageBox(LPCTSTR lpszText, UINT nType = MB_OK, UINT nIDHelp = 0);
+QVAFX_API int AfxMessageBox(UINT nIDPrompt, UINT nType = MB_OK, UINT nIDHelp = UINT(-1));
+/// Replaces %1 and %2 in a string resource.
+QVAFX_API void AfxFormatString1(CString& rString, UINT nIDS, LPCTSTR lpsz1);
+QVAFX_API void AfxFormatString2(CString& rString, UINT nIDS, LPCTSTR lpsz1, LPCTSTR lpsz2);
+
+/// Sets the framework up for the program's only application object.
+QVAFX_API BOOL AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine,
+                          int nCmdShow);
+QVAFX_API int AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine,
+                         int nCmdShow);
+/// Takes back what AfxWinInit did; called by AfxWinMain.
+QVAFX_API void AfxWinTerm();
+QVAFX_API BOOL AfxPumpMessage();
+/// What CWinThread::PreTranslateMessage does unless overridden.
+QVAFX_API BOOL AfxPreTranslateMessage(MSG* pMsg);
+QVAFX_API void AfxPostQuitMessage(int nExitCode);

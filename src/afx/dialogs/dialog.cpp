@@ -1,0 +1,332 @@
+#include "afx/dialogs/dialog.h"
+
+#include "afx/window/wnd_state.h"
+
+#include <afxpriv.h>
+#include <afxwin.h>
+
+IMPLEMENT_DYNAMIC(CDialog, CWnd)
+
+BEGIN_MESSAGE_MAP(CDialog, CWnd)
+    ON_WM_CTLCOLOR()
+    ON_COMMAND(IDOK, &CDialog::OnOK)
+    ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
+    ON_MESSAGE(WM_INITDIALOG, &CDialog::HandleInitDialog)
+    ON_MESSAGE(WM_SETFONT, &CDialog::HandleSetFont)
+END_MESSAGE_MAP()
+
+namespace {
+
+/// A dialog template found along the resource chain, loaded while this lives.
+class LoadedTemplate {
+public:
+    explicit LoadedTemplate(LPCTSTR lpszName)
+        : m_hInst(AfxFindResourceHandle(lpszName, RT_DIALOG)) {
+        HRSRC hResource = ::FindResource(m_hInst, lpszName, RT_DIALOG);
+        m_hData = hResource != nullptr ? ::LoadResource(m_hInst, hResource) : nullptr;
+    }
+    LPCDLGTEMPLATE Get() const {
+        return m_hData != nullptr ? static_cast<LPCDLGTEMPLATE>(::LockResource(m_hData)) : nullptr;
+    }
+    HINSTANCE Module() const { return m_hInst; }
+
+private:
+    HINSTANCE m_hInst;
+    HGLOBAL m_hData;
+};
+
+/// A window disabled while this lives. The owner of a modal dialog must be enabled again before
+/// the dialog is destroyed, or the system activates somebody else.
+class DisabledOwner {
+public:
+    explicit DisabledOwner(HWND hWnd)
+        : m_hWnd(hWnd != nullptr && hWnd != ::GetDesktopWindow() && ::IsWindowEnabled(hWnd)
+                     ? hWnd
+                     : nullptr) {
+        if (m_hWnd != nullptr) {
+            ::EnableWindow(m_hWnd, FALSE);
+        }
+    }
+    ~DisabledOwner() {
+        if (m_hWnd != nullptr) {
+            ::EnableWindow(m_hWnd, TRUE);
+        }
+    }
+    DisabledOwner(const DisabledOwner&) = delete;
+    DisabledOwner& operator=(const DisabledOwner&) = delete;
+
+private:
+    HWND m_hWnd;
+};
+
+INT_PTR CALLBACK DialogProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message != WM_INITDIALOG) {
+        return FALSE;
+    }
+    auto* pDlg = dynamic_cast<CDialog*>(CWnd::FromHandlePermanent(hWnd));
+    if (pDlg == nullptr) {
+        return TRUE;
+    }
+    // The system's code lies between here and the window procedure; no exception may cross it.
+    try {
+        return pDlg->OnInitDialog();
+    } catch (...) {
+        AfxProcessCurrentException(hWnd, message, wParam, lParam);
+        if (CWnd::FromHandlePermanent(hWnd) == pDlg) {
+            pDlg->EndDialog(-1);
+        }
+        return FALSE;
+    }
+}
+
+}  // namespace
+
+CDialog::CDialog() = default;
+
+CDialog::CDialog(LPCTSTR lpszTemplateName, CWnd* pParentWnd) : m_pParentWnd(pParentWnd) {
+    if (IS_INTRESOURCE(lpszTemplateName)) {
+        m_lpszTemplateName = lpszTemplateName;
+        m_nIDHelp = LOWORD(reinterpret_cast<DWORD_PTR>(lpszTemplateName));
+    } else {
+        m_strTemplateName = lpszTemplateName;
+        m_lpszTemplateName = m_strTemplateName;
+    }
+}
+
+CDialog::CDialog(UINT nIDTemplate, CWnd* pParentWnd)
+    : m_nIDHelp(nIDTemplate),
+      m_lpszTemplateName(MAKEINTRESOURCE(nIDTemplate)),
+      m_pParentWnd(pParentWnd) {}
+
+CDialog::~CDialog() {
+    if (m_hWnd != nullptr) {
+        DestroyWindow();
+    }
+}
+
+BOOL CDialog::Create(UINT nIDTemplate, CWnd* pParentWnd) {
+    return Create(MAKEINTRESOURCE(nIDTemplate), pParentWnd);
+}
+
+BOOL CDialog::Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd) {
+    LoadedTemplate loaded(lpszTemplateName);
+    m_lpszTemplateName = lpszTemplateName;
+    if (IS_INTRESOURCE(lpszTemplateName) && m_nIDHelp == 0) {
+        m_nIDHelp = LOWORD(reinterpret_cast<DWORD_PTR>(lpszTemplateName));
+    }
+    if (loaded.Get() == nullptr) {
+        return FALSE;
+    }
+    if (pParentWnd == nullptr) {
+        pParentWnd = AfxGetMainWnd();
+    }
+    const BOOL bDone = CreateDlgIndirect(loaded.Get(), pParentWnd, loaded.Module());
+    // Modeless: ending it destroys nothing, so there is no loop to leave.
+    return bDone;
+}
+
+BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd,
+                             void* lpDialogInit) {
+    m_lpDialogInit = lpDialogInit;
+    if (pParentWnd == nullptr) {
+        pParentWnd = AfxGetMainWnd();
+    }
+    return CreateDlgIndirect(lpDialogTemplate, pParentWnd, AfxGetInstanceHandle());
+}
+
+BOOL CDialog::CreateIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd) {
+    const BOOL bDone = CreateIndirect(static_cast<LPCDLGTEMPLATE>(::LockResource(hDialogTemplate)),
+                                      pParentWnd, nullptr);
+    ::GlobalUnlock(hDialogTemplate);
+    return bDone;
+}
+
+BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd,
+                                void* lpDialogInit) {
+    m_lpDialogTemplate = lpDialogTemplate;
+    m_lpDialogInit = lpDialogInit;
+    if (m_pParentWnd == nullptr) {
+        m_pParentWnd = pParentWnd;
+    }
+    return TRUE;
+}
+
+BOOL CDialog::InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd) {
+    m_hDialogTemplate = hDialogTemplate;
+    if (m_pParentWnd == nullptr) {
+        m_pParentWnd = pParentWnd;
+    }
+    return TRUE;
+}
+
+BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd,
+                                HINSTANCE hInst) {
+    m_nModalResult = -1;
+    m_nFlags |= WF_CONTINUEMODAL;  // so that OnInitDialog may end it
+    AfxHookWindowCreate(this);
+    HWND hWnd =
+        ::CreateDialogIndirect(hInst, lpDialogTemplate, pParentWnd->GetSafeHwnd(), DialogProc);
+    if (!AfxUnhookWindowCreate()) {
+        PostNcDestroy();
+    }
+    return hWnd != nullptr;
+}
+
+HWND CDialog::PreModal() {
+    return AfxGetSafeOwner(m_pParentWnd->GetSafeHwnd(), &m_hWndTop);
+}
+
+void CDialog::PostModal() {
+    if (::IsWindow(m_hWndTop)) {
+        ::EnableWindow(m_hWndTop, TRUE);
+    }
+    m_hWndTop = nullptr;
+}
+
+INT_PTR CDialog::DoModal() {
+    if (m_lpDialogTemplate != nullptr) {
+        return RunModal(m_lpDialogTemplate, AfxGetResourceHandle());
+    }
+    if (m_hDialogTemplate != nullptr) {
+        return RunModal(static_cast<LPCDLGTEMPLATE>(::LockResource(m_hDialogTemplate)),
+                        AfxGetResourceHandle());
+    }
+    LoadedTemplate loaded(m_lpszTemplateName);
+    return loaded.Get() != nullptr ? RunModal(loaded.Get(), loaded.Module()) : -1;
+}
+
+INT_PTR CDialog::RunModal(LPCDLGTEMPLATE lpDialogTemplate, HINSTANCE hInst) {
+    const HWND hWndOwner = PreModal();
+    try {
+        RunModalFor(hWndOwner, lpDialogTemplate, hInst);
+    } catch (CException* e) {
+        e->Delete();
+        m_nModalResult = -1;
+    } catch (const std::bad_alloc&) {
+        m_nModalResult = -1;
+    }
+    if (hWndOwner != nullptr && ::GetActiveWindow() == m_hWnd) {
+        ::SetActiveWindow(hWndOwner);
+    }
+    DestroyWindow();
+    PostModal();
+    return m_nModalResult;
+}
+
+// The owner is disabled meanwhile.
+void CDialog::RunModalFor(HWND hWndOwner, LPCDLGTEMPLATE lpDialogTemplate, HINSTANCE hInst) {
+    DisabledOwner disabled(hWndOwner);
+    if (!CreateDlgIndirect(lpDialogTemplate, CWnd::FromHandle(hWndOwner), hInst)) {
+        return;
+    }
+    if (m_nFlags & WF_CONTINUEMODAL) {
+        RunModalLoop(MLF_SHOWONIDLE | (GetStyle() & DS_NOIDLEMSG ? MLF_NOIDLEMSG : 0));
+    }
+    if (m_hWnd != nullptr) {
+        SetWindowPos(nullptr, 0, 0, 0, 0,
+                     SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
+    }
+}
+
+void CDialog::EndDialog(int nResult) {
+    if (m_nFlags & (WF_MODALLOOP | WF_CONTINUEMODAL)) {
+        EndModalLoop(nResult);
+    }
+    ::EndDialog(m_hWnd, nResult);
+}
+
+void CDialog::PreInitDialog() {}
+
+void CDialog::OnSetFont(CFont*) {}
+
+BOOL CDialog::OnInitDialog() {
+    if (!UpdateData(FALSE)) {
+        EndDialog(-1);
+        return FALSE;
+    }
+    return TRUE;
+}
+
+void CDialog::OnOK() {
+    if (UpdateData(TRUE)) {
+        EndDialog(IDOK);
+    }
+}
+
+void CDialog::OnCancel() {
+    EndDialog(IDCANCEL);
+}
+
+LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM) {
+    PreInitDialog();
+    CRect rcBefore;
+    GetWindowRect(rcBefore);
+    const LRESULT bDefaultFocus = Default();  // calls OnInitDialog by way of the dialog procedure
+
+    // A top-level dialog whose template gives no place of its own comes up in the middle.
+    CRect rcAfter;
+    if (m_hWnd != nullptr &&
+        !(GetStyle() & (WS_CHILD | WS_VISIBLE | DS_ABSALIGN | DS_CENTER | DS_CENTERMOUSE))) {
+        GetWindowRect(rcAfter);
+        if (rcBefore == rcAfter) {
+            CenterWindow();
+        }
+    }
+    return bDefaultFocus;
+}
+
+LRESULT CDialog::HandleSetFont(WPARAM wParam, LPARAM) {
+    OnSetFont(CFont::FromHandle(reinterpret_cast<HFONT>(wParam)));
+    return Default();
+}
+
+HBRUSH CDialog::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) {
+    return CWnd::OnCtlColor(pDC, pWnd, nCtlColor);
+}
+
+BOOL CDialog::PreTranslateMessage(MSG* pMsg) {
+    return CWnd::PreTranslateMessage(pMsg) || PreTranslateInput(pMsg);
+}
+
+BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
+    if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) {
+        return TRUE;
+    }
+    // Commands proper go on to the owner and the application; control codes end here.
+    constexpr UINT kFirstCommand = 0x8000;
+    constexpr UINT kFirstSystemCommand = 0xF000;
+    const bool bCommand = nCode == CN_COMMAND || static_cast<UINT>(nCode) == CN_UPDATE_COMMAND_UI;
+    if (!bCommand || nID < kFirstCommand || nID >= kFirstSystemCommand) {
+        return FALSE;
+    }
+    CWnd* pOwner = GetParent();
+    if (pOwner != nullptr && pOwner->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) {
+        return TRUE;
+    }
+    CWinThread* pThread = AfxGetThread();
+    return pThread != nullptr && pThread->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+}
+
+void CDialog::NextDlgCtrl() const {
+    AfxSend(m_hWnd, WM_NEXTDLGCTL, 0, FALSE);
+}
+
+void CDialog::PrevDlgCtrl() const {
+    AfxSend(m_hWnd, WM_NEXTDLGCTL, 1, FALSE);
+}
+
+void CDialog::GotoDlgCtrl(CWnd* pWndCtrl) {
+    AfxSend(m_hWnd, WM_NEXTDLGCTL, pWndCtrl->m_hWnd, TRUE);
+}
+
+void CDialog::MapDialogRect(LPRECT lpRect) const {
+    ::MapDialogRect(m_hWnd, lpRect);
+}
+
+void CDialog::SetDefID(UINT nID) {
+    AfxSend(m_hWnd, DM_SETDEFID, nID);
+}
+
+DWORD CDialog::GetDefID() const {
+    return AfxSend<DWORD>(m_hWnd, DM_GETDEFID);
+}

@@ -1,5 +1,0 @@
-#include "afxwin.h"
-
-int WINAPI WinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPSTR lpCmdLine, int nCmdShow) {
-    return AfxWinMain(hInstance, hPrevInstance, lpCmdLine, nCmdShow);
-}

@@ -1,0 +1,15 @@
+// Classes of the common controls.
+#pragma once
+
+#include "afx/drawing/image_list.h"
+
+#include <afxwin.h>
+
+class CEdit;
+
+#include "afx/controls/header_ctrl.h"
+#include "afx/controls/list_ctrl.h"
+#include "afx/controls/range_ctrls.h"
+#include "afx/controls/tab_ctrl.h"
+#include "afx/controls/tooltip_ctrl.h"
+#include "afx/controls/tree_ctrl.h"

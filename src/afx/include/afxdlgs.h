@@ -1,0 +1,82 @@
+// The system's common dialogs.
+#pragma once
+
+#include <afxwin.h>
+
+class QVAFX_API CCommonDialog : public CDialog {
+    DECLARE_DYNAMIC(CCommonDialog)
+
+public:
+    explicit CCommonDialog(CWnd* pParentWnd);
+};
+
+/// Opening and saving files.
+class QVAFX_API CFileDialog : public CCommonDialog {
+    DECLARE_DYNAMIC(CFileDialog)
+
+public:
+    /// lpszFilter: pairs of description and pattern, each ended by a bar, one more bar at the end.
+    explicit CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt = nullptr,
+                         LPCTSTR lpszFileName = nullptr,
+                         DWORD dwFlags = OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
+                         LPCTSTR lpszFilter = nullptr, CWnd* pParentWnd = nullptr);
+
+    OPENFILENAME m_ofn;  ///< may be changed before DoModal
+    BOOL m_bOpenFileDialog;
+
+    INT_PTR DoModal() override;
+
+    CString GetPathName() const;   ///< the whole path
+    CString GetFileName() const;   ///< name and extension
+    CString GetFileExt() const;    ///< without the dot
+    CString GetFileTitle() const;  ///< the name alone
+    BOOL GetReadOnlyPref() const;
+    /// With OFN_ALLOWMULTISELECT: one path after the other. The position ends as null.
+    POSITION GetStartPosition() const;
+    CString GetNextPathName(POSITION& pos) const;
+
+private:
+    CString m_strFilter;
+    TCHAR m_szFileTitle[MAX_PATH] = {};
+    TCHAR m_szFileName[8 * MAX_PATH] = {};
+};
+
+/// Choosing a printer and what to print on it, or asking for the default printer. Whoever uses it
+/// deletes m_pd.hDC and frees m_pd.hDevMode and m_pd.hDevNames in the end.
+class QVAFX_API CPrintDialog : public CCommonDialog {
+    DECLARE_DYNAMIC(CPrintDialog)
+
+public:
+    /// Unless bPrintSetupOnly, a device context comes with the answer.
+    explicit CPrintDialog(BOOL bPrintSetupOnly,
+                          DWORD dwFlags = PD_ALLPAGES | PD_USEDEVMODECOPIES | PD_NOPAGENUMS |
+                                          PD_HIDEPRINTTOFILE | PD_NOSELECTION,
+                          CWnd* pParentWnd = nullptr);
+
+    PRINTDLG& m_pd;  ///< may be changed before DoModal
+
+    INT_PTR DoModal() override;
+    /// Asks for the default printer without showing anything. FALSE if there is none, or if m_pd
+    /// has printer settings already.
+    BOOL GetDefaults();
+
+    // The answer of either.
+    int GetCopies() const;
+    BOOL PrintAll() const;
+    BOOL PrintRange() const;
+    BOOL PrintSelection() const;
+    BOOL PrintCollate() const;
+    int GetFromPage() const;  ///< -1 unless a range was chosen
+    int GetToPage() const;    ///< -1 unless a range was chosen
+    CString GetDeviceName() const;
+    CString GetDriverName() const;
+    CString GetPortName() const;
+    /// Locked: call GlobalUnlock on m_pd.hDevMode afterwards. Null without a printer.
+    LPDEVMODE GetDevMode() const;
+    HDC GetPrinterDC() const { return m_pd.hDC; }
+    /// Makes a new one, which m_pd.hDC names from then on. Null without a printer.
+    HDC CreatePrinterDC();
+
+private:
+    PRINTDLG m_pdActual;
+};

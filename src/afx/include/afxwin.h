@@ -1,0 +1,19 @@
+// Windows, dialogs, frames, controls and the application: the header that programs include.
+#pragma once
+
+#include "afx/app/app.h"
+#include "afx/app/frame.h"
+#include "afx/controls/controls.h"
+#include "afx/dialogs/dialog.h"
+#include "afx/drawing/dc.h"
+#include "afx/drawing/gdi.h"
+#include "afx/drawing/menu.h"
+#include "afx/window/cmdtarget.h"
+#include "afx/window/wnd.h"
+
+#include <afx.h>
+#include <afxcoll.h>
+#include <afxdll_.h>
+#include <afxmsg_.h>
+#include <afxres.h>
+#include <atltypes.h>

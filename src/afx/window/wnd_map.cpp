@@ -1,0 +1,92 @@
+// CWnd as an object: its message map, its life, and the map from handles to objects.
+#include "afx/window/wnd.h"
+
+#include "afx/drawing/handle_map.h"
+#include "afx/window/wnd_state.h"
+
+#include <afxwin.h>
+
+IMPLEMENT_DYNCREATE(CWnd, CCmdTarget)
+
+BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
+    ON_WM_NCDESTROY()
+    ON_WM_PARENTNOTIFY()
+    ON_WM_CTLCOLOR()
+    ON_WM_HSCROLL()
+    ON_WM_VSCROLL()
+    ON_WM_DRAWITEM()
+    ON_WM_MEASUREITEM()
+    ON_WM_COMPAREITEM()
+    ON_WM_DELETEITEM()
+    ON_WM_VKEYTOITEM()
+    ON_WM_CHARTOITEM()
+    ON_WM_SYSCOLORCHANGE()
+    ON_WM_SETTINGCHANGE()
+    ON_WM_DEVMODECHANGE()
+    ON_WM_FONTCHANGE()
+    ON_WM_DISPLAYCHANGE()
+END_MESSAGE_MAP()
+
+const CWnd CWnd::wndTop(HWND_TOP);
+const CWnd CWnd::wndBottom(HWND_BOTTOM);
+const CWnd CWnd::wndTopMost(HWND_TOPMOST);
+const CWnd CWnd::wndNoTopMost(HWND_NOTOPMOST);
+
+CWnd::CWnd() = default;
+
+CWnd::~CWnd() {
+    // Stand-ins and temporary objects only name a window; they do not own it.
+    if (m_hWnd != nullptr && FromHandlePermanent(m_hWnd) == this) {
+        DestroyWindow();
+    }
+}
+
+HWND CWnd::GetSafeHwnd() const {
+    // Programs call this through null pointers; the compiler must not see that it is about
+    // this.
+    const CWnd* volatile pWnd = this;
+    return pWnd != nullptr ? static_cast<const CWnd*>(pWnd)->m_hWnd : nullptr;
+}
+
+namespace {
+
+using WndMap = CHandleMap<CWnd, HWND>;
+
+/// A window belongs to its thread, and so does its object. Kept to the process's end, because
+/// global objects may hold windows until then.
+WndMap& ThreadWndMap() {
+    static thread_local WndMap* pMap = new WndMap([](CWnd& wnd, HWND hWnd) { wnd.m_hWnd = hWnd; });
+    return *pMap;
+}
+
+}  // namespace
+
+CWnd* CWnd::FromHandle(HWND hWnd) {
+    return ThreadWndMap().FromHandle(hWnd);
+}
+
+CWnd* CWnd::FromHandlePermanent(HWND hWnd) {
+    return ThreadWndMap().LookupPermanent(hWnd);
+}
+
+void CWnd::DeleteTempMap() {
+    ThreadWndMap().DeleteTemp();
+}
+
+BOOL CWnd::Attach(HWND hWndNew) {
+    if (hWndNew == nullptr || m_hWnd != nullptr || FromHandlePermanent(hWndNew) != nullptr) {
+        return FALSE;
+    }
+    m_hWnd = hWndNew;
+    ThreadWndMap().SetPermanent(hWndNew, this);
+    return TRUE;
+}
+
+HWND CWnd::Detach() {
+    HWND hWnd = m_hWnd;
+    if (hWnd != nullptr) {
+        ThreadWndMap().RemovePermanent(this);
+        m_hWnd = nullptr;
+    }
+    return hWnd;
+}

@@ -1,0 +1,108 @@
+// What the window half of the framework keeps for each thread. Internal to the framework.
+#pragma once
+
+#include <afxwin.h>
+
+#include <exception>
+#include <type_traits>
+
+/// All null in a new thread.
+struct AfxWndState {
+    CWnd* pWndInit = nullptr;       ///< waits for the next window to be created
+    HHOOK hHookCreate = nullptr;    ///< installed while creations are under way
+    int nHookDepth = 0;             ///< creations under way
+    MSG lastSentMsg = {};           ///< the message being handled
+    HWND hLockoutNotify = nullptr;  ///< its controls' notifications are dropped meanwhile
+    HMENU hLastPopup = nullptr;     ///< the menu that opened last
+    CWinThread* pThread = nullptr;  ///< the thread object, the application's in the main thread
+};
+
+AfxWndState& AfxGetWndState();
+
+/// What the framework's free functions need of its classes' inner parts.
+struct AfxWndAccess {
+    static LRESULT WindowProc(CWnd* pWnd, UINT message, WPARAM wParam, LPARAM lParam) {
+        return pWnd->WindowProc(message, wParam, lParam);
+    }
+    static WNDPROC* SuperWndProc(CWnd* pWnd) { return pWnd->GetSuperWndProcAddr(); }
+    static void OnNcDestroy(CWnd* pWnd) { pWnd->CWnd::OnNcDestroy(); }
+    /// Fills in the names that the application did not give.
+    static void NameApp(CWinApp* pApp, HINSTANCE hInstance);
+};
+
+/// Remembers a message as the one being handled, for as long as it is.
+class AfxMessageScope {
+public:
+    AfxMessageScope(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
+        : m_rState(AfxGetWndState()), m_saved(m_rState.lastSentMsg) {
+        MSG& msg = m_rState.lastSentMsg;
+        msg.hwnd = hWnd;
+        msg.message = message;
+        msg.wParam = wParam;
+        msg.lParam = lParam;
+    }
+    ~AfxMessageScope() { m_rState.lastSentMsg = m_saved; }
+    AfxMessageScope(const AfxMessageScope&) = delete;
+    AfxMessageScope& operator=(const AfxMessageScope&) = delete;
+
+private:
+    AfxWndState& m_rState;
+    MSG m_saved;
+};
+
+/// Hands the exception that is being handled to the thread, and gives the message's result. To be
+/// called in a handler for everything, at the border to the system's code. Throws nothing itself
+/// and needs no memory.
+LRESULT AfxProcessCurrentException(const MSG& msg);
+LRESULT AfxProcessCurrentException(HWND hWnd, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+
+/// A comparison of the program's on its way through a control's sorting: what it throws is kept
+/// while the control's code runs, and told to the application behind it. All rows compare as equal
+/// from there on.
+class AfxCompareGuard {
+public:
+    using Compare = int(CALLBACK*)(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort);
+
+    AfxCompareGuard(Compare pfnCompare, LPARAM lParamSort)
+        : m_pfnCompare(pfnCompare), m_lParamSort(lParamSort) {}
+    /// To be handed to the control, with this object as its parameter.
+    static int CALLBACK Call(LPARAM lParam1, LPARAM lParam2, LPARAM lGuard);
+    LPARAM Param() { return reinterpret_cast<LPARAM>(this); }
+    /// The sorting's result, FALSE if a comparison threw. hWnd and message: what sorted.
+    BOOL Result(BOOL bSorted, HWND hWnd, UINT message) const;
+
+private:
+    Compare m_pfnCompare;
+    LPARAM m_lParamSort;
+    std::exception_ptr m_pThrown;
+};
+
+/// CWnd::GetSafeOwner by handles, which makes no objects and so needs no memory.
+HWND AfxGetSafeOwner(HWND hWndParent, HWND* phWndTop);
+
+/// The entry for a window or reflected message along a chain of maps, or null. Cached by thread.
+const AFX_MSGMAP_ENTRY* AfxFindWindowEntry(const AFX_MSGMAP* pMap, UINT nMsg);
+
+/// The entry for a routed command or notification along a chain of maps, or null.
+const AFX_MSGMAP_ENTRY* AfxFindCommandEntry(const AFX_MSGMAP* pMap, UINT nMsg, UINT nCode,
+                                            UINT nID);
+
+/// Sends with whatever kinds of arguments the message takes, and gives the result as R.
+template <typename Value>
+constexpr LPARAM AfxToParam(Value value) {
+    if constexpr (std::is_pointer_v<Value>) {
+        return reinterpret_cast<LPARAM>(value);
+    } else {
+        return static_cast<LPARAM>(value);
+    }
+}
+template <typename R = LRESULT, typename W = int, typename L = int>
+R AfxSend(HWND hWnd, UINT message, W wParam = {}, L lParam = {}) {
+    LRESULT lResult =
+        ::SendMessage(hWnd, message, static_cast<WPARAM>(AfxToParam(wParam)), AfxToParam(lParam));
+    if constexpr (std::is_pointer_v<R>) {
+        return reinterpret_cast<R>(lResult);
+    } else {
+        return static_cast<R>(lResult);
+    }
+}
