@@ -387,8 +387,9 @@ bool GridEditing::CheckInvariants() const {
             return false;
         }
     }
-    // What is typed is for the current cell, or for a row that was deleted meanwhile.
-    return !m_edit.Up() || m_editCell == current || m_editCell == GridCell{};
+    // What is typed is for the current cell, but where rows were deleted meanwhile.
+    return !m_edit.Up() || current == GridCell{} || m_editCell == current ||
+           m_editCell == GridCell{};
 }
 
 }  // namespace qv
