@@ -3,6 +3,7 @@
 
 #include "base/platform_names.h"
 #include "fuzz_input.h"
+#include "grid/core/grid_keys.h"
 #include "grid/core/grid_layout.h"
 
 #include <algorithm>

@@ -1,6 +1,8 @@
 #include "grid/core/grid_layout.h"
 
 #include "base/platform_names.h"
+#include "grid/core/grid_keys.h"
+#include "grid/core/grid_list_rect.h"
 
 #include <gtest/gtest.h>
 #include <limits>
