@@ -34,10 +34,15 @@ endfunction()
 set(QV_STD_HEADERS <algorithm> <array> <functional> <memory> <string> <string_view> <utility> <vector>)
 set(QV_FRAMEWORK_HEADERS <afxwin.h> <afxcmn.h> <afxdlgs.h> <afxext.h> <afxtempl.h>)
 
-# Tests are compiled once and run a few times: what takes time in them is the modules under test.
+# Tests are compiled once and run a few times: what takes time in them is the modules under test,
+# and it is these whose undefined behaviour is looked for.
+add_library(qv_test_options INTERFACE)
+target_compile_options(qv_test_options INTERFACE -O0 -g1)
+if(QV_SANITIZE)
+    target_compile_options(qv_test_options INTERFACE -fno-sanitize=undefined)
+endif()
 function(qv_add_tests target)
-    target_link_libraries(${target} PRIVATE qv_options)
-    target_compile_options(${target} PRIVATE -O0)
+    target_link_libraries(${target} PRIVATE qv_options qv_test_options)  # the latter's word is last
     target_precompile_headers(${target} PRIVATE <gtest/gtest.h> ${QV_STD_HEADERS} ${ARGN})
 endfunction()
 
@@ -47,4 +52,5 @@ set(gtest_force_shared_crt ON)
 add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
 foreach(target gtest gtest_main gmock gmock_main)
     set_target_properties(${target} PROPERTIES CXX_STANDARD 17)
+    target_compile_options(${target} PRIVATE -O0)
 endforeach()

@@ -16,126 +16,52 @@ constexpr int kStepwiseScroll = 16;   // rows up to which walking beats asking t
 
 }  // namespace
 
-// --- The index of displayable rows
-
-void TreeView::DropRows() {
-    m_rows.Clear(false);
-    m_bRowsValid = false;
-}
-
-// False if memory does not suffice for an index; rows are then walked.
-bool TreeView::EnsureRows() {
-    if (m_bRowsValid) {
-        return true;
-    }
-    m_rows.Clear(false);
-    try {
-        m_collected.clear();
-        CollectRows(m_hRootItem, nullptr);
-        m_rows.Insert(nullptr, m_collected);
-    } catch (const std::bad_alloc&) {
-        m_rows.Clear(false);
-        ForgetLeaves();
-        return false;
-    }
-    m_bRowsValid = true;
-    m_bDetachedRows = RootDetached();
-    return true;
-}
-
-void TreeView::ForgetLeaves() {
-    for (HTREEITEM h = m_hRootItem; h != nullptr; h = NextDisplayableItem(h)) {
-        h->pRowLeaf = nullptr;
-    }
-}
-
-bool TreeView::IsDisplayed(HTREEITEM hItem) const {
-    const HTREEITEM hParent = hItem->pParent;
-    return hParent == nullptr ||
-           (hParent->pRowLeaf != nullptr && (hParent->nState & TVIS_EXPANDED) != 0);
-}
-
-// Appends the rows from hFirst to the one before hEnd to m_collected.
-void TreeView::CollectRows(HTREEITEM hFirst, HTREEITEM hEnd) {
-    for (HTREEITEM h = hFirst; h != hEnd && h != nullptr; h = NextDisplayableItem(h)) {
-        m_collected.push_back(h);
-    }
-}
-
-// The item, which has just found its place, and what is displayable below it.
-void TreeView::InsertRows(HTREEITEM hItem) {
-    if (IsDisplayed(hItem)) {
-        m_collected.clear();
-        CollectRows(hItem, NextAfterSubtree(hItem));
-        m_rows.Insert(LastDisplayableItem(hItem), m_collected);
-    }
-}
-
-// What is displayable below the item, and the item itself with bItemToo.
-void TreeView::EraseRows(HTREEITEM hItem, bool bItemToo) {
-    if (hItem->pRowLeaf == nullptr) {
-        return;
-    }
-    HTREEITEM hLast = hItem;
-    while (hLast->pLastChild != nullptr && (hLast->nState & TVIS_EXPANDED)) {
-        hLast = hLast->pLastChild;
-    }
-    const int nItem = m_rows.IndexOf(hItem);
-    const int nLast = hLast == hItem ? nItem : m_rows.IndexOf(hLast);
-    const int nFirst = bItemToo ? nItem : nItem + 1;
-    m_rows.Erase(nFirst, nLast - nFirst + 1);
-}
+// --- What is displayable
 
 void TreeView::SetExpanded(HTREEITEM hItem, bool bExpanded) {
     if (((hItem->nState & TVIS_EXPANDED) != 0) == bExpanded) {
         return;
     }
     if (!bExpanded) {
-        ChangeRows([&] { EraseRows(hItem, false); });
+        m_rows.Collapsing(hItem);
         hItem->nState &= ~static_cast<std::uint32_t>(TVIS_EXPANDED);
         return;
     }
     hItem->nState |= TVIS_EXPANDED;
-    ChangeRows([&] {
-        if (hItem->pRowLeaf != nullptr && hItem->pFirstChild != nullptr) {
-            m_collected.clear();
-            CollectRows(hItem->pFirstChild, NextAfterSubtree(hItem));
-            m_rows.Insert(hItem, m_collected);
-        }
-    });
+    m_rows.Expanded(hItem);
 }
 
 // Widths depend on more than the rows; measures them anew where that has changed.
 void TreeView::CheckMetrics() {
     CheckStyles();
-    const RowMetrics metrics{m_images, m_bIndentTabs, m_bShowStatesAtRoot,
+    const RowMetrics metrics{m_images, m_bIndentTabs, m_items.StatesAtRoot(),
                              HasStyleBit(TVS_LINESATROOT)};
     if (metrics == m_metrics) {
         return;
     }
-    m_rows.UnmeasureAll();
+    m_rows.WidthsChanged();
     m_metrics = metrics;
 }
 
 // Counts the displayable rows, and sets m_nMaxWidth and m_nVScrollPos.
 int TreeView::CountRows() {
     CheckMetrics();
-    const bool bReplaced = ReplacesCalcItemRect();
+    const bool bReplaced = m_steps.ReplacesRowRect();
     const auto right = [this](HTREEITEM h) {
         Rect rect;
         CalcItemRect(nullptr, 0, h, rect, false);
         return rect.right;
     };
-    if (EnsureRows()) {
-        m_nMaxWidth = bReplaced ? WidestRow() : m_rows.MaxRight(right);
-        m_nVScrollPos = std::max(0, m_rows.IndexOf(m_hTopItem));
+    if (m_rows.Ensure()) {
+        m_nMaxWidth = bReplaced ? m_steps.WidestRow() : m_rows.MaxRight(right);
+        m_nVScrollPos = std::max(0, m_rows.IndexOf(m_items.Top()));
         return m_rows.Count();
     }
     int nRows = 0;
-    m_nMaxWidth = bReplaced ? WidestRow() : 0;
+    m_nMaxWidth = bReplaced ? m_steps.WidestRow() : 0;
     m_nVScrollPos = 0;
-    for (HTREEITEM h = m_hRootItem; h != nullptr; h = NextDisplayableItem(h), ++nRows) {
-        if (h == m_hTopItem) {
+    for (HTREEITEM h = m_items.Root(); h != nullptr; h = m_items.NextDisplayableItem(h), ++nRows) {
+        if (h == m_items.Top()) {
             m_nVScrollPos = nRows;
         }
         if (!bReplaced) {
@@ -166,17 +92,17 @@ void TreeView::CalcBottomItem() {
     if (!m_port.HasWindow()) {
         return;
     }
-    if (m_hTopItem == nullptr || ItemHeight() == 0) {
-        m_hBottomItem = nullptr;
+    if (m_items.Top() == nullptr || ItemHeight() == 0) {
+        m_items.SetBottom(nullptr);
         return;
     }
-    m_hBottomItem = m_hTopItem;
+    m_items.SetBottom(m_items.Top());
     for (int nRows = RowsThatFit(m_port.ClientRect().Height()); nRows > 1; --nRows) {
-        const HTREEITEM hNext = NextDisplayableItem(m_hBottomItem);
+        const HTREEITEM hNext = m_items.NextDisplayableItem(m_items.Bottom());
         if (hNext == nullptr) {
             break;
         }
-        m_hBottomItem = hNext;
+        m_items.SetBottom(hNext);
     }
 }
 
@@ -184,20 +110,20 @@ void TreeView::CalcTopItem() {
     if (!m_port.HasWindow()) {
         return;
     }
-    if (m_hBottomItem == nullptr || ItemHeight() == 0) {
-        m_hTopItem = m_hRootItem;
+    if (m_items.Bottom() == nullptr || ItemHeight() == 0) {
+        m_items.SetTop(m_items.Root());
         return;
     }
-    HTREEITEM hTop = m_hBottomItem;
+    HTREEITEM hTop = m_items.Bottom();
     for (int nRows = RowsThatFit(m_port.ClientRect().Height()); nRows > 1; --nRows) {
-        const HTREEITEM hLast = LastDisplayableItem(hTop);
+        const HTREEITEM hLast = m_items.LastDisplayableItem(hTop);
         if (hLast == nullptr) {
             break;
         }
         hTop = hLast;
     }
-    if (hTop != m_hTopItem) {
-        m_hTopItem = hTop;
+    if (hTop != m_items.Top()) {
+        m_items.SetTop(hTop);
         CalcScroll();
     }
 }
@@ -232,7 +158,7 @@ void TreeView::Fit() {
     rcClient.bottom += m_nHPage != 0 ? cyBar : 0;
     rcClient.right += m_nVPage != 0 ? cxBar : 0;
 
-    m_hTopItem = ShownAncestor(m_hTopItem);
+    m_items.SetTop(ShownAncestor(m_items.Top()));
     const int nRows = CountRows();
     bool bHorizontal = m_nMaxWidth > rcClient.Width();
     if (bHorizontal) {
@@ -267,10 +193,10 @@ void TreeView::FitVerticalBar(const Rect& rcClient, int nRows, bool bNeeded) {
     }
     m_nVPage = 0;
     m_nVScrollPos = 0;
-    m_hTopItem = m_hRootItem;
+    m_items.SetTop(m_items.Root());
     m_port.ShowScrollBar(SB_VERT, false);
-    if (bShown && m_bRedraw) {
-        m_port.InvalidateAll();
+    if (bShown) {
+        InvalidateAll();
     }
 }
 
@@ -293,8 +219,8 @@ void TreeView::FitHorizontalBar(const Rect& rcClient, bool bNeeded) {
     m_nHPage = 0;
     m_nHScrollPos = 0;
     m_port.ShowScrollBar(SB_HORZ, false);
-    if ((bShown || bMoves) && m_bRedraw) {
-        m_port.InvalidateAll();
+    if ((bShown || bMoves)) {
+        InvalidateAll();
     }
 }
 
@@ -318,30 +244,30 @@ void TreeView::Resize() {
 
 // Moves both ends of the view, no further than the rows go. Gives the rows moved.
 int TreeView::ScrollView(int nRows, bool bDown) {
-    if (m_hTopItem == nullptr || m_hBottomItem == nullptr) {
+    if (m_items.Top() == nullptr || m_items.Bottom() == nullptr) {
         return 0;
     }
-    if (nRows > kStepwiseScroll && EnsureRows()) {
-        const int nTop = m_rows.IndexOf(m_hTopItem);
-        const int nBottom = m_rows.IndexOf(m_hBottomItem);
+    if (nRows > kStepwiseScroll && m_rows.Ensure()) {
+        const int nTop = m_rows.IndexOf(m_items.Top());
+        const int nBottom = m_rows.IndexOf(m_items.Bottom());
         if (nTop >= 0 && nBottom >= 0) {
             const int nMoved = std::min(nRows, bDown ? m_rows.Count() - 1 - nBottom : nTop);
-            m_hTopItem = m_rows.At(bDown ? nTop + nMoved : nTop - nMoved);
-            m_hBottomItem = m_rows.At(bDown ? nBottom + nMoved : nBottom - nMoved);
+            m_items.SetTop(m_rows.At(bDown ? nTop + nMoved : nTop - nMoved));
+            m_items.SetBottom(m_rows.At(bDown ? nBottom + nMoved : nBottom - nMoved));
             return nMoved;
         }
     }
     int nMoved = 0;
     for (; nMoved < nRows; ++nMoved) {
-        const HTREEITEM hLimit =
-            bDown ? NextDisplayableItem(m_hBottomItem) : LastDisplayableItem(m_hTopItem);
+        const HTREEITEM hLimit = bDown ? m_items.NextDisplayableItem(m_items.Bottom())
+                                       : m_items.LastDisplayableItem(m_items.Top());
         if (hLimit == nullptr) {
             break;
         }
-        const HTREEITEM hOther =
-            bDown ? NextDisplayableItem(m_hTopItem) : LastDisplayableItem(m_hBottomItem);
-        m_hTopItem = bDown ? hOther : hLimit;
-        m_hBottomItem = bDown ? hLimit : hOther;
+        const HTREEITEM hOther = bDown ? m_items.NextDisplayableItem(m_items.Top())
+                                       : m_items.LastDisplayableItem(m_items.Bottom());
+        m_items.SetTop(bDown ? hOther : hLimit);
+        m_items.SetBottom(bDown ? hLimit : hOther);
     }
     return nMoved;
 }
@@ -439,7 +365,7 @@ bool TreeView::StepView(bool bDown) {
 }
 
 bool TreeView::EnsureVisible(HTREEITEM hItem) {
-    if (hItem == nullptr || !IsLive(hItem)) {
+    if (hItem == nullptr || !TreeItems::IsLive(hItem)) {
         return false;
     }
     bool bExpanded = false;
@@ -453,27 +379,22 @@ bool TreeView::EnsureVisible(HTREEITEM hItem) {
         CalcScroll();
         CalcBottomItem();
     }
-    const auto repaint = [this] {
-        if (m_bRedraw && m_port.HasWindow()) {
-            m_port.InvalidateAll();
-        }
-    };
-    if (hItem == m_hTopItem || hItem == m_hBottomItem || ItemVisible(hItem)) {
+    if (hItem == m_items.Top() || hItem == m_items.Bottom() || ItemVisible(hItem)) {
         if (bExpanded) {
-            repaint();
+            InvalidateAll();
         }
         return true;
     }
-    const int nRow = EnsureRows() ? m_rows.IndexOf(hItem) : -1;
+    const int nRow = m_rows.Ensure() ? m_rows.IndexOf(hItem) : -1;
     if (nRow >= 0) {
-        const int nTop = m_rows.IndexOf(m_hTopItem);
+        const int nTop = m_rows.IndexOf(m_items.Top());
         if (nTop < 0 || nRow < nTop) {
-            m_hTopItem = hItem;
+            m_items.SetTop(hItem);
             if (m_bRedraw) {
                 CalcBottomItem();
             }
         } else {
-            m_hBottomItem = hItem;
+            m_items.SetBottom(hItem);
             if (m_bRedraw) {
                 CalcTopItem();
             }
@@ -481,19 +402,20 @@ bool TreeView::EnsureVisible(HTREEITEM hItem) {
     }
     if (m_bRedraw) {
         CalcScroll();
-        repaint();
+        InvalidateAll();
     }
     return nRow >= 0;
 }
 
 void TreeView::ShowAtTop(HTREEITEM hItem) {
-    m_hTopItem = hItem;
+    m_items.SetTop(hItem);
     CalcBottomItem();
     CalcScroll();
 }
 
 bool TreeView::Expand(HTREEITEM hItem, unsigned nCode, bool bInvalidate, bool bCollapseChildren) {
-    if (hItem == nullptr || !IsLive(hItem) || nCode < TVE_COLLAPSE || nCode > TVE_TOGGLE) {
+    if (hItem == nullptr || !TreeItems::IsLive(hItem) || nCode < TVE_COLLAPSE ||
+        nCode > TVE_TOGGLE) {
         return false;
     }
     const bool bWasExpanded = (hItem->nState & TVIS_EXPANDED) != 0;
@@ -507,36 +429,24 @@ bool TreeView::Expand(HTREEITEM hItem, unsigned nCode, bool bInvalidate, bool bC
     if (nCode != TVE_COLLAPSE) {
         hItem->nState |= TVIS_EXPANDEDONCE;
     }
-    if (!bExpand && CheckForAncestor(m_hSelectedItem, hItem)) {
-        const Watch watch(*this, nullptr);
-        NfySelectItem(hItem);
-        if (!watch.TreeAlive()) {
+    if (!bExpand && m_items.CheckForAncestor(m_items.Selected(), hItem)) {
+        const TreeItems::Watch watch(m_items, nullptr);
+        m_steps.NfySelectItem(hItem);
+        if (!watch.ObjectAlive()) {
             return true;
         }
     }
     if (m_bRedraw) {
         RefitAll();
-        if (bInvalidate && m_port.HasWindow()) {
-            m_port.InvalidateAll();
+        if (bInvalidate) {
+            InvalidateAll();
         }
     }
     return true;
 }
 
-bool TreeView::CheckInvariants() {
-    if (!TreeItems::CheckInvariants()) {
-        return false;
-    }
-    if (!m_bRowsValid || RootDetached()) {
-        return true;
-    }
-    int nRow = 0;
-    for (HTREEITEM h = m_hRootItem; h != nullptr; h = NextDisplayableItem(h), ++nRow) {
-        if (m_rows.IndexOf(h) != nRow || m_rows.At(nRow) != h) {
-            return false;
-        }
-    }
-    return nRow == m_rows.Count() && m_rows.CheckInvariants();
+bool TreeView::CheckInvariants() const {
+    return m_items.CheckInvariants() && m_rows.CheckInvariants();
 }
 
 }  // namespace qv

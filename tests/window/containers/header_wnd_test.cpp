@@ -1,4 +1,4 @@
-#include "frame/select_object.h"
+#include "frame/dc_guards.h"
 #include "support/list_window.h"
 #include "support/picture.h"
 

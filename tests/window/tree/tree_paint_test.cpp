@@ -1,4 +1,3 @@
-#include "frame/virtual_step.h"
 #include "support/monkey.h"
 #include "support/picture.h"
 #include "support/pump.h"
@@ -278,16 +277,44 @@ TEST(TreeSteps, ReplacedOnesAreObeyedEverywhere) {
     EXPECT_GT(Picture::OfClient(w.tree.m_hWnd).Count(kGreen), 1000);
 }
 
-class PlainTree : public QVTreeCtrlEx {};
+class CountingTree : public QVTreeCtrlEx {
+public:
+    int CompareItems(HTREEITEM h1, HTREEITEM h2) override {
+        ++m_nAsked;
+        return QVTreeCtrlEx::CompareItems(h1, h2);
+    }
+    void CalcItemRect(CDC& dc, int nTop, HTREEITEM hItem, CRect& rect, BOOL bTextOnly) override {
+        ++m_nAsked;
+        QVTreeCtrlEx::CalcItemRect(dc, nTop, hItem, rect, bTextOnly);
+    }
+    int m_nAsked = 0;
+};
 
-TEST(TreeSteps, ADerivedClassThatReplacesNothingIsRecognised) {
-    const QVTreeCtrlEx base;
-    const PlainTree plain;
-    const ReplacedTree replaced;
-    EXPECT_FALSE(QV_REPLACES_STEP(base, QVTreeCtrlEx, CalcItemRect));
-    EXPECT_FALSE(QV_REPLACES_STEP(plain, QVTreeCtrlEx, CalcItemRect));
-    EXPECT_TRUE(QV_REPLACES_STEP(replaced, QVTreeCtrlEx, CalcItemRect));
-    EXPECT_TRUE(QV_REPLACES_STEP(replaced, QVTreeCtrlEx, CompareItems));
+// Says what is not true, so that it shows.
+class KeepingTree : public CountingTree {
+public:
+    KeepingTree() { KeepSteps(typeid(KeepingTree)); }
+};
+
+class FurtherTree : public KeepingTree {};
+
+template <class Tree>
+int StepsAsked() {
+    TreeWindow<Tree> w;
+    HTREEITEM p = w.Add("p");
+    w.Add("b", p);
+    w.Add("a", p);
+    w.tree.m_nAsked = 0;
+    w.tree.SetRedraw(TRUE);
+    w.tree.SortChildren(p);
+    EXPECT_EQ(w.tree.GetItemText(w.tree.GetChildItem(p)), "a");
+    return w.tree.m_nAsked;
+}
+
+TEST(TreeSteps, ADerivedClassIsAskedUnlessItSaysThatItKeepsThem) {
+    EXPECT_GE(StepsAsked<CountingTree>(), 2);
+    EXPECT_EQ(StepsAsked<KeepingTree>(), 0);
+    EXPECT_GE(StepsAsked<FurtherTree>(), 2) << "what holds for its base need not hold for it";
 }
 
 TEST(TreeMeasure, TableOfWidthsAgreesWithThePlatform) {
