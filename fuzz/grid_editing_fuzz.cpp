@@ -72,7 +72,7 @@ private:
                 g.nTopRow = 0;
                 return m_input.Byte() % 4 != 0 ? AddRows() : void();
             case 5: {
-                const qv::GridCell cell = Cell();
+                const qv::GridCell cell = Below(2) == 0 ? Cell() : Current();
                 const unsigned dwStyle = m_input.Byte() % 2 != 0 ? GCS_DISABLED : GCS_READONLY;
                 return g.model.ModifyStyle(cell.nRow, cell.nCol, dwStyle, 0)
                            ? g.editing.DropEditors(cell)
@@ -113,9 +113,10 @@ private:
                 return static_cast<void>(g.editing.SystemKey(VK_DOWN));
             case 3:
             case 4:
-                return static_cast<void>(g.editing.Press(AnyPoint()));
+                m_pressed = m_input.Byte() % 2 != 0 ? AnyPoint() : m_pressed;
+                return static_cast<void>(g.editing.Press(m_pressed));
             case 5:
-                return g.editing.Release(AnyPoint());
+                return g.editing.Release(m_input.Byte() % 4 != 0 ? m_pressed : AnyPoint());
             case 6:
                 return g.editing.Drag(AnyPoint());
             case 7:
@@ -123,9 +124,8 @@ private:
             case 8:
                 if (g.list.bUp) {
                     g.list.nLine = Below(4) - 1;
-                    g.editing.SaveList();
                 }
-                return;
+                return m_input.Byte() % 2 != 0 ? g.editing.SaveList() : void();
             case 9:
                 return g.ScrollByUser(Below(kMostRows));
             case 10:
@@ -152,6 +152,7 @@ private:
     FuzzInput m_input;
     CStringArray m_choices{"one", "two", "three"};
     std::unique_ptr<FakeGrid> m_pGrid;
+    qv::Point m_pressed;
     int m_nDepth = 0;
 };
 

@@ -120,13 +120,15 @@ TEST_P(GridHostileParent, MayTakeTheGroundAway) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Deeds, GridHostileParent,
-    testing::Values(Deed::DestroyWindow, Deed::DeleteControl, Deed::DestroyParent),
-    [](const auto& test) {
-        const char* const aDeeds[] = {"DestroyWindow", "DeleteControl", "DestroyParent"};
-        return std::string(aDeeds[static_cast<int>(test.param)]);
-    });
+std::string DeedName(const testing::TestParamInfo<Deed>& test) {
+    const char* const aDeeds[] = {"DestroyWindow", "DeleteControl", "DestroyParent"};
+    return aDeeds[static_cast<int>(test.param)];
+}
+
+INSTANTIATE_TEST_SUITE_P(Deeds, GridHostileParent,
+                         testing::Values(Deed::DestroyWindow, Deed::DeleteControl,
+                                         Deed::DestroyParent),
+                         DeedName);
 
 // --- Anything in any order
 
