@@ -6,7 +6,7 @@
 #include "print/core/text_wrap.h"
 #include "support/fake_page_items.h"
 #include "support/test_tree.h"
-#include "text/core/text_rows.h"
+#include "text/core/display_rows.h"
 
 #include <algorithm>
 #include <malloc.h>

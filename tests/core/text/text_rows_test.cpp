@@ -1,8 +1,8 @@
-#include "text/core/text_rows.h"
-
 #include "base/platform_names.h"
 #include "support/failing_new.h"
 #include "support/fake_window.h"
+#include "text/core/display_rows.h"
+#include "text/core/print_rows.h"
 
 #include <climits>
 #include <gtest/gtest.h>
@@ -16,7 +16,6 @@ namespace {
 using qv::DisplayRows;
 using qv::PrintedRow;
 using qv::PrintRows;
-using qv::ScrollCode;
 using qv::StyleTable;
 using qv::TextLines;
 
@@ -62,7 +61,6 @@ TEST(TextLines, TextsOfAnyLengthKeepTheirOrderAndPlace) {
         ASSERT_EQ(lines.Line(i), places[static_cast<std::size_t>(i)]);
         ASSERT_EQ(lines.Line(i), Stored(texts[static_cast<std::size_t>(i)]));
     }
-    EXPECT_EQ(lines.MaxLength(), 200000);
 }
 
 TEST(TextLines, ClearForgetsAllAndSaysSo) {
@@ -73,12 +71,10 @@ TEST(TextLines, ClearForgetsAllAndSaysSo) {
         lines.Clear();
         EXPECT_NE(lines.Generation(), nBefore);
         EXPECT_EQ(lines.Count(), 0);
-        EXPECT_EQ(lines.MaxLength(), 0);
         EXPECT_EQ(lines.Line(0), nullptr);
     }
     EXPECT_EQ(lines.Add("x", 0), 1);
     EXPECT_EQ(lines.Line(0), Stored("x"));
-    EXPECT_EQ(lines.MaxLength(), 1);
 }
 
 TEST(TextLines, WithoutMemoryALineIsRefusedAndNothingChanges) {
@@ -90,11 +86,9 @@ TEST(TextLines, WithoutMemoryALineIsRefusedAndNothingChanges) {
     };
     for (int i = 0; i < 500; ++i) {
         const std::string strText = std::to_string(i) + std::string(200, '.');
-        const int nMaxLength = lines.MaxLength();
         if (add(strText) == -1) {
             ++nRefused;
             ASSERT_EQ(lines.Count(), i);
-            ASSERT_EQ(lines.MaxLength(), nMaxLength);
             ASSERT_EQ(lines.Line(i), nullptr);
             ASSERT_EQ(lines.Add(strText, 0), i + 1);
         }
@@ -459,90 +453,6 @@ TEST_F(Printing, ARowThatFoundNoMemoryIsGivenTheNextTime) {
     }
     EXPECT_GT(nRefused, 1);
     EXPECT_TRUE(m_row.strText.ends_with("second"));
-}
-
-TEST(TextScroll, TheEndOfAShorterBarStandsForTheLastPage) {
-    const qv::ScrollRange bar{0, 10, 8, 0};  // of 11 rows, 10 of which show
-    for (const auto& [nPos, nTarget] : {std::pair{0, 0u}, {1, 1u}, {2, 2u}, {3, 1u}, {5, 1u}}) {
-        EXPECT_EQ(qv::DraggedTo(nPos, bar, 11, 10), nTarget) << nPos;
-    }
-    EXPECT_EQ(qv::DraggedTo(40, {0, 49, 10, 0}, 50, 10), 40u);
-    EXPECT_EQ(qv::DraggedTo(3, {0, 4, 2, 0}, 5, 10), 0u) << "all shows";
-}
-
-TEST(TextScroll, CodesArePlatformValuesWithBothThumbsAlike) {
-    for (const auto& [nCode, code] : {std::pair{SB_LINEUP, ScrollCode::LineUp},
-                                      {SB_LINEDOWN, ScrollCode::LineDown},
-                                      {SB_PAGEUP, ScrollCode::PageUp},
-                                      {SB_PAGEDOWN, ScrollCode::PageDown},
-                                      {SB_THUMBPOSITION, ScrollCode::Thumb},
-                                      {SB_THUMBTRACK, ScrollCode::Thumb},
-                                      {SB_TOP, ScrollCode::Top},
-                                      {SB_BOTTOM, ScrollCode::Bottom},
-                                      {SB_ENDSCROLL, ScrollCode::Other}}) {
-        EXPECT_EQ(qv::ScrollCodeOf(static_cast<unsigned>(nCode)), code) << nCode;
-    }
-    EXPECT_EQ(qv::ScrollCodeOf(0xFFFFFFFF), ScrollCode::Other);
-}
-
-constexpr int kRefused = -1;
-
-int Target(ScrollCode code, int nPos, int nCount, int nPage, unsigned nWanted = 0) {
-    int nTarget = -99;
-    const bool bMoves = qv::ScrollTarget(code, nWanted, nPos, nCount, nPage, nTarget);
-    EXPECT_EQ(bMoves, nTarget != -99);
-    return bMoves ? nTarget : kRefused;
-}
-
-TEST(TextScroll, CodesLeadToTheirRow) {
-    // Fifty rows, ten of them in view: the last position is 40.
-    struct Case {
-        ScrollCode code;
-        int nPos, nTarget;
-    };
-    for (const auto& [code, nPos, nTarget] : {Case{ScrollCode::LineUp, 0, kRefused},
-                                              {ScrollCode::LineUp, 1, 0},
-                                              {ScrollCode::LineUp, 45, 44},
-                                              {ScrollCode::LineDown, 0, 1},
-                                              {ScrollCode::LineDown, 39, 40},
-                                              {ScrollCode::LineDown, 40, kRefused},
-                                              {ScrollCode::LineDown, 45, kRefused},
-                                              {ScrollCode::PageUp, 0, kRefused},
-                                              {ScrollCode::PageUp, 4, 0},
-                                              {ScrollCode::PageUp, 10, 0},
-                                              {ScrollCode::PageUp, 11, 1},
-                                              {ScrollCode::PageDown, 29, 39},
-                                              {ScrollCode::PageDown, 30, 40},
-                                              {ScrollCode::PageDown, 33, 40},
-                                              {ScrollCode::PageDown, 40, kRefused},
-                                              {ScrollCode::Top, 0, kRefused},
-                                              {ScrollCode::Top, 17, 0},
-                                              {ScrollCode::Bottom, 17, 40},
-                                              {ScrollCode::Bottom, 40, kRefused},
-                                              {ScrollCode::Other, 17, kRefused}}) {
-        EXPECT_EQ(Target(code, nPos, 50, 10), nTarget)
-            << "code " << static_cast<int>(code) << " at " << nPos;
-    }
-}
-
-TEST(TextScroll, ThumbGoesWhereItMayAndIsNotClamped) {
-    for (const auto& [nWanted, nTarget] :
-         {std::pair{0u, 0}, {40u, 40}, {17u, kRefused}, {41u, kRefused}, {0x7FFFFFFFu, kRefused}}) {
-        EXPECT_EQ(Target(ScrollCode::Thumb, 17, 50, 10, nWanted), nTarget) << nWanted;
-    }
-}
-
-TEST(TextScroll, TextShorterThanThePageMovesOnlyToItsTopOrWithTheThumb) {
-    for (const int nPage : {3, 10}) {
-        for (const ScrollCode code : {ScrollCode::LineDown, ScrollCode::PageDown,
-                                      ScrollCode::Bottom, ScrollCode::LineUp, ScrollCode::Top}) {
-            EXPECT_EQ(Target(code, 0, 3, nPage), kRefused);
-        }
-        EXPECT_EQ(Target(ScrollCode::Top, 2, 3, nPage), 0);
-        EXPECT_EQ(Target(ScrollCode::PageUp, 2, 3, nPage), 0);
-    }
-    EXPECT_EQ(Target(ScrollCode::Thumb, 0, 3, 3, 2), kRefused);
-    EXPECT_EQ(Target(ScrollCode::Thumb, 0, 3, 10, 2), 2) << "a limit below zero refuses nothing";
 }
 
 }  // namespace

@@ -28,7 +28,7 @@ public:
             m_nMaxLineLength = std::max(m_nMaxLineLength, static_cast<int>(strText.size()));
         }
     }
-    void Fit() { view.FitBars(bPartner); }
+    void Fit() { view.FitBars(); }
     void Resize(int cx, int cy) {
         window.size = {cx, cy};
         nSizes = nDeepest = 0;
@@ -39,11 +39,8 @@ public:
     FakeWindow window;
     qv::TextLines lines;
     qv::StyleTable styles;
-    qv::DisplayRows rows;
     FixedMeasure measure;
-    qv::TextSplitter splitter{measure};
-    qv::TextView view{*this, window, lines, styles, rows, splitter};
-    bool bPartner = false;
+    qv::TextView view{*this, window, lines, styles, measure};
     int nSizes = 0;
     int nDeepest = 0;
 
@@ -51,7 +48,7 @@ private:
     void Sized() {
         ++nSizes;
         nDeepest = std::max(nDeepest, ++m_nDepth);
-        view.Resize(bPartner);
+        view.Resize();
         --m_nDepth;
     }
 
@@ -123,7 +120,9 @@ TEST(TextView, BarsSettleInWindowsOfAnySize) {
         ShownText text;
         text.m_bUseProportionalFont = i % 3 != 0;
         text.m_bShowVScroll = i % 7 != 0;
-        text.bPartner = i % 5 == 0;
+        if (i % 5 == 0) {
+            text.view.SetPartner(&text.view.Alive());
+        }
         text.Add(static_cast<int>(random() % 25), std::string(random() % 30, 'x'));
         text.Fit();
         for (int j = 0; j < 50; ++j) {
@@ -134,7 +133,7 @@ TEST(TextView, BarsSettleInWindowsOfAnySize) {
             ASSERT_LE(text.nSizes, 4) << cx << " x " << cy << " run " << i;
             ASSERT_LE(text.nDeepest, 2);
             ASSERT_LE(text.m_nVScrollPos, std::max(text.m_nNumRows - text.view.ViewSize().cy, 0));
-            if (text.bPartner && !text.m_bUseProportionalFont) {
+            if (text.view.HasPartner() && !text.m_bUseProportionalFont) {
                 continue;  // the bar that is there for the partner alone is reckoned with next time
             }
             const int nRows = text.m_nNumRows;
@@ -164,21 +163,20 @@ std::string RandomLine(std::mt19937& random) {
 // paint does.
 int HiddenBytes(ShownText& text) {
     std::size_t nHidden = 0;
-    std::vector<int> starts;
+    const qv::DisplayRows& rows = text.view.Rows();
     int nRow = 0;
     for (int nLine = 0; nLine < text.lines.Count(); ++nLine) {
         int nPieces = 0;
-        for (; nRow < text.rows.Count() && text.rows[nRow].nLine == nLine; ++nRow) {
-            EXPECT_EQ(text.rows[nRow].nSubLine, nPieces++);
+        for (; nRow < rows.Count() && rows[nRow].nLine == nLine; ++nRow) {
+            EXPECT_EQ(rows[nRow].nSubLine, nPieces++);
         }
-        const std::string_view line = qv::LineText(text.styles, text.lines.Line(nLine));
-        text.splitter.Split(line, text.window.ClientRect().Width(), starts);
-        if (nPieces < static_cast<int>(starts.size())) {
-            nHidden +=
-                line.size() - static_cast<std::size_t>(starts[static_cast<std::size_t>(nPieces)]);
-        }
+        const std::string_view line = text.lines.Text(nLine);
+        const int nLength = static_cast<int>(line.size());
+        text.view.CutLine(nLine, text.window.ClientRect().Width());
+        const int nTo = text.view.Piece(nPieces - 1, nLength).nTo;
+        nHidden += nTo == -1 ? 0 : line.size() - static_cast<std::size_t>(nTo);
     }
-    EXPECT_EQ(nRow, text.rows.Count());
+    EXPECT_EQ(nRow, rows.Count());
     return static_cast<int>(nHidden);
 }
 
