@@ -34,6 +34,7 @@ public:
 
 private:
     int Below(int nCount) { return static_cast<int>(m_input.Byte()) % nCount; }
+    qv::GridCell Current() const { return {m_pGrid->state.m_nCurRow, m_pGrid->state.m_nCurCol}; }
     qv::GridCell Cell() { return {Below(kMostRows + 2) - 1, Below(7) - 1}; }
     qv::Point AnyPoint() { return {Below(110) * 4, Below(110)}; }
 
@@ -64,13 +65,14 @@ private:
             case 2:
                 return g.editing.PopupList(m_choices);
             case 3:
-                return g.editing.SetText(Cell(), m_input.Byte() % 2 != 0 ? "two" : "answer");
+                return g.editing.SetText(Below(4) == 0 ? Cell() : Current(),
+                                         m_input.Byte() % 2 != 0 ? "two" : "answer");
             case 4:
                 g.editing.DeleteRows();
                 g.nTopRow = 0;
                 return m_input.Byte() % 4 != 0 ? AddRows() : void();
             case 5: {
-                const qv::GridCell cell = Cell();
+                const qv::GridCell cell = Below(2) == 0 ? Cell() : Current();
                 const unsigned dwStyle = m_input.Byte() % 2 != 0 ? GCS_DISABLED : GCS_READONLY;
                 return g.model.ModifyStyle(cell.nRow, cell.nCol, dwStyle, 0)
                            ? g.editing.DropEditors(cell)
@@ -86,11 +88,11 @@ private:
             case 8:
                 return g.ScrollTo(Below(kMostRows));
             case 9:
-                return m_input.Byte() % 4 == 0 ? g.CloseWindow() : g.editing.SaveEditors();
+                return m_input.Byte() % 2 == 0 ? g.CloseWindow() : g.editing.SaveEditors();
             case 10:
-                return m_input.Byte() % 4 == 0 ? m_pGrid.reset() : g.editing.HideEdit();
+                return m_input.Byte() % 2 == 0 ? m_pGrid.reset() : g.editing.HideEdit();
             default:
-                return g.editing.ActivateCell({g.state.m_nCurRow, g.state.m_nCurCol});
+                return g.editing.ActivateCell(Current());
         }
     }
     void Answer() {
@@ -111,9 +113,10 @@ private:
                 return static_cast<void>(g.editing.SystemKey(VK_DOWN));
             case 3:
             case 4:
-                return static_cast<void>(g.editing.Press(AnyPoint()));
+                m_pressed = m_input.Byte() % 2 != 0 ? AnyPoint() : m_pressed;
+                return static_cast<void>(g.editing.Press(m_pressed));
             case 5:
-                return g.editing.Release(AnyPoint());
+                return g.editing.Release(m_input.Byte() % 4 != 0 ? m_pressed : AnyPoint());
             case 6:
                 return g.editing.Drag(AnyPoint());
             case 7:
@@ -121,9 +124,8 @@ private:
             case 8:
                 if (g.list.bUp) {
                     g.list.nLine = Below(4) - 1;
-                    g.editing.SaveList();
                 }
-                return;
+                return m_input.Byte() % 2 != 0 ? g.editing.SaveList() : void();
             case 9:
                 return g.ScrollByUser(Below(kMostRows));
             case 10:
@@ -138,7 +140,7 @@ private:
     void Check() {
         FakeGrid& g = *m_pGrid;
         FUZZ_CHECK(g.editing.CheckInvariants() && g.model.CheckInvariants());
-        const qv::GridCell current{g.state.m_nCurRow, g.state.m_nCurCol};
+        const qv::GridCell current = Current();
         if (g.edit.bUp && g.model.IsCell(current)) {
             qv::Rect rcCell;
             g.Layout().CellRect(current.nRow, current.nCol, rcCell);
@@ -150,6 +152,7 @@ private:
     FuzzInput m_input;
     CStringArray m_choices{"one", "two", "three"};
     std::unique_ptr<FakeGrid> m_pGrid;
+    qv::Point m_pressed;
     int m_nDepth = 0;
 };
 

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "frame/core/row_scroll.h"
 #include "frame/wnd_port.h"
 #include "grid/core/grid_editing.h"
 #include "grid/grid_ctrl.h"
@@ -12,6 +13,7 @@ class QVGridCtrl::Core : private qv::GridHostPort {
 public:
     explicit Core(QVGridCtrl& grid)
         : port(grid),
+          scroll(port),
           edit(grid, editing),
           list(grid, editing),
           editing(model, grid, *this, edit, list),
@@ -19,13 +21,15 @@ public:
 
     const qv::AliveToken& Alive() const { return editing.Alive(); }
     qv::GridLayout Layout() const override;
+    qv::ScrollAxis Axis() const;
+    void ShowRange();
 
     qv::GridModel model;
     qv::WndPort port;
+    qv::RowScroll scroll;
     QVGridEdit edit;
     QVGridList list;
     qv::GridEditing editing;
-    bool bShowingBar = false;
 
 private:
     const void* Window() const override { return m_grid.m_hWnd; }

@@ -3,6 +3,7 @@
 #include "grid/grid_ctrl.h"
 
 #include "frame/notify.h"
+#include "frame/rectangles.h"
 #include "grid/core/grid_keys.h"
 #include "grid/grid_ctrl_core.h"
 

@@ -1,7 +1,9 @@
 #include "grid/grid_ctrl.h"
 
+#include "frame/dc_guards.h"
 #include "frame/out_of_memory.h"
-#include "frame/select_object.h"
+#include "frame/paint_objects.h"
+#include "frame/rectangles.h"
 #include "frame/text_out.h"
 #include "grid/grid_ctrl_core.h"
 

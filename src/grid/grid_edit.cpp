@@ -1,6 +1,6 @@
 #include "grid/grid_edit.h"
 
-#include "frame/wnd_port.h"
+#include "frame/rectangles.h"
 #include "grid/core/grid_keys.h"
 
 BEGIN_MESSAGE_MAP(QVGridEdit, CEdit)

@@ -1,6 +1,6 @@
 #include "grid/grid_list.h"
 
-#include "frame/wnd_port.h"
+#include "frame/rectangles.h"
 #include "grid/core/grid_list_rect.h"
 
 #include <utility>

@@ -68,10 +68,18 @@ bool QVTreeCtrlEx::Core::ReplacesRowRect() const {
     return m_tree.MayReplaceSteps();
 }
 
-qv::Rect QVTreeCtrlEx::Core::RowRect(int nTop, HTREEITEM hItem, bool bTextOnly) {
+// ask gets a context of the window with the tree's font.
+template <class Ask>
+auto QVTreeCtrlEx::Core::AskInOwnDC(Ask ask) {
     return qv::AsBadAlloc([&] {
         CClientDC dc(&m_tree);
         const qv::SelectGuard<CFont> font(dc, m_tree.m_hFont);
+        return ask(dc);
+    });
+}
+
+qv::Rect QVTreeCtrlEx::Core::RowRect(int nTop, HTREEITEM hItem, bool bTextOnly) {
+    return AskInOwnDC([&](CDC& dc) {
         CRect rc;
         m_tree.CalcItemRect(dc, nTop, hItem, rc, bTextOnly);
         return qv::ToRect(rc);
@@ -79,9 +87,7 @@ qv::Rect QVTreeCtrlEx::Core::RowRect(int nTop, HTREEITEM hItem, bool bTextOnly) 
 }
 
 int QVTreeCtrlEx::Core::WidestRow() {
-    return qv::AsBadAlloc([this] {
-        CClientDC dc(&m_tree);
-        const qv::SelectGuard<CFont> font(dc, m_tree.m_hFont);
+    return AskInOwnDC([this](CDC& dc) {
         int nWidest = 0;
         for (HTREEITEM h = Items().Root(); h != nullptr; h = Items().NextDisplayableItem(h)) {
             CRect rc;

@@ -30,6 +30,9 @@ public:
     void NfySelectItem(HTREEITEM hItem) override;
 
 private:
+    template <class Ask>
+    auto AskInOwnDC(Ask ask);
+
     QVTreeCtrlEx& m_tree;
     qv::WndPort m_port;
     qv::FontMeasure m_measure;

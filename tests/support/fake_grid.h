@@ -22,7 +22,7 @@ public:
     static constexpr unsigned kButtonOrList = qv::GridEditing::kButtonOrList;
     static constexpr unsigned kListChanged = qv::GridEditing::kListChanged;
     static constexpr unsigned kEditChanged = 0x300;
-    static constexpr unsigned kFocusLeft = 0x400;  // a window beside the grid
+    static constexpr unsigned kMoved = 0x400;  // focus or mouse, which anybody may hear of
     static constexpr int kHeight = 20;
     static constexpr int kPage = 5;
     enum class Focus { Elsewhere, Grid, Edit };
@@ -32,7 +32,7 @@ public:
     // The parent and everybody else that hears of things, who may delete the grid.
     std::function<void(unsigned nCode)> onTold;
     void Tell(unsigned nCode) {
-        if (nCode != kFocusLeft) {
+        if (nCode != kMoved) {
             strTold += nCode == kEditChanged ? "change " : std::to_string(nCode) + " ";
         }
         if (onTold) {
@@ -48,12 +48,13 @@ public:
         if (from == to) {
             return;
         }
-        if (from == Focus::Elsewhere) {
-            Tell(kFocusLeft);
-        } else if (from == Focus::Grid) {
+        if (from == Focus::Grid) {
             editing.LostFocus();
-        } else {
+        } else if (from == Focus::Edit) {
             editing.SaveEdit();
+        }
+        if (watch) {
+            Tell(kMoved);
         }
         if (!watch || focus != to) {
             return;
@@ -113,9 +114,15 @@ public:
     void TakeFocus() override { MoveFocus(Focus::Grid); }
     bool HasMouse() const override { return bMouse; }
     void CaptureMouse() override { bMouse = true; }
-    void ReleaseMouse() override { bMouse = false; }
+    void ReleaseMouse() override {
+        bMouse = false;
+        Tell(kMoved);
+    }
     void TellParent(unsigned nCode) override { Tell(nCode); }
-    void HandleByDefault() override { ++nDefaults; }
+    void HandleByDefault() override {
+        ++nDefaults;
+        Tell(kMoved);
+    }
     bool SameText(const char* psz1, const char* psz2) const override {
         return std::strcmp(psz1, psz2) == 0;
     }

@@ -109,7 +109,9 @@ bool GridEditing::LedElsewhere(unsigned nMove, GridCell cell) const {
 }
 
 void GridEditing::ActivateCell(GridCell cell) {
-    if (m_host.Window() == nullptr || (IsCurrent(cell) && m_state.m_bEditing)) {
+    // The edit may be another cell's that is only just becoming the current one.
+    const bool bOthersEdit = m_edit.Up() && m_editCell != cell;
+    if (m_host.Window() == nullptr || (IsCurrent(cell) && m_state.m_bEditing && !bOthersEdit)) {
         return;
     }
     if (!m_model.UsesEdit(cell.nCol) || (m_model.Style(cell.nRow, cell.nCol) & GCS_READONLY) != 0) {
@@ -132,9 +134,7 @@ void GridEditing::ActivateCell(GridCell cell) {
 }
 
 void GridEditing::OpenEdit(GridCell cell) {
-    const Watch watch(*this);
-    m_edit.MakeHidden();
-    if (!ShowTextInEdit(cell)) {
+    if (!PrepareEdit(cell)) {
         return;
     }
     m_editCell = cell;  // the rows may be other ones now, and lie elsewhere
@@ -145,19 +145,26 @@ void GridEditing::OpenEdit(GridCell cell) {
     m_edit.TakeFocus();
 }
 
-// The parent hears of the new text, and may change the cell. A text that it changed must not come
-// back when the edit is saved: it is shown then, once more. False if the edit is not to open here
-// any more.
-bool GridEditing::ShowTextInEdit(GridCell cell) {
+// Hidden, with the cell's text. The parent hears of that, and may change the cell: a text that it
+// changed must not come back when the edit is saved, and is shown once more. False if the edit is
+// not to open here any more.
+bool GridEditing::PrepareEdit(GridCell cell) {
     const Watch watch(*this);
     const unsigned nMove = m_nMoves;
     const unsigned nOpening = ++m_nOpenings;
+    const auto opens = [&] {
+        return watch && nOpening == m_nOpenings && !LedElsewhere(nMove, cell);
+    };
+    m_edit.MakeHidden();
+    if (!opens()) {
+        return false;
+    }
     m_editCell = cell;
     std::string strShown;
     for (int nTry = 0; nTry == 0 || (nTry == 1 && strShown != TextOf(cell)); ++nTry) {
         strShown = TextOf(cell);
         m_edit.SetText(strShown.c_str());
-        if (!watch || nOpening != m_nOpenings || LedElsewhere(nMove, cell)) {
+        if (!opens()) {
             return false;
         }
     }

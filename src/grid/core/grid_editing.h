@@ -97,7 +97,7 @@ private:
     void PutRowMarkBack(int nRow);
     bool LedElsewhere(unsigned nMove, GridCell cell) const;
     void OpenEdit(GridCell cell);
-    bool ShowTextInEdit(GridCell cell);
+    bool PrepareEdit(GridCell cell);
     void FillList(const CStringArray& choices);
     void PlaceEdit();
     void PlaceList();

@@ -90,17 +90,4 @@ Rect GridEditRect(const Rect& rcCell, int nButtonWidth) {
     return rc;
 }
 
-int TopAfterScrollDown(int nTop, int nRows, int nCount, int nPage) {
-    const int nMaxTop = nCount - nPage;
-    return nTop < nMaxTop ? nTop + std::clamp(nRows, 0, nMaxTop - nTop) : nTop;
-}
-
-int TopAfterScrollUp(int nTop, int nRows) {
-    return nTop > 0 ? std::max(nTop - std::max(nRows, 0), 0) : nTop;
-}
-
-int TopAfterScrollTo(int nRow, int nCount, int nPage) {
-    return std::max(std::min(std::max(nRow, 0), nCount - nPage), 0);
-}
-
 }  // namespace qv

@@ -42,9 +42,4 @@ Rect GridFocusRect(const Rect& rcCell, int nButtonWidth);
 // The in-place edit.
 Rect GridEditRect(const Rect& rcCell, int nButtonWidth);
 
-// The top row after scrolling, nPage being the whole rows that show. None is negative.
-int TopAfterScrollDown(int nTop, int nRows, int nCount, int nPage);
-int TopAfterScrollUp(int nTop, int nRows);
-int TopAfterScrollTo(int nRow, int nCount, int nPage);
-
 }  // namespace qv

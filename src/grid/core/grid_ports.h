@@ -39,7 +39,7 @@ public:
     virtual void TakeFocus() = 0;  // out
     virtual bool HasMouse() const = 0;
     virtual void CaptureMouse() = 0;
-    virtual void ReleaseMouse() = 0;
+    virtual void ReleaseMouse() = 0;  // out
 
     virtual void TellParent(unsigned nCode) = 0;  // out
     // What the platform does with the message at hand.
@@ -55,7 +55,7 @@ public:
     virtual bool Made() const = 0;
     virtual bool Up() const = 0;
     // Is there, and hidden.
-    virtual void MakeHidden() = 0;
+    virtual void MakeHidden() = 0;  // out, if it has the focus
     virtual std::string Text() const = 0;
     virtual void SetText(const char* psz) = 0;  // out: a change is told
     virtual void SelectAll() = 0;

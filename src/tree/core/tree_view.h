@@ -17,6 +17,7 @@
 #pragma once
 
 #include "base/window_port.h"
+#include "frame/core/row_scroll.h"
 #include "tree/core/shown_rows.h"
 #include "tree/core/tree_columns.h"
 #include "tree/core/tree_items.h"
@@ -146,7 +147,6 @@ private:
     // As the control has it.
     Rect RowRect(int nTop, HTREEITEM hItem, bool bTextOnly);
     bool FindRect(HTREEITEM hItem, Rect& rect, bool bTextOnly);
-    int RowsThatFit(int nHeight);
     void CheckStyles();
     int TextExtent(HTREEITEM hItem, TextMeasure* pOther);
     bool HasStyleBit(unsigned nBit) const;
@@ -156,16 +156,9 @@ private:
     int CountRows();
     HTREEITEM ShownAncestor(HTREEITEM hItem) const;
     int ScrollView(int nRows, bool bDown);
-    void FitVerticalBar(const Rect& rcClient, int nRows, bool bNeeded);
-    void FitHorizontalBar(const Rect& rcClient, bool bNeeded);
-    int HorizontalStep(unsigned nCode, int nPos) const;
-
-    // Marks a refit as under way, also if a replaced step throws.
-    struct Fitting {
-        explicit Fitting(TreeView& view) : m_view(view) { m_view.m_bFitting = true; }
-        ~Fitting() { m_view.m_bFitting = false; }
-        TreeView& m_view;
-    };
+    bool FitVerticalBar(const BarPlan& plan, int nRows);
+    bool FitHorizontalBar(const BarPlan& plan);
+    int MoveRows(ScrollMove move);
 
     WindowPort& m_port;
     TextMeasure& m_measure;
@@ -186,9 +179,8 @@ private:
     std::uint16_t m_nExtentEpoch = 1;
     int m_nExtentStyles = 0;  // entries of the style table when the extents were measured
     RowMetrics m_metrics;
-    bool m_bFitting = false;
-    bool m_bFitDue = false;  // the last one ran out of memory
-    bool m_bResizedWhileFitting = false;
+    RowScroll m_scroll{m_port};
+    bool m_bFitDue = false;  // the last refit ran out of memory
 };
 
 }  // namespace qv

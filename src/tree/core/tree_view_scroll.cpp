@@ -3,16 +3,22 @@
 #include <algorithm>
 #include <cstdlib>
 #include <new>
-#include <utility>
 
 namespace qv {
 
 namespace {
 
 constexpr int kHorizontalMargin = 4;  // of the client width is no part of a horizontal page
-constexpr int kHorizontalStep = 4;    // pixels a click on an arrow
+constexpr int kHorizontalLine = 4;    // pixels a click on an arrow
 constexpr int kHorizontalUnit = 2;    // pixels the horizontal bar counts as one
 constexpr int kStepwiseScroll = 16;   // rows up to which walking beats asking the index
+
+// The ends of a bar lead nowhere.
+ScrollMove TreeMove(unsigned nCode, ScrollSteps steps, int nThumb) {
+    const ScrollMove move = MoveOf(nCode, steps, nThumb);
+    const bool bEnd = move.kind == ScrollMove::Kind::Top || move.kind == ScrollMove::Kind::Bottom;
+    return bEnd ? ScrollMove{} : move;
+}
 
 }  // namespace
 
@@ -84,10 +90,6 @@ HTREEITEM TreeView::ShownAncestor(HTREEITEM hItem) const {
 
 // --- The refit
 
-int TreeView::RowsThatFit(int nHeight) {
-    return ItemHeight() > 0 ? nHeight / ItemHeight() : 0;
-}
-
 void TreeView::CalcBottomItem() {
     if (!m_port.HasWindow()) {
         return;
@@ -97,7 +99,7 @@ void TreeView::CalcBottomItem() {
         return;
     }
     m_items.SetBottom(m_items.Top());
-    for (int nRows = RowsThatFit(m_port.ClientRect().Height()); nRows > 1; --nRows) {
+    for (int nRows = WholeRows(m_scroll.ClientSize().cy, ItemHeight()); nRows > 1; --nRows) {
         const HTREEITEM hNext = m_items.NextDisplayableItem(m_items.Bottom());
         if (hNext == nullptr) {
             break;
@@ -115,7 +117,7 @@ void TreeView::CalcTopItem() {
         return;
     }
     HTREEITEM hTop = m_items.Bottom();
-    for (int nRows = RowsThatFit(m_port.ClientRect().Height()); nRows > 1; --nRows) {
+    for (int nRows = WholeRows(m_scroll.ClientSize().cy, ItemHeight()); nRows > 1; --nRows) {
         const HTREEITEM hLast = m_items.LastDisplayableItem(hTop);
         if (hLast == nullptr) {
             break;
@@ -128,16 +130,12 @@ void TreeView::CalcTopItem() {
     }
 }
 
-// Showing a bar resizes the window, which leads back here: the call that is under way has the whole
-// picture and finishes the job.
 void TreeView::CalcScroll() {
-    if (!m_port.HasWindow() || m_bFitting) {
-        return;
-    }
-    const Fitting fitting(*this);
-    m_bFitDue = false;
     try {
-        Fit();
+        m_scroll.Fit([this] {
+            m_bFitDue = false;
+            Fit();
+        });
     } catch (const std::bad_alloc&) {
         m_bFitDue = true;
     }
@@ -152,76 +150,63 @@ void TreeView::FitIfDue() {
 
 // Works from the client area as it would be without bars, since one bar may force the other.
 void TreeView::Fit() {
-    const int cyBar = m_port.HorizontalBarHeight();
-    const int cxBar = m_port.VerticalBarWidth();
-    Rect rcClient = m_port.ClientRect();
-    rcClient.bottom += m_nHPage != 0 ? cyBar : 0;
-    rcClient.right += m_nVPage != 0 ? cxBar : 0;
-
     m_items.SetTop(ShownAncestor(m_items.Top()));
     const int nRows = CountRows();
-    bool bHorizontal = m_nMaxWidth > rcClient.Width();
-    if (bHorizontal) {
-        rcClient.bottom -= cyBar;
-    }
     // Without rows the height is not asked for: it is measured once, and image lists may come yet.
-    const bool bVertical = nRows > 0 && ItemHeight() != 0 && nRows > RowsThatFit(rcClient.Height());
-    if (bVertical) {
-        rcClient.right -= cxBar;
-        if (!bHorizontal && m_nMaxWidth > rcClient.Width()) {
-            bHorizontal = true;
-            rcClient.bottom -= cyBar;
-        }
-    }
-    FitVerticalBar(rcClient, nRows, bVertical);
-    FitHorizontalBar(rcClient, bHorizontal);
-    if (std::exchange(m_bResizedWhileFitting, false)) {
+    const int cyRow = nRows > 0 ? ItemHeight() : 0;
+    const BarPlan plan = PlanBars(m_scroll.SizeWithout(m_nHPage != 0, m_nVPage != 0),
+                                  m_scroll.BarSizes(), {m_nMaxWidth, nRows, cyRow});
+    if (FitVerticalBar(plan, nRows) && FitHorizontalBar(plan) && m_scroll.WasResized()) {
         CalcBottomItem();
     }
 }
 
-void TreeView::FitVerticalBar(const Rect& rcClient, int nRows, bool bNeeded) {
+// False once the window is gone.
+bool TreeView::FitVerticalBar(const BarPlan& plan, int nRows) {
     const bool bShown = m_nVPage != 0;
-    if (bNeeded) {
+    if (plan.bVert) {
         // At least 1, which also says that the bar is shown, in a window lower than a row.
-        m_nVPage = std::max(1, RowsThatFit(rcClient.Height()));
-        if (!bShown) {
-            m_port.ShowScrollBar(SB_VERT, true);
+        m_nVPage = std::max(1, WholeRows(plan.room.cy, ItemHeight()));
+        if (!bShown && !m_scroll.ShowBar(SB_VERT, true)) {
+            return false;
         }
-        m_port.SetScrollRange(SB_VERT, {0, nRows - 1, m_nVPage, m_nVScrollPos});
-        return;
+        m_port.SetScrollRange(SB_VERT, ScrollAxis{m_nVScrollPos, nRows, m_nVPage}.Range());
+        return true;
     }
     m_nVPage = 0;
     m_nVScrollPos = 0;
     m_items.SetTop(m_items.Root());
-    m_port.ShowScrollBar(SB_VERT, false);
+    if (!m_scroll.ShowBar(SB_VERT, false)) {
+        return false;
+    }
     if (bShown) {
         InvalidateAll();
     }
+    return true;
 }
 
-void TreeView::FitHorizontalBar(const Rect& rcClient, bool bNeeded) {
+bool TreeView::FitHorizontalBar(const BarPlan& plan) {
     const bool bShown = m_nHPage != 0;
-    if (bNeeded) {
-        m_nHPage = rcClient.Width() - kHorizontalMargin;
-        if (m_nHPage <= 0) {
-            m_nHPage = 1;  // as above
-        }
-        if (!bShown) {
-            m_port.ShowScrollBar(SB_HORZ, true);
+    if (plan.bHorz) {
+        m_nHPage = std::max(1, plan.room.cx - kHorizontalMargin);  // 1 as above
+        if (!bShown && !m_scroll.ShowBar(SB_HORZ, true)) {
+            return false;
         }
         m_port.SetScrollRange(SB_HORZ,
                               {0, m_nMaxWidth / kHorizontalUnit, m_nHPage / kHorizontalUnit,
                                m_nHScrollPos / kHorizontalUnit});
-        return;
+        return true;
     }
     const bool bMoves = m_nHScrollPos != 0;
     m_nHPage = 0;
     m_nHScrollPos = 0;
-    m_port.ShowScrollBar(SB_HORZ, false);
-    if ((bShown || bMoves)) {
+    if (!m_scroll.ShowBar(SB_HORZ, false)) {
+        return false;
+    }
+    if (bShown || bMoves) {
         InvalidateAll();
     }
+    return true;
 }
 
 // After a change that may leave rows above the view and room below it.
@@ -232,12 +217,10 @@ void TreeView::RefitAll() {
 }
 
 void TreeView::Resize() {
-    if (m_bFitting) {
-        m_bResizedWhileFitting = true;
-        return;
+    if (!m_scroll.NoteResize()) {
+        CalcScroll();
+        CalcBottomItem();
     }
-    CalcScroll();
-    CalcBottomItem();
 }
 
 // --- Scrolling
@@ -280,33 +263,27 @@ int TreeView::ScrollTreeUp(int nRows) {
     return ScrollView(nRows, false);
 }
 
-void TreeView::VScroll(unsigned nCode, int nPos) {
-    int nDelta = 0;
-    switch (nCode) {
-        case SB_LINEUP:
-            nDelta = -ScrollTreeUp(1);
-            break;
-        case SB_LINEDOWN:
-            nDelta = ScrollTreeDown(1);
-            break;
-        case SB_PAGEUP:
-            nDelta = -ScrollTreeUp(m_nVPage - 1);
-            break;
-        case SB_PAGEDOWN:
-            nDelta = ScrollTreeDown(m_nVPage - 1);
-            break;
-        case SB_THUMBPOSITION:
-        case SB_THUMBTRACK: {
-            // The message carries 16 bits of the position; the bar knows all of them.
-            m_port.GetScrollPosition(SB_VERT, nCode == SB_THUMBTRACK, nPos);
-            const int nRows = std::max(nPos, 0) - m_nVScrollPos;
-            nDelta = nRows > 0 ? ScrollTreeDown(nRows) : -ScrollTreeUp(-nRows);
-            break;
+int TreeView::MoveRows(ScrollMove move) {
+    switch (move.kind) {
+        case ScrollMove::Kind::Up:
+            return -ScrollTreeUp(move.nRows);
+        case ScrollMove::Kind::Down:
+            return ScrollTreeDown(move.nRows);
+        case ScrollMove::Kind::Thumb: {
+            const int nRows = std::max(move.nRows, 0) - m_nVScrollPos;
+            return nRows > 0 ? ScrollTreeDown(nRows) : -ScrollTreeUp(-nRows);
         }
         default:
-            break;
+            return 0;
     }
-    if (nDelta != 0) {
+}
+
+void TreeView::VScroll(unsigned nCode, int nPos) {
+    ScrollMove move = TreeMove(nCode, {1, m_nVPage - 1}, nPos);
+    if (move.kind == ScrollMove::Kind::Thumb) {
+        move.nRows = m_scroll.ThumbPosition(SB_VERT, nCode).value_or(nPos);
+    }
+    if (const int nDelta = MoveRows(move)) {
         if (std::abs(nDelta) < m_nVPage) {
             const int nHeight = ItemHeight();
             m_port.ScrollPixels(0, -nHeight * nDelta, true);
@@ -325,30 +302,12 @@ void TreeView::VScroll(unsigned nCode, int nPos) {
     CalcScroll();
 }
 
-// Pixels that the content moves to the right; below 0 it moves left.
-int TreeView::HorizontalStep(unsigned nCode, int nPos) const {
-    const int nScrolled = m_nHScrollPos;
-    const int nLimit = m_nMaxWidth - m_nHPage;
-    switch (nCode) {
-        case SB_LINELEFT:
-            return nScrolled <= 0 ? 0 : nScrolled <= kHorizontalStep ? nScrolled : kHorizontalStep;
-        case SB_PAGELEFT:
-            return nScrolled <= 0 ? 0 : std::min(nScrolled, m_nHPage);
-        case SB_LINERIGHT:
-            return nScrolled >= nLimit ? 0 : -std::min(nLimit - nScrolled, kHorizontalStep);
-        case SB_PAGERIGHT:
-            return nScrolled >= nLimit ? 0 : -std::min(nLimit - nScrolled, m_nHPage);
-        case SB_THUMBPOSITION:
-        case SB_THUMBTRACK:
-            return nScrolled - kHorizontalUnit * nPos;
-        default:
-            return 0;
-    }
-}
-
 void TreeView::HScroll(unsigned nCode, int nPos) {
-    if (const int nStep = HorizontalStep(nCode, nPos)) {
-        m_nHScrollPos -= nStep;
+    const ScrollMove move = TreeMove(nCode, {kHorizontalLine, m_nHPage}, kHorizontalUnit * nPos);
+    const ScrollAxis axis{m_nHScrollPos, m_nMaxWidth, m_nHPage};
+    const int nTarget = Target(axis, move, ThumbLimit::Followed).value_or(m_nHScrollPos);
+    if (const int nStep = m_nHScrollPos - nTarget) {
+        m_nHScrollPos = nTarget;
         m_port.ScrollPixels(nStep, 0, true);
         m_port.Update();
     }
