@@ -6,7 +6,7 @@
 #include "print/core/text_wrap.h"
 #include "support/fake_page_items.h"
 #include "support/test_tree.h"
-#include "text/core/text_rows.h"
+#include "text/core/display_rows.h"
 
 #include <algorithm>
 #include <malloc.h>
@@ -27,7 +27,7 @@ constexpr int kLeaves = 109;  // 100 + 1,000 + 109,000 items
 
 double Append(int nItems) {
     TestTree tree;
-    tree.m_bRedraw = false;
+    tree.SetRedraw(false);
     return bench::Time([&] {
         for (int i = 0; i < nItems; ++i) {
             tree.InsertItem(kText, 0, 0, nullptr, TVI_LAST);
@@ -59,7 +59,7 @@ double ExpandAll() {
     tree.SetRedraw(true);
     return bench::Time([&] {
         tree.SetRedraw(false);
-        for (HTREEITEM h = tree.m_hRootItem; h != nullptr; h = tree.WalkNext(h)) {
+        for (HTREEITEM h = tree.Root(); h != nullptr; h = tree.Items().WalkNext(h)) {
             tree.Expand(h, TVE_EXPAND, false, false);
         }
         tree.SetRedraw(true);
@@ -81,7 +81,7 @@ std::vector<std::string> RandomTexts(int nTexts) {
 
 double Sort(const std::vector<std::string>& texts) {
     TestTree tree;
-    tree.m_bRedraw = false;
+    tree.SetRedraw(false);
     HTREEITEM hParent = tree.Add("parent");
     for (const std::string& strText : texts) {
         tree.Add(strText, hParent);
@@ -101,7 +101,7 @@ double BytesAnItem(bool bIndexed) {
     if (bIndexed) {
         Fill(tree, kMillion);
     } else {
-        tree.m_bRedraw = false;
+        tree.SetRedraw(false);
         for (int i = 0; i < kMillion; ++i) {
             tree.InsertItem(kText, 0, 0, nullptr, TVI_LAST);
         }
@@ -134,14 +134,14 @@ void MeasureRows() {
         });
     });
     bench::Figure("tree/core-insert-redraw-on-100k", nInsert / 1000 * 1e9, "ns");
-    HTREEITEM hLast = tree.m_hRootItem;
+    HTREEITEM hLast = tree.Root();
     while (hLast->pNextSibling != nullptr) {
         hLast = hLast->pNextSibling;
     }
     const double nEnsure = bench::MedianOf([&] {
         return bench::Time([&] {
             tree.EnsureVisible(hLast);
-            tree.EnsureVisible(tree.m_hRootItem);
+            tree.EnsureVisible(tree.Root());
         });
     });
     bench::Figure("tree/core-ensure-far", nEnsure / 2 * 1e6, "us");
@@ -149,8 +149,8 @@ void MeasureRows() {
         TestTree full;
         Fill(full, 100000);
         return bench::Time([&] {
-            while (full.m_hRootItem != nullptr) {
-                full.DeleteItem(full.m_hRootItem);
+            while (full.Root() != nullptr) {
+                full.DeleteItem(full.Root());
             }
         });
     });

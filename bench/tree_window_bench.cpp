@@ -20,10 +20,11 @@ constexpr int kMiddle = 10;
 constexpr int kLeaves = 109;
 constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | TVS_HASLINES | TVS_HASBUTTONS | TVS_LINESATROOT;
 
-struct Ours {
+template <class Tree>
+struct OursOf {
     Frame frame;
-    QVTreeCtrlEx tree;
-    Ours() { tree.Create(kStyle, CRect(0, 0, 400, 600), &frame, 1); }
+    Tree tree;
+    OursOf() { tree.Create(kStyle, CRect(0, 0, 400, 600), &frame, 1); }
     HTREEITEM Add(const char* psz, HTREEITEM hParent) {
         return tree.InsertItem(psz, 0, 0, hParent, TVI_LAST);
     }
@@ -31,6 +32,11 @@ struct Ours {
     void Clear() { tree.DeleteAllItems(); }
     CWnd& Window() { return tree; }
 };
+
+using Ours = OursOf<QVTreeCtrlEx>;
+
+// Counts as one that replaces steps, though it replaces none.
+class DerivedTree : public QVTreeCtrlEx {};
 
 struct Theirs {
     Frame frame;
@@ -156,9 +162,21 @@ double TimeRepaint() {
            kPaints;
 }
 
+template <class Tree>
+double TimeSort() {
+    OursOf<Tree> side;
+    HTREEITEM hParent = side.Add("parent", nullptr);
+    side.tree.SetRedraw(FALSE);
+    for (const std::string& strText : Texts()) {
+        side.Add(strText.c_str(), hParent);
+    }
+    return bench::Time([&] { side.tree.SortChildren(hParent); });
+}
+
+template <class Tree>
 void MeasureSteps(int nRows, const std::string& strSuffix) {
     constexpr int kSteps = 50;
-    Ours side;
+    OursOf<Tree> side;
     FillFlat(side, nRows);
     CWnd& wnd = side.Window();
     side.tree.SelectItem(side.tree.GetRootItem());
@@ -191,7 +209,7 @@ void MeasureSteps(int nRows, const std::string& strSuffix) {
                 wnd.UpdateWindow();
             });
         });
-        bench::Figure("tree/ensure-visible-far-100k", nEnsure / 2 * 1e6, "us");
+        bench::Figure(("tree/ensure-visible-far-" + strSuffix).c_str(), nEnsure / 2 * 1e6, "us");
         const double nThumb = bench::MedianOf([&] {
             SCROLLINFO info{sizeof(info), SIF_POS, 0, 0, 0, nRows / 2, 0};
             return bench::Time([&] {
@@ -204,7 +222,7 @@ void MeasureSteps(int nRows, const std::string& strSuffix) {
                 wnd.UpdateWindow();
             });
         });
-        bench::Figure("tree/thumb-middle-100k", nThumb / 2 * 1e6, "us");
+        bench::Figure(("tree/thumb-middle-" + strSuffix).c_str(), nThumb / 2 * 1e6, "us");
     }
 }
 
@@ -224,8 +242,12 @@ void MeasureTree() {
             bench::MedianPair(TimeDelete<Ours>, TimeDelete<Theirs>));
     Compare("tree/repaint-page", 1e3, "ms",
             bench::MedianPair(TimeRepaint<Ours>, TimeRepaint<Theirs>));
-    MeasureSteps(100, "100");
-    MeasureSteps(kManyItems, "100k");
+    MeasureSteps<QVTreeCtrlEx>(100, "100");
+    MeasureSteps<QVTreeCtrlEx>(kManyItems, "100k");
+    MeasureSteps<DerivedTree>(100, "100-derived");
+    MeasureSteps<DerivedTree>(kManyItems, "100k-derived");
+    bench::Figure("tree/sort-100k", bench::MedianOf(TimeSort<QVTreeCtrlEx>) * 1e3, "ms");
+    bench::Figure("tree/sort-100k-derived", bench::MedianOf(TimeSort<DerivedTree>) * 1e3, "ms");
     // The platform's control takes most of a minute for this, so it runs once.
     Compare("tree/insert-redraw-on-10k", 1e3, "ms",
             {bench::MedianOf(TimeRedrawnInsertions<Ours>), TimeRedrawnInsertions<Theirs>()});

@@ -3,7 +3,8 @@
 
 #include "fuzz_input.h"
 #include "support/text_split_rule.h"
-#include "text/core/text_rows.h"
+#include "text/core/display_rows.h"
+#include "text/core/print_rows.h"
 
 #include <algorithm>
 #include <memory>
@@ -248,24 +249,6 @@ private:
         FUZZ_CHECK(row.nStyle == expected.nStyle && row.nLine == expected.nLine);
     }
 
-    // From any place that can be reached, a step leads to a place that can.
-    void Scroll() {
-        const int nCount = static_cast<int>(m_input.Byte());
-        const int nPage = static_cast<int>(m_input.Byte() % 64);
-        const int nMaxPos = std::max(nCount - nPage, 0);
-        const int nPos = static_cast<int>(m_input.Byte()) % (nMaxPos + 1);
-        const unsigned nCode = m_input.Byte() % 10;
-        const unsigned nWanted = m_input.Byte();
-        int nTarget = -1;
-        if (qv::ScrollTarget(qv::ScrollCodeOf(nCode), nWanted, nPos, nCount, nPage, nTarget)) {
-            FUZZ_CHECK(nTarget >= 0);
-            FUZZ_CHECK(nTarget <= nMaxPos || nCount < nPage);
-            FUZZ_CHECK(nTarget != nPos || nPage == 0);
-        } else {
-            FUZZ_CHECK(nTarget == -1);
-        }
-    }
-
     void Step() {
         switch (m_input.Byte() % 16) {
             case 0:
@@ -293,8 +276,6 @@ private:
             case 9:
             case 10:
                 return Print();
-            case 11:
-                return Scroll();
             default:
                 return Add();
         }
@@ -303,13 +284,10 @@ private:
     void CheckLines() {
         for (const Sister& sister : m_sisters) {
             const int nCount = static_cast<int>(sister.plain.lines.size());
-            std::size_t nLongest = 2;
             FUZZ_CHECK(sister.lines.Count() == nCount);
             for (int i = 0; i < nCount; ++i) {
                 FUZZ_CHECK(sister.lines.Line(i) == sister.plain.Line(i));
-                nLongest = std::max(nLongest, sister.plain.Line(i).size());
             }
-            FUZZ_CHECK(sister.lines.MaxLength() == static_cast<int>(nLongest) - 2);
             FUZZ_CHECK(sister.lines.Line(-1) == nullptr && sister.lines.Line(nCount) == nullptr);
         }
     }

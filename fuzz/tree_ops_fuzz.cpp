@@ -11,9 +11,8 @@ public:
         m_tree.window.size = {static_cast<int>(m_input.Byte()), static_cast<int>(m_input.Byte())};
         m_tree.onSelect = [this](HTREEITEM h) { Select(h); };
         if (m_input.Byte() % 8 == 0) {
-            m_tree.compare = [this](HTREEITEM, HTREEITEM) {
-                return static_cast<int>(m_input.Byte()) - 128;
-            };
+            m_tree.Replace(
+                [this](HTREEITEM, HTREEITEM) { return static_cast<int>(m_input.Byte()) - 128; });
         }
     }
 
@@ -41,10 +40,10 @@ private:
 
     HTREEITEM Any() {
         const unsigned n = m_input.Byte();
-        HTREEITEM h = n % 16 == 0 ? nullptr : m_tree.m_hRootItem;
+        HTREEITEM h = n % 16 == 0 ? nullptr : m_tree.Root();
         for (unsigned i = 0; h != nullptr && i < n; ++i) {
-            const HTREEITEM hNext = m_tree.WalkNext(h);
-            h = hNext != nullptr ? hNext : m_tree.m_hRootItem;
+            const HTREEITEM hNext = m_tree.Items().WalkNext(h);
+            h = hNext != nullptr ? hNext : m_tree.Root();
         }
         return h;
     }
@@ -127,19 +126,20 @@ private:
 
     void Check() {
         FUZZ_CHECK(m_tree.CheckInvariants());
-        FUZZ_CHECK(m_tree.m_nVPage >= 0 && m_tree.m_nHPage >= 0);
-        if (m_tree.m_bRedraw && m_tree.m_hRootItem != nullptr) {
+        FUZZ_CHECK(m_tree.VPage() >= 0 && m_tree.HPage() >= 0);
+        if (m_tree.Redraw() && m_tree.Root() != nullptr) {
             m_tree.CalcScroll();
             m_tree.CalcBottomItem();
-            FUZZ_CHECK(m_tree.m_hTopItem == nullptr || m_tree.m_hBottomItem != nullptr);
+            FUZZ_CHECK(m_tree.Top() == nullptr || m_tree.Bottom() != nullptr);
             // Both ends are rows, unless the root level's start has been moved away.
-            if (m_tree.m_hRootItem->pParent == nullptr && m_tree.m_hTopItem != nullptr) {
+            if (m_tree.Root()->pParent == nullptr && m_tree.Top() != nullptr) {
                 int nRow = 0;
-                HTREEITEM h = m_tree.m_hRootItem;
-                for (; h != nullptr && h != m_tree.m_hTopItem; h = m_tree.NextDisplayableItem(h)) {
+                HTREEITEM h = m_tree.Root();
+                for (; h != nullptr && h != m_tree.Top();
+                     h = m_tree.Items().NextDisplayableItem(h)) {
                     ++nRow;
                 }
-                FUZZ_CHECK(h != nullptr && nRow == m_tree.m_nVScrollPos);
+                FUZZ_CHECK(h != nullptr && nRow == m_tree.VScrollPos());
             }
         }
     }

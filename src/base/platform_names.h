@@ -66,6 +66,7 @@ inline HTREEITEM PlatformTreePosition(std::intptr_t nValue) {
     NAME(TVHT_TOLEFT, 0x0800)          \
     NAME(SB_HORZ, 0)                   \
     NAME(SB_VERT, 1)                   \
+    NAME(VK_ESCAPE, 0x1B)              \
     NAME(VK_PRIOR, 0x21)               \
     NAME(VK_NEXT, 0x22)                \
     NAME(VK_END, 0x23)                 \

@@ -1,12 +1,24 @@
 #include "containers/header_wnd.h"
 
+#include "containers/core/header_bar.h"
 #include "frame/ancestor_font.h"
 #include "frame/create_window.h"
-#include "frame/select_object.h"
+#include "frame/dc_guards.h"
+#include "frame/notify.h"
+#include "frame/rectangles.h"
 #include "frame/text_out.h"
-#include "frame/wnd_port.h"
 
 IMPLEMENT_DYNCREATE(QVHeaderWnd, CWnd)
+
+namespace {
+
+qv::HeaderBar LayoutOf(const CWnd& wnd, int nHeaderHeight) {
+    CRect rcClient;
+    wnd.GetClientRect(&rcClient);
+    return {qv::ToRect(rcClient), nHeaderHeight};
+}
+
+}  // namespace
 
 BEGIN_MESSAGE_MAP(QVHeaderWnd, CWnd)
     ON_WM_CREATE()
@@ -34,15 +46,28 @@ BOOL QVHeaderWnd::Create(DWORD dwStyle, CRect& rect, CWnd* pParent, UINT nID) {
 }
 
 int QVHeaderWnd::Initialize(UINT nID, CWnd* pParent) {
-    return InitializeBy([&] {
-        if (m_hWnd == nullptr && (pParent == nullptr || !SubclassDlgItem(nID, pParent))) {
-            return false;
-        }
-        const CFont* pFont = qv::NearestFont(pParent);
-        m_hHeaderFont = pFont != nullptr ? static_cast<HFONT>(*pFont) : nullptr;
-        CalcHeaderHeight();
-        return true;
-    });
+    return InitializeWith(nID, pParent, nullptr);
+}
+
+int QVHeaderWnd::InitializeWith(UINT nID, CWnd* pParent, MakeInner pfnMake) {
+    const bool bAttaches = m_hWnd == nullptr;
+    bool bDone = false;
+    qv::MemorySuffices(
+        [&] { bDone = Attach(nID, pParent) && (pfnMake == nullptr || (this->*pfnMake)()); });
+    if (!bDone && bAttaches && m_hWnd != nullptr) {
+        UnsubclassWindow();
+    }
+    return bDone;
+}
+
+bool QVHeaderWnd::Attach(UINT nID, CWnd* pParent) {
+    if (m_hWnd == nullptr && (pParent == nullptr || !SubclassDlgItem(nID, pParent))) {
+        return false;
+    }
+    const CFont* pFont = qv::NearestFont(pParent);
+    m_hHeaderFont = pFont != nullptr ? static_cast<HFONT>(*pFont) : nullptr;
+    CalcHeaderHeight();
+    return true;
 }
 
 // The way to a handler takes memory as well, for the objects that a message brings along.
@@ -89,12 +114,6 @@ void QVHeaderWnd::SetHeaderText(UINT nStringID) {
 
 // --- Geometry
 
-qv::HeaderBar QVHeaderWnd::Layout() const {
-    CRect rcClient;
-    GetClientRect(&rcClient);
-    return {qv::ToRect(rcClient), m_nHeaderHeight};
-}
-
 void QVHeaderWnd::CalcHeaderHeight() {
     CClientDC dc(this);
     const qv::SelectGuard<CFont> font(dc, m_hHeaderFont);
@@ -104,7 +123,7 @@ void QVHeaderWnd::CalcHeaderHeight() {
 }
 
 void QVHeaderWnd::CalcHeaderRect(CRect& rect) {
-    rect = qv::ToCRect(Layout().Bar());
+    rect = qv::ToCRect(LayoutOf(*this, m_nHeaderHeight).Bar());
 }
 
 void QVHeaderWnd::CalcHeaderTextRect(CRect& rect) {
@@ -113,11 +132,11 @@ void QVHeaderWnd::CalcHeaderTextRect(CRect& rect) {
     TEXTMETRIC metrics{};
     dc.GetTextMetrics(&metrics);
     const CSize size = qv::TextExtent(dc, qv::View(m_strHeaderText));
-    rect = qv::ToCRect(Layout().Caption(metrics.tmHeight, size.cx));
+    rect = qv::ToCRect(LayoutOf(*this, m_nHeaderHeight).Caption(metrics.tmHeight, size.cx));
 }
 
 void QVHeaderWnd::CalcBackgroundRect(CRect& rect) {
-    rect = qv::ToCRect(Layout().Body());
+    rect = qv::ToCRect(LayoutOf(*this, m_nHeaderHeight).Body());
 }
 
 // --- Painting
@@ -212,5 +231,5 @@ bool QVHeaderWnd::IsInnerId(UINT nInnerID, WPARAM wID) {
 }
 
 LRESULT QVHeaderWnd::SendToParent(UINT nMessage, WPARAM wParam, LPARAM lParam) {
-    return ::SendMessage(::GetParent(m_hWnd), nMessage, wParam, lParam);
+    return qv::SendToParent(*this, m_alive, nMessage, wParam, lParam).lResult;
 }

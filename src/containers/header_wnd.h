@@ -8,8 +8,7 @@
 
 #pragma once
 
-#include "containers/core/header_bar.h"
-#include "frame/out_of_memory.h"
+#include "frame/alive.h"
 #include "frame/qv_api.h"
 
 #include <afxwin.h>
@@ -26,9 +25,9 @@ public:
     // which WM_CREATE calls, gives 0.
     BOOL Create(DWORD dwStyle, CRect& rect, CWnd* pParent, UINT nID);
     // Attaches to the item nID of pParent if there is no window yet; 0 if there is no such item.
-    // Finds the font and sets the bar's height. A derived class calls this first, then makes its
-    // inner control, unless that has a window already: an application may call it once more after
-    // Create.
+    // Finds the font and sets the bar's height. Derived classes make their inner control here as
+    // well, unless it has a window: an application may call this once more after Create. Where that
+    // fails, or memory runs out, an item of a dialog that it attached to is let go of.
     virtual int Initialize(UINT nID, CWnd* pParent);
 
     // Height in pixels of the bar with the frame line under it. A new height neither repaints nor
@@ -53,19 +52,11 @@ protected:
 
     // --- What derived classes share
 
-    // For Initialize: runs its steps and gives 1 if they give true. Where they do not, or memory
-    // runs out, an item of a dialog that they attached to is let go of.
-    template <class Steps>
-    int InitializeBy(Steps steps) {
-        const bool bAttaches = m_hWnd == nullptr;
-        bool bDone = false;
-        qv::MemorySuffices([&] { bDone = steps(); });
-        if (!bDone && bAttaches && m_hWnd != nullptr) {
-            UnsubclassWindow();
-        }
-        return bDone;
-    }
-    // For Initialize: lets the Tab key of a dialog reach an inner control that has WS_TABSTOP.
+    // For Initialize of a derived class: what this class's one does, and then pfnMake, a member of
+    // the derived class, which gives FALSE if there is no inner control afterwards.
+    using MakeInner = BOOL (QVHeaderWnd::*)();
+    int InitializeWith(UINT nID, CWnd* pParent, MakeInner pfnMake);
+    // For pfnMake: lets the Tab key of a dialog reach an inner control that has WS_TABSTOP.
     void ShareTabStop(CWnd& wndInner);
 
     // For WM_SIZE: a restored window moves its inner control to the body.
@@ -91,6 +82,8 @@ protected:
 private:
     using CWnd::Create;
 
-    qv::HeaderBar Layout() const;
+    bool Attach(UINT nID, CWnd* pParent);
     bool Erase(CDC& dc);
+
+    qv::AliveToken m_alive;
 };

@@ -1,5 +1,7 @@
 #include "containers/list_header_wnd.h"
 
+#include "frame/out_of_memory.h"
+
 IMPLEMENT_DYNCREATE(QVListHeaderWnd, QVHeaderWnd)
 
 BEGIN_MESSAGE_MAP(QVListHeaderWnd, QVHeaderWnd)
@@ -9,7 +11,7 @@ END_MESSAGE_MAP()
 
 namespace {
 
-QVListCtrlEx* MakeList(CRuntimeClass* pListClass) {
+QVListCtrlEx* NewList(CRuntimeClass* pListClass) {
     if (pListClass == nullptr) {
         pListClass = RUNTIME_CLASS(QVListCtrlEx);
     }
@@ -22,7 +24,7 @@ QVListCtrlEx* MakeList(CRuntimeClass* pListClass) {
 
 QVListHeaderWnd::QVListHeaderWnd() : QVListHeaderWnd(nullptr) {}
 
-QVListHeaderWnd::QVListHeaderWnd(CRuntimeClass* pListClass) : m_pListCtrl(MakeList(pListClass)) {}
+QVListHeaderWnd::QVListHeaderWnd(CRuntimeClass* pListClass) : m_pListCtrl(NewList(pListClass)) {}
 
 // The list's object must still be there while its window goes.
 QVListHeaderWnd::~QVListHeaderWnd() {
@@ -37,15 +39,16 @@ void QVListHeaderWnd::SetImageInfo(UINT nBitmap, COLORREF crMask, int cx) {
 }
 
 int QVListHeaderWnd::Initialize(UINT nID, CWnd* pParent) {
-    return InitializeBy([&] {
-        return m_pListCtrl != nullptr && QVHeaderWnd::Initialize(nID, pParent) &&
-               (m_pListCtrl->m_hWnd != nullptr || CreateList());
-    });
+    return m_pListCtrl != nullptr &&
+           InitializeWith(nID, pParent, static_cast<MakeInner>(&QVListHeaderWnd::MakeList));
 }
 
 // The window of a list that could not be set up goes again.
-bool QVListHeaderWnd::CreateList() {
-    bool bDone = false;
+BOOL QVListHeaderWnd::MakeList() {
+    if (m_pListCtrl->m_hWnd != nullptr) {
+        return TRUE;
+    }
+    BOOL bDone = FALSE;
     qv::MemorySuffices([&] {
         CRect rcBody;
         CalcBackgroundRect(rcBody);

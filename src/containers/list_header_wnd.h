@@ -46,5 +46,5 @@ protected:
     QVListCtrlEx* m_pListCtrl;  // owned; null for a class that is no list
 
 private:
-    bool CreateList();
+    BOOL MakeList();
 };

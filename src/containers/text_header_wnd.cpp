@@ -15,20 +15,19 @@ QVTextHeaderWnd::~QVTextHeaderWnd() {
 }
 
 int QVTextHeaderWnd::Initialize(UINT nID, CWnd* pParent) {
-    return InitializeBy([&] {
-        if (!QVHeaderWnd::Initialize(nID, pParent)) {
-            return false;
+    return InitializeWith(nID, pParent, static_cast<MakeInner>(&QVTextHeaderWnd::MakeText));
+}
+
+BOOL QVTextHeaderWnd::MakeText() {
+    if (m_wndText.m_hWnd == nullptr) {
+        CRect rcBody;
+        CalcBackgroundRect(rcBody);
+        if (!m_wndText.Create(rcBody, this, static_cast<UINT>(-1), 0)) {
+            return FALSE;
         }
-        if (m_wndText.m_hWnd == nullptr) {
-            CRect rcBody;
-            CalcBackgroundRect(rcBody);
-            if (!m_wndText.Create(rcBody, this, static_cast<UINT>(-1), 0)) {
-                return false;
-            }
-            ShareTabStop(m_wndText);
-        }
-        return true;
-    });
+        ShareTabStop(m_wndText);
+    }
+    return TRUE;
 }
 
 void QVTextHeaderWnd::ClearTextData() {

@@ -27,4 +27,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
     QVTextWnd m_wndText;
+
+private:
+    BOOL MakeText();
 };

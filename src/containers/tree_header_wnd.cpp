@@ -15,20 +15,19 @@ QVTreeHeaderWnd::~QVTreeHeaderWnd() {
 }
 
 int QVTreeHeaderWnd::Initialize(UINT nID, CWnd* pParent) {
-    return InitializeBy([&] {
-        if (!QVHeaderWnd::Initialize(nID, pParent)) {
-            return false;
+    return InitializeWith(nID, pParent, static_cast<MakeInner>(&QVTreeHeaderWnd::MakeTree));
+}
+
+BOOL QVTreeHeaderWnd::MakeTree() {
+    if (m_wndTree.m_hWnd == nullptr) {
+        CRect rcBody;
+        CalcBackgroundRect(rcBody);
+        if (!m_wndTree.Create(m_dwTreeStyle, rcBody, this, m_nTreeID)) {
+            return FALSE;
         }
-        if (m_wndTree.m_hWnd == nullptr) {
-            CRect rcBody;
-            CalcBackgroundRect(rcBody);
-            if (!m_wndTree.Create(m_dwTreeStyle, rcBody, this, m_nTreeID)) {
-                return false;
-            }
-            ShareTabStop(m_wndTree);
-        }
-        return true;
-    });
+        ShareTabStop(m_wndTree);
+    }
+    return TRUE;
 }
 
 int QVTreeHeaderWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {

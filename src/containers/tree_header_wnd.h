@@ -36,4 +36,7 @@ protected:
                           TVS_DISABLEDRAGDROP | TVS_SHOWSELALWAYS;
     UINT m_nTreeID = static_cast<UINT>(-1);
     QVTreeCtrlEx m_wndTree;
+
+private:
+    BOOL MakeTree();
 };

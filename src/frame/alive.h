@@ -95,6 +95,26 @@ private:
     const Handle m_hThen;
 };
 
+// Sets a variable of the watched object until the end of the scope, and puts its value back.
+template <class Value>
+class SetWhileAlive {
+public:
+    SetWhileAlive(const AliveToken& token, Value& variable, Value value)
+        : m_watch(token), m_variable(variable), m_old(std::exchange(variable, value)) {}
+    ~SetWhileAlive() {
+        if (m_watch.ObjectAlive()) {
+            m_variable = m_old;
+        }
+    }
+    SetWhileAlive(const SetWhileAlive&) = delete;
+    SetWhileAlive& operator=(const SetWhileAlive&) = delete;
+
+private:
+    const AliveWatch m_watch;
+    Value& m_variable;
+    const Value m_old;
+};
+
 // A guard over a part of the watched object. It puts nothing back once the object is gone, and the
 // part with it.
 template <class Guard>

@@ -21,27 +21,19 @@
 // closed, and one whose text cannot be saved stays open with it.
 //
 // Ownership: arrays of choices are the caller's and must outlive their use; the grid owns its
-// texts, which it keeps until it is destroyed (see grid/core/grid_model.h), and its editors.
+// texts, which it keeps until it is destroyed, rows deleted or not, and its editors.
 // Coordinates are client pixels.
 
 #pragma once
 
 #include "frame/cust_ctrl.h"
-#include "grid/core/grid_layout.h"
-#include "grid/core/grid_model.h"
+#include "grid/grid_records.h"
 
 #include <afxwin.h>
 
 #include <memory>
 
-class QVGridEdit;
-class QVGridList;
-
-namespace qv {
-class WndPort;
-}
-
-class QV_CONTROLS_API QVGridCtrl : public QVCustCtrl {
+class QV_CONTROLS_API QVGridCtrl : public QVCustCtrl, protected QVGridState {
     DECLARE_DYNCREATE(QVGridCtrl)
 
 public:
@@ -102,7 +94,7 @@ public:
     BOOL IsCellReadOnly(int nRow, int nCol) const;
     // Whether a drop-list cell that is read-only by itself stays closed, tells nothing and shows no
     // button. Off, it opens like any other; that is how it has always been.
-    void SetLockReadOnlyLists(BOOL bLock) { m_bLockReadOnlyLists = bLock; }
+    void SetLockReadOnlyLists(BOOL bLock);
     // Of the whole grid. Neither repaints nor closes an editor. An edit column still opens as the
     // grid gets the focus; that is how it has always been.
     void SetReadOnly(BOOL bReadOnly) { m_bReadOnly = bReadOnly; }
@@ -117,12 +109,9 @@ public:
     // How many lines of a list show at most; the list scrolls to the others, and keeps to the
     // screen. 0 is no limit: as tall as its choices, wherever that ends, as it has always been. For
     // the next list that opens.
-    void SetMaxListLines(int nLines) { m_nMaxListLines = nLines; }
+    void SetMaxListLines(int nLines);
 
 protected:
-    friend class QVGridEdit;
-    friend class QVGridList;
-
     void Draw(CDC& dc, const CRect& rcClient) override;
     void DrawRow(CDC& dc, int nRow, const CRect& rcRow, BOOL bFocus);
     void DrawCell(CDC& dc, const CRect& rc, const CString& str, DWORD dwStyle, int nButtonWidth);
@@ -177,68 +166,30 @@ protected:
     afx_msg void OnDestroy();
     DECLARE_MESSAGE_MAP()
 
-    BOOL m_bReadOnly = FALSE;
+    // Of the cell button that is being pressed; client pixels.
+    CRect PressedButtonRect() const;
+
     int m_nCellHeight = -1;  // pixels; -1: measure before use
     int m_nTopRow = 0;       // -1 after DeleteAllRows, until the next row
-    int m_nCurRow = -1;
-    int m_nCurCol = -1;
-    CPen m_penGrid;  // live for one Draw
+    CPen m_penGrid;          // live for one Draw
     CBrush m_brWindow;
     CBrush m_brHighlight;
-    BOOL m_bEditing = FALSE;      // an editor is up
-    BOOL m_bIgnoreFocus = FALSE;  // the grid moves the focus itself
-    BOOL m_bBtnDown = FALSE;      // a cell's button is being pressed
-    BOOL m_bBtnOver = FALSE;      // with the pointer over it
-    CRect m_rcBtn;
     HFONT m_hFont = nullptr;  // not owned
     BOOL m_bRedraw = TRUE;
     SCROLLINFO m_si{};  // nPage: whole rows that show
 
 private:
-    class Watch;
+    class Core;
 
-    qv::GridLayout Layout();
     bool MeasureRows();  // if that is due; false without memory
     void RefitRows();
     bool CanRepaint() const { return m_bRedraw && m_hWnd != nullptr; }
     void InvalidateAll();
     void ShowTopRow(int nTop);
-    bool RowShows(int nRow);
-    void PlaceEdit();
-    void PlaceList();
-    void PlaceEditors();
-    void CloseListOutOfView();
     bool IsCurrent(int nRow, int nCol) const { return nRow == m_nCurRow && nCol == m_nCurCol; }
-    bool EditUp() const;
-    bool ListUp() const;
-    bool IsLockedList(int nRow, int nCol) const;
-    void MoveRowMark(int nRow);
-    bool LedElsewhere(unsigned nMove, int nRow, int nCol) const;
-    bool KeepTypedText();
-    bool SaveEdit();
-    void OpenEdit(int nRow, int nCol);
-    void MakeEdit();
-    void FillList(const CStringArray& strings);
-    bool KeepChosenLine();
     bool ReadCell(int nRow, int nCol, CString& str) const;
     void DrawRows(CDC& dc, const CRect& rcClient);
-    void SaveEditors();
-    void DropEditors(int nRow, int nCol);
-    void PressButton(bool bPressed);
-    void NotifyParent(UINT nCode);
-    void MoveListSelection(bool bDown);
-    bool OwnKey(UINT nChar);
 
-    qv::GridModel m_model;
-    std::unique_ptr<qv::WndPort> m_pPort;
-    qv::GridCell m_editCell;  // that the edit was opened for
+    std::unique_ptr<Core> m_pCore;
     BOOL m_bShowAddedRows = FALSE;
-    BOOL m_bLockReadOnlyLists = FALSE;
-    int m_nMaxListLines = 0;
-    bool m_bShowingBar = false;
-    unsigned m_nMoves = 0;     // of the current cell
-    unsigned m_nOpenings = 0;  // of the edit
-    std::unique_ptr<QVGridEdit> m_pEdit;
-    std::unique_ptr<QVGridList> m_pList;
-    std::shared_ptr<bool> m_pAlive;  // false once the control is gone
 };

@@ -1,10 +1,11 @@
 #include "grid/grid_ctrl.h"
 
+#include "frame/dc_guards.h"
 #include "frame/out_of_memory.h"
-#include "frame/select_object.h"
+#include "frame/paint_objects.h"
+#include "frame/rectangles.h"
 #include "frame/text_out.h"
-#include "frame/wnd_port.h"
-#include "grid/grid_editors.h"
+#include "grid/grid_ctrl_core.h"
 
 #include <algorithm>
 
@@ -39,13 +40,13 @@ bool QVGridCtrl::MeasureRows() {
     if (m_nCellHeight == -1) {
         CalcCellHeight();
         RefitRows();
-        PlaceEditors();
+        m_pCore->editing.PlaceEditors();
     }
     return m_nCellHeight != -1;
 }
 
 void QVGridCtrl::OnPaint() {
-    m_pPort->DrawBars();
+    m_pCore->port.DrawBars();
     QVCustCtrl::OnPaint();
 }
 
@@ -67,7 +68,7 @@ void QVGridCtrl::DrawRows(CDC& dc, const CRect& rcClient) {
     const qv::SelectGuard<CFont> font(dc, m_hFont);
     const qv::ColorGuard colors(dc);
     dc.SetTextColor(Sys(COLOR_WINDOWTEXT));
-    const qv::GridLayout layout{m_model, qv::ToRect(rcClient), m_nCellHeight, m_nTopRow};
+    const qv::GridLayout layout{m_pCore->model, qv::ToRect(rcClient), m_nCellHeight, m_nTopRow};
     const int nEnd = layout.EndOfShownRows();
     for (int nRow = m_nTopRow; nRow < nEnd; ++nRow) {
         const CRect rcRow = qv::ToCRect(layout.RowRect(nRow));
@@ -78,11 +79,11 @@ void QVGridCtrl::DrawRows(CDC& dc, const CRect& rcClient) {
 }
 
 void QVGridCtrl::DrawRow(CDC& dc, int nRow, const CRect& rcRow, BOOL bFocus) {
-    const _QVGRID_ROW_INFO& row = m_model.RowAt(nRow);
+    const _QVGRID_ROW_INFO& row = m_pCore->model.RowAt(nRow);
     const int nLast = NumColumns() - 1;
     CRect rc(rcRow);
     for (int nCol = 0; nCol <= nLast; ++nCol, rc.left = rc.right) {
-        const char* pszText = m_model.Text(nRow, nCol);
+        const char* pszText = m_pCore->model.Text(nRow, nCol);
         const CString strText(pszText != nullptr ? pszText : "");
         const DWORD dwStyle = GetCellStyle(nRow, nCol);
         rc.right = nCol == nLast ? rcRow.right : rc.left + GetColWidth(nCol);
@@ -97,7 +98,7 @@ void QVGridCtrl::DrawRow(CDC& dc, int nRow, const CRect& rcRow, BOOL bFocus) {
         }
         const bool bCurrent = IsCurrent(nRow, nCol);
         const bool bButton = bCurrent && UseFieldButton(nCol) && (dwStyle & GCS_DISABLED) == 0 &&
-                             !m_bReadOnly && !IsLockedList(nRow, nCol);
+                             !m_bReadOnly && !m_pCore->editing.IsLockedList({nRow, nCol});
         DrawCell(dc, rc, strText, dwStyle | (bCurrent && bFocus ? GCS_FOCUS : 0),
                  bButton ? m_nCellHeight : 0);
         if (bButton) {
@@ -172,8 +173,8 @@ LRESULT QVGridCtrl::OnGetFont(WPARAM, LPARAM) {
 LRESULT QVGridCtrl::OnSetFont(WPARAM wParam, LPARAM lParam) {
     m_nCellHeight = -1;
     m_hFont = reinterpret_cast<HFONT>(wParam);
-    for (CWnd* pEditor : {static_cast<CWnd*>(m_pEdit.get()), static_cast<CWnd*>(m_pList.get())}) {
-        if (pEditor != nullptr) {
+    for (CWnd* pEditor : {static_cast<CWnd*>(&m_pCore->edit), static_cast<CWnd*>(&m_pCore->list)}) {
+        if (pEditor->m_hWnd != nullptr) {
             pEditor->SendMessage(WM_SETFONT, wParam, FALSE);
         }
     }

@@ -5,22 +5,11 @@
 #include "frame/out_of_memory.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
-#include "text/text_wnd_measure.h"
+#include "text/text_wnd_core.h"
 
 #include <afxext.h>
 
 #include <algorithm>
-
-namespace {
-
-// All text windows of the thread, so that one that goes can end pairings with it. Never freed:
-// global objects may be windows until the process ends.
-std::vector<QVTextWnd*>& Windows() {
-    static thread_local auto* pWindows = new std::vector<QVTextWnd*>;
-    return *pWindows;
-}
-
-}  // namespace
 
 IMPLEMENT_DYNCREATE(QVTextWnd, CWnd)
 
@@ -41,17 +30,10 @@ END_MESSAGE_MAP()
 
 QVTextWnd::QVTextWnd()
     : m_crBk(::GetSysColor(COLOR_WINDOW)),
-      m_pMeasure(qv::AsMemoryException([this] { return std::make_unique<Measure>(*this); })) {
-    qv::AsMemoryException([this] { Windows().push_back(this); });
-}
+      m_pCore(qv::AsMemoryException([this] { return std::make_unique<Core>(*this); })) {}
 
+// The window's last messages find the core.
 QVTextWnd::~QVTextWnd() {
-    std::erase(Windows(), this);
-    for (QVTextWnd* pWindow : Windows()) {
-        if (pWindow->m_pSyncWnd == this) {
-            pWindow->m_pSyncWnd = nullptr;
-        }
-    }
     DestroyWindow();
 }
 
@@ -97,8 +79,9 @@ int QVTextWnd::Initialize(UINT nID, CWnd* pParent, int bBorder) {
         if (m_hWnd == nullptr) {
             bDone = ReplaceControl(nID, pParent, bBorder);
         } else if (MeasureFont()) {
+            const qv::WindowWatch watch(m_pCore->view.Alive(), m_hWnd);
             CalculateScrollBars();
-            bDone = AddStyle(::GetSysColor(COLOR_WINDOWTEXT), m_crBk) != -1;
+            bDone = watch && AddStyle(::GetSysColor(COLOR_WINDOWTEXT), m_crBk) != -1;
         }
     });
     return bDone;
@@ -127,9 +110,9 @@ bool QVTextWnd::MeasureFont() {
     if (!CreateDisplayFont(font)) {
         return false;
     }
-    m_pMeasure->font.SetFont(static_cast<HFONT>(font.GetSafeHandle()));
-    m_rows.Forget();
-    const FontScope scope(*this, font);
+    const FontScope scope(font);
+    m_pCore->font.SetFont(static_cast<HFONT>(font.GetSafeHandle()));
+    m_pCore->view.ForgetWidths();
     CClientDC dc(this);
     const qv::SelectGuard<CFont> selected(dc, &font);
     const CSize size = qv::TextExtent(dc, "O");
@@ -146,32 +129,40 @@ void QVTextWnd::OnDestroy() {
 // --- Text
 
 int QVTextWnd::AddText(const char* pszText, int nStyle) {
-    const int nLines = m_lines.Add(pszText != nullptr ? pszText : "", nStyle);
+    const std::string_view text = pszText != nullptr ? pszText : "";
+    const int nLines = m_pCore->lines.Add(text, nStyle);
     if (nLines != -1) {
-        const size_t nLength = pszText != nullptr ? strlen(pszText) : 0;
-        m_nMaxLineLength = std::max(m_nMaxLineLength, static_cast<int>(nLength));
+        m_nMaxLineLength = std::max(m_nMaxLineLength, static_cast<int>(text.size()));
         m_nNumRows = std::max(m_nNumRows, nLines);
     }
     return nLines;
 }
 
+int QVTextWnd::NumLines() const {
+    return m_pCore->lines.Count();
+}
+
 const char* QVTextWnd::GetLine(int nLine) const {
-    return m_lines.Line(nLine);
+    return m_pCore->lines.Line(nLine);
 }
 
 const char* QVTextWnd::GetLineText(int nLine) const {
-    const char* pszLine = GetLine(nLine);
-    return pszLine != nullptr ? pszLine + qv::kLineCodeBytes : nullptr;
+    return m_pCore->lines.Text(nLine);
 }
 
 void QVTextWnd::ClearTextData() {
     m_nHScrollPos = m_nVScrollPos = 0;
     m_nMaxLineLength = m_nNumRows = 0;
     m_bHScrollBar = m_bVScrollBar = 0;
-    m_lines.Clear();
-    if (m_hWnd != nullptr) {
-        ShowScrollBar(SB_HORZ, m_pSyncWnd != nullptr);
+    m_pCore->lines.Clear();
+    const qv::WindowWatch watch(m_pCore->view.Alive(), m_hWnd);
+    if (watch) {
+        ShowScrollBar(SB_HORZ, SyncWnd() != nullptr);
+    }
+    if (watch) {
         ShowScrollBar(SB_VERT, FALSE);
+    }
+    if (watch) {
         InvalidateRect(nullptr, FALSE);
     }
 }
@@ -190,23 +181,24 @@ int QVTextWnd::LoadFile(const char* pszPath, int nStyle) {
 
 int QVTextWnd::LoadFile(CStdioFile& file, int nStyle) {
     const CWaitCursor wait;
+    const qv::AliveWatch watch(m_pCore->view.Alive());
     const bool bRead = ReadLines(file, nStyle);
-    if (m_hWnd != nullptr) {
+    if (watch && m_hWnd != nullptr) {
         m_nHScrollPos = m_nVScrollPos = 0;
-        CalculateScrollBars();
-        InvalidateRect(nullptr, FALSE);
+        CalcLayout();
     }
     return bRead;
 }
 
 // What was read before a fault stays.
 bool QVTextWnd::ReadLines(CStdioFile& file, int nStyle) {
+    const qv::AliveWatch watch(m_pCore->view.Alive());
     bool bRead = false;
     try {
         bRead = qv::MemorySuffices([&] {
             ClearTextData();
             file.SeekToBegin();
-            for (CString strLine; file.ReadString(strLine);) {
+            for (CString strLine; watch && file.ReadString(strLine);) {
                 // A line ends at its end, not at a zero; CString itself does not find zeros.
                 const int nLength = strLine.GetLength();
                 char* pText = strLine.GetBuffer();
@@ -216,7 +208,9 @@ bool QVTextWnd::ReadLines(CStdioFile& file, int nStyle) {
                     throw std::bad_alloc();
                 }
             }
-            CalcLayout();
+            if (watch) {
+                CalcLayout();
+            }
         });
     } catch (CFileException* pException) {
         pException->Delete();
@@ -290,12 +284,53 @@ void QVTextWnd::SplitTextLines(CDC* pDC, int nWidth, const CString& strText,
     });
 }
 
+int QVTextWnd::NumPages() const {
+    return m_pCore->print.m_nNumPages;
+}
+
+void QVTextWnd::SetNumPages(int nPages) {
+    m_pCore->print.m_nNumPages = nPages;
+}
+
+int QVTextWnd::NumPrintRows() const {
+    return m_pCore->print.Count();
+}
+
+int QVTextWnd::LinesPerPage() const {
+    return m_pCore->print.m_nLinesPerPage;
+}
+
+void QVTextWnd::SetLinesPerPage(int nLines) {
+    m_pCore->print.m_nLinesPerPage = nLines;
+}
+
+void QVTextWnd::ClearPrintData() {
+    m_pCore->print.Clear();
+}
+
 void QVTextWnd::AddPrintLine(int nLine, int nSubLine) {
-    qv::MemorySuffices([&] { m_print.Add(nLine, nSubLine); });
+    qv::MemorySuffices([&] { m_pCore->print.Add(nLine, nSubLine); });
+}
+
+int QVTextWnd::GetPrintLine(int nRow, QVTEXTLINE& row) const {
+    const QVTEXTLINE* pRow = m_pCore->print.Piece(nRow);
+    if (pRow != nullptr) {
+        row = *pRow;
+    }
+    return pRow != nullptr;
+}
+
+int QVTextWnd::CurPrintLine() const {
+    return m_pCore->print.Current();
+}
+
+CSize QVTextWnd::PrintAreaSize() const {
+    const qv::Size size = m_pCore->print.m_sizePrintArea;
+    return CSize(size.cx, size.cy);
 }
 
 void QVTextWnd::SetPrintAreaSize(const CSize& size) {
-    m_print.m_sizePrintArea = {static_cast<int>(size.cx), static_cast<int>(size.cy)};
+    m_pCore->print.m_sizePrintArea = {static_cast<int>(size.cx), static_cast<int>(size.cy)};
 }
 
 void QVTextWnd::FormatText(CDC* pDC, const CSize& sizeArea) {
@@ -303,7 +338,7 @@ void QVTextWnd::FormatText(CDC* pDC, const CSize& sizeArea) {
 }
 
 void QVTextWnd::FormatPrint(CDC& dc, const CSize& sizeArea) {
-    QVTextWnd* pPartner = m_pSyncWnd;
+    QVTextWnd* pPartner = SyncWnd();
     qv::PrintRows own;
     qv::PrintRows other;
     const int nHeight = qv::TextExtent(dc, " ").cy;
@@ -311,23 +346,24 @@ void QVTextWnd::FormatPrint(CDC& dc, const CSize& sizeArea) {
     own.m_nLinesPerPage = nHeight > 0 ? sizeArea.cy / nHeight : 0;
     qv::DcMeasure measure(dc);
     qv::TextSplitter splitter(measure);
-    qv::FormatPrintRows(m_lines, own, pPartner != nullptr ? &pPartner->m_lines : nullptr,
+    qv::FormatPrintRows(m_pCore->lines, own,
+                        pPartner != nullptr ? &pPartner->m_pCore->lines : nullptr,
                         pPartner != nullptr ? &other : nullptr, m_aStyles, splitter);
     own.m_nNumPages = own.PagesNeeded();
     if (pPartner != nullptr) {
         other.m_sizePrintArea = own.m_sizePrintArea;
         other.m_nLinesPerPage = own.m_nLinesPerPage;
         other.m_nNumPages = own.m_nNumPages;
-        pPartner->m_print.SwapLayout(other);
+        pPartner->m_pCore->print.SwapLayout(other);
     }
-    m_print.SwapLayout(own);
+    m_pCore->print.SwapLayout(own);
 }
 
 int QVTextWnd::GetPrintRow(int nRow, CString& strText, int& nStyle, int& nLine) {
     bool bRow = false;
     qv::MemorySuffices([&] {
         qv::PrintedRow row;
-        if (m_print.Row(nRow, m_lines, m_aStyles, row)) {
+        if (m_pCore->print.Row(nRow, m_pCore->lines, m_aStyles, row)) {
             strText = CString(row.strText.data(), static_cast<int>(row.strText.size()));
             nStyle = row.nStyle;
             nLine = row.nLine;
@@ -361,22 +397,22 @@ int GiveRow(CDC* pDC, CString& strText, int& nStyle, int& nLine, Read read) {
 int QVTextWnd::StartPage(CDC* pDC, CPrintInfo* pInfo, CString& strText, int& nStyle, int& nLine) {
     return GiveRow(pDC, strText, nStyle, nLine,
                    [&](qv::TextSplitter& splitter, qv::PrintedRow& row) {
-                       return m_print.StartPage(static_cast<int>(pInfo->m_nCurPage), m_lines,
-                                                m_aStyles, splitter, row);
+                       return m_pCore->print.StartPage(static_cast<int>(pInfo->m_nCurPage),
+                                                       m_pCore->lines, m_aStyles, splitter, row);
                    });
 }
 
 int QVTextWnd::NextLine(CDC* pDC, CPrintInfo* pInfo, CString& strText, int& nStyle, int& nLine) {
     return GiveRow(pDC, strText, nStyle, nLine,
                    [&](qv::TextSplitter& splitter, qv::PrintedRow& row) {
-                       return m_print.NextLine(static_cast<int>(pInfo->m_nCurPage), m_lines,
-                                               m_aStyles, splitter, row);
+                       return m_pCore->print.NextLine(static_cast<int>(pInfo->m_nCurPage),
+                                                      m_pCore->lines, m_aStyles, splitter, row);
                    });
 }
 
 int QVTextWnd::GetCurrentLine(CDC* pDC, CString& strText, int& nStyle, int& nLine) {
     return GiveRow(pDC, strText, nStyle, nLine,
                    [&](qv::TextSplitter& splitter, qv::PrintedRow& row) {
-                       return m_print.CurrentLine(m_lines, m_aStyles, splitter, row);
+                       return m_pCore->print.CurrentLine(m_pCore->lines, m_aStyles, splitter, row);
                    });
 }

@@ -7,18 +7,22 @@
 // Scroll units are rows and, in the fixed grid, columns of characters. Rows show pieces of lines in
 // the order of the lines. A row is as high as the font, which is the system's font for windows.
 //
+// Derived classes read and write the view through the fields of qv::TextViewState and those below;
+// CalcLayout then fits rows and bars. Lines, rows and pages have accessors.
+//
 // Ownership: the window owns its lines; a partner is not owned. Destroy partners together, or end
 // the pairing first; a partner that goes ends it on its own side.
 
 #pragma once
 
 #include "frame/styled_rows.h"
-#include "text/core/text_view.h"
+#include "text/text_records.h"
 
 #include <afxtempl.h>
 #include <afxwin.h>
 
 #include <memory>
+#include <string_view>
 
 struct CPrintInfo;
 
@@ -47,7 +51,7 @@ public:
     int LoadFile(const char* pszPath, int nStyle);
     int LoadFile(CStdioFile& file, int nStyle);
     void ClearTextData();
-    int NumLines() const { return m_lines.Count(); }
+    int NumLines() const;
     // With its style code; null if there is no such line.
     const char* GetLine(int nLine) const;
     // As it was added, without the code in front, whatever styles there are; null if there is no
@@ -71,6 +75,10 @@ public:
     int ScrollTo(int nLine, int nMargin);
     int VScrollPos() const { return m_nVScrollPos; }
     int NumRows() const { return m_nNumRows; }
+    // The rows of wrapped text as they were laid out last, and the piece of a line that each of
+    // them shows. 0, and row as it was, if there is no such row.
+    int NumDisplayLines() const;
+    int GetDisplayLine(int nRow, QVTEXTLINE& row) const;
 
     // --- Out of the window
 
@@ -87,15 +95,15 @@ public:
     // it: both get the same number of rows, blank ones filling the shorter side. Without memory the
     // layout of before stays.
     void FormatText(CDC* pDC, const CSize& sizeArea);
-    int NumPages() const { return m_print.m_nNumPages; }
-    void SetNumPages(int nPages) { m_print.m_nNumPages = nPages; }
+    int NumPages() const;
+    void SetNumPages(int nPages);
     // Row nRow of all pages, from 0, whole: its text, style and line. The rows of a line joined are
     // the line. A row that only keeps two partners level is blank. 0, and nothing changes, if there
     // is no such row, if a derived class added it, or without memory.
     int GetPrintRow(int nRow, CString& strText, int& nStyle, int& nLine);
-    int NumPrintRows() const { return m_print.Count(); }
+    int NumPrintRows() const;
     // Page n from 1 has the rows from (n - 1) * LinesPerPage() on.
-    int LinesPerPage() const { return m_print.m_nLinesPerPage; }
+    int LinesPerPage() const;
     // For callers of long standing, row by row in order; many a row comes cut in the wrong place.
     // A row of page pInfo->m_nCurPage: its text, style and line; 0 if there is none. Pass the same
     // variable for nLine from row to row: its value going in names the line whose pieces are
@@ -122,11 +130,19 @@ protected:
     void SplitTextLines(CDC* pDC, int nWidth, const CString& strText, CArray<int, int>& aStarts);
     void CalculateScrollBars();
     int DoVScroll(UINT nCode, UINT nPos);
-    void SetLinesPerPage(int nLines) { m_print.m_nLinesPerPage = nLines; }
+    // The partner; null without one, and once it is gone.
+    QVTextWnd* SyncWnd() const;
+
+    void SetLinesPerPage(int nLines);
     void SetPrintAreaSize(const CSize& size);
-    void ClearPrintData() { m_print.Clear(); }
+    CSize PrintAreaSize() const;
+    void ClearPrintData();
     // Adds nothing without memory.
     void AddPrintLine(int nLine, int nSubLine);
+    // Row nRow of all pages; 0, and row as it was, if there is no such row.
+    int GetPrintLine(int nRow, QVTEXTLINE& row) const;
+    // The row that GetCurrentLine gives.
+    int CurPrintLine() const;
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnDestroy();
@@ -140,30 +156,22 @@ protected:
     afx_msg UINT OnGetDlgCode();
     DECLARE_MESSAGE_MAP()
 
-    QVTextWnd* m_pSyncWnd = nullptr;
-    qv::TextLines m_lines;
     int m_nTabStop = 8;  // pixels
     int m_bBorder = 0;
     COLORREF m_crBk;
-    qv::DisplayRows m_rows;
-    qv::PrintRows m_print;
 
 private:
-    class Measure;
+    class Core;
     class FontScope;
 
-    CSize ViewSize();  // columns and rows that show
-    qv::TextView& Layout();
-    int DrawRows(CDC& dc, int nRow, int nEnd, int nWidth);
-    void FillRow(CDC& dc, const CRect& rc, COLORREF cr);
-    void DrawPiece(CDC& dc, const CRect& rcRow, std::string_view text, size_t nLength, int nStyle);
-    qv::TextSplitter& Splitter();
-    bool ReadLines(CStdioFile& file, int nStyle);
     bool ReplaceControl(UINT nID, CWnd* pParent, int bBorder);
     bool MeasureFont();
-    void Paint();
-    bool ScrollBoth(UINT nCode, UINT nPos);
+    bool ReadLines(CStdioFile& file, int nStyle);
     void FormatPrint(CDC& dc, const CSize& sizeArea);
+    void Paint();
+    int DrawRows(CDC& dc, int nRow, int nEnd, int nWidth);
+    void DrawPiece(CDC& dc, const CRect& rcRow, std::string_view text, size_t nLength, int nStyle);
+    bool ScrollBoth(UINT nCode, UINT nPos);
 
-    std::unique_ptr<Measure> m_pMeasure;
+    std::unique_ptr<Core> m_pCore;
 };

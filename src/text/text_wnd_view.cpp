@@ -5,32 +5,27 @@
 #include "frame/out_of_memory.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
-#include "text/text_wnd_measure.h"
+#include "text/text_wnd_core.h"
 
 #include <algorithm>
-
-qv::TextSplitter& QVTextWnd::Splitter() {
-    return m_pMeasure->splitter;
-}
-
-qv::TextView& QVTextWnd::Layout() {
-    return m_pMeasure->view;
-}
 
 // --- Layout
 
 void QVTextWnd::SetExactLayout(BOOL bExact) {
-    Layout().SetExact(bExact != FALSE);
+    m_pCore->view.SetExact(bExact != FALSE);
     CalcLayout();
 }
 
 BOOL QVTextWnd::IsExactLayout() const {
-    return m_pMeasure->view.IsExact();
+    return m_pCore->view.IsExact();
 }
 
 void QVTextWnd::CalcLayout() {
-    if (m_hWnd != nullptr) {
+    const qv::WindowWatch watch(m_pCore->view.Alive(), m_hWnd);
+    if (watch) {
         CalculateScrollBars();
+    }
+    if (watch) {
         InvalidateRect(nullptr, FALSE);
     }
 }
@@ -40,15 +35,27 @@ void QVTextWnd::FormatDisplayText(int nWidth) {
         CFont font;
         if (CreateDisplayFont(font)) {
             CleanupDisplayFont(font);
-            Layout().Format(nWidth);
+            m_pCore->view.Format(nWidth);
         }
     });
 }
 
 void QVTextWnd::CalculateDataSize(int& cx, int& cy, int nWidth) {
-    const qv::Size size = Layout().DataSize(nWidth);
+    const qv::Size size = m_pCore->view.DataSize(nWidth);
     cx = size.cx;
     cy = size.cy;
+}
+
+int QVTextWnd::NumDisplayLines() const {
+    return m_pCore->view.Rows().Count();
+}
+
+int QVTextWnd::GetDisplayLine(int nRow, QVTEXTLINE& row) const {
+    if (nRow < 0 || nRow >= NumDisplayLines()) {
+        return 0;
+    }
+    row = m_pCore->view.Rows()[nRow];
+    return 1;
 }
 
 void QVTextWnd::CalculateLineRect(int nRow, CRect& rc) {
@@ -57,19 +64,15 @@ void QVTextWnd::CalculateLineRect(int nRow, CRect& rc) {
     rc.bottom = rc.top + m_nCharHeight;
 }
 
-CSize QVTextWnd::ViewSize() {
-    const qv::Size size = Layout().ViewSize();
-    return CSize(size.cx, size.cy);
-}
-
 void QVTextWnd::CalculateScrollBars() {
-    Layout().FitBars(m_pSyncWnd != nullptr);
+    m_pCore->view.FitBars();
 }
 
 void QVTextWnd::OnSize(UINT nType, int cx, int cy) {
+    const qv::WindowWatch watch(m_pCore->view.Alive(), m_hWnd);
     CWnd::OnSize(nType, cx, cy);
-    if (nType == SIZE_RESTORED || (nType == SIZE_MAXIMIZED && IsExactLayout())) {
-        Layout().Resize(m_pSyncWnd != nullptr);
+    if (watch && (nType == SIZE_RESTORED || (nType == SIZE_MAXIMIZED && IsExactLayout()))) {
+        m_pCore->view.Resize();
     }
 }
 
@@ -77,8 +80,9 @@ void QVTextWnd::OnSize(UINT nType, int cx, int cy) {
 
 // What there is no memory to paint stays as it is on the screen, and is not asked for again.
 void QVTextWnd::OnPaint() {
+    const HWND hWnd = m_hWnd;
     if (!qv::MemorySuffices([this] { Paint(); })) {
-        ::ValidateRect(m_hWnd, nullptr);
+        ::ValidateRect(hWnd, nullptr);
     }
 }
 
@@ -91,21 +95,25 @@ void QVTextWnd::Paint() {
     if (!dc.RectVisible(&rcClient) || !CreateDisplayFont(font)) {
         return;
     }
-    const FontScope scope(*this, font);
+    const FontScope scope(font);
     if (!background.CreateSolidBrush(m_crBk)) {
         return;
     }
     const qv::SelectGuard<CFont> selected(dc, &font);
     const qv::ColorGuard colors(dc);
-    const CSize view = ViewSize();
-    const int nEnd = m_nVScrollPos + static_cast<int>(view.cy) + 1;
+    const qv::Size view = m_pCore->view.ViewSize();
+    const int nEnd = m_nVScrollPos + view.cy + 1;
+    const qv::WindowWatch watch(m_pCore->view.Alive(), m_hWnd);
     int nRow = m_nVScrollPos;
     if (!m_bUseProportionalFont) {
-        for (; nRow < std::min(nEnd, NumLines()); ++nRow) {
-            DrawText(dc, nRow, static_cast<int>(view.cx) + 1);
+        for (; watch && nRow < std::min(nEnd, NumLines()); ++nRow) {
+            DrawText(dc, nRow, view.cx + 1);
         }
     } else {
-        nRow = DrawRows(dc, nRow, std::min(nEnd, m_rows.Count()), rcClient.Width());
+        nRow = DrawRows(dc, nRow, nEnd, rcClient.Width());
+    }
+    if (!watch) {
+        return;
     }
     CRect rcRest;
     CalculateLineRect(nRow - m_nVScrollPos, rcRest);
@@ -116,14 +124,14 @@ void QVTextWnd::Paint() {
 }
 
 // Rows nRow up to nEnd; gives the row behind the last one drawn. Rows of lines that are gone draw
-// nothing: the rows are those of the last layout.
+// nothing: the rows are those of the last layout. What draws may be replaced, and do anything.
 int QVTextWnd::DrawRows(CDC& dc, int nRow, int nEnd, int nWidth) {
-    std::vector<int>& starts = m_pMeasure->starts;
+    const qv::WindowWatch watch(m_pCore->view.Alive(), m_hWnd);
     int nLine = -1;
     CString strText;
     int nStyle = 0;
-    for (; nRow < nEnd; ++nRow) {
-        const QVTEXTLINE row = m_rows[nRow];
+    QVTEXTLINE row;
+    for (; watch && nRow < nEnd && GetDisplayLine(nRow, row); ++nRow) {
         if (row.nLine >= NumLines()) {
             break;
         }
@@ -132,25 +140,25 @@ int QVTextWnd::DrawRows(CDC& dc, int nRow, int nEnd, int nWidth) {
             const char* pszLine = GetLine(nLine);
             nStyle = ParseStyle(pszLine);
             strText = ParseStyleText(pszLine);
-            qv::SplitLine(pszLine, nWidth, m_aStyles, Splitter(), starts);
+            m_pCore->view.CutLine(nLine, nWidth);
         }
-        const auto nPiece = static_cast<size_t>(row.nSubLine);
-        const int nLength = strText.GetLength();
-        // Made for another width, a line may have more rows than it has pieces now.
-        const int nFrom = nPiece < starts.size() ? starts[nPiece] : nLength;
-        const int nTo = nPiece + 1 < starts.size() ? starts[nPiece + 1] : -1;
-        DrawText(dc, nRow - m_nVScrollPos, strText, nStyle, nFrom, nTo);
+        const qv::TextPiece piece = m_pCore->view.Piece(row.nSubLine, strText.GetLength());
+        DrawText(dc, nRow - m_nVScrollPos, strText, nStyle, piece.nFrom, piece.nTo);
     }
     return nRow;
 }
 
-void QVTextWnd::FillRow(CDC& dc, const CRect& rc, COLORREF cr) {
+namespace {
+
+void FillRow(CDC& dc, const CRect& rc, COLORREF cr) {
     if (!rc.IsRectEmpty()) {
         CBrush brush;
         brush.CreateSolidBrush(cr);
         dc.FillRect(&rc, &brush);
     }
 }
+
+}  // namespace
 
 // Draws a part of a line whose whole length is nLength, and fills the rest of its row.
 void QVTextWnd::DrawPiece(CDC& dc, const CRect& rcRow, std::string_view text, size_t nLength,
@@ -200,46 +208,35 @@ void QVTextWnd::DrawText(CDC& dc, int nLine, int nCols) {
 // --- Scrolling
 
 void QVTextWnd::SyncWith(QVTextWnd* pOther, int bShowVScroll) {
-    m_pSyncWnd = pOther;
+    m_pCore->pSyncWnd = pOther;
+    m_pCore->view.SetPartner(pOther != nullptr ? &pOther->m_pCore->view.Alive() : nullptr);
     m_bShowVScroll = bShowVScroll;
 }
 
+QVTextWnd* QVTextWnd::SyncWnd() const {
+    return m_pCore->view.HasPartner() ? m_pCore->pSyncWnd : nullptr;
+}
+
 int QVTextWnd::DoVScroll(UINT nCode, UINT nPos) {
-    int nTarget;
-    if (m_hWnd == nullptr ||
-        !qv::ScrollTarget(qv::ScrollCodeOf(nCode), nPos, m_nVScrollPos, m_nNumRows,
-                          static_cast<int>(ViewSize().cy), nTarget)) {
-        return 0;
-    }
-    ScrollWindow(0, (m_nVScrollPos - nTarget) * m_nCharHeight, nullptr, nullptr);
-    m_nVScrollPos = nTarget;
-    CalculateScrollBars();
-    UpdateWindow();
-    return 1;
+    return m_pCore->view.VScroll(nCode, static_cast<int>(nPos));
 }
 
 void QVTextWnd::OnVScroll(UINT nCode, UINT nPos, CScrollBar* pBar) {
-    // The message has room for 16 bits of the position alone.
-    SCROLLINFO info{};
-    info.cbSize = sizeof(info);
-    if (GetScrollInfo(SB_VERT, &info, SIF_RANGE | SIF_PAGE | SIF_POS | SIF_TRACKPOS)) {
-        const qv::ScrollRange bar{info.nMin, info.nMax, static_cast<int>(info.nPage), info.nPos};
-        nPos = nCode == SB_THUMBTRACK
-                   ? qv::DraggedTo(info.nTrackPos, bar, m_nNumRows, static_cast<int>(ViewSize().cy))
-                   : static_cast<UINT>(info.nPos);
-    }
-    if (!ScrollBoth(nCode, nPos)) {
+    const int nRow = m_pCore->view.ThumbRow(nCode, static_cast<int>(nPos));
+    if (!ScrollBoth(nCode, static_cast<UINT>(nRow))) {
         CWnd::OnVScroll(nCode, nPos, pBar);
     }
 }
 
 // The partner follows where this window has moved.
 bool QVTextWnd::ScrollBoth(UINT nCode, UINT nPos) {
+    const qv::AliveWatch watch(m_pCore->view.Alive());
     if (!DoVScroll(nCode, nPos)) {
         return false;
     }
-    if (m_pSyncWnd != nullptr) {
-        m_pSyncWnd->DoVScroll(nCode, nPos);
+    QVTextWnd* pPartner = watch ? SyncWnd() : nullptr;
+    if (pPartner != nullptr) {
+        pPartner->DoVScroll(nCode, nPos);
     }
     return true;
 }
@@ -247,10 +244,13 @@ bool QVTextWnd::ScrollBoth(UINT nCode, UINT nPos) {
 BOOL QVTextWnd::OnMouseWheel(UINT, short zDelta, CPoint) {
     // One remainder for all text windows of the process: the wheel is one.
     static int s_nRemainder = 0;
-    qv::TurnWheel(s_nRemainder, zDelta, GetMouseScrollLines(FALSE), [this](bool bUp, bool bPage) {
-        ScrollBoth(static_cast<UINT>(bPage ? (bUp ? SB_PAGEUP : SB_PAGEDOWN)
-                                           : (bUp ? SB_LINEUP : SB_LINEDOWN)),
-                   0);
+    const qv::AliveWatch watch(m_pCore->view.Alive());
+    qv::TurnWheel(s_nRemainder, zDelta, GetMouseScrollLines(FALSE), [&](bool bUp, bool bPage) {
+        if (watch) {
+            ScrollBoth(static_cast<UINT>(bPage ? (bUp ? SB_PAGEUP : SB_PAGEDOWN)
+                                               : (bUp ? SB_LINEUP : SB_LINEDOWN)),
+                       0);
+        }
     });
     return TRUE;
 }
@@ -258,34 +258,26 @@ BOOL QVTextWnd::OnMouseWheel(UINT, short zDelta, CPoint) {
 void QVTextWnd::OnHScroll(UINT nCode, UINT nPos, CScrollBar* pBar) {
     if (nCode >= SB_ENDSCROLL) {
         CWnd::OnHScroll(nCode, nPos, pBar);
-        return;
+    } else {
+        m_pCore->view.HScroll(nCode, static_cast<int>(nPos));
     }
-    int nTarget;
-    if (!qv::ScrollTarget(qv::ScrollCodeOf(nCode), nPos, m_nHScrollPos, m_nMaxLineLength,
-                          static_cast<int>(ViewSize().cx), nTarget)) {
-        return;
-    }
-    ScrollWindow((m_nHScrollPos - nTarget) * m_nCharWidth, 0, nullptr, nullptr);
-    m_nHScrollPos = nTarget;
-    CalculateScrollBars();
-    UpdateWindow();
 }
 
 int QVTextWnd::ScrollTo(int nLine, int nMargin) {
-    if (m_hWnd == nullptr) {
-        return 1;
+    if (m_hWnd != nullptr) {
+        ScrollBoth(SB_THUMBPOSITION, static_cast<UINT>(m_pCore->view.PositionFor(nLine, nMargin)));
     }
-    const int nMost = m_nNumRows - static_cast<int>(ViewSize().cy);
-    const int nTarget = std::max(std::min(std::max(nLine - nMargin, 0), nMost), 0);
-    ScrollBoth(SB_THUMBPOSITION, static_cast<UINT>(nTarget));
     return 1;
 }
 
 // --- Input
 
 void QVTextWnd::OnLButtonDown(UINT, CPoint) {
+    const qv::WindowWatch watch(m_pCore->view.Alive(), m_hWnd);
     ::SetFocus(m_hWnd);
-    Default();
+    if (watch) {
+        Default();
+    }
 }
 
 void QVTextWnd::OnKeyDown(UINT nChar, UINT, UINT) {

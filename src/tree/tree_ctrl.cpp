@@ -2,17 +2,12 @@
 
 #include "frame/ancestor_font.h"
 #include "frame/out_of_memory.h"
-#include "frame/select_object.h"
 #include "frame/text_out.h"
-#include "frame/virtual_step.h"
 #include "tree/tree_ctrl_core.h"
 
-#include <algorithm>
-
-// TVSIL_ and state images as the platform publishes them.
 namespace {
 
-constexpr UINT kCheckStatesBitmap = 30008;
+constexpr UINT kCheckStatesBitmap = 30008;  // four boxes, see controls.rc
 constexpr int kStateImageWidth = 12;
 constexpr COLORREF kStateImageMask = RGB(0, 128, 128);
 
@@ -50,85 +45,6 @@ BEGIN_MESSAGE_MAP(QVTreeCtrlEx, CWnd)
     ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
-// --- The core's way back to the control
-
-QVTreeCtrlEx::Core::Core(QVTreeCtrlEx& tree)
-    : QVTreeCtrlCoreParts(tree),
-      qv::TreeView(port, measure, qv::ProcessText(), tree.m_aStyles),
-      m_tree(tree) {}
-
-int QVTreeCtrlEx::Core::CompareItems(HTREEITEM hItem1, HTREEITEM hItem2) {
-    return qv::AsBadAlloc([&] { return m_tree.CompareItems(hItem1, hItem2); });
-}
-
-bool QVTreeCtrlEx::Core::ReplacesCompareItems() const {
-    return QV_REPLACES_STEP(m_tree, QVTreeCtrlEx, CompareItems);
-}
-
-bool QVTreeCtrlEx::Core::ReplacesCalcItemRect() const {
-    return QV_REPLACES_STEP(m_tree, QVTreeCtrlEx, CalcItemRect);
-}
-
-void QVTreeCtrlEx::Core::ReadImageSizes() {
-    const auto read = [](CImageList* pImageList, int& cx, int& cy) {
-        if (pImageList != nullptr) {
-            IMAGEINFO info;
-            const bool bKnown = pImageList->GetImageInfo(0, &info);
-            cx = bKnown ? info.rcImage.right - info.rcImage.left : 0;
-            cy = bKnown ? info.rcImage.bottom - info.rcImage.top : 0;
-        }
-    };
-    read(m_tree.m_pImageList, m_images.cxImage, m_images.cyImage);
-    read(m_tree.m_pStateImageList, m_images.cxStateImage, m_images.cyStateImage);
-}
-
-void QVTreeCtrlEx::Core::UseFont(HFONT hFont) {
-    if (hFont != m_hMeasured) {
-        m_hMeasured = hFont;
-        measure.SetFont(hFont);
-        ForgetExtents();
-    }
-}
-
-int QVTreeCtrlEx::Core::FontHeight() {
-    return qv::AsBadAlloc([this] {
-        m_tree.FindFont();
-        return m_tree.m_hFont != nullptr ? measure.Extent(" ").cy : 0;
-    });
-}
-
-void QVTreeCtrlEx::Core::RowRect(int nTop, HTREEITEM hItem, qv::Rect& rect, bool bTextOnly) {
-    if (!ReplacesCalcItemRect()) {
-        TreeView::CalcItemRect(nullptr, nTop, hItem, rect, bTextOnly);
-        return;
-    }
-    rect = qv::AsBadAlloc([&] {
-        CClientDC dc(&m_tree);
-        const qv::SelectGuard<CFont> font(dc, m_tree.m_hFont);
-        CRect rc;
-        m_tree.CalcItemRect(dc, nTop, hItem, rc, bTextOnly);
-        return qv::ToRect(rc);
-    });
-}
-
-int QVTreeCtrlEx::Core::WidestRow() {
-    return qv::AsBadAlloc([this] {
-        CClientDC dc(&m_tree);
-        const qv::SelectGuard<CFont> font(dc, m_tree.m_hFont);
-        int nWidest = 0;
-        for (HTREEITEM h = m_hRootItem; h != nullptr; h = TreeItems::NextDisplayableItem(h)) {
-            CRect rc;
-            m_tree.CalcItemRect(dc, 0, h, rc, FALSE);
-            nWidest = std::max(nWidest, static_cast<int>(rc.right));
-        }
-        return nWidest;
-    });
-}
-
-void QVTreeCtrlEx::Core::NfySelectItem(HTREEITEM hItem) {
-    m_tree.NfySelectItem(hItem);
-}
-
 // --- Creation
 
 QVTreeCtrlEx::QVTreeCtrlEx()
@@ -136,6 +52,14 @@ QVTreeCtrlEx::QVTreeCtrlEx()
 
 QVTreeCtrlEx::~QVTreeCtrlEx() {
     DestroyWindow();
+}
+
+qv::TreeView& QVTreeCtrlEx::View() const {
+    return m_pCore->View();
+}
+
+const qv::TreeItems& QVTreeCtrlEx::Items() const {
+    return m_pCore->Items();
 }
 
 BOOL QVTreeCtrlEx::Create(DWORD dwStyle, const RECT& rect, CWnd* pParent, UINT nID) {
@@ -146,7 +70,7 @@ void QVTreeCtrlEx::OnDestroy() {
     CWnd::OnDestroy();
     m_hFont = nullptr;
     m_pCore->UseFont(nullptr);
-    m_pCore->Reset();
+    View().Reset();
 }
 
 // The tree handles no WM_SETFONT: its font is that of its nearest ancestor that has one.
@@ -164,60 +88,118 @@ void QVTreeCtrlEx::InvalidateAll() {
 }
 
 void QVTreeCtrlEx::SetAllowTags(BOOL bAllow) {
-    m_pCore->m_bAllowTags = bAllow;
+    m_bAllowTags = bAllow;
 }
 
 void QVTreeCtrlEx::SetShowStatesAtRoot(BOOL bShow) {
-    m_pCore->m_bShowStatesAtRoot = bShow;
+    View().ShowStatesAtRoot(bShow);
 }
 
 void QVTreeCtrlEx::SetAutoTagChildren(BOOL bAuto) {
-    m_pCore->m_bAutoTagChildren = bAuto;
+    m_bAutoTagChildren = bAuto;
+}
+
+// --- What a derived class sees of its tree
+
+HTREEITEM QVTreeCtrlEx::GetTopItem() const {
+    return Items().Top();
+}
+
+HTREEITEM QVTreeCtrlEx::GetBottomItem() const {
+    return Items().Bottom();
+}
+
+BOOL QVTreeCtrlEx::GetRedraw() const {
+    return View().Redraw();
+}
+
+BOOL QVTreeCtrlEx::GetShowStatesAtRoot() const {
+    return Items().StatesAtRoot();
+}
+
+BOOL QVTreeCtrlEx::GetIndentTabs() const {
+    return View().IndentTabs();
+}
+
+int QVTreeCtrlEx::GetTabCount() const {
+    return View().Tabs().Count();
+}
+
+int QVTreeCtrlEx::GetMaxWidth() const {
+    return View().MaxWidth();
+}
+
+int QVTreeCtrlEx::GetHScrollPos() const {
+    return View().HScrollPos();
+}
+
+int QVTreeCtrlEx::GetVScrollPos() const {
+    return View().VScrollPos();
+}
+
+int QVTreeCtrlEx::GetHPage() const {
+    return View().HPage();
+}
+
+int QVTreeCtrlEx::GetVPage() const {
+    return View().VPage();
+}
+
+CSize QVTreeCtrlEx::GetImageSize() const {
+    return {View().Images().cxImage, View().Images().cyImage};
+}
+
+CSize QVTreeCtrlEx::GetStateImageSize() const {
+    return {View().Images().cxStateImage, View().Images().cyStateImage};
+}
+
+int QVTreeCtrlEx::GetIndentStep() const {
+    return View().IndentStep();
 }
 
 // --- Items
 
 HTREEITEM QVTreeCtrlEx::InsertItem(LPCSTR pszText, int nImage, int nSelectedImage,
                                    HTREEITEM hParent, HTREEITEM hInsertAfter) {
-    return m_pCore->InsertItem(pszText, nImage, nSelectedImage, hParent, hInsertAfter);
+    return View().InsertItem(pszText, nImage, nSelectedImage, hParent, hInsertAfter);
 }
 
 BOOL QVTreeCtrlEx::DeleteItem(HTREEITEM hItem) {
-    return m_pCore->DeleteItem(hItem);
+    return View().DeleteItem(hItem);
 }
 
 BOOL QVTreeCtrlEx::DeleteChildren(HTREEITEM hItem) {
     if (IsDead(hItem)) {
         return FALSE;
     }
-    return m_pCore->DeleteChildren(hItem);
+    return View().DeleteChildren(hItem);
 }
 
 BOOL QVTreeCtrlEx::DeleteAllItems() {
-    m_pCore->DeleteAllItems();
+    View().DeleteAllItems();
     return TRUE;
 }
 
 BOOL QVTreeCtrlEx::ChangeParent(HTREEITEM hItem, HTREEITEM hNewParent) {
-    return m_pCore->ChangeParent(hItem, hNewParent);
+    return View().ChangeParent(hItem, hNewParent);
 }
 
 BOOL QVTreeCtrlEx::SortChildren(HTREEITEM hParent) {
     if (IsDead(hParent)) {
         return FALSE;
     }
-    return m_pCore->SortChildren(hParent);
+    return View().SortChildren(hParent);
 }
 
 HTREEITEM QVTreeCtrlEx::FindItem(HTREEITEM hParent, const CString& strText, int nImage) {
     if (hParent == TVI_ROOT) {
         hParent = nullptr;
     }
-    return IsDead(hParent) ? nullptr : m_pCore->FindItem(hParent, strText, nImage);
+    return IsDead(hParent) ? nullptr : Items().FindItem(hParent, strText, nImage);
 }
 
 int QVTreeCtrlEx::CompareItems(HTREEITEM hItem1, HTREEITEM hItem2) {
-    return m_pCore->TreeItems::CompareItems(hItem1, hItem2);
+    return Items().CompareTexts(hItem1, hItem2);
 }
 
 // --- Navigation
@@ -226,35 +208,35 @@ HTREEITEM QVTreeCtrlEx::GetNextItem(HTREEITEM hItem, UINT nCode) {
     if (hItem == TVI_ROOT) {
         hItem = nullptr;
     }
-    return IsDead(hItem) ? nullptr : m_pCore->GetNextItem(hItem, nCode);
+    return IsDead(hItem) ? nullptr : Items().GetNextItem(hItem, nCode);
 }
 
 HTREEITEM QVTreeCtrlEx::GetSelectedItem() {
-    return m_pCore->m_hSelectedItem;
+    return Items().Selected();
 }
 
 HTREEITEM QVTreeCtrlEx::GetLastChild(HTREEITEM hItem) {
-    return m_pCore->GetLastChild(Live(hItem));
+    return Items().GetLastChild(Live(hItem));
 }
 
 HTREEITEM QVTreeCtrlEx::WalkNext(HTREEITEM hItem) {
-    return m_pCore->WalkNext(Live(hItem));
+    return Items().WalkNext(Live(hItem));
 }
 
 HTREEITEM QVTreeCtrlEx::WalkPrev(HTREEITEM hItem) {
-    return m_pCore->WalkPrev(Live(hItem));
+    return Items().WalkPrev(Live(hItem));
 }
 
 HTREEITEM QVTreeCtrlEx::NextDisplayableItem(HTREEITEM hItem) {
-    return m_pCore->NextDisplayableItem(Live(hItem));
+    return Items().NextDisplayableItem(Live(hItem));
 }
 
 HTREEITEM QVTreeCtrlEx::LastDisplayableItem(HTREEITEM hItem) {
-    return m_pCore->LastDisplayableItem(Live(hItem));
+    return Items().LastDisplayableItem(Live(hItem));
 }
 
 BOOL QVTreeCtrlEx::CheckForAncestor(HTREEITEM hItem, HTREEITEM hAncestor) {
-    return m_pCore->CheckForAncestor(Live(hItem), Live(hAncestor));
+    return Items().CheckForAncestor(Live(hItem), Live(hAncestor));
 }
 
 // --- Attributes
@@ -264,7 +246,7 @@ CString QVTreeCtrlEx::GetItemText(HTREEITEM hItem) {
 }
 
 void QVTreeCtrlEx::SetItemText(HTREEITEM hItem, const CString& strText) {
-    m_pCore->SetItemText(Live(hItem), strText);
+    View().SetItemText(Live(hItem), strText);
 }
 
 DWORD_PTR QVTreeCtrlEx::GetItemData(HTREEITEM hItem) {
@@ -297,7 +279,7 @@ BOOL QVTreeCtrlEx::SetItemImage(HTREEITEM hItem, int nImage) {
 }
 
 BOOL QVTreeCtrlEx::SetItemImage(HTREEITEM hItem, int nImage, int nSelectedImage) {
-    m_pCore->SetItemImage(Live(hItem), nImage, nSelectedImage);
+    View().SetItemImage(Live(hItem), nImage, nSelectedImage);
     return FALSE;
 }
 
@@ -306,27 +288,27 @@ UINT QVTreeCtrlEx::GetItemState(HTREEITEM hItem) {
 }
 
 void QVTreeCtrlEx::SetItemState(HTREEITEM hItem, UINT nState, UINT nMask) {
-    m_pCore->SetItemState(Live(hItem), nState, nMask);
+    View().SetItemState(Live(hItem), nState, nMask);
 }
 
 UINT QVTreeCtrlEx::StateImageFromState(UINT nState) {
-    return Core::StateImageFromState(nState);
+    return qv::TreeItems::StateImageFromState(nState);
 }
 
 UINT QVTreeCtrlEx::SetStateImage(UINT nState, UINT nImage) {
-    return Core::SetStateImage(nState, nImage);
+    return qv::TreeItems::SetStateImage(nState, nImage);
 }
 
 BOOL QVTreeCtrlEx::HaveStateImage(HTREEITEM hItem) {
-    return m_pCore->HaveStateImage(Live(hItem));
+    return Items().HaveStateImage(Live(hItem));
 }
 
 UINT QVTreeCtrlEx::GetItemStateImage(HTREEITEM hItem) {
-    return m_pCore->GetItemStateImage(Live(hItem));
+    return Items().GetItemStateImage(Live(hItem));
 }
 
 void QVTreeCtrlEx::SetItemStateImage(HTREEITEM hItem, UINT nImage, BOOL bChildren) {
-    m_pCore->SetItemStateImage(Live(hItem), nImage, bChildren);
+    View().SetItemStateImage(Live(hItem), nImage, bChildren);
 }
 
 BOOL QVTreeCtrlEx::GetCheck(HTREEITEM hItem) {
@@ -338,7 +320,7 @@ void QVTreeCtrlEx::SetCheck(HTREEITEM hItem, BOOL bCheck, BOOL bChildren) {
 }
 
 HTREEITEM QVTreeCtrlEx::GetNextCheckedItem(HTREEITEM hItem, UINT nState) {
-    return IsDead(hItem) ? nullptr : m_pCore->GetNextCheckedItem(hItem, nState);
+    return IsDead(hItem) ? nullptr : Items().GetNextCheckedItem(hItem, nState);
 }
 
 BOOL QVTreeCtrlEx::GetItem(TVITEM* pItem) {
@@ -357,37 +339,37 @@ BOOL QVTreeCtrlEx::ChangeStyle(char* pszText, int nStyle) {
 
 int QVTreeCtrlEx::ChangeItemStyles(HTREEITEM hItem, int nStyle, BOOL bUpTheTree,
                                    BOOL bOnlyDefault) {
-    return m_pCore->ChangeItemStyles(Live(hItem), nStyle, bUpTheTree, bOnlyDefault);
+    return View().ChangeItemStyles(Live(hItem), nStyle, bUpTheTree, bOnlyDefault);
 }
 
 // --- Columns
 
 void QVTreeCtrlEx::UseTabs(const int* pTabs, int nCount) {
-    m_pCore->UseTabs(pTabs, nCount);
+    View().UseTabs(pTabs, nCount);
 }
 
 void QVTreeCtrlEx::ClearTabs() {
-    m_pCore->ClearTabs();
+    View().ClearTabs();
 }
 
 int QVTreeCtrlEx::GetTabValue(int nTab) {
-    return m_pCore->Tabs().Value(nTab);
+    return View().Tabs().Value(nTab);
 }
 
 void QVTreeCtrlEx::SetTabValue(int nTab, int nValue) {
-    m_pCore->SetTabValue(nTab, nValue);
+    View().SetTabValue(nTab, nValue);
 }
 
 UINT QVTreeCtrlEx::GetTabFormat(int nTab) {
-    return m_pCore->Tabs().Format(nTab);
+    return View().Tabs().Format(nTab);
 }
 
 void QVTreeCtrlEx::SetTabFormat(int nTab, UINT nFormat) {
-    m_pCore->SetTabFormat(nTab, nFormat);
+    View().SetTabFormat(nTab, nFormat);
 }
 
 void QVTreeCtrlEx::SetIndentTabs(BOOL bIndent) {
-    m_pCore->SetIndentTabs(bIndent);
+    View().SetIndentTabs(bIndent);
 }
 
 // --- Images
@@ -400,8 +382,10 @@ CImageList* QVTreeCtrlEx::SetImageList(CImageList* pImageList, int nImageList) {
     CImageList*& pList = bNormal ? m_pImageList : m_pStateImageList;
     CImageList* pOld = pList;
     pList = pImageList;
-    (bNormal ? m_pCore->m_images.bNormal : m_pCore->m_images.bState) = pImageList != nullptr;
-    m_pCore->ReadImageSizes();
+    qv::TreeImages images = View().Images();
+    (bNormal ? images.bNormal : images.bState) = pImageList != nullptr;
+    m_pCore->ReadImageSizes(images);
+    View().SetImages(images);
     return pOld;
 }
 
@@ -431,7 +415,7 @@ BOOL QVTreeCtrlEx::LoadTreeStates(UINT nBitmapId) {
 // --- Geometry and view
 
 int QVTreeCtrlEx::ItemHeight() {
-    return m_pCore->ItemHeight();
+    return View().ItemHeight();
 }
 
 void QVTreeCtrlEx::CalcItemRect(CDC& dc, int nTop, HTREEITEM hItem, CRect& rect, BOOL bTextOnly) {
@@ -443,13 +427,13 @@ void QVTreeCtrlEx::CalcItemRect(CDC& dc, int nTop, HTREEITEM hItem, CRect& rect,
     qv::DcMeasure other(dc);
     qv::Rect rc;
     qv::AsMemoryException(
-        [&] { m_pCore->CalcItemRect(bOwnFont ? nullptr : &other, nTop, hItem, rc, bTextOnly); });
+        [&] { View().CalcItemRect(bOwnFont ? nullptr : &other, nTop, hItem, rc, bTextOnly); });
     rect = qv::ToCRect(rc);
 }
 
 BOOL QVTreeCtrlEx::GetItemRect(HTREEITEM hItem, LPRECT pRect, BOOL bTextOnly) {
     qv::Rect rect;
-    if (!m_pCore->GetItemRect(Live(hItem), rect, bTextOnly)) {
+    if (!View().GetItemRect(Live(hItem), rect, bTextOnly)) {
         return FALSE;
     }
     *pRect = qv::ToCRect(rect);
@@ -459,7 +443,7 @@ BOOL QVTreeCtrlEx::GetItemRect(HTREEITEM hItem, LPRECT pRect, BOOL bTextOnly) {
 HTREEITEM QVTreeCtrlEx::HitTest(CPoint pt, UINT* pFlags, CRect* pRect) {
     qv::Rect rect;
     const HTREEITEM hItem =
-        m_pCore->HitTest({static_cast<int>(pt.x), static_cast<int>(pt.y)}, pFlags, &rect);
+        View().HitTest({static_cast<int>(pt.x), static_cast<int>(pt.y)}, pFlags, &rect);
     if (hItem != nullptr && pRect != nullptr) {
         *pRect = qv::ToCRect(rect);
     }
@@ -467,7 +451,7 @@ HTREEITEM QVTreeCtrlEx::HitTest(CPoint pt, UINT* pFlags, CRect* pRect) {
 }
 
 BOOL QVTreeCtrlEx::ItemVisible(HTREEITEM hItem) {
-    return m_pCore->ItemVisible(Live(hItem));
+    return View().ItemVisible(Live(hItem));
 }
 
 BOOL QVTreeCtrlEx::ItemExpanded(HTREEITEM hItem) {
@@ -475,19 +459,19 @@ BOOL QVTreeCtrlEx::ItemExpanded(HTREEITEM hItem) {
 }
 
 BOOL QVTreeCtrlEx::EnsureVisible(HTREEITEM hItem) {
-    return m_pCore->EnsureVisible(Live(hItem));
+    return View().EnsureVisible(Live(hItem));
 }
 
 BOOL QVTreeCtrlEx::Expand(HTREEITEM hItem, UINT nCode, BOOL bInvalidate, BOOL bCollapseChildren) {
-    return m_pCore->Expand(Live(hItem), nCode, bInvalidate, bCollapseChildren);
+    return View().Expand(Live(hItem), nCode, bInvalidate, bCollapseChildren);
 }
 
 BOOL QVTreeCtrlEx::SelectItem(HTREEITEM hItem) {
-    return !IsDead(hItem) && m_pCore->SelectItem(hItem);
+    return !IsDead(hItem) && View().SelectItem(hItem);
 }
 
 void QVTreeCtrlEx::InvalidateItem(HTREEITEM hItem, BOOL bErase) {
-    m_pCore->InvalidateItem(Live(hItem), bErase);
+    View().InvalidateItem(Live(hItem), bErase);
 }
 
 // Nothing leaves the window procedure for want of memory, and nobody is asked to close a message
@@ -499,10 +483,10 @@ LRESULT QVTreeCtrlEx::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 
 void QVTreeCtrlEx::OnSize(UINT, int, int) {
     Default();
-    m_pCore->Resize();
+    View().Resize();
 }
 
 LRESULT QVTreeCtrlEx::OnSetRedraw(WPARAM wParam, LPARAM) {
-    m_pCore->SetRedraw(wParam != 0);
+    View().SetRedraw(wParam != 0);
     return 0;
 }

@@ -32,6 +32,12 @@
 #include <afxwin.h>
 
 #include <memory>
+#include <typeinfo>
+
+namespace qv {
+class TreeItems;
+class TreeView;
+}  // namespace qv
 
 class QV_CONTROLS_API QVTreeCtrlEx : public CWnd, public QVStyledRows {
     DECLARE_DYNCREATE(QVTreeCtrlEx)
@@ -184,8 +190,7 @@ public:
 
     // -1, 0 or 1: the order used by TVI_SORT and SortChildren.
     virtual int CompareItems(HTREEITEM hItem1, HTREEITEM hItem2);
-    // Rectangle of a row whose top is nTop, or of its text cell. dc has the tree's font selected. A
-    // class that replaces it makes each refit of the scroll bars walk all displayable rows.
+    // Rectangle of a row whose top is nTop, or of its text cell. dc has the tree's font selected.
     virtual void CalcItemRect(CDC& dc, int nTop, HTREEITEM hItem, CRect& rect, BOOL bTextOnly);
     // Draws the row right of its button; what is drawn is excluded from the clip.
     virtual void DrawItem(CDC& dc, HTREEITEM hItem, const CRect& rect);
@@ -196,8 +201,43 @@ public:
     virtual COLORREF GetBkColor(HTREEITEM hItem);
 
 protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    // A derived class counts as one that replaces CompareItems and CalcItemRect: sorting asks the
+    // one for each pair, each refit of the scroll bars the other for each displayable row. A class
+    // that replaces neither may say so with its own type, for the speed of many rows; a class
+    // derived from that one is asked again:
+    //
+    //     PackageTree::PackageTree() { KeepSteps(typeid(PackageTree)); }
+    void KeepSteps(const std::type_info& derived);
+
+    // --- What the steps and handlers of a derived class see of their tree
+
+    // First and last row that is fully shown, null without items. They may be stale while redraw
+    // is off.
+    HTREEITEM GetTopItem() const;
+    HTREEITEM GetBottomItem() const;
+    // What WM_SETREDRAW said last.
+    BOOL GetRedraw() const;
+    BOOL GetShowStatesAtRoot() const;
+    BOOL GetIndentTabs() const;
+    int GetTabCount() const;
+    // Right edge of the widest displayable row, in row coordinates.
+    int GetMaxWidth() const;
+    // Pixels by which the rows are scrolled to the left: what is added to client pixels.
+    int GetHScrollPos() const;
+    // Index of the top row among the displayable ones.
+    int GetVScrollPos() const;
+    // Pixels and rows a page; 0 while there is no such scroll bar.
+    int GetHPage() const;
+    int GetVPage() const;
+    // Of image 0 of a list; 0 before there is one.
+    CSize GetImageSize() const;
+    CSize GetStateImageSize() const;
+    // Pixels by which each level moves a row to the right.
+    int GetIndentStep() const;
+    // Pixels; 0 while there is neither a font nor an image.
     int ItemHeight();
+
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     void DrawDottedLine(CDC& dc, int x1, int y1, int x2, int y2);
     void OutputFormattedText(CDC& dc, const CRect& rect, const CString& strText, BOOL bSelected);
 
@@ -230,13 +270,18 @@ protected:
     CImageList m_imlStates;
     CBrush m_brBackground;  // both live for one paint
     CPen m_penLines;
-    HFONT m_hFont = nullptr;  // found, not owned
+    HFONT m_hFont = nullptr;         // found, not owned
+    BOOL m_bAllowTags = TRUE;        // users may change check marks
+    BOOL m_bAutoTagChildren = TRUE;  // a user's check mark goes on to all descendants
 
 private:
     class Core;
     class Guard;
     using CWnd::Create;
 
+    qv::TreeView& View() const;
+    const qv::TreeItems& Items() const;
+    bool MayReplaceSteps() const;
     void FindFont();
     void InvalidateAll();
     bool IsHighlighted(HTREEITEM hItem);
@@ -252,5 +297,6 @@ private:
     void ToggleCheck(HTREEITEM hItem);
     void DrawFocusFrame(bool bFocus);
 
+    const std::type_info* m_pKeepsSteps = nullptr;
     std::unique_ptr<Core> m_pCore;
 };

@@ -2,49 +2,54 @@
 
 #pragma once
 
+#include "frame/alive.h"
 #include "frame/font_measure.h"
 #include "frame/module_state.h"
+#include "frame/process_text.h"
+#include "frame/rectangles.h"
 #include "frame/wnd_port.h"
 #include "tree/core/tree_view.h"
 #include "tree/tree_ctrl.h"
 
-// Made before the core, which holds on to both.
-struct QVTreeCtrlCoreParts {
-    explicit QVTreeCtrlCoreParts(CWnd& wnd) : port(wnd) {}
-    qv::WndPort port;
-    qv::FontMeasure measure;
-};
-
-class QVTreeCtrlEx::Core : private QVTreeCtrlCoreParts, public qv::TreeView {
+class QVTreeCtrlEx::Core : public qv::TreeSteps {
 public:
     explicit Core(QVTreeCtrlEx& tree);
 
-    int CompareItems(HTREEITEM hItem1, HTREEITEM hItem2) override;
-    void ReadImageSizes() override;
+    qv::TreeView& View() { return m_view; }
+    const qv::TreeItems& Items() const { return m_view.Items(); }
     void UseFont(HFONT hFont);
-    void DrawBars() { port.DrawBars(); }
+    void DrawBars() { m_port.DrawBars(); }
 
-protected:
+    int CompareItems(HTREEITEM hItem1, HTREEITEM hItem2) override;
     bool ReplacesCompareItems() const override;
-    int FontHeight() override;
-    void RowRect(int nTop, HTREEITEM hItem, qv::Rect& rect, bool bTextOnly) override;
-    bool ReplacesCalcItemRect() const override;
+    qv::Rect RowRect(int nTop, HTREEITEM hItem, bool bTextOnly) override;
+    bool ReplacesRowRect() const override;
     int WidestRow() override;
+    void ReadImageSizes(qv::TreeImages& images) override;
+    int FontHeight() override;
     void NfySelectItem(HTREEITEM hItem) override;
 
 private:
+    template <class Ask>
+    auto AskInOwnDC(Ask ask);
+
     QVTreeCtrlEx& m_tree;
+    qv::WndPort m_port;
+    qv::FontMeasure m_measure;
     HFONT m_hMeasured = nullptr;
+    qv::TreeView m_view;  // holds on to port and measure
 };
 
-// Holds over a call that leads to the parent: it may delete the item, destroy the window or delete
+// Held over a call that leads to the parent: it may delete the item, destroy the window or delete
 // the control. False from then on; nothing of the control may be touched.
 class QVTreeCtrlEx::Guard {
 public:
-    Guard(QVTreeCtrlEx& tree, HTREEITEM hItem) : m_tree(tree), m_watch(*tree.m_pCore, hItem) {}
-    explicit operator bool() const { return m_watch.ItemAlive() && m_tree.m_hWnd != nullptr; }
+    Guard(const QVTreeCtrlEx& tree, HTREEITEM hItem)
+        : m_window(tree.m_pCore->Items().Alive(), tree.m_hWnd),
+          m_item(tree.m_pCore->Items(), hItem) {}
+    explicit operator bool() const { return m_window && m_item.ItemAlive(); }
 
 private:
-    QVTreeCtrlEx& m_tree;
-    Core::Watch m_watch;
+    const qv::WindowWatch<HWND> m_window;
+    const qv::TreeItems::Watch m_item;
 };

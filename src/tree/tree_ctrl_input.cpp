@@ -1,8 +1,9 @@
 #include "tree/tree_ctrl.h"
 
 #include "frame/core/wheel.h"
+#include "frame/dc_guards.h"
 #include "frame/mouse_wheel.h"
-#include "frame/select_object.h"
+#include "frame/notify.h"
 #include "tree/tree_ctrl_core.h"
 
 namespace {
@@ -59,17 +60,11 @@ LRESULT QVTreeCtrlEx::NotifyParent(UINT nCode, UINT nAction, HTREEITEM hOld, HTR
 LRESULT QVTreeCtrlEx::NotifyParent(UINT nCode, UINT nAction, HTREEITEM hOld, HTREEITEM hNew,
                                    CPoint pt) {
     NM_TREEVIEW notification{};
-    notification.hdr.hwndFrom = m_hWnd;
-    notification.hdr.idFrom = static_cast<UINT>(GetDlgCtrlID());
-    notification.hdr.code = nCode;
     notification.action = nAction;
     MakeTVItem(hOld, notification.itemOld, FALSE);
     MakeTVItem(hNew, notification.itemNew, FALSE);
     notification.ptDrag = pt;
-    const HWND hParent = ::GetParent(m_hWnd);
-    return hParent != nullptr ? ::SendMessage(hParent, WM_NOTIFY, notification.hdr.idFrom,
-                                              reinterpret_cast<LPARAM>(&notification))
-                              : 0;
+    return qv::NotifyParent(*this, Items().Alive(), nCode, notification.hdr).lResult;
 }
 
 void QVTreeCtrlEx::NfySelectItem(HTREEITEM hItem) {
@@ -87,42 +82,37 @@ void QVTreeCtrlEx::NfySelectItem(HTREEITEM hItem) {
 
 // True if the parent let the change through and the item still stands.
 bool QVTreeCtrlEx::ChangeOneStateImage(HTREEITEM hItem, UINT nImage) {
-    const Guard guard(*this, hItem);
-    const HWND hParent = ::GetParent(m_hWnd);
-    if (hParent == nullptr) {
+    if (::GetParent(m_hWnd) == nullptr) {
         return false;
     }
+    const Guard guard(*this, hItem);
     NM_TREEVIEW notification{};
-    notification.hdr.hwndFrom = m_hWnd;
-    notification.hdr.idFrom = static_cast<UINT>(GetDlgCtrlID());
-    notification.hdr.code = notification.action = TVN_SELCHANGING;
+    const auto tell = [&](UINT nCode) {
+        notification.action = nCode;
+        return qv::NotifyParent(*this, Items().Alive(), nCode, notification.hdr).lResult;
+    };
     MakeTVItem(hItem, notification.itemOld, FALSE);
     MakeTVItem(hItem, notification.itemNew, FALSE);
     notification.itemNew.state = SetStateImage(notification.itemNew.state, nImage);
     notification.itemNew.stateMask = notification.itemNew.state | TVIS_STATEIMAGEMASK;
-    const auto send = [&] {
-        return ::SendMessage(hParent, WM_NOTIFY, notification.hdr.idFrom,
-                             reinterpret_cast<LPARAM>(&notification));
-    };
-    if (send() != 0 || !guard) {
+    if (tell(TVN_SELCHANGING) != 0 || !guard) {
         return false;
     }
     // The parent may have put another image into the structure.
     SetItemStateImage(hItem, StateImageFromState(notification.itemNew.state), FALSE);
-    notification.hdr.code = notification.action = TVN_SELCHANGED;
     for (TVITEM* pItem : {&notification.itemOld, &notification.itemNew}) {
         // The parent may have given the item another text.
         pItem->pszText = hItem->pszText;
         pItem->cchTextMax = static_cast<int>(strlen(hItem->pszText)) + 1;
     }
-    send();
+    tell(TVN_SELCHANGED);
     return static_cast<bool>(guard);
 }
 
 // The item and then, in the order of the tree, everything below it. Where the parent refuses an
 // item, what lies below that one stays as it was; where it deletes or moves one, the cascade ends.
 void QVTreeCtrlEx::NfyChangeStateImage(HTREEITEM hItem, UINT nImage) {
-    if (!ChangeOneStateImage(hItem, nImage) || !m_pCore->m_bAutoTagChildren ||
+    if (!ChangeOneStateImage(hItem, nImage) || !m_bAutoTagChildren ||
         hItem->pFirstChild == nullptr) {
         return;
     }
@@ -136,7 +126,7 @@ void QVTreeCtrlEx::NfyChangeStateImage(HTREEITEM hItem, UINT nImage) {
         if (!guard || !guardChild || h->pParent != hParent || !CheckForAncestor(h, hItem)) {
             return;
         }
-        if (bChanged && m_pCore->m_bAutoTagChildren && h->pFirstChild != nullptr) {
+        if (bChanged && m_bAutoTagChildren && h->pFirstChild != nullptr) {
             h = h->pFirstChild;
             continue;
         }
@@ -192,7 +182,7 @@ void QVTreeCtrlEx::OnLButtonDown(UINT, CPoint pt) {
         }
         return;
     }
-    if ((nFlags & TVHT_ONITEMSTATEICON) != 0 && m_pCore->m_bAllowTags) {
+    if ((nFlags & TVHT_ONITEMSTATEICON) != 0 && m_bAllowTags) {
         SelectItem(hItem);
         ToggleCheck(hItem);
     } else {
@@ -249,11 +239,11 @@ LRESULT QVTreeCtrlEx::OnRegisteredMouseWheel(WPARAM wParam, LPARAM lParam) {
 }
 
 void QVTreeCtrlEx::OnVScroll(UINT nCode, UINT nPos, CScrollBar*) {
-    m_pCore->VScroll(nCode, static_cast<int>(nPos));
+    View().VScroll(nCode, static_cast<int>(nPos));
 }
 
 void QVTreeCtrlEx::OnHScroll(UINT nCode, UINT nPos, CScrollBar*) {
-    m_pCore->HScroll(nCode, static_cast<int>(nPos));
+    View().HScroll(nCode, static_cast<int>(nPos));
 }
 
 // --- Keys
@@ -288,10 +278,10 @@ bool QVTreeCtrlEx::CollapseByKey(HTREEITEM hItem) {
 // To the row above or below; at the edge of the view, the rows move instead.
 void QVTreeCtrlEx::StepSelection(bool bDown) {
     const HTREEITEM hSelected = GetSelectedItem();
-    const HTREEITEM hEdge = bDown ? m_pCore->m_hBottomItem : m_pCore->m_hTopItem;
+    const HTREEITEM hEdge = bDown ? Items().Bottom() : Items().Top();
     if (hSelected == hEdge) {
-        if (m_pCore->StepView(bDown)) {
-            NfySelectItem(bDown ? m_pCore->m_hBottomItem : m_pCore->m_hTopItem);
+        if (View().StepView(bDown)) {
+            NfySelectItem(bDown ? Items().Bottom() : Items().Top());
         }
         return;
     }
@@ -317,8 +307,8 @@ void QVTreeCtrlEx::SelectParent(HTREEITEM hItem) {
     }
     // It lies above the view.
     const Guard guard(*this, nullptr);
-    m_pCore->ShowAtTop(hParent);
-    NfySelectItem(m_pCore->m_hTopItem);
+    View().ShowAtTop(hParent);
+    NfySelectItem(Items().Top());
     if (guard) {
         InvalidateAll();
     }
@@ -331,8 +321,8 @@ void QVTreeCtrlEx::OnKeyDown(UINT nChar, UINT, UINT) {
     }
     const HTREEITEM hSelected = GetSelectedItem();
     if (hSelected == nullptr) {
-        if (m_pCore->m_hTopItem != nullptr) {
-            NfySelectItem(m_pCore->m_hTopItem);
+        if (Items().Top() != nullptr) {
+            NfySelectItem(Items().Top());
         }
         return;
     }
@@ -362,7 +352,7 @@ void QVTreeCtrlEx::OnChar(UINT nChar, UINT, UINT) {
     if (hSelected == nullptr) {
         return;
     }
-    if (m_pStateImageList != nullptr && m_pCore->m_bAllowTags && HaveStateImage(hSelected)) {
+    if (m_pStateImageList != nullptr && m_bAllowTags && HaveStateImage(hSelected)) {
         ToggleCheck(hSelected);
     } else if (hSelected->pFirstChild != nullptr) {
         if (ItemExpanded(hSelected)) {
@@ -395,7 +385,7 @@ void QVTreeCtrlEx::DrawFocusFrame(bool bFocus) {
         return;
     }
     CClientDC dc(this);
-    dc.SetWindowOrg(m_pCore->m_nHScrollPos, 0);
+    dc.SetWindowOrg(View().HScrollPos(), 0);
     if (bFocus) {
         const qv::ColorGuard colors(dc);
         dc.SetBkColor(::GetSysColor(COLOR_WINDOW));

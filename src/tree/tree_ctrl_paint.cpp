@@ -1,6 +1,7 @@
 #include "tree/tree_ctrl.h"
 
-#include "frame/select_object.h"
+#include "frame/dc_guards.h"
+#include "frame/paint_objects.h"
 #include "frame/text_out.h"
 #include "tree/core/tree_columns.h"
 #include "tree/tree_ctrl_core.h"
@@ -10,8 +11,9 @@
 
 namespace {
 
-constexpr int kImageGap = 3;  // behind each image
 constexpr int kLargestButtonCell = 19;
+constexpr int kTextInsetX = 2;  // of the text in its cell
+constexpr int kTextInsetY = 1;
 constexpr UINT kTextFlags = DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS;
 
 // Dots fall in one pattern from row to row because every line starts at an even pixel.
@@ -40,10 +42,10 @@ COLORREF QVTreeCtrlEx::GetBkColor(HTREEITEM hItem) {
 // No erasing and no second buffer: each step excludes what it has painted from the clip, and the
 // fill at the end of a row meets only what is left. Everything is drawn in row coordinates.
 void QVTreeCtrlEx::OnPaint() {
-    m_pCore->FitIfDue();
+    View().FitIfDue();
     m_pCore->DrawBars();
     CPaintDC dc(this);
-    if (!m_pCore->m_bRedraw) {
+    if (!View().Redraw()) {
         return;
     }
     CRect rcClient;
@@ -54,9 +56,9 @@ void QVTreeCtrlEx::OnPaint() {
     const qv::PenLife lines(m_penLines, ::GetSysColor(COLOR_BTNSHADOW));
     {
         const qv::SelectGuard<CFont> font(dc, m_hFont);
-        dc.SetWindowOrg(m_pCore->m_nHScrollPos, 0);
+        dc.SetWindowOrg(View().HScrollPos(), 0);
         CRect rcRest(rcClient);
-        rcRest.OffsetRect(m_pCore->m_nHScrollPos, 0);
+        rcRest.OffsetRect(View().HScrollPos(), 0);
         const bool bLines = (GetStyle() & TVS_HASLINES) != 0;
         int y = 0;
         bool bPartial = false;
@@ -76,7 +78,7 @@ void QVTreeCtrlEx::OnPaint() {
             if (bPartial) {
                 break;
             }
-            bPartial = hItem == m_pCore->m_hBottomItem;
+            bPartial = hItem == Items().Bottom();
             hItem = NextDisplayableItem(hItem);
         }
         if (y < rcClient.bottom) {
@@ -98,9 +100,9 @@ void QVTreeCtrlEx::DrawItem(CDC& dc, HTREEITEM hItem, const CRect& rcItem) {
     CRect rcText;
     CalcItemRect(dc, rcItem.top, hItem, rcText, TRUE);
 
-    const qv::TreeImages& images = m_pCore->m_images;
+    const qv::TreeImages& images = View().Images();
     DrawBranchLine(dc, hItem, rcItem, rcText);
-    const int nImageCell = rcText.left - images.cxImage - kImageGap;
+    const int nImageCell = rcText.left - images.cxImage - qv::kImageGap;
     if (m_pImageList != nullptr) {
         DrawImage(dc, *m_pImageList, bSelected ? hItem->nSelectedImage : hItem->nImage,
                   CRect(nImageCell, rcItem.top, rcText.left, rcItem.bottom),
@@ -108,7 +110,7 @@ void QVTreeCtrlEx::DrawItem(CDC& dc, HTREEITEM hItem, const CRect& rcItem) {
     }
     if (m_pStateImageList != nullptr && HaveStateImage(hItem)) {
         // The index is the image's own, so 0 is a picture as well.
-        const int nStateCell = nImageCell - images.cxStateImage - kImageGap;
+        const int nStateCell = nImageCell - images.cxStateImage - qv::kImageGap;
         DrawImage(dc, *m_pStateImageList, static_cast<int>(StateImageFromState(hItem->nState)),
                   CRect(nStateCell, rcItem.top, nImageCell, rcItem.bottom),
                   CSize(images.cxStateImage, images.cyStateImage));
@@ -117,9 +119,9 @@ void QVTreeCtrlEx::DrawItem(CDC& dc, HTREEITEM hItem, const CRect& rcItem) {
     CBrush brush(crBk);
     dc.FillRect(&rcText, &brush);
     CRect rcInner(rcText);
-    rcInner.DeflateRect(2, 1);
+    rcInner.DeflateRect(kTextInsetX, kTextInsetY);
     const auto* psz = reinterpret_cast<const unsigned char*>(static_cast<LPCSTR>(strText));
-    if ((m_pCore->Tabs().Count() != 0 && _mbschr(psz, qv::kFieldSeparator) != nullptr) ||
+    if ((View().Tabs().Count() != 0 && _mbschr(psz, qv::kFieldSeparator) != nullptr) ||
         _mbschr(psz, qv::kStyleEscape) != nullptr) {
         OutputFormattedText(dc, rcInner, strText, bSelected);
     } else {
@@ -139,7 +141,7 @@ void QVTreeCtrlEx::DrawBranchLine(CDC& dc, HTREEITEM hItem, const CRect& rcItem,
         (hItem->nState & TVIS_EXPANDED) == 0) {
         return;
     }
-    const qv::TreeImages& images = m_pCore->m_images;
+    const qv::TreeImages& images = View().Images();
     const int cy = m_pStateImageList != nullptr ? images.cyStateImage : images.cyImage;
     const int nGap = ItemHeight() - cy;
     const CRect rcLine(rcItem.left, Even(rcText.bottom - nGap / 2), rcText.left, rcItem.bottom);
@@ -163,7 +165,7 @@ void QVTreeCtrlEx::OutputFormattedText(CDC& dc, const CRect& rect, const CString
                                        BOOL bSelected) {
     const bool bKeepColors = bSelected && ::GetFocus() == m_hWnd;
     qv::FieldReader fields({strText, static_cast<size_t>(strText.GetLength())}, qv::ToRect(rect),
-                           m_pCore->Tabs(), m_pCore->IndentTabs(), m_aStyles);
+                           View().Tabs(), View().IndentTabs(), m_aStyles);
     qv::Field field;
     while (fields.Next(field)) {
         if (field.nStyle >= 0 && !bKeepColors) {
@@ -181,8 +183,8 @@ void QVTreeCtrlEx::DrawItemSymbols(CDC& dc, HTREEITEM hItem, const CRect& rcSymb
     dc.FillRect(&rcSymbols, &m_brBackground);
 
     // The cell is as wide as the image is high, on purpose: see IndentStep.
-    const qv::TreeImages& images = m_pCore->m_images;
-    const int nIndent = m_pCore->IndentStep();
+    const qv::TreeImages& images = View().Images();
+    const int nIndent = View().IndentStep();
     const int nWidth = std::min(
         kLargestButtonCell, m_pStateImageList != nullptr ? images.cyStateImage : images.cyImage);
     const int nShift = (nIndent - nWidth) / 2;
@@ -222,7 +224,7 @@ void QVTreeCtrlEx::DrawTreeLines(CDC& dc, HTREEITEM hItem, const CRect& rcCell, 
                 DrawDottedLine(dc, x, Even(rcCell.top), x, rcCell.bottom);
             }
         }
-        x -= m_pCore->IndentStep();
+        x -= View().IndentStep();
     }
     DrawDottedLine(dc, ptMiddle.x, Even(ptMiddle.y), nRight, Even(ptMiddle.y));
 }
@@ -230,8 +232,8 @@ void QVTreeCtrlEx::DrawTreeLines(CDC& dc, HTREEITEM hItem, const CRect& rcCell, 
 void QVTreeCtrlEx::DrawItemButton(CDC& dc, const CRect& rect, BOOL bExpanded) {
     constexpr int kSmallest = 5;
     constexpr int kLargest = 9;
-    const int nWanted = ItemHeight() >= 19 ? 15 : (ItemHeight() - 4) | 1;
-    const int nSize = std::clamp(nWanted, kSmallest, kLargest);
+    constexpr int kMargin = 4;  // of the row's height; the size is odd, for a middle
+    const int nSize = std::clamp((ItemHeight() - kMargin) | 1, kSmallest, kLargest);
     const int nLeft = rect.left + (rect.Width() - nSize) / 2;
     const int nTop = Even(rect.top + (rect.Height() - nSize) / 2 + 1);
     const CRect rcButton(nLeft, nTop, nLeft + nSize, nTop + nSize);

@@ -24,6 +24,7 @@ public:
     using QVGridCtrl::m_nCellHeight;
     using QVGridCtrl::m_nTopRow;
     using QVGridCtrl::m_si;
+    using QVGridCtrl::PressedButtonRect;
     using QVGridCtrl::RowAt;
 };
 

@@ -1,4 +1,4 @@
-#include "afx/drawing/wide_text.h"
+#include "afx/values/wide_text.h"
 #include "afx/window/wnd_state.h"
 
 #include <afxcmn.h>

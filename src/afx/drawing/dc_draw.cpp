@@ -1,7 +1,7 @@
 // CDC's output and measuring: clip, lines, areas, pixels, text, print jobs.
 #include "afx/drawing/dc.h"
 
-#include "afx/drawing/wide_text.h"
+#include "afx/values/wide_text.h"
 
 #include <afxtempl.h>
 #include <afxwin.h>

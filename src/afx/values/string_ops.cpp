@@ -1,7 +1,7 @@
 // CString's operations on text: comparing, searching, cutting, changing, formatting.
 #include "afx/values/string.h"
 
-#include "afx/drawing/wide_text.h"
+#include "afx/values/wide_text.h"
 
 #include <afx.h>
 #include <afxdll_.h>

@@ -21,7 +21,12 @@ public:
 
     CTimeSpan operator+(CTimeSpan span) const { return CTimeSpan(m_nSeconds + span.m_nSeconds); }
     CTimeSpan operator-(CTimeSpan span) const { return CTimeSpan(m_nSeconds - span.m_nSeconds); }
-    auto operator<=>(const CTimeSpan&) const = default;
+    bool operator==(CTimeSpan other) const { return m_nSeconds == other.m_nSeconds; }
+    bool operator!=(CTimeSpan other) const { return m_nSeconds != other.m_nSeconds; }
+    bool operator<(CTimeSpan other) const { return m_nSeconds < other.m_nSeconds; }
+    bool operator<=(CTimeSpan other) const { return m_nSeconds <= other.m_nSeconds; }
+    bool operator>(CTimeSpan other) const { return m_nSeconds > other.m_nSeconds; }
+    bool operator>=(CTimeSpan other) const { return m_nSeconds >= other.m_nSeconds; }
 
 private:
     LONGLONG m_nSeconds = 0;
@@ -54,7 +59,12 @@ public:
     CTimeSpan operator-(CTime time) const { return CTimeSpan(m_time - time.m_time); }
     CTime operator+(CTimeSpan span) const { return CTime(m_time + span.GetTimeSpan()); }
     CTime operator-(CTimeSpan span) const { return CTime(m_time - span.GetTimeSpan()); }
-    auto operator<=>(const CTime&) const = default;
+    bool operator==(CTime other) const { return m_time == other.m_time; }
+    bool operator!=(CTime other) const { return m_time != other.m_time; }
+    bool operator<(CTime other) const { return m_time < other.m_time; }
+    bool operator<=(CTime other) const { return m_time <= other.m_time; }
+    bool operator>(CTime other) const { return m_time > other.m_time; }
+    bool operator>=(CTime other) const { return m_time >= other.m_time; }
 
 private:
     __time64_t m_time = 0;

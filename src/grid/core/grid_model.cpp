@@ -138,6 +138,11 @@ void GridModel::SetText(int nRow, int nCol, std::string_view text) {
     pCell->nString = static_cast<int>(m_aStrings.size()) - 1;
 }
 
+unsigned GridModel::Style(int nRow, int nCol) const {
+    const _QVGRID_CELL_INFO* pCell = Cell(nRow, nCol);
+    return pCell != nullptr ? pCell->dwStyle : 0;
+}
+
 bool GridModel::ModifyStyle(int nRow, int nCol, unsigned dwAdd, unsigned dwRemove) {
     _QVGRID_CELL_INFO* pCell = Cell(nRow, nCol);
     if (pCell == nullptr) {

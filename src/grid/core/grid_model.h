@@ -12,51 +12,20 @@
 #pragma once
 
 #include "base/text_pool.h"
+#include "grid/grid_records.h"
 
-#include <cstdint>
+#include <cstddef>
 #include <memory>
 #include <string_view>
 #include <vector>
 
-// What a column's cells are and do.
-enum GridColType {
-    gctStatic = 0,      // text alone
-    gctButton = 1,      // text, with a "..." button in the current cell
-    gctEdit = 2,        // edited in place
-    gctEditButton = 3,  // both
-    gctDropList = 4,    // chosen from a list, with an arrow button in the current cell
-};
-
-// Row states.
-inline constexpr unsigned GRS_CURRENT = 1;
-inline constexpr unsigned GRS_BUTTONDOWN = 8;
-// Cell styles. GCS_FOCUS is never stored: painting adds it.
-inline constexpr unsigned GCS_DISABLED = 4;
-inline constexpr unsigned GCS_FOCUS = 16;
-inline constexpr unsigned GCS_READONLY = 32;
-
-class CStringArray;
-
-struct _QVGRID_COL_INFO {
-    int nWidth;  // pixels; the last column reaches the window's edge
-    GridColType nType;
-    CStringArray* pListData;  // the caller's choices, or null
-    std::uintptr_t dwData;
-};
-
-struct _QVGRID_ROW_INFO {
-    unsigned dwState;
-    int nCellIndex;  // block of cells; -1: no memory for one
-    std::uintptr_t dwData;
-};
-
-struct _QVGRID_CELL_INFO {
-    int nString;  // 0: no text
-    unsigned dwStyle;
-    std::uintptr_t dwData;
-};
-
 namespace qv {
+
+struct GridCell {
+    int nRow = -1;
+    int nCol = -1;
+    friend bool operator==(const GridCell&, const GridCell&) = default;
+};
 
 class GridModel {
 public:
@@ -92,6 +61,7 @@ public:
 
     // --- Cells
 
+    bool IsCell(GridCell cell) const { return IsRow(cell.nRow) && IsColumn(cell.nCol); }
     // Null for a cell that never had a text; a text that was emptied is "".
     const char* Text(int nRow, int nCol) const;
     // An empty text in a cell that never had one leaves it so.
@@ -99,6 +69,8 @@ public:
     // Null out of range and for a row without block.
     _QVGRID_CELL_INFO* Cell(int nRow, int nCol);
     const _QVGRID_CELL_INFO* Cell(int nRow, int nCol) const;
+    // GCS_ bits; none for a cell that there is not.
+    unsigned Style(int nRow, int nCol) const;
     // True if the style is another one now.
     bool ModifyStyle(int nRow, int nCol, unsigned dwAdd, unsigned dwRemove);
 

@@ -1,8 +1,5 @@
 #include "text/core/text_lines.h"
 
-#include "frame/core/styled_text.h"
-
-#include <algorithm>
 #include <cstring>
 #include <new>
 
@@ -16,7 +13,6 @@ constexpr size_t kBlock = 65536;
 
 int TextLines::Add(std::string_view text, int nStyle) {
     const FieldPrefix code = MakeStyleCodes(nStyle == -1 ? 0 : nStyle & 255);
-    constexpr size_t kCodeBytes = 2;
     try {
         char* psz = Room(kCodeBytes + text.size() + 1);
         std::memcpy(psz, code.data(), kCodeBytes);
@@ -26,7 +22,6 @@ int TextLines::Add(std::string_view text, int nStyle) {
     } catch (const std::bad_alloc&) {
         return -1;
     }
-    m_nMaxLength = std::max(m_nMaxLength, static_cast<int>(text.size()));
     return Count();
 }
 
@@ -55,12 +50,21 @@ void TextLines::Clear() {
     m_blocks.clear();
     m_pFree = nullptr;
     m_nFree = 0;
-    m_nMaxLength = 0;
     ++m_nGeneration;
 }
 
 const char* TextLines::Line(int nLine) const {
     return nLine >= 0 && nLine < Count() ? m_lines[static_cast<size_t>(nLine)] : nullptr;
+}
+
+const char* TextLines::Text(int nLine) const {
+    const char* pszLine = Line(nLine);
+    return pszLine != nullptr ? pszLine + kCodeBytes : nullptr;
+}
+
+const char* LineText(const StyleTable& styles, const char* pszLine) {
+    return styles.Count() == 0 && HasStyle(pszLine) ? pszLine + TextLines::kCodeBytes
+                                                    : styles.ParseStyleText(pszLine);
 }
 
 }  // namespace qv

@@ -6,6 +6,8 @@
 
 #pragma once
 
+#include "frame/core/styled_text.h"
+
 #include <cstddef>
 #include <deque>
 #include <memory>
@@ -16,6 +18,8 @@ namespace qv {
 
 class TextLines {
 public:
+    static constexpr size_t kCodeBytes = 2;  // before each text
+
     // The new number of lines, or -1 without memory; nothing has changed then. Style -1 counts as
     // 0; only the low 8 bits of others are used, and no table is asked.
     int Add(std::string_view text, int nStyle);
@@ -24,8 +28,8 @@ public:
     int Count() const { return static_cast<int>(m_lines.size()); }
     // With its code, NUL-terminated; null if there is no such line.
     const char* Line(int nLine) const;
-    // Bytes of the longest line without its code.
-    int MaxLength() const { return m_nMaxLength; }
+    // As it was added.
+    const char* Text(int nLine) const;
     // Another one after each Clear.
     unsigned Generation() const { return m_nGeneration; }
 
@@ -36,8 +40,12 @@ private:
     std::vector<std::unique_ptr<char[]>> m_blocks;
     char* m_pFree = nullptr;
     size_t m_nFree = 0;
-    int m_nMaxLength = 0;
     unsigned m_nGeneration = 0;
 };
+
+// What shows of a stored line: its text without the style code. While there are no styles at all,
+// which is before the window is made, the code that TextLines wrote goes all the same; once there
+// are some, the letter of a style that is not among them shows.
+const char* LineText(const StyleTable& styles, const char* pszLine);
 
 }  // namespace qv

@@ -8,46 +8,38 @@
 
 namespace qv {
 
-namespace {
-
-// A bar that comes or goes makes another layout; they settle after two or three.
-constexpr int kMostLayouts = 4;
-// The second one is for a window that did not take the size that was reckoned with.
-constexpr int kMostRounds = 2;
-
-bool operator==(Size a, Size b) {
-    return a.cx == b.cx && a.cy == b.cy;
+void TextView::SetPartner(const AliveToken* pPartner) {
+    m_partner.reset();
+    if (pPartner != nullptr) {
+        m_partner.emplace(*pPartner);
+    }
 }
 
-class FlagScope {
-public:
-    explicit FlagScope(bool& bFlag) : m_bFlag(bFlag) { m_bFlag = true; }
-    ~FlagScope() { m_bFlag = false; }
-    FlagScope(const FlagScope&) = delete;
-    FlagScope& operator=(const FlagScope&) = delete;
-
-private:
-    bool& m_bFlag;
-};
-
-}  // namespace
-
-// --- Measures
-
-Size TextView::ClientSize() const {
-    const Rect rc = m_port.ClientRect();
-    return {rc.Width(), rc.Height()};
-}
+// --- Rows
 
 Size TextView::ViewSize() const {
-    const Size client = ClientSize();
-    return {m_state.m_nCharWidth > 0 ? client.cx / m_state.m_nCharWidth : 0,
-            m_state.m_nCharHeight > 0 ? client.cy / m_state.m_nCharHeight : 0};
+    const Size client = m_scroll.ClientSize();
+    return {WholeRows(client.cx, m_state.m_nCharWidth),
+            WholeRows(client.cy, m_state.m_nCharHeight)};
+}
+
+ScrollAxis TextView::RowAxis() const {
+    return {m_state.m_nVScrollPos, m_state.m_nNumRows, ViewSize().cy};
+}
+
+ScrollAxis TextView::ColumnAxis() const {
+    return {m_state.m_nHScrollPos, m_state.m_nMaxLineLength, ViewSize().cx};
+}
+
+void TextView::ForgetWidths() {
+    m_rows.Forget();
+    m_unbarred.Forget();
 }
 
 void TextView::Format(int nWidth) {
     try {
-        m_rows.Format(m_lines, m_styles, nWidth != 0 ? nWidth : ClientSize().cx, m_splitter);
+        m_rows.Format(m_lines, m_styles, nWidth != 0 ? nWidth : m_scroll.ClientSize().cx,
+                      m_splitter);
     } catch (const std::bad_alloc&) {
         // The rows that there are go on showing; the next layout tries again.
     }
@@ -58,44 +50,55 @@ void TextView::Format(int nWidth) {
 Size TextView::DataSize(int nWidth) {
     if (m_state.m_bUseProportionalFont) {
         Format(nWidth);
-        return {nWidth != 0 ? nWidth : ClientSize().cx, m_rows.Count() * m_state.m_nCharHeight};
+        return {nWidth != 0 ? nWidth : m_scroll.ClientSize().cx,
+                m_rows.Count() * m_state.m_nCharHeight};
     }
     return {m_state.m_nMaxLineLength * m_state.m_nCharWidth,
             m_state.m_nNumRows * m_state.m_nCharHeight};
 }
 
-// --- Bars
+void TextView::CutLine(int nLine, int nWidth) {
+    m_splitter.Split(LineText(m_styles, m_lines.Line(nLine)), nWidth, m_starts);
+}
+
+TextPiece TextView::Piece(int nPiece, int nLength) const {
+    const auto n = static_cast<size_t>(nPiece);
+    return {n < m_starts.size() ? m_starts[n] : nLength,
+            n + 1 < m_starts.size() ? m_starts[n + 1] : -1};
+}
+
+// --- Layout
 
 // One layout in a client area that has the bars which the state names.
-TextView::Fit TextView::FitOnce(Size client, bool bPartner) {
+TextView::Fit TextView::FitOnce(Size client) {
     TextViewState& state = m_state;
-    const int cyBar = m_port.HorizontalBarHeight();
-    const int cxBar = m_port.VerticalBarWidth();
-    Size room{client.cx + (state.m_bVScrollBar ? cxBar : 0),
-              client.cy + (state.m_bHScrollBar ? cyBar : 0)};
+    const Size bars = m_scroll.BarSizes();
+    const Size whole{client.cx + (state.m_bVScrollBar ? bars.cx : 0),
+                     client.cy + (state.m_bHScrollBar ? bars.cy : 0)};
     const bool bWraps = state.m_bUseProportionalFont != 0;
-    const auto dataSize = [&](int nWidth) { return DataSize(nWidth != 0 ? nWidth : client.cx); };
-    const Size data = dataSize(room.cx);
-    state.m_bHScrollBar = data.cx > room.cx;
-    room.cy -= state.m_bHScrollBar ? cyBar : 0;
     const bool bWasShown = state.m_bVScrollBar != 0;
-    state.m_bVScrollBar = state.m_bShowVScroll && room.cy < data.cy;
-    if (state.m_bVScrollBar) {
-        room.cx -= cxBar;
-        if (!bWasShown && bWraps) {
-            dataSize(room.cx);
-        } else if (!state.m_bHScrollBar && data.cx >= room.cx) {
-            state.m_bHScrollBar = 1;
-            // Under wrapped text that bar is only reckoned with and never shows: it makes the page
-            // shorter, but takes no room where there is no other.
-            room.cy -= bWraps && room.cy <= cyBar ? 0 : cyBar;
-        }
+    const auto dataWidth = [&](int nWidth) {
+        return DataSize(nWidth != 0 ? nWidth : client.cx).cx;
+    };
+    ScrolledContent content{dataWidth(whole.cx), state.m_nNumRows, state.m_nCharHeight};
+    if (bWraps && !bWasShown) {
+        content.cx = 0;  // rows are made for the room there is
     }
-    if (room.cx <= 0 || room.cy <= 0) {
-        state.m_bHScrollBar = state.m_bVScrollBar = 0;
-        return {room};
+    Fit fit{PlanBars(whole, bars, content, {state.m_bShowVScroll != 0, true})};
+    if (bWraps && !bWasShown && fit.bVert) {
+        dataWidth(fit.room.cx);
     }
-    return {room, !bWraps && (bPartner || state.m_bHScrollBar), state.m_bVScrollBar != 0, true};
+    if (bWraps && fit.bHorz && fit.room.cy <= 0) {
+        // Under wrapped text that bar is only reckoned with and never shows: it makes the page
+        // shorter, but takes no room where there is no other.
+        fit.room.cy += bars.cy;
+    }
+    fit.bAny = fit.room.cx > 0 && fit.room.cy > 0;
+    state.m_bHScrollBar = fit.bAny && fit.bHorz;
+    state.m_bVScrollBar = fit.bAny && fit.bVert;
+    fit.bHorz = fit.bAny && !bWraps && (HasPartner() || fit.bHorz);
+    fit.bVert = state.m_bVScrollBar != 0;
+    return fit;
 }
 
 // Whether the rows do not fit a client area without a bar. A line has a row at least, so that many
@@ -117,122 +120,132 @@ bool TextView::NeedsBar(Size whole) {
 }
 
 TextView::Fit TextView::FitExactly(Size client) {
-    const int cxBar = m_port.VerticalBarWidth();
-    Size room{client.cx + (m_state.m_bVScrollBar ? cxBar : 0), client.cy};
-    const bool bNeeded = m_state.m_bShowVScroll && NeedsBar(room);
-    const bool bFits = room.cy > 0 && room.cx > (bNeeded ? cxBar : 0);
-    room.cx -= bNeeded && bFits ? cxBar : 0;
+    const int cxBar = m_scroll.BarSizes().cx;
+    Fit fit{{{client.cx + (m_state.m_bVScrollBar ? cxBar : 0), client.cy}}};
+    const bool bNeeded = m_state.m_bShowVScroll && NeedsBar(fit.room);
+    fit.bAny = fit.room.cy > 0 && fit.room.cx > (bNeeded ? cxBar : 0);
+    fit.bVert = bNeeded && fit.bAny;
+    fit.room.cx -= fit.bVert ? cxBar : 0;
     m_state.m_bHScrollBar = 0;
-    m_state.m_bVScrollBar = bNeeded && bFits;
-    Format(room.cx);
-    return {room, false, m_state.m_bVScrollBar != 0, bFits};
-}
-
-// The client area when other bars show in it.
-Size TextView::SizeWith(Size client, Fit shown, Fit next) const {
-    const auto change = [](bool bShown, bool bNext) { return int{bShown} - int{bNext}; };
-    return {client.cx + change(shown.bVert, next.bVert) * m_port.VerticalBarWidth(),
-            client.cy + change(shown.bHorz, next.bHorz) * m_port.HorizontalBarHeight()};
-}
-
-// Lays out until the bars settle, without showing or hiding one: what one layout asks for is the
-// next one's client area. That of the last one comes back. A window whose size is not its own to
-// choose is laid out once.
-TextView::Fit TextView::Plan(bool bPartner, Size& client) {
-    const unsigned nStyle = m_port.Style();
-    Fit fit;
-    fit.bHorz = (nStyle & WS_HSCROLL) != 0;
-    fit.bVert = (nStyle & WS_VSCROLL) != 0;
-    client = ClientSize();
-    for (int i = 0; i < kMostLayouts; ++i) {
-        const Fit shown = fit;
-        fit = FitsExactly() ? FitExactly(client) : FitOnce(client, bPartner);
-        const Size next = SizeWith(client, shown, fit);
-        const bool bSettled = next == client || (nStyle & (WS_MAXIMIZE | WS_MINIMIZE)) != 0;
-        client = next;
-        if (bSettled) {
-            break;
-        }
-        m_bResized = true;
-    }
+    m_state.m_bVScrollBar = fit.bVert;
+    Format(fit.room.cx);
     return fit;
 }
 
-void TextView::SetVerticalRange() {
-    m_port.SetScrollRange(SB_VERT, {0, m_state.m_nNumRows - 1, m_nVPage, m_state.m_nVScrollPos});
-}
-
-void TextView::Apply(const Fit& fit, bool bPartner) {
+void TextView::Apply(const Fit& fit) {
     const int nMost = m_state.m_nMaxLineLength - 1;
     if (fit.bAny && m_state.m_bHScrollBar) {
-        m_port.SetScrollRange(
-            SB_HORZ, {0, nMost, fit.room.cx / m_state.m_nCharWidth, m_state.m_nHScrollPos});
-    } else if (fit.bAny && bPartner) {
+        m_port.SetScrollRange(SB_HORZ, {0, nMost, WholeRows(fit.room.cx, m_state.m_nCharWidth),
+                                        m_state.m_nHScrollPos});
+    } else if (fit.bAny && HasPartner()) {
         m_port.SetScrollRange(SB_HORZ, {0, nMost, m_state.m_nMaxLineLength, 0});
     }
     if (fit.bVert) {
-        m_nVPage = fit.room.cy / m_state.m_nCharHeight;
-        SetVerticalRange();
+        m_bar = {0, m_state.m_nNumRows - 1, WholeRows(fit.room.cy, m_state.m_nCharHeight),
+                 m_state.m_nVScrollPos};
+        m_port.SetScrollRange(SB_VERT, m_bar);
     }
-    m_port.ShowScrollBar(SB_HORZ, fit.bHorz);
-    if (m_port.HasWindow()) {
-        m_port.ShowScrollBar(SB_VERT, fit.bVert);
+    if (m_scroll.ShowBar(SB_HORZ, fit.bHorz)) {
+        m_scroll.ShowBar(SB_VERT, fit.bVert);
     }
 }
 
-void TextView::FitBars(bool bPartner) {
-    if (!m_port.HasWindow() || !IsMeasured()) {
+void TextView::FitBars() {
+    if (!m_port.HasWindow() || !IsMeasured() || m_scroll.NoteResize()) {
         return;
     }
-    if (m_bFitting) {
-        m_bResized = true;
+    const bool bThere = m_scroll.Fit([this] {
+        m_scroll.Settle(
+            [this](Size client) { return FitsExactly() ? FitExactly(client) : FitOnce(client); },
+            [this](const Fit& fit) { Apply(fit); });
+    });
+    if (!bThere) {
         return;
     }
-    m_bResized = false;
-    {
-        const FlagScope fitting(m_bFitting);
-        for (int i = 0; i < kMostRounds; ++i) {
-            Size planned;
-            Apply(Plan(bPartner, planned), bPartner);
-            if (!m_port.HasWindow() || ClientSize() == planned) {
-                break;
-            }
-        }
-    }
-    if (FitsExactly() && m_port.HasWindow()) {
+    if (FitsExactly()) {
         Format(0);  // for a window that has still another width
     }
-    if (m_bResized && m_port.HasWindow()) {
+    if (m_scroll.WasResized()) {
         ReturnToEnd();
     }
 }
 
-void TextView::Resize(bool bPartner) {
-    if (m_bFitting) {
-        m_bResized = true;
+void TextView::Resize() {
+    if (m_scroll.NoteResize()) {
         return;
     }
-    FitBars(bPartner);
-    if (m_port.HasWindow()) {
+    const AliveWatch watch(m_alive);
+    FitBars();
+    if (watch && m_port.HasWindow()) {
         ReturnToEnd();
     }
 }
 
 void TextView::ReturnToEnd() {
-    const Size view = ViewSize();
-    TextViewState& state = m_state;
-    if (state.m_nHScrollPos + view.cx > state.m_nMaxLineLength) {
-        state.m_nHScrollPos = std::max(state.m_nMaxLineLength - view.cx, 0);
-    }
-    if (state.m_nVScrollPos + view.cy > state.m_nNumRows) {
-        const int nPos = std::max(state.m_nNumRows - view.cy, 0);
-        if (nPos != state.m_nVScrollPos) {
-            state.m_nVScrollPos = nPos;
-            if (state.m_bVScrollBar) {
-                SetVerticalRange();
-            }
+    m_state.m_nHScrollPos = ColumnAxis().Refitted();
+    const int nPos = RowAxis().Refitted();
+    if (nPos != m_state.m_nVScrollPos) {
+        m_state.m_nVScrollPos = nPos;
+        if (m_state.m_bVScrollBar) {
+            m_bar.nMax = m_state.m_nNumRows - 1;
+            m_bar.nPos = nPos;
+            m_port.SetScrollRange(SB_VERT, m_bar);
         }
     }
+}
+
+// --- Scrolling
+
+int TextView::ThumbRow(unsigned nCode, int nPos) const {
+    const std::optional<int> row =
+        m_port.HasWindow() ? m_scroll.ThumbPosition(SB_VERT, nCode) : std::nullopt;
+    if (!row) {
+        return nPos;
+    }
+    return nCode == SB_THUMBTRACK ? ThumbAtEnd(*row, m_bar, RowAxis()) : *row;
+}
+
+bool TextView::VScroll(unsigned nCode, int nPos) {
+    if (!m_port.HasWindow()) {
+        return false;
+    }
+    const ScrollAxis rows = RowAxis();
+    const ScrollMove move = MoveOf(nCode, {1, rows.nPage}, nPos);
+    return Scroll(m_state.m_nVScrollPos, Target(rows, move, ThumbLimit::Refused), 0,
+                  m_state.m_nCharHeight);
+}
+
+bool TextView::HScroll(unsigned nCode, int nPos) {
+    if (!m_port.HasWindow()) {
+        return false;
+    }
+    const ScrollAxis columns = ColumnAxis();
+    const ScrollMove move = MoveOf(nCode, {1, columns.nPage}, nPos);
+    return Scroll(m_state.m_nHScrollPos, Target(columns, move, ThumbLimit::Refused),
+                  m_state.m_nCharWidth, 0);
+}
+
+// nPos is the position of the state that is to become target.
+bool TextView::Scroll(int& nPos, std::optional<int> target, int cxUnit, int cyUnit) {
+    if (!target) {
+        return false;
+    }
+    const AliveWatch watch(m_alive);
+    const auto there = [&] { return watch && m_port.HasWindow(); };
+    const int nBack = nPos - *target;
+    m_port.ScrollPixels(nBack * cxUnit, nBack * cyUnit, false);
+    if (there()) {
+        nPos = *target;
+        FitBars();
+    }
+    if (there()) {
+        m_port.Update();
+    }
+    return true;
+}
+
+int TextView::PositionFor(int nRow, int nMargin) const {
+    return RowAxis().Clamped(nRow - nMargin);
 }
 
 }  // namespace qv

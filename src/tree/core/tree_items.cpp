@@ -27,13 +27,10 @@ std::int16_t LevelBelow(HTREEITEM hParent) {
 
 }  // namespace
 
-TreeItems::TreeItems(const MultiByte& text, const StyleTable& styles)
-    : m_aStyles(styles), m_text(text) {}
+TreeItems::TreeItems(const MultiByte& text, const StyleTable& styles, TreeSteps& steps)
+    : m_text(text), m_aStyles(styles), m_steps(steps) {}
 
 TreeItems::~TreeItems() {
-    for (Watch* pWatch = m_pWatches; pWatch != nullptr; pWatch = pWatch->m_pNext) {
-        pWatch->m_pTree = nullptr;
-    }
     DeleteAllItems();
 }
 
@@ -316,7 +313,7 @@ bool TreeItems::FindSortedPlace(HTREEITEM hItem, HTREEITEM hFirst, HTREEITEM& hN
     const Watch watch(*this, hItem);
     const unsigned nLinkChanges = m_nLinkChanges;
     for (hNext = hFirst; hNext != nullptr; hNext = hNext->pNextSibling) {
-        const bool bLess = CompareItems(hItem, hNext) == -1;
+        const bool bLess = m_steps.CompareItems(hItem, hNext) == -1;
         if (!watch.ItemAlive()) {
             return false;
         }
@@ -400,10 +397,7 @@ void TreeItems::MoveSelectionOutOf(HTREEITEM hItem) {
     if (hNew == nullptr) {
         hNew = GetNextItem(hItem, TVGN_PREVIOUSVISIBLE);
     }
-    m_hSelectedItem = hNew;
-    if (hNew != nullptr) {
-        hNew->nState |= TVIS_SELECTED;
-    }
+    Select(hNew);
 }
 
 // The view must not start or end at a record that is about to go, nor below one.
@@ -462,6 +456,16 @@ bool TreeItems::ChangeParent(HTREEITEM hItem, HTREEITEM hNewParent) {
 
 // --- Attributes
 
+void TreeItems::Select(HTREEITEM hItem) {
+    if (m_hSelectedItem != nullptr) {
+        m_hSelectedItem->nState &= ~static_cast<std::uint32_t>(TVIS_SELECTED);
+    }
+    m_hSelectedItem = hItem;
+    if (hItem != nullptr) {
+        hItem->nState |= TVIS_SELECTED;
+    }
+}
+
 bool TreeItems::SetItemText(HTREEITEM hItem, const char* pszText) {
     if (hItem == nullptr || !IsLive(hItem)) {
         return true;
@@ -484,7 +488,7 @@ bool TreeItems::SetItemText(HTREEITEM hItem, const char* pszText) {
 }
 
 bool TreeItems::HaveStateImage(HTREEITEM hItem) const {
-    return hItem != nullptr && (hItem->pParent != nullptr || m_bShowStatesAtRoot);
+    return hItem != nullptr && (hItem->pParent != nullptr || m_bStatesAtRoot);
 }
 
 unsigned TreeItems::GetItemStateImage(HTREEITEM hItem) const {
@@ -563,27 +567,19 @@ bool TreeItems::CheckRun(HTREEITEM hFirst, HTREEITEM hLast, HTREEITEM hParent,
 
 // --- Watch
 
-TreeItems::Watch::Watch(TreeItems& tree, HTREEITEM hItem)
-    : m_pTree(&tree),
-      m_pNext(tree.m_pWatches),
+TreeItems::Watch::Watch(const TreeItems& items, HTREEITEM hItem)
+    : AliveWatch(items.m_alive),
+      m_items(items),
       m_hItem(hItem),
-      m_nGeneration(tree.m_nGeneration),
-      m_nSerial(hItem != nullptr ? hItem->nSerial : 0) {
-    tree.m_pWatches = this;
-}
-
-TreeItems::Watch::~Watch() {
-    if (m_pTree != nullptr) {
-        m_pTree->m_pWatches = m_pNext;  // watches live on the stack, so the last made goes first
-    }
-}
+      m_nGeneration(items.m_nGeneration),
+      m_nSerial(hItem != nullptr ? hItem->nSerial : 0) {}
 
 bool TreeItems::Watch::ItemAlive() const {
-    if (m_pTree == nullptr) {
+    if (!ObjectAlive()) {
         return false;
     }
     return m_hItem == nullptr ||
-           (m_nGeneration == m_pTree->m_nGeneration && m_hItem->nSerial == m_nSerial);
+           (m_nGeneration == m_items.m_nGeneration && m_hItem->nSerial == m_nSerial);
 }
 
 }  // namespace qv

@@ -1,5 +1,5 @@
 // The tree's item store: records, links, navigation, insertion, removal, sorting, marks. It knows
-// no window and no geometry; tree_view.h adds those.
+// no window and no geometry; tree_view.h adds those. Order it asks its control for.
 //
 // Ownership: the store owns every record and every text. A handle is a pointer to a record. A
 // deleted record is zeroed and kept on a free list, so that a stale handle points at valid memory
@@ -14,7 +14,9 @@
 #include "base/multi_byte.h"
 #include "base/platform_names.h"
 #include "base/text_pool.h"
+#include "frame/alive.h"
 #include "frame/core/styled_text.h"
+#include "tree/core/tree_steps.h"
 
 #include <cstdint>
 #include <vector>
@@ -51,14 +53,32 @@ namespace qv {
 
 class TreeItems {
 public:
-    // Both must outlive the store; styles is the table of the control.
-    TreeItems(const MultiByte& text, const StyleTable& styles);
-    virtual ~TreeItems();
+    // All must outlive the store; styles is the table of the control.
+    TreeItems(const MultiByte& text, const StyleTable& styles, TreeSteps& steps);
+    ~TreeItems();
     TreeItems(const TreeItems&) = delete;
     TreeItems& operator=(const TreeItems&) = delete;
 
+    // Goes with the store: whoever leads out of the tree watches it.
+    const AliveToken& Alive() const { return m_alive; }
+    // False for a deleted item. Null is none.
+    static bool IsLive(HTREEITEM hItem) { return hItem->pszText != nullptr; }
+
     // --- Navigation. Null gives null unless said otherwise.
 
+    // First item of the root level.
+    HTREEITEM Root() const { return m_hRootItem; }
+    // The root level's start has been moved below another item. Rows are then whatever walking from
+    // it gives.
+    bool RootDetached() const { return m_hRootItem != nullptr && m_hRootItem->pParent != nullptr; }
+    // First and last fully shown row, as the view has set them.
+    HTREEITEM Top() const { return m_hTopItem; }
+    HTREEITEM Bottom() const { return m_hBottomItem; }
+    void SetTop(HTREEITEM hItem) { m_hTopItem = hItem; }
+    void SetBottom(HTREEITEM hItem) { m_hBottomItem = hItem; }
+    HTREEITEM Selected() const { return m_hSelectedItem; }
+    // Moves the selection and its bit; null clears it.
+    void Select(HTREEITEM hItem);
     // A TVGN_ code; TVGN_CHILD of null is the first root item, TVGN_ROOT the top ancestor.
     HTREEITEM GetNextItem(HTREEITEM hItem, unsigned nCode) const;
     HTREEITEM GetLastChild(HTREEITEM hItem) const { return hItem ? hItem->pLastChild : nullptr; }
@@ -99,6 +119,9 @@ public:
 
     // False if memory ran out; the old text stays then.
     bool SetItemText(HTREEITEM hItem, const char* pszText);
+    // Root items have state images too. Off at first.
+    bool StatesAtRoot() const { return m_bStatesAtRoot; }
+    void ShowStatesAtRoot(bool bShow) { m_bStatesAtRoot = bShow; }
     bool HaveStateImage(HTREEITEM hItem) const;
     unsigned GetItemStateImage(HTREEITEM hItem) const;
     HTREEITEM GetNextCheckedItem(HTREEITEM hItem, unsigned nState) const;
@@ -116,56 +139,27 @@ public:
         return m_aStyles.ParseStyleText(hItem->pszText);
     }
 
-    // --- Virtual step
-
-    // -1, 0 or 1. Null as first item gives 1, as second -1. By default the order of the texts
-    // behind their style codes, without regard to case. One that throws leaves the tree as it was;
-    // std::bad_alloc makes the operation fail, anything else goes on to its caller.
-    virtual int CompareItems(HTREEITEM hItem1, HTREEITEM hItem2);
+    // The order that CompareItems has by default: of the texts behind their style codes, without
+    // regard to case. Null as first item gives 1, as second -1.
+    int CompareTexts(HTREEITEM hItem1, HTREEITEM hItem2) const;
 
     // True if all links, ends of runs and counts agree.
     bool CheckInvariants() const;
 
-    // Watches the tree and one item over a call that leads out of the library: its receiver may
-    // delete the item, empty the tree or destroy it.
-    class Watch {
+    // Watches the store, and one item of it, over a call that leads out of the library: its
+    // receiver may delete the item, empty the tree or destroy it.
+    class Watch : public AliveWatch {
     public:
-        Watch(TreeItems& tree, HTREEITEM hItem);
-        ~Watch();
-        Watch(const Watch&) = delete;
-        Watch& operator=(const Watch&) = delete;
-        bool TreeAlive() const { return m_pTree != nullptr; }
-        // The watched item still is the item that it was. A null item is alive with its tree.
+        Watch(const TreeItems& items, HTREEITEM hItem);
+        // The item still is the item that it was. A null item is alive with its store.
         bool ItemAlive() const;
 
     private:
-        friend class TreeItems;
-        TreeItems* m_pTree;
-        Watch* m_pNext;
+        const TreeItems& m_items;
         HTREEITEM m_hItem;
         unsigned m_nGeneration;
         std::uint32_t m_nSerial;
     };
-
-    HTREEITEM m_hRootItem = nullptr;
-    HTREEITEM m_hTopItem = nullptr;  // first and last fully shown row, kept by the view
-    HTREEITEM m_hBottomItem = nullptr;
-    HTREEITEM m_hSelectedItem = nullptr;
-    bool m_bAllowTags = true;
-    bool m_bShowStatesAtRoot = false;
-    bool m_bAutoTagChildren = true;
-
-protected:
-    const StyleTable& m_aStyles;
-
-    // True where CompareItems is not the one of this class; sorting then asks it for each pair.
-    virtual bool ReplacesCompareItems() const { return false; }
-
-    // The root level's start has been moved below another item. Rows are then whatever walking from
-    // it gives.
-    bool RootDetached() const { return m_hRootItem != nullptr && m_hRootItem->pParent != nullptr; }
-
-    bool IsLive(HTREEITEM hItem) const { return hItem->pszText != nullptr; }
 
 private:
     HTREEITEM AllocNewHandle();
@@ -186,6 +180,13 @@ private:
     bool CheckRun(HTREEITEM hFirst, HTREEITEM hLast, HTREEITEM hParent, size_t& nItems) const;
 
     const MultiByte& m_text;
+    const StyleTable& m_aStyles;
+    TreeSteps& m_steps;
+    HTREEITEM m_hRootItem = nullptr;
+    HTREEITEM m_hTopItem = nullptr;
+    HTREEITEM m_hBottomItem = nullptr;
+    HTREEITEM m_hSelectedItem = nullptr;
+    bool m_bStatesAtRoot = false;
     std::vector<_QVTREECTLEX_ITEM> m_aItems;
     TextPool m_texts;
     HTREEITEM m_pFreeItems = nullptr;
@@ -196,7 +197,7 @@ private:
     std::uint32_t m_nLastSerial = 0;
     unsigned m_nGeneration = 0;  // counts the times that all records were released
     unsigned m_nLinkChanges = 0;
-    Watch* m_pWatches = nullptr;
+    AliveToken m_alive;
 };
 
 }  // namespace qv

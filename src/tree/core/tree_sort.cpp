@@ -37,7 +37,7 @@ struct KeyedItem {
 
 }  // namespace
 
-int TreeItems::CompareItems(HTREEITEM hItem1, HTREEITEM hItem2) {
+int TreeItems::CompareTexts(HTREEITEM hItem1, HTREEITEM hItem2) const {
     if (hItem1 == nullptr) {
         return 1;
     }
@@ -62,7 +62,7 @@ bool TreeItems::SortChildren(HTREEITEM hParent) {
     } catch (const std::bad_alloc&) {
         return false;
     }
-    if (!watch.TreeAlive() || nLinkChanges != m_nLinkChanges) {
+    if (!watch.ObjectAlive() || nLinkChanges != m_nLinkChanges) {
         return false;
     }
     HTREEITEM hPrev = nullptr;
@@ -77,11 +77,12 @@ bool TreeItems::SortChildren(HTREEITEM hParent) {
 }
 
 void TreeItems::SortHandles(std::vector<HTREEITEM>& handles, const Watch& watch) {
-    if (ReplacesCompareItems()) {
+    if (m_steps.ReplacesCompareItems()) {
         // It may change the tree or even destroy it; the items are not asked for any more then.
         const unsigned nLinkChanges = m_nLinkChanges;
         MergeSort(handles, [&](HTREEITEM h1, HTREEITEM h2) {
-            return watch.TreeAlive() && nLinkChanges == m_nLinkChanges && CompareItems(h1, h2) < 0;
+            return watch.ObjectAlive() && nLinkChanges == m_nLinkChanges &&
+                   m_steps.CompareItems(h1, h2) < 0;
         });
         return;
     }

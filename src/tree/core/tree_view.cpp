@@ -8,7 +8,6 @@ namespace qv {
 namespace {
 
 constexpr int kLeastIndent = 19;
-constexpr int kImageGap = 3;    // behind each image
 constexpr int kTextMargin = 4;  // around the text of a row whose stops count from the text
 constexpr int kLeastItemHeight = 5;
 constexpr int kFontGap = 2;
@@ -16,29 +15,23 @@ constexpr int kFontGap = 2;
 }  // namespace
 
 TreeView::TreeView(WindowPort& port, TextMeasure& measure, const MultiByte& text,
-                   const StyleTable& styles)
-    : TreeItems(text, styles), m_port(port), m_measure(measure) {}
-
-TreeView::~TreeView() {
-    m_rows.Clear(false);
-}
+                   const StyleTable& styles, TreeSteps& steps)
+    : m_port(port),
+      m_measure(measure),
+      m_aStyles(styles),
+      m_steps(steps),
+      m_items(text, styles, steps) {}
 
 // --- Items
 
 HTREEITEM TreeView::InsertItem(const char* pszText, int nImage, int nSelectedImage,
                                HTREEITEM hParent, HTREEITEM hInsertAfter) {
-    HTREEITEM hItem = TreeItems::InsertItem(pszText, nImage, nSelectedImage, hParent, hInsertAfter);
+    HTREEITEM hItem = m_items.InsertItem(pszText, nImage, nSelectedImage, hParent, hInsertAfter);
     if (hItem == nullptr) {
         return nullptr;
     }
-    ChangeRows([&] {
-        if (IsDisplayed(hItem)) {
-            m_rows.Insert(LastDisplayableItem(hItem), hItem);
-        }
-    });
-    if (m_bRedraw) {
-        Refresh();
-    }
+    m_rows.Inserted(hItem);
+    Refresh();
     return hItem;
 }
 
@@ -47,14 +40,12 @@ bool TreeView::DeleteItem(HTREEITEM hItem) {
         DeleteAllItems();
         return true;
     }
-    if (!IsLive(hItem)) {
+    if (!TreeItems::IsLive(hItem)) {
         return false;
     }
-    ChangeRows([&] { EraseRows(hItem, true); });
-    TreeItems::DeleteItem(hItem);
-    if (m_bRedraw) {
-        Refresh();
-    }
+    m_rows.BranchLeaves(hItem);
+    m_items.DeleteItem(hItem);
+    Refresh();
     return true;
 }
 
@@ -68,15 +59,13 @@ bool TreeView::DeleteChildren(HTREEITEM hItem) {
         bDeleted = DeleteItem(hItem->pFirstChild);
     }
     m_bRedraw = bRedraw;
-    if (m_bRedraw) {
-        Refresh();
-    }
+    Refresh();
     return bDeleted;
 }
 
 void TreeView::DeleteAllItems() {
-    m_rows.Clear(true);
-    TreeItems::DeleteAllItems();
+    m_rows.Clear();
+    m_items.DeleteAllItems();
     if (m_bRedraw && m_port.HasWindow()) {
         CalcScroll();
         m_port.InvalidateAll();
@@ -84,7 +73,7 @@ void TreeView::DeleteAllItems() {
 }
 
 bool TreeView::ChangeParent(HTREEITEM hItem, HTREEITEM hNewParent) {
-    if (hItem == nullptr || !IsLive(hItem)) {
+    if (hItem == nullptr || !TreeItems::IsLive(hItem)) {
         return false;
     }
     if (hNewParent == TVI_ROOT) {
@@ -92,18 +81,16 @@ bool TreeView::ChangeParent(HTREEITEM hItem, HTREEITEM hNewParent) {
     }
     const bool bMoves = hNewParent != hItem->pParent;
     if (bMoves) {
-        ChangeRows([&] { EraseRows(hItem, true); });
+        m_rows.BranchLeaves(hItem);
     }
-    const bool bMoved = TreeItems::ChangeParent(hItem, hNewParent);
+    const bool bMoved = m_items.ChangeParent(hItem, hNewParent);
     if (bMoves) {
-        ChangeRows([&] { InsertRows(hItem); });
+        m_rows.BranchInserted(hItem);
     }
     if (bMoved) {
         CalcScroll();
         CalcBottomItem();
-        if (m_bRedraw && m_port.HasWindow()) {
-            m_port.InvalidateAll();
-        }
+        InvalidateAll();
     }
     return bMoved;
 }
@@ -112,17 +99,11 @@ bool TreeView::SortChildren(HTREEITEM hParent) {
     if (hParent == nullptr || hParent == TVI_ROOT) {
         return false;
     }
-    const Watch watch(*this, hParent);
-    if (!TreeItems::SortChildren(hParent) || !watch.TreeAlive()) {
+    const TreeItems::Watch watch(m_items, hParent);
+    if (!m_items.SortChildren(hParent) || !watch.ObjectAlive()) {
         return false;
     }
-    if (hParent->nState & TVIS_EXPANDED) {
-        ChangeRows([&] {
-            if (hParent->pRowLeaf != nullptr) {
-                DropRows();
-            }
-        });
-    }
+    m_rows.Reordered(hParent);
     if (m_bRedraw) {
         RefitAll();
     }
@@ -133,11 +114,11 @@ bool TreeView::SortChildren(HTREEITEM hParent) {
 }
 
 bool TreeView::SetItemText(HTREEITEM hItem, const char* pszText) {
-    if (hItem == nullptr || !TreeItems::SetItemText(hItem, pszText)) {
+    if (hItem == nullptr || !m_items.SetItemText(hItem, pszText)) {
         return hItem == nullptr;
     }
     hItem->nExtentEpoch = 0;
-    ChangeRows([&] { m_rows.Unmeasure(hItem); });
+    m_rows.WidthChanged(hItem);
     if (m_bRedraw) {
         InvalidateItem(hItem, true);
     }
@@ -166,13 +147,13 @@ void TreeView::SetItemState(HTREEITEM hItem, unsigned nState, unsigned nMask) {
 }
 
 void TreeView::SetItemStateImage(HTREEITEM hItem, unsigned nImage, bool bChildren) {
-    if (!HaveStateImage(hItem)) {
+    if (!m_items.HaveStateImage(hItem)) {
         return;
     }
     // In the order of the tree, without recursion.
-    HTREEITEM hEnd = bChildren ? NextAfterSubtree(hItem) : WalkNext(hItem);
-    for (HTREEITEM h = hItem; h != hEnd; h = WalkNext(h)) {
-        h->nState = SetStateImage(h->nState, nImage);
+    HTREEITEM hEnd = bChildren ? m_items.NextAfterSubtree(hItem) : m_items.WalkNext(hItem);
+    for (HTREEITEM h = hItem; h != hEnd; h = m_items.WalkNext(h)) {
+        h->nState = TreeItems::SetStateImage(h->nState, nImage);
         if (m_bRedraw) {
             InvalidateItem(h, false);
         }
@@ -180,12 +161,12 @@ void TreeView::SetItemStateImage(HTREEITEM hItem, unsigned nImage, bool bChildre
 }
 
 int TreeView::ChangeItemStyles(HTREEITEM hItem, int nStyle, bool bUpTheTree, bool bOnlyDefault) {
-    const int nChanged = TreeItems::ChangeItemStyles(hItem, nStyle, bUpTheTree, bOnlyDefault);
+    const int nChanged = m_items.ChangeItemStyles(hItem, nStyle, bUpTheTree, bOnlyDefault);
     for (HTREEITEM h = hItem; nChanged > 0 && h != nullptr; h = h->pParent) {
-        ChangeRows([&] { m_rows.Unmeasure(h); });
+        m_rows.WidthChanged(h);
     }
-    if (nChanged > 0 && m_bRedraw && m_port.HasWindow()) {
-        m_port.InvalidateAll();
+    if (nChanged > 0) {
+        InvalidateAll();
     }
     return nChanged;
 }
@@ -195,9 +176,7 @@ int TreeView::ChangeItemStyles(HTREEITEM hItem, int nStyle, bool bUpTheTree, boo
 void TreeView::UseTabs(const int* pTabs, int nCount) {
     m_tabs.Use(pTabs, nCount);
     ForgetExtents();
-    if (m_bRedraw && m_port.HasWindow()) {
-        m_port.InvalidateAll();
-    }
+    InvalidateAll();
 }
 
 void TreeView::ClearTabs() {
@@ -233,8 +212,8 @@ int TreeView::ItemHeight() {
 }
 
 void TreeView::CalcItemHeight() {
-    ReadImageSizes();
-    const int nFont = FontHeight();
+    m_steps.ReadImageSizes(m_images);
+    const int nFont = m_steps.FontHeight();
     int nHeight = nFont > 0 ? nFont + kFontGap : 0;
     nHeight = std::max({nHeight, m_images.cyImage, m_images.cyStateImage});
     if (nHeight > 0) {
@@ -247,15 +226,18 @@ int TreeView::IndentStep() const {
     return std::max(kLeastIndent, m_images.cyImage);
 }
 
-bool TreeView::HasStyleBit(unsigned nBit) const {
-    return m_port.HasWindow() && (m_port.Style() & nBit) != 0;
+// The window is asked once for all rows of a refit.
+bool TreeView::LinesAtRoot() const {
+    return m_bCounting ? m_metrics.bLinesAtRoot
+                       : m_port.HasWindow() && (m_port.Style() & TVS_LINESATROOT) != 0;
 }
 
 void TreeView::ForgetExtents() {
-    m_rows.UnmeasureAll();
+    m_rows.WidthsChanged();
     if (++m_nExtentEpoch == 0) {
         m_nExtentEpoch = 1;
-        for (HTREEITEM h = GetNextItem(m_hRootItem, TVGN_ROOT); h != nullptr; h = WalkNext(h)) {
+        for (HTREEITEM h = m_items.GetNextItem(m_items.Root(), TVGN_ROOT); h != nullptr;
+             h = m_items.WalkNext(h)) {
             h->nExtentEpoch = 0;
         }
     }
@@ -274,7 +256,7 @@ int TreeView::TextExtent(HTREEITEM hItem, TextMeasure* pOther) {
     if (pOther == nullptr && hItem->nExtentEpoch == m_nExtentEpoch) {
         return hItem->nExtent;
     }
-    const int nExtent = ColumnsExtent(DisplayText(hItem), m_tabs, m_bIndentTabs, m_aStyles,
+    const int nExtent = ColumnsExtent(m_items.DisplayText(hItem), m_tabs, m_bIndentTabs, m_aStyles,
                                       pOther != nullptr ? *pOther : m_measure);
     if (pOther == nullptr) {
         hItem->nExtent = nExtent;
@@ -306,16 +288,25 @@ void TreeView::CalcItemRect(TextMeasure* pOther, int nTop, HTREEITEM hItem, Rect
     if (m_images.bNormal) {
         makeRoom(m_images.cxImage + kImageGap);
     }
-    if (m_images.bState && HaveStateImage(hItem)) {
+    if (m_images.bState && m_items.HaveStateImage(hItem)) {
         makeRoom(m_images.cxStateImage + kImageGap);
     }
-    if (HasStyleBit(TVS_LINESATROOT)) {
+    if (LinesAtRoot()) {
         rect.left += nIndent;
         makeRoom(nIndent);
     }
     if (bTextOnly) {
         rect.left = rect.right - nText - (m_bIndentTabs ? kTextMargin : 0);
     }
+}
+
+Rect TreeView::RowRect(int nTop, HTREEITEM hItem, bool bTextOnly) {
+    if (m_steps.ReplacesRowRect()) {
+        return m_steps.RowRect(nTop, hItem, bTextOnly);
+    }
+    Rect rect;
+    CalcItemRect(nullptr, nTop, hItem, rect, bTextOnly);
+    return rect;
 }
 
 bool TreeView::GetItemRect(HTREEITEM hItem, Rect& rect, bool bTextOnly) {
@@ -330,24 +321,24 @@ bool TreeView::FindRect(HTREEITEM hItem, Rect& rect, bool bTextOnly) {
     if (hItem == nullptr || !m_port.HasWindow() || ItemHeight() == 0) {
         return false;
     }
-    if (m_bRowsValid && !RootDetached() && hItem->pRowLeaf == nullptr) {
+    if (m_rows.KnownHidden(hItem)) {
         return false;
     }
     int nRow = 0;
-    HTREEITEM h = m_hTopItem;
+    HTREEITEM h = m_items.Top();
     for (; h != nullptr && h != hItem; ++nRow) {
-        if (h == m_hBottomItem) {
+        if (h == m_items.Bottom()) {
             // The only other row on screen is the partial one.
-            if (NextDisplayableItem(h) != hItem) {
+            if (m_items.NextDisplayableItem(h) != hItem) {
                 return false;
             }
         }
-        h = NextDisplayableItem(h);
+        h = m_items.NextDisplayableItem(h);
     }
     if (h == nullptr) {
         return false;
     }
-    RowRect(nRow * ItemHeight(), hItem, rect, bTextOnly);
+    rect = RowRect(nRow * ItemHeight(), hItem, bTextOnly);
     return true;
 }
 
@@ -367,21 +358,21 @@ HTREEITEM TreeView::HitTest(Point pt, unsigned* pFlags, Rect* pRect) {
         return nullptr;
     }
     nFlags = TVHT_NOWHERE;
-    const int nHeight = m_hTopItem != nullptr ? ItemHeight() : 0;
+    const int nHeight = m_items.Top() != nullptr ? ItemHeight() : 0;
     if (nHeight == 0) {
         return nullptr;
     }
     const int nRow = (pt.y - rcClient.top) / nHeight;
-    HTREEITEM hItem = m_hTopItem;
+    HTREEITEM hItem = m_items.Top();
     for (int i = 0; i < nRow && hItem != nullptr; ++i) {
-        hItem = NextDisplayableItem(hItem);
+        hItem = m_items.NextDisplayableItem(hItem);
     }
     if (hItem == nullptr) {
         return nullptr;
     }
     Rect rect;
     try {
-        RowRect(nRow * nHeight, hItem, rect, false);
+        rect = RowRect(nRow * nHeight, hItem, false);
     } catch (const std::bad_alloc&) {
         return nullptr;
     }
@@ -395,7 +386,7 @@ HTREEITEM TreeView::HitTest(Point pt, unsigned* pFlags, Rect* pRect) {
     } else if (x >= rect.right) {
         nFlags = TVHT_ONITEMRIGHT;
     } else if (rect.Contains({x, pt.y})) {
-        const bool bState = m_images.cxStateImage > 0 && HaveStateImage(hItem);
+        const bool bState = m_images.cxStateImage > 0 && m_items.HaveStateImage(hItem);
         const int cxState = bState ? m_images.cxStateImage + kImageGap : 0;
         const int cxImage = m_images.cxImage > 0 ? m_images.cxImage + kImageGap : 0;
         const int nOffset = x - rect.left;
@@ -410,11 +401,11 @@ bool TreeView::ItemVisible(HTREEITEM hItem) const {
     if (hItem == nullptr) {
         return false;
     }
-    for (HTREEITEM h = m_hTopItem; h != nullptr; h = NextDisplayableItem(h)) {
+    for (HTREEITEM h = m_items.Top(); h != nullptr; h = m_items.NextDisplayableItem(h)) {
         if (h == hItem) {
             return true;
         }
-        if (h == m_hBottomItem) {
+        if (h == m_items.Bottom()) {
             break;
         }
     }
@@ -424,24 +415,17 @@ bool TreeView::ItemVisible(HTREEITEM hItem) const {
 // --- Selection
 
 bool TreeView::SelectItem(HTREEITEM hItem) {
-    if (hItem == m_hSelectedItem) {
+    const HTREEITEM hOld = m_items.Selected();
+    if (hItem == hOld) {
         return false;
     }
-    if (hItem != nullptr) {
-        hItem->nState |= TVIS_SELECTED;
-        if (m_bRedraw) {
-            InvalidateItem(hItem, false);
+    m_items.Select(hItem);
+    if (m_bRedraw) {
+        InvalidateItem(hItem, false);
+        InvalidateItem(hOld, false);
+        if (m_port.HasWindow()) {
+            m_port.Update();
         }
-    }
-    if (m_hSelectedItem != nullptr) {
-        m_hSelectedItem->nState &= ~static_cast<std::uint32_t>(TVIS_SELECTED);
-        if (m_bRedraw) {
-            InvalidateItem(m_hSelectedItem, false);
-        }
-    }
-    m_hSelectedItem = hItem;
-    if (m_bRedraw && m_port.HasWindow()) {
-        m_port.Update();
     }
     return true;
 }
@@ -467,18 +451,25 @@ void TreeView::SetRedraw(bool bRedraw) {
     }
 }
 
-void TreeView::Refresh() {
-    CalcScroll();
-    CalcBottomItem();
-    if (m_port.HasWindow()) {
+// Of the window, while redraw is on.
+void TreeView::InvalidateAll() {
+    if (m_bRedraw && m_port.HasWindow()) {
         m_port.InvalidateAll();
     }
 }
 
+// After a change of rows, while redraw is on.
+void TreeView::Refresh() {
+    if (m_bRedraw) {
+        CalcScroll();
+        CalcBottomItem();
+        InvalidateAll();
+    }
+}
+
 void TreeView::Reset() {
-    m_rows.Clear(true);
-    TreeItems::DeleteAllItems();
-    m_bRowsValid = false;
+    m_rows.Forget();
+    m_items.DeleteAllItems();
     m_nItemHeight = 0;
     m_nHScrollPos = m_nVScrollPos = m_nVPage = m_nHPage = 0;
     ForgetExtents();

@@ -7,8 +7,8 @@
 // row coordinates: client pixels plus the horizontal scroll position.
 //
 // The refit of the scroll bars after a change (CalcScroll) wants the number of rows, the place of
-// the top row and the widest row. A RowIndex that is kept up to date answers that in a few steps.
-// Where a control replaces CalcItemRect, its version is asked about every row instead.
+// the top row and the widest row. ShownRows answers that in a few steps. Where a control replaces
+// the step RowRect, its version is asked about every row instead.
 //
 // Steps of the control may throw std::bad_alloc. It leaves none of the operations but CalcItemRect:
 // a question without memory has no answer, a change of the tree is done all the same, and the refit
@@ -17,31 +17,23 @@
 #pragma once
 
 #include "base/window_port.h"
-#include "tree/core/row_index.h"
+#include "frame/core/row_scroll.h"
+#include "tree/core/shown_rows.h"
 #include "tree/core/tree_columns.h"
 #include "tree/core/tree_items.h"
 
-#include <new>
-
 namespace qv {
 
-// The two image lists as the layout sees them.
-struct TreeImages {
-    bool bNormal = false;  // a list is set
-    bool bState = false;
-    int cxImage = 0;  // size of image 0 in pixels; stays when a list is taken away
-    int cyImage = 0;
-    int cxStateImage = 0;
-    int cyStateImage = 0;
-    friend bool operator==(const TreeImages&, const TreeImages&) = default;
-};
+inline constexpr int kImageGap = 3;  // behind each of a row's images, in pixels
 
-class TreeView : public TreeItems {
+class TreeView {
 public:
     // All must outlive the view. measure answers in the tree's own font.
     TreeView(WindowPort& port, TextMeasure& measure, const MultiByte& text,
-             const StyleTable& styles);
-    ~TreeView() override;
+             const StyleTable& styles, TreeSteps& steps);
+
+    // The store, to be asked. What changes it goes through the view.
+    const TreeItems& Items() const { return m_items; }
 
     // --- Items, as in TreeItems, with a refit and repaint while redraw is on
 
@@ -54,6 +46,7 @@ public:
     bool ChangeParent(HTREEITEM hItem, HTREEITEM hNewParent);
     bool SortChildren(HTREEITEM hParent);
 
+    void ShowStatesAtRoot(bool bShow) { m_items.ShowStatesAtRoot(bShow); }
     bool SetItemText(HTREEITEM hItem, const char* pszText);
     void SetItemImage(HTREEITEM hItem, int nImage, int nSelectedImage);
     void SetItemState(HTREEITEM hItem, unsigned nState, unsigned nMask);
@@ -78,7 +71,9 @@ public:
     // Pixels by which each level moves a row right: 19, or the height of a taller image. The height
     // and not the width counts; applications size their images by that.
     int IndentStep() const;
-    // The base rule of the virtual step. nTop is the row's top in client pixels. pOther measures
+    const TreeImages& Images() const { return m_images; }
+    void SetImages(const TreeImages& images) { m_images = images; }
+    // The base rule of the step RowRect. nTop is the row's top in client pixels. pOther measures
     // where the text is drawn in another font than the tree's own.
     void CalcItemRect(TextMeasure* pOther, int nTop, HTREEITEM hItem, Rect& rect, bool bTextOnly);
     // False for an item that is not on screen; the partial row at the bottom counts as on screen.
@@ -112,40 +107,28 @@ public:
     // Moves the view a row and the window's pixels with it. False at the end of the rows.
     bool StepView(bool bDown);
 
+    // Pixels by which the rows are scrolled to the left.
+    int HScrollPos() const { return m_nHScrollPos; }
+    // Index of the top row among the displayable ones.
+    int VScrollPos() const { return m_nVScrollPos; }
+    // Rows a page; 0 without a vertical bar.
+    int VPage() const { return m_nVPage; }
+    // Client width minus 4; 0 without a horizontal bar.
+    int HPage() const { return m_nHPage; }
+    // Right edge of the widest row.
+    int MaxWidth() const { return m_nMaxWidth; }
+
+    bool Redraw() const { return m_bRedraw; }
+    // Off leaves the scroll bars and the window alone until it is on again.
     void SetRedraw(bool bRedraw);
     void InvalidateItem(HTREEITEM hItem, bool bErase);
     // Forgets items and measures, as the window goes.
     void Reset();
 
-    bool CheckInvariants();
-
-    TreeImages m_images;
-    bool m_bRedraw = true;
-    int m_nHScrollPos = 0;  // pixels
-    int m_nVScrollPos = 0;  // index of the top row among the displayable ones
-    int m_nVPage = 0;       // rows a page; 0 without a vertical bar
-    int m_nHPage = 0;       // client width minus 4; 0 without a horizontal bar
-    int m_nMaxWidth = 0;    // right edge of the widest row
-
-protected:
     // The font or something else that all widths depend on is another one now.
     void ForgetExtents();
 
-    // --- What the control adds
-
-    // Reads the sizes of image 0 of both lists into m_images.
-    virtual void ReadImageSizes() {}
-    // Height of a space in the tree's font, which is found now if need be; 0 without a font.
-    virtual int FontHeight() = 0;
-    // CalcItemRect as the control has it.
-    virtual void RowRect(int nTop, HTREEITEM hItem, Rect& rect, bool bTextOnly) {
-        CalcItemRect(nullptr, nTop, hItem, rect, bTextOnly);
-    }
-    // True where CalcItemRect is not the one of this class. WidestRow then asks it for every row.
-    virtual bool ReplacesCalcItemRect() const { return false; }
-    virtual int WidestRow() { return 0; }
-    // Selection that asks and tells the parent, which may do anything meanwhile.
-    virtual void NfySelectItem(HTREEITEM hItem) = 0;
+    bool CheckInvariants() const;
 
 private:
     // What a row's rectangle depends on beside its text and place in the tree.
@@ -161,69 +144,44 @@ private:
     void RefitAll();
     void CalcItemHeight();
     void Fit();
+    // As the control has it.
+    Rect RowRect(int nTop, HTREEITEM hItem, bool bTextOnly);
     bool FindRect(HTREEITEM hItem, Rect& rect, bool bTextOnly);
-    int RowsThatFit(int nHeight);
     void CheckStyles();
     int TextExtent(HTREEITEM hItem, TextMeasure* pOther);
-    bool HasStyleBit(unsigned nBit) const;
-    bool EnsureRows();
-    void DropRows();
+    bool LinesAtRoot() const;
+    void InvalidateAll();
     void CheckMetrics();
-    bool IsDisplayed(HTREEITEM hItem) const;
-    // Applies a change of the tree to the index, if there is one. Where the root level's start has
-    // been moved away, rows follow no order that could be kept up, and the index is made anew when
-    // it is needed.
-    template <class Change>
-    void ChangeRows(Change change) {
-        if (!m_bRowsValid) {
-            return;
-        }
-        if (RootDetached() || m_bDetachedRows) {
-            DropRows();
-            return;
-        }
-        try {
-            change();
-        } catch (const std::bad_alloc&) {
-            DropRows();
-            ForgetLeaves();
-        }
-    }
-    // Rows that were being added may point at leaves that are gone.
-    void ForgetLeaves();
-    void CollectRows(HTREEITEM hFirst, HTREEITEM hEnd);
-    void InsertRows(HTREEITEM hItem);
-    void EraseRows(HTREEITEM hItem, bool bItemToo);
     void SetExpanded(HTREEITEM hItem, bool bExpanded);
     int CountRows();
     HTREEITEM ShownAncestor(HTREEITEM hItem) const;
     int ScrollView(int nRows, bool bDown);
-    void FitVerticalBar(const Rect& rcClient, int nRows, bool bNeeded);
-    void FitHorizontalBar(const Rect& rcClient, bool bNeeded);
-    int HorizontalStep(unsigned nCode, int nPos) const;
-
-    // Marks a refit as under way, also if a replaced step throws.
-    struct Fitting {
-        explicit Fitting(TreeView& view) : m_view(view) { m_view.m_bFitting = true; }
-        ~Fitting() { m_view.m_bFitting = false; }
-        TreeView& m_view;
-    };
+    bool FitVerticalBar(const BarPlan& plan, int nRows);
+    bool FitHorizontalBar(const BarPlan& plan);
+    int MoveRows(ScrollMove move);
 
     WindowPort& m_port;
     TextMeasure& m_measure;
+    const StyleTable& m_aStyles;
+    TreeSteps& m_steps;
+    TreeItems m_items;
+    ShownRows m_rows{m_items};
     TabStops m_tabs;
     bool m_bIndentTabs = true;
+    TreeImages m_images;
+    bool m_bRedraw = true;
+    int m_nHScrollPos = 0;
+    int m_nVScrollPos = 0;
+    int m_nVPage = 0;
+    int m_nHPage = 0;
+    int m_nMaxWidth = 0;
     int m_nItemHeight = 0;  // pixels; 0: not measured
     std::uint16_t m_nExtentEpoch = 1;
     int m_nExtentStyles = 0;  // entries of the style table when the extents were measured
-    RowIndex m_rows;
-    bool m_bRowsValid = false;
-    bool m_bDetachedRows = false;  // the index shows the rows of a detached root
     RowMetrics m_metrics;
-    std::vector<HTREEITEM> m_collected;
-    bool m_bFitting = false;
-    bool m_bFitDue = false;  // the last one ran out of memory
-    bool m_bResizedWhileFitting = false;
+    bool m_bCounting = false;  // m_metrics are those of now
+    RowScroll m_scroll{m_port};
+    bool m_bFitDue = false;  // the last refit ran out of memory
 };
 
 }  // namespace qv

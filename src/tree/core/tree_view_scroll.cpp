@@ -3,139 +3,71 @@
 #include <algorithm>
 #include <cstdlib>
 #include <new>
-#include <utility>
 
 namespace qv {
 
 namespace {
 
 constexpr int kHorizontalMargin = 4;  // of the client width is no part of a horizontal page
-constexpr int kHorizontalStep = 4;    // pixels a click on an arrow
+constexpr int kHorizontalLine = 4;    // pixels a click on an arrow
 constexpr int kHorizontalUnit = 2;    // pixels the horizontal bar counts as one
 constexpr int kStepwiseScroll = 16;   // rows up to which walking beats asking the index
 
+// The ends of a bar lead nowhere.
+ScrollMove TreeMove(unsigned nCode, ScrollSteps steps, int nThumb) {
+    const ScrollMove move = MoveOf(nCode, steps, nThumb);
+    const bool bEnd = move.kind == ScrollMove::Kind::Top || move.kind == ScrollMove::Kind::Bottom;
+    return bEnd ? ScrollMove{} : move;
+}
+
 }  // namespace
 
-// --- The index of displayable rows
-
-void TreeView::DropRows() {
-    m_rows.Clear(false);
-    m_bRowsValid = false;
-}
-
-// False if memory does not suffice for an index; rows are then walked.
-bool TreeView::EnsureRows() {
-    if (m_bRowsValid) {
-        return true;
-    }
-    m_rows.Clear(false);
-    try {
-        m_collected.clear();
-        CollectRows(m_hRootItem, nullptr);
-        m_rows.Insert(nullptr, m_collected);
-    } catch (const std::bad_alloc&) {
-        m_rows.Clear(false);
-        ForgetLeaves();
-        return false;
-    }
-    m_bRowsValid = true;
-    m_bDetachedRows = RootDetached();
-    return true;
-}
-
-void TreeView::ForgetLeaves() {
-    for (HTREEITEM h = m_hRootItem; h != nullptr; h = NextDisplayableItem(h)) {
-        h->pRowLeaf = nullptr;
-    }
-}
-
-bool TreeView::IsDisplayed(HTREEITEM hItem) const {
-    const HTREEITEM hParent = hItem->pParent;
-    return hParent == nullptr ||
-           (hParent->pRowLeaf != nullptr && (hParent->nState & TVIS_EXPANDED) != 0);
-}
-
-// Appends the rows from hFirst to the one before hEnd to m_collected.
-void TreeView::CollectRows(HTREEITEM hFirst, HTREEITEM hEnd) {
-    for (HTREEITEM h = hFirst; h != hEnd && h != nullptr; h = NextDisplayableItem(h)) {
-        m_collected.push_back(h);
-    }
-}
-
-// The item, which has just found its place, and what is displayable below it.
-void TreeView::InsertRows(HTREEITEM hItem) {
-    if (IsDisplayed(hItem)) {
-        m_collected.clear();
-        CollectRows(hItem, NextAfterSubtree(hItem));
-        m_rows.Insert(LastDisplayableItem(hItem), m_collected);
-    }
-}
-
-// What is displayable below the item, and the item itself with bItemToo.
-void TreeView::EraseRows(HTREEITEM hItem, bool bItemToo) {
-    if (hItem->pRowLeaf == nullptr) {
-        return;
-    }
-    HTREEITEM hLast = hItem;
-    while (hLast->pLastChild != nullptr && (hLast->nState & TVIS_EXPANDED)) {
-        hLast = hLast->pLastChild;
-    }
-    const int nItem = m_rows.IndexOf(hItem);
-    const int nLast = hLast == hItem ? nItem : m_rows.IndexOf(hLast);
-    const int nFirst = bItemToo ? nItem : nItem + 1;
-    m_rows.Erase(nFirst, nLast - nFirst + 1);
-}
+// --- What is displayable
 
 void TreeView::SetExpanded(HTREEITEM hItem, bool bExpanded) {
     if (((hItem->nState & TVIS_EXPANDED) != 0) == bExpanded) {
         return;
     }
     if (!bExpanded) {
-        ChangeRows([&] { EraseRows(hItem, false); });
+        m_rows.Collapsing(hItem);
         hItem->nState &= ~static_cast<std::uint32_t>(TVIS_EXPANDED);
         return;
     }
     hItem->nState |= TVIS_EXPANDED;
-    ChangeRows([&] {
-        if (hItem->pRowLeaf != nullptr && hItem->pFirstChild != nullptr) {
-            m_collected.clear();
-            CollectRows(hItem->pFirstChild, NextAfterSubtree(hItem));
-            m_rows.Insert(hItem, m_collected);
-        }
-    });
+    m_rows.Expanded(hItem);
 }
 
 // Widths depend on more than the rows; measures them anew where that has changed.
 void TreeView::CheckMetrics() {
     CheckStyles();
-    const RowMetrics metrics{m_images, m_bIndentTabs, m_bShowStatesAtRoot,
-                             HasStyleBit(TVS_LINESATROOT)};
+    const RowMetrics metrics{m_images, m_bIndentTabs, m_items.StatesAtRoot(), LinesAtRoot()};
     if (metrics == m_metrics) {
         return;
     }
-    m_rows.UnmeasureAll();
+    m_rows.WidthsChanged();
     m_metrics = metrics;
 }
 
 // Counts the displayable rows, and sets m_nMaxWidth and m_nVScrollPos.
 int TreeView::CountRows() {
     CheckMetrics();
-    const bool bReplaced = ReplacesCalcItemRect();
+    const SetWhileAlive counting(m_items.Alive(), m_bCounting, true);
+    const bool bReplaced = m_steps.ReplacesRowRect();
     const auto right = [this](HTREEITEM h) {
         Rect rect;
         CalcItemRect(nullptr, 0, h, rect, false);
         return rect.right;
     };
-    if (EnsureRows()) {
-        m_nMaxWidth = bReplaced ? WidestRow() : m_rows.MaxRight(right);
-        m_nVScrollPos = std::max(0, m_rows.IndexOf(m_hTopItem));
+    if (m_rows.Ensure()) {
+        m_nMaxWidth = bReplaced ? m_steps.WidestRow() : m_rows.MaxRight(right);
+        m_nVScrollPos = std::max(0, m_rows.IndexOf(m_items.Top()));
         return m_rows.Count();
     }
     int nRows = 0;
-    m_nMaxWidth = bReplaced ? WidestRow() : 0;
+    m_nMaxWidth = bReplaced ? m_steps.WidestRow() : 0;
     m_nVScrollPos = 0;
-    for (HTREEITEM h = m_hRootItem; h != nullptr; h = NextDisplayableItem(h), ++nRows) {
-        if (h == m_hTopItem) {
+    for (HTREEITEM h = m_items.Root(); h != nullptr; h = m_items.NextDisplayableItem(h), ++nRows) {
+        if (h == m_items.Top()) {
             m_nVScrollPos = nRows;
         }
         if (!bReplaced) {
@@ -158,25 +90,21 @@ HTREEITEM TreeView::ShownAncestor(HTREEITEM hItem) const {
 
 // --- The refit
 
-int TreeView::RowsThatFit(int nHeight) {
-    return ItemHeight() > 0 ? nHeight / ItemHeight() : 0;
-}
-
 void TreeView::CalcBottomItem() {
     if (!m_port.HasWindow()) {
         return;
     }
-    if (m_hTopItem == nullptr || ItemHeight() == 0) {
-        m_hBottomItem = nullptr;
+    if (m_items.Top() == nullptr || ItemHeight() == 0) {
+        m_items.SetBottom(nullptr);
         return;
     }
-    m_hBottomItem = m_hTopItem;
-    for (int nRows = RowsThatFit(m_port.ClientRect().Height()); nRows > 1; --nRows) {
-        const HTREEITEM hNext = NextDisplayableItem(m_hBottomItem);
+    m_items.SetBottom(m_items.Top());
+    for (int nRows = WholeRows(m_scroll.ClientSize().cy, ItemHeight()); nRows > 1; --nRows) {
+        const HTREEITEM hNext = m_items.NextDisplayableItem(m_items.Bottom());
         if (hNext == nullptr) {
             break;
         }
-        m_hBottomItem = hNext;
+        m_items.SetBottom(hNext);
     }
 }
 
@@ -184,34 +112,30 @@ void TreeView::CalcTopItem() {
     if (!m_port.HasWindow()) {
         return;
     }
-    if (m_hBottomItem == nullptr || ItemHeight() == 0) {
-        m_hTopItem = m_hRootItem;
+    if (m_items.Bottom() == nullptr || ItemHeight() == 0) {
+        m_items.SetTop(m_items.Root());
         return;
     }
-    HTREEITEM hTop = m_hBottomItem;
-    for (int nRows = RowsThatFit(m_port.ClientRect().Height()); nRows > 1; --nRows) {
-        const HTREEITEM hLast = LastDisplayableItem(hTop);
+    HTREEITEM hTop = m_items.Bottom();
+    for (int nRows = WholeRows(m_scroll.ClientSize().cy, ItemHeight()); nRows > 1; --nRows) {
+        const HTREEITEM hLast = m_items.LastDisplayableItem(hTop);
         if (hLast == nullptr) {
             break;
         }
         hTop = hLast;
     }
-    if (hTop != m_hTopItem) {
-        m_hTopItem = hTop;
+    if (hTop != m_items.Top()) {
+        m_items.SetTop(hTop);
         CalcScroll();
     }
 }
 
-// Showing a bar resizes the window, which leads back here: the call that is under way has the whole
-// picture and finishes the job.
 void TreeView::CalcScroll() {
-    if (!m_port.HasWindow() || m_bFitting) {
-        return;
-    }
-    const Fitting fitting(*this);
-    m_bFitDue = false;
     try {
-        Fit();
+        m_scroll.Fit([this] {
+            m_bFitDue = false;
+            Fit();
+        });
     } catch (const std::bad_alloc&) {
         m_bFitDue = true;
     }
@@ -226,76 +150,63 @@ void TreeView::FitIfDue() {
 
 // Works from the client area as it would be without bars, since one bar may force the other.
 void TreeView::Fit() {
-    const int cyBar = m_port.HorizontalBarHeight();
-    const int cxBar = m_port.VerticalBarWidth();
-    Rect rcClient = m_port.ClientRect();
-    rcClient.bottom += m_nHPage != 0 ? cyBar : 0;
-    rcClient.right += m_nVPage != 0 ? cxBar : 0;
-
-    m_hTopItem = ShownAncestor(m_hTopItem);
+    m_items.SetTop(ShownAncestor(m_items.Top()));
     const int nRows = CountRows();
-    bool bHorizontal = m_nMaxWidth > rcClient.Width();
-    if (bHorizontal) {
-        rcClient.bottom -= cyBar;
-    }
     // Without rows the height is not asked for: it is measured once, and image lists may come yet.
-    const bool bVertical = nRows > 0 && ItemHeight() != 0 && nRows > RowsThatFit(rcClient.Height());
-    if (bVertical) {
-        rcClient.right -= cxBar;
-        if (!bHorizontal && m_nMaxWidth > rcClient.Width()) {
-            bHorizontal = true;
-            rcClient.bottom -= cyBar;
-        }
-    }
-    FitVerticalBar(rcClient, nRows, bVertical);
-    FitHorizontalBar(rcClient, bHorizontal);
-    if (std::exchange(m_bResizedWhileFitting, false)) {
+    const int cyRow = nRows > 0 ? ItemHeight() : 0;
+    const BarPlan plan = PlanBars(m_scroll.SizeWithout(m_nHPage != 0, m_nVPage != 0),
+                                  m_scroll.BarSizes(), {m_nMaxWidth, nRows, cyRow});
+    if (FitVerticalBar(plan, nRows) && FitHorizontalBar(plan) && m_scroll.WasResized()) {
         CalcBottomItem();
     }
 }
 
-void TreeView::FitVerticalBar(const Rect& rcClient, int nRows, bool bNeeded) {
+// False once the window is gone.
+bool TreeView::FitVerticalBar(const BarPlan& plan, int nRows) {
     const bool bShown = m_nVPage != 0;
-    if (bNeeded) {
+    if (plan.bVert) {
         // At least 1, which also says that the bar is shown, in a window lower than a row.
-        m_nVPage = std::max(1, RowsThatFit(rcClient.Height()));
-        if (!bShown) {
-            m_port.ShowScrollBar(SB_VERT, true);
+        m_nVPage = std::max(1, WholeRows(plan.room.cy, ItemHeight()));
+        if (!bShown && !m_scroll.ShowBar(SB_VERT, true)) {
+            return false;
         }
-        m_port.SetScrollRange(SB_VERT, {0, nRows - 1, m_nVPage, m_nVScrollPos});
-        return;
+        m_port.SetScrollRange(SB_VERT, ScrollAxis{m_nVScrollPos, nRows, m_nVPage}.Range());
+        return true;
     }
     m_nVPage = 0;
     m_nVScrollPos = 0;
-    m_hTopItem = m_hRootItem;
-    m_port.ShowScrollBar(SB_VERT, false);
-    if (bShown && m_bRedraw) {
-        m_port.InvalidateAll();
+    m_items.SetTop(m_items.Root());
+    if (!m_scroll.ShowBar(SB_VERT, false)) {
+        return false;
     }
+    if (bShown) {
+        InvalidateAll();
+    }
+    return true;
 }
 
-void TreeView::FitHorizontalBar(const Rect& rcClient, bool bNeeded) {
+bool TreeView::FitHorizontalBar(const BarPlan& plan) {
     const bool bShown = m_nHPage != 0;
-    if (bNeeded) {
-        m_nHPage = rcClient.Width() - kHorizontalMargin;
-        if (m_nHPage <= 0) {
-            m_nHPage = 1;  // as above
-        }
-        if (!bShown) {
-            m_port.ShowScrollBar(SB_HORZ, true);
+    if (plan.bHorz) {
+        m_nHPage = std::max(1, plan.room.cx - kHorizontalMargin);  // 1 as above
+        if (!bShown && !m_scroll.ShowBar(SB_HORZ, true)) {
+            return false;
         }
         m_port.SetScrollRange(SB_HORZ,
                               {0, m_nMaxWidth / kHorizontalUnit, m_nHPage / kHorizontalUnit,
                                m_nHScrollPos / kHorizontalUnit});
-        return;
+        return true;
     }
     const bool bMoves = m_nHScrollPos != 0;
     m_nHPage = 0;
     m_nHScrollPos = 0;
-    m_port.ShowScrollBar(SB_HORZ, false);
-    if ((bShown || bMoves) && m_bRedraw) {
-        m_port.InvalidateAll();
+    if (!m_scroll.ShowBar(SB_HORZ, false)) {
+        return false;
     }
+    if (bShown || bMoves) {
+        InvalidateAll();
+    }
+    return true;
 }
 
 // After a change that may leave rows above the view and room below it.
@@ -306,42 +217,40 @@ void TreeView::RefitAll() {
 }
 
 void TreeView::Resize() {
-    if (m_bFitting) {
-        m_bResizedWhileFitting = true;
-        return;
+    if (!m_scroll.NoteResize()) {
+        CalcScroll();
+        CalcBottomItem();
     }
-    CalcScroll();
-    CalcBottomItem();
 }
 
 // --- Scrolling
 
 // Moves both ends of the view, no further than the rows go. Gives the rows moved.
 int TreeView::ScrollView(int nRows, bool bDown) {
-    if (m_hTopItem == nullptr || m_hBottomItem == nullptr) {
+    if (m_items.Top() == nullptr || m_items.Bottom() == nullptr) {
         return 0;
     }
-    if (nRows > kStepwiseScroll && EnsureRows()) {
-        const int nTop = m_rows.IndexOf(m_hTopItem);
-        const int nBottom = m_rows.IndexOf(m_hBottomItem);
+    if (nRows > kStepwiseScroll && m_rows.Ensure()) {
+        const int nTop = m_rows.IndexOf(m_items.Top());
+        const int nBottom = m_rows.IndexOf(m_items.Bottom());
         if (nTop >= 0 && nBottom >= 0) {
             const int nMoved = std::min(nRows, bDown ? m_rows.Count() - 1 - nBottom : nTop);
-            m_hTopItem = m_rows.At(bDown ? nTop + nMoved : nTop - nMoved);
-            m_hBottomItem = m_rows.At(bDown ? nBottom + nMoved : nBottom - nMoved);
+            m_items.SetTop(m_rows.At(bDown ? nTop + nMoved : nTop - nMoved));
+            m_items.SetBottom(m_rows.At(bDown ? nBottom + nMoved : nBottom - nMoved));
             return nMoved;
         }
     }
     int nMoved = 0;
     for (; nMoved < nRows; ++nMoved) {
-        const HTREEITEM hLimit =
-            bDown ? NextDisplayableItem(m_hBottomItem) : LastDisplayableItem(m_hTopItem);
+        const HTREEITEM hLimit = bDown ? m_items.NextDisplayableItem(m_items.Bottom())
+                                       : m_items.LastDisplayableItem(m_items.Top());
         if (hLimit == nullptr) {
             break;
         }
-        const HTREEITEM hOther =
-            bDown ? NextDisplayableItem(m_hTopItem) : LastDisplayableItem(m_hBottomItem);
-        m_hTopItem = bDown ? hOther : hLimit;
-        m_hBottomItem = bDown ? hLimit : hOther;
+        const HTREEITEM hOther = bDown ? m_items.NextDisplayableItem(m_items.Top())
+                                       : m_items.LastDisplayableItem(m_items.Bottom());
+        m_items.SetTop(bDown ? hOther : hLimit);
+        m_items.SetBottom(bDown ? hLimit : hOther);
     }
     return nMoved;
 }
@@ -354,33 +263,27 @@ int TreeView::ScrollTreeUp(int nRows) {
     return ScrollView(nRows, false);
 }
 
-void TreeView::VScroll(unsigned nCode, int nPos) {
-    int nDelta = 0;
-    switch (nCode) {
-        case SB_LINEUP:
-            nDelta = -ScrollTreeUp(1);
-            break;
-        case SB_LINEDOWN:
-            nDelta = ScrollTreeDown(1);
-            break;
-        case SB_PAGEUP:
-            nDelta = -ScrollTreeUp(m_nVPage - 1);
-            break;
-        case SB_PAGEDOWN:
-            nDelta = ScrollTreeDown(m_nVPage - 1);
-            break;
-        case SB_THUMBPOSITION:
-        case SB_THUMBTRACK: {
-            // The message carries 16 bits of the position; the bar knows all of them.
-            m_port.GetScrollPosition(SB_VERT, nCode == SB_THUMBTRACK, nPos);
-            const int nRows = std::max(nPos, 0) - m_nVScrollPos;
-            nDelta = nRows > 0 ? ScrollTreeDown(nRows) : -ScrollTreeUp(-nRows);
-            break;
+int TreeView::MoveRows(ScrollMove move) {
+    switch (move.kind) {
+        case ScrollMove::Kind::Up:
+            return -ScrollTreeUp(move.nRows);
+        case ScrollMove::Kind::Down:
+            return ScrollTreeDown(move.nRows);
+        case ScrollMove::Kind::Thumb: {
+            const int nRows = std::max(move.nRows, 0) - m_nVScrollPos;
+            return nRows > 0 ? ScrollTreeDown(nRows) : -ScrollTreeUp(-nRows);
         }
         default:
-            break;
+            return 0;
     }
-    if (nDelta != 0) {
+}
+
+void TreeView::VScroll(unsigned nCode, int nPos) {
+    ScrollMove move = TreeMove(nCode, {1, m_nVPage - 1}, nPos);
+    if (move.kind == ScrollMove::Kind::Thumb) {
+        move.nRows = m_scroll.ThumbPosition(SB_VERT, nCode).value_or(nPos);
+    }
+    if (const int nDelta = MoveRows(move)) {
         if (std::abs(nDelta) < m_nVPage) {
             const int nHeight = ItemHeight();
             m_port.ScrollPixels(0, -nHeight * nDelta, true);
@@ -399,30 +302,12 @@ void TreeView::VScroll(unsigned nCode, int nPos) {
     CalcScroll();
 }
 
-// Pixels that the content moves to the right; below 0 it moves left.
-int TreeView::HorizontalStep(unsigned nCode, int nPos) const {
-    const int nScrolled = m_nHScrollPos;
-    const int nLimit = m_nMaxWidth - m_nHPage;
-    switch (nCode) {
-        case SB_LINELEFT:
-            return nScrolled <= 0 ? 0 : nScrolled <= kHorizontalStep ? nScrolled : kHorizontalStep;
-        case SB_PAGELEFT:
-            return nScrolled <= 0 ? 0 : std::min(nScrolled, m_nHPage);
-        case SB_LINERIGHT:
-            return nScrolled >= nLimit ? 0 : -std::min(nLimit - nScrolled, kHorizontalStep);
-        case SB_PAGERIGHT:
-            return nScrolled >= nLimit ? 0 : -std::min(nLimit - nScrolled, m_nHPage);
-        case SB_THUMBPOSITION:
-        case SB_THUMBTRACK:
-            return nScrolled - kHorizontalUnit * nPos;
-        default:
-            return 0;
-    }
-}
-
 void TreeView::HScroll(unsigned nCode, int nPos) {
-    if (const int nStep = HorizontalStep(nCode, nPos)) {
-        m_nHScrollPos -= nStep;
+    const ScrollMove move = TreeMove(nCode, {kHorizontalLine, m_nHPage}, kHorizontalUnit * nPos);
+    const ScrollAxis axis{m_nHScrollPos, m_nMaxWidth, m_nHPage};
+    const int nTarget = Target(axis, move, ThumbLimit::Followed).value_or(m_nHScrollPos);
+    if (const int nStep = m_nHScrollPos - nTarget) {
+        m_nHScrollPos = nTarget;
         m_port.ScrollPixels(nStep, 0, true);
         m_port.Update();
     }
@@ -439,7 +324,7 @@ bool TreeView::StepView(bool bDown) {
 }
 
 bool TreeView::EnsureVisible(HTREEITEM hItem) {
-    if (hItem == nullptr || !IsLive(hItem)) {
+    if (hItem == nullptr || !TreeItems::IsLive(hItem)) {
         return false;
     }
     bool bExpanded = false;
@@ -453,27 +338,22 @@ bool TreeView::EnsureVisible(HTREEITEM hItem) {
         CalcScroll();
         CalcBottomItem();
     }
-    const auto repaint = [this] {
-        if (m_bRedraw && m_port.HasWindow()) {
-            m_port.InvalidateAll();
-        }
-    };
-    if (hItem == m_hTopItem || hItem == m_hBottomItem || ItemVisible(hItem)) {
+    if (hItem == m_items.Top() || hItem == m_items.Bottom() || ItemVisible(hItem)) {
         if (bExpanded) {
-            repaint();
+            InvalidateAll();
         }
         return true;
     }
-    const int nRow = EnsureRows() ? m_rows.IndexOf(hItem) : -1;
+    const int nRow = m_rows.Ensure() ? m_rows.IndexOf(hItem) : -1;
     if (nRow >= 0) {
-        const int nTop = m_rows.IndexOf(m_hTopItem);
+        const int nTop = m_rows.IndexOf(m_items.Top());
         if (nTop < 0 || nRow < nTop) {
-            m_hTopItem = hItem;
+            m_items.SetTop(hItem);
             if (m_bRedraw) {
                 CalcBottomItem();
             }
         } else {
-            m_hBottomItem = hItem;
+            m_items.SetBottom(hItem);
             if (m_bRedraw) {
                 CalcTopItem();
             }
@@ -481,19 +361,20 @@ bool TreeView::EnsureVisible(HTREEITEM hItem) {
     }
     if (m_bRedraw) {
         CalcScroll();
-        repaint();
+        InvalidateAll();
     }
     return nRow >= 0;
 }
 
 void TreeView::ShowAtTop(HTREEITEM hItem) {
-    m_hTopItem = hItem;
+    m_items.SetTop(hItem);
     CalcBottomItem();
     CalcScroll();
 }
 
 bool TreeView::Expand(HTREEITEM hItem, unsigned nCode, bool bInvalidate, bool bCollapseChildren) {
-    if (hItem == nullptr || !IsLive(hItem) || nCode < TVE_COLLAPSE || nCode > TVE_TOGGLE) {
+    if (hItem == nullptr || !TreeItems::IsLive(hItem) || nCode < TVE_COLLAPSE ||
+        nCode > TVE_TOGGLE) {
         return false;
     }
     const bool bWasExpanded = (hItem->nState & TVIS_EXPANDED) != 0;
@@ -507,36 +388,24 @@ bool TreeView::Expand(HTREEITEM hItem, unsigned nCode, bool bInvalidate, bool bC
     if (nCode != TVE_COLLAPSE) {
         hItem->nState |= TVIS_EXPANDEDONCE;
     }
-    if (!bExpand && CheckForAncestor(m_hSelectedItem, hItem)) {
-        const Watch watch(*this, nullptr);
-        NfySelectItem(hItem);
-        if (!watch.TreeAlive()) {
+    if (!bExpand && m_items.CheckForAncestor(m_items.Selected(), hItem)) {
+        const TreeItems::Watch watch(m_items, nullptr);
+        m_steps.NfySelectItem(hItem);
+        if (!watch.ObjectAlive()) {
             return true;
         }
     }
     if (m_bRedraw) {
         RefitAll();
-        if (bInvalidate && m_port.HasWindow()) {
-            m_port.InvalidateAll();
+        if (bInvalidate) {
+            InvalidateAll();
         }
     }
     return true;
 }
 
-bool TreeView::CheckInvariants() {
-    if (!TreeItems::CheckInvariants()) {
-        return false;
-    }
-    if (!m_bRowsValid || RootDetached()) {
-        return true;
-    }
-    int nRow = 0;
-    for (HTREEITEM h = m_hRootItem; h != nullptr; h = NextDisplayableItem(h), ++nRow) {
-        if (m_rows.IndexOf(h) != nRow || m_rows.At(nRow) != h) {
-            return false;
-        }
-    }
-    return nRow == m_rows.Count() && m_rows.CheckInvariants();
+bool TreeView::CheckInvariants() const {
+    return m_items.CheckInvariants() && m_rows.CheckInvariants();
 }
 
 }  // namespace qv

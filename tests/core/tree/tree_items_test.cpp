@@ -3,36 +3,27 @@
 
 #include <cstring>
 #include <gtest/gtest.h>
-#include <memory>
 
 namespace {
 
 TEST(TreeInsert, PutsItemsWhereThePositionSays) {
     TestTree tree;
     HTREEITEM b = tree.Add("b");
-    EXPECT_EQ(tree.m_hRootItem, b);
-    EXPECT_EQ(tree.m_hTopItem, b);
+    EXPECT_EQ(tree.Root(), b);
+    EXPECT_EQ(tree.Top(), b);
     tree.Add("d", TVI_ROOT, TVI_LAST);
     tree.Add("a", nullptr, TVI_FIRST);
     tree.Add("c", nullptr, b);
     tree.Add("C", nullptr, TVI_SORT);
     EXPECT_EQ(tree.Children(nullptr), "a b c C d") << "an equal item goes behind its equals";
+    tree.Replace([](HTREEITEM, HTREEITEM) { return -5; });
+    tree.Add("e", nullptr, TVI_SORT);
+    EXPECT_EQ(tree.Children(nullptr), "a b c C d e") << "only -1 is less";
     tree.Add("b2", b);
     tree.Add("b1", b, TVI_FIRST);
     EXPECT_EQ(tree.Children(b), "b1 b2");
     EXPECT_EQ(b->pFirstChild->nLevel, 1);
     EXPECT_TRUE(tree.CheckInvariants());
-}
-
-TEST(TreeInsert, SortPositionTakesOnlyMinusOneAsLess) {
-    TestTree tree;
-    tree.compare = [](HTREEITEM h1, HTREEITEM h2) {
-        return 5 * std::strcmp(h1->pszText, h2->pszText);
-    };
-    for (const char* psz : {"c", "a", "b"}) {
-        tree.Add(psz, nullptr, TVI_SORT);
-    }
-    EXPECT_EQ(tree.Children(nullptr), "c a b");
 }
 
 TEST(TreeInsert, BehindAnItemOfAnotherParentTakesThatParent) {
@@ -80,40 +71,20 @@ TEST(TreeInsert, DeletedHandlesAreHarmless) {
 
 TEST(TreeSort, AComparisonThatChangesTheTreeStopsIt) {
     for (const bool bSort : {true, false}) {
-        TestTree tree;
-        HTREEITEM p = tree.Add("p");
-        for (const char* psz : {"c", "b", "a"}) {
-            tree.Add(psz, p);
+        for (const bool bAll : {true, false}) {
+            TestTree tree;
+            HTREEITEM p = tree.Add("p");
+            HTREEITEM a = tree.Add("a", p);
+            tree.Add("b", p);
+            tree.Replace([&](HTREEITEM, HTREEITEM) {
+                bAll ? tree.DeleteAllItems() : void(tree.DeleteItem(a));
+                return 1;
+            });
+            EXPECT_FALSE(bSort ? tree.SortChildren(p) : tree.Add("d", p, TVI_SORT) != nullptr);
+            EXPECT_EQ(tree.Walk(), bAll ? "" : "p b");
+            EXPECT_TRUE(tree.CheckInvariants());
         }
-        tree.compare = [&](HTREEITEM, HTREEITEM) {
-            tree.DeleteAllItems();
-            return 1;
-        };
-        if (bSort) {
-            EXPECT_FALSE(tree.SortChildren(p));
-        } else {
-            EXPECT_EQ(tree.Add("d", p, TVI_SORT), nullptr);
-        }
-        EXPECT_EQ(tree.Walk(), "");
-        EXPECT_TRUE(tree.CheckInvariants());
-
-        p = tree.Add("p");
-        HTREEITEM a = tree.Add("a", p);
-        tree.Add("b", p);
-        tree.compare = [&](HTREEITEM, HTREEITEM) {
-            tree.DeleteItem(a);
-            return 1;
-        };
-        if (bSort) {
-            EXPECT_FALSE(tree.SortChildren(p));
-        } else {
-            EXPECT_EQ(tree.Add("d", p, TVI_SORT), nullptr);
-        }
-        EXPECT_EQ(tree.Walk(), "p b");
-        EXPECT_TRUE(tree.CheckInvariants());
     }
-    TestTree tree;
-    EXPECT_FALSE(tree.SortChildren(TVI_ROOT));
 }
 
 TEST(TreeInsert, WithoutMemoryLeavesTheTreeAsItWas) {
@@ -140,10 +111,10 @@ TEST(TreeInsert, AComparisonThatThrowsLeavesTheTreeAsItWas) {
     HTREEITEM p = tree.Add("p");
     tree.Add("b", p);
     tree.Add("a", p);
-    tree.compare = [](HTREEITEM, HTREEITEM) -> int { throw std::bad_alloc(); };
+    tree.Replace([](HTREEITEM, HTREEITEM) -> int { throw std::bad_alloc(); });
     EXPECT_EQ(tree.Add("c", p, TVI_SORT), nullptr);
     EXPECT_FALSE(tree.SortChildren(p));
-    tree.compare = [](HTREEITEM, HTREEITEM) -> int { throw 1; };
+    tree.Replace([](HTREEITEM, HTREEITEM) -> int { throw 1; });
     EXPECT_THROW(tree.Add("c", p, TVI_SORT), int);
     EXPECT_THROW(tree.SortChildren(p), int);
     EXPECT_EQ(tree.Walk(), "p b a");
@@ -180,30 +151,30 @@ protected:
 };
 
 TEST_F(TreeNavigation, CodesLeadToRelatives) {
-    EXPECT_EQ(tree.GetNextItem(x, TVGN_ROOT), a);
-    EXPECT_EQ(tree.GetNextItem(a, TVGN_ROOT), a);
-    EXPECT_EQ(tree.GetNextItem(a, TVGN_NEXT), b);
-    EXPECT_EQ(tree.GetNextItem(b, TVGN_PREVIOUS), a);
-    EXPECT_EQ(tree.GetNextItem(a2, TVGN_PARENT), a);
-    EXPECT_EQ(tree.GetNextItem(a, TVGN_CHILD), a1);
-    EXPECT_EQ(tree.GetNextItem(nullptr, TVGN_CHILD), a);
+    EXPECT_EQ(tree.Items().GetNextItem(x, TVGN_ROOT), a);
+    EXPECT_EQ(tree.Items().GetNextItem(a, TVGN_ROOT), a);
+    EXPECT_EQ(tree.Items().GetNextItem(a, TVGN_NEXT), b);
+    EXPECT_EQ(tree.Items().GetNextItem(b, TVGN_PREVIOUS), a);
+    EXPECT_EQ(tree.Items().GetNextItem(a2, TVGN_PARENT), a);
+    EXPECT_EQ(tree.Items().GetNextItem(a, TVGN_CHILD), a1);
+    EXPECT_EQ(tree.Items().GetNextItem(nullptr, TVGN_CHILD), a);
     for (unsigned nCode : {TVGN_ROOT, TVGN_NEXT, TVGN_PREVIOUS, TVGN_PARENT, TVGN_NEXTVISIBLE,
                            TVGN_PREVIOUSVISIBLE, TVGN_DROPHILITE, 10u}) {
-        EXPECT_EQ(tree.GetNextItem(nullptr, nCode), nullptr) << nCode;
+        EXPECT_EQ(tree.Items().GetNextItem(nullptr, nCode), nullptr) << nCode;
     }
-    EXPECT_EQ(tree.GetNextItem(a, 10), nullptr);
-    EXPECT_TRUE(tree.CheckForAncestor(x, a));
-    EXPECT_FALSE(tree.CheckForAncestor(a, a));
-    EXPECT_FALSE(tree.CheckForAncestor(nullptr, a));
+    EXPECT_EQ(tree.Items().GetNextItem(a, 10), nullptr);
+    EXPECT_TRUE(tree.Items().CheckForAncestor(x, a));
+    EXPECT_FALSE(tree.Items().CheckForAncestor(a, a));
+    EXPECT_FALSE(tree.Items().CheckForAncestor(nullptr, a));
 }
 
 TEST_F(TreeNavigation, WalkGoesThroughTheWholeTreeBothWays) {
     EXPECT_EQ(tree.Walk(), "a a1 x a2 b b1 c");
-    EXPECT_EQ(tree.WalkNext(c), nullptr);
-    for (HTREEITEM h = a; tree.WalkNext(h) != nullptr; h = tree.WalkNext(h)) {
-        EXPECT_EQ(tree.WalkPrev(tree.WalkNext(h)), h);
+    for (HTREEITEM h = a; h != c; h = tree.Items().WalkNext(h)) {
+        EXPECT_EQ(tree.Items().WalkPrev(tree.Items().WalkNext(h)), h);
     }
-    EXPECT_EQ(tree.WalkPrev(a), nullptr);
+    EXPECT_EQ(tree.Items().WalkNext(c), nullptr);
+    EXPECT_EQ(tree.Items().WalkPrev(a), nullptr);
 }
 
 TEST_F(TreeNavigation, RowsFollowExpansionBothWays) {
@@ -211,41 +182,38 @@ TEST_F(TreeNavigation, RowsFollowExpansionBothWays) {
     tree.Expand(a, TVE_EXPAND, false, false);
     tree.Expand(a1, TVE_EXPAND, false, false);
     EXPECT_EQ(tree.Rows(), "a a1 x a2 b c");
-    for (HTREEITEM h = a; tree.NextDisplayableItem(h) != nullptr; h = tree.NextDisplayableItem(h)) {
-        EXPECT_EQ(tree.LastDisplayableItem(tree.NextDisplayableItem(h)), h);
+    for (HTREEITEM h = a; h != c; h = tree.Items().NextDisplayableItem(h)) {
+        EXPECT_EQ(tree.Items().LastDisplayableItem(tree.Items().NextDisplayableItem(h)), h);
     }
 }
 
 TEST_F(TreeNavigation, FindLooksAtDirectChildrenBehindTheFirstCode) {
     tree.styles.Add(3, 4);
-    HTREEITEM styled = tree.InsertItem(
-        "\x1B"
-        "bName\tCell",
-        5, 6, a, nullptr);
-    EXPECT_EQ(tree.FindItem(a, "NAME\tcell", -1), styled);
-    EXPECT_EQ(tree.FindItem(a, "name\tcell", 5), styled);
-    EXPECT_EQ(tree.FindItem(a, "name\tcell", 6), nullptr);
-    EXPECT_EQ(tree.FindItem(a, "name", -1), nullptr);
-    EXPECT_EQ(tree.FindItem(nullptr, "x", -1), nullptr) << "no deeper";
-    EXPECT_EQ(tree.FindItem(nullptr, "B", -1), b);
+    HTREEITEM styled = tree.InsertItem("\033bName\tCell", 5, 6, a, nullptr);
+    EXPECT_EQ(tree.Items().FindItem(a, "NAME\tcell", -1), styled);
+    EXPECT_EQ(tree.Items().FindItem(a, "name\tcell", 5), styled);
+    EXPECT_EQ(tree.Items().FindItem(a, "name\tcell", 6), nullptr);
+    EXPECT_EQ(tree.Items().FindItem(a, "name", -1), nullptr);
+    EXPECT_EQ(tree.Items().FindItem(nullptr, "x", -1), nullptr) << "no deeper";
+    EXPECT_EQ(tree.Items().FindItem(nullptr, "B", -1), b);
 }
 
 TEST_F(TreeNavigation, DeletingMovesSelectionAndTopOutOfTheBranch) {
-    tree.CalcScroll();
+    tree.window.size = {200, 32};  // two rows
     tree.Expand(a, TVE_EXPAND, false, false);
     tree.SelectItem(a1);
-    tree.m_hTopItem = a1;
+    tree.ShowAtTop(a1);
     tree.DeleteItem(a);
-    EXPECT_EQ(tree.m_hSelectedItem, b);
+    EXPECT_EQ(tree.Items().Selected(), b);
     EXPECT_TRUE(b->nState & TVIS_SELECTED);
-    EXPECT_EQ(tree.m_hTopItem, b);
-    EXPECT_EQ(tree.m_hRootItem, b);
+    EXPECT_EQ(tree.Top(), b);
+    EXPECT_EQ(tree.Root(), b);
     EXPECT_EQ(tree.nNotified, 0);
     tree.SelectItem(c);
     tree.DeleteItem(c);
-    EXPECT_EQ(tree.m_hSelectedItem, b) << "the last row hands the selection upwards";
+    EXPECT_EQ(tree.Items().Selected(), b) << "the last row hands the selection upwards";
     tree.DeleteItem(nullptr);
-    EXPECT_EQ(tree.m_hSelectedItem, nullptr);
+    EXPECT_EQ(tree.Items().Selected(), nullptr);
     EXPECT_EQ(tree.Walk(), "");
     EXPECT_TRUE(tree.CheckInvariants());
 }
@@ -267,7 +235,7 @@ TEST_F(TreeNavigation, ChangeParentMovesTheItemAloneInLevel) {
 
 TEST_F(TreeNavigation, FirstRootItemKeepsTheRootPointerWhenItIsMoved) {
     tree.ChangeParent(a, c);
-    EXPECT_EQ(tree.m_hRootItem, a);
+    EXPECT_EQ(tree.Root(), a);
     EXPECT_EQ(tree.Rows(), "a") << "rows are walked from there";
     EXPECT_TRUE(tree.CheckInvariants());
     tree.Add("d");
@@ -275,7 +243,7 @@ TEST_F(TreeNavigation, FirstRootItemKeepsTheRootPointerWhenItIsMoved) {
     tree.Add("first", nullptr, TVI_FIRST);
     EXPECT_EQ(tree.Children(nullptr), "first b c d");
     EXPECT_TRUE(tree.CheckInvariants());
-    tree.ChangeParent(tree.m_hRootItem, b);
+    tree.ChangeParent(tree.Root(), b);
     tree.DeleteItem(b);
     EXPECT_EQ(tree.Children(nullptr), "c d") << "the moved start went with its new parent";
     EXPECT_TRUE(tree.CheckInvariants());
@@ -283,7 +251,7 @@ TEST_F(TreeNavigation, FirstRootItemKeepsTheRootPointerWhenItIsMoved) {
 
 TEST(TreeDelete, DepthCostsNoStack) {
     TestTree tree;
-    tree.m_bRedraw = false;
+    tree.SetRedraw(false);
     HTREEITEM hTop = tree.Add("0");
     HTREEITEM h = hTop;
     for (int i = 0; i < 200000; ++i) {
@@ -291,9 +259,9 @@ TEST(TreeDelete, DepthCostsNoStack) {
     }
     EXPECT_EQ(h->nLevel, 32767) << "deeper levels stay at the largest";
     tree.SetItemStateImage(hTop->pFirstChild, 1, true);
-    EXPECT_EQ(tree.GetItemStateImage(h), 1u);
+    EXPECT_EQ(tree.Items().GetItemStateImage(h), 1u);
     tree.DeleteItem(hTop);
-    EXPECT_EQ(tree.m_hRootItem, nullptr);
+    EXPECT_EQ(tree.Root(), nullptr);
     EXPECT_TRUE(tree.CheckInvariants());
 }
 
@@ -302,20 +270,15 @@ TEST(TreeSort, OrdersChildrenByTextOrByTheReplacedStep) {
     HTREEITEM p = tree.Add("p");
     EXPECT_FALSE(tree.SortChildren(nullptr));
     EXPECT_FALSE(tree.SortChildren(p));
-    for (const char* psz : {"delta", "Alpha", "charlie", "bravo", "alpha",
-                            "\x1B"
-                            "aalpha0",
+    for (const char* psz : {"delta", "Alpha", "charlie", "bravo", "alpha", "\033aalpha0",
                             "averylongname1", "averylongname0"}) {
         tree.Add(psz, p);
     }
     EXPECT_TRUE(tree.SortChildren(p));
     EXPECT_EQ(tree.Children(p),
-              "Alpha alpha \x1B"
-              "aalpha0 averylongname0 averylongname1 bravo charlie delta");
+              "Alpha alpha \033aalpha0 averylongname0 averylongname1 bravo charlie delta");
     EXPECT_TRUE(tree.CheckInvariants());
-    tree.compare = [](HTREEITEM h1, HTREEITEM h2) {
-        return -std::strcmp(h1->pszText, h2->pszText);
-    };
+    tree.Replace([](HTREEITEM h1, HTREEITEM h2) { return -std::strcmp(h1->pszText, h2->pszText); });
     EXPECT_TRUE(tree.SortChildren(p));
     EXPECT_EQ(tree.Children(p).substr(0, 13), "delta charlie");
     EXPECT_TRUE(tree.CheckInvariants());
@@ -328,19 +291,19 @@ TEST(TreeSort, SurvivesAnyComparison) {
         tree.Add(std::to_string(i), p);
     }
     unsigned n = 1;
-    tree.compare = [&](HTREEITEM, HTREEITEM) {
+    tree.Replace([&](HTREEITEM, HTREEITEM) {
         n = n * 1103515245 + 12345;
         return static_cast<int>(n >> 16 & 3) - 2;
-    };
+    });
     EXPECT_TRUE(tree.SortChildren(p));
     EXPECT_TRUE(tree.CheckInvariants());
-    tree.compare = [&](HTREEITEM, HTREEITEM) {
+    tree.Replace([&](HTREEITEM, HTREEITEM) {
         tree.Add("more", p);
         return 0;
-    };
+    });
     EXPECT_FALSE(tree.SortChildren(p)) << "a step that changes the tree";
     EXPECT_TRUE(tree.CheckInvariants());
-    tree.compare = nullptr;
+    tree.KeepOrder();
     {
         const FailingNew failing(2);
         EXPECT_FALSE(tree.SortChildren(p));
@@ -353,16 +316,17 @@ TEST(TreeChecks, RootItemsCarryMarksOnlyWhenAllowed) {
     HTREEITEM r = tree.Add("r");
     HTREEITEM s = tree.Add("s", r);
     tree.SetItemStateImage(r, 1, true);
-    EXPECT_EQ(tree.GetItemStateImage(s), 0u) << "nothing happens below it either";
+    EXPECT_EQ(tree.Items().GetItemStateImage(s), 0u) << "nothing happens below it either";
     tree.SetItemStateImage(s, 3, false);
-    EXPECT_EQ(tree.GetNextCheckedItem(nullptr, 255), s);
-    EXPECT_EQ(tree.GetNextCheckedItem(nullptr, 3), s);
-    EXPECT_EQ(tree.GetNextCheckedItem(nullptr, 0), r) << "an item without picture counts as 0";
-    EXPECT_EQ(tree.GetNextCheckedItem(s, 255), nullptr);
-    tree.m_bShowStatesAtRoot = true;
+    EXPECT_EQ(tree.Items().GetNextCheckedItem(nullptr, 255), s);
+    EXPECT_EQ(tree.Items().GetNextCheckedItem(nullptr, 3), s);
+    EXPECT_EQ(tree.Items().GetNextCheckedItem(nullptr, 0), r)
+        << "an item without picture counts as 0";
+    EXPECT_EQ(tree.Items().GetNextCheckedItem(s, 255), nullptr);
+    tree.ShowStatesAtRoot(true);
     tree.SetItemStateImage(r, 2, true);
-    EXPECT_EQ(tree.GetItemStateImage(r), 2u);
-    EXPECT_EQ(tree.GetItemStateImage(s), 2u);
+    EXPECT_EQ(tree.Items().GetItemStateImage(r), 2u);
+    EXPECT_EQ(tree.Items().GetItemStateImage(s), 2u);
     EXPECT_EQ(qv::TreeItems::SetStateImage(0x12345678, 0xAB), 0x1234B678u);
 }
 
@@ -370,52 +334,32 @@ TEST(TreeStyles, ChangeGoesUpTheTreeAndCountsWhatHadACode) {
     TestTree tree;
     tree.styles.Add(3, 4);
     tree.styles.Add(5, 6);
-    HTREEITEM a = tree.Add(
-        "\x1B"
-        "aroot");
+    HTREEITEM a = tree.Add("\033aroot");
     HTREEITEM b = tree.Add("plain", a);
-    HTREEITEM c = tree.Add(
-        "\x1B"
-        "cworse",
-        b);
-    HTREEITEM d = tree.Add(
-        "\x1B"
-        "aleaf",
-        c);
+    HTREEITEM c = tree.Add("\033cworse", b);
+    HTREEITEM d = tree.Add("\033aleaf", c);
     EXPECT_EQ(tree.ChangeItemStyles(d, 1, true, true), 2);
-    EXPECT_STREQ(a->pszText,
-                 "\x1B"
-                 "broot");
+    EXPECT_STREQ(a->pszText, "\033broot");
     EXPECT_STREQ(b->pszText, "plain");
-    EXPECT_STREQ(c->pszText,
-                 "\x1B"
-                 "cworse")
-        << "a style of its own stays";
+    EXPECT_STREQ(c->pszText, "\033cworse") << "a style of its own stays";
     EXPECT_EQ(tree.ChangeItemStyles(a, 2, true, false), 1);
     EXPECT_EQ(tree.ChangeItemStyles(nullptr, 2, true, false), 0);
 }
 
-TEST(TreeWatch, SeesItemsAndTreesGo) {
-    auto pTree = std::make_unique<TestTree>();
-    HTREEITEM a = pTree->Add("a");
-    const qv::TreeItems::Watch watchTree(*pTree, nullptr);
-    {
-        const qv::TreeItems::Watch watch(*pTree, a);
-        EXPECT_TRUE(watch.ItemAlive());
-        pTree->DeleteItem(a);
-        EXPECT_FALSE(watch.ItemAlive());
-        EXPECT_EQ(pTree->Add("again"), a);
-        EXPECT_FALSE(watch.ItemAlive()) << "the record has another item now";
-    }
-    {
-        const qv::TreeItems::Watch watch(*pTree, a);
-        pTree->DeleteAllItems();
-        EXPECT_FALSE(watch.ItemAlive());
-        EXPECT_TRUE(watch.TreeAlive());
-    }
-    EXPECT_TRUE(watchTree.ItemAlive());
-    pTree.reset();
-    EXPECT_FALSE(watchTree.TreeAlive());
+TEST(TreeWatch, SeesAnItemGoThoughItsRecordIsUsedAgain) {
+    TestTree tree;
+    HTREEITEM a = tree.Add("a");
+    const qv::TreeItems::Watch watchTree(tree.Items(), nullptr);
+    const qv::TreeItems::Watch watch(tree.Items(), a);
+    EXPECT_TRUE(watch.ItemAlive());
+    tree.DeleteItem(a);
+    EXPECT_FALSE(watch.ItemAlive());
+    EXPECT_EQ(tree.Add("again"), a);
+    EXPECT_FALSE(watch.ItemAlive());
+    const qv::TreeItems::Watch watchAgain(tree.Items(), a);
+    tree.DeleteAllItems();
+    EXPECT_FALSE(watchAgain.ItemAlive());
+    EXPECT_TRUE(watchTree.ItemAlive()) << "a watch of no item is one of the tree";
 }
 
 }  // namespace

@@ -49,11 +49,7 @@ TEST(TreeColumns, ExtentFollowsTheLastFieldThatHasAColumn) {
     EXPECT_EQ(extent("abc", true), 3 * kChar);
     EXPECT_EQ(extent("abc", false), 100) << "no TAB, absolute: the first stop";
     EXPECT_EQ(extent("abc\tdef", true), 100 + 3 * kChar) << "left";
-    EXPECT_EQ(extent("abc\t\x1B"
-                     "adef",
-                     true),
-              100 + 3 * kChar)
-        << "without its code";
+    EXPECT_EQ(extent("abc\t\033adef", true), 100 + 3 * kChar) << "without its code";
     EXPECT_EQ(extent("abc\t", true), 100) << "a row that ends in TAB ends at the stop";
     EXPECT_EQ(extent("abc\td\tefg", true), (300 - 200) / 2 + 3 * kChar / 2) << "centred";
     EXPECT_EQ(extent("abc\td\tefg", false), 300);
@@ -79,18 +75,12 @@ TEST(TreeColumns, FieldsStandBetweenStops) {
         }
         return strAll;
     };
-    EXPECT_EQ(fields("a\t\x1B"
-                     "bb\tc\td",
-                     true),
-              "a:20-76/-1/0 b:80-116/1/0 c:120-300/-1/2 ");
+    EXPECT_EQ(fields("a\t\033bb\tc\td", true), "a:20-76/-1/0 b:80-116/1/0 c:120-300/-1/2 ");
     EXPECT_EQ(fields("a\tb\tc", false), "a:20-56/-1/0 b:60-96/-1/0 c:100-300/-1/2 ");
     EXPECT_EQ(fields("a\t", true), "a:20-76/-1/0 ");
     EXPECT_EQ(fields("", true), ":20-76/-1/0 ") << "the first field is always handled";
     tabs.Clear();
-    EXPECT_EQ(fields("\x1B"
-                     "bx\ty",
-                     true),
-              "x:20-300/1/0 ");
+    EXPECT_EQ(fields("\033bx\ty", true), "x:20-300/1/0 ");
 }
 
 TEST(TreeGeometry, RowHeightComesFromFontAndImages) {
@@ -101,13 +91,12 @@ TEST(TreeGeometry, RowHeightComesFromFontAndImages) {
                           Case{13, 16, 21, 22}, Case{1, 0, 0, 6}, Case{0, 0, 0, 0}}) {
         TestTree tree;
         tree.nFontHeight = c.nFont;
-        tree.m_images = {true, true, 16, c.cyImage, 12, c.cyState};
+        tree.SetImages({true, true, 16, c.cyImage, 12, c.cyState});
         EXPECT_EQ(tree.ItemHeight(), c.nHeight);
     }
     TestTree tree;
     EXPECT_EQ(tree.IndentStep(), 19);
-    tree.m_images.cyImage = 24;
-    tree.m_images.cxImage = 90;
+    tree.SetImages({true, false, 90, 24, 0, 0});
     EXPECT_EQ(tree.IndentStep(), 24) << "the image's height widens the step, not its width";
 }
 
@@ -116,7 +105,7 @@ TEST(TreeGeometry, WithoutAHeightThereAreNoRows) {
     tree.nFontHeight = 0;
     HTREEITEM a = tree.Add("a");
     tree.CalcBottomItem();
-    EXPECT_EQ(tree.m_hBottomItem, nullptr);
+    EXPECT_EQ(tree.Bottom(), nullptr);
     qv::Rect rect;
     EXPECT_FALSE(tree.GetItemRect(a, rect, false));
     unsigned nFlags;
@@ -131,10 +120,10 @@ TEST(TreeGeometry, AnEmptyTreeMeasuresNothing) {
     tree.SetRedraw(true);
     tree.VScroll(SB_LINEDOWN, 0);
     tree.HitTest({5, 5}, nullptr, nullptr);
-    tree.m_images.cyImage = 24;
+    tree.SetImages({true, false, 16, 24, 0, 0});
     tree.Add("a");
     EXPECT_EQ(tree.ItemHeight(), 24) << "a list set before the first item counts";
-    tree.m_images.cyImage = 40;
+    tree.SetImages({true, false, 16, 40, 0, 0});
     tree.Add("b");
     EXPECT_EQ(tree.ItemHeight(), 24);
 }
@@ -150,7 +139,7 @@ TEST(TreeGeometry, RectanglesLeaveRoomForIndentationAndImages) {
     };
     EXPECT_EQ(rectOf(b, false), (qv::Rect{19, 32, 19 + 3 * kChar + 4, 48}));
     EXPECT_EQ(rectOf(b, true), rectOf(b, false));
-    tree.m_images = {true, true, 16, 16, 12, 12};
+    tree.SetImages({true, true, 16, 16, 12, 12});
     const int nImages = 16 + 3 + 12 + 3;
     EXPECT_EQ(rectOf(b, false), (qv::Rect{19, 32, 19 + nImages + 3 * kChar + 4, 48}));
     EXPECT_EQ(rectOf(b, true).left, 19 + nImages);
@@ -177,35 +166,20 @@ protected:
     std::vector<HTREEITEM> rows;
 };
 
-TEST_F(TreeScrolling, BarsAppearOnlyWhereNeeded) {
+TEST_F(TreeScrolling, BarsShowWhereTheRowsNeedThem) {
     Fill(6);
     EXPECT_FALSE(tree.window.bShown[SB_VERT] || tree.window.bShown[SB_HORZ]);
-    Fill(1);
-    EXPECT_TRUE(tree.window.bShown[SB_VERT]);
-    EXPECT_EQ(tree.window.ranges[SB_VERT], (qv::ScrollRange{0, 6, 6, 0}));
-    EXPECT_FALSE(tree.window.bShown[SB_HORZ]);
-    tree.DeleteItem(rows[6]);
-    EXPECT_FALSE(tree.window.bShown[SB_VERT]);
-    EXPECT_EQ(tree.m_nVPage, 0);
-}
-
-TEST_F(TreeScrolling, OneBarMayForceTheOther) {
-    Fill(6);
     tree.SetItemText(rows[2], std::string(40, 'x').c_str());  // 284 wide
     tree.SetRedraw(true);
-    EXPECT_TRUE(tree.window.bShown[SB_HORZ]);
-    EXPECT_TRUE(tree.window.bShown[SB_VERT]) << "the horizontal bar takes the sixth row's room";
-    EXPECT_EQ(tree.m_nMaxWidth, 40 * kChar + 4);
-    EXPECT_EQ(tree.m_nVPage, 5);
-    EXPECT_EQ(tree.m_nHPage, 200 - 17 - 4);
-    EXPECT_EQ(tree.window.ranges[SB_HORZ], (qv::ScrollRange{0, 142, 89, 0}));
-
-    tree.SetItemText(rows[2], std::string(26, 'x').c_str());  // 186: fits but beside the bar
-    Fill(1);
-    EXPECT_TRUE(tree.window.bShown[SB_HORZ] && tree.window.bShown[SB_VERT]);
-    tree.DeleteItem(rows.back());
-    EXPECT_FALSE(tree.window.bShown[SB_HORZ] || tree.window.bShown[SB_VERT])
-        << "all fits again once both are gone";
+    EXPECT_EQ(tree.MaxWidth(), 40 * kChar + 4);
+    EXPECT_EQ(tree.window.ranges[SB_HORZ], (qv::ScrollRange{0, 142, 89, 0})) << "in two pixels";
+    EXPECT_EQ(tree.window.ranges[SB_VERT], (qv::ScrollRange{0, 5, 5, 0}))
+        << "the horizontal bar takes the sixth row's room";
+    EXPECT_EQ(tree.VPage(), 5);
+    EXPECT_EQ(tree.HPage(), 200 - 17 - 4);
+    tree.DeleteItem(rows[2]);
+    EXPECT_FALSE(tree.window.bShown[SB_HORZ] || tree.window.bShown[SB_VERT]);
+    EXPECT_EQ(tree.VPage() + tree.HPage(), 0);
 }
 
 TEST_F(TreeScrolling, VerticalCodesMoveRowsAndPixels) {
@@ -221,27 +195,24 @@ TEST_F(TreeScrolling, VerticalCodesMoveRowsAndPixels) {
           Case{SB_ENDSCROLL, 0, 44, 0}, Case{SB_THUMBTRACK, -5, 0, 0}}) {
         tree.window.scrolls.clear();
         const int nAll = tree.window.nAllInvalid;
-        const int nBefore = tree.m_nVScrollPos;
+        const int nBefore = tree.VScrollPos();
         tree.VScroll(c.nCode, c.nPos);
-        EXPECT_EQ(tree.m_hTopItem, rows[c.nTop]) << c.nCode << " " << c.nPos;
-        EXPECT_EQ(tree.m_hBottomItem, rows[c.nTop + 5]);
-        EXPECT_EQ(tree.m_nVScrollPos, c.nTop);
+        EXPECT_EQ(tree.Top(), rows[c.nTop]) << c.nCode << " " << c.nPos;
+        EXPECT_EQ(tree.Bottom(), rows[c.nTop + 5]);
+        EXPECT_EQ(tree.VScrollPos(), c.nTop);
         EXPECT_EQ(tree.window.ranges[SB_VERT].nPos, c.nTop);
         EXPECT_EQ(tree.window.scrolls.empty() ? 0 : tree.window.scrolls[0].y, c.nPixels);
         EXPECT_EQ(tree.window.nAllInvalid > nAll, c.nPixels == 0 && nBefore != c.nTop);
     }
     tree.window.bPositionKnown = true;
     tree.window.nTrackPos = 20;
-    tree.window.nThumbPos = 10;
     tree.VScroll(SB_THUMBTRACK, 3);
-    EXPECT_EQ(tree.m_nVScrollPos, 20) << "the bar's own position wins over the message's 16 bits";
-    tree.VScroll(SB_THUMBPOSITION, 3);
-    EXPECT_EQ(tree.m_nVScrollPos, 10);
+    EXPECT_EQ(tree.VScrollPos(), 20) << "the bar's own position";
 }
 
 TEST_F(TreeScrolling, HorizontalCodesMovePixelsWithinTheLimit) {
     Fill(1, std::string(50, 'x'));  // 51 characters: 361 wide, 196 a page, limit 165
-    ASSERT_EQ(tree.m_nMaxWidth - tree.m_nHPage, 165);
+    ASSERT_EQ(tree.MaxWidth() - tree.HPage(), 165);
     struct Case {
         unsigned nCode;
         int nPos, nScrolled;
@@ -251,10 +222,10 @@ TEST_F(TreeScrolling, HorizontalCodesMovePixelsWithinTheLimit) {
           Case{SB_PAGERIGHT, 0, 165}, Case{SB_LINERIGHT, 0, 165}, Case{SB_LINELEFT, 0, 161},
           Case{SB_PAGELEFT, 0, 0}, Case{SB_THUMBTRACK, 40, 80}, Case{SB_THUMBPOSITION, 1, 2},
           Case{SB_LINELEFT, 0, 0}, Case{SB_ENDSCROLL, 0, 0}}) {
-        const int nBefore = tree.m_nHScrollPos;
+        const int nBefore = tree.HScrollPos();
         tree.window.scrolls.clear();
         tree.HScroll(c.nCode, c.nPos);
-        EXPECT_EQ(tree.m_nHScrollPos, c.nScrolled) << c.nCode;
+        EXPECT_EQ(tree.HScrollPos(), c.nScrolled) << c.nCode;
         EXPECT_EQ(tree.window.scrolls.empty() ? 0 : tree.window.scrolls[0].x,
                   nBefore - c.nScrolled);
     }
@@ -265,13 +236,13 @@ TEST_F(TreeScrolling, EnsureVisibleBringsRowsToTheNearerEdge) {
     HTREEITEM child = tree.Add("child", rows[40]);
     EXPECT_TRUE(tree.EnsureVisible(child));
     EXPECT_TRUE(tree.Rows().find("child") != std::string::npos) << "its parent is open";
-    EXPECT_EQ(tree.m_hBottomItem, child);
+    EXPECT_EQ(tree.Bottom(), child);
     EXPECT_TRUE(tree.ItemVisible(child));
     EXPECT_TRUE(tree.EnsureVisible(rows[10]));
-    EXPECT_EQ(tree.m_hTopItem, rows[10]);
-    EXPECT_EQ(tree.m_nVScrollPos, 10);
+    EXPECT_EQ(tree.Top(), rows[10]);
+    EXPECT_EQ(tree.VScrollPos(), 10);
     EXPECT_TRUE(tree.EnsureVisible(rows[12]));
-    EXPECT_EQ(tree.m_hTopItem, rows[10]) << "in view already";
+    EXPECT_EQ(tree.Top(), rows[10]) << "in view already";
     EXPECT_FALSE(tree.EnsureVisible(nullptr));
 }
 
@@ -281,49 +252,38 @@ TEST_F(TreeScrolling, SortingRefitsTheViewToTheNewOrder) {
     for (const char* psz : {"h", "g", "f", "e", "d", "c", "b", "a"}) {
         rows.push_back(tree.Add(psz, p));
     }
-    ASSERT_EQ(tree.m_hBottomItem, rows[4]);  // "d"
+    ASSERT_EQ(tree.Bottom(), rows[4]);  // "d"
     EXPECT_TRUE(tree.SortChildren(p));
-    EXPECT_EQ(tree.m_hTopItem, p);
-    EXPECT_EQ(tree.m_hBottomItem, rows[3]) << "e: the sixth row";
+    EXPECT_EQ(tree.Top(), p);
+    EXPECT_EQ(tree.Bottom(), rows[3]) << "e: the sixth row";
     tree.EnsureVisible(rows[0]);  // "h", the last row now
-    ASSERT_EQ(tree.m_hTopItem, rows[5]);
-    tree.compare = [](HTREEITEM h1, HTREEITEM h2) { return *h1->pszText > *h2->pszText ? -1 : 1; };
+    ASSERT_EQ(tree.Top(), rows[5]);
+    tree.Replace([](HTREEITEM h1, HTREEITEM h2) { return *h1->pszText > *h2->pszText ? -1 : 1; });
     EXPECT_TRUE(tree.SortChildren(p));
-    EXPECT_EQ(tree.m_hBottomItem, rows[7]);
-    EXPECT_EQ(tree.m_hTopItem, rows[2]) << "the window stays full";
+    EXPECT_EQ(tree.Bottom(), rows[7]);
+    EXPECT_EQ(tree.Top(), rows[2]) << "the window stays full";
     EXPECT_EQ(tree.window.ranges[SB_VERT].nPos, 3);
 
     tree.SetRedraw(false);
     const int nAll = tree.window.nAllInvalid;
-    tree.compare = nullptr;
+    tree.KeepOrder();
     EXPECT_TRUE(tree.SortChildren(p));
-    EXPECT_EQ(tree.m_hBottomItem, rows[7]) << "nothing moves while redraw is off";
-    EXPECT_EQ(tree.window.nAllInvalid, nAll + 1);
-}
-
-TEST_F(TreeScrolling, AMovedItemIsPaintedWhereItIsNow) {
-    Fill(3);
-    const int nAll = tree.window.nAllInvalid;
-    EXPECT_TRUE(tree.ChangeParent(rows[2], rows[0]));
-    EXPECT_EQ(tree.window.nAllInvalid, nAll + 1);
-    EXPECT_FALSE(tree.ChangeParent(rows[0], rows[2]));
-    tree.SetRedraw(false);
-    EXPECT_TRUE(tree.ChangeParent(rows[2], rows[1]));
+    EXPECT_EQ(tree.Bottom(), rows[7]) << "nothing moves while redraw is off";
     EXPECT_EQ(tree.window.nAllInvalid, nAll + 1);
 }
 
 TEST_F(TreeScrolling, AWindowLowerThanARowShowsOne) {
     tree.window.size = {200, 7};
     Fill(4);
-    EXPECT_EQ(tree.m_hTopItem, tree.m_hBottomItem);
+    EXPECT_EQ(tree.Top(), tree.Bottom());
     tree.VScroll(SB_LINEDOWN, 0);
-    EXPECT_EQ(tree.m_hTopItem, rows[1]);
+    EXPECT_EQ(tree.Top(), rows[1]);
     tree.VScroll(SB_PAGEDOWN, 0);
     EXPECT_TRUE(tree.CheckInvariants());
 }
 
 TEST_F(TreeScrolling, HitFlagsTellTheParts) {
-    tree.m_images = {true, true, 16, 16, 12, 12};
+    tree.SetImages({true, true, 16, 16, 12, 12});
     Fill(2);
     HTREEITEM child = tree.Add("child", rows[0]);
     HTREEITEM leaf = tree.Add("leaf", child);
@@ -363,9 +323,9 @@ TEST_F(TreeScrolling, CollapsingMovesSelectionAndViewOutOfTheBranch) {
     tree.VScroll(SB_THUMBTRACK, 12);
     EXPECT_TRUE(tree.Expand(rows[0], TVE_COLLAPSE, false, false));
     EXPECT_EQ(tree.nNotified, 1);
-    EXPECT_EQ(tree.m_hSelectedItem, rows[0]);
-    EXPECT_EQ(tree.m_hTopItem, rows[0]);
-    EXPECT_EQ(tree.m_hBottomItem, rows[1]);
+    EXPECT_EQ(tree.Items().Selected(), rows[0]);
+    EXPECT_EQ(tree.Top(), rows[0]);
+    EXPECT_EQ(tree.Bottom(), rows[1]);
     EXPECT_FALSE(tree.Expand(rows[0], 0, false, false));
     EXPECT_FALSE(tree.Expand(rows[0], 4, false, false));
 }
@@ -386,18 +346,22 @@ TEST_F(TreeScrolling, ReopenedByTheUserABranchShowsOneLevel) {
 
 TEST_F(TreeScrolling, RedrawOffLeavesBarsAloneUntilItIsOnAgain) {
     tree.SetRedraw(false);
-    Fill(100);
+    Fill(101);
     EXPECT_FALSE(tree.window.bShown[SB_VERT]);
+    EXPECT_TRUE(tree.ChangeParent(rows[100], rows[99])) << "which fits the bars all the same";
     EXPECT_EQ(tree.window.nAllInvalid, 0);
     tree.SetRedraw(true);
     EXPECT_EQ(tree.window.ranges[SB_VERT].nMax, 99);
-    EXPECT_EQ(tree.m_hBottomItem, rows[5]);
+    EXPECT_EQ(tree.Bottom(), rows[5]);
+    const int nAll = tree.window.nAllInvalid;
+    EXPECT_TRUE(tree.ChangeParent(rows[100], rows[98]));
+    EXPECT_GT(tree.window.nAllInvalid, nAll);
 }
 
 TEST_F(TreeScrolling, AReplacedRectangleDecidesAboutTheBar) {
     tree.nReplacedWidth = 500;
     Fill(2);
-    EXPECT_EQ(tree.m_nMaxWidth, 500);
+    EXPECT_EQ(tree.MaxWidth(), 500);
     EXPECT_TRUE(tree.window.bShown[SB_HORZ]);
     tree.nReplacedWidth = 100;
     tree.CalcScroll();
@@ -406,40 +370,38 @@ TEST_F(TreeScrolling, AReplacedRectangleDecidesAboutTheBar) {
 
 TEST_F(TreeScrolling, WidthsFollowWhatTheyDependOn) {
     Fill(1);
-    const int nWidth = tree.m_nMaxWidth;
+    const int nWidth = tree.MaxWidth();
     tree.measure.nCalls = 0;
     Fill(1, "longer");
-    EXPECT_GT(tree.m_nMaxWidth, nWidth);
+    EXPECT_GT(tree.MaxWidth(), nWidth);
     tree.CalcScroll();
     EXPECT_EQ(tree.measure.nCalls, 1) << "nothing is measured twice";
     tree.DeleteItem(rows[1]);
-    EXPECT_EQ(tree.m_nMaxWidth, nWidth);
-    tree.m_images = {true, false, 16, 16, 0, 0};
+    EXPECT_EQ(tree.MaxWidth(), nWidth);
+    tree.SetImages({true, false, 16, 16, 0, 0});
     tree.CalcScroll();
-    EXPECT_EQ(tree.m_nMaxWidth, nWidth + 19);
+    EXPECT_EQ(tree.MaxWidth(), nWidth + 19);
     tree.window.nStyle = TVS_LINESATROOT;
     tree.CalcScroll();
-    EXPECT_EQ(tree.m_nMaxWidth, nWidth + 38);
+    EXPECT_EQ(tree.MaxWidth(), nWidth + 38);
     tree.SetItemText(rows[0], "row\tfield");
     const int nStop = 120;
     tree.UseTabs(&nStop, 1);
     tree.CalcScroll();
-    EXPECT_EQ(tree.m_nMaxWidth, 120 + 5 * kChar + 4 + 38);
+    EXPECT_EQ(tree.MaxWidth(), 120 + 5 * kChar + 4 + 38);
 }
 
 TEST_F(TreeScrolling, WithoutMemoryForAnIndexRowsAreWalked) {
-    tree.m_bRedraw = false;
+    tree.SetRedraw(false);
     Fill(600);
-    tree.m_bRedraw = true;
     {
         const FailingNew failing(0);
-        tree.CalcScroll();
-        tree.CalcBottomItem();
+        tree.SetRedraw(true);
         EXPECT_EQ(tree.window.ranges[SB_VERT].nMax, 599);
-        EXPECT_EQ(tree.m_nMaxWidth, 6 * kChar + 4);
+        EXPECT_EQ(tree.MaxWidth(), 6 * kChar + 4);
         tree.VScroll(SB_THUMBTRACK, 300);
     }
-    EXPECT_EQ(tree.m_nVScrollPos, 300);
+    EXPECT_EQ(tree.VScrollPos(), 300);
     EXPECT_TRUE(tree.CheckInvariants());
 }
 
@@ -465,10 +427,19 @@ TEST_F(TreeScrolling, AChangeThatCannotBeMeasuredIsFittedLater) {
     tree.measure.bOutOfMemory = false;
     tree.FitIfDue();
     EXPECT_TRUE(tree.window.bShown[SB_HORZ]);
-    EXPECT_EQ(tree.m_hBottomItem, rows[2]);
+    EXPECT_EQ(tree.Bottom(), rows[2]);
     const int nCalls = tree.measure.nCalls;
     tree.FitIfDue();
     EXPECT_EQ(tree.measure.nCalls, nCalls);
+}
+
+TEST_F(TreeScrolling, TheFirstItemIsMeasuredAsSoonAsThereIsMemory) {
+    tree.measure.bOutOfMemory = true;
+    Fill(1);
+    EXPECT_EQ(tree.ItemHeight(), 0);
+    tree.measure.bOutOfMemory = false;
+    tree.FitIfDue();
+    EXPECT_TRUE(tree.ItemVisible(rows[0]));
 }
 
 // Whatever happens to the tree, a refit gives what walking all rows gives.
@@ -480,7 +451,7 @@ TEST(TreeProperty, RefitsAgreeWithAPlainWalk) {
         std::vector<HTREEITEM> items;
         const auto any = [&]() -> HTREEITEM {
             items.clear();
-            for (HTREEITEM h = tree.m_hRootItem; h != nullptr; h = tree.WalkNext(h)) {
+            for (HTREEITEM h = tree.Root(); h != nullptr; h = tree.Items().WalkNext(h)) {
                 items.push_back(h);
             }
             return items.empty() ? nullptr : items[random() % items.size()];
@@ -488,57 +459,52 @@ TEST(TreeProperty, RefitsAgreeWithAPlainWalk) {
         for (int i = 0; i < 400; ++i) {
             const std::string strText(1 + random() % 30, 'a' + static_cast<char>(random() % 26));
             HTREEITEM h = any();
-            switch (random() % 12) {
+            switch (random() % 8) {
                 case 0:
+                    if (random() % 2 == 0) {
+                        tree.DeleteItem(h ? h : TVI_ROOT);
+                    }
+                    break;
                 case 1:
+                    tree.Expand(h, TVE_TOGGLE, true, random() % 2);
+                    break;
                 case 2:
+                    if (h != tree.Root()) {
+                        tree.ChangeParent(h, any());
+                    }
+                    break;
                 case 3:
+                    tree.SortChildren(h);
+                    break;
                 case 4:
+                    tree.SetItemText(h, strText.c_str());
+                    tree.SetItemState(h, random() % 2 ? TVIS_EXPANDED : 0, TVIS_EXPANDED);
+                    break;
+                default:
                     for (unsigned n = random() % 60; n > 0; --n) {
                         tree.Add(strText, h, random() % 2 ? TVI_FIRST : TVI_LAST);
                     }
-                    break;
-                case 5:
-                    if (random() % 3 == 0)
-                        tree.DeleteItem(h ? h : TVI_ROOT);
-                    break;
-                case 6:
-                case 7:
-                    tree.Expand(h, TVE_TOGGLE, true, random() % 2);
-                    break;
-                case 8:
-                    if (h != tree.m_hRootItem)
-                        tree.ChangeParent(h, any());
-                    break;
-                case 9:
-                    tree.SortChildren(h);
-                    break;
-                case 10:
-                    tree.SetItemText(h, strText.c_str());
-                    break;
-                default:
-                    tree.SetItemState(h, random() % 2 ? TVIS_EXPANDED : 0, TVIS_EXPANDED);
             }
             tree.CalcScroll();
             tree.CalcBottomItem();
             int nRows = 0, nTop = 0, nWidest = 0;
-            for (HTREEITEM r = tree.m_hRootItem; r != nullptr; r = tree.NextDisplayableItem(r)) {
-                nTop = r == tree.m_hTopItem ? nRows : nTop;
+            for (HTREEITEM r = tree.Root(); r != nullptr; r = tree.Items().NextDisplayableItem(r)) {
+                nTop = r == tree.Top() ? nRows : nTop;
                 qv::Rect rect;
                 tree.CalcItemRect(nullptr, 0, r, rect, false);
                 nWidest = std::max(nWidest, rect.right);
                 ++nRows;
             }
             ASSERT_TRUE(tree.CheckInvariants()) << nSeed << "/" << i;
-            ASSERT_EQ(tree.m_nMaxWidth, nWidest) << nSeed << "/" << i;
-            ASSERT_EQ(tree.m_nVScrollPos, nTop) << nSeed << "/" << i;
-            if (tree.m_nVPage != 0) {
+            ASSERT_EQ(tree.MaxWidth(), nWidest) << nSeed << "/" << i;
+            ASSERT_EQ(tree.VScrollPos(), nTop) << nSeed << "/" << i;
+            if (tree.VPage() != 0) {
                 ASSERT_EQ(tree.window.ranges[SB_VERT].nMax, nRows - 1);
             }
             const int nWanted = static_cast<int>(random() % 200);
             const int nDown = tree.ScrollTreeDown(nWanted);
             ASSERT_TRUE(nDown == nWanted ||
-                        tree.NextDisplayableItem(tree.m_hBottomItem) == nullptr);
+                        tree.Items().NextDisplayableItem(tree.Bottom()) == nullptr);
             ASSERT_EQ(tree.ScrollTreeUp(nDown), nDown);
         }
     }

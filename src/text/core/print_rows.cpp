@@ -1,52 +1,10 @@
-#include "text/core/text_rows.h"
-
-#include "base/platform_names.h"
+#include "text/core/print_rows.h"
 
 #include <algorithm>
-#include <cstring>
+#include <cstdint>
+#include <utility>
 
 namespace qv {
-
-const char* LineText(const StyleTable& styles, const char* pszLine) {
-    return styles.Count() == 0 && HasStyle(pszLine) ? pszLine + kLineCodeBytes
-                                                    : styles.ParseStyleText(pszLine);
-}
-
-void SplitLine(const char* pszLine, int nWidth, const StyleTable& styles, TextSplitter& splitter,
-               std::vector<int>& starts) {
-    splitter.Split(LineText(styles, pszLine), nWidth, starts);
-}
-
-// --- On screen
-
-void DisplayRows::Format(const TextLines& lines, const StyleTable& styles, int nWidth,
-                         TextSplitter& splitter) {
-    if (m_width == nWidth && styles.Count() == m_nStyles && lines.Generation() == m_nGeneration) {
-        Append(lines, styles, splitter);
-        return;
-    }
-    DisplayRows rows;
-    rows.m_width = nWidth;
-    rows.m_nStyles = styles.Count();
-    rows.m_nGeneration = lines.Generation();
-    rows.Append(lines, styles, splitter);
-    std::swap(*this, rows);
-}
-
-void DisplayRows::Append(const TextLines& lines, const StyleTable& styles, TextSplitter& splitter) {
-    // A call that ran out of memory may have left a part of its last line.
-    while (!m_rows.empty() && m_rows.back().nLine == m_nLines) {
-        m_rows.pop_back();
-    }
-    for (; m_nLines < lines.Count(); ++m_nLines) {
-        SplitLine(lines.Line(m_nLines), *m_width, styles, splitter, m_starts);
-        for (int i = 0; i < static_cast<int>(m_starts.size()); ++i) {
-            m_rows.push_back({m_nLines, i});
-        }
-    }
-}
-
-// --- On paper
 
 void PrintRows::Clear() {
     m_rows.clear();
@@ -112,7 +70,7 @@ bool PrintRows::RowAt(int nCurrent, const TextLines& lines, const StyleTable& st
                            ? std::min(static_cast<size_t>(starts[nPiece + 1]), line.size())
                            : line.size();
     const std::string strPiece(line.substr(nFrom, nTo - nFrom));
-    const bool bCodeOnly = strPiece.size() < kLineCodeBytes;
+    const bool bCodeOnly = strPiece.size() < TextLines::kCodeBytes;
     row.strText = nFrom == 0 && !bCodeOnly ? LineText(styles, strPiece.c_str())
                                            : styles.ParseStyleText(strPiece.c_str());
     row.nLine = record.nLine;
@@ -162,7 +120,7 @@ void FormatPrintRows(const TextLines& lines, PrintRows& rows, const TextLines* p
     const auto split = [&](const TextLines* pText, int nLine, std::vector<int>& starts) {
         starts.clear();
         if (pText != nullptr && nLine < pText->Count()) {
-            SplitLine(pText->Line(nLine), rows.m_sizePrintArea.cx, styles, splitter, starts);
+            splitter.Split(LineText(styles, pText->Line(nLine)), rows.m_sizePrintArea.cx, starts);
         }
     };
     const auto add = [](PrintRows& to, int nLine, const std::vector<int>& starts, size_t nPiece) {
@@ -179,74 +137,6 @@ void FormatPrintRows(const TextLines& lines, PrintRows& rows, const TextLines* p
             }
         }
     }
-}
-
-// --- Scrolling
-
-ScrollCode ScrollCodeOf(unsigned nCode) {
-    switch (nCode) {
-        case SB_LINEUP:
-            return ScrollCode::LineUp;
-        case SB_LINEDOWN:
-            return ScrollCode::LineDown;
-        case SB_PAGEUP:
-            return ScrollCode::PageUp;
-        case SB_PAGEDOWN:
-            return ScrollCode::PageDown;
-        case SB_THUMBPOSITION:
-        case SB_THUMBTRACK:
-            return ScrollCode::Thumb;
-        case SB_TOP:
-            return ScrollCode::Top;
-        case SB_BOTTOM:
-            return ScrollCode::Bottom;
-        default:
-            return ScrollCode::Other;
-    }
-}
-
-bool ScrollTarget(ScrollCode code, unsigned nWanted, int nPos, int nCount, int nPage,
-                  int& nTarget) {
-    const int nMaxPos = nCount - nPage;
-    switch (code) {
-        case ScrollCode::LineUp:
-        case ScrollCode::PageUp:
-        case ScrollCode::Top:
-            if (nPos < 1) {
-                return false;
-            }
-            nTarget = code == ScrollCode::LineUp                 ? nPos - 1
-                      : code == ScrollCode::Top || nPos <= nPage ? 0
-                                                                 : nPos - nPage;
-            return true;
-        case ScrollCode::LineDown:
-        case ScrollCode::PageDown:
-        case ScrollCode::Bottom:
-            if (nPos >= nMaxPos) {
-                return false;
-            }
-            nTarget = code == ScrollCode::LineDown                             ? nPos + 1
-                      : code == ScrollCode::PageDown && nPos < nMaxPos - nPage ? nPos + nPage
-                                                                               : nMaxPos;
-            return true;
-        case ScrollCode::Thumb:
-            // Unsigned: where all rows show, the limit is negative and refuses nothing.
-            if (nWanted == static_cast<unsigned>(nPos) ||
-                nWanted > static_cast<unsigned>(nMaxPos) || static_cast<int>(nWanted) < 0) {
-                return false;
-            }
-            nTarget = static_cast<int>(nWanted);
-            return true;
-        case ScrollCode::Other:
-            break;
-    }
-    return false;
-}
-
-unsigned DraggedTo(int nPos, const ScrollRange& bar, int nCount, int nPage) {
-    const int nEnd = bar.nMax - std::max(bar.nPage, 1) + 1;
-    const int nLast = std::max(nCount - nPage, 0);
-    return static_cast<unsigned>(nPos >= nEnd ? std::min(nPos, nLast) : nPos);
 }
 
 }  // namespace qv

@@ -1,16 +1,20 @@
-// What a text window lays out with: its port, its display font and its view.
+// What is behind a text window: its lines, their rows on screen and on paper, and what they are
+// laid out with.
 
 #pragma once
 
+#include "frame/alive.h"
 #include "frame/font_measure.h"
 #include "frame/wnd_port.h"
+#include "text/core/print_rows.h"
+#include "text/core/text_view.h"
 #include "text/text_wnd.h"
 
-class QVTextWnd::Measure {
-    // A bar that has nothing to scroll is disabled and stays.
+class QVTextWnd::Core {
     class Port : public qv::WndPort {
     public:
         explicit Port(CWnd& wnd) : WndPort(wnd), m_wnd(wnd) {}
+        // A bar that has nothing to scroll is disabled and stays.
         void SetScrollRange(int nBar, const qv::ScrollRange& range) override {
             SCROLLINFO info{};
             info.cbSize = sizeof(info);
@@ -21,6 +25,8 @@ class QVTextWnd::Measure {
             info.nPos = range.nPos;
             m_wnd.SetScrollInfo(nBar, &info, TRUE);
         }
+        // Windows in the text scroll with it.
+        void ScrollPixels(int dx, int dy, bool) override { m_wnd.ScrollWindow(dx, dy); }
 
     private:
         CWnd& m_wnd;
@@ -29,26 +35,23 @@ class QVTextWnd::Measure {
     Port m_port;
 
 public:
-    explicit Measure(QVTextWnd& wnd)
-        : m_port(wnd),
-          splitter(font),
-          view(wnd, m_port, wnd.m_lines, wnd.m_aStyles, wnd.m_rows, splitter) {}
+    explicit Core(QVTextWnd& wnd) : m_port(wnd), view(wnd, m_port, lines, wnd.m_aStyles, font) {}
 
+    qv::TextLines lines;
+    qv::PrintRows print;
     qv::FontMeasure font;
-    qv::TextSplitter splitter;
     qv::TextView view;
-    std::vector<int> starts;  // of the line that is being painted
+    QVTextWnd* pSyncWnd = nullptr;  // there as long as view has a partner
 };
 
 // Lets go of the display font, also where something is thrown.
 class QVTextWnd::FontScope {
 public:
-    FontScope(QVTextWnd& wnd, CFont& font) : m_wnd(wnd), m_font(font) {}
-    ~FontScope() { m_wnd.CleanupDisplayFont(m_font); }
+    explicit FontScope(CFont& font) : m_font(font) {}
+    ~FontScope() { m_font.Detach(); }
     FontScope(const FontScope&) = delete;
     FontScope& operator=(const FontScope&) = delete;
 
 private:
-    QVTextWnd& m_wnd;
     CFont& m_font;
 };

@@ -1,0 +1,277 @@
+#include "text/core/print_rows.h"
+
+#include "support/failing_new.h"
+#include "support/fake_window.h"
+
+#include <gtest/gtest.h>
+#include <new>
+#include <random>
+#include <string>
+#include <tuple>
+#include <utility>
+#include <vector>
+
+namespace {
+
+using qv::PrintedRow;
+using qv::PrintRows;
+using qv::StyleTable;
+using qv::TextLines;
+
+constexpr int kChar = FixedMeasure::kCharWidth;
+
+class Printing : public testing::Test {
+protected:
+    Printing() { m_styles.Add(0, 0); }
+
+    void Format(int nChars, int nLinesPerPage, bool bWithOther = false) {
+        m_rows.m_sizePrintArea = {nChars * kChar, 100};
+        qv::FormatPrintRows(m_lines, m_rows, bWithOther ? &m_other : nullptr,
+                            bWithOther ? &m_otherRows : nullptr, m_styles, m_splitter);
+        for (PrintRows* pRows : {&m_rows, &m_otherRows}) {
+            pRows->m_sizePrintArea = m_rows.m_sizePrintArea;
+            pRows->m_nLinesPerPage = nLinesPerPage;
+            pRows->m_nNumPages = m_rows.PagesNeeded();
+        }
+    }
+    bool StartPage(PrintRows& rows, const TextLines& lines, int nPage) {
+        return rows.StartPage(nPage, lines, m_styles, m_splitter, m_row);
+    }
+    bool NextLine(PrintRows& rows, const TextLines& lines, int nPage) {
+        return rows.NextLine(nPage, lines, m_styles, m_splitter, m_row);
+    }
+    bool Current() { return m_rows.CurrentLine(m_lines, m_styles, m_splitter, m_row); }
+    // "line:text|" for each row of a page.
+    std::string Page(PrintRows& rows, const TextLines& lines, int nPage) {
+        std::string strPage;
+        for (bool b = StartPage(rows, lines, nPage); b; b = NextLine(rows, lines, nPage)) {
+            strPage += std::to_string(m_row.nLine) + ':' + m_row.strText + '|';
+        }
+        return strPage;
+    }
+
+    TextLines m_lines, m_other;
+    StyleTable m_styles;
+    FixedMeasure m_measure;
+    qv::TextSplitter m_splitter{m_measure};
+    PrintRows m_rows, m_otherRows;
+    PrintedRow m_row;
+};
+
+TEST_F(Printing, TwentyFiveRowsTakeThreePagesOfTen) {
+    for (int i = 0; i < 25; ++i) {
+        m_lines.Add("t" + std::to_string(i), 0);
+    }
+    Format(20, 10);
+    EXPECT_EQ(m_rows.m_nNumPages, 3);
+    std::string strAll;
+    for (int nPage = 1; nPage <= 3; ++nPage) {
+        strAll += Page(m_rows, m_lines, nPage) + '/';
+    }
+    std::string strExpected;
+    for (int i = 0; i < 25; ++i) {
+        strExpected += std::to_string(i) + ":t" + std::to_string(i) + '|' +
+                       (i % 10 == 9 || i == 24 ? "/" : "");
+    }
+    EXPECT_EQ(strAll, strExpected);
+    EXPECT_FALSE(NextLine(m_rows, m_lines, 3)) << "behind the last row";
+    EXPECT_TRUE(Current());
+    EXPECT_EQ(m_row.strText, "t24");
+    EXPECT_EQ(Page(m_rows, m_lines, 2).substr(0, 6), "10:t10") << "in any order";
+}
+
+TEST_F(Printing, PagesThatThereAreNotGiveNoText) {
+    m_lines.Add("x", 0);
+    Format(20, 1);
+    for (const int nPage : {0, -1, 2}) {
+        m_row = {"before", 7, 0};
+        EXPECT_FALSE(StartPage(m_rows, m_lines, nPage));
+        EXPECT_EQ(m_row.strText, "");
+        EXPECT_EQ(m_row.nStyle, 7);
+    }
+    for (const auto& [nLinesPerPage, nPages] : {std::pair{0, 0}, {-3, 0}, {1, 1}, {2, 1}}) {
+        m_rows.m_nLinesPerPage = nLinesPerPage;
+        EXPECT_EQ(m_rows.PagesNeeded(), nPages);
+    }
+    m_rows.Clear();
+    EXPECT_EQ(m_rows.Count(), 0);
+    EXPECT_EQ(m_rows.m_nNumPages, 0);
+    EXPECT_EQ(m_rows.PagesNeeded(), 0);
+    EXPECT_FALSE(Current());
+    for (int i = 0; i < 2; ++i) {
+        m_rows.Add(0, 0);
+    }
+    m_rows.m_nLinesPerPage = 1;
+    EXPECT_EQ(m_rows.PagesNeeded(), 2);
+}
+
+TEST_F(Printing, BlankRowsFillTheShorterOfTwo) {
+    m_styles.Add(0, 0);
+    for (int i = 0; i < 3; ++i) {
+        m_lines.Add("a" + std::to_string(i), 1);
+    }
+    for (int i = 0; i < 5; ++i) {
+        m_other.Add("b" + std::to_string(i), 1);
+    }
+    Format(20, 9, true);
+    EXPECT_EQ(Page(m_rows, m_lines, 1), "0:a0|1:a1|2:a2|3:|4:|");
+    EXPECT_EQ(m_row.nStyle, 0) << "there is no line behind the last blank row";
+    EXPECT_EQ(Page(m_otherRows, m_other, 1), "0:b0|1:b1|2:b2|3:b3|4:b4|");
+    EXPECT_EQ(m_row.nStyle, 1);
+}
+
+TEST_F(Printing, LineStartsOnTheSameRowInBoth) {
+    m_styles.Add(0, 0);
+    for (const char* psz : {"one two", "x", "y"}) {
+        m_lines.Add(psz, 0);
+    }
+    for (const char* psz : {"u", "three four five", "v"}) {
+        m_other.Add(psz, 1);
+    }
+    Format(6, 9, true);
+    EXPECT_EQ(m_rows.Count(), 6);
+    EXPECT_EQ(m_otherRows.Count(), 6);
+    // With the line of the row itself to count by, as a caller that knows it may do.
+    const auto texts = [&](PrintRows& rows, const TextLines& lines, std::vector<int> counted) {
+        std::string strTexts;
+        for (std::size_t i = 0; i < counted.size(); ++i) {
+            m_row.nLine = counted[i];
+            EXPECT_TRUE(i == 0 ? StartPage(rows, lines, 1) : NextLine(rows, lines, 1));
+            strTexts += m_row.strText + '|';
+        }
+        return strTexts;
+    };
+    EXPECT_EQ(texts(m_rows, m_lines, {0, 0, 1, 1, 1, 2}), "one |two|x|||y|");
+    EXPECT_EQ(texts(m_otherRows, m_other, {0, 0, 1, 1, 1, 2}), "u||thre|e four |five|v|")
+        << "the code takes two of the first piece's six bytes";
+    EXPECT_EQ(m_row.nStyle, 1);
+}
+
+TEST_F(Printing, PiecesAreThoseOfTheLinePassedIn) {
+    m_lines.Add("x", 0);
+    m_lines.Add("aaa bbb ccc", 0);  // stored, its pieces start at 0, 6 and 10
+    m_lines.Add("0123456789", 0);   // at 0, 5 and 10
+    Format(5, 99);
+    ASSERT_EQ(m_rows.Count(), 6);
+    EXPECT_EQ(Page(m_rows, m_lines, 1), "0:x|1:aaa bbb ccc|1:bbb |1:ccc|2:0123|2:34567|")
+        << "one variable for all rows: each line's first row is cut by the line before";
+
+    const auto rowCountedBy = [&](int nRow, int nLine) {
+        EXPECT_TRUE(StartPage(m_rows, m_lines, 1));
+        for (int i = 0; i < nRow; ++i) {
+            m_row.nLine = i < 3 ? 1 : 2;
+            EXPECT_TRUE(NextLine(m_rows, m_lines, 1));
+            m_row = {"before", 7, nLine};
+        }
+        m_row = {"before", 7, nLine};
+        return Current();
+    };
+    for (const int nNone : {-1, 3}) {
+        EXPECT_TRUE(rowCountedBy(1, nNone));
+        EXPECT_EQ(m_row.strText, "aaa bbb ccc") << "no line is one piece";
+    }
+    EXPECT_FALSE(rowCountedBy(2, 0)) << "x has no second piece";
+    EXPECT_EQ(std::tie(m_row.strText, m_row.nStyle, m_row.nLine), std::tuple("before", 7, 0));
+    EXPECT_TRUE(rowCountedBy(2, 2));
+    EXPECT_EQ(m_row.strText, " bbb ");
+    EXPECT_EQ(m_row.nLine, 1);
+}
+
+TEST_F(Printing, NothingIsReadBehindALineWhoseStartsAreAnothers) {
+    m_lines.Add("ab", 0);
+    m_lines.Add("aaaaaaaa bbbbbbbb", 0);
+    Format(10, 99);
+    m_rows.Add(0, 1);  // a second row of the first line, as another area would have made
+    ASSERT_TRUE(StartPage(m_rows, m_lines, 1));
+    EXPECT_TRUE(NextLine(m_rows, m_lines, 1));
+    EXPECT_TRUE(NextLine(m_rows, m_lines, 1));
+    EXPECT_TRUE(NextLine(m_rows, m_lines, 1));
+    EXPECT_EQ(m_row.strText, "");
+    EXPECT_EQ(m_row.nLine, 0);
+}
+
+TEST_F(Printing, RowsByNumberJoinedGiveEveryLineBack) {
+    std::mt19937 random(7);
+    static constexpr std::string_view kParts[] = {"a",  "word",     " ",   "   ",
+                                                  "\n", "\xC3\xA4", "\x1B"};
+    const auto fill = [&](TextLines& lines, std::vector<std::string>& texts) {
+        lines.Clear();
+        texts.clear();
+        for (unsigned n = random() % 8; n > 0; --n) {
+            std::string strText;
+            for (unsigned nPart = random() % 30; nPart > 0; --nPart) {
+                strText += kParts[random() % std::size(kParts)];
+            }
+            lines.Add(strText, 0);
+            texts.push_back(strText);
+        }
+    };
+    std::vector<std::string> texts, otherTexts;
+    for (int i = 0; i < 300; ++i) {
+        fill(m_lines, texts);
+        fill(m_other, otherTexts);
+        m_rows.Clear();
+        m_otherRows.Clear();
+        Format(static_cast<int>(random() % 20), 9, i % 2 == 0);
+        const auto check = [&](const PrintRows& rows, const TextLines& lines,
+                               const std::vector<std::string>& expected) {
+            std::vector<std::string> joined(expected.size());
+            for (int nRow = 0; nRow < rows.Count(); ++nRow) {
+                ASSERT_TRUE(rows.Row(nRow, lines, m_styles, m_row));
+                if (m_row.nLine < lines.Count()) {
+                    joined[static_cast<std::size_t>(m_row.nLine)] += m_row.strText;
+                } else {
+                    ASSERT_EQ(m_row.strText, "");
+                }
+            }
+            ASSERT_EQ(joined, expected);
+        };
+        check(m_rows, m_lines, texts);
+        if (i % 2 == 0) {
+            check(m_otherRows, m_other, otherTexts);
+        }
+    }
+}
+
+TEST_F(Printing, RowsByNumberKnowWhatThereIsNot) {
+    m_styles.Add(0, 0);
+    m_lines.Add("abc", 1);
+    m_other.Add("defghi", 0);
+    Format(3, 9, true);
+    ASSERT_EQ(m_rows.Count(), 2);
+    EXPECT_TRUE(m_rows.Row(0, m_lines, m_styles, m_row));
+    EXPECT_EQ(std::tie(m_row.strText, m_row.nStyle, m_row.nLine), std::tuple("abc", 1, 0));
+    EXPECT_TRUE(m_rows.Row(1, m_lines, m_styles, m_row));
+    EXPECT_EQ(m_row.strText, "") << "keeps the other level";
+    m_row = {"before", 7, 0};
+    m_rows.Add(0, 0);
+    for (const int nRow : {-1, 2, 3}) {
+        EXPECT_FALSE(m_rows.Row(nRow, m_lines, m_styles, m_row)) << nRow;
+        EXPECT_EQ(m_row.strText, "before");
+    }
+    m_lines.Clear();
+    EXPECT_TRUE(m_rows.Row(0, m_lines, m_styles, m_row));
+    EXPECT_EQ(m_row.strText, "") << "the line is gone";
+}
+
+TEST_F(Printing, ARowThatFoundNoMemoryIsGivenTheNextTime) {
+    for (const char* psz : {"first", "second"}) {
+        m_lines.Add(std::string(200, '.') + psz, 0);
+    }
+    Format(1000, 9);
+    ASSERT_TRUE(StartPage(m_rows, m_lines, 1));
+    int nRefused = 0;
+    for (bool bGiven = false; !bGiven; ++nRefused) {
+        try {
+            m_row.strText = std::string();
+            const FailingNew failing(nRefused);
+            bGiven = NextLine(m_rows, m_lines, 1);
+        } catch (const std::bad_alloc&) {
+        }
+        ASSERT_LT(nRefused, 100);
+    }
+    EXPECT_GT(nRefused, 1);
+    EXPECT_TRUE(m_row.strText.ends_with("second"));
+}
+
+}  // namespace

@@ -1,0 +1,274 @@
+// Each class derived from, outside the library: what a derived class reaches of it, and that every
+// inline function of the headers links.
+#include <QVControls.h>
+#include <cstring>
+#include <gtest/gtest.h>
+
+namespace {
+
+const CRect kRect(0, 0, 200, 100);
+
+class Outside : public testing::Test {
+protected:
+    Outside() {
+        m_parent.CreateEx(0, AfxRegisterWndClass(0), "", WS_OVERLAPPEDWINDOW, 0, 0, 300, 200,
+                          nullptr, nullptr);
+    }
+    ~Outside() override { m_parent.DestroyWindow(); }
+
+    CWnd m_parent;
+};
+
+// --- Tree
+
+class Tree : public QVTreeCtrlEx {
+public:
+    Tree() { KeepSteps(typeid(Tree)); }
+
+    void LooksAtItself(CWnd& parent) {
+        ASSERT_TRUE(Create(WS_CHILD | TVS_HASLINES, kRect, &parent, 1));
+        const int stops[] = {50, 20100};
+        UseTabs(stops, 2);
+        SetIndentTabs(FALSE);
+        SetShowStatesAtRoot(TRUE);
+        const HTREEITEM hRoot = InsertItem("root\tfield", 0, 0, TVI_ROOT, TVI_LAST);
+        const HTREEITEM hChild = InsertItem("child", 0, 0, hRoot, TVI_LAST);
+        EXPECT_EQ(GetRootItem(), hRoot);
+        EXPECT_EQ(GetChildItem(hRoot), hChild);
+        EXPECT_EQ(GetParentItem(hChild), hRoot);
+        EXPECT_EQ(GetNextSiblingItem(hRoot), nullptr);
+        EXPECT_EQ(GetPrevSiblingItem(hRoot), nullptr);
+        EXPECT_EQ(GetTopItem(), hRoot);
+        EXPECT_EQ(GetBottomItem(), hRoot);
+        EXPECT_EQ(GetTabCount(), 2);
+        EXPECT_FALSE(GetIndentTabs());
+        EXPECT_TRUE(GetShowStatesAtRoot());
+        EXPECT_TRUE(GetRedraw());
+        EXPECT_EQ(GetIndentStep(), 19);
+        EXPECT_EQ(GetMaxWidth() > 0, ItemHeight() > 0);
+        EXPECT_EQ(GetHScrollPos() + GetVScrollPos() + GetHPage() + GetVPage(), 0);
+        EXPECT_EQ(GetImageSize(), CSize(0, 0));
+        EXPECT_EQ(GetStateImageSize(), CSize(0, 0));
+        m_bAllowTags = FALSE;
+        m_bAutoTagChildren = FALSE;
+        m_pImageList = m_pStateImageList = nullptr;
+        EXPECT_EQ(m_brBackground.m_hObject, nullptr) << "lives for one paint";
+        EXPECT_EQ(NumStyles(), 1);
+        EXPECT_EQ(StyleColors(0).crText, ::GetSysColor(COLOR_WINDOWTEXT));
+        EXPECT_EQ(StyleColors(1).crBk, 0u);
+    }
+};
+
+TEST_F(Outside, ATree) {
+    Tree().LooksAtItself(m_parent);
+}
+
+// --- Grid
+
+class Grid : public QVGridCtrl {
+public:
+    void LooksAtItself(CWnd& parent) {
+        AddColumn(gctStatic, 50);
+        AddColumn(gctEdit, 50);
+        AddRow("one\ttwo", 0);
+        SetShowAddedRows(TRUE);
+        SetLockReadOnlyLists(TRUE);
+        SetMaxListLines(8);
+        SetReadOnly(TRUE);
+        EXPECT_TRUE(m_bReadOnly);
+        ASSERT_TRUE(Create(1, kRect, &parent));
+        GotoCell(0, 1, FALSE);
+        EXPECT_EQ(CurrentRow(), m_nCurRow);
+        EXPECT_EQ(CurrentColumn(), m_nCurCol);
+        EXPECT_EQ(m_nCurCol, 1);
+        EXPECT_EQ(RowAt(0).dwState & GRS_CURRENT, GRS_CURRENT);
+        EXPECT_FALSE(m_bEditing || m_bIgnoreFocus || m_bBtnDown || m_bBtnOver);
+        EXPECT_TRUE(PressedButtonRect().IsRectEmpty());
+        EXPECT_TRUE(m_bRedraw);
+        EXPECT_EQ(m_nTopRow, 0);
+        CRect rc;
+        CalcCellRect(0, 1, rc);
+        EXPECT_EQ(rc.left, 50);
+        EXPECT_EQ(rc.Height(), m_nCellHeight);
+        EXPECT_EQ(m_penGrid.m_hObject, nullptr);
+    }
+};
+
+TEST_F(Outside, AGrid) {
+    Grid().LooksAtItself(m_parent);
+}
+
+// --- Text
+
+class Text : public QVTextWnd {
+public:
+    void LooksAtItself(CWnd& parent) {
+        CRect rect(kRect);
+        ASSERT_TRUE(Create(rect, &parent, 1, 1));
+        EXPECT_EQ(m_bBorder, 1);
+        EXPECT_EQ(AddText("one", 0), 1);
+        EXPECT_EQ(AddText("two\nthree, and wide enough to be wrapped in a window of this size", 0),
+                  2);
+        CalcLayout();
+        EXPECT_EQ(NumDisplayLines(), NumRows());
+        EXPECT_GE(NumRows(), 3);
+        QVTEXTLINE row{-9, -9};
+        EXPECT_TRUE(GetDisplayLine(2, row));
+        EXPECT_EQ(row.nLine, 1);
+        EXPECT_EQ(row.nSubLine, 1);
+        EXPECT_FALSE(GetDisplayLine(NumRows(), row));
+        EXPECT_EQ(NumLines(), 2);
+        m_bUseProportionalFont = 0;
+        m_nTabStop = 16;
+        m_crBk = RGB(255, 255, 0);
+        CalcLayout();
+        EXPECT_GT(m_nMaxLineLength * m_nCharWidth, kRect.Width()) << "as it was wrapped last";
+        EXPECT_TRUE(m_bHScrollBar);
+        EXPECT_EQ(m_nNumRows, NumRows());
+        EXPECT_EQ(VScrollPos(), m_nVScrollPos);
+        EXPECT_EQ(SyncWnd(), nullptr);
+        SetUseProportionalFont(1);
+        EXPECT_FALSE(m_bUseProportionalFont) << "does nothing";
+    }
+    void KeepsPages() {
+        SetPrintAreaSize(CSize(30, 40));
+        SetLinesPerPage(1);
+        AddPrintLine(0, 0);
+        AddPrintLine(1, -1);
+        SetNumPages(2);
+        EXPECT_EQ(PrintAreaSize(), CSize(30, 40));
+        EXPECT_EQ(LinesPerPage() + NumPages() + NumPrintRows(), 5);
+        QVTEXTLINE row{-9, -9};
+        EXPECT_TRUE(GetPrintLine(1, row));
+        EXPECT_EQ(row.nSubLine, -1);
+        EXPECT_FALSE(GetPrintLine(2, row));
+        EXPECT_EQ(CurPrintLine(), 0);
+        ClearPrintData();
+        EXPECT_EQ(NumPages() + NumPrintRows(), 0);
+    }
+    bool FollowsAsLongAsThereIsOne() {
+        QVTextWnd other;
+        SyncWith(&other, 1);
+        return SyncWnd() == &other;
+    }
+    bool FollowsNone() const { return SyncWnd() == nullptr; }
+};
+
+TEST_F(Outside, AText) {
+    Text text;
+    text.LooksAtItself(m_parent);
+    text.KeepsPages();
+    EXPECT_TRUE(text.FollowsAsLongAsThereIsOne());
+    EXPECT_TRUE(text.FollowsNone()) << "the partner is gone";
+}
+
+// --- Captions
+
+template <class Base>
+class Captioned : public Base {
+public:
+    void LooksAtItself(CWnd& parent) {
+        this->SetHeaderHeight(30);
+        EXPECT_EQ(this->HeaderHeight(), this->m_nHeaderHeight);
+        this->SetHeaderText("caption");
+        EXPECT_EQ(this->m_strHeaderText, "caption");
+        CRect rect(kRect);
+        ASSERT_TRUE(this->Create(WS_CHILD, rect, &parent, 1));
+        CRect rcBar;
+        CRect rcBody;
+        this->CalcHeaderRect(rcBar);
+        this->CalcBackgroundRect(rcBody);
+        EXPECT_GE(rcBody.top, rcBar.bottom);
+        EXPECT_TRUE(this->m_bFillBody);
+        EXPECT_TRUE(this->IsInnerId(5, 5));
+    }
+};
+
+TEST_F(Outside, Captions) {
+    Captioned<QVHeaderWnd>().LooksAtItself(m_parent);
+    Captioned<QVListHeaderWnd> list;
+    list.SetListStyle(list.GetListStyle());
+    list.SetListID(7);
+    list.LooksAtItself(m_parent);
+    EXPECT_EQ(list.GetListBox()->GetDlgCtrlID(), 7);
+    Captioned<QVTreeHeaderWnd> tree;
+    tree.SetTreeStyle(tree.GetTreeStyle());
+    tree.SetTreeID(8);
+    tree.LooksAtItself(m_parent);
+    EXPECT_EQ(tree.GetTreeCtrl().GetDlgCtrlID(), 8);
+    Captioned<QVTextHeaderWnd> text;
+    text.LooksAtItself(m_parent);
+    EXPECT_NE(text.GetTextWnd().m_hWnd, nullptr);
+}
+
+// --- What paints itself, and guards
+
+class Painted : public QVCustCtrl {
+public:
+    void Draw(CDC& dc, const CRect& rect) override {
+        const qv::ColorGuard colors(dc);
+        CBrush brush(RGB(255, 0, 0));
+        const qv::SelectGuard select(dc, &brush);
+        dc.PatBlt(0, 0, rect.Width(), rect.Height(), PATCOPY);
+    }
+    DWORD Style() const { return m_dwDefStyle; }
+};
+
+TEST_F(Outside, ACustomControl) {
+    Painted painted;
+    painted.ModifyDefStyle(WS_TABSTOP, WS_BORDER);
+    EXPECT_EQ(painted.Style(), static_cast<DWORD>(WS_CHILD | WS_VISIBLE | WS_BORDER));
+    ASSERT_TRUE(painted.Create(1, kRect, &m_parent));
+    m_parent.ShowWindow(SW_SHOWNA);
+    painted.RedrawWindow();
+    CClientDC dc(&painted);
+    EXPECT_EQ(dc.GetPixel(5, 5), RGB(255, 0, 0));
+}
+
+// --- Print
+
+class Item : public QVPrintEngineData {
+public:
+    Item() : QVPrintEngineData(nullptr, 3, nullptr, 4) {
+        SetMinSize(1);
+        SetMaxSize(2);
+    }
+    void LooksAtItself() {
+        EXPECT_EQ(HeaderFont(), NormalFont());
+        EXPECT_EQ(HeaderFontHeight() + NormalFontHeight(), 7u);
+        EXPECT_EQ(MinSize() + MaxSize(), 3u);
+        EXPECT_FALSE(Optional() || DoNotWidow());
+        CalcSize(100);
+        EXPECT_TRUE(IsComplete());
+        SetIncomplete();
+        EXPECT_FALSE(IsComplete());
+    }
+    void Print(CDC*, const CRect&, unsigned, unsigned) override {}
+};
+
+TEST_F(Outside, ThePrintEngine) {
+    Item().LooksAtItself();
+    QVPrintEngine engine(nullptr, nullptr, nullptr, nullptr);
+    engine.SetPrintAllRows(true);
+    QVPeDataLabeledList& totals = engine.AddLabeledDataList(nullptr);
+    totals.SetFitNumbers(true);
+    totals.SetIndented(1);
+    QVPrintEnginePage page;
+    page.SetFirstItem(1);
+    page.SetLastItem(2);
+    page.SetFirstSub(3);
+    page.SetLastSub(4);
+    EXPECT_EQ(page.GetFirstItem() + page.GetLastItem() + page.GetFirstSub() + page.GetLastSub(),
+              10u);
+    QVPrintEngine copy(engine);
+    copy = engine;
+    EXPECT_TRUE(copy.IsComplete());
+}
+
+// --- The module
+
+TEST_F(Outside, TheModule) {
+    EXPECT_NE(InitQVControlExtensionDLL(), nullptr);
+}
+
+}  // namespace
