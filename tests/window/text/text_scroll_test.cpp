@@ -237,18 +237,6 @@ TEST(TextPartners, ScrollTogether) {
     EXPECT_EQ(pair.a.text.VScrollPos(), 0);
 }
 
-TEST(TextPartners, OneMayGoFirst) {
-    Pair<OpenText> pair;
-    pair.b.reset();
-    EXPECT_EQ(pair.a.text.Scroll(WM_VSCROLL, SB_PAGEDOWN), 10);
-    pair.a.text.ScrollTo(20, 0);
-    pair.a.text.ClearTextData();
-    EXPECT_EQ(pair.a.text.VScrollPos(), 0);
-    Pair<OpenText> other;
-    other.b->text.DestroyWindow();
-    EXPECT_EQ(other.a.text.Scroll(WM_VSCROLL, SB_PAGEDOWN), 10) << "a partner without a window";
-}
-
 TEST(TextPartners, InTheGridBothHaveAHorizontalBarAndScrollAcrossAlone) {
     Pair<GridText> pair;
     EXPECT_TRUE(pair.a.text.HasBar(SB_HORZ));
