@@ -6,6 +6,7 @@
 #include "fuzz_input.h"
 #include "fuzz_text.h"
 #include "list/core/list_columns.h"
+#include "list/core/list_fit.h"
 #include "list/core/list_row.h"
 #include "list/core/sorted_places.h"
 

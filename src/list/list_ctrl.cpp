@@ -2,25 +2,13 @@
 
 #include "frame/ancestor_font.h"
 #include "frame/core/wheel.h"
-#include "frame/module_state.h"
 #include "frame/mouse_wheel.h"
 #include "frame/out_of_memory.h"
 #include "frame/select_object.h"
-#include "frame/text_out.h"
-#include "list/cell_format.h"
-#include "list/cut_text.h"
-#include "list/list_places.h"
+#include "list/list_ctrl_core.h"
 
-#include <algorithm>
 #include <climits>
 #include <unordered_map>
-
-namespace {
-
-constexpr int kFormatMask = LVCFMT_JUSTIFYMASK;
-constexpr int kHeadingBytes = 255;  // with the terminator
-
-}  // namespace
 
 IMPLEMENT_DYNCREATE(QVListCtrlEx, CListCtrl)
 
@@ -40,15 +28,6 @@ BEGIN_MESSAGE_MAP(QVListCtrlEx, CListCtrl)
     ON_MESSAGE(LVM_DELETECOLUMN, OnDeleteColumn)
     ON_MESSAGE(LVM_DELETEITEM, OnDeleteListItem)
     ON_MESSAGE(LVM_DELETEALLITEMS, OnDeleteAllItems)
-    ON_MESSAGE(LVM_INSERTITEMA, OnInsertListItem)
-    ON_MESSAGE(LVM_INSERTITEMW, OnInsertListItem)
-    ON_MESSAGE(LVM_SETITEMA, OnSetListItem)
-    ON_MESSAGE(LVM_SETITEMW, OnSetListItem)
-    ON_MESSAGE(LVM_SETITEMTEXTA, OnSetListItemText)
-    ON_MESSAGE(LVM_SETITEMTEXTW, OnSetListItemText)
-    ON_MESSAGE(LVM_SETITEMCOUNT, OnRowsChange)
-    ON_MESSAGE(LVM_SORTITEMS, OnRowsChange)
-    ON_MESSAGE(LVM_SORTITEMSEX, OnRowsChange)
 END_MESSAGE_MAP()
 
 // --- Creation
@@ -56,7 +35,7 @@ END_MESSAGE_MAP()
 QVListCtrlEx::QVListCtrlEx()
     : m_dwDefStyle(WS_CHILD | WS_VISIBLE | WS_BORDER | LVS_REPORT | LVS_SINGLESEL |
                    LVS_SHOWSELALWAYS | LVS_OWNERDRAWFIXED),
-      m_pPlaces(qv::AsMemoryException([] { return std::make_unique<Places>(); })) {}
+      m_pCore(qv::AsMemoryException([] { return std::make_unique<Core>(); })) {}
 
 QVListCtrlEx::~QVListCtrlEx() {
     DestroyWindow();
@@ -115,8 +94,8 @@ BOOL QVListCtrlEx::Initialize(UINT nID, UINT nBitmapID, COLORREF crMask, int cx,
 
 // False if the list is gone.
 bool QVListCtrlEx::SetUp(UINT nBitmapID, COLORREF crMask, int cx) {
-    if (m_hTold == nullptr) {
-        m_hTold = ::GetParent(m_hWnd);
+    if (m_pCore->hTold == nullptr) {
+        m_pCore->hTold = ::GetParent(m_hWnd);
     }
     const qv::WindowWatch watch(m_alive, m_hWnd);
     ModifyStyle(LVS_TYPEMASK, LVS_REPORT | LVS_OWNERDRAWFIXED, 0);
@@ -143,12 +122,13 @@ bool QVListCtrlEx::SetUp(UINT nBitmapID, COLORREF crMask, int cx) {
 // The control deletes the image lists that it has when it goes; ours is not its own.
 void QVListCtrlEx::OnDestroy() {
     SetImageList(nullptr, LVSIL_SMALL);
-    m_hTold = nullptr;
+    m_pCore->hTold = nullptr;
+    m_pCore->bSortsItself.reset();
     CListCtrl::OnDestroy();
 }
 
 HWND QVListCtrlEx::ToldWindow() const {
-    return m_hTold != nullptr ? m_hTold : ::GetParent(m_hWnd);
+    return m_pCore->hTold != nullptr ? m_pCore->hTold : ::GetParent(m_hWnd);
 }
 
 void QVListCtrlEx::LoadImages(UINT nBitmapID, COLORREF crMask, int cx) {
@@ -193,302 +173,7 @@ void QVListCtrlEx::MeasureFont() {
 
 void QVListCtrlEx::SetImageFirstCol(BOOL bFirst) {
     m_bImageFirstCol = bFirst;
-    m_pPlaces->Invalidate();
-}
-
-// --- Columns
-
-void QVListCtrlEx::AddHeader(UINT nStringID) {
-    CString strHeaders;
-    BOOL bLoaded = FALSE;
-    qv::MemorySuffices([&] { bLoaded = strHeaders.LoadString(nStringID); });
-    if (bLoaded) {
-        AddHeader(strHeaders);
-    }
-}
-
-void QVListCtrlEx::AddHeader(LPCSTR pszHeaders) {
-    const qv::WindowWatch watch(m_alive, m_hWnd);
-    if (m_bSingleColumn) {
-        DeleteColumn(0);
-        if (!watch.ObjectAlive()) {
-            return;
-        }
-        m_bSingleColumn = FALSE;
-        m_columns.SetCount(0);
-    }
-    const std::string_view headers = pszHeaders != nullptr ? pszHeaders : "";
-    std::string_view field;
-    int nCol = m_columns.Count();
-    for (int nPos = 0;
-         watch && nCol <= qv::kLastHeaderColumn && qv::NextField(headers, nPos, field); ++nCol) {
-        const qv::Heading<kHeadingBytes> heading(field);
-        LVCOLUMN column{};
-        column.mask = LVCF_FMT | LVCF_WIDTH | LVCF_TEXT | LVCF_SUBITEM;
-        column.fmt = LVCFMT_LEFT;
-        column.cx = qv::kNewColumnWidth;
-        column.pszText = heading.Text();
-        column.iSubItem = nCol;
-        SendMessage(LVM_INSERTCOLUMN, static_cast<WPARAM>(nCol), reinterpret_cast<LPARAM>(&column));
-    }
-}
-
-void QVListCtrlEx::ClearHeaders() {
-    LVCOLUMN column{};
-    column.mask = LVCF_WIDTH;
-    const qv::AliveWatch watch(m_alive);
-    // A control that refuses to delete a column ends the walk as well.
-    while (watch && GetColumn(0, &column) && DeleteColumn(0)) {
-    }
-    if (watch) {
-        m_columns.SetCount(0);
-    }
-}
-
-void QVListCtrlEx::ClearCols() {
-    m_columns.Clear();
-}
-
-void QVListCtrlEx::SetupColumns() {
-    if (m_bSingleColumn) {
-        CalcSingleColWidth();
-        return;
-    }
-    qv::MemorySuffices([&] {
-        const qv::AliveWatch watch(m_alive);
-        CWindowDC dc(this);
-        const qv::SelectGuard<CFont> font(dc, GetFont());
-        const int nColumns = CalcColWidths(&dc, nullptr);
-        if (watch) {
-            m_columns.SetCount(nColumns);
-        }
-    });
-}
-
-int QVListCtrlEx::CalcColWidths(CDC*, int*) {
-    return m_columns.Count();
-}
-
-void QVListCtrlEx::SetupColumnsFromString(const CString& strSample) {
-    qv::MemorySuffices([&] { SizeToSample(std::string(strSample)); });
-}
-
-void QVListCtrlEx::SizeToSample(std::string strSample) {
-    const qv::WindowWatch watch(m_alive, m_hWnd);
-    int nFillCol = -1;
-    int nCol = 0;
-    char* pszRest = strSample.data();
-    for (char* psz; watch && (psz = qv::CutField(pszRest)) != nullptr; ++nCol) {
-        std::string_view field = psz;
-        if (qv::TakeFillMark(field)) {
-            nFillCol = nCol;
-            psz[field.size()] = '\0';
-        }
-        const int nWidth = GetStringWidth(psz) + qv::kColumnMargin;
-        SetColWidth(nCol, std::max(nWidth, GetColWidth(nCol, nullptr)), nullptr);
-    }
-    if (watch) {
-        // Room for the scroll bar is left whether or not there is one.
-        FillRest(nFillCol, ::GetSystemMetrics(SM_CXVSCROLL));
-    }
-}
-
-// Widens a column to what the window has left, nReserved pixels apart. -1 is no column.
-void QVListCtrlEx::FillRest(int nFillCol, int nReserved) {
-    CRect rcClient;
-    GetClientRect(&rcClient);
-    const int nRest = rcClient.Width() - nReserved - GetDataWidth();
-    if (nFillCol != -1 && nRest > 0) {
-        SetColWidth(nFillCol, GetColWidth(nFillCol, nullptr) + nRest, nullptr);
-    }
-}
-
-int QVListCtrlEx::MakeColsFromString(CDC* pDC, const CString& strRow, int* pWidths) {
-    const qv::AliveWatch watch(m_alive);
-    int nCol = 0;
-    std::string_view field;
-    for (int nPos = 0; watch && qv::NextField(std::string_view(strRow), nPos, field); ++nCol) {
-        const CSize size = qv::TextExtent(*pDC, field);
-        SetColWidth(nCol, size.cx + qv::kColumnMargin, pWidths);
-    }
-    return nCol;
-}
-
-int QVListCtrlEx::MakeHeaderString(CString& str) {
-    int nRead = 0;
-    return qv::MemorySuffices([&] { nRead = ReadHeadings(str); }) ? nRead : 0;
-}
-
-int QVListCtrlEx::ReadHeadings(CString& str) {
-    char szHeading[kHeadingBytes + 1];
-    LVCOLUMN column{};
-    column.mask = LVCF_TEXT;
-    column.pszText = szHeading;
-    column.cchTextMax = kHeadingBytes + 1;
-    int nRead = 0;
-    CString strAll(str);
-    for (int nCol = 0; nCol < m_columns.Count(); ++nCol) {
-        szHeading[0] = '\0';
-        if (GetColumn(nCol, &column)) {
-            if (nCol > 0) {
-                strAll += qv::kFieldSeparator;
-            }
-            strAll += column.pszText;
-            ++nRead;
-        }
-    }
-    str = strAll;
-    return nRead;
-}
-
-void QVListCtrlEx::CalcColsFromHeader(int nFillCol) {
-    qv::MemorySuffices([&] { SizeToHeadings(nFillCol); });
-}
-
-void QVListCtrlEx::SizeToHeadings(int nFillCol) {
-    CString strHeaders;
-    MakeHeaderString(strHeaders);
-    if (strHeaders.IsEmpty()) {
-        return;
-    }
-    const qv::WindowWatch watch(m_alive, m_hWnd);
-    CWindowDC dc(this);
-    const qv::SelectGuard<CFont> font(dc, GetFont());
-    const int nColumns = MakeColsFromString(&dc, strHeaders, nullptr);
-    if (!watch) {
-        return;
-    }
-    m_bSingleColumn = FALSE;
-    m_columns.SetCount(nColumns);
-    if (nColumns >= 1) {
-        FillRest(nFillCol, 0);
-    }
-}
-
-int QVListCtrlEx::CalcDataWidth(int* pWidths) {
-    int nWidth = 0;
-    for (int nCol = 0; nCol < m_columns.Count(); ++nCol) {
-        nWidth += GetColWidth(nCol, pWidths);
-    }
-    if (pWidths == nullptr) {
-        m_nDataWidth = nWidth;
-    }
-    return nWidth;
-}
-
-int QVListCtrlEx::GetDataWidth() {
-    return m_nDataWidth != -1 ? m_nDataWidth : CalcDataWidth(nullptr);
-}
-
-int QVListCtrlEx::GetColWidth(int nCol, int* pWidths) {
-    if (pWidths == nullptr) {
-        return GetColumnWidth(nCol);
-    }
-    return nCol >= 0 && nCol < m_columns.Count() ? pWidths[nCol] : 0;
-}
-
-void QVListCtrlEx::SetColWidth(int nCol, int nWidth, int* pWidths) {
-    if (pWidths == nullptr) {
-        const qv::AliveWatch watch(m_alive);
-        SendMessage(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(nCol), MAKELPARAM(nWidth, 0));
-        if (watch) {
-            CalcDataWidth(nullptr);
-        }
-    } else if (nCol >= 0 && nCol < m_columns.Count()) {
-        pWidths[nCol] = nWidth;
-    }
-}
-
-int QVListCtrlEx::NumColumns() const {
-    return m_columns.Count();
-}
-
-int QVListCtrlEx::GetColFormat(int nCol) const {
-    return m_columns.Format(nCol);
-}
-
-void QVListCtrlEx::SetColFormat(int nCol, int nFormat) {
-    qv::MemorySuffices([&] { m_columns.SetFormat(nCol, nFormat); });
-}
-
-int QVListCtrlEx::GetColStyle(int nCol) const {
-    return m_columns.Style(nCol);
-}
-
-void QVListCtrlEx::SetColStyle(int nCol, int nStyle) {
-    qv::MemorySuffices([&] { m_columns.SetStyle(nCol, nStyle); });
-}
-
-int QVListCtrlEx::GetHdrFormat(int nCol) {
-    LVCOLUMN column{};
-    column.mask = LVCF_FMT;
-    return GetColumn(nCol, &column) ? column.fmt & kFormatMask : 0;
-}
-
-void QVListCtrlEx::SetHdrFormat(int nCol, int nFormat) {
-    LVCOLUMN column{};
-    column.mask = LVCF_FMT;
-    if (GetColumn(nCol, &column)) {
-        column.fmt = (column.fmt & ~kFormatMask) | nFormat;
-        SetColumn(nCol, &column);
-    }
-}
-
-UINT QVListCtrlEx::GetColDrawFormat(int nCol) const {
-    return qv::CellDrawFormat(GetColFormat(nCol));
-}
-
-UINT QVListCtrlEx::GetHdrDrawFormat(int nCol) {
-    return qv::CellDrawFormat(GetHdrFormat(nCol));
-}
-
-BOOL QVListCtrlEx::InReportMode() {
-    return (GetStyle() & LVS_TYPEMASK) == LVS_REPORT;
-}
-
-void QVListCtrlEx::SetSortMethod(void (*pfn)(int nCol, void* pData), void* pData) {
-    m_pfnSort = pfn;
-    m_pSortData = pData;
-}
-
-void QVListCtrlEx::SortOnHeader(int nCol) {
-    if (m_pfnSort != nullptr) {
-        m_pfnSort(nCol, m_pSortData);
-    }
-}
-
-void QVListCtrlEx::CalcSingleColWidth() {
-    const qv::WindowWatch watch(m_alive, m_hWnd);
-    const int nOld = m_nDataWidth;
-    const bool bMeasured = qv::MemorySuffices([&] {
-        CClientDC dc(this);
-        const qv::SelectGuard<CFont> font(dc, GetFont());
-        m_nDataWidth = 0;
-        const int nItems = GetItemCount();
-        for (int nItem = 0; watch && nItem < nItems; ++nItem) {
-            const int nWidth = CalculateItemWidth(&dc, nItem);
-            if (watch) {
-                m_nDataWidth = std::max(m_nDataWidth, nWidth);
-            }
-        }
-    });
-    if (!watch) {
-        return;
-    }
-    if (bMeasured) {
-        SetColWidth(0, std::max(m_nClientWidth, m_nDataWidth), nullptr);
-    } else {
-        m_nDataWidth = nOld;
-    }
-}
-
-int QVListCtrlEx::CalculateItemWidth(CDC* pDC, int nItem) {
-    CString strRow;
-    if (!GetItemString(nItem, strRow)) {
-        return 0;  // also where the list is gone
-    }
-    const CString strText(ParseStyleText(strRow));
-    return m_nImageWidth + qv::TextExtent(*pDC, qv::View(strText)).cx + qv::kColumnMargin;
+    m_pCore->places.Invalidate();
 }
 
 // --- Selection
@@ -553,24 +238,99 @@ void QVListCtrlEx::InvalidateData(BOOL bErase) {
 
 // --- Messages
 
+// Comes before all maps: a message that a derived class answers by itself changes rows as well.
+LRESULT QVListCtrlEx::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (!m_pCore->SeeMessage(message, lParam)) {
+        return CListCtrl::WindowProc(message, wParam, lParam);
+    }
+    const qv::AliveWatch watch(m_alive);
+    const LRESULT lResult = CListCtrl::WindowProc(message, wParam, lParam);
+    if (watch) {
+        m_pCore->changes.EndContent();
+    }
+    return lResult;
+}
+
+bool QVListCtrlEx::Core::SeeMessage(UINT nMessage, LPARAM lParam) {
+    const auto* pItem = reinterpret_cast<const LVITEM*>(lParam);
+    switch (nMessage) {
+        case LVM_INSERTITEMA:
+        case LVM_INSERTITEMW:
+            return SeeItem(pItem, true);
+        case LVM_SETITEMA:
+        case LVM_SETITEMW:
+            return SeeItem(pItem, false);
+        case LVM_SETITEMTEXTA:
+        case LVM_SETITEMTEXTW:
+            SeeText(pItem != nullptr ? pItem->pszText : nullptr);
+            return true;
+        case LVM_DELETEITEM:
+        case LVM_DELETEALLITEMS:
+        case LVM_SETITEMCOUNT:
+        case LVM_INSERTCOLUMNA:
+        case LVM_INSERTCOLUMNW:
+        case LVM_DELETECOLUMN:
+            changes.CountContent();
+            return true;
+        case LVM_SORTITEMS:
+        case LVM_SORTITEMSEX:
+            changes.CountOrder();
+            return false;
+        case WM_STYLECHANGED:
+            bSortsItself.reset();
+            changes.CountData();
+            return false;
+        default:
+            return false;
+    }
+}
+
+bool QVListCtrlEx::Core::SeeItem(const LVITEM* pItem, bool bNew) {
+    const UINT nMask = pItem != nullptr ? pItem->mask : 0;
+    if (bNew || (nMask & LVIF_TEXT) != 0) {
+        SeeText((nMask & LVIF_TEXT) != 0 ? pItem->pszText : nullptr);
+        return true;
+    }
+    if ((nMask & LVIF_PARAM) != 0) {
+        changes.CountData();
+    }
+    return (nMask & LVIF_PARAM) != 0;
+}
+
+// The constant of a text on demand is the same for both kinds of text.
+void QVListCtrlEx::Core::SeeText(LPCSTR pszText) {
+    if (pszText == LPSTR_TEXTCALLBACK) {
+        changes.SeeCallback();
+    }
+    changes.CountContent();
+}
+
+const qv::RowChanges& QVListCtrlEx::Changes() const {
+    return m_pCore->changes;
+}
+
+// What a paint knows of them is not read anew: the control takes over a new width when it sees the
+// message that says so, after the handler that this comes from.
+void QVListCtrlEx::ForgetWidths() {
+    m_nDataWidth = -1;
+    m_pCore->paintWidths.clear();
+}
+
 LRESULT QVListCtrlEx::OnInsertColumn(WPARAM wParam, LPARAM lParam) {
     if (lParam != 0 && wParam < INT_MAX) {
-        m_columns.CountInserted(static_cast<int>(wParam));
+        m_pCore->columns.CountInserted(static_cast<int>(wParam));
     }
-    m_nDataWidth = -1;
-    m_pPlaces->Invalidate();
+    ForgetWidths();
     return Default();
 }
 
 LRESULT QVListCtrlEx::OnDeleteColumn(WPARAM, LPARAM) {
-    m_columns.CountDeleted();
-    m_nDataWidth = -1;
-    m_pPlaces->Invalidate();
+    m_pCore->columns.CountDeleted();
+    ForgetWidths();
     return Default();
 }
 
 LRESULT QVListCtrlEx::OnDeleteListItem(WPARAM, LPARAM) {
-    m_pPlaces->CountChange();
     const qv::WindowWatch watch(m_alive, m_hWnd);
     const LRESULT lResult = Default();
     if (watch && m_bSingleColumn) {
@@ -583,35 +343,6 @@ LRESULT QVListCtrlEx::OnDeleteAllItems(WPARAM wParam, LPARAM lParam) {
     return OnDeleteListItem(wParam, lParam);
 }
 
-// These keep account of the changes that AddBitmapString has to know.
-LRESULT QVListCtrlEx::OnRowsChange(WPARAM, LPARAM) {
-    m_pPlaces->CountChange();
-    return Default();
-}
-
-LRESULT QVListCtrlEx::OnInsertListItem(WPARAM, LPARAM lParam) {
-    const auto* pItem = reinterpret_cast<const LVITEM*>(lParam);
-    if (pItem != nullptr && (pItem->mask & LVIF_TEXT) != 0) {
-        m_pPlaces->SeeText(pItem->pszText);
-    }
-    m_pPlaces->CountChange();
-    return Default();
-}
-
-LRESULT QVListCtrlEx::OnSetListItem(WPARAM wParam, LPARAM lParam) {
-    const auto* pItem = reinterpret_cast<const LVITEM*>(lParam);
-    const bool bText = pItem != nullptr && (pItem->mask & LVIF_TEXT) != 0;
-    return bText ? OnSetListItemText(wParam, lParam) : Default();
-}
-
-LRESULT QVListCtrlEx::OnSetListItemText(WPARAM, LPARAM lParam) {
-    if (const auto* pItem = reinterpret_cast<const LVITEM*>(lParam)) {
-        m_pPlaces->SeeText(pItem->pszText);
-    }
-    m_pPlaces->CountChange();
-    return Default();
-}
-
 void QVListCtrlEx::OnItemclick(NMHDR* pHdr, LRESULT* pResult) {
     *pResult = 0;
     SortOnHeader(reinterpret_cast<NMLISTVIEW*>(pHdr)->iSubItem);
@@ -620,8 +351,7 @@ void QVListCtrlEx::OnItemclick(NMHDR* pHdr, LRESULT* pResult) {
 BOOL QVListCtrlEx::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT*) {
     const UINT nCode = reinterpret_cast<const NMHDR*>(lParam)->code;
     if (wParam == 0 && (nCode == HDN_ITEMCHANGEDA || nCode == HDN_ITEMCHANGEDW)) {
-        // The control takes over the new width when it sees this message, after this handler.
-        m_nDataWidth = -1;
+        ForgetWidths();
         InvalidateData(FALSE);
     }
     return FALSE;

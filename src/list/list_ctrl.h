@@ -24,8 +24,6 @@
 
 #include "frame/alive.h"
 #include "frame/styled_rows.h"
-#include "list/core/list_columns.h"
-#include "list/core/list_row.h"
 
 #include <afxcmn.h>
 #include <afxtempl.h>
@@ -33,11 +31,15 @@
 
 #include <memory>
 #include <string>
-#include <string_view>
-#include <vector>
 
 class CStdioFile;
 struct CPrintInfo;
+
+namespace qv {
+enum class Highlight;
+class RowChanges;
+struct RowLayout;
+}  // namespace qv
 
 class QV_CONTROLS_API QVListCtrlEx : public CListCtrl, public QVStyledRows {
     DECLARE_DYNCREATE(QVListCtrlEx)
@@ -162,7 +164,7 @@ public:
     virtual void BeginPrinting(CDC* pDC, CPrintInfo* pInfo);
     virtual void EndPrinting(CDC* pDC, CPrintInfo* pInfo);
     // False once a heading or a row was left out, since BeginPrinting, for want of memory.
-    BOOL IsPrintComplete() const { return m_bPrintComplete; }
+    BOOL IsPrintComplete() const;
     // For the life of the control. Exports are not affected.
     void ExcludeColumnFromPrinting(int nCol);
     BOOL IsColumnExcludedFromPrinting(int nCol) const;
@@ -193,12 +195,19 @@ protected:
     UINT GetColDrawFormat(int nCol) const;
     UINT GetHdrDrawFormat(int nCol);
     BOOL NextField(const CString& strRow, int& nPos, CString& strField) const;
+    // The columns' widths on paper, from CalcPrintCols on: what DrawItemText is given there.
+    int* PrintColWidths();
+    // To be called where columns change without a message.
+    void InvalidateDataWidth() { m_nDataWidth = -1; }
+    // What is known of changes to rows, for the library's own classes.
+    const qv::RowChanges& Changes() const;
     // The window that the control tells in notifications: its parent when it was made.
     HWND ToldWindow() const;
     // The text of a cell with its style code, valid until the next call; empty if the parent, asked
     // for it, takes the list away.
     LPCSTR CellText(int nItem, int nCol);
 
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
     afx_msg void OnPaint();
@@ -215,16 +224,11 @@ protected:
     afx_msg LRESULT OnDeleteColumn(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnDeleteListItem(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnDeleteAllItems(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnRowsChange(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnInsertListItem(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnSetListItem(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnSetListItemText(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     qv::AliveToken m_alive;  // for whoever leads out to the parent
     void (*m_pfnSort)(int nCol, void* pData) = nullptr;
     void* m_pSortData = nullptr;
-    qv::ListColumns m_columns;
     BOOL m_bSingleColumn = TRUE;
     CImageList m_imageList;
     int m_nTextHeight = 0;  // without internal leading, measured once
@@ -252,44 +256,51 @@ protected:
     DWORD m_dwDefStyle;
 
 private:
-    class Places;
+    class Core;
+    class Columns;
+    class ItemCells;
+    class HeadingCells;
 
     int FirstTextColumn() const { return m_bImageFirstCol ? 1 : 0; }
-    qv::RowLayout Layout();
     bool SetUp(UINT nBitmapID, COLORREF crMask, int cx);
-    void SizeToSample(std::string strSample);
-    void SizeToHeadings(int nFillCol);
     void LoadImages(UINT nBitmapID, COLORREF crMask, int cx);
     void TakeFontOfParents();
     void MeasureFont();
-    void FillRest(int nFillCol, int nReserved);
     bool HasFocus() const { return ::GetFocus() == m_hWnd; }
     bool ShowsSelAlways() const { return (GetStyle() & LVS_SHOWSELALWAYS) != 0; }
+    bool SortsItself();
+
+    void SizeToHeadings(int nFillCol);
+    int ReadHeadings(CString& str);
+
+    void ForgetWidths();
+    qv::RowLayout Layout();
+    int PaintColWidth(int nCol, int* pWidths);
     bool BeginRows();
     void DrawRow(LPDRAWITEMSTRUCT lpDIS);
     void ExcludeHeader(CDC& dc);
     void DefaultAndRedrawFocus();
     void GrowBackBitmap(CDC& dc, int cx, int cy);
-    COLORREF StyleBackground(int nStyle) const;
-    void FillCell(CDC& dc, const CRect& rc, const CString& strText, int nCol);
+    bool StylesColorText(BOOL bSelected) const;
     void ComposeText(UINT nItem, const CRect& rcRow, const qv::RowLayout& layout,
                      qv::Highlight highlight);
-    void PrintHeadings(CDC* pDC, const CRect& rc);
-    bool WriteRows(CStdioFile& file, char chSeparator);
+
     template <class Step>
     bool PrintStep(Step step);
-    int ReadHeadings(CString& str);
+    int PrintMargin(const CDC& dc) const;
+    void PrintHeadings(CDC* pDC, const CRect& rc);
+    bool WriteRows(CStdioFile& file, char chSeparator);
     int RowsThatFit(CDC* pDC, const CRect& rc, int& nHeight);
     int PrintRows(CDC* pDC, UINT nFirst, UINT nEnd, const CRect& rc, int nHeight, int nMost);
+
     // Inserting a row, and what becomes of the places kept for AddBitmapString.
     int InsertRow(int nImage, int nIndex, LPCSTR pszText);
     bool SetFields(int nItem, int nCol, char* pszFields);
     void AddInPlace(int nImage, LPCSTR pszText, bool bNumeric, int& nIndex);
     std::string PlaceKey(LPCSTR pszText, bool bNumeric) const;
     bool ReadPlaces(bool bNumeric);
+    bool PlacesHold(bool bNumeric);
+    void KeepPlaces(bool bNumeric);
 
-    HWND m_hTold = nullptr;
-    bool m_bPrintComplete = true;
-    std::vector<char> m_aCellText;
-    std::unique_ptr<Places> m_pPlaces;
+    std::unique_ptr<Core> m_pCore;
 };

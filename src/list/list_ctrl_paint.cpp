@@ -1,18 +1,17 @@
 #include "list/list_ctrl.h"
 
 #include "frame/out_of_memory.h"
-#include "frame/core/styled_text.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
+#include "frame/virtual_step.h"
 #include "frame/wnd_port.h"
-#include "list/cell_format.h"
+#include "list/cell_row.h"
+#include "list/list_ctrl_core.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
-
-constexpr UINT kTextFlags = DT_NOPREFIX | DT_END_ELLIPSIS;
-constexpr COLORREF kNoBackground = 0xFFFFFFFF;
 
 int RowColor(qv::Highlight highlight) {
     return highlight == qv::Highlight::Full    ? COLOR_HIGHLIGHT
@@ -26,7 +25,7 @@ qv::RowLayout QVListCtrlEx::Layout() {
     qv::RowLayout layout;
     layout.nClientWidth = m_nClientWidth;
     layout.nDataWidth = GetDataWidth();
-    layout.nFirstColWidth = m_bImageFirstCol ? GetColWidth(0, nullptr) : 0;
+    layout.nFirstColWidth = m_bImageFirstCol ? PaintColWidth(0, nullptr) : 0;
     layout.nImageWidth = m_nImageWidth;
     layout.nImageHeight = m_nImageHeight;
     layout.nTextHeight = m_nTextHeight;
@@ -59,6 +58,9 @@ void QVListCtrlEx::OnPaint() {
             FillEmptySpace(&dc);
         });
     }
+    if (watch.ObjectAlive()) {
+        m_pCore->paintWidths.clear();
+    }
 }
 
 // Makes ready what rows are composed in. False if there are none, or none can be drawn.
@@ -76,6 +78,9 @@ bool QVListCtrlEx::BeginRows() {
     rcClip.left = std::min({rcClip.left, rcItem.left, rcItem.right - 1});
     rcClip.right = m_nClientWidth;
     InvalidateRect(&rcClip, FALSE);
+    for (int nCol = 0; nCol < NumColumns(); ++nCol) {
+        m_pCore->paintWidths.push_back(GetColWidth(nCol, nullptr));
+    }
     GrowBackBitmap(dc, Layout().Width(), rcItem.Height());
     return m_dcMem.CreateCompatibleDC(&dc) != FALSE;
 }
@@ -185,9 +190,16 @@ void QVListCtrlEx::ComposeText(UINT nItem, const CRect& rcRow, const qv::RowLayo
         ::GetSysColor(highlight == qv::Highlight::Full ? COLOR_WINDOW : COLOR_WINDOWTEXT));
     m_dcMem.SetBkColor(::GetSysColor(RowColor(highlight)));
     const qv::WhileAlive<qv::SelectGuard<CFont>> font(watch, m_dcMem, GetFont());
+    // A step that is replaced may draw under the cells.
+    if (!QV_REPLACES_STEP(*this, QVListCtrlEx, DrawItemText)) {
+        m_pCore->crComposed = m_dcMem.GetBkColor();
+    }
     // Cells that find no memory stay blank.
     qv::MemorySuffices(
         [&] { DrawItemText(&m_dcMem, nItem, rcText, highlight != qv::Highlight::None, nullptr); });
+    if (watch) {
+        m_pCore->crComposed.reset();
+    }
 }
 
 void QVListCtrlEx::DrawItemBitmap(CDC* pDC, UINT nItem, const CRect& rc) {
@@ -204,80 +216,92 @@ void QVListCtrlEx::DrawItemBitmap(CDC* pDC, UINT nItem, const CRect& rc) {
     m_imageList.Draw(pDC, nImage, CPoint(pt.x, pt.y), ILD_NORMAL);
 }
 
-// A style that is none counts as the default one.
-COLORREF QVListCtrlEx::StyleBackground(int nStyle) const {
-    if (m_aStyles.Count() == 0) {
-        return ::GetSysColor(COLOR_WINDOW);  // there was no memory for it
+// The cells of a row, or the one cell of a list without headings.
+class QVListCtrlEx::ItemCells : public qv::CellRow {
+public:
+    ItemCells(QVListCtrlEx& list, UINT nItem, BOOL bSelected, int* pWidths)
+        : m_list(list),
+          m_watch(list.m_alive, list.m_hWnd),
+          m_nItem(static_cast<int>(nItem)),
+          m_pWidths(pWidths),
+          m_bColorText(list.StylesColorText(bSelected)),
+          m_crWindow(::GetSysColor(COLOR_WINDOW)),
+          m_nCol(list.m_bSingleColumn ? 0 : list.FirstTextColumn()) {
+        bFills = !bSelected;
+        nOutset = list.m_bSingleColumn ? 0 : list.Layout().TextInset();
     }
-    return m_aStyles[nStyle >= 0 && nStyle < m_aStyles.Count() ? nStyle : 0].crBk;
-}
 
-// A cell without a style goes on in the background of the cell before it, which the device context
-// still has. Style 0 has no background of its own either.
-void QVListCtrlEx::FillCell(CDC& dc, const CRect& rc, const CString& strText, int nCol) {
-    const int nStyle = ParseStyle(strText);
-    COLORREF crBk = dc.GetBkColor();
-    if (nStyle != 0) {
-        crBk = StyleBackground(nStyle);
-        if (crBk == kNoBackground) {
-            crBk = StyleBackground(GetColStyle(nCol));
+    bool Next(qv::Cell& cell) override {
+        cell.bToEnd = m_list.m_bSingleColumn != FALSE;
+        if (!(cell.bToEnd ? m_nCol == 0 : FindVisible(cell.nWidth))) {
+            return false;
         }
+        LPCSTR pszText = m_list.CellText(m_nItem, m_nCol);
+        if (!m_watch) {
+            return false;
+        }
+        cell.look = qv::ReadCell(m_list.m_aStyles, pszText, m_list.GetColStyle(m_nCol), m_crWindow);
+        if (!m_bColorText) {
+            cell.look.crText.reset();
+        }
+        cell.nAlign = cell.bToEnd ? DT_LEFT : m_list.GetColDrawFormat(m_nCol);
+        ++m_nCol;
+        return true;
     }
-    CBrush brush(crBk);
-    dc.FillRect(&rc, &brush);
-    dc.SetBkColor(crBk);
-}
+
+private:
+    // A column without width is hidden. The row begins behind the image, which is in column 0.
+    bool FindVisible(int& nWidth) {
+        for (; m_nCol < m_list.NumColumns(); ++m_nCol) {
+            nWidth = m_list.PaintColWidth(m_nCol, m_pWidths);
+            if (nWidth != 0) {
+                nWidth -= m_nCol == 0 ? m_list.m_nImageWidth : 0;
+                return true;
+            }
+        }
+        return false;
+    }
+
+    QVListCtrlEx& m_list;
+    const qv::WindowWatch<HWND> m_watch;
+    const int m_nItem;
+    int* const m_pWidths;
+    const bool m_bColorText;
+    const COLORREF m_crWindow;
+    int m_nCol;
+};
 
 void QVListCtrlEx::DrawItemText(CDC* pDC, UINT nItem, const CRect& rc, BOOL bSelected,
                                 int* pWidths) {
     // On screen the device context is a part of the list.
     const qv::WindowWatch watch(m_alive, m_hWnd);
     const qv::WhileAlive<qv::ColorGuard> colors(watch, *pDC);
-    if (m_bSingleColumn) {
-        const CString strText(CellText(static_cast<int>(nItem), 0));
-        if (!watch) {
-            return;
-        }
-        if (!bSelected) {
-            FillCell(*pDC, rc, strText, 0);
-        }
-        OutputFormattedText(pDC, rc, strText, bSelected, DT_LEFT, TRUE);
-        return;
-    }
-    const int nInset = Layout().TextInset();
-    CRect rcCol(rc);
-    for (int nCol = FirstTextColumn(); nCol < m_columns.Count(); ++nCol) {
-        const int nWidth = GetColWidth(nCol, pWidths);
-        if (nWidth == 0) {
-            continue;  // that is how a column is hidden
-        }
-        rcCol.right = rcCol.left + nWidth;
-        if (nCol == 0) {
-            rcCol.right -= m_nImageWidth;  // the rectangle begins behind the image
-        }
-        const CString strText(CellText(static_cast<int>(nItem), nCol));
-        if (!watch) {
-            return;
-        }
-        if (!bSelected) {
-            CRect rcFill(rcCol);
-            rcFill.InflateRect(0, nInset);
-            FillCell(*pDC, rcFill, strText, nCol);
-        }
-        OutputFormattedText(pDC, rcCol, strText, bSelected, GetColDrawFormat(nCol), TRUE);
-        rcCol.left = rcCol.right;
-    }
+    ItemCells cells(*this, nItem, bSelected, pWidths);
+    cells.nMargin = PrintMargin(*pDC);
+    cells.crUnder = std::exchange(m_pCore->crComposed, std::nullopt);
+    qv::DrawCells(*pDC, rc, cells);
+}
+
+// A highlighted row shows no colours of its own.
+bool QVListCtrlEx::StylesColorText(BOOL bSelected) const {
+    return !bSelected || (!HasFocus() && !ShowsSelAlways());
 }
 
 void QVListCtrlEx::OutputFormattedText(CDC* pDC, const CRect& rc, const CString& strText,
                                        BOOL bSelected, UINT nFormat, BOOL bUseColors) {
-    CRect rcText(rc);
-    rcText.DeflateRect(qv::kCellMargin * (pDC->IsPrinting() ? m_nPrintScale : 1), 0);
-    if (HasStyle(strText) && bUseColors && m_aStyles.Count() > 0 &&
-        (!bSelected || (!HasFocus() && !ShowsSelAlways()))) {
-        pDC->SetTextColor(m_aStyles[ParseStyle(strText)].crText);
+    qv::CellText look = qv::ReadCell(m_aStyles, LPCSTR(strText), 0, 0);
+    if (!bUseColors || !StylesColorText(bSelected)) {
+        look.crText.reset();
     }
-    qv::DrawTextIn(*pDC, ParseStyleText(strText), rcText, nFormat | kTextFlags);
+    qv::DrawCellText(*pDC, rc, look, PrintMargin(*pDC), nFormat);
+}
+
+// The width of a column on screen, or in a table. What a paint asks for again and again is read
+// once.
+int QVListCtrlEx::PaintColWidth(int nCol, int* pWidths) {
+    const std::vector<int>& known = m_pCore->paintWidths;
+    const bool bKnown = pWidths == nullptr && nCol >= 0 && static_cast<size_t>(nCol) < known.size();
+    return bKnown ? known[static_cast<size_t>(nCol)] : GetColWidth(nCol, pWidths);
 }
 
 BOOL QVListCtrlEx::FillEmptySpace(CDC* pDC) {
@@ -301,9 +325,9 @@ BOOL QVListCtrlEx::FillEmptySpace(CDC* pDC) {
         }
     };
     LONG x = -GetScrollPos(SB_HORZ);
-    for (int nCol = 0; nCol < m_columns.Count(); ++nCol) {
-        const LONG nRight = x + GetColWidth(nCol, nullptr);
-        fill(x, nRight, StyleBackground(GetColStyle(nCol)));
+    for (int nCol = 0; nCol < NumColumns(); ++nCol) {
+        const LONG nRight = x + PaintColWidth(nCol, nullptr);
+        fill(x, nRight, qv::StyleBackground(m_aStyles, GetColStyle(nCol), crWindow));
         x = nRight;
     }
     fill(x, rcBlank.right, crWindow);

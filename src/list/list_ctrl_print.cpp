@@ -1,8 +1,11 @@
 #include "list/list_ctrl.h"
 
+#include "frame/core/styled_text.h"
 #include "frame/out_of_memory.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
+#include "list/cell_row.h"
+#include "list/list_ctrl_core.h"
 
 #include <afxext.h>
 
@@ -29,13 +32,17 @@ bool QVListCtrlEx::PrintStep(Step step) {
     const qv::AliveWatch watch(m_alive);
     const bool bDone = qv::MemorySuffices(step);
     if (!bDone && watch) {
-        m_bPrintComplete = false;
+        m_pCore->bPrintComplete = false;
     }
     return bDone;
 }
 
+BOOL QVListCtrlEx::IsPrintComplete() const {
+    return m_pCore->bPrintComplete;
+}
+
 void QVListCtrlEx::BeginPrinting(CDC* pDC, CPrintInfo*) {
-    m_bPrintComplete = true;
+    m_pCore->bPrintComplete = true;
     PrintStep([&] {
         CWindowDC dc(this);
         m_penPrint.DeleteObject();
@@ -67,22 +74,26 @@ int QVListCtrlEx::CalculateItemHeight(CDC* pDC) {
 }
 
 void QVListCtrlEx::ExcludeColumnFromPrinting(int nCol) {
-    qv::MemorySuffices([&] { m_columns.Exclude(nCol); });
+    qv::MemorySuffices([&] { m_pCore->columns.Exclude(nCol); });
 }
 
 BOOL QVListCtrlEx::IsColumnExcludedFromPrinting(int nCol) const {
-    return m_columns.IsExcluded(nCol);
+    return m_pCore->columns.IsExcluded(nCol);
+}
+
+int* QVListCtrlEx::PrintColWidths() {
+    return m_pCore->columns.PrintWidths();
 }
 
 int QVListCtrlEx::GetPrintColWidth(int nCol) {
     int nWidth = 0;
-    PrintStep([&] { nWidth = GetColWidth(nCol, m_columns.PrintWidths()); });
+    PrintStep([&] { nWidth = GetColWidth(nCol, PrintColWidths()); });
     return nWidth;
 }
 
 int QVListCtrlEx::CalcExcludedColsWidth() {
     int nWidth = 0;
-    for (const int nCol : m_columns.Excluded()) {
+    for (const int nCol : m_pCore->columns.Excluded()) {
         nWidth += GetColumnWidth(nCol);
     }
     return nWidth;
@@ -90,22 +101,49 @@ int QVListCtrlEx::CalcExcludedColsWidth() {
 
 int QVListCtrlEx::CalcPrintCols(CDC*, int nPageWidth) {
     const int nTotal = CalcDataWidth(nullptr) - CalcExcludedColsWidth();
-    int* pWidths = nullptr;
-    if (!PrintStep([&] { pWidths = m_columns.PrintWidths(); })) {
-        return 0;
-    }
-    for (int nCol = 0; nCol < m_columns.Count(); ++nCol) {
-        const int nWidth = m_columns.IsExcluded(nCol)
-                               ? 0
-                               : qv::PrintWidth(GetColWidth(nCol, nullptr), nPageWidth, nTotal);
-        SetColWidth(nCol, nWidth, pWidths);
-    }
-    return m_columns.Count();
+    const bool bSpread = PrintStep([&] {
+        m_pCore->columns.SpreadOverPage(nPageWidth, nTotal,
+                                        [this](int nCol) { return GetColWidth(nCol, nullptr); });
+    });
+    return bSpread ? NumColumns() : 0;
+}
+
+// The margins of cells, on a context that is a printer's in its units.
+int QVListCtrlEx::PrintMargin(const CDC& dc) const {
+    return qv::kCellMargin * (dc.IsPrinting() ? m_nPrintScale : 1);
 }
 
 void QVListCtrlEx::PrintHeader(CDC* pDC, const CRect& rc) {
     PrintStep([&] { PrintHeadings(pDC, rc); });
 }
+
+// The headings of the columns that are printed, aligned by themselves and without colours.
+class QVListCtrlEx::HeadingCells : public qv::CellRow {
+public:
+    HeadingCells(QVListCtrlEx& list, std::string_view headings)
+        : m_list(list), m_headings(headings) {}
+
+    bool Next(qv::Cell& cell) override {
+        std::string_view field;
+        do {
+            if (!qv::NextField(m_headings, m_nPos, field)) {
+                return false;
+            }
+            ++m_nCol;
+        } while (m_list.IsColumnExcludedFromPrinting(m_nCol));
+        cell.look = qv::ReadCell(m_list.m_aStyles, field, 0, 0);
+        cell.look.crText.reset();
+        cell.nWidth = m_list.GetPrintColWidth(m_nCol);
+        cell.nAlign = m_list.GetHdrDrawFormat(m_nCol);
+        return true;
+    }
+
+private:
+    QVListCtrlEx& m_list;
+    const std::string_view m_headings;
+    int m_nPos = 0;
+    int m_nCol = -1;
+};
 
 void QVListCtrlEx::PrintHeadings(CDC* pDC, const CRect& rc) {
     const qv::SelectGuard<CPen> pen(*pDC, &m_penPrint);
@@ -115,16 +153,9 @@ void QVListCtrlEx::PrintHeadings(CDC* pDC, const CRect& rc) {
     if (strHeaders.IsEmpty()) {
         return;
     }
-    CRect rcCol(rc);
-    CString strField;
-    int nCol = 0;
-    for (int nPos = 0; NextField(strHeaders, nPos, strField); ++nCol) {
-        if (!m_columns.IsExcluded(nCol)) {
-            rcCol.right = rcCol.left + GetPrintColWidth(nCol);
-            OutputFormattedText(pDC, rcCol, strField, FALSE, GetHdrDrawFormat(nCol), FALSE);
-            rcCol.left = rcCol.right;
-        }
-    }
+    HeadingCells cells(*this, qv::View(strHeaders));
+    cells.nMargin = PrintMargin(*pDC);
+    qv::DrawCells(*pDC, rc, cells);
     const int y = rc.top + RuleOffset(qv::TextExtent(*pDC, qv::View(strHeaders)).cy);
     pDC->MoveTo(rc.left, y);
     pDC->LineTo(rc.right, y);
@@ -145,7 +176,7 @@ int QVListCtrlEx::PrintRows(CDC* pDC, UINT nFirst, UINT nEnd, const CRect& rc, i
         CRect rcRow(rc);
         for (UINT nItem = nFirst; nItem < nEnd && nPrinted < nMost; ++nItem, ++nPrinted) {
             rcRow.bottom = rcRow.top + nHeight;
-            DrawItemText(pDC, nItem, rcRow, FALSE, m_columns.PrintWidths());
+            DrawItemText(pDC, nItem, rcRow, FALSE, PrintColWidths());
             if (!watch) {
                 break;
             }
@@ -188,7 +219,7 @@ bool QVListCtrlEx::WriteRows(CStdioFile& file, char chSeparator) {
     const int nItems = GetItemCount();
     for (int nItem = 0; nItem < nItems; ++nItem) {
         strLine.clear();
-        for (int nCol = 0; nCol < m_columns.Count(); ++nCol) {
+        for (int nCol = 0; nCol < NumColumns(); ++nCol) {
             LPCSTR pszCell = CellText(nItem, nCol);
             if (!watch) {
                 return false;

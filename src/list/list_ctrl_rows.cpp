@@ -2,10 +2,12 @@
 
 #include "list/list_ctrl.h"
 
-#include "frame/module_state.h"
 #include "frame/out_of_memory.h"
+#include "frame/process_text.h"
+#include "list/core/list_fit.h"
+#include "list/core/list_row.h"
 #include "list/cut_text.h"
-#include "list/list_places.h"
+#include "list/list_ctrl_core.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -23,7 +25,7 @@ LPCSTR QVListCtrlEx::CellText(int nItem, int nCol) {
     constexpr int kLongestCharacter = 4;
     const qv::AliveWatch watch(m_alive);
     // A parent that is asked for the text may come back here: it must not meet this buffer.
-    std::vector<char> text = std::move(m_aCellText);
+    std::vector<char> text = std::move(m_pCore->text);
     text.resize(std::max(text.size(), kUsualRoom));
     for (;;) {
         const int nRoom = static_cast<int>(text.size()) - 1;
@@ -38,8 +40,8 @@ LPCSTR QVListCtrlEx::CellText(int nItem, int nCol) {
         }
         text.resize(text.size() * 2);
     }
-    m_aCellText = std::move(text);
-    return m_aCellText.data();
+    m_pCore->text = std::move(text);
+    return m_pCore->text.data();
 }
 
 BOOL QVListCtrlEx::NextField(const CString& strRow, int& nPos, CString& strField) const {
@@ -66,9 +68,9 @@ BOOL QVListCtrlEx::SetItemString(int nItem, LPCSTR pszText) {
 bool QVListCtrlEx::SetFields(int nItem, int nCol, char* pszFields) {
     const qv::WindowWatch watch(m_alive, m_hWnd);
     LPCSTR pszField;
-    for (; watch && nCol < m_columns.Count() && (pszField = qv::CutField(pszFields)) != nullptr;
+    for (; watch && nCol < NumColumns() && (pszField = qv::CutField(pszFields)) != nullptr;
          ++nCol) {
-        m_pPlaces->CountSent();
+        m_pCore->changes.CountSent();
         SetItemText(nItem, nCol, pszField);
     }
     return static_cast<bool>(watch);
@@ -82,7 +84,7 @@ BOOL QVListCtrlEx::GetItemString(int nItem, CString& str) {
     qv::MemorySuffices([&] {
         const qv::WindowWatch watch(m_alive, m_hWnd);
         std::string strRow;
-        for (int nCol = FirstTextColumn(); watch && nCol < m_columns.Count(); ++nCol) {
+        for (int nCol = FirstTextColumn(); watch && nCol < NumColumns(); ++nCol) {
             qv::JoinCell(strRow, CellText(nItem, nCol), qv::kFieldSeparator);
         }
         if (watch) {
@@ -93,6 +95,15 @@ BOOL QVListCtrlEx::GetItemString(int nItem, CString& str) {
     return bRead;
 }
 
+// By its style.
+bool QVListCtrlEx::SortsItself() {
+    std::optional<bool>& bKnown = m_pCore->bSortsItself;
+    if (!bKnown) {
+        bKnown = (GetStyle() & (LVS_SORTASCENDING | LVS_SORTDESCENDING)) != 0;
+    }
+    return *bKnown;
+}
+
 int QVListCtrlEx::InsertRow(int nImage, int nIndex, LPCSTR pszText) {
     std::string strRow = pszText != nullptr ? pszText : "";
     char* pszRest = strRow.data();
@@ -100,14 +111,13 @@ int QVListCtrlEx::InsertRow(int nImage, int nIndex, LPCSTR pszText) {
     int nCol = FirstTextColumn();
     // A cell that is inserted with its text needs no change afterwards. A control that sorts by
     // itself sorts a row in by what it is inserted with: by the placeholder.
-    if (nCol == 0 && m_columns.Count() > 0 &&
-        (GetStyle() & (LVS_SORTASCENDING | LVS_SORTDESCENDING)) == 0) {
+    if (nCol == 0 && NumColumns() > 0 && !SortsItself()) {
         if (LPCSTR pszField = qv::CutField(pszRest)) {
             pszFirst = pszField;
             nCol = 1;
         }
     }
-    m_pPlaces->CountSent();
+    m_pCore->changes.CountSent();
     const qv::WindowWatch watch(m_alive, m_hWnd);
     nIndex = CListCtrl::InsertItem(LVIF_TEXT | LVIF_IMAGE, nIndex != -1 ? nIndex : kBehindAllRows,
                                    pszFirst, 0, 0, nImage, 0);
@@ -119,11 +129,11 @@ int QVListCtrlEx::InsertBitmapString(int nImage, int nIndex, LPCSTR pszText) {
     nIndex = -1;
     qv::MemorySuffices([&] { nIndex = InsertRow(nImage, nPlace, pszText); });
     if (nIndex != -1 && m_bSingleColumn) {
-        // Without the margin that CalculateItemWidth adds: the next fit widens the column by it.
-        const int nWidth = m_nImageWidth + GetStringWidth(ParseStyleText(pszText));
+        const int nWidth =
+            qv::InsertedRowWidth(m_nImageWidth, GetStringWidth(ParseStyleText(pszText)));
         if (nWidth > m_nDataWidth) {
             m_nDataWidth = nWidth;
-            SetColWidth(0, std::max(m_nClientWidth, nWidth), nullptr);
+            SetColWidth(0, qv::SingleColumnWidth(m_nClientWidth, nWidth), nullptr);
         }
     }
     return nIndex;
@@ -138,24 +148,36 @@ std::string QVListCtrlEx::PlaceKey(LPCSTR pszText, bool bNumeric) const {
     return strKey;
 }
 
+bool QVListCtrlEx::PlacesHold(bool bNumeric) {
+    // Labels that the user edits change without a message.
+    return (GetStyle() & LVS_EDITLABELS) == 0 &&
+           m_pCore->places.Valid(m_pCore->changes,
+                                 {bNumeric, GetItemCount(), NumColumns(), m_aStyles.Count()});
+}
+
+void QVListCtrlEx::KeepPlaces(bool bNumeric) {
+    m_pCore->places.SetValid(m_pCore->changes,
+                             {bNumeric, GetItemCount(), NumColumns(), m_aStyles.Count()});
+}
+
 // False if the list is gone, or a row cannot be read.
 bool QVListCtrlEx::ReadPlaces(bool bNumeric) {
     const qv::WindowWatch watch(m_alive, m_hWnd);
-    m_pPlaces->Invalidate();
-    m_pPlaces->rows.Clear();
+    m_pCore->places.Invalidate();
+    m_pCore->places.rows.Clear();
     CString strRow;
     const int nItems = GetItemCount();
     for (int nItem = 0; nItem < nItems; ++nItem) {
         if (!GetItemString(nItem, strRow)) {
             return false;
         }
-        m_pPlaces->rows.Append(
+        m_pCore->places.rows.Append(
             PlaceKey(bNumeric ? ParseStyleText(strRow) : LPCSTR(strRow), bNumeric));
     }
     if (!watch) {
         return false;
     }
-    m_pPlaces->SetValid(bNumeric, NumColumns(), m_aStyles.Count());
+    KeepPlaces(bNumeric);
     return true;
 }
 
@@ -164,38 +186,34 @@ int QVListCtrlEx::AddBitmapString(int nImage, LPCSTR pszText, BOOL bNumeric) {
     int nIndex = -1;
     if (!qv::MemorySuffices([&] { AddInPlace(nImage, pszText, bNumeric != FALSE, nIndex); }) &&
         watch) {
-        m_pPlaces->Invalidate();
+        m_pCore->places.Invalidate();
     }
     return nIndex;
 }
 
 // nIndex is right also where memory runs out once the row is in.
 void QVListCtrlEx::AddInPlace(int nImage, LPCSTR pszText, bool bNumeric, int& nIndex) {
-    // Labels that the user edits change without a message.
-    if (((GetStyle() & LVS_EDITLABELS) != 0 ||
-         !m_pPlaces->Valid(bNumeric, GetItemCount(), NumColumns(), m_aStyles.Count())) &&
-        !ReadPlaces(bNumeric)) {
+    if (!PlacesHold(bNumeric) && !ReadPlaces(bNumeric)) {
         return;
     }
     const qv::WindowWatch watch(m_alive, m_hWnd);
-    const std::string strKey = PlaceKey(ParseStyleText(pszText), bNumeric);
-    const size_t nPlace = m_pPlaces->rows.Find(strKey);
-    const int nForeign = m_pPlaces->ForeignChanges();
+    const size_t nPlace = m_pCore->places.rows.Find(PlaceKey(ParseStyleText(pszText), bNumeric));
+    const int nForeign = m_pCore->changes.Foreign();
     nIndex = InsertBitmapString(nImage, static_cast<int>(nPlace), pszText);
     CString strRow;
     const bool bKeep = watch && nIndex == static_cast<int>(nPlace) &&
-                       nForeign == m_pPlaces->ForeignChanges() && GetItemString(nIndex, strRow);
+                       nForeign == m_pCore->changes.Foreign() && GetItemString(nIndex, strRow);
     if (!watch) {
         nIndex = -1;
         return;
     }
     if (bKeep) {
         // What stands in the control now, with its code, is what later rows are compared with.
-        m_pPlaces->rows.Insert(
+        m_pCore->places.rows.Insert(
             nPlace, PlaceKey(bNumeric ? ParseStyleText(strRow) : LPCSTR(strRow), bNumeric));
-        m_pPlaces->SetValid(bNumeric, NumColumns(), m_aStyles.Count());
+        KeepPlaces(bNumeric);
     } else {
-        m_pPlaces->Invalidate();
+        m_pCore->places.Invalidate();
     }
 }
 

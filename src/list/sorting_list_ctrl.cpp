@@ -1,10 +1,10 @@
 #include "list/sorting_list_ctrl.h"
 
-#include "frame/core/sort_keys.h"
 #include "frame/core/styled_text.h"
-#include "frame/module_state.h"
 #include "frame/out_of_memory.h"
-#include "list/core/row_ranks.h"
+#include "frame/process_text.h"
+#include "list/core/row_changes.h"
+#include "list/core/row_order.h"
 
 #include <afxdisp.h>
 
@@ -128,22 +128,41 @@ private:
 
 }  // namespace
 
-struct QVSortingListCtrl::Record {
-    DWORD_PTR dwData;  // the item's own
-    qv::SortKey key;
-    int nRow;  // before the sort
+// The ranks that the last sort found, and what they were found for. As long as no text, no item
+// data and no setting changed, the rows need not be read again, whatever their order is by now.
+struct QVSortingListCtrl::Kept {
+    int nCol;
+    QVLISTCTRL_DATATYPE nType;
+    int nContent;
+    int nStyles;
+    std::string strDateFormat;
+    qv::RowRanks ranks;
 };
 
+namespace {
+
+// What dates are read by.
+std::string DateFormat() {
+    std::string str = std::to_string(::GetUserDefaultLCID());
+    for (const LCTYPE nType : {LOCALE_SSHORTDATE, LOCALE_SLONGDATE, LOCALE_STIMEFORMAT}) {
+        char sz[80];  // the longest of these formats
+        str += ::GetLocaleInfoA(LOCALE_USER_DEFAULT, nType, sz, sizeof(sz)) > 0 ? sz : "";
+    }
+    return str;
+}
+
+}  // namespace
+
 // One sort. The rows' order is found here, by keys made once, and the control sorts by the ranks.
-// It tells rows apart by their item data. Where several rows have the same, each gets its record in
-// place of them while the control sorts. Nobody else sees that: the parent is told nothing, and who
-// asks the list for item data gets the row's own.
+// It tells rows apart by their item data. Where several rows have the same, each gets another word
+// in place of them while the control sorts. Nobody else sees that: the parent is told nothing, and
+// who asks the list for item data gets the row's own.
 class QVSortingListCtrl::Sort {
 public:
     explicit Sort(QVSortingListCtrl& list)
         : m_list(list),
           m_watch(list.m_alive, list.m_hWnd),
-          m_keys(qv::ProcessText()),
+          m_order(qv::ProcessText()),
           m_outer(list.m_pSort) {
         list.m_pSort = this;
     }
@@ -161,101 +180,128 @@ public:
     Sort(const Sort&) = delete;
     Sort& operator=(const Sort&) = delete;
 
-    // Reads the rows and finds their order; equal ones stay in turn. False if the list is gone, or
-    // its rows are others than before: the parent may be asked for texts. Changes nothing, so it
-    // may throw std::bad_alloc.
-    bool MakeRecords(int nCol, bool bAscending);
+    // Finds the rows' order. False if the list is gone, or its rows are others than before: the
+    // parent may be asked for texts. Changes nothing, so it may throw std::bad_alloc.
+    bool FindOrder(int nCol);
     // Makes the rows distinct. False if the control refuses; what was parked is put back.
-    bool Prepare() { return m_bDistinct || Park(); }
+    bool Prepare() { return m_pRanks != nullptr || Park(); }
     // Of a row by its item data.
     std::uint32_t Rank(DWORD_PTR dwData) const;
     // The item's own data where a data word is that of a parked row, else the word itself.
     DWORD_PTR OwnData(DWORD_PTR dwData) const;
 
 private:
-    qv::SortKey MakeKey(LPCSTR pszText, QVLISTCTRL_DATATYPE nType);
-    qv::SortKey DateKey(LPCSTR pszText);
+    bool TakeKept(int nCol);
+    void Keep(int nCol, int nContent);
+    bool ReadKeys(int nCol);
+    void AddKey(LPCSTR pszText, QVLISTCTRL_DATATYPE nType);
+    double Date(LPCSTR pszText);
     bool Park();
     bool SetData(int nItem, DWORD_PTR dwData);
     DWORD_PTR GetData(int nItem);
-    std::uint32_t ParkedRank(DWORD_PTR dwData) const;
     void Unpark();
-
-    bool ReadKeys(int nCol);
 
     QVSortingListCtrl& m_list;
     const qv::WindowWatch<HWND> m_watch;
-    qv::SortKeys m_keys;
-    std::vector<Record> m_records;  // by rank
-    qv::RowRanks m_ranks;
-    bool m_bDistinct = false;
-    std::unordered_map<std::string, qv::SortKey> m_dates;  // the same days come again and again
-    size_t m_nParked = 0;
+    qv::RowOrder m_order;
+    std::shared_ptr<const Kept> m_pRanks;             // null where item data are not distinct
+    std::unordered_map<std::string, double> m_dates;  // the same days come again and again
     std::optional<Silence> m_silence;
     bool m_bHoldsRedraw = false;
     Sort* m_outer;
 };
 
+bool QVSortingListCtrl::Sort::FindOrder(int nCol) {
+    if (TakeKept(nCol)) {
+        return true;
+    }
+    const int nContent = m_list.Changes().Content();
+    if (!ReadKeys(nCol)) {
+        return false;
+    }
+    // Not before: a parent that was asked for a text may have sorted the rows.
+    for (size_t nRow = 0; nRow < m_order.Count(); ++nRow) {
+        m_order.SetWord(nRow, GetData(static_cast<int>(nRow)));
+    }
+    m_order.Arrange();
+    Keep(nCol, nContent);
+    return true;
+}
+
+// Not within another sort, which may have parked rows.
+bool QVSortingListCtrl::Sort::TakeKept(int nCol) {
+    const Kept* pKept = m_list.m_pKept.get();
+    const auto nType = m_list.ColumnSortType(nCol);
+    if (pKept == nullptr || m_outer != nullptr || pKept->nCol != nCol || pKept->nType != nType ||
+        pKept->nContent != m_list.Changes().Content() || m_list.Changes().Callbacks() ||
+        (m_list.GetStyle() & (LVS_EDITLABELS | LVS_OWNERDATA)) != 0 ||
+        pKept->nStyles != m_list.NumStyles() ||
+        (nType == lcdtDate && pKept->strDateFormat != DateFormat())) {
+        return false;
+    }
+    m_pRanks = m_list.m_pKept;
+    return true;
+}
+
+// Ranks that do not hold for another sort serve this one.
+void QVSortingListCtrl::Sort::Keep(int nCol, int nContent) {
+    const auto nType = m_list.ColumnSortType(nCol);
+    auto pKept = std::make_shared<Kept>();
+    pKept->nCol = nCol;
+    pKept->nType = nType;
+    pKept->nContent = nContent;
+    pKept->nStyles = m_list.NumStyles();
+    if (nType == lcdtDate) {
+        pKept->strDateFormat = DateFormat();
+    }
+    if (!m_order.ByWords(pKept->ranks)) {
+        return;
+    }
+    m_pRanks = std::move(pKept);
+    if (m_outer == nullptr) {
+        m_list.m_pKept = m_pRanks;
+    }
+}
+
 bool QVSortingListCtrl::Sort::ReadKeys(int nCol) {
     const auto nType = m_list.ColumnSortType(nCol);
     const int nItems = m_list.GetItemCount();
-    m_records.reserve(static_cast<size_t>(nItems));
+    m_order.Reserve(static_cast<size_t>(nItems));
     for (int nItem = 0; nItem < nItems; ++nItem) {
         LPCSTR pszText = m_list.CellText(nItem, nCol);
         if (!m_watch) {
             return false;
         }
-        if (nCol == 0) {
-            pszText = m_list.ParseStyleText(pszText);
-        }
-        m_records.push_back({0, MakeKey(pszText, nType), nItem});
+        AddKey(nCol == 0 ? m_list.ParseStyleText(pszText) : pszText, nType);
     }
     return m_list.GetItemCount() == nItems;
 }
 
-bool QVSortingListCtrl::Sort::MakeRecords(int nCol, bool bAscending) {
-    if (!ReadKeys(nCol)) {
-        return false;
-    }
-    // Not before: a parent that was asked for a text may have sorted the rows.
-    for (Record& record : m_records) {
-        record.dwData = m_list.GetItemData(record.nRow);
-    }
-    std::stable_sort(m_records.begin(), m_records.end(),
-                     [&](const Record& record1, const Record& record2) {
-                         const int nOrder = m_keys.Compare(record1.key, record2.key);
-                         return bAscending ? nOrder < 0 : nOrder > 0;
-                     });
-    std::vector<std::uintptr_t> words;
-    words.reserve(m_records.size());
-    for (const Record& record : m_records) {
-        words.push_back(record.dwData);
-    }
-    m_bDistinct = m_ranks.Assign(words);
-    return true;
-}
-
-qv::SortKey QVSortingListCtrl::Sort::MakeKey(LPCSTR pszText, QVLISTCTRL_DATATYPE nType) {
+void QVSortingListCtrl::Sort::AddKey(LPCSTR pszText, QVLISTCTRL_DATATYPE nType) {
     switch (nType) {
         case lcdtString:
-            return m_keys.Text(pszText);
+            m_order.AddText(pszText);
+            break;
         case lcdtDate:
-            return DateKey(pszText);
+            m_order.AddDate(Date(pszText));
+            break;
         case lcdtNumber:
-            return qv::SortKeys::Number(static_cast<std::uint32_t>(std::atol(pszText)));
+            m_order.AddNumber(static_cast<std::uint32_t>(std::atol(pszText)));
+            break;
         default:
-            return {};
+            m_order.AddUnordered();
+            break;
     }
 }
 
-qv::SortKey QVSortingListCtrl::Sort::DateKey(LPCSTR pszText) {
+double QVSortingListCtrl::Sort::Date(LPCSTR pszText) {
     const auto [it, bNew] = m_dates.try_emplace(pszText);
     if (bNew) {
         COleDateTime date;
         if (!date.ParseDateTime(pszText, 0, LANG_USER_DEFAULT)) {
             date = COleDateTime(static_cast<time_t>(0));
         }
-        it->second = qv::SortKeys::Date(date.m_dt);
+        it->second = date.m_dt;
     }
     return it->second;
 }
@@ -267,16 +313,16 @@ bool QVSortingListCtrl::Sort::Park() {
         m_list.SetRedraw(FALSE);
     }
     m_silence.emplace(m_list.m_hWnd, m_list.ToldWindow());
-    for (const Record& record : m_records) {
-        if (!SetData(record.nRow, reinterpret_cast<DWORD_PTR>(&record))) {
+    for (size_t nRow = 0; nRow < m_order.Count(); ++nRow) {
+        if (!SetData(static_cast<int>(nRow), m_order.ParkNext())) {
             return false;
         }
-        ++m_nParked;
     }
     return true;
 }
 
-// Both go straight to the control: no handler of a derived class sees the records.
+// Both go straight to the control, whose own data are what it sorts by: no handler of a derived
+// class sees or changes them.
 bool QVSortingListCtrl::Sort::SetData(int nItem, DWORD_PTR dwData) {
     LVITEM item{};
     item.mask = LVIF_PARAM;
@@ -294,39 +340,35 @@ DWORD_PTR QVSortingListCtrl::Sort::GetData(int nItem) {
 }
 
 std::uint32_t QVSortingListCtrl::Sort::Rank(DWORD_PTR dwData) const {
-    return m_bDistinct ? m_ranks.Find(dwData) : ParkedRank(dwData);
-}
-
-// The rank of the record that a data word points at; kNone if it is the application's own.
-std::uint32_t QVSortingListCtrl::Sort::ParkedRank(DWORD_PTR dwData) const {
-    const DWORD_PTR nOffset = dwData - reinterpret_cast<DWORD_PTR>(m_records.data());
-    return nOffset < m_nParked * sizeof(Record) && nOffset % sizeof(Record) == 0
-               ? static_cast<std::uint32_t>(nOffset / sizeof(Record))
-               : qv::RowRanks::kNone;
+    if (m_pRanks != nullptr) {
+        return m_pRanks->ranks.Find(dwData);
+    }
+    const size_t nRow = m_order.ParkedRow(dwData);
+    return nRow != qv::RowOrder::kNoRow ? m_order.Rank(nRow) : qv::RowRanks::kNone;
 }
 
 void QVSortingListCtrl::Sort::Unpark() {
-    if (m_nParked == 0) {
-        return;
-    }
-    const int nItems = m_list.GetItemCount();
+    const int nItems = m_order.AnyParked() ? m_list.GetItemCount() : 0;
     for (int nItem = 0; nItem < nItems; ++nItem) {
-        const std::uint32_t nRank = ParkedRank(GetData(nItem));
-        if (nRank != qv::RowRanks::kNone) {
-            SetData(nItem, m_records[nRank].dwData);
+        const size_t nRow = m_order.ParkedRow(GetData(nItem));
+        if (nRow != qv::RowOrder::kNoRow) {
+            SetData(nItem, m_order.Word(nRow));
         }
     }
 }
 
 DWORD_PTR QVSortingListCtrl::Sort::OwnData(DWORD_PTR dwData) const {
     for (const Sort* pSort = this; pSort != nullptr; pSort = pSort->m_outer) {
-        const std::uint32_t nRank = pSort->ParkedRank(dwData);
-        if (nRank != qv::RowRanks::kNone) {
-            return pSort->m_records[nRank].dwData;
+        const size_t nRow = pSort->m_order.ParkedRow(dwData);
+        if (nRow != qv::RowOrder::kNoRow) {
+            dwData = pSort->m_order.Word(nRow);
         }
     }
     return dwData;
 }
+
+QVSortingListCtrl::QVSortingListCtrl() = default;
+QVSortingListCtrl::~QVSortingListCtrl() = default;
 
 LRESULT QVSortingListCtrl::OnGetListItem(WPARAM, LPARAM lParam) {
     const qv::AliveWatch watch(m_alive);
@@ -352,7 +394,7 @@ void QVSortingListCtrl::SortOnHeader(int nCol) {
     qv::MemorySuffices([&] {
         Sort sort(*this);
         const bool bAscending = nCol != m_nSortCol || !m_bAscending;
-        if (!sort.MakeRecords(nCol, bAscending)) {
+        if (!sort.FindOrder(nCol)) {
             return;
         }
         bSorted = true;
@@ -377,9 +419,11 @@ void QVSortingListCtrl::ReSort() {
     }
 }
 
+// Rows of one rank stay in turn.
 int CALLBACK QVSortingListCtrl::SortFunc(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort) {
-    const Sort& sort = *reinterpret_cast<const QVSortingListCtrl*>(lParamSort)->m_pSort;
-    const std::uint32_t nRank1 = sort.Rank(static_cast<DWORD_PTR>(lParam1));
-    const std::uint32_t nRank2 = sort.Rank(static_cast<DWORD_PTR>(lParam2));
-    return nRank1 < nRank2 ? -1 : nRank1 > nRank2 ? 1 : 0;
+    const auto& list = *reinterpret_cast<const QVSortingListCtrl*>(lParamSort);
+    const std::uint32_t nRank1 = list.m_pSort->Rank(static_cast<DWORD_PTR>(lParam1));
+    const std::uint32_t nRank2 = list.m_pSort->Rank(static_cast<DWORD_PTR>(lParam2));
+    const int nOrder = nRank1 < nRank2 ? -1 : nRank1 > nRank2 ? 1 : 0;
+    return list.m_bAscending ? nOrder : -nOrder;
 }

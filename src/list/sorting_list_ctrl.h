@@ -8,6 +8,8 @@
 
 #include "list/list_ctrl.h"
 
+#include <memory>
+
 // How a column's texts are compared.
 enum QVLISTCTRL_DATATYPE {
     lcdtString = 0,  // without regard to case; a style code counts, but for column 0
@@ -19,7 +21,8 @@ class QV_CONTROLS_API QVSortingListCtrl : public QVListCtrlEx {
     DECLARE_DYNCREATE(QVSortingListCtrl)
 
 public:
-    QVSortingListCtrl() = default;
+    QVSortingListCtrl();
+    ~QVSortingListCtrl() override;
 
     // Headings, all of one type.
     void AddHeader(LPCSTR pszHeaders, QVLISTCTRL_DATATYPE nType);
@@ -48,10 +51,11 @@ protected:
     CWordArray m_aColTypes;  // a column beyond its end is lcdtString
 
 private:
-    struct Record;
+    struct Kept;
     class Sort;
 
-    Sort* m_pSort = nullptr;  // lives for one sort
+    Sort* m_pSort = nullptr;              // lives for one sort
+    std::shared_ptr<const Kept> m_pKept;  // of the last sort
     bool m_bRedraw = true;
     bool m_bSortFailed = false;
 };

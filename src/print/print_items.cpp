@@ -1,10 +1,10 @@
 #include "print/print_items.h"
 
 #include "frame/core/styled_text.h"
-#include "frame/module_state.h"
+#include "frame/process_text.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
-#include "list/cell_format.h"
+#include "list/cell_row.h"
 #include "list/list_ctrl.h"
 #include "print/core/pagination.h"
 #include "print/core/row_split.h"
@@ -15,7 +15,6 @@
 namespace {
 
 constexpr unsigned kSectionLines = 3;  // one blank, the text, one blank
-constexpr UINT kCellFlags = DT_END_ELLIPSIS | DT_NOPREFIX;
 constexpr UINT kLineFlags = DT_NOPREFIX | DT_SINGLELINE;
 
 unsigned Rows(const CRect& rect, unsigned nRowHeight) {
@@ -254,6 +253,34 @@ unsigned QVPeDataStringList::Count() const {
     return static_cast<unsigned>(m_pRows->GetSize());
 }
 
+namespace {
+
+// The fields of a string in the columns of a list.
+class FieldCells : public qv::CellRow {
+public:
+    FieldCells(QVListCtrlEx& list, std::string_view row) : m_list(list), m_row(row) {}
+
+    bool Next(qv::Cell& cell) override {
+        if (m_nCol >= m_list.NumColumns() || !qv::NextField(m_row, m_nPos, cell.look.text)) {
+            return false;
+        }
+        cell.nWidth = m_list.GetPrintColWidth(m_nCol);
+        // The last field has all that is left, unless a TAB ends it.
+        cell.bToEnd = cell.look.text.end() == m_row.end();
+        cell.nAlign = qv::CellDrawFormat(m_list.GetColFormat(m_nCol));
+        ++m_nCol;
+        return true;
+    }
+
+private:
+    QVListCtrlEx& m_list;
+    const std::string_view m_row;
+    int m_nPos = 0;
+    int m_nCol = 0;
+};
+
+}  // namespace
+
 void QVPeDataStringList::PrintItems(CDC* pDC, unsigned nFirst, unsigned nLast, const CRect& rect) {
     const qv::SelectGuard<CFont> font(*pDC, NormalFont());
     const unsigned nRows = Rows(rect, m_nItemHeight);
@@ -267,23 +294,9 @@ void QVPeDataStringList::PrintItems(CDC* pDC, unsigned nFirst, unsigned nLast, c
 }
 
 void QVPeDataStringList::PrintRow(CDC* pDC, const CRect& rcRow, const CString& strRow) {
-    const std::string_view row(strRow, static_cast<size_t>(strRow.GetLength()));
-    std::string_view field;
-    CRect rcCell(rcRow);
-    int nPos = 0;
-    for (int nCol = 0; nCol < m_pList->NumColumns() && qv::NextField(row, nPos, field); ++nCol) {
-        rcCell.right = rcCell.left + m_pList->GetPrintColWidth(nCol);
-        if (field.end() == row.end()) {
-            // The last field has all that is left, unless a TAB ends it.
-            rcCell.right = rcRow.right;
-        }
-        CRect rcText(rcCell);
-        rcText.DeflateRect(qv::kCellMargin * static_cast<int>(m_nScale), 0);
-        if (rcText.left < rcText.right) {
-            // Without width, centred and right-aligned text would stand beside its cell.
-            const UINT nAlign = qv::CellDrawFormat(m_pList->GetColFormat(nCol));
-            qv::DrawTextIn(*pDC, field, rcText, kCellFlags | nAlign);
-        }
-        rcCell.left = rcCell.right;
-    }
+    FieldCells cells(*m_pList, qv::View(strRow));
+    cells.nMargin = qv::kCellMargin * static_cast<int>(m_nScale);
+    // Without width, centred and right-aligned text would stand beside its cell.
+    cells.bKeepsIn = true;
+    qv::DrawCells(*pDC, rcRow, cells);
 }

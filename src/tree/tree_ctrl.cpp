@@ -1,17 +1,13 @@
 #include "tree/tree_ctrl.h"
 
 #include "frame/ancestor_font.h"
-#include "frame/dc_guards.h"
 #include "frame/out_of_memory.h"
 #include "frame/text_out.h"
 #include "tree/tree_ctrl_core.h"
 
-#include <algorithm>
-
-// TVSIL_ and state images as the platform publishes them.
 namespace {
 
-constexpr UINT kCheckStatesBitmap = 30008;
+constexpr UINT kCheckStatesBitmap = 30008;  // four boxes, see controls.rc
 constexpr int kStateImageWidth = 12;
 constexpr COLORREF kStateImageMask = RGB(0, 128, 128);
 
@@ -48,87 +44,6 @@ BEGIN_MESSAGE_MAP(QVTreeCtrlEx, CWnd)
     ON_MESSAGE(WM_SETREDRAW, OnSetRedraw)
     ON_WM_DESTROY()
 END_MESSAGE_MAP()
-
-// --- The core's way back to the control
-
-QVTreeCtrlEx::Core::Core(QVTreeCtrlEx& tree)
-    : m_tree(tree),
-      m_port(tree),
-      m_view(m_port, m_measure, qv::ProcessText(), tree.m_aStyles, *this) {}
-
-int QVTreeCtrlEx::Core::CompareItems(HTREEITEM hItem1, HTREEITEM hItem2) {
-    return qv::AsBadAlloc([&] { return m_tree.CompareItems(hItem1, hItem2); });
-}
-
-bool QVTreeCtrlEx::Core::ReplacesCompareItems() const {
-    return m_tree.MayReplaceSteps();
-}
-
-bool QVTreeCtrlEx::Core::ReplacesRowRect() const {
-    return m_tree.MayReplaceSteps();
-}
-
-// ask gets a context of the window with the tree's font.
-template <class Ask>
-auto QVTreeCtrlEx::Core::AskInOwnDC(Ask ask) {
-    return qv::AsBadAlloc([&] {
-        CClientDC dc(&m_tree);
-        const qv::SelectGuard<CFont> font(dc, m_tree.m_hFont);
-        return ask(dc);
-    });
-}
-
-qv::Rect QVTreeCtrlEx::Core::RowRect(int nTop, HTREEITEM hItem, bool bTextOnly) {
-    return AskInOwnDC([&](CDC& dc) {
-        CRect rc;
-        m_tree.CalcItemRect(dc, nTop, hItem, rc, bTextOnly);
-        return qv::ToRect(rc);
-    });
-}
-
-int QVTreeCtrlEx::Core::WidestRow() {
-    return AskInOwnDC([this](CDC& dc) {
-        int nWidest = 0;
-        for (HTREEITEM h = Items().Root(); h != nullptr; h = Items().NextDisplayableItem(h)) {
-            CRect rc;
-            m_tree.CalcItemRect(dc, 0, h, rc, FALSE);
-            nWidest = std::max(nWidest, static_cast<int>(rc.right));
-        }
-        return nWidest;
-    });
-}
-
-void QVTreeCtrlEx::Core::ReadImageSizes(qv::TreeImages& images) {
-    const auto read = [](CImageList* pImageList, int& cx, int& cy) {
-        if (pImageList != nullptr) {
-            IMAGEINFO info;
-            const bool bKnown = pImageList->GetImageInfo(0, &info);
-            cx = bKnown ? info.rcImage.right - info.rcImage.left : 0;
-            cy = bKnown ? info.rcImage.bottom - info.rcImage.top : 0;
-        }
-    };
-    read(m_tree.m_pImageList, images.cxImage, images.cyImage);
-    read(m_tree.m_pStateImageList, images.cxStateImage, images.cyStateImage);
-}
-
-void QVTreeCtrlEx::Core::UseFont(HFONT hFont) {
-    if (hFont != m_hMeasured) {
-        m_hMeasured = hFont;
-        m_measure.SetFont(hFont);
-        m_view.ForgetExtents();
-    }
-}
-
-int QVTreeCtrlEx::Core::FontHeight() {
-    return qv::AsBadAlloc([this] {
-        m_tree.FindFont();
-        return m_tree.m_hFont != nullptr ? m_measure.Extent(" ").cy : 0;
-    });
-}
-
-void QVTreeCtrlEx::Core::NfySelectItem(HTREEITEM hItem) {
-    m_tree.NfySelectItem(hItem);
-}
 
 // --- Creation
 
@@ -182,18 +97,6 @@ void QVTreeCtrlEx::SetShowStatesAtRoot(BOOL bShow) {
 
 void QVTreeCtrlEx::SetAutoTagChildren(BOOL bAuto) {
     m_bAutoTagChildren = bAuto;
-}
-
-// --- Replaced steps
-
-void QVTreeCtrlEx::KeepSteps(const std::type_info& derived) {
-    m_pKeepsSteps = &derived;
-}
-
-// Whether a class replaces a virtual step it cannot be asked in the language.
-bool QVTreeCtrlEx::MayReplaceSteps() const {
-    const std::type_info& own = typeid(*this);
-    return own != typeid(QVTreeCtrlEx) && (m_pKeepsSteps == nullptr || own != *m_pKeepsSteps);
 }
 
 // --- What a derived class sees of its tree

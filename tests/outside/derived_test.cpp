@@ -98,6 +98,70 @@ TEST_F(Outside, AGrid) {
     Grid().LooksAtItself(m_parent);
 }
 
+// --- Text
+
+class Text : public QVTextWnd {
+public:
+    void LooksAtItself(CWnd& parent) {
+        CRect rect(kRect);
+        ASSERT_TRUE(Create(rect, &parent, 1, 1));
+        EXPECT_EQ(m_bBorder, 1);
+        EXPECT_EQ(AddText("one", 0), 1);
+        EXPECT_EQ(AddText("two\nthree, and wide enough to be wrapped in a window of this size", 0),
+                  2);
+        CalcLayout();
+        EXPECT_EQ(NumDisplayLines(), NumRows());
+        EXPECT_GE(NumRows(), 3);
+        QVTEXTLINE row{-9, -9};
+        EXPECT_TRUE(GetDisplayLine(2, row));
+        EXPECT_EQ(row.nLine, 1);
+        EXPECT_EQ(row.nSubLine, 1);
+        EXPECT_FALSE(GetDisplayLine(NumRows(), row));
+        EXPECT_EQ(NumLines(), 2);
+        m_bUseProportionalFont = 0;
+        m_nTabStop = 16;
+        m_crBk = RGB(255, 255, 0);
+        CalcLayout();
+        EXPECT_GT(m_nMaxLineLength * m_nCharWidth, kRect.Width()) << "as it was wrapped last";
+        EXPECT_TRUE(m_bHScrollBar);
+        EXPECT_EQ(m_nNumRows, NumRows());
+        EXPECT_EQ(VScrollPos(), m_nVScrollPos);
+        EXPECT_EQ(SyncWnd(), nullptr);
+        SetUseProportionalFont(1);
+        EXPECT_FALSE(m_bUseProportionalFont) << "does nothing";
+    }
+    void KeepsPages() {
+        SetPrintAreaSize(CSize(30, 40));
+        SetLinesPerPage(1);
+        AddPrintLine(0, 0);
+        AddPrintLine(1, -1);
+        SetNumPages(2);
+        EXPECT_EQ(PrintAreaSize(), CSize(30, 40));
+        EXPECT_EQ(LinesPerPage() + NumPages() + NumPrintRows(), 5);
+        QVTEXTLINE row{-9, -9};
+        EXPECT_TRUE(GetPrintLine(1, row));
+        EXPECT_EQ(row.nSubLine, -1);
+        EXPECT_FALSE(GetPrintLine(2, row));
+        EXPECT_EQ(CurPrintLine(), 0);
+        ClearPrintData();
+        EXPECT_EQ(NumPages() + NumPrintRows(), 0);
+    }
+    bool FollowsAsLongAsThereIsOne() {
+        QVTextWnd other;
+        SyncWith(&other, 1);
+        return SyncWnd() == &other;
+    }
+    bool FollowsNone() const { return SyncWnd() == nullptr; }
+};
+
+TEST_F(Outside, AText) {
+    Text text;
+    text.LooksAtItself(m_parent);
+    text.KeepsPages();
+    EXPECT_TRUE(text.FollowsAsLongAsThereIsOne());
+    EXPECT_TRUE(text.FollowsNone()) << "the partner is gone";
+}
+
 // --- Captions
 
 template <class Base>

@@ -6,6 +6,7 @@
 #include "tree/core/tree_view.h"
 
 #include <functional>
+#include <new>
 #include <string>
 #include <utility>
 
@@ -17,7 +18,12 @@ public:
     bool ReplacesRowRect() const override { return nReplacedWidth > 0; }
     int WidestRow() override { return nReplacedWidth; }
     void ReadImageSizes(qv::TreeImages&) override {}
-    int FontHeight() override { return nFontHeight; }
+    int FontHeight() override {
+        if (measure.bOutOfMemory) {
+            throw std::bad_alloc();
+        }
+        return nFontHeight;
+    }
     void NfySelectItem(HTREEITEM hItem) override {
         ++nNotified;
         onSelect(hItem);

@@ -27,8 +27,6 @@ void CCmdTarget::OnFinalRelease() {
 
 namespace {
 
-constexpr UINT kFirstRegisteredMessage = 0xC000;
-
 const AFX_MSGMAP* BaseOf(const AFX_MSGMAP* pMap) {
     return pMap->pfnGetBaseMap != nullptr ? pMap->pfnGetBaseMap() : nullptr;
 }
@@ -63,7 +61,9 @@ struct Cache {
 };
 
 CacheLine& LineFor(const AFX_MSGMAP* pMap, UINT nMsg) {
-    static thread_local Cache cache;
+    static Cache first;
+    static thread_local Cache other;
+    Cache& cache = AfxInFirstThread() ? first : other;
     const unsigned nModulesGone = s_nModulesGone;
     if (cache.nModulesGone != nModulesGone) {
         cache = Cache();

@@ -306,6 +306,9 @@ public:
 protected:
     HWND m_hWndOwner = nullptr;
     WNDPROC m_pfnSuper = nullptr;  ///< the procedure that ours was put in front of
+    /// The same under its own address, for messages that the system converts nothing in: there is
+    /// no need of the system then, which takes its time. Null: unknown.
+    WNDPROC m_pfnSuperDirect = nullptr;
     int m_nModalResult = 0;
 
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);

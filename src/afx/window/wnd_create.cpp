@@ -62,15 +62,21 @@ BOOL RegisterFrameworkClass(LPCTSTR lpszName) {
     return AfxRegisterClass(&wndcls);
 }
 
-void PutProcedureInFront(HWND hWnd, WNDPROC* ppfnSuper) {
+void PutProcedureInFront(CWnd* pWnd, HWND hWnd) {
     if (AfxTakesWideInput(hWnd)) {
         return;  // it is in front already
     }
+    WNDPROC* const ppfnSuper = AfxWndAccess::SuperWndProc(pWnd);
+    // Asked in the window's own character set, the system gives the address and no stand-in.
+    const auto pfnDirect = reinterpret_cast<WNDPROC>(::IsWindowUnicode(hWnd)
+                                                         ? ::GetWindowLongPtrW(hWnd, GWLP_WNDPROC)
+                                                         : ::GetWindowLongPtrA(hWnd, GWLP_WNDPROC));
     const WNDPROC pfnWide = AfxWideProcedure(hWnd);
     auto pfnOld = reinterpret_cast<WNDPROC>(
         ::SetWindowLongPtr(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&AfxWndProc)));
     if (pfnOld != &AfxWndProc && *ppfnSuper == nullptr) {
         *ppfnSuper = pfnOld;
+        AfxWndAccess::SuperDirect(pWnd) = pfnDirect;
     }
     AfxTakeWideInput(hWnd, pfnWide);
 }
@@ -93,7 +99,7 @@ static LRESULT CALLBACK CreationFilter(int code, WPARAM wParam, LPARAM lParam) {
         try {
             pWnd->Attach(hWnd);
             pWnd->PreSubclassWindow();
-            PutProcedureInFront(hWnd, AfxWndAccess::SuperWndProc(pWnd));
+            PutProcedureInFront(pWnd, hWnd);
         } catch (...) {
             AfxProcessCurrentException(hWnd, WM_NCCREATE);
             if (CWnd::FromHandlePermanent(hWnd) == pWnd) {
@@ -195,7 +201,7 @@ BOOL CWnd::SubclassWindow(HWND hWnd) {
         return FALSE;
     }
     PreSubclassWindow();
-    PutProcedureInFront(hWnd, GetSuperWndProcAddr());
+    PutProcedureInFront(this, hWnd);
     return TRUE;
 }
 
@@ -210,6 +216,7 @@ HWND CWnd::UnsubclassWindow() {
         ::SetWindowLongPtr(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(*ppfnSuper));
         AfxEndWideInput(m_hWnd);
         *ppfnSuper = nullptr;
+        m_pfnSuperDirect = nullptr;
     }
     return Detach();
 }
@@ -246,7 +253,7 @@ void CWnd::OnNcDestroy() {
         ::SetWindowLongPtr(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(*ppfnSuper));
     }
     AfxEndWideInput(m_hWnd);
-    m_pfnSuper = nullptr;
+    m_pfnSuper = m_pfnSuperDirect = nullptr;
     Detach();
     PostNcDestroy();
 }

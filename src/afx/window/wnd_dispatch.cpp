@@ -60,7 +60,7 @@ const MSG* CWnd::GetCurrentMessage() {
 }
 
 LRESULT CWnd::Default() {
-    const MSG msg = AfxGetWndState().lastSentMsg;
+    const MSG& msg = AfxGetWndState().lastSentMsg;
     return DefWindowProc(msg.message, msg.wParam, msg.lParam);
 }
 
@@ -70,6 +70,11 @@ WNDPROC* CWnd::GetSuperWndProcAddr() {
 
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (WNDPROC pfnSuper = *GetSuperWndProcAddr()) {
+        // A control has one message for texts of each kind, so the system has nothing to convert.
+        if (message >= WM_USER && message < kFirstRegisteredMessage &&
+            m_pfnSuperDirect != nullptr) {
+            return m_pfnSuperDirect(m_hWnd, message, wParam, lParam);
+        }
         if (message == WM_CHAR && AfxDefaultTypedByte(m_hWnd, wParam, lParam)) {
             return 0;
         }

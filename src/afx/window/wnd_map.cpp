@@ -55,8 +55,15 @@ using WndMap = CHandleMap<CWnd, HWND>;
 /// A window belongs to its thread, and so does its object. Kept to the process's end, because
 /// global objects may hold windows until then.
 WndMap& ThreadWndMap() {
-    static thread_local WndMap* pMap = new WndMap([](CWnd& wnd, HWND hWnd) { wnd.m_hWnd = hWnd; });
-    return *pMap;
+    constexpr auto Make = [] {
+        return new WndMap([](CWnd& wnd, HWND hWnd) { wnd.m_hWnd = hWnd; });
+    };
+    if (AfxInFirstThread()) {
+        static WndMap* const pFirst = Make();
+        return *pFirst;
+    }
+    static thread_local WndMap* pOther = Make();
+    return *pOther;
 }
 
 }  // namespace

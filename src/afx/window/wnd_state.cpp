@@ -4,8 +4,9 @@
 #include <new>
 
 AfxWndState& AfxGetWndState() {
-    static thread_local AfxWndState state;
-    return state;
+    static AfxWndState first;
+    static thread_local AfxWndState other;
+    return AfxInFirstThread() ? first : other;
 }
 
 namespace {

@@ -19,12 +19,21 @@ struct AfxWndState {
 
 AfxWndState& AfxGetWndState();
 
+/// True in the thread that asked first, whose things are at hand without thread-local storage:
+/// this compiler calls into the thread library for that, several times a message. The first thread
+/// of a program that has windows is its main thread.
+inline bool AfxInFirstThread() {
+    static const DWORD s_nFirst = ::GetCurrentThreadId();
+    return ::GetCurrentThreadId() == s_nFirst;
+}
+
 /// What the framework's free functions need of its classes' inner parts.
 struct AfxWndAccess {
     static LRESULT WindowProc(CWnd* pWnd, UINT message, WPARAM wParam, LPARAM lParam) {
         return pWnd->WindowProc(message, wParam, lParam);
     }
     static WNDPROC* SuperWndProc(CWnd* pWnd) { return pWnd->GetSuperWndProcAddr(); }
+    static WNDPROC& SuperDirect(CWnd* pWnd) { return pWnd->m_pfnSuperDirect; }
     static void OnNcDestroy(CWnd* pWnd) { pWnd->CWnd::OnNcDestroy(); }
     /// Fills in the names that the application did not give.
     static void NameApp(CWinApp* pApp, HINSTANCE hInstance);
@@ -79,6 +88,9 @@ private:
 
 /// CWnd::GetSafeOwner by handles, which makes no objects and so needs no memory.
 HWND AfxGetSafeOwner(HWND hWndParent, HWND* phWndTop);
+
+/// From here on messages are named at run time.
+constexpr UINT kFirstRegisteredMessage = 0xC000;
 
 /// The entry for a window or reflected message along a chain of maps, or null. Cached by thread.
 const AFX_MSGMAP_ENTRY* AfxFindWindowEntry(const AFX_MSGMAP* pMap, UINT nMsg);

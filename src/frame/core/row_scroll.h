@@ -153,17 +153,6 @@ public:
     void Settle(Layout layout, Apply apply);
 
 private:
-    class FlagScope {
-    public:
-        explicit FlagScope(bool& bFlag) : m_bFlag(bFlag) { m_bFlag = true; }
-        ~FlagScope() { m_bFlag = false; }
-        FlagScope(const FlagScope&) = delete;
-        FlagScope& operator=(const FlagScope&) = delete;
-
-    private:
-        bool& m_bFlag;
-    };
-
     // A bar that comes or goes makes another layout; they settle after two or three.
     static constexpr int kMostLayouts = 4;
     // The second one is for a window that did not take the size that was reckoned with.
@@ -191,7 +180,7 @@ bool RowScroll::Fit(Refit refit) {
     m_bResized = false;
     const AliveWatch watch(m_alive);
     {
-        const WhileAlive<FlagScope> fitting(watch, m_bFitting);
+        const SetWhileAlive<bool> fitting(m_alive, m_bFitting, true);
         refit();
     }
     return watch && m_port.HasWindow();

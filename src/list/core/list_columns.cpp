@@ -58,10 +58,4 @@ int PrintWidth(int nWidth, int nPageWidth, int nTotal) {
     return static_cast<int>(static_cast<std::int64_t>(nWidth) * nPageWidth / nTotal);
 }
 
-bool TakeFillMark(std::string_view& field) {
-    const bool bFill = field.ends_with('*');
-    field.remove_suffix(bFill ? 1 : 0);
-    return bFill;
-}
-
 }  // namespace qv

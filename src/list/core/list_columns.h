@@ -6,13 +6,10 @@
 
 #pragma once
 
-#include <string_view>
 #include <vector>
 
 namespace qv {
 
-inline constexpr int kNewColumnWidth = 60;    // pixels
-inline constexpr int kColumnMargin = 12;      // a column is its text and this many pixels
 inline constexpr int kLastHeaderColumn = 20;  // heading strings make no column behind this index
 
 class ListColumns {
@@ -40,6 +37,10 @@ public:
 
     // A table of widths on paper, one for each column.
     int* PrintWidths();
+    // Spreads nPageWidth over the columns that are printed, in proportion to their widths on
+    // screen, width(nCol), whose sum is nTotal. May throw std::bad_alloc, and changes nothing then.
+    template <class Width>
+    void SpreadOverPage(int nPageWidth, int nTotal, Width width);
 
 private:
     bool IsColumn(int nCol) const { return nCol >= 0 && nCol < m_nColumns; }
@@ -57,7 +58,12 @@ private:
 // truncated. 0 if nTotal is not positive: then all columns that are printed have no width.
 int PrintWidth(int nWidth, int nPageWidth, int nTotal);
 
-// Takes the '*' off a field of a sample row. True if there was one: the column fills what is left.
-bool TakeFillMark(std::string_view& field);
+template <class Width>
+void ListColumns::SpreadOverPage(int nPageWidth, int nTotal, Width width) {
+    int* pWidths = PrintWidths();
+    for (int nCol = 0; nCol < m_nColumns; ++nCol) {
+        pWidths[nCol] = IsExcluded(nCol) ? 0 : PrintWidth(width(nCol), nPageWidth, nTotal);
+    }
+}
 
 }  // namespace qv

@@ -6,11 +6,35 @@ namespace qv {
 
 namespace {
 
+constexpr COLORREF kNoBackground = 0xFFFFFFFF;
 constexpr int kImageLeft = 1;
 constexpr int kImageTop = 2;
 constexpr int kImageCellGap = 2;  // an image's cell is this much wider than the image
 
 }  // namespace
+
+COLORREF StyleBackground(const StyleTable& styles, int nStyle, COLORREF crDefault) {
+    if (styles.Count() == 0) {
+        return crDefault;
+    }
+    return styles[nStyle >= 0 && nStyle < styles.Count() ? nStyle : 0].crBk;
+}
+
+CellText ReadCell(const StyleTable& styles, std::string_view text, int nColStyle,
+                  COLORREF crDefault) {
+    CellText cell;
+    int nStyle = 0;
+    cell.text = styles.ParseField(text, nStyle);
+    if (nStyle < 0 || styles.Count() == 0) {
+        return cell;
+    }
+    cell.crText = styles[nStyle].crText;
+    if (nStyle != 0) {
+        const COLORREF crBk = styles[nStyle].crBk;
+        cell.crBk = crBk != kNoBackground ? crBk : StyleBackground(styles, nColStyle, crDefault);
+    }
+    return cell;
+}
 
 Rect RowLayout::TextCells(int nHeight) const {
     return {bImageFirstCol ? nFirstColWidth : nImageWidth, 0, nDataWidth, nHeight};

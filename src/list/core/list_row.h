@@ -5,8 +5,11 @@
 #pragma once
 
 #include "base/geometry.h"
+#include "frame/core/styled_text.h"
 
+#include <optional>
 #include <string>
+#include <string_view>
 
 namespace qv {
 
@@ -30,6 +33,22 @@ constexpr Highlight RowHighlight(bool bSelected, bool bFocus, bool bShowSel, boo
     }
     return bFocus || bAlways ? Highlight::Full : Highlight::Faded;
 }
+
+// What a cell shows: its text without the style's code, and the colours that its style sets. Where
+// it sets none, those of the cell before it go on.
+struct CellText {
+    std::string_view text;
+    std::optional<COLORREF> crText;
+    std::optional<COLORREF> crBk;
+};
+
+// Style 0 has no background of its own; one with a background of -1 takes that of its column's
+// style.
+CellText ReadCell(const StyleTable& styles, std::string_view text, int nColStyle,
+                  COLORREF crDefault);
+
+// Of a style in the table, else of the default one; crDefault where there was no memory for any.
+COLORREF StyleBackground(const StyleTable& styles, int nStyle, COLORREF crDefault);
 
 struct RowLayout {
     int nClientWidth = 0;

@@ -226,8 +226,10 @@ int TreeView::IndentStep() const {
     return std::max(kLeastIndent, m_images.cyImage);
 }
 
-bool TreeView::HasStyleBit(unsigned nBit) const {
-    return m_port.HasWindow() && (m_port.Style() & nBit) != 0;
+// The window is asked once for all rows of a refit.
+bool TreeView::LinesAtRoot() const {
+    return m_bCounting ? m_metrics.bLinesAtRoot
+                       : m_port.HasWindow() && (m_port.Style() & TVS_LINESATROOT) != 0;
 }
 
 void TreeView::ForgetExtents() {
@@ -289,7 +291,7 @@ void TreeView::CalcItemRect(TextMeasure* pOther, int nTop, HTREEITEM hItem, Rect
     if (m_images.bState && m_items.HaveStateImage(hItem)) {
         makeRoom(m_images.cxStateImage + kImageGap);
     }
-    if (HasStyleBit(TVS_LINESATROOT)) {
+    if (LinesAtRoot()) {
         rect.left += nIndent;
         makeRoom(nIndent);
     }

@@ -149,7 +149,7 @@ private:
     bool FindRect(HTREEITEM hItem, Rect& rect, bool bTextOnly);
     void CheckStyles();
     int TextExtent(HTREEITEM hItem, TextMeasure* pOther);
-    bool HasStyleBit(unsigned nBit) const;
+    bool LinesAtRoot() const;
     void InvalidateAll();
     void CheckMetrics();
     void SetExpanded(HTREEITEM hItem, bool bExpanded);
@@ -179,6 +179,7 @@ private:
     std::uint16_t m_nExtentEpoch = 1;
     int m_nExtentStyles = 0;  // entries of the style table when the extents were measured
     RowMetrics m_metrics;
+    bool m_bCounting = false;  // m_metrics are those of now
     RowScroll m_scroll{m_port};
     bool m_bFitDue = false;  // the last refit ran out of memory
 };

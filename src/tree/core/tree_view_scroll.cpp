@@ -40,8 +40,7 @@ void TreeView::SetExpanded(HTREEITEM hItem, bool bExpanded) {
 // Widths depend on more than the rows; measures them anew where that has changed.
 void TreeView::CheckMetrics() {
     CheckStyles();
-    const RowMetrics metrics{m_images, m_bIndentTabs, m_items.StatesAtRoot(),
-                             HasStyleBit(TVS_LINESATROOT)};
+    const RowMetrics metrics{m_images, m_bIndentTabs, m_items.StatesAtRoot(), LinesAtRoot()};
     if (metrics == m_metrics) {
         return;
     }
@@ -52,6 +51,7 @@ void TreeView::CheckMetrics() {
 // Counts the displayable rows, and sets m_nMaxWidth and m_nVScrollPos.
 int TreeView::CountRows() {
     CheckMetrics();
+    const SetWhileAlive counting(m_items.Alive(), m_bCounting, true);
     const bool bReplaced = m_steps.ReplacesRowRect();
     const auto right = [this](HTREEITEM h) {
         Rect rect;

@@ -1,6 +1,7 @@
 #include "list/core/list_columns.h"
 
 #include <gtest/gtest.h>
+#include <numeric>
 
 namespace qv {
 
@@ -40,36 +41,31 @@ TEST(ListColumns, TablesIgnoreIndicesOutOfRange) {
     EXPECT_EQ(columns.Style(3), 0);
 }
 
-TEST(ListColumns, PaperWidthsKeepTheProportionsOfTheScreen) {
-    EXPECT_EQ(PrintWidth(100, 1000, 400), 250);
-    EXPECT_EQ(PrintWidth(300, 1000, 400), 750);
-    EXPECT_EQ(PrintWidth(1, 1000, 3), 333);
-    EXPECT_EQ(PrintWidth(2000, 2000000, 4000), 1000000);  // beyond 32 bits on the way
-    EXPECT_EQ(PrintWidth(100, 1000, 0), 0);
-    EXPECT_EQ(PrintWidth(100, 1000, -100), 0);
-}
-
-TEST(ListColumns, AColumnExcludedTwiceCountsTwice) {
-    ListColumns columns;
-    columns.Exclude(2);
-    columns.Exclude(2);
-    EXPECT_TRUE(columns.IsExcluded(2));
-    EXPECT_FALSE(columns.IsExcluded(1));
-    EXPECT_EQ(columns.Excluded().size(), 2u);
-}
-
-TEST(ListColumns, AStarAtTheEndOfASampleIsNoText) {
-    std::string_view field = "name*";
-    EXPECT_TRUE(TakeFillMark(field));
-    EXPECT_EQ(field, "name");
-    field = "*";
-    EXPECT_TRUE(TakeFillMark(field));
-    EXPECT_EQ(field, "");
-    field = "*name";
-    EXPECT_FALSE(TakeFillMark(field));
-    EXPECT_EQ(field, "*name");
-    field = "";
-    EXPECT_FALSE(TakeFillMark(field));
+TEST(ListColumns, PaperKeepsTheProportionsOfTheScreen) {
+    const auto spread = [](std::vector<int> widths, int nPage,
+                           std::initializer_list<int> excluded) {
+        ListColumns columns;
+        columns.SetCount(static_cast<int>(widths.size()));
+        int nTotal = std::accumulate(widths.begin(), widths.end(), 0);
+        for (const int nCol : excluded) {
+            columns.Exclude(nCol);
+        }
+        for (const int nCol : columns.Excluded()) {
+            nTotal -= widths[static_cast<size_t>(nCol)];
+        }
+        columns.SpreadOverPage(nPage, nTotal,
+                               [&](int nCol) { return widths[static_cast<size_t>(nCol)]; });
+        const int* p = columns.PrintWidths();
+        return std::vector<int>(p, p + widths.size());
+    };
+    using Widths = std::vector<int>;
+    EXPECT_EQ(spread({100, 300, 100}, 1000, {2}), (Widths{250, 750, 0}));
+    EXPECT_EQ(spread({1, 2}, 1000, {}), (Widths{333, 666})) << "truncated";
+    EXPECT_EQ(spread({2000, 2000}, 2000000, {}), (Widths{1000000, 1000000})) << "beyond 32 bits";
+    EXPECT_EQ(spread({0, 0, 100}, 1000, {2}), (Widths{0, 0, 0})) << "no width on screen";
+    EXPECT_EQ(spread({100}, 1000, {0}), (Widths{0}));
+    EXPECT_EQ(spread({100, 300, 100}, 1000, {2, 2}), (Widths{333, 1000, 0}))
+        << "excluded twice counts twice";
 }
 
 }  // namespace qv

@@ -36,6 +36,58 @@ TEST(ListRow, HighlightFollowsFocusAndStyles) {
     EXPECT_EQ(RowHighlight(kYes, kNo, kNo, kYes), Highlight::None);
 }
 
+TEST(ListRow, ACellTakesColoursFromItsStyleOrItsColumns) {
+    constexpr COLORREF kNoBack = 0xFFFFFFFF;
+    constexpr COLORREF kWindow = 77;
+    StyleTable styles;
+    const CellText none = ReadCell(styles,
+                                   "\x1b"
+                                   "ax",
+                                   0, kWindow);
+    EXPECT_EQ(none.text, "ax") << "without a table the code's letter shows";
+    EXPECT_FALSE(none.crText || none.crBk);
+    EXPECT_EQ(StyleBackground(styles, 0, kWindow), kWindow);
+    styles.Add(1, 10);
+    styles.Add(2, 20);
+    styles.Add(3, kNoBack);
+    const struct {
+        const char* pszCell;
+        int nColStyle;
+        const char* pszText;
+        std::optional<COLORREF> crText, crBk;
+    } cases[] = {
+        {"plain", 1, "plain", {}, {}},
+        {"", 1, "", {}, {}},
+        {"\x1b"
+         "bx",
+         0, "x", 2, 20},
+        {"\x1b"
+         "ax",
+         1,
+         "x",
+         1,
+         {}},  // style 0 has no background
+        {"\x1b"
+         "cx",
+         1, "x", 3, 20},  // the column's stands in
+        {"\x1b"
+         "cx",
+         99, "x", 3, 10},  // a style that is none is the default one
+        {"\x1b"
+         "zx",
+         1,
+         "zx",
+         1,
+         {}},  // a code outside the table counts as 0
+    };
+    for (const auto& c : cases) {
+        const CellText cell = ReadCell(styles, c.pszCell, c.nColStyle, kWindow);
+        EXPECT_EQ(cell.text, c.pszText);
+        EXPECT_EQ(cell.crText, c.crText) << c.pszCell;
+        EXPECT_EQ(cell.crBk, c.crBk) << c.pszCell;
+    }
+}
+
 TEST(ListRow, TextBeginsBehindTheImageAndEndsWithTheData) {
     RowLayout layout{.nClientWidth = 400,
                      .nDataWidth = 300,

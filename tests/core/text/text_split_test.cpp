@@ -4,9 +4,11 @@
 #include "support/fake_window.h"
 #include "support/text_split_rule.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
-#include <random>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace {
 
@@ -14,92 +16,47 @@ using Starts = std::vector<int>;
 
 constexpr int kChar = FixedMeasure::kCharWidth;
 
-// What both the splitter and the rule give.
-Starts Split(std::string_view text, int nWidth) {
-    FixedMeasure measure;
-    Starts starts{-1, -1};
-    qv::TextSplitter(measure).Split(text, nWidth, starts);
-    EXPECT_EQ(starts, SplitByRule(text, nWidth, measure)) << text << " in " << nWidth;
-    return starts;
-}
-
-TEST(TextSplit, TextThatFitsIsOnePiece) {
-    EXPECT_EQ(Split("abcd", 4 * kChar), Starts{0});
-    EXPECT_EQ(Split("abcd", 4 * kChar - 1), (Starts{0, 3}));
-    EXPECT_EQ(Split("a\nb", 3 * kChar), Starts{0}) << "with its line feed";
-    for (const int nWidth : {-1, 0, 100}) {
-        EXPECT_EQ(Split("", nWidth), Starts{0});
+TEST(TextSplit, BreaksAtLineFeedsBlanksAndWords) {
+    const struct {
+        std::string_view text;
+        double dWidth;  // characters
+        Starts starts;
+        const char* pszWhy = "";
+    } kTexts[] = {
+        {"abcd", 4, {0}, "fits"},
+        {"abcd", 3.9, {0, 3}},
+        {"a\nb", 3, {0}, "fits, with its line feed"},
+        {"", 0, {0}},
+        {"", -1, {0}},
+        {"a\nbc", 3, {0, 2}},
+        {"a\n\nbcd", 3, {0, 2, 3}},
+        {"abcd\n", 3, {0, 3, 5}, "an empty piece at the end"},
+        {"\n\n\n\n", 3, {0, 1, 2, 3, 4}},
+        {"abc  \ndef", 3, {0, 5, 8}, "behind blanks that broke the line it is a byte as any"},
+        {"abc  \ndef\ng", 4, {0, 5, 10}},
+        {"abcd ef", 3.5, {0, 3, 5}},
+        {"abc   def", 3.5, {0, 6}},
+        {"abc   ", 3.5, {0, 6}, "an empty last piece"},
+        {"ab cd", 3.5, {0, 3}},
+        {"a b cd", 3.5, {0, 4}},
+        {"ab\tcd", 3.5, {0, 3}, "a tab is no break"},
+        {" abcd", 3.5, {0, 3}, "nor is a blank at the piece's start"},
+        {"      a", 3.5, {0, 6}},
+        {"abcdefgh", 3, {0, 3, 6}},
+        {"\xC3\xA4\xC3\xA4", 3, {0, 3}, "bytes, not characters, are counted"},
+        {"abc", 0.9, {0, 0, 1, 2}, "narrower than a character"},
+        {"abc", -100, {0, 0, 1, 2}},
+        {"a b", 0, {0, 0, 2}},
+        {"a\nbc", 0, {0, 0, 2, 2, 3}},
+    };
+    for (const auto& [text, dWidth, starts, pszWhy] : kTexts) {
+        FixedMeasure measure;
+        const int nWidth = static_cast<int>(dWidth * kChar);
+        Starts split{-1, -1};
+        qv::TextSplitter(measure).Split(text, nWidth, split);
+        EXPECT_EQ(split, starts) << text << " in " << dWidth << ": " << pszWhy;
+        EXPECT_EQ(SplitByRule(text, nWidth, measure), starts) << "the rule that fuzzers go by";
     }
-}
-
-TEST(TextSplit, LineFeedsBreakATextThatDoesNotFit) {
-    constexpr int kThree = 3 * kChar;
-    EXPECT_EQ(Split("a\nbc", kThree), (Starts{0, 2}));
-    EXPECT_EQ(Split("a\n\nbcd", kThree), (Starts{0, 2, 3}));
-    EXPECT_EQ(Split("abcd\n", kThree), (Starts{0, 3, 5})) << "an empty piece at the end";
-    EXPECT_EQ(Split("\n\n\n\n", kThree), (Starts{0, 1, 2, 3, 4}));
-    EXPECT_EQ(Split("abc  \ndef", kThree), (Starts{0, 5, 8}))
-        << "behind blanks that broke the line it is a byte of the next piece";
-    EXPECT_EQ(Split("abc  \ndef\ng", 4 * kChar), (Starts{0, 5, 10}));
-}
-
-TEST(TextSplit, BreaksBehindTheBlanksOrBeforeTheWord) {
-    constexpr int kThreeAndAHalf = 7 * kChar / 2;
-    EXPECT_EQ(Split("abcd ef", kThreeAndAHalf), (Starts{0, 3, 5}));
-    EXPECT_EQ(Split("abc   def", kThreeAndAHalf), (Starts{0, 6}));
-    EXPECT_EQ(Split("abc   ", kThreeAndAHalf), (Starts{0, 6})) << "an empty last piece";
-    EXPECT_EQ(Split("ab cd", kThreeAndAHalf), (Starts{0, 3}));
-    EXPECT_EQ(Split("a b cd", kThreeAndAHalf), (Starts{0, 4}));
-    EXPECT_EQ(Split("ab\tcd", kThreeAndAHalf), (Starts{0, 3})) << "a tab is no break";
-    EXPECT_EQ(Split(" abcd", kThreeAndAHalf), (Starts{0, 3}))
-        << "nor is a blank at the piece's start";
-    EXPECT_EQ(Split("      a", kThreeAndAHalf), (Starts{0, 6}));
-}
-
-TEST(TextSplit, WordWithoutBlankFillsThePieces) {
-    EXPECT_EQ(Split("abcdefgh", 3 * kChar), (Starts{0, 3, 6}));
-    EXPECT_EQ(Split("\xC3\xA4\xC3\xA4", 3 * kChar), (Starts{0, 3}))
-        << "bytes, not characters, are counted";
-}
-
-TEST(TextSplit, WidthBelowOneCharacterLeavesEveryByteAlone) {
-    for (const int nWidth : {kChar - 1, 1, 0, -1, -1000}) {
-        EXPECT_EQ(Split("abc", nWidth), (Starts{0, 0, 1, 2})) << nWidth;
-        EXPECT_EQ(Split("a b", nWidth), (Starts{0, 0, 2})) << nWidth;
-        EXPECT_EQ(Split("a\nbc", nWidth), (Starts{0, 0, 2, 2, 3})) << nWidth;
-    }
-}
-
-std::string RandomText(std::mt19937& random, std::size_t nMost) {
-    static constexpr std::string_view kParts[] = {
-        "a",        "b",   "w", " ", " ", "    ", "\n", "\t", "\xC3\xA4", "\xE2\x82\xAC",
-        "\x83\x41", "\xFF"};
-    const std::size_t nLength = random() % nMost;
-    const unsigned nKinds = 1 + random() % std::size(kParts);
-    std::string strText;
-    while (strText.size() < nLength) {
-        strText += kParts[random() % nKinds];
-    }
-    return strText;
-}
-
-TEST(TextSplit, AgreesWithTheRuleOnRandomTexts) {
-    std::mt19937 random(7);
-    KernedMeasure measure;
-    qv::TextSplitter splitter(measure);  // one for all: what it learned of lengths must not show
-    Starts starts;
-    int nBroken = 0;
-    for (int i = 0; i < 20000; ++i) {
-        if (i % 10 == 0) {
-            measure.Roll(random);
-        }
-        const std::string strText = RandomText(random, i % 100 == 0 ? 1200 : 80);
-        const int nWidth = static_cast<int>(random() % (i % 4 == 0 ? 1500 : 120)) - 5;
-        splitter.Split(strText, nWidth, starts);
-        ASSERT_EQ(starts, SplitByRule(strText, nWidth, measure)) << i << " width " << nWidth;
-        nBroken += starts.size() > 1 ? 1 : 0;
-    }
-    EXPECT_GT(nBroken, 8000) << "texts that fit say little";
 }
 
 // Characters of UTF-8, each as wide as it has bytes.

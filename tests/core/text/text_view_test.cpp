@@ -2,9 +2,13 @@
 
 #include "support/fake_window.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <memory>
 #include <random>
 #include <string>
+#include <tuple>
+#include <utility>
 
 namespace {
 
@@ -101,16 +105,161 @@ TEST(TextView, NoBarFitsAWindowAsWideAsTheBar) {
     ShownText text;
     text.Add(60, "several words that wrap");
     text.Fit();
-    for (int i = 0; i < 3; ++i) {
-        text.Resize(kBar, 214);
-        EXPECT_FALSE(text.HasBar(SB_VERT));
-        EXPECT_EQ(text.m_bVScrollBar, 0);
+    for (const auto& [cx, bBar] : {std::pair{kBar, false}, {kBar + 1, true}, {0, false}}) {
+        text.Resize(cx, 214);
+        EXPECT_EQ(text.HasBar(SB_VERT), bBar) << cx;
+        EXPECT_EQ(text.m_bVScrollBar, bBar);
     }
-    text.Resize(kBar + 1, 214);
-    EXPECT_TRUE(text.HasBar(SB_VERT));
-    text.Resize(0, 0);
-    EXPECT_FALSE(text.HasBar(SB_VERT));
 }
+
+// --- Scrolling
+
+// Fifty rows, ten of which show.
+class TextScrolling : public testing::Test {
+protected:
+    TextScrolling() {
+        text.Add(50, "ab");
+        text.Fit();
+    }
+    ShownText text;
+};
+
+TEST_F(TextScrolling, MovesPixelsPositionAndBar) {
+    const struct {
+        unsigned nCode;
+        int nRow, nPos;
+    } kSteps[] = {
+        {SB_LINEUP, 0, 0},
+        {SB_LINEDOWN, 0, 1},
+        {SB_PAGEDOWN, 0, 11},
+        {SB_THUMBTRACK, 30, 30},
+        {SB_THUMBTRACK, 41, 30},
+        {SB_THUMBPOSITION, 30, 30},
+        {SB_THUMBPOSITION, -1, 30},
+        {SB_PAGEDOWN, 0, 40},
+        {SB_LINEDOWN, 0, 40},
+        {SB_PAGEUP, 0, 30},
+        {SB_ENDSCROLL, 0, 30},
+        {SB_BOTTOM, 0, 40},
+        {SB_TOP, 0, 0},
+    };
+    for (const auto& [nCode, nRow, nPos] : kSteps) {
+        text.window.scrolls.clear();
+        const int nUpdates = text.window.nUpdates;
+        const int nBefore = text.m_nVScrollPos;
+        const bool bMoves = nPos != nBefore;
+        EXPECT_EQ(text.view.VScroll(nCode, nRow), bMoves) << nCode << " at " << nBefore;
+        EXPECT_EQ(text.m_nVScrollPos, nPos) << nCode << " at " << nBefore;
+        EXPECT_EQ(text.window.ranges[SB_VERT].nPos, nPos);
+        EXPECT_EQ(text.window.nUpdates, nUpdates + bMoves);
+        EXPECT_EQ(text.window.scrolls.size(), std::size_t{bMoves});
+        if (bMoves) {
+            EXPECT_EQ(text.window.scrolls[0].y, (nBefore - nPos) * kRow);
+        }
+    }
+    EXPECT_FALSE(text.view.HScroll(SB_LINERIGHT, 0)) << "wrapped text has no columns";
+    text.window.bExists = false;
+    EXPECT_FALSE(text.view.VScroll(SB_BOTTOM, 0));
+}
+
+TEST_F(TextScrolling, ALineComesBelowItsMarginAndNoFurtherThanTheEnd) {
+    for (const auto& [nRow, nMargin, nPos] :
+         {std::tuple{100, 3, 40}, {20, 3, 17}, {2, 3, 0}, {-5, 0, 0}}) {
+        EXPECT_EQ(text.view.PositionFor(nRow, nMargin), nPos) << nRow;
+    }
+    text.window.size.cy = 60 * kRow;
+    EXPECT_EQ(text.view.PositionFor(20, 0), 0) << "all shows";
+}
+
+TEST_F(TextScrolling, TheThumbMeansTheBarsPositionAndItsEndTheLastPage) {
+    EXPECT_EQ(text.view.ThumbRow(SB_THUMBTRACK, 7), 7) << "a bar that has none to give";
+    text.window.bPositionKnown = true;
+    text.window.nThumbPos = 70000;
+    EXPECT_EQ(text.view.ThumbRow(SB_THUMBPOSITION, 7), 70000);
+    ASSERT_EQ(text.window.ranges[SB_VERT].nPage, 8) << "shorter than what shows";
+    for (const auto& [nThumb, nRow] : {std::pair{41, 41}, {42, 40}, {5, 5}}) {
+        text.window.nTrackPos = nThumb;
+        EXPECT_EQ(text.view.ThumbRow(SB_THUMBTRACK, 7), nRow) << nThumb;
+    }
+}
+
+TEST(TextColumns, ScrollByTheMessageAndReturnAsTheWindowGrows) {
+    ShownText text(20 * kChar);
+    text.m_bUseProportionalFont = 0;
+    text.Add(1, std::string(100, 'x'));
+    text.Add(1, "short");
+    text.Fit();
+    EXPECT_TRUE(text.HasBar(SB_HORZ));
+    EXPECT_FALSE(text.HasBar(SB_VERT));
+    for (const auto& [nCode, nThumb, nPos] : {std::tuple{SB_LINELEFT, 0, 0},
+                                              {SB_LINERIGHT, 0, 1},
+                                              {SB_PAGERIGHT, 0, 21},
+                                              {SB_THUMBTRACK, 70, 70},
+                                              {SB_PAGERIGHT, 0, 80},
+                                              {SB_LINERIGHT, 0, 80},
+                                              {SB_THUMBTRACK, 81, 80},
+                                              {SB_PAGELEFT, 0, 60},
+                                              {SB_TOP, 0, 0},
+                                              {SB_BOTTOM, 0, 80}}) {
+        const int nBefore = text.m_nHScrollPos;
+        text.window.scrolls.clear();
+        EXPECT_EQ(text.view.HScroll(static_cast<unsigned>(nCode), nThumb), nPos != nBefore);
+        EXPECT_EQ(text.window.ranges[SB_HORZ], (qv::ScrollRange{0, 99, 20, nPos})) << nCode;
+        EXPECT_EQ(text.window.scrolls.empty() ? 0 : text.window.scrolls[0].x,
+                  (nBefore - nPos) * kChar);
+    }
+    text.Resize(95 * kChar, 10 * kRow);
+    EXPECT_EQ(text.m_nHScrollPos, 5);
+}
+
+TEST(TextColumns, APartnerKeepsTheBarAsLongAsItIsThere) {
+    ShownText text;
+    text.m_bUseProportionalFont = 0;
+    text.Add(1, "short");
+    {
+        const ShownText other;
+        text.view.SetPartner(&other.view.Alive());
+        text.Fit();
+        EXPECT_TRUE(text.HasBar(SB_HORZ)) << "equal heights, though all fits";
+        EXPECT_EQ(text.window.ranges[SB_HORZ], (qv::ScrollRange{0, 4, 5, 0}));
+    }
+    EXPECT_FALSE(text.view.HasPartner());
+    text.Fit();
+    EXPECT_FALSE(text.HasBar(SB_HORZ));
+}
+
+TEST(TextView, MayBeDeletedByWhoHearsOfASize) {
+    for (int nStep = 0; nStep < 3; ++nStep) {
+        qv::TextViewState state;
+        state.m_nCharWidth = kChar;
+        state.m_nCharHeight = kRow;
+        FakeWindow window(200, 130);
+        qv::TextLines lines;
+        qv::StyleTable styles;
+        FixedMeasure measure;
+        auto pView = std::make_unique<qv::TextView>(state, window, lines, styles, measure);
+        for (int i = 0; i < 50; ++i) {
+            lines.Add("ab", 0);
+        }
+        if (nStep == 2) {
+            pView->FitBars();
+            window.size.cy = 1000;  // the bar goes with the next layout
+        }
+        window.onResize = [&] { pView.reset(); };
+        if (nStep == 0) {
+            pView->FitBars();
+        } else if (nStep == 1) {
+            pView->Resize();
+        } else {
+            state.m_nVScrollPos = 5;
+            EXPECT_TRUE(pView->VScroll(SB_LINEUP, 0));
+        }
+        EXPECT_EQ(pView, nullptr) << nStep;
+        EXPECT_EQ(window.nUpdates, 0);
+    }
+}
+
+// --- Any window, any text
 
 // Whatever window and text are, a size leads to few others, none deep inside another, and doing it
 // again changes nothing.

@@ -3,7 +3,6 @@
 
 #include <cstring>
 #include <gtest/gtest.h>
-#include <memory>
 
 namespace {
 
@@ -17,21 +16,14 @@ TEST(TreeInsert, PutsItemsWhereThePositionSays) {
     tree.Add("c", nullptr, b);
     tree.Add("C", nullptr, TVI_SORT);
     EXPECT_EQ(tree.Children(nullptr), "a b c C d") << "an equal item goes behind its equals";
+    tree.Replace([](HTREEITEM, HTREEITEM) { return -5; });
+    tree.Add("e", nullptr, TVI_SORT);
+    EXPECT_EQ(tree.Children(nullptr), "a b c C d e") << "only -1 is less";
     tree.Add("b2", b);
     tree.Add("b1", b, TVI_FIRST);
     EXPECT_EQ(tree.Children(b), "b1 b2");
     EXPECT_EQ(b->pFirstChild->nLevel, 1);
     EXPECT_TRUE(tree.CheckInvariants());
-}
-
-TEST(TreeInsert, SortPositionTakesOnlyMinusOneAsLess) {
-    TestTree tree;
-    tree.Replace(
-        [](HTREEITEM h1, HTREEITEM h2) { return 5 * std::strcmp(h1->pszText, h2->pszText); });
-    for (const char* psz : {"c", "a", "b"}) {
-        tree.Add(psz, nullptr, TVI_SORT);
-    }
-    EXPECT_EQ(tree.Children(nullptr), "c a b");
 }
 
 TEST(TreeInsert, BehindAnItemOfAnotherParentTakesThatParent) {
@@ -79,40 +71,20 @@ TEST(TreeInsert, DeletedHandlesAreHarmless) {
 
 TEST(TreeSort, AComparisonThatChangesTheTreeStopsIt) {
     for (const bool bSort : {true, false}) {
-        TestTree tree;
-        HTREEITEM p = tree.Add("p");
-        for (const char* psz : {"c", "b", "a"}) {
-            tree.Add(psz, p);
+        for (const bool bAll : {true, false}) {
+            TestTree tree;
+            HTREEITEM p = tree.Add("p");
+            HTREEITEM a = tree.Add("a", p);
+            tree.Add("b", p);
+            tree.Replace([&](HTREEITEM, HTREEITEM) {
+                bAll ? tree.DeleteAllItems() : void(tree.DeleteItem(a));
+                return 1;
+            });
+            EXPECT_FALSE(bSort ? tree.SortChildren(p) : tree.Add("d", p, TVI_SORT) != nullptr);
+            EXPECT_EQ(tree.Walk(), bAll ? "" : "p b");
+            EXPECT_TRUE(tree.CheckInvariants());
         }
-        tree.Replace([&](HTREEITEM, HTREEITEM) {
-            tree.DeleteAllItems();
-            return 1;
-        });
-        if (bSort) {
-            EXPECT_FALSE(tree.SortChildren(p));
-        } else {
-            EXPECT_EQ(tree.Add("d", p, TVI_SORT), nullptr);
-        }
-        EXPECT_EQ(tree.Walk(), "");
-        EXPECT_TRUE(tree.CheckInvariants());
-
-        p = tree.Add("p");
-        HTREEITEM a = tree.Add("a", p);
-        tree.Add("b", p);
-        tree.Replace([&](HTREEITEM, HTREEITEM) {
-            tree.DeleteItem(a);
-            return 1;
-        });
-        if (bSort) {
-            EXPECT_FALSE(tree.SortChildren(p));
-        } else {
-            EXPECT_EQ(tree.Add("d", p, TVI_SORT), nullptr);
-        }
-        EXPECT_EQ(tree.Walk(), "p b");
-        EXPECT_TRUE(tree.CheckInvariants());
     }
-    TestTree tree;
-    EXPECT_FALSE(tree.SortChildren(TVI_ROOT));
 }
 
 TEST(TreeInsert, WithoutMemoryLeavesTheTreeAsItWas) {
@@ -198,10 +170,10 @@ TEST_F(TreeNavigation, CodesLeadToRelatives) {
 
 TEST_F(TreeNavigation, WalkGoesThroughTheWholeTreeBothWays) {
     EXPECT_EQ(tree.Walk(), "a a1 x a2 b b1 c");
-    EXPECT_EQ(tree.Items().WalkNext(c), nullptr);
-    for (HTREEITEM h = a; tree.Items().WalkNext(h) != nullptr; h = tree.Items().WalkNext(h)) {
+    for (HTREEITEM h = a; h != c; h = tree.Items().WalkNext(h)) {
         EXPECT_EQ(tree.Items().WalkPrev(tree.Items().WalkNext(h)), h);
     }
+    EXPECT_EQ(tree.Items().WalkNext(c), nullptr);
     EXPECT_EQ(tree.Items().WalkPrev(a), nullptr);
 }
 
@@ -210,18 +182,14 @@ TEST_F(TreeNavigation, RowsFollowExpansionBothWays) {
     tree.Expand(a, TVE_EXPAND, false, false);
     tree.Expand(a1, TVE_EXPAND, false, false);
     EXPECT_EQ(tree.Rows(), "a a1 x a2 b c");
-    for (HTREEITEM h = a; tree.Items().NextDisplayableItem(h) != nullptr;
-         h = tree.Items().NextDisplayableItem(h)) {
+    for (HTREEITEM h = a; h != c; h = tree.Items().NextDisplayableItem(h)) {
         EXPECT_EQ(tree.Items().LastDisplayableItem(tree.Items().NextDisplayableItem(h)), h);
     }
 }
 
 TEST_F(TreeNavigation, FindLooksAtDirectChildrenBehindTheFirstCode) {
     tree.styles.Add(3, 4);
-    HTREEITEM styled = tree.InsertItem(
-        "\x1B"
-        "bName\tCell",
-        5, 6, a, nullptr);
+    HTREEITEM styled = tree.InsertItem("\033bName\tCell", 5, 6, a, nullptr);
     EXPECT_EQ(tree.Items().FindItem(a, "NAME\tcell", -1), styled);
     EXPECT_EQ(tree.Items().FindItem(a, "name\tcell", 5), styled);
     EXPECT_EQ(tree.Items().FindItem(a, "name\tcell", 6), nullptr);
@@ -302,16 +270,13 @@ TEST(TreeSort, OrdersChildrenByTextOrByTheReplacedStep) {
     HTREEITEM p = tree.Add("p");
     EXPECT_FALSE(tree.SortChildren(nullptr));
     EXPECT_FALSE(tree.SortChildren(p));
-    for (const char* psz : {"delta", "Alpha", "charlie", "bravo", "alpha",
-                            "\x1B"
-                            "aalpha0",
+    for (const char* psz : {"delta", "Alpha", "charlie", "bravo", "alpha", "\033aalpha0",
                             "averylongname1", "averylongname0"}) {
         tree.Add(psz, p);
     }
     EXPECT_TRUE(tree.SortChildren(p));
     EXPECT_EQ(tree.Children(p),
-              "Alpha alpha \x1B"
-              "aalpha0 averylongname0 averylongname1 bravo charlie delta");
+              "Alpha alpha \033aalpha0 averylongname0 averylongname1 bravo charlie delta");
     EXPECT_TRUE(tree.CheckInvariants());
     tree.Replace([](HTREEITEM h1, HTREEITEM h2) { return -std::strcmp(h1->pszText, h2->pszText); });
     EXPECT_TRUE(tree.SortChildren(p));
@@ -369,52 +334,32 @@ TEST(TreeStyles, ChangeGoesUpTheTreeAndCountsWhatHadACode) {
     TestTree tree;
     tree.styles.Add(3, 4);
     tree.styles.Add(5, 6);
-    HTREEITEM a = tree.Add(
-        "\x1B"
-        "aroot");
+    HTREEITEM a = tree.Add("\033aroot");
     HTREEITEM b = tree.Add("plain", a);
-    HTREEITEM c = tree.Add(
-        "\x1B"
-        "cworse",
-        b);
-    HTREEITEM d = tree.Add(
-        "\x1B"
-        "aleaf",
-        c);
+    HTREEITEM c = tree.Add("\033cworse", b);
+    HTREEITEM d = tree.Add("\033aleaf", c);
     EXPECT_EQ(tree.ChangeItemStyles(d, 1, true, true), 2);
-    EXPECT_STREQ(a->pszText,
-                 "\x1B"
-                 "broot");
+    EXPECT_STREQ(a->pszText, "\033broot");
     EXPECT_STREQ(b->pszText, "plain");
-    EXPECT_STREQ(c->pszText,
-                 "\x1B"
-                 "cworse")
-        << "a style of its own stays";
+    EXPECT_STREQ(c->pszText, "\033cworse") << "a style of its own stays";
     EXPECT_EQ(tree.ChangeItemStyles(a, 2, true, false), 1);
     EXPECT_EQ(tree.ChangeItemStyles(nullptr, 2, true, false), 0);
 }
 
-TEST(TreeWatch, SeesItemsAndTreesGo) {
-    auto pTree = std::make_unique<TestTree>();
-    HTREEITEM a = pTree->Add("a");
-    const qv::TreeItems::Watch watchTree(pTree->Items(), nullptr);
-    {
-        const qv::TreeItems::Watch watch(pTree->Items(), a);
-        EXPECT_TRUE(watch.ItemAlive());
-        pTree->DeleteItem(a);
-        EXPECT_FALSE(watch.ItemAlive());
-        EXPECT_EQ(pTree->Add("again"), a);
-        EXPECT_FALSE(watch.ItemAlive()) << "the record has another item now";
-    }
-    {
-        const qv::TreeItems::Watch watch(pTree->Items(), a);
-        pTree->DeleteAllItems();
-        EXPECT_FALSE(watch.ItemAlive());
-        EXPECT_TRUE(watch.ObjectAlive());
-    }
-    EXPECT_TRUE(watchTree.ItemAlive());
-    pTree.reset();
-    EXPECT_FALSE(watchTree.ObjectAlive());
+TEST(TreeWatch, SeesAnItemGoThoughItsRecordIsUsedAgain) {
+    TestTree tree;
+    HTREEITEM a = tree.Add("a");
+    const qv::TreeItems::Watch watchTree(tree.Items(), nullptr);
+    const qv::TreeItems::Watch watch(tree.Items(), a);
+    EXPECT_TRUE(watch.ItemAlive());
+    tree.DeleteItem(a);
+    EXPECT_FALSE(watch.ItemAlive());
+    EXPECT_EQ(tree.Add("again"), a);
+    EXPECT_FALSE(watch.ItemAlive());
+    const qv::TreeItems::Watch watchAgain(tree.Items(), a);
+    tree.DeleteAllItems();
+    EXPECT_FALSE(watchAgain.ItemAlive());
+    EXPECT_TRUE(watchTree.ItemAlive()) << "a watch of no item is one of the tree";
 }
 
 }  // namespace

@@ -12,6 +12,7 @@ constexpr UINT kHeaderId = 90;
 constexpr UINT kInnerId = 91;
 constexpr DWORD kChild = WS_CHILD | WS_VISIBLE;
 constexpr UINT kProbe = 5000;  // a notification code that no control uses
+constexpr UINT kCommand = 5;
 
 template <class Header>
 class Open : public Header {
@@ -59,6 +60,10 @@ struct Window {
         NMHDR nm{parent.m_hWnd, nID, kProbe};
         return header.SendMessage(WM_NOTIFY, nID, reinterpret_cast<LPARAM>(&nm));
     }
+    LRESULT SendCommand(UINT nID) {
+        return header.SendMessage(WM_COMMAND, MAKEWPARAM(nID, kCommand),
+                                  reinterpret_cast<LPARAM>(header.m_hWnd));
+    }
     Picture Shown() {
         header.RedrawWindow();
         return Picture::OfClient(header.m_hWnd);
@@ -96,14 +101,12 @@ int SpyList::s_nDeleted = 0;
 IMPLEMENT_DYNCREATE(SpyList, QVListCtrlEx)
 
 TEST(HeaderWnd, ABorderBecomesASunkenFrame) {
-    Window<QVHeaderWnd> w;
-    ASSERT_TRUE(w.Create(kChild | WS_BORDER));
-    EXPECT_FALSE(w.header.GetStyle() & WS_BORDER);
-    EXPECT_TRUE(w.header.GetExStyle() & WS_EX_CLIENTEDGE);
-    EXPECT_EQ(w.header.GetDlgCtrlID(), static_cast<int>(kHeaderId));
-    Window<QVHeaderWnd> plain;
-    ASSERT_TRUE(plain.Create());
-    EXPECT_FALSE(plain.header.GetExStyle() & WS_EX_CLIENTEDGE);
+    for (const DWORD dwBorder : {DWORD{0}, DWORD{WS_BORDER}}) {
+        Window<QVHeaderWnd> w;
+        ASSERT_TRUE(w.Create(kChild | dwBorder));
+        EXPECT_FALSE(w.header.GetStyle() & WS_BORDER);
+        EXPECT_EQ((w.header.GetExStyle() & WS_EX_CLIENTEDGE) != 0, dwBorder != 0);
+    }
 }
 
 TEST(HeaderWnd, TheBarFitsTheFontOfTheParents) {
@@ -184,7 +187,9 @@ TEST(HeaderWnd, PaintsARaisedBarAFrameLineAndTheBody) {
         dc.FillSolidRect(CRect(0, 80, 200, 120), RGB(255, 0, 0));
     }
     w.header.m_bFillBody = FALSE;
+    const LONG nHandles = AfxGetOwnedHandleCount();
     EXPECT_EQ(w.Shown().Count(RGB(255, 0, 0)), 200 * 40) << "the body is left alone";
+    EXPECT_EQ(AfxGetOwnedHandleCount(), nHandles);
 }
 
 TEST(HeaderWnd, TheCaptionStandsInTheMiddleAndIsCutAtTheRight) {
@@ -213,38 +218,59 @@ TEST(HeaderWnd, TheCaptionStandsInTheMiddleAndIsCutAtTheRight) {
     EXPECT_GT(rcInk.right, 170);
 }
 
-TEST(HeaderWnd, PaintsLeaveNoHandles) {
-    Window<QVHeaderWnd> w;
-    w.header.SetHeaderText("caption");
+CWnd& Inner(QVListHeaderWnd& header) {
+    return *header.GetListBox();
+}
+CWnd& Inner(QVTreeHeaderWnd& header) {
+    return header.GetTreeCtrl();
+}
+CWnd& Inner(QVTextHeaderWnd& header) {
+    return header.GetTextWnd();
+}
+void MakeTabStop(QVListHeaderWnd& header) {
+    header.SetListStyle(header.GetListStyle() | WS_TABSTOP);
+}
+void MakeTabStop(QVTreeHeaderWnd& header) {
+    header.SetTreeStyle(header.GetTreeStyle() | WS_TABSTOP);
+}
+void MakeTabStop(QVTextHeaderWnd&) {}  // its text is one always
+
+template <class Header>
+void ExpectMovesItsControl() {
+    Window<Header> w;
     ASSERT_TRUE(w.Create());
-    w.Shown();
-    const LONG nHandles = AfxGetOwnedHandleCount();
-    for (int i = 0; i < 500; ++i) {
-        w.header.RedrawWindow();
+    CWnd& control = Inner(w.header);
+    EXPECT_EQ(w.PlaceOf(control), w.Body());
+    w.header.MoveWindow(0, 0, 120, 80);
+    EXPECT_EQ(w.Body(), CRect(0, w.header.HeaderHeight(), 120, 80));
+    EXPECT_EQ(w.PlaceOf(control), w.Body());
+    const CRect rcOff(5, 50, 50, 70);
+    control.MoveWindow(&rcOff);
+    w.header.SendMessage(WM_SIZE, SIZE_MINIMIZED, 0);
+    w.header.SendMessage(WM_SIZE, SIZE_MAXIMIZED, MAKELPARAM(120, 80));
+    EXPECT_EQ(w.PlaceOf(control), rcOff);
+}
+
+// The Tab key of a dialog finds an inner tab stop, and the way out again.
+template <class Header>
+void ExpectTabReaches() {
+    for (const DWORD dwOwn : {DWORD{0}, DWORD{WS_TABSTOP}}) {
+        Window<Header> w;
+        MakeTabStop(w.header);
+        ASSERT_TRUE(w.Create(kChild | dwOwn));
+        EXPECT_TRUE(w.header.GetExStyle() & WS_EX_CONTROLPARENT);
+        CButton behind;
+        behind.Create("", kChild | WS_TABSTOP, CRect(0, 0, 10, 10), &w.parent, 5);
+        const HWND hInner = Inner(w.header).m_hWnd;
+        EXPECT_EQ(::GetNextDlgTabItem(w.parent.m_hWnd, behind.m_hWnd, FALSE), hInner);
+        EXPECT_EQ(::GetNextDlgTabItem(w.parent.m_hWnd, hInner, FALSE), behind.m_hWnd);
     }
-    EXPECT_EQ(AfxGetOwnedHandleCount(), nHandles);
 }
 
 TEST(HeaderWnd, ARestoredWindowMovesItsControl) {
-    Window<QVListHeaderWnd> list;
-    Window<QVTreeHeaderWnd> tree;
-    const auto check = [](auto& w, CWnd& inner) {
-        EXPECT_EQ(w.PlaceOf(inner), w.Body());
-        w.header.MoveWindow(0, 0, 120, 80);
-        EXPECT_EQ(w.Body(), CRect(0, w.header.HeaderHeight(), 120, 80));
-        EXPECT_EQ(w.PlaceOf(inner), w.Body());
-        const CRect rcOff(5, 50, 50, 70);
-        inner.MoveWindow(&rcOff);
-        w.header.SendMessage(WM_SIZE, SIZE_MINIMIZED, 0);
-        w.header.SendMessage(WM_SIZE, SIZE_MAXIMIZED, MAKELPARAM(120, 80));
-        EXPECT_EQ(w.PlaceOf(inner), rcOff);
-        w.header.SendMessage(WM_SIZE, SIZE_RESTORED, MAKELPARAM(120, 80));
-        EXPECT_EQ(w.PlaceOf(inner), w.Body());
-    };
-    ASSERT_TRUE(list.Create());
-    check(list, *list.header.GetListBox());
-    ASSERT_TRUE(tree.Create());
-    check(tree, tree.header.GetTreeCtrl());
+    ExpectMovesItsControl<QVListHeaderWnd>();
+    ExpectMovesItsControl<QVTreeHeaderWnd>();
+    ExpectMovesItsControl<QVTextHeaderWnd>();
 }
 
 TEST(HeaderWnd, ATabStopLeadsToTheControlInside) {
@@ -258,28 +284,9 @@ TEST(HeaderWnd, ATabStopLeadsToTheControlInside) {
     plain.header.SetFocus();
     EXPECT_EQ(::GetFocus(), plain.header.m_hWnd) << "no tab stop: the focus stays";
 
-    // The Tab key of a dialog finds an inner tab stop, and the way out again.
-    const auto reached = [](auto& window, CWnd& inner) {
-        EXPECT_TRUE(window.header.GetExStyle() & WS_EX_CONTROLPARENT);
-        CButton behind;
-        behind.Create("", kChild | WS_TABSTOP, CRect(0, 0, 10, 10), &window.parent, 5);
-        EXPECT_EQ(::GetNextDlgTabItem(window.parent.m_hWnd, behind.m_hWnd, FALSE), inner.m_hWnd);
-        EXPECT_EQ(::GetNextDlgTabItem(window.parent.m_hWnd, inner.m_hWnd, FALSE), behind.m_hWnd);
-        EXPECT_EQ(::GetNextDlgTabItem(window.parent.m_hWnd, inner.m_hWnd, TRUE), behind.m_hWnd);
-    };
-    for (const DWORD dwOwn : {DWORD{0}, DWORD{WS_TABSTOP}}) {
-        Window<QVListHeaderWnd> list;
-        list.header.SetListStyle(list.header.GetListStyle() | WS_TABSTOP);
-        ASSERT_TRUE(list.Create(kChild | dwOwn));
-        reached(list, *list.header.GetListBox());
-        Window<QVTreeHeaderWnd> tree;
-        tree.header.SetTreeStyle(tree.header.GetTreeStyle() | WS_TABSTOP);
-        ASSERT_TRUE(tree.Create(kChild | dwOwn));
-        reached(tree, tree.header.GetTreeCtrl());
-        Window<QVTextHeaderWnd> text;
-        ASSERT_TRUE(text.Create(kChild | dwOwn));
-        reached(text, text.header.GetTextWnd());
-    }
+    ExpectTabReaches<QVListHeaderWnd>();
+    ExpectTabReaches<QVTreeHeaderWnd>();
+    ExpectTabReaches<QVTextHeaderWnd>();
 }
 
 TEST(HeaderWnd, TheListIsOfTheClassThatIsGiven) {
@@ -321,26 +328,16 @@ TEST(HeaderWnd, NotificationsAndCommandsOfTheListReachTheGrandparent) {
     Window<QVListHeaderWnd> w;
     w.header.SetListID(kInnerId);
     ASSERT_TRUE(w.Create());
-    QVListCtrlEx& list = *w.header.GetListBox();
     w.parent.SetResult(kProbe, 77);
-    w.parent.Forget();
-    list.InsertBitmapString(0, -1, "row");
-    ASSERT_NE(w.parent.Last(LVN_INSERTITEM), nullptr);
-    EXPECT_EQ(w.parent.Last(LVN_INSERTITEM)->idFrom, kInnerId);
-    EXPECT_EQ(w.parent.Last(LVN_INSERTITEM)->hwndFrom, list.m_hWnd);
     EXPECT_EQ(w.SendProbe(kInnerId), 77);
     EXPECT_EQ(w.SendProbe(kInnerId + 1), 0) << "another control";
     EXPECT_EQ(w.parent.Count(kProbe), 1);
-    const auto command = [&](UINT nID) {
-        return w.header.SendMessage(WM_COMMAND, MAKEWPARAM(nID, 5),
-                                    reinterpret_cast<LPARAM>(list.m_hWnd));
-    };
-    EXPECT_EQ(command(kInnerId), 1);
-    EXPECT_EQ(command(kInnerId + 1), 0);
+    EXPECT_EQ(w.SendCommand(kInnerId), 1);
+    EXPECT_EQ(w.SendCommand(kInnerId + 1), 0);
     ASSERT_EQ(w.parent.m_commands.size(), 1u);
     EXPECT_EQ(w.parent.m_commands[0].id, kInnerId);
-    EXPECT_EQ(w.parent.m_commands[0].code, 5u);
-    EXPECT_EQ(w.parent.m_commands[0].hwnd, list.m_hWnd);
+    EXPECT_EQ(w.parent.m_commands[0].code, kCommand);
+    EXPECT_EQ(w.parent.m_commands[0].hwnd, w.header.m_hWnd);
 }
 
 TEST(HeaderWnd, TheTreeAsksTheGrandparentAndForwardsNoCommands) {
@@ -359,29 +356,22 @@ TEST(HeaderWnd, TheTreeAsksTheGrandparentAndForwardsNoCommands) {
     tree.SendMessage(WM_KEYDOWN, VK_DOWN);
     EXPECT_EQ(tree.GetSelectedItem(), hSecond);
     EXPECT_EQ(w.parent.Count(TVN_SELCHANGED), 1);
-    w.header.SendMessage(WM_COMMAND, MAKEWPARAM(kInnerId, 5),
-                         reinterpret_cast<LPARAM>(tree.m_hWnd));
+    w.SendCommand(kInnerId);
     EXPECT_TRUE(w.parent.m_commands.empty());
 }
 
 TEST(HeaderWnd, WithoutAnIdNothingIsForwarded) {
-    constexpr UINT kNoId = static_cast<UINT>(-1);
+    const auto expect = [](auto& w) {
+        ASSERT_TRUE(w.Create());
+        w.parent.Forget();
+        w.SendProbe(static_cast<UINT>(-1));
+        w.SendCommand(0xFFFF);
+        EXPECT_TRUE(w.parent.m_notifications.empty() && w.parent.m_commands.empty());
+    };
     Window<QVTreeHeaderWnd> tree;
-    ASSERT_TRUE(tree.Create());
-    tree.header.GetTreeCtrl().InsertItem("a", 0, 0, nullptr, TVI_LAST);
-    tree.parent.Forget();
-    tree.header.GetTreeCtrl().SendMessage(WM_KEYDOWN, VK_DOWN);
-    tree.SendProbe(kNoId);
-    EXPECT_TRUE(tree.parent.m_notifications.empty());
+    expect(tree);
     Window<QVListHeaderWnd> list;
-    ASSERT_TRUE(list.Create());
-    list.parent.Forget();
-    list.header.GetListBox()->InsertBitmapString(0, -1, "row");
-    list.SendProbe(kNoId);
-    list.header.SendMessage(WM_COMMAND, MAKEWPARAM(0xFFFF, 5),
-                            reinterpret_cast<LPARAM>(list.header.GetListBox()->m_hWnd));
-    EXPECT_TRUE(list.parent.m_notifications.empty());
-    EXPECT_TRUE(list.parent.m_commands.empty());
+    expect(list);
 }
 
 TEST(HeaderWnd, AParentMayDestroyItInANotification) {
@@ -417,7 +407,7 @@ TEST(HeaderCtrlEx, AddsAColumnForEachField) {
     FontParent parent(CSize(400, 100));
     QVHeaderCtrlEx header;
     ASSERT_TRUE(header.Create(kChild | HDS_HORZ, CRect(0, 0, 400, 25), &parent, kHeaderId));
-    const auto title = [&](int nCol, int* pFormat = nullptr) {
+    const auto column = [&](int nCol) {
         char szText[400] = "none";
         HDITEM item{};
         item.mask = HDI_TEXT | HDI_FORMAT | HDI_WIDTH;
@@ -425,27 +415,18 @@ TEST(HeaderCtrlEx, AddsAColumnForEachField) {
         item.cchTextMax = sizeof(szText);
         EXPECT_TRUE(header.GetItem(nCol, &item));
         EXPECT_EQ(item.cxy, 100);
-        if (pFormat != nullptr) {
-            *pFormat = item.fmt & HDF_JUSTIFYMASK;
-        }
-        return std::string(szText);
+        return szText + std::to_string(item.fmt & HDF_JUSTIFYMASK);
     };
     header.AddHeader("");
     EXPECT_EQ(header.GetItemCount(), 0);
     header.AddHeader("<Left\t>Right\tMiddle\t");
     ASSERT_EQ(header.GetItemCount(), 3) << "none behind the last TAB";
-    int nFormat = -1;
-    EXPECT_EQ(title(0, &nFormat), "Left");
-    EXPECT_EQ(nFormat, HDF_LEFT);
-    EXPECT_EQ(title(1, &nFormat), "Right");
-    EXPECT_EQ(nFormat, HDF_RIGHT);
-    EXPECT_EQ(title(2, &nFormat), "Middle");
-    EXPECT_EQ(nFormat, HDF_CENTER);
-    header.AddHeader(("<" + std::string(300, 'x') + "\t>y").c_str());
-    ASSERT_EQ(header.GetItemCount(), 5);
-    EXPECT_EQ(title(0), std::string(254, 'x')) << "in front, and cut";
-    EXPECT_EQ(title(1), "y");
-    EXPECT_EQ(title(2), "Left");
+    EXPECT_EQ(column(0), "Left" + std::to_string(HDF_LEFT));
+    EXPECT_EQ(column(1), "Right" + std::to_string(HDF_RIGHT));
+    EXPECT_EQ(column(2), "Middle" + std::to_string(HDF_CENTER));
+    header.AddHeader((std::string(300, 'x') + "\ty").c_str());
+    EXPECT_EQ(column(0), std::string(254, 'x') + std::to_string(HDF_CENTER)) << "in front, and cut";
+    EXPECT_EQ(column(2), "Left" + std::to_string(HDF_LEFT));
 }
 
 }  // namespace

@@ -2,8 +2,8 @@
 #include "support/pump.h"
 #include "support/text_window.h"
 
-#include <afxwin.h>
 #include <afxext.h>
+#include <afxwin.h>
 
 #include <cstdio>
 #include <fstream>
@@ -441,40 +441,6 @@ TEST(TextClipboard, HoldsAllLinesAndAnEmptyOne) {
 
 // --- Printing
 
-TEST(TextPrint, RowsComePageByPage) {
-    TextWindow<> w;
-    TextRecorder dc;
-    const int h = dc.GetTextExtent(" ", 1).cy;
-    w.text.AddStyle(kRed, kGreen);
-    for (int i = 0; i < 25; ++i) {
-        w.text.AddText(std::to_string(i).c_str(), i == 24 ? 1 : 0);
-    }
-    w.text.FormatText(&dc, CSize(1000, 10 * h + h / 2));
-    ASSERT_EQ(w.text.NumPages(), 3);
-    const auto pages = PrintedPages(w.text, dc);
-    EXPECT_EQ(pages[0], "0/0|1/0|2/0|3/0|4/0|5/0|6/0|7/0|8/0|9/0|");
-    EXPECT_EQ(pages[2], "20/0|21/0|22/0|23/0|24/1|");
-    CPrintInfo info;
-    CString strText = "old";
-    int nStyle = 7;
-    int nLine = 0;
-    for (const UINT nPage : {0u, 4u}) {
-        info.m_nCurPage = nPage;
-        EXPECT_EQ(w.text.StartPage(&dc, &info, strText, nStyle, nLine), 0);
-        EXPECT_EQ(strText, "");
-    }
-    w.text.FormatText(&dc, CSize(1000, h - 1));
-    EXPECT_EQ(w.text.NumPages(), 0) << "no row fits";
-}
-
-TEST(TextPrint, WrappedPiecesFollowEachOther) {
-    TextWindow<> w;
-    TextRecorder dc;
-    w.text.AddText("MMMM MMMM MMMM MMMM", 0);
-    w.text.FormatText(&dc, CSize(dc.GetTextExtent("MMMM MMMM MM", 12).cx, 1000));
-    EXPECT_EQ(PrintedPages(w.text, dc), std::vector<std::string>{"MMMM MMMM /0|MMMM MMMM/0|"});
-}
-
 TEST(TextPrint, PartnersStayLevel) {
     TextWindow<> a;
     TextWindow<> b;
@@ -489,6 +455,8 @@ TEST(TextPrint, PartnersStayLevel) {
     a.text.FormatText(&dc, size);
     EXPECT_EQ(PrintedPages(a.text, dc), (std::vector<std::string>{"MMMM /0|MMMM/0|", "x/0|/0|"}));
     EXPECT_EQ(PrintedPages(b.text, dc), (std::vector<std::string>{"1/0|/0|", "2/0|3/0|"}));
+    a.text.FormatText(&dc, CSize(1000, size.cy / 2 - 1));
+    EXPECT_EQ(a.text.NumPages() + b.text.NumPages(), 0) << "no row fits";
 }
 
 }  // namespace

@@ -89,6 +89,7 @@ TEST_F(TreeInput, DoubleClickTogglesUnlessTheParentTakesIt) {
 }
 
 TEST_F(TreeInput, ArrowKeysWalkOpenAndClose) {
+    EXPECT_EQ(w.tree.SendMessage(WM_GETDLGCODE), DLGC_WANTARROWS | DLGC_WANTCHARS);
     TypeKey(VK_DOWN);
     EXPECT_EQ(w.Told(), "ing ->a | ed ->a") << "without a selection: the top row";
     TypeKey(VK_RIGHT);
@@ -203,10 +204,6 @@ TEST_F(TreeInput, CheckMarksCascadeAndARefusedItemKeepsItsBranch) {
     EXPECT_EQ(w.tree.GetItemStateImage(b), 3u);
 }
 
-TEST_F(TreeInput, DialogCodeAsksForArrowsAndCharacters) {
-    EXPECT_EQ(w.tree.SendMessage(WM_GETDLGCODE), 0x81);
-}
-
 // What a parent may do while it is told: each must leave everything sound.
 enum class Deed { DeleteItem, DeleteAll, DestroyWindow };
 
@@ -239,34 +236,21 @@ TEST_P(TreeHostileParent, MayTakeTheGroundAway) {
             return false;
         };
         const auto at = [](CPoint pt) { return MAKELPARAM(pt.x, pt.y); };
+        const struct {
+            UINT nMessage;
+            WPARAM wParam;
+            LPARAM lParam;
+        } messages[] = {{WM_LBUTTONDOWN, 0, at(ptText)},   {WM_LBUTTONDOWN, 0, at(ptCheck)},
+                        {WM_LBUTTONDOWN, 0, at(ptButton)}, {WM_LBUTTONDBLCLK, 0, at(ptText)},
+                        {WM_KEYDOWN, VK_RIGHT, 0},         {WM_CHAR, ' ', 0},
+                        {WM_RBUTTONDOWN, 0, at(ptText)}};
+        const auto& message = messages[nAction];
         w.tree.SelectItem(nAction == 0 ? nullptr : a);
-        if (nAction == 2) {
+        if (nAction == 2) {  // a click on the button moves the selection
             w.tree.Expand(a, TVE_EXPAND, TRUE, FALSE);
             w.tree.SelectItem(a1);
         }
-        switch (nAction) {
-            case 0:
-                w.tree.SendMessage(WM_LBUTTONDOWN, 0, at(ptText));
-                break;
-            case 1:
-                w.tree.SendMessage(WM_LBUTTONDOWN, 0, at(ptCheck));
-                break;
-            case 2:
-                w.tree.SendMessage(WM_LBUTTONDOWN, 0, at(ptButton));
-                break;  // moves selection
-            case 3:
-                w.tree.SendMessage(WM_LBUTTONDBLCLK, 0, at(ptText));
-                break;
-            case 4:
-                w.tree.SendMessage(WM_KEYDOWN, VK_RIGHT);
-                break;
-            case 5:
-                w.tree.SendMessage(WM_CHAR, ' ');
-                break;
-            case 6:
-                w.tree.SendMessage(WM_RBUTTONDOWN, 0, at(ptText));
-                break;
-        }
+        w.tree.SendMessage(message.nMessage, message.wParam, message.lParam);
         EXPECT_EQ(::IsWindow(w.tree.m_hWnd) != FALSE, nDone == 0 || deed != Deed::DestroyWindow);
         if (::IsWindow(w.tree.m_hWnd)) {
             w.tree.SendMessage(WM_KEYDOWN, VK_DOWN);

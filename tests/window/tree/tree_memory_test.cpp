@@ -256,30 +256,4 @@ TEST(TreeMemoryFirst, AWindowComesWholeOrNotAtAll) {
     }
 }
 
-// Where the first item of a window cannot be measured, the next paint measures it.
-TEST(TreeMemoryFirst, TheFirstItemIsMeasuredAsSoonAsThereIsMemory) {
-    QuietParent parent;
-    for (int nSucceeding = 0; nSucceeding < 1000; ++nSucceeding) {
-        WatchedTree tree;
-        tree.Create(kTreeStyle, CRect(0, 0, 300, 100), &parent, kTreeId);
-        HTREEITEM h;
-        int nRefused;
-        {
-            const FailingHeap heap(nSucceeding);
-            h = tree.InsertItem("a row", 0, 0, nullptr, TVI_LAST);
-            nRefused = heap.Refused();
-        }
-        tree.UpdateWindow();
-        CRect rc;
-        EXPECT_EQ(tree.GetRootItem(), h) << nSucceeding;
-        EXPECT_EQ(tree.GetItemRect(h, &rc, FALSE) && tree.ItemVisible(h), h != nullptr);
-        EXPECT_EQ(tree.nThrown, 0) << nSucceeding;
-        if (nRefused == 0) {
-            EXPECT_GT(nSucceeding, 1);
-            return;
-        }
-    }
-    FAIL() << "never enough";
-}
-
 }  // namespace

@@ -38,9 +38,7 @@ TEST(TreePaint, FillsEveryPixelItselfWithoutErasing) {
 TEST(TreePaint, SelectionIsHighlightedWithTheFocusOrAlways) {
     TreeWindow<> w;
     w.tree.AddStyle(kBlue, kGreen);
-    HTREEITEM a = w.Add(
-        "\x1B"
-        "bstyled");
+    HTREEITEM a = w.Add("\033bstyled");
     HTREEITEM b = w.Add("other");
     BringToFront(w.parent.m_hWnd);
     w.tree.SetFocus();
@@ -76,9 +74,7 @@ TEST(TreePaint, FieldsWithoutACodeGoOnInTheColoursBeforeThem) {
     const int stops[] = {60, 120, 180};
     w.tree.UseTabs(stops, 3);
     w.tree.AddStyle(kBlue, kGreen);
-    HTREEITEM a = w.Add(
-        "one\t\x1B"
-        "b##\t##\tlast");
+    HTREEITEM a = w.Add("one\t\033b##\t##\tlast");
     const CRect rc = w.RectOf(a);
     const Picture shown = Shown(w.tree);
     const auto column = [&](int x1, int x2) {
@@ -151,31 +147,6 @@ TEST(TreePaint, ListsSetBeforeTheFirstItemDecideTheRowHeight) {
     w.Add("a row");
     EXPECT_EQ(w.RowHeight(), 40);
     w.tree.SetImageList(nullptr, TVSIL_NORMAL);
-}
-
-// A change of the order or of parents shows without any other call.
-TEST(TreePaint, SortedAndMovedRowsShowAtOnce) {
-    TreeWindow<> w;
-    HTREEITEM p = w.Add("p");
-    // The last row in view, the eleventh child, is to be the first one.
-    std::vector<HTREEITEM> rows;
-    for (const char ch : std::string("bcdefghijkalmnopq")) {
-        rows.push_back(w.Add(std::string(1, ch).c_str(), p));
-    }
-    w.tree.Expand(p, TVE_EXPAND, TRUE, FALSE);
-    const auto shownOf = [&w](auto change) {
-        w.tree.UpdateWindow();
-        change();
-        w.tree.UpdateWindow();
-        return Picture::OfClient(w.tree.m_hWnd);
-    };
-    const Picture sorted = shownOf([&] { EXPECT_TRUE(w.tree.SortChildren(p)); });
-    EXPECT_TRUE(w.tree.ItemVisible(rows[9])) << "k";
-    w.tree.SetRedraw(TRUE);  // refits and paints everything
-    EXPECT_TRUE(Shown(w.tree) == sorted);
-    const Picture moved = shownOf([&] { EXPECT_TRUE(w.tree.ChangeParent(rows.back(), nullptr)); });
-    EXPECT_FALSE(moved == sorted);
-    EXPECT_TRUE(Shown(w.tree) == moved);
 }
 
 TEST(TreePaint, ScrollsToTheSamePixelsAsAFullPaintGives) {

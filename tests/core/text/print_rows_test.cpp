@@ -1,205 +1,24 @@
-#include "base/platform_names.h"
-#include "support/failing_new.h"
-#include "support/fake_window.h"
-#include "text/core/display_rows.h"
 #include "text/core/print_rows.h"
 
-#include <climits>
+#include "support/failing_new.h"
+#include "support/fake_window.h"
+
 #include <gtest/gtest.h>
 #include <new>
 #include <random>
 #include <string>
 #include <tuple>
+#include <utility>
+#include <vector>
 
 namespace {
 
-using qv::DisplayRows;
 using qv::PrintedRow;
 using qv::PrintRows;
 using qv::StyleTable;
 using qv::TextLines;
 
 constexpr int kChar = FixedMeasure::kCharWidth;
-
-std::string Stored(std::string_view text, char chStyle = 'a') {
-    return std::string{'\x1B', chStyle}.append(text);
-}
-
-TEST(TextLines, EachIsStoredBehindItsStyleCode) {
-    TextLines lines;
-    struct Case {
-        int nStyle;
-        char chCode;
-    };
-    int nLines = 0;
-    for (const auto& [nStyle, chCode] :
-         {Case{-1, 'a'}, Case{0, 'a'}, Case{2, 'c'}, Case{31, '\x80'}, Case{256, 'a'},
-          Case{-2, '\x5F'}, Case{255, '\x60'}, Case{INT_MIN, 'a'}}) {
-        EXPECT_EQ(lines.Add("x", nStyle), ++nLines);
-        EXPECT_EQ(lines.Line(nLines - 1), Stored("x", chCode)) << nStyle;
-    }
-    EXPECT_EQ(lines.Count(), nLines);
-    EXPECT_EQ(lines.Line(-1), nullptr);
-    EXPECT_EQ(lines.Line(nLines), nullptr);
-}
-
-TEST(TextLines, TextsOfAnyLengthKeepTheirOrderAndPlace) {
-    TextLines lines;
-    std::vector<std::string> texts;
-    for (const std::size_t nLength : {0, 5, 20000, 1, 200000, 3, 16381, 16382, 0, 60000}) {
-        texts.emplace_back(nLength, static_cast<char>('a' + texts.size()));
-    }
-    for (int i = 0; i < 3000; ++i) {
-        texts.push_back(std::to_string(i) + std::string(static_cast<std::size_t>(i % 90), '.'));
-    }
-    std::vector<const char*> places;
-    for (const std::string& strText : texts) {
-        lines.Add(strText, 0);
-        places.push_back(lines.Line(lines.Count() - 1));
-    }
-    for (int i = 0; i < lines.Count(); ++i) {
-        ASSERT_EQ(lines.Line(i), places[static_cast<std::size_t>(i)]);
-        ASSERT_EQ(lines.Line(i), Stored(texts[static_cast<std::size_t>(i)]));
-    }
-}
-
-TEST(TextLines, ClearForgetsAllAndSaysSo) {
-    TextLines lines;
-    for (int i = 0; i < 3; ++i) {
-        lines.Add("first", 1);
-        const unsigned nBefore = lines.Generation();
-        lines.Clear();
-        EXPECT_NE(lines.Generation(), nBefore);
-        EXPECT_EQ(lines.Count(), 0);
-        EXPECT_EQ(lines.Line(0), nullptr);
-    }
-    EXPECT_EQ(lines.Add("x", 0), 1);
-    EXPECT_EQ(lines.Line(0), Stored("x"));
-}
-
-TEST(TextLines, WithoutMemoryALineIsRefusedAndNothingChanges) {
-    TextLines lines;
-    int nRefused = 0;
-    const auto add = [&](const std::string& strText) {
-        const FailingNew failing(0);
-        return lines.Add(strText, 0);
-    };
-    for (int i = 0; i < 500; ++i) {
-        const std::string strText = std::to_string(i) + std::string(200, '.');
-        if (add(strText) == -1) {
-            ++nRefused;
-            ASSERT_EQ(lines.Count(), i);
-            ASSERT_EQ(lines.Line(i), nullptr);
-            ASSERT_EQ(lines.Add(strText, 0), i + 1);
-        }
-        ASSERT_EQ(lines.Line(i), Stored(strText));
-    }
-    EXPECT_GE(nRefused, 3) << "for want of a block, and of room in the index";
-    EXPECT_EQ(add(std::string(100000, 'x')), -1);
-    EXPECT_EQ(lines.Count(), 500);
-}
-
-// "line.piece " for each row.
-std::string Show(const DisplayRows& rows) {
-    std::string strRows;
-    for (int i = 0; i < rows.Count(); ++i) {
-        strRows += std::to_string(rows[i].nLine) + '.' + std::to_string(rows[i].nSubLine) + ' ';
-    }
-    return strRows;
-}
-
-class TextRows : public testing::Test {
-protected:
-    TextRows() {
-        m_styles.Add(0, 0);
-        m_lines.Add("abc", 0);
-        m_lines.Add("", 0);
-        m_lines.Add("abcd efg h", 0);
-    }
-    // The number of calls for a width.
-    int Format(int nChars) {
-        m_measure.nCalls = 0;
-        m_rows.Format(m_lines, m_styles, nChars * kChar, m_splitter);
-        return m_measure.nCalls;
-    }
-
-    TextLines m_lines;
-    StyleTable m_styles;
-    FixedMeasure m_measure;
-    qv::TextSplitter m_splitter{m_measure};
-    DisplayRows m_rows;
-};
-
-TEST_F(TextRows, NameThePiecesOfEachLineInTurn) {
-    Format(5);
-    EXPECT_EQ(Show(m_rows), "0.0 1.0 2.0 2.1 ");
-    Format(3);
-    EXPECT_EQ(Show(m_rows), "0.0 1.0 2.0 2.1 2.2 2.3 ");
-}
-
-TEST_F(TextRows, OnlyLinesAddedSinceAreFormatted) {
-    EXPECT_GT(Format(5), 0);
-    EXPECT_EQ(Format(5), 0);
-    m_lines.Add("xy", 0);
-    EXPECT_EQ(Format(5), 1);
-    EXPECT_EQ(Show(m_rows), "0.0 1.0 2.0 2.1 3.0 ");
-}
-
-TEST_F(TextRows, AreMadeAnewForAnotherWidthStyleOrText) {
-    const int nAll = Format(50);
-    EXPECT_EQ(nAll, 2) << "one for each text that is not empty";
-    EXPECT_EQ(Format(40), nAll);
-    m_lines.Add("xy", 1);
-    EXPECT_EQ(Format(3), m_measure.nCalls);
-    EXPECT_EQ(Show(m_rows), "0.0 1.0 2.0 2.1 2.2 2.3 3.0 ");
-    m_lines.Add("z", 1);
-    Format(2);
-    EXPECT_EQ(m_rows.Count(), 11) << "the letter of a style that is not in the table shows";
-    m_styles.Add(0, 0);
-    EXPECT_GT(Format(2), 4);
-    EXPECT_EQ(m_rows.Count(), 10);
-
-    for (const int nWidth : {-1, 0, 40 * kChar}) {
-        m_rows.Format(m_lines, m_styles, nWidth, m_splitter);
-        m_measure.nCalls = 0;
-        m_rows.Forget();
-        m_rows.Format(m_lines, m_styles, nWidth, m_splitter);
-        EXPECT_GE(m_measure.nCalls, 4) << "the font is another one, in " << nWidth;
-    }
-
-    m_lines.Clear();
-    for (int i = 0; i < 5; ++i) {
-        m_lines.Add("new", 0);
-    }
-    EXPECT_EQ(Format(40), 5);
-    EXPECT_EQ(Show(m_rows), "0.0 1.0 2.0 3.0 4.0 ");
-    m_lines.Clear();
-    EXPECT_EQ(Format(40), 0);
-    EXPECT_EQ(m_rows.Count(), 0);
-}
-
-TEST_F(TextRows, AreWholeAfterACallThatRanOutOfMemory) {
-    for (int i = 0; i < 3; ++i) {
-        m_lines.Add(std::string(150, 'x'), 0);
-    }
-    Format(1);
-    const std::string strWhole = Show(m_rows);
-    int nRanOut = 0;
-    for (bool bRanOut = true; bRanOut; ++nRanOut) {
-        ASSERT_LT(nRanOut, 100);
-        DisplayRows rows;
-        bRanOut = false;
-        try {
-            const FailingNew failing(nRanOut);
-            rows.Format(m_lines, m_styles, kChar, m_splitter);
-        } catch (const std::bad_alloc&) {
-            bRanOut = true;
-        }
-        rows.Format(m_lines, m_styles, kChar, m_splitter);
-        ASSERT_TRUE(Show(rows) == strWhole) << nRanOut << " allocations";
-    }
-    EXPECT_GT(nRanOut, 5);
-}
 
 class Printing : public testing::Test {
 protected:

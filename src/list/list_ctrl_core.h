@@ -1,0 +1,32 @@
+// What a list keeps beside the platform's control, and how it reads it.
+
+#pragma once
+
+#include "list/core/kept_places.h"
+#include "list/core/list_columns.h"
+#include "list/core/row_changes.h"
+#include "list/list_ctrl.h"
+
+#include <optional>
+#include <vector>
+
+class QVListCtrlEx::Core {
+public:
+    // The messages that change what is kept here; true if they change texts, item data, or which
+    // rows and columns there are.
+    bool SeeMessage(UINT nMessage, LPARAM lParam);
+
+    qv::ListColumns columns;
+    qv::RowChanges changes;
+    qv::KeptPlaces places;
+    std::vector<char> text;        // of the cell read last
+    std::vector<int> paintWidths;  // of the columns for the length of one paint; empty: not known
+    std::optional<bool> bSortsItself;    // by the window's style; empty: not asked yet
+    std::optional<COLORREF> crComposed;  // that the row under the cells is filled with
+    HWND hTold = nullptr;
+    bool bPrintComplete = true;
+
+private:
+    bool SeeItem(const LVITEM* pItem, bool bNew);
+    void SeeText(LPCSTR pszText);
+};
