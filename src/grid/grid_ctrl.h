@@ -47,15 +47,19 @@ public:
 
     // --- Columns. Bad indices read 0 and write nothing.
 
+    // At the right end; gives its index. Earlier cells keep their texts.
     int AddColumn(GridColType nType, int nWidth);
     int NumColumns() const;
+    // In pixels. The last column is drawn to the window's edge, whatever its width. Repaints.
     int GetColWidth(int nCol) const;
     void SetColWidth(int nCol, int nWidth);
+    // Neither repaints nor closes an editor.
     GridColType GetColType(int nCol) const;
     void SetColType(int nCol, GridColType nType);
     // The choices of a drop-list column, not owned. Null: the parent is asked.
     CStringArray* GetColListData(int nCol) const;
     void SetColListData(int nCol, CStringArray* pList);
+    // The caller's value, 0 at first.
     DWORD_PTR GetColumnData(int nCol) const;
     void SetColumnData(int nCol, DWORD_PTR dwData);
     // Fits the column to its texts or to the given ones, with room for a button, and to nMinWidth
@@ -68,26 +72,32 @@ public:
     // Whether an added row is painted by itself. Off, it shows with the next paint of its place, or
     // as the scroll bar moves; that is how it has always been.
     void SetShowAddedRows(BOOL bShow) { m_bShowAddedRows = bShow; }
-    // A row of TAB-separated texts; gives its index. dwState is normally 0.
+    // A row of TAB-separated texts, given or loaded; gives its index. Texts beyond the columns are
+    // dropped, missing ones are empty. dwState: GRS_ bits, normally 0.
     int AddRow(const CString& strRow, DWORD dwState);
     int AddRow(UINT nStringID, DWORD dwState);
     // An editor that is open stays until the focus leaves it; what it holds is dropped then.
     void DeleteAllRows();
     int NumRows() const;
+    // Of the current cell; -1 if there is none.
     int CurrentRow() const { return m_nCurRow; }
     int CurrentColumn() const { return m_nCurCol; }
+    // The caller's value, 0 at first. A bad index reads 0 and writes nothing.
     DWORD_PTR GetRowData(int nRow) const;
     void SetRowData(int nRow, DWORD_PTR dwData);
 
-    // --- Cells
+    // --- Cells. Where there is none, nothing is written.
 
     // What is being typed in the cell, or its text. 0 for a cell that never had a text, and, with
     // str as it was, where there is no such cell or no memory.
     BOOL GetCellText(int nRow, int nCol, CString& str);
+    // Into the edit as well where the cell is being typed in, which tells of a change. Repaints.
     void SetCellText(int nRow, int nCol, const CString& str);
+    // The caller's value, 0 at first and where there is no such cell.
     DWORD_PTR GetItemData(int nRow, int nCol) const;
     void SetItemData(int nRow, int nCol, DWORD_PTR dwData);
-    // Disabling a cell, or making it read-only, drops what is being typed in it.
+    // Disabling a cell, or making it read-only, drops what is being typed in it. A cell that there
+    // is not is enabled, and not read-only.
     void EnableCell(int nRow, int nCol, BOOL bEnable);
     BOOL IsCellEnabled(int nRow, int nCol) const;
     void SetCellReadOnly(int nRow, int nCol, BOOL bReadOnly);
@@ -101,10 +111,12 @@ public:
 
     // --- Current cell
 
-    // bActivate opens the cell's editor, if it has one.
+    // Makes a cell current, and keeps what an open editor holds. bActivate opens the cell's edit,
+    // if it has one and may be edited. Without effect where there is no such cell.
     void GotoCell(int nRow, int nCol, BOOL bActivate);
+    // Scrolls as far as it must.
     void EnsureRowVisible(int nRow);
-    // Shows choices for the current cell.
+    // Shows choices under the current cell, with the line of its text selected. They are copied.
     void PopupList(CStringArray& strings);
     // How many lines of a list show at most; the list scrolls to the others, and keeps to the
     // screen. 0 is no limit: as tall as its choices, wherever that ends, as it has always been. For
@@ -112,38 +124,70 @@ public:
     void SetMaxListLines(int nLines);
 
 protected:
+    // --- Painting. dc has the grid's font and m_penGrid selected.
+
     void Draw(CDC& dc, const CRect& rcClient) override;
+    // bFocus: the focus is on the grid itself, and the current cell shows it.
     void DrawRow(CDC& dc, int nRow, const CRect& rcRow, BOOL bFocus);
+    // The text, nButtonWidth pixels being left free at the right, and the lines. dwStyle: GCS_
+    // bits.
     void DrawCell(CDC& dc, const CRect& rc, const CString& str, DWORD dwStyle, int nButtonWidth);
     void DrawButton(CDC& dc, const CRect& rc, GridColType nType, BOOL bPressed);
 
+    // --- The store
+
     BOOL IsValidRow(int nRow) const;
     BOOL IsValidColumn(int nCol) const;
+    // Whether cells of the column have a button; 0 for a bad index.
     BOOL UseFieldButton(int nCol) const;
     _QVGRID_ROW_INFO& RowAt(int nRow);  // unchecked
+    // The texts of a row string; no empty one behind a TAB at its end.
     void ParseRowString(const CString& strRow, CStringArray& fields) const;
+    // GCS_ bits; 0 where there is no such cell.
     DWORD GetCellStyle(int nRow, int nCol) const;
+    // TRUE if the style is another one then; the cell is repainted.
     BOOL ModifyCellStyle(int nRow, int nCol, DWORD dwAdd, DWORD dwRemove);
 
+    // --- Where things lie
+
+    // Measures the font: the grid's, or the parent's if it has none.
     void CalcCellHeight();
     void CalcRowRect(const CRect& rcClient, int nRow, CRect& rc);
+    // rc stays as it is for a cell that there is not.
     void CalcCellRect(int nRow, int nCol, CRect& rc);
+    // From a cell's rectangle, in place.
     void ButtonRectFromCellRect(CRect& rc);
-    void CalcScrollBars();
+    // Of the cell button that is being pressed, or was last.
+    CRect PressedButtonRect() const;
+    // Both -1 under the rows; column -1 right of the client area. bOnButton: where the cell's
+    // button would be, current or not.
     void CellFromPoint(const CPoint& pt, int& nRow, int& nCol);
     void CellFromPoint(const CPoint& pt, int& nRow, int& nCol, BOOL& bOnButton);
-    void ScrollUp(int nRows);
-    void ScrollDown(int nRows);
-    void ScrollTo(int nRow);
     void InvalidateCell(int nRow, int nCol, BOOL bErase);
     void InvalidateRow(int nRow, BOOL bErase);
 
+    // --- Scrolling. None goes beyond the first row or the last page.
+
+    // Shows or hides the bar and sets its range. The top row stays.
+    void CalcScrollBars();
+    void ScrollUp(int nRows);
+    void ScrollDown(int nRows);
+    void ScrollTo(int nRow);
+
+    // --- Editors. The grid may be gone afterwards, as the parent may be told.
+
+    // Opens the edit of a cell that has one, and keeps what another editor holds.
     void ActivateCell(int nRow, int nCol);
+    // Hide... drops what the editor holds, Save... keeps it.
     void HideEditCtrl();
     void SaveEditCtrl();
     void HideListBox();
     void SaveListBox();
+    // Keeps a list that is open; else opens it, or asks the parent for choices.
     void TogglePopupList();
+    // The editors' windows, which are made at first use: until then without a handle.
+    CEdit& InPlaceEdit() const;
+    CListBox& ChoiceList() const;
 
     afx_msg void OnPaint();
     afx_msg void OnSize(UINT nType, int cx, int cy);
@@ -166,9 +210,6 @@ protected:
     afx_msg void OnDestroy();
     DECLARE_MESSAGE_MAP()
 
-    // Of the cell button that is being pressed; client pixels.
-    CRect PressedButtonRect() const;
-
     int m_nCellHeight = -1;  // pixels; -1: measure before use
     int m_nTopRow = 0;       // -1 after DeleteAllRows, until the next row
     CPen m_penGrid;          // live for one Draw
@@ -186,7 +227,6 @@ private:
     bool CanRepaint() const { return m_bRedraw && m_hWnd != nullptr; }
     void InvalidateAll();
     void ShowTopRow(int nTop);
-    bool IsCurrent(int nRow, int nCol) const { return nRow == m_nCurRow && nCol == m_nCurCol; }
     bool ReadCell(int nRow, int nCol, CString& str) const;
     void DrawRows(CDC& dc, const CRect& rcClient);
 

@@ -97,6 +97,14 @@ void QVGridCtrl::SetMaxListLines(int nLines) {
     m_pCore->list.SetMaxLines(nLines);
 }
 
+CEdit& QVGridCtrl::InPlaceEdit() const {
+    return m_pCore->edit;
+}
+
+CListBox& QVGridCtrl::ChoiceList() const {
+    return m_pCore->list;
+}
+
 CRect QVGridCtrl::PressedButtonRect() const {
     return qv::ToCRect(m_pCore->editing.ButtonRect());
 }

@@ -96,7 +96,7 @@ void QVGridCtrl::DrawRow(CDC& dc, int nRow, const CRect& rcRow, BOOL bFocus) {
             DrawCell(dc, rc, strText, 0, 0);
             continue;
         }
-        const bool bCurrent = IsCurrent(nRow, nCol);
+        const bool bCurrent = m_pCore->editing.IsCurrent({nRow, nCol});
         const bool bButton = bCurrent && UseFieldButton(nCol) && (dwStyle & GCS_DISABLED) == 0 &&
                              !m_bReadOnly && !m_pCore->editing.IsLockedList({nRow, nCol});
         DrawCell(dc, rc, strText, dwStyle | (bCurrent && bFocus ? GCS_FOCUS : 0),

@@ -98,6 +98,8 @@ public:
         EXPECT_EQ(RowAt(0).dwState & GRS_CURRENT, GRS_CURRENT);
         EXPECT_FALSE(m_bEditing || m_bIgnoreFocus || m_bBtnDown || m_bBtnOver);
         EXPECT_TRUE(PressedButtonRect().IsRectEmpty());
+        EXPECT_EQ(InPlaceEdit().m_hWnd, nullptr);
+        EXPECT_EQ(ChoiceList().m_hWnd, nullptr);
         EXPECT_TRUE(m_bRedraw);
         EXPECT_EQ(m_nTopRow, 0);
         CRect rc;
