@@ -159,7 +159,3 @@ FailingHeap::~FailingHeap() {
 int FailingHeap::Refused() const {
     return s_refusal.nRefused;
 }
-
-int FailingHeap::Asked() const {
-    return s_refusal.nAsked;
-}

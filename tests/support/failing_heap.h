@@ -23,8 +23,6 @@ public:
 
     /// Allocations refused so far. 0 in the end: the operation needs no more than nSucceeding.
     int Refused() const;
-    /// Allocations asked for so far, refused or not.
-    int Asked() const;
 };
 
 /// Runs an operation again and again and refuses its first allocation, then its second, and so on,

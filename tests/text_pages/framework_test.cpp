@@ -1,6 +1,5 @@
 // The framework's own texts: what is set comes back, and means the same to the wide calls.
 #include "page_text.h"
-#include "support/picture.h"
 
 #include <afxcmn.h>
 #include <afxdlgs.h>
@@ -15,97 +14,116 @@ BOOL MakePopup(CWnd& wnd) {
 }
 
 std::wstring WideTextOf(HWND hWnd) {
-    wchar_t szText[256] = L"";
-    ::GetWindowTextW(hWnd, szText, 256);
+    wchar_t szText[1000] = L"";
+    ::GetWindowTextW(hWnd, szText, 1000);
     return szText;
 }
 
-TEST(FrameworkText, CaptionsOfWindowsAndControls) {
-    CWnd parent;
+/// A member of a dialog's, exchanged with its control.
+class Field : public CWnd {
+public:
+    CString m_strValue;
+
+    void DoDataExchange(CDataExchange* pDX) override {
+        DDX_Text(pDX, 1, m_strValue);
+        DDV_MaxChars(pDX, m_strValue, 2000);
+    }
+};
+
+/// The words, and long texts round about the room that is tried first, with the characters at odd
+/// and even places.
+std::vector<PageWord> ShortAndLongTexts() {
+    std::vector<PageWord> words = PageWords();
+    for (size_t nChars = 25; nChars < 260; nChars += nChars < 140 ? 1 : 30) {
+        for (const char* pszBefore : {"", "x"}) {
+            const std::string str = pszBefore + LongWord(nChars).str;
+            words.push_back({FromPage(str), str});
+        }
+    }
+    return words;
+}
+
+TEST(FrameworkText, CaptionsRowsAndFieldsComeBackWhole) {
+    Field parent;
     ASSERT_TRUE(MakePopup(parent));
+    const CRect rc(0, 0, 100, 20);
     CEdit edit;
     CButton button;
     CStatic label;
-    const CRect rc(0, 0, 100, 20);
+    CStatusBar bar;
+    CMenu menu;
     ASSERT_TRUE(edit.Create(WS_CHILD | ES_AUTOHSCROLL, rc, &parent, 1));
     ASSERT_TRUE(button.Create("", WS_CHILD, rc, &parent, 2));
     ASSERT_TRUE(label.Create("", WS_CHILD, rc, &parent, 3));
-    for (const PageWord& word : PageWords()) {
+    ASSERT_TRUE(bar.Create(&parent));
+    ASSERT_TRUE(menu.CreatePopupMenu());
+    const UINT nIndicator = ID_SEPARATOR;
+    bar.SetIndicators(&nIndicator, 1);
+    wchar_t szWide[1000] = L"";
+    CString strBack;
+    for (const auto& [strWide, str] : ShortAndLongTexts()) {
         for (CWnd* pWnd : std::initializer_list<CWnd*>{&parent, &edit, &button, &label}) {
-            pWnd->SetWindowText(word.str.c_str());
-            EXPECT_EQ(word.strWide, WideTextOf(pWnd->m_hWnd));
-            CString strBack("before");
+            pWnd->SetWindowText(str.c_str());
+            EXPECT_EQ(strWide, WideTextOf(pWnd->m_hWnd));
             pWnd->GetWindowText(strBack);
-            EXPECT_EQ(word.str, std::string(strBack));
+            EXPECT_EQ(str, std::string(strBack));
             EXPECT_GE(pWnd->GetWindowTextLength(), strBack.GetLength());
-            char szBack[256] = "";
+            char szBack[1000] = "";
             pWnd->GetWindowText(szBack, sizeof szBack);
-            EXPECT_EQ(word.str, szBack);
+            EXPECT_EQ(str, szBack);
         }
         CWnd made;
-        ASSERT_TRUE(
-            made.CreateEx(0, nullptr, word.str.c_str(), WS_POPUP, 0, 0, 9, 9, nullptr, nullptr));
-        EXPECT_EQ(word.strWide, WideTextOf(made.m_hWnd));
+        ASSERT_TRUE(made.CreateEx(0, nullptr, str.c_str(), WS_POPUP, 0, 0, 9, 9, nullptr, nullptr));
+        EXPECT_EQ(strWide, WideTextOf(made.m_hWnd));
+        menu.InsertMenu(0, MF_BYPOSITION | MF_STRING, 7, str.c_str());
+        menu.GetMenuString(0, strBack, MF_BYPOSITION);
+        EXPECT_EQ(str, std::string(strBack));
+        ::GetMenuStringW(menu.m_hMenu, 0, szWide, 1000, MF_BYPOSITION);
+        EXPECT_EQ(strWide, szWide);
+        bar.SetPaneText(0, str.c_str());
+        ::SendMessageW(bar.m_hWnd, SB_GETTEXTW, 0, reinterpret_cast<LPARAM>(szWide));
+        EXPECT_EQ(strWide, szWide);
+        parent.m_strValue = str.c_str();
+        ASSERT_TRUE(parent.UpdateData(FALSE));
+        EXPECT_EQ(strWide, WideTextOf(edit.m_hWnd));
+        parent.m_strValue = "before";
+        ASSERT_TRUE(parent.UpdateData(TRUE));
+        EXPECT_EQ(str, std::string(parent.m_strValue));
     }
 }
 
-TEST(FrameworkText, MenusAndTheirRows) {
-    CMenu menu;
-    ASSERT_TRUE(menu.CreatePopupMenu());
-    UINT nID = 100;
-    for (const PageWord& word : PageWords()) {
-        ASSERT_TRUE(menu.AppendMenu(MF_STRING, ++nID, word.str.c_str()));
-        CString strBack;
-        menu.GetMenuString(nID, strBack, MF_BYCOMMAND);
-        EXPECT_EQ(word.str, std::string(strBack));
-        wchar_t szWide[256] = L"";
-        ::GetMenuStringW(menu.m_hMenu, nID, szWide, 256, MF_BYCOMMAND);
-        EXPECT_EQ(word.strWide, szWide);
-    }
-}
-
-TEST(FrameworkText, BoxesFindWhatTheyWereGiven) {
-    CWnd parent;
-    ASSERT_TRUE(MakePopup(parent));
-    CListBox list;
-    CComboBox combo;
-    ASSERT_TRUE(list.Create(WS_CHILD, CRect(0, 0, 100, 100), &parent, 1));
-    ASSERT_TRUE(combo.Create(WS_CHILD | CBS_DROPDOWN, CRect(0, 0, 100, 100), &parent, 2));
-    for (const PageWord& word : PageWords()) {
-        const int nItem = list.AddString(word.str.c_str());
-        CString strBack;
-        list.GetText(nItem, strBack);
-        EXPECT_EQ(word.str, std::string(strBack));
-        EXPECT_EQ(nItem, list.FindStringExact(-1, word.str.c_str()));
-        const int nChoice = combo.AddString(word.str.c_str());
-        combo.GetLBText(nChoice, strBack);
-        EXPECT_EQ(word.str, std::string(strBack));
-        combo.SetCurSel(combo.FindStringExact(-1, word.str.c_str()));
-        combo.GetWindowText(strBack);
-        EXPECT_EQ(word.str, std::string(strBack));
-    }
-}
-
-TEST(FrameworkText, CommonControls) {
+TEST(FrameworkText, ItemsComeBackWhole) {
     CWnd parent;
     ASSERT_TRUE(MakePopup(parent));
     const CRect rc(0, 0, 100, 100);
+    CListBox box;
+    CComboBox combo;
     CListCtrl list;
     CTreeCtrl tree;
     CTabCtrl tab;
     CHeaderCtrl header;
-    ASSERT_TRUE(list.Create(WS_CHILD | LVS_REPORT, rc, &parent, 1));
-    ASSERT_TRUE(tree.Create(WS_CHILD, rc, &parent, 2));
-    ASSERT_TRUE(tab.Create(WS_CHILD, rc, &parent, 3));
-    ASSERT_TRUE(header.Create(WS_CHILD, rc, &parent, 4));
+    ASSERT_TRUE(box.Create(WS_CHILD, rc, &parent, 1));
+    ASSERT_TRUE(combo.Create(WS_CHILD | CBS_DROPDOWN | CBS_AUTOHSCROLL, rc, &parent, 2));
+    ASSERT_TRUE(list.Create(WS_CHILD | LVS_REPORT, rc, &parent, 3));
+    ASSERT_TRUE(tree.Create(WS_CHILD, rc, &parent, 4));
+    ASSERT_TRUE(tab.Create(WS_CHILD, rc, &parent, 5));
+    ASSERT_TRUE(header.Create(WS_CHILD, rc, &parent, 6));
     list.InsertColumn(0, "column", LVCFMT_LEFT, 50);
-    for (const PageWord& word : PageWords()) {
-        const int nItem = list.InsertItem(0, word.str.c_str());
-        EXPECT_EQ(word.str, std::string(list.GetItemText(nItem, 0)));
-        const HTREEITEM hItem = tree.InsertItem(word.str.c_str());
-        EXPECT_EQ(word.str, std::string(tree.GetItemText(hItem)));
-        char szBack[256] = "";
-        std::string strText(word.str);
+    CString strBack;
+    for (auto& [strWide, str] : ShortAndLongTexts()) {
+        const int nItem = box.AddString(str.c_str());
+        box.GetText(nItem, strBack);
+        EXPECT_EQ(str, std::string(strBack));
+        EXPECT_EQ(nItem, box.FindStringExact(-1, str.c_str()));
+        combo.GetLBText(combo.AddString(str.c_str()), strBack);
+        EXPECT_EQ(str, std::string(strBack));
+        combo.SetCurSel(combo.FindStringExact(-1, str.c_str()));
+        combo.GetWindowText(strBack);
+        EXPECT_EQ(str, std::string(strBack));
+        EXPECT_EQ(str, std::string(list.GetItemText(list.InsertItem(0, str.c_str()), 0)));
+        EXPECT_EQ(str, std::string(tree.GetItemText(tree.InsertItem(str.c_str()))));
+        char szBack[1000] = "";
+        std::string strText(str);
         TCITEM tabItem = {};
         tabItem.mask = TCIF_TEXT;
         tabItem.pszText = strText.data();
@@ -113,7 +131,7 @@ TEST(FrameworkText, CommonControls) {
         tabItem.pszText = szBack;
         tabItem.cchTextMax = sizeof szBack;
         EXPECT_TRUE(tab.GetItem(nTab, &tabItem));
-        EXPECT_EQ(word.str, szBack);
+        EXPECT_EQ(str, szBack);
         HDITEM column = {};
         column.mask = HDI_TEXT;
         column.pszText = strText.data();
@@ -121,48 +139,7 @@ TEST(FrameworkText, CommonControls) {
         column.pszText = szBack;
         column.cchTextMax = sizeof szBack;
         EXPECT_TRUE(header.GetItem(nColumn, &column));
-        EXPECT_EQ(word.str, szBack);
-    }
-}
-
-TEST(FrameworkText, LongTextsComeBackWhole) {
-    CWnd parent;
-    ASSERT_TRUE(MakePopup(parent));
-    const CRect rc(0, 0, 100, 100);
-    CListCtrl list;
-    CTreeCtrl tree;
-    CMenu menu;
-    CStatusBar bar;
-    ASSERT_TRUE(list.Create(WS_CHILD | LVS_REPORT, rc, &parent, 1));
-    ASSERT_TRUE(tree.Create(WS_CHILD, rc, &parent, 2));
-    ASSERT_TRUE(menu.CreatePopupMenu());
-    ASSERT_TRUE(bar.Create(&parent));
-    const UINT indicators[] = {ID_SEPARATOR};
-    bar.SetIndicators(indicators, 1);
-    list.InsertColumn(0, "column", LVCFMT_LEFT, 50);
-    // Round about the room that is tried first, with the characters at odd and even places.
-    for (size_t nChars = 25; nChars < 260; nChars += nChars < 140 ? 1 : 30) {
-        for (const char* pszBefore : {"", "x"}) {
-            const std::string str = pszBefore + LongWord(nChars).str;
-            list.DeleteAllItems();
-            list.InsertItem(0, "first");
-            list.SetItemText(0, 0, str.c_str());
-            EXPECT_EQ(str, std::string(list.GetItemText(0, 0)));
-            const HTREEITEM hItem = tree.InsertItem(str.c_str());
-            EXPECT_EQ(str, std::string(tree.GetItemText(hItem)));
-            parent.SetWindowText(str.c_str());
-            CString strBack;
-            parent.GetWindowText(strBack);
-            EXPECT_EQ(str, std::string(strBack));
-            menu.AppendMenu(MF_STRING, static_cast<UINT>(nChars), str.c_str());
-            menu.GetMenuString(static_cast<UINT>(menu.GetMenuItemCount()) - 1, strBack,
-                               MF_BYPOSITION);
-            EXPECT_EQ(str, std::string(strBack));
-            bar.SetPaneText(0, str.c_str());
-            wchar_t szWide[600] = L"";
-            ::SendMessageW(bar.m_hWnd, SB_GETTEXTW, 0, reinterpret_cast<LPARAM>(szWide));
-            EXPECT_EQ(FromPage(str), szWide);
-        }
+        EXPECT_EQ(str, szBack);
     }
 }
 
@@ -219,33 +196,6 @@ TEST(FrameworkText, StringsFromResources) {
     ::FreeLibrary(hModule);
 }
 
-/// A field of a dialog, exchanged without the dialog.
-class Field : public CWnd {
-public:
-    CString m_strValue;
-    int m_nMost = 200;
-
-    void DoDataExchange(CDataExchange* pDX) override {
-        DDX_Text(pDX, 1, m_strValue);
-        DDV_MaxChars(pDX, m_strValue, m_nMost);
-    }
-};
-
-TEST(FrameworkText, FieldsOfDialogs) {
-    Field parent;
-    ASSERT_TRUE(MakePopup(parent));
-    CEdit edit;
-    ASSERT_TRUE(edit.Create(WS_CHILD | ES_AUTOHSCROLL, CRect(0, 0, 50, 20), &parent, 1));
-    for (const PageWord& word : PageWords()) {
-        parent.m_strValue = word.str.c_str();
-        ASSERT_TRUE(parent.UpdateData(FALSE));
-        EXPECT_EQ(word.strWide, WideTextOf(edit.m_hWnd));
-        parent.m_strValue = "before";
-        ASSERT_TRUE(parent.UpdateData(TRUE));
-        EXPECT_EQ(word.str, std::string(parent.m_strValue));
-    }
-}
-
 // Character by character, whatever bytes those have.
 TEST(FrameworkText, StringsAreCutAtCharacters) {
     for (const PageWord& word : PageWords()) {
@@ -265,6 +215,11 @@ TEST(FrameworkText, StringsAreCutAtCharacters) {
         EXPECT_EQ(1, strBetween.Find(str));
         EXPECT_EQ(0, str.Compare(str));
         EXPECT_EQ(0, str.CompareNoCase(CString(str)));
+
+        const CString strTwo = "<" + str + ">";
+        int nAt = 0;
+        EXPECT_STREQ("<", strTwo.Tokenize(str, nAt));
+        EXPECT_STREQ(">", strTwo.Tokenize(str, nAt)) << "behind the whole delimiter";
 
         // A set of other characters that share bytes with these.
         for (const PageWord& other : PageWords()) {
@@ -360,83 +315,6 @@ TEST(FrameworkText, FoldersOfChosenFiles) {
         ASSERT_NE(nullptr, pos);
         EXPECT_EQ("C:\\" + word.str + "\\two", std::string(dlg.GetNextPathName(pos)));
         EXPECT_EQ(nullptr, pos);
-    }
-}
-
-/// Two pictures of the same words: the context's own calls, and the wide ones.
-class DrawingWnd : public CWnd {
-public:
-    PageWord m_word;
-    bool m_bWide = false;
-
-    std::vector<int> m_extents;
-
-protected:
-    LRESULT WindowProc(UINT nMessage, WPARAM wParam, LPARAM lParam) override {
-        if (nMessage != WM_PAINT) {
-            return CWnd::WindowProc(nMessage, wParam, lParam);
-        }
-        CPaintDC dc(this);
-        CFont font;
-        font.CreatePointFont(100, "Tahoma");
-        CFont* pOld = dc.SelectObject(&font);
-        CRect rc(0, 0, 300, 200);
-        dc.FillSolidRect(rc, RGB(255, 255, 255));
-        rc.top = 60;
-        m_extents.clear();
-        m_bWide ? DrawWide(dc, rc) : DrawByFramework(dc, rc);
-        dc.SelectObject(pOld);
-        return 0;
-    }
-
-private:
-    void DrawByFramework(CDC& dc, CRect rc) {
-        const CString str(m_word.str.c_str());
-        INT nTab = 70;
-        dc.TextOut(0, 0, str);
-        dc.ExtTextOut(0, 20, ETO_CLIPPED, rc, str, nullptr);
-        dc.TabbedTextOut(0, 40, "\t" + str, str.GetLength() + 1, 1, &nTab, 0);
-        dc.DrawText(str, rc, DT_RIGHT | DT_NOPREFIX);
-        dc.DrawState(CPoint(0, 100), CSize(200, 20), str, DSS_NORMAL, FALSE);
-        const CSize size = dc.GetTextExtent(str);
-        m_extents = {static_cast<int>(size.cx), static_cast<int>(size.cy)};
-        std::vector<int> dx(static_cast<size_t>(str.GetLength()));
-        SIZE sizeAll = {};
-        dc.GetTextExtentExPoint(str, str.GetLength(), 0, nullptr, dx.data(), &sizeAll);
-        m_extents.push_back(dx.back());
-    }
-    void DrawWide(CDC& dc, CRect rc) {
-        const std::wstring& str = m_word.strWide;
-        const int nLength = static_cast<int>(str.size());
-        INT nTab = 70;
-        ::TextOutW(dc, 0, 0, str.c_str(), nLength);
-        ::ExtTextOutW(dc, 0, 20, ETO_CLIPPED, rc, str.c_str(), static_cast<UINT>(nLength), nullptr);
-        ::TabbedTextOutW(dc, 0, 40, (L"\t" + str).c_str(), nLength + 1, 1, &nTab, 0);
-        ::DrawTextW(dc, str.c_str(), nLength, rc, DT_RIGHT | DT_NOPREFIX);
-        ::DrawStateW(dc, nullptr, nullptr, reinterpret_cast<LPARAM>(str.c_str()), 0, 0, 100, 200,
-                     20, DST_TEXT | DSS_NORMAL);
-        SIZE size = {};
-        ::GetTextExtentPoint32W(dc, str.c_str(), nLength, &size);
-        m_extents = {static_cast<int>(size.cx), static_cast<int>(size.cy),
-                     static_cast<int>(size.cx)};
-    }
-};
-
-TEST(FrameworkText, ContextsDrawAndMeasureTheSame) {
-    DrawingWnd wnd;
-    ASSERT_TRUE(MakePopup(wnd));
-    wnd.ShowWindow(SW_SHOWNA);
-    for (const PageWord& word : PageWords()) {
-        wnd.m_word = word;
-        wnd.m_bWide = false;
-        wnd.Invalidate();
-        const Picture picture = Picture::OfClient(wnd.m_hWnd);
-        const std::vector<int> extents = wnd.m_extents;
-        wnd.m_bWide = true;
-        wnd.Invalidate();
-        EXPECT_TRUE(Picture::OfClient(wnd.m_hWnd) == picture) << word.str;
-        EXPECT_EQ(wnd.m_extents, extents) << word.str;
-        EXPECT_GT(picture.Count(RGB(0, 0, 0)), 0);
     }
 }
 

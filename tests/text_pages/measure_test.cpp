@@ -5,51 +5,11 @@
 #include "frame/text_out.h"
 #include "frame/wide_text.h"
 #include "page_text.h"
+#include "sheet.h"
 
 #include <gtest/gtest.h>
 
 namespace {
-
-constexpr COLORREF kInk = RGB(0, 0, 0);
-
-// A bitmap to draw on, white, with a font of its own.
-class Sheet : public CDC {
-public:
-    explicit Sheet(int nPoints = 90, CSize size = CSize(300, 120)) : m_size(size) {
-        CreateCompatibleDC(nullptr);
-        BITMAPINFO info{};
-        info.bmiHeader = {sizeof info.bmiHeader, size.cx, -size.cy, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-        m_hBitmap = ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &m_pBits, nullptr, 0);
-        m_hOldBitmap = ::SelectObject(m_hDC, m_hBitmap);
-        m_font.CreatePointFont(nPoints, "Tahoma");
-        m_hOldFont = ::SelectObject(m_hDC, m_font);
-        ::PatBlt(m_hDC, 0, 0, size.cx, size.cy, WHITENESS);
-    }
-    ~Sheet() override {
-        ::SelectObject(m_hDC, m_hOldFont);
-        ::SelectObject(m_hDC, m_hOldBitmap);
-        ::DeleteObject(m_hBitmap);
-    }
-    std::vector<DWORD> Pixels() const {
-        ::GdiFlush();
-        const auto* p = static_cast<const DWORD*>(m_pBits);
-        return {p, p + m_size.cx * m_size.cy};
-    }
-    int WideWidth(const std::wstring& str) const {
-        SIZE size{};
-        ::GetTextExtentPoint32W(m_hAttribDC, str.data(), static_cast<int>(str.size()), &size);
-        return static_cast<int>(size.cx);
-    }
-    HFONT Font() const { return static_cast<HFONT>(m_font.GetSafeHandle()); }
-
-private:
-    CSize m_size;
-    void* m_pBits = nullptr;
-    HBITMAP m_hBitmap = nullptr;
-    HGDIOBJ m_hOldBitmap = nullptr;
-    HGDIOBJ m_hOldFont = nullptr;
-    CFont m_font;
-};
 
 std::vector<PageWord> WordsAndALongOne() {
     std::vector<PageWord> words = PageWords();

@@ -115,20 +115,22 @@ BOOL CDC::DeleteDC() {
 }
 
 int CDC::SaveDC() {
-    if (m_hAttribDC == m_hDC || m_hAttribDC == nullptr) {
-        return ::SaveDC(m_hDC);
-    }
-    // Both stacks move together; the output's number is the one to give back.
-    ::SaveDC(m_hAttribDC);
-    return ::SaveDC(m_hDC);
+    // The output's number is the one to give back.
+    const int nAttrib = m_hAttribDC != m_hDC && m_hAttribDC != nullptr ? ::SaveDC(m_hAttribDC) : 0;
+    return m_hDC != nullptr ? ::SaveDC(m_hDC) : nAttrib;
 }
 
 BOOL CDC::RestoreDC(int nSavedDC) {
-    const BOOL bRestored = ::RestoreDC(m_hDC, nSavedDC);
-    if (m_hAttribDC != nullptr && m_hAttribDC != m_hDC) {
-        ::RestoreDC(m_hAttribDC, nSavedDC);
+    if (m_hDC == nullptr || m_hAttribDC == nullptr || m_hAttribDC == m_hDC) {
+        return ::RestoreDC(m_hDC != nullptr ? m_hDC : m_hAttribDC, nSavedDC);
     }
-    return bRestored;
+    // Somebody may have saved one of the two before: by number they differ, step by step they agree.
+    int nSteps = nSavedDC;
+    if (nSavedDC > 0) {
+        nSteps -= ::SaveDC(m_hDC);
+        ::RestoreDC(m_hDC, -1);
+    }
+    return nSteps < 0 && ::RestoreDC(m_hDC, nSteps) && ::RestoreDC(m_hAttribDC, nSteps);
 }
 
 int CDC::GetDeviceCaps(int nIndex) const {

@@ -128,7 +128,11 @@ UINT CMenu::GetMenuState(UINT nID, UINT nFlags) const {
     return ::GetMenuState(m_hMenu, nID, nFlags);
 }
 int CMenu::GetMenuString(UINT nID, LPTSTR lpString, int nMaxCount, UINT nFlags) const {
-    return ::GetMenuString(m_hMenu, nID, lpString, nMaxCount, nFlags);
+    const int nLength = ::GetMenuString(m_hMenu, nID, lpString, nMaxCount, nFlags);
+    if (lpString != nullptr && nMaxCount > 0) {
+        lpString[nMaxCount - 1] = 0;  // not every platform ends what it cuts
+    }
+    return nLength;
 }
 int CMenu::GetMenuString(UINT nID, CString& rString, UINT nFlags) const {
     const int nLength = ::GetMenuString(m_hMenu, nID, nullptr, 0, nFlags);

@@ -138,7 +138,7 @@ public:
         }
     }
     void RemoveAt(INT_PTR nIndex, INT_PTR nCount = 1) {
-        if (nIndex < 0 || nCount < 0 || nIndex + nCount > GetSize()) {
+        if (nIndex < 0 || nCount < 0 || nCount > GetSize() - nIndex) {
             AfxThrowInvalidArgException();
         }
         m_data.erase(m_data.begin() + nIndex, m_data.begin() + nIndex + nCount);

@@ -187,7 +187,9 @@ void CFile::Remove(LPCTSTR lpszFileName) {
 
 CStdioFile::CStdioFile() = default;
 
-CStdioFile::CStdioFile(FILE* pOpenStream) : m_pStream(pOpenStream) {}
+CStdioFile::CStdioFile(FILE* pOpenStream)
+    : CFile(reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(pOpenStream)))),
+      m_pStream(pOpenStream) {}
 
 CStdioFile::CStdioFile(LPCTSTR lpszFileName, UINT nOpenFlags) {
     CFileException error;
@@ -267,6 +269,7 @@ void CStdioFile::Write(const void* lpBuf, UINT nCount) {
 
 void CStdioFile::WriteString(LPCTSTR lpsz) {
     if (std::fputs(lpsz, m_pStream) == EOF) {
+        std::clearerr(m_pStream);
         AfxThrowFileException(CFileException::diskFull, -1, m_strFileName);
     }
 }
@@ -344,25 +347,27 @@ CMemFile::~CMemFile() {
 }
 
 void CMemFile::Close() {
-    std::free(m_pBuffer);
-    m_pBuffer = nullptr;
-    m_nBufferSize = m_nFileSize = m_nPosition = 0;
-}
-
-void CMemFile::Attach(BYTE* lpBuffer, UINT nBufferSize, UINT nGrowBytes) {
-    CMemFile::Close();
-    m_pBuffer = lpBuffer;
-    m_nBufferSize = nBufferSize;
-    m_nGrowBytes = nGrowBytes;
-    // A block that may grow counts as empty, one that may not as full.
-    m_nFileSize = nGrowBytes == 0 ? nBufferSize : 0;
+    BYTE* pBuffer = m_bOwnsBuffer ? m_pBuffer : nullptr;
+    Detach();
+    std::free(pBuffer);
 }
 
 BYTE* CMemFile::Detach() {
     BYTE* pBuffer = m_pBuffer;
     m_pBuffer = nullptr;
+    m_bOwnsBuffer = true;
     m_nBufferSize = m_nFileSize = m_nPosition = 0;
     return pBuffer;
+}
+
+void CMemFile::Attach(BYTE* lpBuffer, UINT nBufferSize, UINT nGrowBytes) {
+    CMemFile::Close();
+    m_pBuffer = lpBuffer;
+    m_bOwnsBuffer = false;
+    m_nBufferSize = nBufferSize;
+    m_nGrowBytes = nGrowBytes;
+    // A block that may grow counts as empty, one that may not as full.
+    m_nFileSize = nGrowBytes == 0 ? nBufferSize : 0;
 }
 
 void CMemFile::Grow(size_t nSize) {

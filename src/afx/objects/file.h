@@ -119,7 +119,8 @@ public:
     explicit CMemFile(UINT nGrowBytes = 1024);
     ~CMemFile() override;
 
-    /// Takes a block made by malloc over; Detach gives it back.
+    /// Works on a block of the caller's, who frees it. With nGrowBytes it counts as empty and must
+    /// come from malloc: it moves as it grows, and Detach tells where to.
     void Attach(BYTE* lpBuffer, UINT nBufferSize, UINT nGrowBytes = 0);
     BYTE* Detach();
 
@@ -142,4 +143,5 @@ private:
     size_t m_nBufferSize = 0;
     size_t m_nFileSize = 0;
     BYTE* m_pBuffer = nullptr;
+    bool m_bOwnsBuffer = true;
 };

@@ -24,6 +24,10 @@ EmptyString& Nothing() {
 // Lengths are int, and header and terminator come on top.
 constexpr int kMostBytes = INT_MAX - 64;
 
+bool IsLocked(const CStringData& data) {
+    return data.nRefs < 0 && &data != &Nothing().data;
+}
+
 int Length(LPCSTR lpsz) {
     return lpsz != nullptr ? static_cast<int>(std::strlen(lpsz)) : 0;
 }
@@ -35,7 +39,7 @@ CString::CString() : m_pchData(Nothing().data.data()) {}
 CString::CString(const CString& stringSrc) : m_pchData(stringSrc.m_pchData) {
     if (Data()->nRefs >= 0) {
         ++Data()->nRefs;
-    } else if (Data() != &Nothing().data) {  // a locked buffer is not shared
+    } else if (IsLocked(*Data())) {  // a locked buffer is not shared
         m_pchData = Nothing().data.data();
         Assign(stringSrc.m_pchData, stringSrc.GetLength());
     }
@@ -105,7 +109,7 @@ void CString::Assign(LPCSTR lpch, int nLength) {
         Release();
         return;
     }
-    if (Data()->nRefs == 1 && Data()->nAllocLength >= nLength) {
+    if ((Data()->nRefs == 1 || IsLocked(*Data())) && Data()->nAllocLength >= nLength) {
         std::memmove(m_pchData, lpch, static_cast<size_t>(nLength));
         Data()->nDataLength = nLength;
         m_pchData[nLength] = 0;
@@ -120,8 +124,7 @@ void CString::Assign(LPCSTR lpch, int nLength) {
 // Makes the text this string's own, with room for nRoom bytes.
 void CString::MakeUnique(int nRoom) {
     const int nLength = GetLength();
-    const bool bOwn = Data()->nRefs == 1 || (Data()->nRefs < 0 && Data() != &Nothing().data);
-    if (bOwn && Data()->nAllocLength >= nRoom) {
+    if ((Data()->nRefs == 1 || IsLocked(*Data())) && Data()->nAllocLength >= nRoom) {
         return;
     }
     CString strNew;
@@ -151,7 +154,9 @@ void CString::SetAt(int nIndex, char ch) {
 }
 
 CString& CString::operator=(const CString& stringSrc) {
-    if (m_pchData != stringSrc.m_pchData) {
+    if (IsLocked(*Data())) {
+        Assign(stringSrc.m_pchData, stringSrc.GetLength());
+    } else if (m_pchData != stringSrc.m_pchData) {
         CString strNew(stringSrc);
         std::swap(m_pchData, strNew.m_pchData);
     }
@@ -297,7 +302,7 @@ LPSTR CString::LockBuffer() {
 }
 
 void CString::UnlockBuffer() {
-    if (Data() != &Nothing().data) {
+    if (IsLocked(*Data())) {
         Data()->nRefs = 1;
     }
 }

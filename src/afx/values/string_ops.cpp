@@ -122,7 +122,8 @@ CString CString::Tokenize(LPCSTR pszTokens, int& iStart) const {
         const int nFirst = iStart + SpanOf(m_pchData + iStart, isToken);
         if (nFirst < GetLength()) {
             const int nCount = SpanOf(m_pchData + nFirst, [&](LPCSTR p) { return !isToken(p); });
-            iStart = nFirst + nCount + 1;
+            LPCSTR pEnd = m_pchData + nFirst + nCount;
+            iStart = nFirst + nCount + (*pEnd != 0 ? static_cast<int>(NextChar(pEnd) - pEnd) : 1);
             return Mid(nFirst, nCount);
         }
     }

@@ -60,19 +60,16 @@ TEST(AppSettings, ComeBackFromTheRegistryAndFromTheIniFile) {
     }
 }
 
-TEST(AppStrings, PlaceholdersAreReplaced) {
-    CString str;
-    AfxFormatString2(str, AFX_IDP_PARSE_INT_RANGE, "%2", "9");
-    EXPECT_STREQ(str, "Please enter a whole number from %2 to 9.");
-}
-
-TEST(AppMessageBoxes, GoThroughTheApplication) {
+TEST(AppMessages, AreFilledInAndGoThroughTheApplication) {
     TestApp& app = TheTestApp();
     app.Forget();
     app.m_nAnswer = IDRETRY;
     EXPECT_EQ(AfxMessageBox("text"), IDRETRY);
     EXPECT_EQ(AfxMessageBox(AFX_IDP_PARSE_INT), IDRETRY);
     app.m_nAnswer = IDOK;
+    CString str;
+    AfxFormatString2(str, AFX_IDP_PARSE_INT_RANGE, "%2", "9");
+    EXPECT_STREQ(str, "Please enter a whole number from %2 to 9.");
     EXPECT_EQ(app.m_prompts, (std::vector<std::string>{"text", "Please enter a whole number."}));
 }
 

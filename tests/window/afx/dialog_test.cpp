@@ -107,18 +107,16 @@ TEST(ModalDialogs, ShowThemselvesWhenTheQueueIsEmpty_ThenIdle) {
     bool bShownAtFirst = true;
     bool bShownLater = false;
     dlg.m_action = [&](ModalDialog& d) {
-        if (nActions++ == 0) {
-            bShownAtFirst = d.IsWindowVisible() != FALSE;
-        }
+        bShownLater = d.IsWindowVisible() != FALSE;
+        bShownAtFirst &= nActions++ > 0 || bShownLater;
         // On a busy machine the timer may come before the idle calls are through.
         constexpr int kTries = 100;
         if (d.m_lLongestIdle < kIdleRounds && nActions < kTries) {
             constexpr UINT kSoon = 10;  // milliseconds
             d.SetTimer(1, kSoon, ActLater);
-            return;
+        } else {
+            d.EndDialog(1);
         }
-        bShownLater = d.IsWindowVisible() != FALSE;
-        d.EndDialog(1);
     };
     EXPECT_EQ(dlg.DoModal(), 1);
     EXPECT_FALSE(bShownAtFirst) << "the first message was there before the first idle time";
@@ -126,25 +124,21 @@ TEST(ModalDialogs, ShowThemselvesWhenTheQueueIsEmpty_ThenIdle) {
     EXPECT_EQ(dlg.m_lLongestIdle, kIdleRounds) << "called again while it gives TRUE, then no more";
 }
 
-TEST(ModalDialogs, NestAndComeBackInOrder) {
+TEST(ModalDialogs, Nest) {
     RecordingParent parent;
-    std::vector<int> order;
     ModalDialog outer(&parent);
     outer.m_action = [&](ModalDialog& d) {
         ModalDialog inner(&d);
         inner.m_action = [&](ModalDialog& i) {
             EXPECT_FALSE(d.IsWindowEnabled());
-            order.push_back(1);
             i.EndDialog(11);
         };
         EXPECT_EQ(inner.DoModal(), 11);
         EXPECT_TRUE(d.IsWindowEnabled());
         EXPECT_FALSE(parent.IsWindowEnabled());
-        order.push_back(2);
         d.EndDialog(22);
     };
     EXPECT_EQ(outer.DoModal(), 22);
-    EXPECT_EQ(order, (std::vector<int>{1, 2}));
 }
 
 TEST(ModalDialogs, EndedWhileBeingMade_NeverRun) {
@@ -154,48 +148,28 @@ TEST(ModalDialogs, EndedWhileBeingMade_NeverRun) {
     dlg.m_action = [&](ModalDialog&) { ++nActions; };
     EXPECT_EQ(dlg.DoModal(), 5);
     EXPECT_EQ(nActions, 0);
-}
-
-TEST(ModalDialogs, WithoutTemplate_GiveMinusOne) {
-    ModalDialog dlg(nullptr, 9999);
-    EXPECT_EQ(dlg.DoModal(), -1);
-}
-
-TEST(ModalDialogs, AnExceptionInTheirInitialization_EndsThem) {
-    TheTestApp().Forget();
-    ModalDialog dlg;
-    dlg.m_init = [](ModalDialog&) { AfxThrowNotSupportedException(); };
-    EXPECT_EQ(dlg.DoModal(), -1);
-    EXPECT_EQ(TheTestApp().m_exceptions.size(), 1u);
-}
-
-TEST(ModalDialogs, DestroyedInsteadOfEnded_LeaveTheirLoop) {
-    ModalDialog dlg;
+    dlg.m_init = nullptr;
     dlg.m_action = [](ModalDialog& d) { d.DestroyWindow(); };
-    EXPECT_EQ(dlg.DoModal(), -1);
+    EXPECT_EQ(dlg.DoModal(), -1) << "destroyed instead of ended";
 }
 
 TEST(ModalDialogs, KeysWalkTheItems_UnlessPreTranslateMessageTakesThem) {
     ModalDialog dlg;
-    HWND hFirst = nullptr;
-    HWND hSecond = nullptr;
-    HWND hThird = nullptr;
+    std::vector<int> focused;
     dlg.m_action = [&](ModalDialog& d) {
         BringToFront(d.m_hWnd);
-        hFirst = ::GetFocus();
+        const auto note = [&] { focused.push_back(::GetDlgCtrlID(::GetFocus())); };
+        note();
         TypeKey(VK_TAB);
-        hSecond = ::GetFocus();
+        note();
         d.m_bSwallowKeys = TRUE;
         TypeKey(VK_TAB);
-        hThird = ::GetFocus();
-        EXPECT_EQ(::GetDlgCtrlID(hFirst), IDC_NAME);
-        EXPECT_EQ(::GetDlgCtrlID(hSecond), IDOK);
-        EXPECT_EQ(hThird, hSecond);
+        note();
         d.m_bSwallowKeys = FALSE;
         TypeKey(VK_ESCAPE);
     };
     EXPECT_EQ(dlg.DoModal(), IDCANCEL);
-    EXPECT_NE(hFirst, nullptr);
+    EXPECT_EQ(focused, (std::vector<int>{IDC_NAME, IDOK, IDOK}));
 }
 
 TEST(ModelessDialogs, LiveBesideTheirParentUntilDestroyed) {
@@ -211,16 +185,15 @@ TEST(ModelessDialogs, LiveBesideTheirParentUntilDestroyed) {
     dlg.GotoDlgCtrl(dlg.GetDlgItem(IDCANCEL));
     EXPECT_TRUE(dlg.DestroyWindow());
     EXPECT_FALSE(dlg.Create(9999u, &parent));
+    EXPECT_EQ(ModalDialog(nullptr, 9999).DoModal(), -1);
 }
 
 /// A template in memory: a caption and nothing else.
 TEST(ModalDialogs, RunFromATemplateInMemory) {
     struct {
-        DLGTEMPLATE dlg = {};
+        DLGTEMPLATE dlg = {WS_POPUP | WS_CAPTION, 0, 0, 0, 0, 50, 50};
         WORD empty[4] = {};  // no menu, the usual class, no title
     } memory;
-    memory.dlg.style = WS_POPUP | WS_CAPTION;
-    memory.dlg.cx = memory.dlg.cy = 50;
     class MemoryDialog : public CDialog {
     public:
         BOOL OnInitDialog() override {
@@ -299,24 +272,6 @@ TEST(PreTranslate, WalksFromTheTargetUpToTheStop) {
     EXPECT_EQ(log, (std::vector<std::string>{"leaf", "middle"}));
 }
 
-TEST(RealInput, KeysAndClicksReachTheControls) {
-    RecordingParent parent;
-    CEdit edit;
-    CButton button;
-    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE, CRect(10, 10, 200, 40), &parent, 1));
-    ASSERT_TRUE(button.Create("Press", WS_CHILD | WS_VISIBLE, CRect(10, 60, 100, 90), &parent, 2));
-    ASSERT_TRUE(BringToFront(parent.m_hWnd));
-    edit.SetFocus();
-    ASSERT_TRUE(TypeText("Ab 1"));
-    CString strText;
-    edit.GetWindowText(strText);
-    EXPECT_STREQ(strText, "Ab 1");
-    ASSERT_TRUE(ClickAt(button.m_hWnd, CPoint(20, 10)));
-    ASSERT_TRUE(ClickAt(button.m_hWnd, CPoint(20, 10)));
-    EXPECT_EQ(parent.CountCommands(BN_CLICKED), 2);
-    EXPECT_EQ(CWnd::GetFocus(), &button);
-}
-
 TEST(FileDialogs, TakePathsAndFiltersApart) {
     CFileDialog dlg(TRUE, "txt", "C:\\folder\\name.tar.gz", OFN_ALLOWMULTISELECT,
                     "Texts (*.txt)|*.txt|All|*.*||");
@@ -327,13 +282,6 @@ TEST(FileDialogs, TakePathsAndFiltersApart) {
     EXPECT_STREQ(dlg.GetFileExt(), "gz");
     POSITION pos = dlg.GetStartPosition();
     EXPECT_STREQ(dlg.GetNextPathName(pos), "C:\\folder\\name.tar.gz");
-    EXPECT_EQ(pos, nullptr);
-
-    // As the system gives several files.
-    memcpy(dlg.m_ofn.lpstrFile, "C:\\folder\0a.txt\0b.txt\0", 23);
-    pos = dlg.GetStartPosition();
-    EXPECT_STREQ(dlg.GetNextPathName(pos), "C:\\folder\\a.txt");
-    EXPECT_STREQ(dlg.GetNextPathName(pos), "C:\\folder\\b.txt");
     EXPECT_EQ(pos, nullptr);
 }
 

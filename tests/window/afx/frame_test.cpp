@@ -111,11 +111,9 @@ TEST_F(Frames, TakeMenuTitleAndLayoutFromTheirResources) {
     m_pFrame->m_client.GetWindowRect(rcPane);
     m_pFrame->ScreenToClient(rcBar);
     m_pFrame->ScreenToClient(rcPane);
-    EXPECT_EQ(rcBar.bottom, rcClient.bottom);
-    EXPECT_EQ(rcBar.Width(), rcClient.Width());
-    EXPECT_GT(rcBar.Height(), 10);
     EXPECT_EQ(rcPane, CRect(0, 0, rcClient.right, rcBar.top));
-
+    EXPECT_EQ(rcBar, CRect(0, rcBar.top, rcClient.right, rcClient.bottom));
+    EXPECT_GT(rcBar.Height(), 10);
     m_pFrame->ShowControlBar(&m_pFrame->m_bar, FALSE, FALSE);
     m_pFrame->m_client.GetWindowRect(rcPane);
     EXPECT_EQ(rcPane.Height(), rcClient.Height());

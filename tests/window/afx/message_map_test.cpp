@@ -217,10 +217,7 @@ TEST_F(MessageMap, UpdateHandlers_MayPassTheQuestionOn) {
     state.m_nID = kRangeLast;
     EXPECT_FALSE(m_wnd.OnCmdMsg(kRangeLast, nUpdate, &state, nullptr));
     EXPECT_STREQ(m_wnd.Take(), "update 101;updaterange 112;");
-}
-
-TEST_F(MessageMap, HandlerInfo_AsksWithoutCalling) {
-    AFX_CMDHANDLERINFO info;
+    AFX_CMDHANDLERINFO info;  // asks without calling
     EXPECT_TRUE(m_wnd.OnCmdMsg(kCommand, CN_COMMAND, nullptr, &info));
     EXPECT_EQ(info.pTarget, &m_wnd);
     EXPECT_STREQ(m_wnd.Take(), "");
@@ -250,7 +247,11 @@ TEST_F(MessageMap, WindowMessages_AreTakenApart) {
               TRUE);
     EXPECT_EQ(m_wnd.SendMessage(WM_NCHITTEST, 0, lNegative), HTCAPTION);
     EXPECT_EQ(m_wnd.SendMessage(WM_GETDLGCODE), DLGC_WANTARROWS);
-    EXPECT_STREQ(m_wnd.Take(), "vscroll 5 300 0;activate 2 0 1;cursor 1 -2 513;hit -3,-20;");
+    DRAWITEMSTRUCT draw = {};
+    draw.itemID = 6;
+    EXPECT_EQ(m_wnd.SendMessage(WM_DRAWITEM, 5, reinterpret_cast<LPARAM>(&draw)), TRUE);
+    EXPECT_STREQ(m_wnd.Take(),
+                 "vscroll 5 300 0;activate 2 0 1;cursor 1 -2 513;hit -3,-20;draw 5 6;");
 }
 
 TEST_F(MessageMap, AllColourMessages_ComeAsOne) {
@@ -261,13 +262,6 @@ TEST_F(MessageMap, AllColourMessages_ComeAsOne) {
                   reinterpret_cast<LRESULT>(::GetStockObject(BLACK_BRUSH)));
     }
     EXPECT_STREQ(m_wnd.Take(), "color 1 1 1;color 1 1 2;color 1 1 6;");
-}
-
-TEST_F(MessageMap, OwnerDrawing_TellsTheSenderThatItWasDone) {
-    DRAWITEMSTRUCT draw = {};
-    draw.itemID = 6;
-    EXPECT_EQ(m_wnd.SendMessage(WM_DRAWITEM, 5, reinterpret_cast<LPARAM>(&draw)), TRUE);
-    EXPECT_STREQ(m_wnd.Take(), "draw 5 6;");
 }
 
 /// Derived in the program from a class of another module.

@@ -1,13 +1,11 @@
 // Printing into a file of the virtual printer, the print dialog's answers and the page range.
+#include "support/temp_file.h"
 #include "virtual_printer/virtual_printer.h"
 
 #include <afxdlgs.h>
 #include <afxext.h>
 
-#include <algorithm>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
 #include <string>
 #include <vector>
 
@@ -17,27 +15,6 @@ void FreeAnswer(CPrintDialog& dlg) {
     ::GlobalFree(dlg.m_pd.hDevMode);
     ::GlobalFree(dlg.m_pd.hDevNames);
 }
-
-/// A name for a file that goes away with this.
-class TempFile {
-public:
-    TempFile() {
-        char szFolder[MAX_PATH];
-        ::GetTempPath(sizeof szFolder, szFolder);
-        ::GetTempFileName(szFolder, "qvp", 0, m_szPath);
-    }
-    ~TempFile() { ::DeleteFile(m_szPath); }
-    TempFile(const TempFile&) = delete;
-    TempFile& operator=(const TempFile&) = delete;
-    LPCTSTR Path() const { return m_szPath; }
-    std::string Content() const {
-        std::ifstream file(m_szPath, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
-
-private:
-    char m_szPath[MAX_PATH] = {};
-};
 
 /// A machine with the virtual printer as its default; others have nothing to measure by.
 class Print : public testing::Test {
@@ -71,20 +48,19 @@ TEST(PrintWithoutPrinter, DefaultsAreRefusedInSilence) {
 }
 
 TEST_F(Print, ASecondCallChangesNothing) {
+    const auto printers = [] {
+        DWORD nBytes = 0;
+        DWORD nPrinters = 0;
+        ::EnumPrinters(PRINTER_ENUM_LOCAL, nullptr, 4, nullptr, 0, &nBytes, &nPrinters);
+        std::vector<BYTE> buffer(nBytes);
+        ::EnumPrinters(PRINTER_ENUM_LOCAL, nullptr, 4, buffer.data(), nBytes, &nBytes, &nPrinters);
+        return nPrinters;
+    };
+    const DWORD nBefore = printers();
+    EXPECT_GT(nBefore, 0u);
     std::string strError;
     EXPECT_TRUE(EnsureVirtualPrinter(strError)) << strError;
-    DWORD nBytes = 0;
-    DWORD nPrinters = 0;
-    ::EnumPrinters(PRINTER_ENUM_LOCAL, nullptr, 4, nullptr, 0, &nBytes, &nPrinters);
-    std::vector<BYTE> buffer(nBytes);
-    ASSERT_TRUE(
-        ::EnumPrinters(PRINTER_ENUM_LOCAL, nullptr, 4, buffer.data(), nBytes, &nBytes, &nPrinters));
-    const auto* pPrinters = reinterpret_cast<const PRINTER_INFO_4*>(buffer.data());
-    EXPECT_EQ(std::count_if(pPrinters, pPrinters + nPrinters,
-                            [](const PRINTER_INFO_4& printer) {
-                                return lstrcmp(printer.pPrinterName, kVirtualPrinterName) == 0;
-                            }),
-              1);
+    EXPECT_EQ(printers(), nBefore);
 }
 
 TEST_F(Print, ADocumentGoesToTheFileAsPostScript) {

@@ -1,0 +1,160 @@
+// Arrays, lists and maps.
+#include <afxcoll.h>
+
+#include <functional>
+#include <gtest/gtest.h>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace {
+
+std::string Show(const CStringArray& array) {
+    std::string strShown;
+    for (INT_PTR i = 0; i < array.GetSize(); ++i) {
+        strShown += std::string(array[i]) + ",";
+    }
+    return strShown;
+}
+
+/// "0,1,2,", with no room for more.
+void Fill(CStringArray& array) {
+    for (const char* psz : {"0", "1", "2"}) {
+        array.Add(psz);
+    }
+    array.FreeExtra();
+}
+
+TEST(Array, GrowsWithNewElementsZero) {
+    CDWordArray numbers;
+    EXPECT_EQ(numbers.GetUpperBound(), -1);
+    EXPECT_EQ(numbers.GetData(), nullptr);
+    numbers.Add(7);
+    numbers.SetSize(3);
+    numbers.SetAtGrow(5, 9);
+    numbers.InsertAt(8, 1, 2);
+    EXPECT_EQ(std::vector<DWORD>(numbers.GetData(), numbers.GetData() + numbers.GetSize()),
+              (std::vector<DWORD>{7, 0, 0, 0, 0, 9, 0, 0, 1, 1}));
+    numbers.SetSize(1);
+    numbers.SetSize(6);
+    EXPECT_EQ(numbers[5], 0u) << "what was cut off does not come back";
+    CDWordArray grown;
+    grown.SetSize(0, 100);
+    grown.Add(0);
+    const DWORD* pData = grown.GetData();
+    grown.SetSize(100);
+    EXPECT_EQ(grown.GetData(), pData) << "by a hundred at a time";
+    CArray<bool> bits;
+    bits.SetSize(9);
+    bits.GetData()[8] = true;
+    EXPECT_TRUE(bits[8]);
+}
+
+TEST(Array, ElementsMayBeCopiesOfItsOwn) {
+    const struct {
+        std::function<void(CStringArray&)> change;
+        const char* pszResult;
+    } cases[] = {{[](CStringArray& a) { a.Add(a[0]); }, "0,1,2,0,"},
+                 {[](CStringArray& a) { a.SetAt(1, a[1]); }, "0,1,2,"},
+                 {[](CStringArray& a) { a.SetAtGrow(4, a[1]); }, "0,1,2,,1,"},
+                 {[](CStringArray& a) { a.InsertAt(0, a[2], 3); }, "2,2,2,0,1,2,"},
+                 {[](CStringArray& a) { a.InsertAt(1, &a); }, "0,0,1,2,1,2,"},
+                 {[](CStringArray& a) { a.InsertAt(4, &a); }, "0,1,2,,0,1,2,"},
+                 {[](CStringArray& a) { EXPECT_EQ(a.Append(a), 3); }, "0,1,2,0,1,2,"},
+                 {[](CStringArray& a) { a.Copy(a); }, "0,1,2,"},
+                 {[](CStringArray& a) { a.RemoveAt(3, 0); }, "0,1,2,"},
+                 {[](CStringArray& a) { a.RemoveAt(0, 2); }, "2,"}};
+    for (const auto& [change, pszResult] : cases) {
+        CStringArray array;
+        Fill(array);
+        change(array);
+        EXPECT_EQ(Show(array), pszResult);
+    }
+}
+
+TEST(Array, IndicesThatAreNoneAreRefused) {
+    CStringArray array;
+    Fill(array);
+    for (const INT_PTR nIndex : {INT_PTR{-1}, INT_PTR{3}, INTPTR_MAX}) {
+        EXPECT_THROW(array.GetAt(nIndex), CInvalidArgException*);
+        EXPECT_THROW(array.SetAt(nIndex, "x"), CInvalidArgException*);
+        EXPECT_THROW(array.RemoveAt(nIndex), CInvalidArgException*);
+        EXPECT_THROW(array.RemoveAt(1, nIndex), CInvalidArgException*);
+    }
+    EXPECT_THROW(array.SetSize(-1), CInvalidArgException*);
+    EXPECT_THROW(array.SetAtGrow(-1, "x"), CInvalidArgException*);
+    EXPECT_THROW(array.InsertAt(-1, "x"), CInvalidArgException*);
+    EXPECT_EQ(Show(array), "0,1,2,");
+}
+
+TEST(List, KeepsPlacesWhileOthersComeAndGo) {
+    CStringList list;
+    EXPECT_THROW(list.RemoveHead(), CInvalidArgException*);
+    const POSITION pos = list.AddTail("b");
+    list.InsertAfter(pos, "d");
+    list.InsertBefore(list.Find("d"), "c");
+    list.InsertBefore(nullptr, "a");
+    list.InsertAfter(nullptr, "last");
+    list.AddTail(list.GetHead());
+    EXPECT_EQ(list.GetCount(), 6);
+    EXPECT_EQ(list.Find("a", list.GetHeadPosition()), list.GetTailPosition());
+    EXPECT_EQ(list.Find("a", list.GetTailPosition()), nullptr);
+    EXPECT_EQ(list.FindIndex(1), pos);
+    EXPECT_EQ(list.FindIndex(6), nullptr);
+    EXPECT_EQ(list.FindIndex(-1), nullptr);
+    EXPECT_STREQ(list.RemoveTail(), "a");
+    EXPECT_STREQ(list.RemoveHead(), "a");
+    list.RemoveAt(list.Find("c"));
+    list.SetAt(pos, "B");
+    std::string strBackwards;
+    for (POSITION previous = list.GetTailPosition(); previous != nullptr;) {
+        strBackwards += list.GetPrev(previous);
+    }
+    EXPECT_EQ(strBackwards, "lastdB");
+}
+
+TEST(Map, FindsReplacesAndRemoves) {
+    CMapStringToString map;
+    CString str("before");
+    EXPECT_FALSE(map.Lookup("key", str));
+    EXPECT_STREQ(str, "before");
+    map.SetAt("key", "1");
+    map.SetAt("KEY", "2");
+    map.SetAt("key", "3");
+    EXPECT_STREQ(map["other"], "") << "made by the index";
+    EXPECT_EQ(map.GetCount(), 3);
+    EXPECT_TRUE(map.Lookup("key", str));
+    EXPECT_STREQ(str, "3");
+    EXPECT_TRUE(map.RemoveKey("key"));
+    EXPECT_FALSE(map.RemoveKey("key"));
+    map.RemoveAll();
+    EXPECT_EQ(map.GetStartPosition(), nullptr);
+}
+
+TEST(Map, IsWalkedWhileWhatWasGivenGoes) {
+    constexpr int kCount = 200;
+    CMap<int, int, int, int> map;
+    for (int i = 0; i < kCount; ++i) {
+        map.SetAt(i, -i);
+    }
+    for (const bool bRemove : {false, true}) {
+        std::set<int> seen;
+        int nKey = 0;
+        int nValue = 0;
+        for (POSITION pos = map.GetStartPosition(); pos != nullptr;) {
+            map.GetNextAssoc(pos, nKey, nValue);
+            EXPECT_EQ(nValue, -nKey);
+            seen.insert(nKey);
+            if (bRemove && nKey % 2 == 0) {
+                map.RemoveKey(nKey);
+            } else if (!bRemove) {  // a second walk, in the middle of the first
+                POSITION inner = map.GetStartPosition();
+                map.GetNextAssoc(inner, nKey, nValue);
+            }
+        }
+        EXPECT_EQ(seen.size(), size_t{kCount});
+    }
+    EXPECT_EQ(map.GetCount(), kCount / 2);
+}
+
+}  // namespace

@@ -1,0 +1,251 @@
+// Files on disk, by lines and in memory.
+#include "support/temp_file.h"
+
+#include <afxwin.h>
+
+#include <algorithm>
+#include <functional>
+#include <gtest/gtest.h>
+#include <malloc.h>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace {
+
+/// The cause of the file exception that an operation throws, CFileException::none without one.
+int CauseOf(const std::function<void()>& operation) {
+    try {
+        operation();
+    } catch (CFileException* e) {
+        const int nCause = e->m_cause;
+        e->Delete();
+        return nCause;
+    }
+    return CFileException::none;
+}
+
+std::string Rest(CFile& file) {
+    char szRead[64] = "";
+    return std::string(szRead, file.Read(szRead, sizeof szRead));
+}
+
+TEST(File, ReadsAndWritesWhereItStands) {
+    const TempFile temp("0123456789");
+    CFile file(temp.Path(), CFile::modeReadWrite);
+    EXPECT_EQ(file.Seek(8, CFile::begin), 8u);
+    EXPECT_EQ(Rest(file), "89") << "less than asked for";
+    EXPECT_EQ(Rest(file), "") << "nothing at the end";
+    EXPECT_EQ(file.Seek(-4, CFile::current), 6u);
+    file.Write("ab", 2);
+    EXPECT_EQ(CauseOf([&] { file.Seek(-1, CFile::begin); }), CFileException::badSeek);
+    EXPECT_EQ(file.GetPosition(), 8u);
+    file.Seek(2, CFile::end);
+    file.Write("!", 1);
+    EXPECT_EQ(file.GetLength(), 13u);
+    file.SetLength(12);
+    file.Close();
+    EXPECT_EQ(temp.Content(), std::string("012345ab89\0\0", 12)) << "the gap is zeros";
+    EXPECT_EQ(CauseOf([&] { Rest(file); }), CFileException::invalidFile);
+    CFile(temp.Path(), CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite).Close();
+    CStdioFile(temp.Path(), CFile::modeWrite).Close();
+    EXPECT_EQ(temp.Content().size(), 12u);
+    CFile(temp.Path(), CFile::modeCreate | CFile::modeWrite).Close();
+    EXPECT_EQ(temp.Content().size(), 0u);
+}
+
+TEST(File, FailuresNameTheirCause) {
+    const TempFile temp("ab");
+    const std::string strMissing = std::string(temp.Path()) + "x";
+    CFile file;
+    CFileException e;
+    EXPECT_FALSE(file.Open(strMissing.c_str(), CFile::modeRead, &e));
+    EXPECT_FALSE(file.Open(strMissing.c_str(), CFile::modeRead)) << "without anybody to tell";
+    EXPECT_EQ(e.m_cause, CFileException::fileNotFound);
+    EXPECT_EQ(e.m_lOsError, ERROR_FILE_NOT_FOUND);
+    EXPECT_STREQ(e.m_strFileName, strMissing.c_str());
+    const auto open = [](const std::string& strPath, UINT nFlags) {
+        return CauseOf([&] { CFile(strPath.c_str(), nFlags); });
+    };
+    EXPECT_EQ(open(strMissing + "\\y", CFile::modeRead), CFileException::badPath);
+    EXPECT_EQ(CauseOf([&] { CStdioFile(strMissing.c_str(), CFile::modeRead); }),
+              CFileException::fileNotFound);
+    CFile reading(temp.Path(), CFile::modeRead | CFile::shareExclusive);
+    EXPECT_EQ(open(temp.Path(), CFile::modeRead), CFileException::sharingViolation);
+    EXPECT_EQ(CauseOf([&] { reading.Write("x", 1); }), CFileException::accessDenied);
+    EXPECT_EQ(CauseOf([&] { CFile::Remove(strMissing.c_str()); }), CFileException::fileNotFound);
+}
+
+TEST(File, NamesStatusAndHandles) {
+    const TempFile temp("abc");
+    const std::string strPath(temp.Path());
+    {
+        CFile file(temp.Path(), CFile::modeRead);
+        EXPECT_STREQ(file.GetFilePath(), strPath.c_str());
+        EXPECT_STREQ(file.GetFileName(), strPath.substr(strPath.rfind('\\') + 1).c_str());
+        EXPECT_STREQ(file.GetFileTitle() + ".tmp", file.GetFileName());
+        CFileStatus status;
+        ASSERT_TRUE(file.GetStatus(status));
+        EXPECT_EQ(status.m_size, 3u);
+        EXPECT_STREQ(status.m_szFullName, strPath.c_str());
+        EXPECT_FALSE(CFile::GetStatus((strPath + "x").c_str(), status));
+    }
+    const HANDLE hFile =
+        ::CreateFile(temp.Path(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    { CFile file(hFile); }
+    CFile file(hFile);
+    EXPECT_EQ(Rest(file), "abc") << "a handle that was handed in is closed by Close alone";
+    file.Close();
+    EXPECT_FALSE(::CloseHandle(hFile));
+}
+
+std::string Lines(CStdioFile& file) {
+    std::string strLines;
+    CString strLine;
+    while (file.ReadString(strLine)) {
+        strLines += std::string(strLine, strLine.GetLength()) + "|";
+    }
+    EXPECT_TRUE(strLine.IsEmpty());
+    return strLines;
+}
+
+TEST(StdioFile, LinesEndAtLineFeedsAndAtTheEnd) {
+    const struct {
+        std::string strContent;
+        std::string strText;    // as typeText reads it
+        std::string strBinary;  // as typeBinary does
+    } cases[] = {
+        {"", "", ""},
+        {"a", "a|", "a|"},
+        {"a\r\n", "a|", "a\r|"},
+        {"a\r\n\r\nb", "a||b|", "a\r|\r|b|"},
+        {"\n\n", "||", "||"},
+        {"a\rb\n", "a\rb|", "a\rb|"},
+        {std::string("\0a\0\nb\0", 6), std::string("\0a\0|b\0|", 7), std::string("\0a\0|b\0|", 7)}};
+    for (const auto& [strContent, strText, strBinary] : cases) {
+        const TempFile temp(strContent);
+        CStdioFile text(temp.Path(), CFile::modeRead | CFile::typeText | CFile::shareDenyNone);
+        EXPECT_EQ(Lines(text), strText);
+        CStdioFile binary(temp.Path(), CFile::modeRead | CFile::typeBinary | CFile::shareDenyNone);
+        EXPECT_EQ(Lines(binary), strBinary);
+    }
+}
+
+TEST(StdioFile, LinesMayBeLongerThanAnyBuffer) {
+    for (const size_t nLength : {1022u, 1023u, 1024u, 1025u, 9000u}) {
+        const std::string strLong(nLength, 'x');
+        for (const char* pszEnd : {"", "\r\n"}) {
+            const TempFile temp(strLong + "\r\n" + strLong + pszEnd);
+            CStdioFile file(temp.Path(), CFile::modeRead);
+            EXPECT_EQ(Lines(file), strLong + "|" + strLong + "|") << nLength;
+        }
+    }
+    const TempFile temp("abcdef\r\ng");
+    CStdioFile file(temp.Path(), CFile::modeRead);
+    char szPart[5] = "";
+    for (const char* pszPart : {"abcd", "ef\n", "g"}) {
+        EXPECT_STREQ(file.ReadString(szPart, sizeof szPart), pszPart);
+    }
+    EXPECT_EQ(file.ReadString(szPart, sizeof szPart), nullptr);
+}
+
+TEST(StdioFile, WritesLinesAndGoesBackToThem) {
+    const TempFile temp;
+    for (const UINT nType : {CFile::typeText, CFile::typeBinary}) {
+        CStdioFile file(temp.Path(), CFile::modeCreate | CFile::modeReadWrite | nType);
+        file.WriteString("one\n");
+        file.WriteString("two\n");
+        file.Write("end", 3);
+        EXPECT_EQ(file.GetLength(), nType == CFile::typeText ? 13u : 11u);
+        file.SeekToBegin();
+        EXPECT_EQ(Lines(file), "one|two|end|");
+        file.Seek(-3, CFile::end);
+        const ULONGLONG nEnd = file.GetPosition();
+        file.Write("x", 1);
+        file.SetLength(nEnd + 1);
+        EXPECT_EQ(file.SeekToEnd(), nEnd + 1);
+        EXPECT_EQ(CauseOf([&] { file.Seek(-99, CFile::current); }), CFileException::badSeek);
+        file.Close();
+        EXPECT_EQ(temp.Content(), nType == CFile::typeText ? "one\r\ntwo\r\nx" : "one\ntwo\nx");
+    }
+    CStdioFile reading(temp.Path(), CFile::modeRead);
+    EXPECT_NE(CauseOf([&] { reading.WriteString("x"); }), CFileException::none);
+    EXPECT_EQ(Lines(reading), "one|two|x|") << "and goes on";
+}
+
+TEST(StdioFile, AStreamThatWasHandedInStaysOpen) {
+    const TempFile temp("one\r\ntwo\r\n");
+    FILE* pStream = std::fopen(temp.Path(), "r+t");
+    {
+        CStdioFile file(pStream);
+        CString strLine;
+        EXPECT_TRUE(file.ReadString(strLine));
+        EXPECT_STREQ(strLine, "one");
+        file.SetLength(3);
+    }
+    EXPECT_EQ(std::fclose(pStream), 0);
+    EXPECT_EQ(temp.Content(), "one");
+}
+
+TEST(MemFile, DoesWhatAFileOnDiskDoes) {
+    std::mt19937 random(7);
+    const TempFile temp;
+    CFile disk(temp.Path(), CFile::modeCreate | CFile::modeReadWrite);
+    CMemFile memory(16);
+    CFile* const files[] = {&disk, &memory};
+    for (int nStep = 0; nStep < 1000; ++nStep) {
+        const unsigned nKind = random() % 5;
+        const UINT nBytes = random() % 50;
+        const std::string str(nBytes, static_cast<char>('a' + nStep % 26));
+        std::string results[2];
+        for (int i = 0; i < 2; ++i) {
+            CFile& file = *files[i];
+            if (nKind == 0) {
+                file.Write(str.data(), nBytes);
+            } else if (nKind == 1) {
+                results[i] = Rest(file);
+            } else if (nKind == 2) {
+                file.Seek(nBytes, CFile::begin);
+            } else if (nKind == 3) {
+                results[i] = std::to_string(
+                    CauseOf([&] { file.Seek(25 - LONGLONG{nBytes}, CFile::current); }));
+            } else {
+                file.SetLength(nBytes);
+                file.SeekToEnd();
+            }
+            results[i] +=
+                ":" + std::to_string(file.GetPosition()) + "/" + std::to_string(file.GetLength());
+        }
+        ASSERT_EQ(results[0], results[1]) << nStep;
+    }
+}
+
+TEST(MemFile, AttachedMemoryStaysItsOwners) {
+    auto* pBytes = static_cast<BYTE*>(std::malloc(6));
+    memcpy(pBytes, "abcdef", 6);
+    {
+        CMemFile file;
+        file.Write("lost", 4);
+        file.Attach(pBytes, 6);
+        EXPECT_EQ(file.GetLength(), 6u);
+        file.Seek(4, CFile::begin);
+        file.Write("EF", 2);
+        EXPECT_NE(CauseOf([&] { file.Write("g", 1); }), CFileException::none) << "it cannot grow";
+        file.SeekToBegin();
+        EXPECT_EQ(Rest(file), "abcdEF");
+    }
+    ASSERT_TRUE(::HeapValidate(reinterpret_cast<HANDLE>(_get_heap_handle()), 0, pBytes));
+
+    CMemFile file;
+    file.Attach(pBytes, 6, 4);
+    EXPECT_EQ(file.GetLength(), 0u) << "memory that may grow is room, not content";
+    file.Write("0123456789", 10);
+    pBytes = file.Detach();
+    EXPECT_EQ(std::string(reinterpret_cast<char*>(pBytes), 10), "0123456789");
+    std::free(pBytes);
+    EXPECT_EQ(file.GetLength(), 0u);
+    file.Write("again", 5);
+    EXPECT_EQ(file.GetLength(), 5u);
+}
+
+}  // namespace

@@ -1,0 +1,117 @@
+// Pens, brushes, fonts, bitmaps, palettes and regions: who owns the handle, and what it was made
+// of.
+#include <afxwin.h>
+
+#include <gtest/gtest.h>
+#include <memory>
+#include <vector>
+
+namespace {
+
+template <class Object, class... Arguments, class... Given>
+std::unique_ptr<CGdiObject> Make(BOOL (Object::*create)(Arguments...), Given... given) {
+    auto pObject = std::make_unique<Object>();
+    EXPECT_TRUE((pObject.get()->*create)(given...));
+    return pObject;
+}
+
+/// One of each kind.
+std::vector<std::unique_ptr<CGdiObject>> MakeObjects() {
+    LOGPEN pen{PS_DOT, {1, 0}, 0};
+    const LOGBRUSH brush{BS_SOLID, 0, 0};
+    LOGPALETTE palette{0x300, 1, {}};
+    std::vector<std::unique_ptr<CGdiObject>> objects;
+    objects.push_back(std::make_unique<CPen>(PS_SOLID, 1, RGB(1, 2, 3)));
+    objects.push_back(Make(&CPen::CreatePenIndirect, &pen));
+    objects.push_back(std::make_unique<CBrush>(RGB(1, 2, 3)));
+    objects.push_back(std::make_unique<CBrush>(HS_CROSS, RGB(1, 2, 3)));
+    objects.push_back(Make(&CBrush::CreateBrushIndirect, &brush));
+    objects.push_back(Make(&CFont::CreatePointFont, 90, "Tahoma", nullptr));
+    objects.push_back(Make(&CBitmap::CreateBitmap, 8, 8, 1u, 1u, nullptr));
+    objects.push_back(Make(&CPalette::CreatePalette, &palette));
+    objects.push_back(Make(&CRgn::CreateRectRgn, 0, 0, 9, 9));
+    return objects;
+}
+
+TEST(GdiObjects, OwnTheirHandlesUntilTheyGo) {
+    const LONG nOwned = AfxGetOwnedHandleCount();
+    auto objects = MakeObjects();
+    EXPECT_EQ(AfxGetOwnedHandleCount(), nOwned + static_cast<LONG>(objects.size()));
+    for (auto& pObject : objects) {
+        const LONG nBefore = AfxGetOwnedHandleCount();
+        const HGDIOBJ hObject = pObject->m_hObject;
+        const UINT nType = pObject->GetObjectType();
+        EXPECT_EQ(CGdiObject::FromHandle(hObject), pObject.get());
+        EXPECT_EQ(pObject->Detach(), hObject);
+        EXPECT_EQ(AfxGetOwnedHandleCount(), nBefore - 1);
+        EXPECT_EQ(pObject->Detach(), nullptr);
+        EXPECT_FALSE(pObject->DeleteObject());
+        EXPECT_EQ(::GetObjectType(hObject), nType) << "the caller's now";
+        EXPECT_NE(CGdiObject::FromHandle(hObject), pObject.get());
+        EXPECT_TRUE(pObject->Attach(hObject));
+        EXPECT_EQ(CGdiObject::FromHandle(hObject), pObject.get());
+        pObject.reset();
+        EXPECT_EQ(::GetObjectType(hObject), 0u);
+    }
+    EXPECT_EQ(AfxGetOwnedHandleCount(), nOwned);
+}
+
+TEST(GdiObjects, ANewHandleTakesThePlaceOfTheOldOne) {
+    const LONG nOwned = AfxGetOwnedHandleCount();
+    CBrush brush(RGB(1, 1, 1));
+    EXPECT_TRUE(brush.CreateSolidBrush(RGB(2, 2, 2)));
+    EXPECT_EQ(AfxGetOwnedHandleCount(), nOwned + 1);
+    EXPECT_FALSE(brush.Attach(nullptr));
+    LOGBRUSH log{};
+    EXPECT_NE(brush.GetLogBrush(&log), 0) << "what fails changes nothing";
+    EXPECT_EQ(log.lbColor, RGB(2, 2, 2));
+    EXPECT_TRUE(brush.DeleteObject());
+    CBitmap none;
+    EXPECT_THROW(CBrush{&none}, CResourceException*);
+    EXPECT_FALSE(none.LoadBitmap(9999));
+    EXPECT_EQ(AfxGetOwnedHandleCount(), nOwned);
+}
+
+TEST(GdiObjects, TemporaryOnesLeaveTheHandleAlone) {
+    const LONG nOwned = AfxGetOwnedHandleCount();
+    const HPEN hPen = ::CreatePen(PS_SOLID, 1, 0);
+    CPen* pPen = CPen::FromHandle(hPen);
+    EXPECT_EQ(pPen->GetSafeHandle(), hPen);
+    EXPECT_EQ(CPen::FromHandle(hPen), pPen);
+    EXPECT_EQ(CPen::FromHandle(nullptr)->GetSafeHandle(), nullptr);
+    CGdiObject::DeleteTempMap();
+    EXPECT_EQ(::GetObjectType(hPen), UINT{OBJ_PEN});
+    EXPECT_TRUE(CPen::FromHandle(hPen)->DeleteObject());
+    EXPECT_EQ(::GetObjectType(hPen), 0u);
+    CGdiObject::DeleteTempMap();
+    {
+        CBrush system;
+        EXPECT_TRUE(system.CreateSysColorBrush(COLOR_WINDOW));
+        CFont stock;
+        EXPECT_TRUE(stock.CreateStockObject(SYSTEM_FONT));
+    }
+    EXPECT_EQ(::GetObjectType(::GetSysColorBrush(COLOR_WINDOW)), UINT{OBJ_BRUSH});
+    EXPECT_EQ(::GetObjectType(::GetStockObject(SYSTEM_FONT)), UINT{OBJ_FONT});
+    EXPECT_EQ(AfxGetOwnedHandleCount(), nOwned);
+}
+
+TEST(GdiObjects, APointIsSoManyUnitsOfTheContext) {
+    CDC dc;
+    ASSERT_TRUE(dc.CreateCompatibleDC(nullptr));
+    const int nPixels = ::MulDiv(12, dc.GetDeviceCaps(LOGPIXELSY), 72);
+    LOGFONT log{};
+    CFont font;
+    ASSERT_TRUE(font.CreatePointFont(120, "A name that is longer than a font's can be"));
+    ASSERT_NE(font.GetLogFont(&log), 0);
+    EXPECT_EQ(log.lfHeight, -nPixels);
+    EXPECT_EQ(lstrlen(log.lfFaceName), LF_FACESIZE - 1);
+    dc.SetMapMode(MM_ANISOTROPIC);
+    dc.SetWindowExt(300, -300);
+    dc.SetViewportExt(100, 100);
+    dc.SetWindowOrg(50, 50);
+    ASSERT_TRUE(font.CreatePointFont(120, "Tahoma", &dc));
+    font.GetLogFont(&log);
+    EXPECT_EQ(log.lfHeight, -3 * nPixels);
+}
+
+}  // namespace
