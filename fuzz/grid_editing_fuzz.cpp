@@ -41,6 +41,7 @@ private:
     void Make() {
         m_pGrid.reset();
         m_pGrid = std::make_unique<FakeGrid>();
+        m_pGrid->bHiddenLosesFocus = m_input.Byte() % 2 != 0;
         for (const GridColType nType :
              {gctStatic, gctEdit, gctEditButton, gctDropList, gctButton}) {
             m_pGrid->model.AddColumn(nType, 60);

@@ -11,8 +11,10 @@ constexpr UINT kTextFlags = DT_NOPREFIX | DT_END_ELLIPSIS;
 // A cell without a colour goes on in that of the cell before it, which the device context has.
 void FillCell(CDC& dc, CRect rcCell, const CellRow& row, const CellText& look) {
     const COLORREF crBk = look.crBk ? *look.crBk : dc.GetBkColor();
-    if (row.crUnder != crBk) {
-        rcCell.InflateRect(0, row.nOutset);
+    rcCell.InflateRect(0, row.nOutset);
+    if (row.pBrush != nullptr && row.pBrush->m_hObject != nullptr && row.crBrush == crBk) {
+        dc.FillRect(&rcCell, row.pBrush);
+    } else {
         CBrush brush(crBk);
         dc.FillRect(&rcCell, &brush);
     }

@@ -37,8 +37,9 @@ public:
     // the row by nOutset.
     bool bFills = false;
     int nOutset = 0;
-    // Where the row is of this colour all over already; such a cell needs no background.
-    std::optional<COLORREF> crUnder;
+    // A brush that is there already, and its colour: most cells have it.
+    CBrush* pBrush = nullptr;
+    COLORREF crBrush = 0;
     // A cell that is narrower than its margins shows nothing. Otherwise its text may stand beside
     // it.
     bool bKeepsIn = false;

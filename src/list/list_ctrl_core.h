@@ -21,8 +21,8 @@ public:
     qv::KeptPlaces places;
     std::vector<char> text;        // of the cell read last
     std::vector<int> paintWidths;  // of the columns for the length of one paint; empty: not known
-    std::optional<bool> bSortsItself;    // by the window's style; empty: not asked yet
-    std::optional<COLORREF> crComposed;  // that the row under the cells is filled with
+    std::optional<bool> bSortsItself;  // by the window's style; empty: not asked yet
+    COLORREF crItem = 0;               // of the brush of the row that is drawn
     HWND hTold = nullptr;
     bool bPrintComplete = true;
 

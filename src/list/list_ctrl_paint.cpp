@@ -3,13 +3,11 @@
 #include "frame/out_of_memory.h"
 #include "frame/select_object.h"
 #include "frame/text_out.h"
-#include "frame/virtual_step.h"
 #include "frame/wnd_port.h"
 #include "list/cell_row.h"
 #include "list/list_ctrl_core.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace {
 
@@ -152,7 +150,8 @@ void QVListCtrlEx::DrawRow(LPDRAWITEMSTRUCT lpDIS) {
     const auto highlight = qv::RowHighlight(m_bAllowSel && (lpDIS->itemState & ODS_SELECTED) != 0,
                                             HasFocus(), ShowsSelAlways(), m_bAlwaysHighlightSel);
     const qv::WindowWatch watch(m_alive, m_hWnd);
-    const qv::WhileAlive<qv::BrushLife> item(watch, m_brItem, ::GetSysColor(RowColor(highlight)));
+    m_pCore->crItem = ::GetSysColor(RowColor(highlight));
+    const qv::WhileAlive<qv::BrushLife> item(watch, m_brItem, m_pCore->crItem);
     const qv::WhileAlive<qv::BrushLife> blank(watch, m_brBlank, ::GetSysColor(COLOR_WINDOW));
     const CRect rcRow(0, 0, rc.Width(), rc.Height());
     if ((lpDIS->itemAction & (ODA_DRAWENTIRE | ODA_SELECT)) != 0) {
@@ -190,16 +189,9 @@ void QVListCtrlEx::ComposeText(UINT nItem, const CRect& rcRow, const qv::RowLayo
         ::GetSysColor(highlight == qv::Highlight::Full ? COLOR_WINDOW : COLOR_WINDOWTEXT));
     m_dcMem.SetBkColor(::GetSysColor(RowColor(highlight)));
     const qv::WhileAlive<qv::SelectGuard<CFont>> font(watch, m_dcMem, GetFont());
-    // A step that is replaced may draw under the cells.
-    if (!QV_REPLACES_STEP(*this, QVListCtrlEx, DrawItemText)) {
-        m_pCore->crComposed = m_dcMem.GetBkColor();
-    }
     // Cells that find no memory stay blank.
     qv::MemorySuffices(
         [&] { DrawItemText(&m_dcMem, nItem, rcText, highlight != qv::Highlight::None, nullptr); });
-    if (watch) {
-        m_pCore->crComposed.reset();
-    }
 }
 
 void QVListCtrlEx::DrawItemBitmap(CDC* pDC, UINT nItem, const CRect& rc) {
@@ -278,7 +270,10 @@ void QVListCtrlEx::DrawItemText(CDC* pDC, UINT nItem, const CRect& rc, BOOL bSel
     const qv::WhileAlive<qv::ColorGuard> colors(watch, *pDC);
     ItemCells cells(*this, nItem, bSelected, pWidths);
     cells.nMargin = PrintMargin(*pDC);
-    cells.crUnder = std::exchange(m_pCore->crComposed, std::nullopt);
+    if (pDC == &m_dcMem) {
+        cells.pBrush = &m_brItem;
+        cells.crBrush = m_pCore->crItem;
+    }
     qv::DrawCells(*pDC, rc, cells);
 }
 

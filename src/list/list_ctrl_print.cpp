@@ -5,21 +5,10 @@
 #include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "list/cell_row.h"
+#include "list/core/list_paper.h"
 #include "list/list_ctrl_core.h"
 
 #include <afxext.h>
-
-namespace {
-
-// Of the header's font height: the band that is kept for the headings, and where the rule lies.
-constexpr int HeaderBand(int nTextHeight) {
-    return nTextHeight * 3 / 2;
-}
-constexpr int RuleOffset(int nTextHeight) {
-    return nTextHeight * 5 / 4;
-}
-
-}  // namespace
 
 void QVListCtrlEx::SetPrintFonts(CFont* pItemFont, CFont* pHeaderFont) {
     m_pPrintFont = pItemFont;
@@ -47,8 +36,8 @@ void QVListCtrlEx::BeginPrinting(CDC* pDC, CPrintInfo*) {
         CWindowDC dc(this);
         m_penPrint.DeleteObject();
         m_penPrint.CreateStockObject(BLACK_PEN);
-        const int nScreen = dc.GetDeviceCaps(LOGPIXELSX);
-        m_nPrintScale = nScreen > 0 ? pDC->GetDeviceCaps(LOGPIXELSX) / nScreen : 1;
+        m_nPrintScale =
+            qv::PrintScale(pDC->GetDeviceCaps(LOGPIXELSX), dc.GetDeviceCaps(LOGPIXELSX));
     });
 }
 
@@ -65,7 +54,7 @@ int QVListCtrlEx::HeaderPrintHeight(CDC* pDC) {
         return m_nPrintHeaderHeight;
     }
     const qv::SelectGuard<CFont> font(*pDC, m_pPrintHeaderFont);
-    return HeaderBand(qv::TextExtent(*pDC, "0").cy);
+    return qv::HeaderBand(qv::TextExtent(*pDC, "0").cy);
 }
 
 int QVListCtrlEx::CalculateItemHeight(CDC* pDC) {
@@ -156,14 +145,14 @@ void QVListCtrlEx::PrintHeadings(CDC* pDC, const CRect& rc) {
     HeadingCells cells(*this, qv::View(strHeaders));
     cells.nMargin = PrintMargin(*pDC);
     qv::DrawCells(*pDC, rc, cells);
-    const int y = rc.top + RuleOffset(qv::TextExtent(*pDC, qv::View(strHeaders)).cy);
+    const int y = rc.top + qv::RuleOffset(qv::TextExtent(*pDC, qv::View(strHeaders)).cy);
     pDC->MoveTo(rc.left, y);
     pDC->LineTo(rc.right, y);
 }
 
 int QVListCtrlEx::RowsThatFit(CDC* pDC, const CRect& rc, int& nHeight) {
     nHeight = CalculateItemHeight(pDC);
-    return nHeight > 0 ? rc.Height() / nHeight : 0;
+    return qv::RowsThatFit(rc.Height(), nHeight);
 }
 
 // Rows nFirst up to nEnd, without it, but no more than nMost.

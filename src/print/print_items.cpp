@@ -5,6 +5,7 @@
 #include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "list/cell_row.h"
+#include "list/core/list_paper.h"
 #include "list/list_ctrl.h"
 #include "print/core/pagination.h"
 #include "print/core/row_split.h"
@@ -18,8 +19,7 @@ constexpr unsigned kSectionLines = 3;  // one blank, the text, one blank
 constexpr UINT kLineFlags = DT_NOPREFIX | DT_SINGLELINE;
 
 unsigned Rows(const CRect& rect, unsigned nRowHeight) {
-    return nRowHeight > 0 && rect.Height() > 0 ? static_cast<unsigned>(rect.Height()) / nRowHeight
-                                               : 0;
+    return static_cast<unsigned>(qv::RowsThatFit(rect.Height(), static_cast<int>(nRowHeight)));
 }
 
 // Rows nFirst to nLast take no height if there are none: a first row may lie behind the last.
@@ -244,8 +244,7 @@ QVPeDataStringList::QVPeDataStringList(CDC* pDC, QVListCtrlEx* pList, CStringArr
                                        QVPeFont header, QVPeFont normal)
     : QVPeDataListBase(pDC, pList, header, normal), m_pRows(pRows) {
     CWindowDC dc(pList);
-    const int nScreen = dc.GetDeviceCaps(LOGPIXELSX);
-    m_nScale = nScreen > 0 ? static_cast<unsigned>(pDC->GetDeviceCaps(LOGPIXELSX) / nScreen) : 1;
+    m_nScale = qv::PrintScale(pDC->GetDeviceCaps(LOGPIXELSX), dc.GetDeviceCaps(LOGPIXELSX));
     TakeSizes();
 }
 
@@ -295,7 +294,7 @@ void QVPeDataStringList::PrintItems(CDC* pDC, unsigned nFirst, unsigned nLast, c
 
 void QVPeDataStringList::PrintRow(CDC* pDC, const CRect& rcRow, const CString& strRow) {
     FieldCells cells(*m_pList, qv::View(strRow));
-    cells.nMargin = qv::kCellMargin * static_cast<int>(m_nScale);
+    cells.nMargin = qv::kCellMargin * m_nScale;
     // Without width, centred and right-aligned text would stand beside its cell.
     cells.bKeepsIn = true;
     qv::DrawCells(*pDC, rcRow, cells);

@@ -119,5 +119,5 @@ private:
     void PrintRow(CDC* pDC, const CRect& rcRow, const CString& strRow);
 
     CStringArray* m_pRows;
-    unsigned m_nScale = 1;  // printer pixels a screen pixel
+    int m_nScale = 1;  // printer pixels a screen pixel
 };

@@ -122,17 +122,30 @@ protected:
     virtual void DrawText(CDC& dc, int nLine, int nCols);
 
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    // Attaches the system's font for windows; 0 if there is none. Cleaning up lets go of it.
     int CreateDisplayFont(CFont& font);
     void CleanupDisplayFont(CFont& font);
+    // The size of the whole text in pixels, wrapped to nWidth pixels, 0 being the client area; the
+    // fixed grid has its own width.
     void CalculateDataSize(int& cx, int& cy, int nWidth);
+    // The client rectangle of row nRow, counted from the top of the window.
     void CalculateLineRect(int nRow, CRect& rc);
+    // Wraps the lines to nWidth pixels, 0 being the client area. Without memory the rows stay.
     void FormatDisplayText(int nWidth);
+    // Word wrap in the font selected in pDC: the bytes at which the pieces of a text begin, the
+    // first being 0. Without memory aStarts stays.
     void SplitTextLines(CDC* pDC, int nWidth, const CString& strText, CArray<int, int>& aStarts);
+    // Fits rows and scroll bars; CalcLayout without the repaint. The window may be told another
+    // size before it returns.
     void CalculateScrollBars();
+    // Moves this window alone by an SB_ code, nPos being a row. 1 if it has moved; it may have been
+    // painted then.
     int DoVScroll(UINT nCode, UINT nPos);
     // The partner; null without one, and once it is gone.
     QVTextWnd* SyncWnd() const;
 
+    // The pages as FormatText leaves them, for classes that lay out their own. Rows that a page
+    // takes; the area in units of the printer's context.
     void SetLinesPerPage(int nLines);
     void SetPrintAreaSize(const CSize& size);
     CSize PrintAreaSize() const;

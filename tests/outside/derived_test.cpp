@@ -121,9 +121,12 @@ public:
         m_bUseProportionalFont = 0;
         m_nTabStop = 16;
         m_crBk = RGB(255, 255, 0);
+        AddText(GetLineText(1), 0);
         CalcLayout();
-        EXPECT_GT(m_nMaxLineLength * m_nCharWidth, kRect.Width()) << "as it was wrapped last";
+        EXPECT_GT(m_nMaxLineLength * m_nCharWidth, kRect.Width());
         EXPECT_TRUE(m_bHScrollBar);
+        EXPECT_FALSE(m_bVScrollBar);
+        EXPECT_EQ(m_nHScrollPos, 0);
         EXPECT_EQ(m_nNumRows, NumRows());
         EXPECT_EQ(VScrollPos(), m_nVScrollPos);
         EXPECT_EQ(SyncWnd(), nullptr);

@@ -70,10 +70,17 @@ public:
         Tell(kEditChanged);
     }
     void CloseWindow() {
+        const qv::AliveWatch watch(editing.Alive());
         editing.Closing();
-        bWindow = edit.bMade = edit.bUp = list.bMade = list.bUp = false;
-        focus = Focus::Elsewhere;
-        editing.Closed();
+        edit.bUp = false;
+        if (focus == Focus::Edit) {
+            MoveFocus(Focus::Grid);  // which an edit that goes hands it to
+        }
+        if (watch) {
+            bWindow = edit.bMade = edit.bUp = list.bMade = list.bUp = false;
+            focus = Focus::Elsewhere;
+            editing.Closed();
+        }
     }
     // As the scroll bar does, and as code does.
     void ScrollByUser(int nTop) {
@@ -155,7 +162,7 @@ public:
         void Show() override { bUp = true; }
         void Hide() override {
             bUp = false;
-            if (HasFocus()) {
+            if (HasFocus() && m_grid.bHiddenLosesFocus) {
                 m_grid.MoveFocus(Focus::Grid);
             }
         }
@@ -213,6 +220,7 @@ public:
     Focus focus = Focus::Elsewhere;
     bool bWindow = true;
     bool bNoMemory = false;
+    bool bHiddenLosesFocus = false;  // not everywhere
     bool bMouse = false;
     int nTopRow = 0;
     int nDefaults = 0;

@@ -94,7 +94,7 @@ protected:
             g.Told();
             ending.end(*this, g);
             const std::string strKept = nCol == kList ? ending.pszChosen : ending.pszTyped;
-            EXPECT_EQ(model.NumRows() == 20 ? Stored(0, nCol) : "gone", strKept);
+            EXPECT_EQ(Stored(0, nCol), strKept);
             EXPECT_EQ(g.Told().find("1 ") == 0, nCol == kList && strKept == "two");
             EXPECT_FALSE(g.list.bUp);
             EXPECT_TRUE(editing.CheckInvariants());
@@ -103,7 +103,7 @@ protected:
     }
 
 public:
-    using GridEdits::ButtonAt;
+    using GridEdits::AddRows;
     using GridEdits::Click;
     using GridEdits::Disable;
 };
@@ -128,11 +128,12 @@ TEST_F(GridKeeps, WhatIsTypedAndChosenAsTheEditorIsLeft) {
         {"read-only", [&](auto& t, auto& f) { on(t).Disable(0, col(f), GCS_READONLY); }, "def",
          "one"},
         {"rows deleted",
-         [](auto&, auto& f) {
+         [&](auto& t, auto& f) {
              f.editing.DeleteRows();
+             on(t).AddRows(20);
              f.MoveFocus(Focus::Elsewhere);
          },
-         "gone", "gone"},
+         "def", "one"},
     };
     for (const Ending& ending : kEndings) {
         Run(ending);
@@ -246,6 +247,21 @@ TEST_F(GridEdits, AListFollowsItsCellAndIsKeptWhereThatIsOutOfView) {
     EXPECT_EQ(State(), "3,3 list two");
     g.ScrollTo(4);
     EXPECT_EQ(State() + " " + Stored(3, kList) + " " + g.Told(), "3,3 two 1 ");
+    Click(8, kList);
+    g.ScrollTo(3);
+    EXPECT_TRUE(g.list.bUp) << "a part of a row shows as well";
+    g.ScrollTo(2);
+    EXPECT_FALSE(g.list.bUp);
+}
+
+TEST_F(GridEdits, AnEditIsKeptWhereItsColumnHasBecomeAListMeanwhile) {
+    Click(0, kEdit);
+    g.Type("new");
+    model.Column(kEdit)->nType = gctDropList;
+    model.Column(kEdit)->pListData = &choices;
+    Click(0, kEdit);
+    EXPECT_EQ(State() + " " + Stored(0, kEdit), "0,1 new");
+    EXPECT_EQ(g.focus, Focus::Grid);
 }
 
 // --- The button
@@ -268,6 +284,11 @@ TEST_F(GridEdits, AButtonIsToldAtReleaseOverIt) {
     editing.Release(pt);
     EXPECT_EQ(g.Told(), "");
     EXPECT_FALSE(IsDown() || g.bMouse);
+    editing.PopupList(choices);
+    editing.Press(pt);
+    editing.HideList();
+    editing.Release(pt);
+    EXPECT_EQ(g.Told(), "") << "a list that goes takes the press with it";
 }
 
 TEST_F(GridEdits, AnEditIsKeptBeforeItsButtonIsTold) {
@@ -353,6 +374,15 @@ TEST_F(GridEdits, OnlyTheFocusThatOthersMoveOpensAnEdit) {
     EXPECT_EQ(State(), "0,1 edit abc") << "a dialog gives it back to a hidden window";
     editing.CancelMode();
     EXPECT_EQ(State(), "0,1 edit abc") << "an editor stays on the screen";
+    EXPECT_FALSE(g.state.m_bEditing);
+    g.bHiddenLosesFocus = true;
+    editing.HideEdit();
+    EXPECT_EQ(State(), "0,1");
+    editing.ActivateCell({0, kEdit});
+    editing.CancelMode();
+    g.Told();
+    g.CloseWindow();
+    EXPECT_EQ(State() + g.Told(), "0,1") << "a window that goes opens nothing";
 }
 
 // --- Without a window, and without memory

@@ -40,14 +40,6 @@ TEST(SortedPlaces, FindsWhatAWalkFinds) {
     }
 }
 
-TEST(SortedPlaces, EqualKeysKeepTheOrderOfArrival) {
-    SortedPlaces places;
-    places.Append("b");
-    places.Append("b");
-    EXPECT_EQ(places.Find("b"), 2u);
-    EXPECT_EQ(places.Find("a"), 0u);
-}
-
 TEST(SortedPlaces, NumberKeysOrderAsNumbers) {
     const std::int32_t values[] = {INT32_MIN, -70000, -1, 0, 1, 255, 256, 70000, INT32_MAX};
     for (size_t i = 1; i < std::size(values); ++i) {

@@ -32,78 +32,76 @@ std::string Pages(qv::PageItems& items, unsigned nHeight,
     return strPages;
 }
 
-TEST(Pagination, WithoutAnythingToPrintGivesNoPage) {
-    FakePageItems empty;
-    EXPECT_EQ(Pages(empty, 100), "");
-    EXPECT_EQ(Pages(FakePageItems().Break().Break(), 100), "");
-    EXPECT_EQ(Pages(FakePageItems().Block(30).Block(0).Break().Break(), 30), "0.0-1.end")
-        << "breaks behind a full page open no other";
-}
-
-TEST(Pagination, ExactFitStaysOnThePage) {
-    EXPECT_EQ(Pages(FakePageItems().Block(40).Block(60).Block(1), 100), "0.0-1.end | 2.0-2.end");
-    EXPECT_EQ(Pages(FakePageItems().List(9, 10).Group(), 100), "0.0-0.end | 1.0-1.end");
-    EXPECT_EQ(Pages(FakePageItems().Text(5 * kWidth), 50), "0.0-0.end");
-    EXPECT_EQ(Pages(FakePageItems().Text(5 * kWidth + 1), 50), "0.0-0.4 | 0.5-0.end");
-}
-
-TEST(Pagination, BreaksVanishAtTheTopOnly) {
-    EXPECT_EQ(Pages(FakePageItems().Break().Block(20).Break().Block(20), 50), "1.0-3.end");
-    EXPECT_EQ(Pages(FakePageItems().Block(40).Break().Break().Block(20), 50),
-              "0.0-1.end | 3.0-3.end");
-    EXPECT_EQ(Pages(FakePageItems().Block(45).Break().Block(50), 50), "0.0-0.end | 2.0-2.end");
-}
-
-TEST(Pagination, HeaderMovesToWhatItAnnounces) {
-    EXPECT_EQ(Pages(FakePageItems().Block(80).Group().List(3, 10), 100), "0.0-0.end | 1.0-2.end");
-    EXPECT_EQ(Pages(FakePageItems().Block(80).Group().Text(5 * kWidth), 100), "0.0-2.0 | 2.1-2.end")
-        << "one line is enough to stay";
-    EXPECT_EQ(Pages(FakePageItems().List(12).Group().Block(75), 100),
-              "0.0-0.9 | 0.10-0.end | 1.10-2.end")
-        << "it leaves the end of a split item behind";
-}
-
-TEST(Pagination, HeadersLookBackOneItemAndNeverTwo) {
-    EXPECT_EQ(Pages(FakePageItems().Block(65).Section().Group().Block(20), 100),
-              "0.0-1.end | 2.0-3.end")
-        << "no room for the group header: the section header stays alone";
-    EXPECT_EQ(Pages(FakePageItems().Block(60).Section().Group().Block(20), 100),
-              "0.0-1.end | 2.0-3.end")
-        << "no room behind the group header: it moves alone";
-    EXPECT_EQ(Pages(FakePageItems().Block(80).Group().Break().Block(20), 100),
-              "0.0-2.end | 3.0-3.end")
-        << "a break shields the header";
-    EXPECT_EQ(Pages(FakePageItems().Block(85).Group().Break().Block(20), 100),
-              "0.0-0.end | 1.0-3.end")
-        << "but not a break that has no room itself";
-}
-
-TEST(Pagination, ListsSplitByRowWithTheirHeaderOnEachPage) {
-    EXPECT_EQ(Pages(FakePageItems().List(8, 10), 50), "0.0-0.3 | 0.4-0.end");
-    EXPECT_EQ(Pages(FakePageItems().List(9, 10).Block(30), 50), "0.0-0.3 | 0.4-0.7 | 0.8-1.end");
-    EXPECT_EQ(Pages(FakePageItems().Block(30).List(4, 10), 50), "0.0-1.0 | 1.1-1.end")
-        << "header and one row";
-    EXPECT_EQ(Pages(FakePageItems().Block(31).List(4, 10), 50), "0.0-0.end | 1.0-1.end");
-    EXPECT_EQ(Pages(FakePageItems().Block(35).List(0, 10).Block(40), 50), "0.0-0.end | 1.0-2.end")
-        << "a list without rows wants room for one, and takes that of its header";
-}
-
-TEST(Pagination, LabelledListsBeginWithTwoRows) {
-    EXPECT_EQ(Pages(FakePageItems().Block(40).Labelled(3), 50), "0.0-0.end | 1.0-1.end");
-    EXPECT_EQ(Pages(FakePageItems().Block(30).Labelled(3), 50), "0.0-1.1 | 1.2-1.end");
-    EXPECT_EQ(Pages(FakePageItems().Block(40).Labelled(1), 50), "0.0-1.end");
-    EXPECT_EQ(Pages(FakePageItems().Block(50).Labelled(0), 50), "0.0-1.end");
-}
-
-TEST(Pagination, RowNumberOfASplitItemStaysForTheNextPageTop) {
-    EXPECT_EQ(Pages(FakePageItems().List(8).Block(40).Labelled(3), 50),
-              "0.0-0.4 | 0.5-0.end | 1.5-1.end | 2.5-2.end");
-    EXPECT_EQ(Pages(FakePageItems().List(9).Break().Block(40), 50),
-              "0.0-0.4 | 0.5-1.end | 2.5-2.end")
-        << "a break printed on the page does not clear it";
-    EXPECT_EQ(Pages(FakePageItems().List(10).Break().Block(40), 50),
-              "0.0-0.4 | 0.5-0.end | 2.0-2.end")
-        << "a break left out at the top clears it";
+TEST(Pagination, EachRuleOfThePageTable) {
+    using Items = FakePageItems;
+    const struct {
+        const char* pszRule;
+        Items items;
+        unsigned nHeight;
+        const char* pszPages;
+    } cases[] = {
+        {"nothing to print gives no page", Items(), 100, ""},
+        {"nor do breaks alone", Items().Break().Break(), 100, ""},
+        {"nor breaks behind a full page", Items().Block(30).Block(0).Break().Break(), 30,
+         "0.0-1.end"},
+        {"an exact fit stays", Items().Block(40).Block(60).Block(1), 100, "0.0-1.end | 2.0-2.end"},
+        {"of a list too", Items().List(9, 10).Group(), 100, "0.0-0.end | 1.0-1.end"},
+        {"and of a text", Items().Text(5 * kWidth), 50, "0.0-0.end"},
+        {"one line more goes on", Items().Text(5 * kWidth + 1), 50, "0.0-0.4 | 0.5-0.end"},
+        {"breaks vanish at the top", Items().Break().Block(20).Break().Block(20), 50, "1.0-3.end"},
+        {"of any page", Items().Block(40).Break().Break().Block(20), 50, "0.0-1.end | 3.0-3.end"},
+        {"also where they do not fit", Items().Block(45).Break().Block(50), 50,
+         "0.0-0.end | 2.0-2.end"},
+        {"a header moves to what it announces", Items().Block(80).Group().List(3, 10), 100,
+         "0.0-0.end | 1.0-2.end"},
+        {"one line is enough to stay", Items().Block(80).Group().Text(5 * kWidth), 100,
+         "0.0-2.0 | 2.1-2.end"},
+        {"it leaves a split item's end behind", Items().List(12).Group().Block(75), 100,
+         "0.0-0.9 | 0.10-0.end | 1.10-2.end"},
+        {"no room for the group: the section header stays alone",
+         Items().Block(65).Section().Group().Block(20), 100, "0.0-1.end | 2.0-3.end"},
+        {"no room behind the group header: it moves alone",
+         Items().Block(60).Section().Group().Block(20), 100, "0.0-1.end | 2.0-3.end"},
+        {"a break shields the header", Items().Block(80).Group().Break().Block(20), 100,
+         "0.0-2.end | 3.0-3.end"},
+        {"unless it has no room itself", Items().Block(85).Group().Break().Block(20), 100,
+         "0.0-0.end | 1.0-3.end"},
+        {"lists split by row", Items().List(8, 10), 50, "0.0-0.3 | 0.4-0.end"},
+        {"with their headings on each page", Items().List(9, 10).Block(30), 50,
+         "0.0-0.3 | 0.4-0.7 | 0.8-1.end"},
+        {"headings and one row begin one", Items().Block(30).List(4, 10), 50,
+         "0.0-1.0 | 1.1-1.end"},
+        {"less does not", Items().Block(31).List(4, 10), 50, "0.0-0.end | 1.0-1.end"},
+        {"without rows it wants room for one, and takes that of its headings",
+         Items().Block(35).List(0, 10).Block(40), 50, "0.0-0.end | 1.0-2.end"},
+        {"labelled lists begin with two rows", Items().Block(40).Labelled(3), 50,
+         "0.0-0.end | 1.0-1.end"},
+        {"and may end with one", Items().Block(30).Labelled(3), 50, "0.0-1.1 | 1.2-1.end"},
+        {"or have no more", Items().Block(40).Labelled(1), 50, "0.0-1.end"},
+        {"or none", Items().Block(50).Labelled(0), 50, "0.0-1.end"},
+        {"the row number of a split item stays", Items().List(8).Block(40).Labelled(3), 50,
+         "0.0-0.4 | 0.5-0.end | 1.5-1.end | 2.5-2.end"},
+        {"a printed break does not clear it", Items().List(9).Break().Block(40), 50,
+         "0.0-0.4 | 0.5-1.end | 2.5-2.end"},
+        {"one left out at the top does", Items().List(10).Break().Block(40), 50,
+         "0.0-0.4 | 0.5-0.end | 2.0-2.end"},
+        {"an item that splits goes on from its own rows", Items().List(8, 0, 10).List(9, 30), 50,
+         "0.0-0.4 | 0.5-0.end | 1.5-1.1 | 1.2-1.3 | 1.4-1.5 | 1.6-1.7 | 1.8-1.end"},
+        {"what is taller than a page has one for itself", Items().Block(60), 50, "0.0-0.end"},
+        {"between others", Items().Block(10).Block(60).Block(10), 50,
+         "0.0-0.end | 1.0-1.end | 2.0-2.end"},
+        {"a list", Items().List(3, 45).Group(), 50, "0.0-0.end | 1.0-1.end"},
+        {"a header", Items().Section().Break().Block(10), 20, "0.0-0.end | 2.0-2.end"},
+        {"and all on a page without height", Items().Group().Block(0).Text(1), 0,
+         "0.0-0.end | 1.0-1.end | 2.0-2.end"},
+        {"a header that never stands with its follower keeps its page", Items().Group().Block(45),
+         50, "0.0-0.end | 1.0-1.end"},
+        {"before what fits no page too", Items().Block(10).Group().Block(60).Block(5), 50,
+         "0.0-0.end | 1.0-1.end | 2.0-2.end | 3.0-3.end"},
+    };
+    for (auto c : cases) {
+        EXPECT_EQ(Pages(c.items, c.nHeight), c.pszPages) << c.pszRule;
+    }
 }
 
 TEST(Pagination, WithItsOwnRowNumbersNoItemLosesRows) {
@@ -115,11 +113,6 @@ TEST(Pagination, WithItsOwnRowNumbersNoItemLosesRows) {
     EXPECT_EQ(pages(FakePageItems().List(8).Group().List(9, 10)),
               "0.0-0.4 | 0.5-0.end | 1.0-2.2 | 2.3-2.6 | 2.7-2.end")
         << "a header that is taken back opens the page at its own start";
-}
-
-TEST(Pagination, ItemThatSplitsItselfStartsFromItsOwnRows) {
-    EXPECT_EQ(Pages(FakePageItems().List(8, 0, 10).List(9, 30), 50),
-              "0.0-0.4 | 0.5-0.end | 1.5-1.1 | 1.2-1.3 | 1.4-1.5 | 1.6-1.7 | 1.8-1.end");
 }
 
 TEST(Pagination, CalculatesAtEachAttemptAndNotWithinASplit) {
@@ -140,22 +133,6 @@ TEST(Pagination, SecondRunAppendsItsPages) {
     ASSERT_EQ(pages.size(), 4u);
     EXPECT_EQ(pages[0], pages[2]);
     EXPECT_EQ(pages[1], pages[3]);
-}
-
-TEST(PaginationTraps, ItemTallerThanAPageHasOneForItself) {
-    EXPECT_EQ(Pages(FakePageItems().Block(60), 50), "0.0-0.end");
-    EXPECT_EQ(Pages(FakePageItems().Block(10).Block(60).Block(10), 50),
-              "0.0-0.end | 1.0-1.end | 2.0-2.end");
-    EXPECT_EQ(Pages(FakePageItems().List(3, 45).Group(), 50), "0.0-0.end | 1.0-1.end");
-    EXPECT_EQ(Pages(FakePageItems().Section().Break().Block(10), 20), "0.0-0.end | 2.0-2.end");
-    EXPECT_EQ(Pages(FakePageItems().Group().Block(0).Text(1), 0),
-              "0.0-0.end | 1.0-1.end | 2.0-2.end");
-}
-
-TEST(PaginationTraps, HeaderThatNeverStandsWithItsFollowerKeepsItsPage) {
-    EXPECT_EQ(Pages(FakePageItems().Group().Block(45), 50), "0.0-0.end | 1.0-1.end");
-    EXPECT_EQ(Pages(FakePageItems().Block(10).Group().Block(60).Block(5), 50),
-              "0.0-0.end | 1.0-1.end | 2.0-2.end | 3.0-3.end");
 }
 
 // Its PrintSize is the test's.

@@ -114,44 +114,34 @@ Lines Wrap(std::string_view line, unsigned nChars, const MultiByte& text = Multi
     return lines;
 }
 
-TEST(TextWrap, LineNarrowerThanThePageStaysAsItIs) {
-    EXPECT_EQ(Wrap("  a b\t", 7), Lines{"  a b\t"});
-    EXPECT_EQ(Wrap("", 7), Lines{""});
-    EXPECT_EQ(Wrap("", 0), Lines{""});
-}
-
-TEST(TextWrap, LineFlushWithTheEdgeIsBroken) {
-    EXPECT_EQ(Wrap("aaa bbb", 7), (Lines{"aaa", "bbb"}));
-    EXPECT_EQ(Wrap("aaa bbb", 8), Lines{"aaa bbb"});
-    EXPECT_EQ(Wrap("aaabbbb", 7), (Lines{"aaabbb", "b"}));
-}
-
-TEST(TextWrap, BreaksAtTheLastBlankThatMayEndTheLine) {
-    EXPECT_EQ(Wrap("a bc def", 5), (Lines{"a bc", "def"})) << "the blank itself may be too wide";
-    EXPECT_EQ(Wrap("a bcd efg", 5), (Lines{"a", "bcd", "efg"}));
-    EXPECT_EQ(Wrap("ab   cd", 5), (Lines{"ab  ", "cd"})) << "blanks before the break stay";
-    EXPECT_EQ(Wrap("ab\tcdef", 5), (Lines{"ab\tc", "def"})) << "a tab is no break";
-    EXPECT_EQ(Wrap("abcd \t\n\v\f\r x", 5), (Lines{"abcd", "x"}));
-    EXPECT_EQ(Wrap("abcdefg \t", 5), (Lines{"abcd", "efg"})) << "no line for white space alone";
-}
-
-TEST(TextWrap, WordWithoutBlankIsBrokenWhereItMust) {
-    EXPECT_EQ(Wrap("abcdefghij", 5), (Lines{"abcd", "efgh", "ij"}));
-    EXPECT_EQ(Wrap(" abcdefg", 5), (Lines{" abc", "defg"})) << "a blank in front is no break";
-}
-
-TEST(TextWrap, TooNarrowPageTakesOneCharacterALine) {
-    EXPECT_EQ(Wrap("abc", 1), (Lines{"a", "b", "c"}));
-    EXPECT_EQ(Wrap("a b", 0), (Lines{"a", "b"}));
-    EXPECT_EQ(Wrap("\xE2\x82\xAC\xC3\xA4", 1, MultiByte::Utf8()),
-              (Lines{"\xE2\x82\xAC", "\xC3\xA4"}));
-    EXPECT_EQ(Wrap("\x83\x41\x83", 1, DoubleByte()), (Lines{"\x83\x41", "\x83"}));
-}
-
-TEST(TextWrap, CharactersStayWhole) {
-    EXPECT_EQ(Wrap("a\xC3\xA4\xC3\xA4", 3, MultiByte::Utf8()),
-              (Lines{"a", "\xC3\xA4", "\xC3\xA4"}));
-    EXPECT_EQ(Wrap("a\x83\x41z", 3, DoubleByte()), (Lines{"a", "\x83\x41", "z"}));
+TEST(TextWrap, LinesEndAtBlanksOrWhereTheyMust) {
+    const MultiByte kBytes, kPairs = DoubleByte(), kUtf8 = MultiByte::Utf8();
+    const struct {
+        const char* pszText;
+        unsigned nChars;
+        const MultiByte& rule;
+        Lines lines;
+    } cases[] = {
+        {"  a b\t", 7, kBytes, {"  a b\t"}},  // narrower than the page
+        {"", 0, kBytes, {""}},
+        {"aaa bbb", 7, kBytes, {"aaa", "bbb"}},  // flush with the edge
+        {"aaa bbb", 8, kBytes, {"aaa bbb"}},
+        {"a bc def", 5, kBytes, {"a bc", "def"}},  // the blank itself may be too wide
+        {"a bcd efg", 5, kBytes, {"a", "bcd", "efg"}},
+        {"ab   cd", 5, kBytes, {"ab  ", "cd"}},     // blanks before the break stay
+        {"ab\tcdef", 5, kBytes, {"ab\tc", "def"}},  // a tab is no break
+        {"abcd \t\n\v\f\r x", 5, kBytes, {"abcd", "x"}},
+        {"abcdefg \t", 5, kBytes, {"abcd", "efg"}},  // no line for white space alone
+        {" abcdefg", 5, kBytes, {" abc", "defg"}},   // a blank in front is no break
+        {"a b", 0, kBytes, {"a", "b"}},              // one character at least
+        {"\xE2\x82\xAC\xC3\xA4", 1, kUtf8, {"\xE2\x82\xAC", "\xC3\xA4"}},
+        {"\x83\x41\x83", 1, kPairs, {"\x83\x41", "\x83"}},
+        {"a\xC3\xA4\xC3\xA4", 3, kUtf8, {"a", "\xC3\xA4", "\xC3\xA4"}},  // which stays whole
+        {"a\x83\x41z", 3, kPairs, {"a", "\x83\x41", "z"}},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(Wrap(c.pszText, c.nChars, c.rule), c.lines) << c.pszText;
+    }
 }
 
 TEST(TextWrap, AppendsToTheLinesThatAreThere) {

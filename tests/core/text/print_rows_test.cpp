@@ -105,25 +105,10 @@ TEST_F(Printing, PagesThatThereAreNotGiveNoText) {
     EXPECT_EQ(m_rows.PagesNeeded(), 2);
 }
 
-TEST_F(Printing, BlankRowsFillTheShorterOfTwo) {
+TEST_F(Printing, LineStartsOnTheSameRowInBothWithBlankRowsBetween) {
     m_styles.Add(0, 0);
-    for (int i = 0; i < 3; ++i) {
-        m_lines.Add("a" + std::to_string(i), 1);
-    }
-    for (int i = 0; i < 5; ++i) {
-        m_other.Add("b" + std::to_string(i), 1);
-    }
-    Format(20, 9, true);
-    EXPECT_EQ(Page(m_rows, m_lines, 1), "0:a0|1:a1|2:a2|3:|4:|");
-    EXPECT_EQ(m_row.nStyle, 0) << "there is no line behind the last blank row";
-    EXPECT_EQ(Page(m_otherRows, m_other, 1), "0:b0|1:b1|2:b2|3:b3|4:b4|");
-    EXPECT_EQ(m_row.nStyle, 1);
-}
-
-TEST_F(Printing, LineStartsOnTheSameRowInBoth) {
-    m_styles.Add(0, 0);
-    for (const char* psz : {"one two", "x", "y"}) {
-        m_lines.Add(psz, 0);
+    for (const char* psz : {"one two", "x"}) {
+        m_lines.Add(psz, 1);
     }
     for (const char* psz : {"u", "three four five", "v"}) {
         m_other.Add(psz, 1);
@@ -141,7 +126,8 @@ TEST_F(Printing, LineStartsOnTheSameRowInBoth) {
         }
         return strTexts;
     };
-    EXPECT_EQ(texts(m_rows, m_lines, {0, 0, 1, 1, 1, 2}), "one |two|x|||y|");
+    EXPECT_EQ(texts(m_rows, m_lines, {0, 0, 1, 1, 1, 2}), "one |two|x||||");
+    EXPECT_EQ(m_row.nStyle, 0) << "there is no line behind the last blank row";
     EXPECT_EQ(texts(m_otherRows, m_other, {0, 0, 1, 1, 1, 2}), "u||thre|e four |five|v|")
         << "the code takes two of the first piece's six bytes";
     EXPECT_EQ(m_row.nStyle, 1);
@@ -175,19 +161,6 @@ TEST_F(Printing, PiecesAreThoseOfTheLinePassedIn) {
     EXPECT_TRUE(rowCountedBy(2, 2));
     EXPECT_EQ(m_row.strText, " bbb ");
     EXPECT_EQ(m_row.nLine, 1);
-}
-
-TEST_F(Printing, NothingIsReadBehindALineWhoseStartsAreAnothers) {
-    m_lines.Add("ab", 0);
-    m_lines.Add("aaaaaaaa bbbbbbbb", 0);
-    Format(10, 99);
-    m_rows.Add(0, 1);  // a second row of the first line, as another area would have made
-    ASSERT_TRUE(StartPage(m_rows, m_lines, 1));
-    EXPECT_TRUE(NextLine(m_rows, m_lines, 1));
-    EXPECT_TRUE(NextLine(m_rows, m_lines, 1));
-    EXPECT_TRUE(NextLine(m_rows, m_lines, 1));
-    EXPECT_EQ(m_row.strText, "");
-    EXPECT_EQ(m_row.nLine, 0);
 }
 
 TEST_F(Printing, RowsByNumberJoinedGiveEveryLineBack) {

@@ -135,17 +135,48 @@ TEST_P(GridWithoutMemory, AskingGivesNothing) {
                   });
 }
 
-TEST_P(GridWithoutMemory, AnEditOpensWithItsTextOrNotAtAll) {
-    const auto check = [&] {
-        const std::string strTold = w.Edit() != nullptr ? w.Text(0, kEdit) : "closed";
-        EXPECT_TRUE(strTold == "abc" || strTold == "closed") << strTold;
-        Restore();
-        EXPECT_EQ(w.Text(0, kEdit), "abc");
+// Whatever ends for want of memory: an edit is open with its text or closed, what was typed is kept
+// or still in the edit, a choice is made and told or neither.
+TEST_P(GridWithoutMemory, NothingTypedIsLostAndNoChoiceMadeUntold) {
+    const auto type = [&] { Press(0, kEdit), Type(kLong); };
+    const auto choose = [&] { Press(0, kList), ::SendMessage(w.List(), LB_SETCURSEL, 1, 0); };
+    const auto nothing = [] {};
+    struct Step {
+        const char* pszName;
+        std::function<void()> before, step;
     };
-    Press(0, kEdit);  // makes the edit
-    Restore();
-    RefuseQuietly([&] { grid.GotoCell(0, kEdit, TRUE); }, check);
-    RefuseQuietly([&] { Press(0, kEdit); }, check);
+    const Step kSteps[] = {
+        {"open by code", nothing, [&] { grid.GotoCell(0, kEdit, TRUE); }},
+        {"open by click", nothing, [&] { Press(0, kEdit); }},
+        {"list by click", nothing, [&] { Press(0, kList); }},
+        {"typed, to an edit", type, [&] { grid.GotoCell(1, kEdit, TRUE); }},
+        {"typed, key", type, [&] { ::SendMessage(w.Edit(), WM_KEYDOWN, VK_DOWN, 1); }},
+        {"typed, focus", type, [&] { w.parent.SetFocus(); }},
+        {"chosen", choose, [&] { ::SendMessage(w.List(), WM_LBUTTONUP, 0, 0); }},
+        {"chosen, focus", choose, [&] { w.parent.SetFocus(); }},
+        {"paint", nothing, [&] { grid.SendMessage(WM_SETREDRAW, TRUE), grid.UpdateWindow(); }}};
+    for (const auto& [pszName, before, step] : kSteps) {
+        SCOPED_TRACE(pszName);
+        const std::string strTyped = pszName[0] == 't' ? std::string(kLong) : "abc";
+        const auto start = [&, &rBefore = before] {
+            Restore();
+            rBefore();
+            w.Told();
+        };
+        start();
+        RefuseQuietly(step, [&] {
+            EXPECT_EQ(w.Text(0, kEdit), strTyped);
+            const std::string strChosen = w.Text(0, kList);
+            EXPECT_TRUE(strChosen == "one" || strChosen == "two") << strChosen;
+            EXPECT_EQ(w.parent.CountCommands(kListChanged), strChosen == "two");
+            w.parent.SetFocus();
+            EXPECT_EQ(w.Text(0, kEdit), strTyped) << "with memory again";
+            grid.Invalidate(FALSE);
+            grid.UpdateWindow();
+            EXPECT_GT(grid.m_nCellHeight, 0);
+            start();
+        });
+    }
 }
 
 TEST_P(GridWithoutMemory, TheFirstEditAndTheFirstListAreMadeOrNot) {
@@ -172,75 +203,6 @@ TEST_P(GridWithoutMemory, TheFirstEditAndTheFirstListAreMadeOrNot) {
             });
     }
     TheTestApp().Forget();  // a window that the framework could not make
-}
-
-TEST_P(GridWithoutMemory, WhatWasTypedIsSavedOrStaysInTheEdit) {
-    const auto run = [&](const char* pszHow, auto leave) {
-        SCOPED_TRACE(pszHow);
-        const auto type = [&] {
-            Restore();
-            Press(0, kEdit);
-            Type(kLong);
-        };
-        type();
-        RefuseQuietly(leave, [&] {
-            EXPECT_EQ(w.Text(0, kEdit), std::string(kLong));
-            w.parent.SetFocus();
-            EXPECT_EQ(w.Text(0, kEdit), std::string(kLong));
-            type();
-        });
-    };
-    run("GotoEdit", [&] { grid.GotoCell(1, kEdit, TRUE); });
-    run("Key", [&] { ::SendMessage(w.Edit(), WM_KEYDOWN, VK_DOWN, 1); });
-    run("Focus", [&] { w.parent.SetFocus(); });
-}
-
-TEST_P(GridWithoutMemory, AChoiceIsMadeAndToldOrNeither) {
-    const auto open = [&] {
-        Restore();
-        Press(0, kList);
-        ::SendMessage(w.List(), LB_SETCURSEL, 1, 0);
-        w.Told();
-    };
-    const auto run = [&](auto close) {
-        open();
-        RefuseQuietly(close, [&] {
-            EXPECT_EQ(w.List(), nullptr);
-            const std::string strText = w.Text(0, kList);
-            EXPECT_TRUE(strText == "one" || strText == "two") << strText;
-            EXPECT_EQ(w.parent.CountCommands(kListChanged), strText == "two");
-            open();
-        });
-    };
-    run([&] { ::SendMessage(w.List(), WM_LBUTTONUP, 0, 0); });
-    run([&] { w.parent.SetFocus(); });
-    Restore();
-    RefuseQuietly([&] { Press(0, kList); },
-                  [&] {
-                      EXPECT_TRUE(w.List() == nullptr || w.ListLine() == "one");
-                      Restore();
-                      EXPECT_EQ(w.Text(0, kList), "one");
-                  });
-}
-
-TEST_P(GridWithoutMemory, PaintingAndFittingEndQuietly) {
-    RefuseQuietly(
-        [&] {
-            grid.SendMessage(WM_SETREDRAW, TRUE);
-            grid.UpdateWindow();
-        },
-        [&] {
-            grid.Invalidate(FALSE);
-            grid.UpdateWindow();
-            EXPECT_GT(grid.m_nCellHeight, 0);
-        });
-    RefuseQuietly(
-        [&] {
-            grid.SendMessage(WM_SETREDRAW, TRUE);
-            grid.EnsureRowVisible(2);
-            grid.DeleteAllRows();
-        },
-        [&] { EXPECT_EQ(grid.NumRows(), 0); });
 }
 
 TEST_P(GridWithoutMemory, AControlIsMadeOrNot) {

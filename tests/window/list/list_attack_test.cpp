@@ -75,14 +75,15 @@ void Nothing(Attacked&) {}
 void Ask(Attacked& w) {
     w.AskForAll();
 }
-bool Paint(Attacked& w) {
+void Paint(Attacked& w) {
     w.list->Invalidate();
     w.list->UpdateWindow();
-    return false;
 }
-bool SelectNext(Attacked& w) {
+void SelectFirst(Attacked& w) {
+    w.list->SelectItem(0);
+}
+void SelectNext(Attacked& w) {
     w.list->SelectItem(1);
-    return false;
 }
 void SelectAndSave(Attacked& w) {
     for (int i = 0; i < 3; ++i) {
@@ -99,41 +100,29 @@ bool Print(Attacked& w) {
     return w.list->PrintItems(&dc, &info, CRect(0, 0, 200, 500)) == 3;
 }
 
+template <class Act>
+Attack Silent(const char* pszName, UINT nCode, const char* pszHeaders,
+              std::function<void(Attacked&)> prepare, Act act) {
+    return {pszName, nCode, pszHeaders, std::move(prepare), [act](Attacked& w) {
+                act(w);
+                return false;
+            }};
+}
+
 const Attack kAttacks[] = {
-    {"select, asked", LVN_ITEMCHANGING, "a\tb", [](Attacked& w) { w.list->SelectItem(0); },
-     SelectNext},
-    {"select, told", LVN_ITEMCHANGED, "a\tb", [](Attacked& w) { w.list->SelectItem(0); },
-     SelectNext},
-    {"restore", LVN_ITEMCHANGED, "a\tb", SelectAndSave,
-     [](Attacked& w) {
-         w.list->RestoreSelections();
-         return false;
-     }},
-    {"delete", LVN_DELETEITEM, nullptr, Nothing,
-     [](Attacked& w) {
-         w.list->DeleteItem(1);
-         return false;
-     }},
-    {"empty", LVN_DELETEALLITEMS, nullptr, Nothing,
-     [](Attacked& w) {
-         w.list->DeleteAllItems();
-         return false;
-     }},
-    {"fit", LVN_GETDISPINFO, nullptr, Ask,
-     [](Attacked& w) {
-         w.list->DeleteItem(1);
-         return false;
-     }},
-    {"size", LVN_GETDISPINFO, nullptr, Ask,
-     [](Attacked& w) {
-         w.list->SetWindowPos(nullptr, 0, 0, 300, 150, SWP_NOMOVE | SWP_NOZORDER);
-         return false;
-     }},
-    {"set up", LVN_GETDISPINFO, nullptr, Ask,
-     [](Attacked& w) {
-         w.list->SetupColumns();
-         return false;
-     }},
+    Silent("select, asked", LVN_ITEMCHANGING, "a\tb", SelectFirst, SelectNext),
+    Silent("select, told", LVN_ITEMCHANGED, "a\tb", SelectFirst, SelectNext),
+    Silent("restore", LVN_ITEMCHANGED, "a\tb", SelectAndSave,
+           [](Attacked& w) { w.list->RestoreSelections(); }),
+    Silent("delete", LVN_DELETEITEM, nullptr, Nothing, [](Attacked& w) { w.list->DeleteItem(1); }),
+    Silent("empty", LVN_DELETEALLITEMS, nullptr, Nothing,
+           [](Attacked& w) { w.list->DeleteAllItems(); }),
+    Silent("fit", LVN_GETDISPINFO, nullptr, Ask, [](Attacked& w) { w.list->DeleteItem(1); }),
+    Silent("size", LVN_GETDISPINFO, nullptr, Ask,
+           [](Attacked& w) {
+               w.list->SetWindowPos(nullptr, 0, 0, 300, 150, SWP_NOMOVE | SWP_NOZORDER);
+           }),
+    Silent("set up", LVN_GETDISPINFO, nullptr, Ask, [](Attacked& w) { w.list->SetupColumns(); }),
     {"insert", LVN_INSERTITEM, "a\tb", Nothing,
      [](Attacked& w) { return w.list->InsertBitmapString(0, 0, "x\ty") != -1; }},
     {"insert in one column", LVN_INSERTITEM, nullptr, Nothing,
@@ -151,21 +140,16 @@ const Attack kAttacks[] = {
          CString str;
          return w.list->GetItemString(1, str) != FALSE;
      }},
-    {"paint", LVN_GETDISPINFO, "a\tb", Ask, Paint},
-    {"paint one column", LVN_GETDISPINFO, nullptr, Ask, Paint},
+    Silent("paint", LVN_GETDISPINFO, "a\tb", Ask, Paint),
+    Silent("paint one column", LVN_GETDISPINFO, nullptr, Ask, Paint),
     {"print", LVN_GETDISPINFO, "a\tb", Ask, Print},
     {"export", LVN_GETDISPINFO, "a\tb", Ask,
      [](Attacked& w) { return w.list->ExportData("NUL", ',') != FALSE; }},
-    {"focus", static_cast<UINT>(NM_SETFOCUS), "a\tb", Nothing,
-     [](Attacked& w) {
-         w.list->SetFocus();
-         return false;
-     }},
-    {"leave", static_cast<UINT>(NM_KILLFOCUS), "a\tb", [](Attacked& w) { w.list->SetFocus(); },
-     [](Attacked& w) {
-         ::SetFocus(w.parent.m_hWnd);
-         return false;
-     }},
+    Silent("focus", static_cast<UINT>(NM_SETFOCUS), "a\tb", Nothing,
+           [](Attacked& w) { w.list->SetFocus(); }),
+    Silent(
+        "leave", static_cast<UINT>(NM_KILLFOCUS), "a\tb", [](Attacked& w) { w.list->SetFocus(); },
+        [](Attacked& w) { ::SetFocus(w.parent.m_hWnd); }),
 };
 
 void PrintTo(const Attack& attack, std::ostream* pOut) {

@@ -71,20 +71,13 @@ TEST(ListColumnsInWindow, HeadersEndTheSingleColumnAndAddUp) {
     EXPECT_EQ(strCut.GetLength(), 254);
 }
 
-TEST(ListColumnsInWindow, SampleRowsWidenAndFill) {
-    ListWindow<> w("a\tb\tc");
-    w.list.SetColWidth(0, 150, nullptr);
-    w.list.SetupColumnsFromString("short\tsomewhat longer than the column is*\tx*");
-    EXPECT_EQ(w.list.GetColWidth(0, nullptr), 150) << "columns only grow";
-    EXPECT_EQ(w.list.GetColWidth(1, nullptr),
-              w.list.GetStringWidth("somewhat longer than the column is") + 12);
-    ListWindow<> fill("a\tb");
-    fill.list.SetupColumnsFromString("a\t*");
-    EXPECT_EQ(fill.list.GetDataWidth(),
-              fill.list.m_nClientWidth - ::GetSystemMetrics(SM_CXVSCROLL));
-    fill.list.CalcColsFromHeader(0);
-    EXPECT_EQ(fill.list.GetDataWidth(), fill.list.m_nClientWidth) << "no bar is allowed for";
-    EXPECT_EQ(fill.list.GetColWidth(1, nullptr), fill.list.GetStringWidth("b") + 12);
+TEST(ListColumnsInWindow, FittedColumnsFillTheWindow) {
+    ListWindow<> w("a\tb");
+    w.list.SetupColumnsFromString("a\t*");
+    EXPECT_EQ(w.list.GetDataWidth(), w.list.m_nClientWidth - ::GetSystemMetrics(SM_CXVSCROLL));
+    w.list.CalcColsFromHeader(0);
+    EXPECT_EQ(w.list.GetDataWidth(), w.list.m_nClientWidth) << "no bar is allowed for";
+    EXPECT_EQ(w.list.GetColWidth(1, nullptr), w.list.GetStringWidth("b") + 12);
 }
 
 TEST(ListColumnsInWindow, TheSingleColumnFollowsTheWidestRow) {
@@ -149,25 +142,6 @@ TEST(ListRows, FieldsGoToColumnsAndBack) {
     EXPECT_EQ(images.Row(0), "1\t2");
     EXPECT_STREQ(images.list.GetItemText(0, 0), "-");
     EXPECT_EQ(images.list.GetImage(0), 3);
-}
-
-TEST(ListRows, AddFindsThePlaceByNumberOrText) {
-    ListWindow<> w("a");
-    w.Add("2");
-    w.Add("10");
-    EXPECT_EQ(w.list.AddBitmapString(0, "3", TRUE), 1);
-    ListWindow<> text("a");
-    text.Add("10");
-    text.Add("2");
-    EXPECT_EQ(text.list.AddBitmapString(0, "15", FALSE), 1);
-    EXPECT_EQ(text.list.AddBitmapString(0, "15", FALSE), 2) << "equal rows in order of arrival";
-    // The code of a row that is there counts, and stands before all letters.
-    EXPECT_EQ(text.list.AddBitmapString(0,
-                                        "\x1b"
-                                        "a0",
-                                        FALSE),
-              0);
-    EXPECT_EQ(text.list.AddBitmapString(0, "0", FALSE), 1);
 }
 
 // The fast way against the walk, while others change rows behind its back.

@@ -77,6 +77,14 @@ struct Operation {
     std::function<bool(StarvedList&)> act;
 };
 
+template <class Act>
+Operation Silent(const char* pszName, bool bHeaders, Act act) {
+    return {pszName, bHeaders, false, [act](StarvedList& w) {
+                act(w);
+                return true;
+            }};
+}
+
 const Operation kOperations[] = {
     {"insert", true, true,
      [](StarvedList& w) {
@@ -98,47 +106,17 @@ const Operation kOperations[] = {
      [](StarvedList& w) { return w.list.GetItemString(0, w.strRead) != FALSE; }},
     {"headings", true, true,
      [](StarvedList& w) { return w.list.MakeHeaderString(w.strRead) == 3; }},
-    {"add headings", true, false,
-     [](StarvedList& w) {
-         w.list.AddHeader("a heading that is long\td", lcdtNumber);
-         return true;
-     }},
-    {"first headings", false, false,
-     [](StarvedList& w) {
-         w.list.AddHeader("a heading that is long\td", lcdtNumber);
-         return true;
-     }},
-    {"sample", true, false,
-     [](StarvedList& w) {
-         w.list.SetupColumnsFromString(w.strSample);
-         return true;
-     }},
-    {"fit to headings", true, false,
-     [](StarvedList& w) {
-         w.list.CalcColsFromHeader(1);
-         return true;
-     }},
-    {"fit", false, false,
-     [](StarvedList& w) {
-         w.list.SetupColumns();
-         return true;
-     }},
+    Silent("add headings", true,
+           [](StarvedList& w) { w.list.AddHeader("a heading that is long\td", lcdtNumber); }),
+    Silent("first headings", false,
+           [](StarvedList& w) { w.list.AddHeader("a heading that is long\td", lcdtNumber); }),
+    Silent("sample", true, [](StarvedList& w) { w.list.SetupColumnsFromString(w.strSample); }),
+    Silent("fit to headings", true, [](StarvedList& w) { w.list.CalcColsFromHeader(1); }),
+    Silent("fit", false, [](StarvedList& w) { w.list.SetupColumns(); }),
     {"delete", false, true, [](StarvedList& w) { return w.list.DeleteItem(0) != FALSE; }},
-    {"align", true, false,
-     [](StarvedList& w) {
-         w.list.SetColFormat(2, LVCFMT_RIGHT);
-         return true;
-     }},
-    {"style", true, false,
-     [](StarvedList& w) {
-         w.list.SetColStyle(2, 1);
-         return true;
-     }},
-    {"exclude", true, false,
-     [](StarvedList& w) {
-         w.list.ExcludeColumnFromPrinting(1);
-         return true;
-     }},
+    Silent("align", true, [](StarvedList& w) { w.list.SetColFormat(2, LVCFMT_RIGHT); }),
+    Silent("style", true, [](StarvedList& w) { w.list.SetColStyle(2, 1); }),
+    Silent("exclude", true, [](StarvedList& w) { w.list.ExcludeColumnFromPrinting(1); }),
     {"widths on paper", true, true,
      [](StarvedList& w) { return w.list.CalcPrintCols(&w.dc, 300) == 3; }},
     {"print", true, true,
@@ -152,39 +130,24 @@ const Operation kOperations[] = {
          return bAll;
      }},
     {"export", true, true, [](StarvedList& w) { return w.list.ExportData("NUL", ',') != FALSE; }},
-    {"selection", true, false,
-     [](StarvedList& w) {
-         w.list.SaveSelections();
-         w.list.RestoreSelections();
-         return true;
-     }},
-    {"paint", true, false,
-     [](StarvedList& w) {
-         w.list.Invalidate();
-         w.list.UpdateWindow();
-         return true;
-     }},
-    {"size", false, false,
-     [](StarvedList& w) {
-         w.list.SetWindowPos(nullptr, 0, 0, 390, 190, SWP_NOMOVE | SWP_NOZORDER);
-         w.list.UpdateWindow();
-         return true;
-     }},
-    {"sort", true, false,
-     [](StarvedList& w) {
-         w.list.SortOnHeader(1);
-         return true;
-     }},
-    {"sort again", true, false,
-     [](StarvedList& w) {
-         w.list.ReSort();
-         return true;
-     }},
-    {"sort by date", true, false,
-     [](StarvedList& w) {
-         w.list.SortOnHeader(2);
-         return true;
-     }},
+    Silent("selection", true,
+           [](StarvedList& w) {
+               w.list.SaveSelections();
+               w.list.RestoreSelections();
+           }),
+    Silent("paint", true,
+           [](StarvedList& w) {
+               w.list.Invalidate();
+               w.list.UpdateWindow();
+           }),
+    Silent("size", false,
+           [](StarvedList& w) {
+               w.list.SetWindowPos(nullptr, 0, 0, 390, 190, SWP_NOMOVE | SWP_NOZORDER);
+               w.list.UpdateWindow();
+           }),
+    Silent("sort", true, [](StarvedList& w) { w.list.SortOnHeader(1); }),
+    Silent("sort again", true, [](StarvedList& w) { w.list.ReSort(); }),
+    Silent("sort by date", true, [](StarvedList& w) { w.list.SortOnHeader(2); }),
 };
 
 struct Outcome {

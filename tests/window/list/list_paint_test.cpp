@@ -78,8 +78,6 @@ TEST(ListPaint, StylesCarryFromCellToCell) {
         "c4");
     EXPECT_EQ(Backgrounds(w, 0), (Colors{kWindow, kGreen, kGreen, kGreen}))
         << "the last one by its column's style";
-    w.list.SetColStyle(3, 0);
-    EXPECT_EQ(Backgrounds(w, 0), (Colors{kWindow, kGreen, kGreen, kWindow}));
     // Style 0 has a text colour but no background.
     w.list.SetItemString(0,
                          "\x1b"
@@ -100,7 +98,6 @@ TEST(ListPaint, TheSpaceUnderTheRowsHasTheColumnsColours) {
     ListWindow<> w("a\tb");
     w.list.AddStyle(kRed, kGreen);
     w.list.SetColStyle(1, 1);
-    w.list.SetColStyle(0, 99);  // no style, so the default one
     const Picture empty = Shown(w.list);
     const int yHeader = 40;
     EXPECT_EQ(empty.At(90, yHeader), kGreen) << "an empty list too";

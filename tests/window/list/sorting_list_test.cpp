@@ -87,19 +87,6 @@ TEST(SortingList, TypesDecideTheOrder) {
     EXPECT_EQ(w.Column(2), "30 -1 5 4");
 }
 
-TEST(SortingList, ItemDataComeBackAsTheyWere) {
-    SortWindow w;
-    for (int i = 0; i < 100; ++i) {
-        const std::string str = std::to_string(i * 37 % 100);
-        w.list.SetItemData(w.Add((str + "\tx\t" + str).c_str()),
-                           static_cast<DWORD_PTR>(i * 37 % 100));
-    }
-    w.list.SortOnHeader(2);
-    for (int i = 0; i < 100; ++i) {
-        ASSERT_EQ(w.list.GetItemData(i), static_cast<DWORD_PTR>(i));
-    }
-}
-
 TEST(SortingList, EqualRowsKeepTheirOrderWhateverTheirData) {
     for (const bool bDistinct : {false, true}) {
         SortWindow w;
@@ -119,6 +106,74 @@ TEST(SortingList, EqualRowsKeepTheirOrderWhateverTheirData) {
                           static_cast<DWORD_PTR>(bDistinct ? nRow : nRow / 40));
             }
         }
+    }
+}
+
+// Answers a message that changes a text by itself.
+class OwnTextList : public QVSortingListCtrl {
+    DECLARE_MESSAGE_MAP()
+    LRESULT OnSetText(WPARAM, LPARAM) { return Default(); }
+};
+BEGIN_MESSAGE_MAP(OwnTextList, QVSortingListCtrl)
+    ON_MESSAGE(LVM_SETITEMTEXTA, OnSetText)
+END_MESSAGE_MAP()
+
+// What a sort keeps must not outlive any change.
+TEST(SortingList, ASortSeesWhatChangedSinceTheLastOne) {
+    using List = OpenList<OwnTextList>;
+    const struct {
+        const char* pszChange;
+        void (*pfnChange)(List&, RecordingParent&);
+        const char* pszOrder;
+    } cases[] = {
+        {"nothing", [](List&, RecordingParent&) {}, "c b a"},
+        {"order", [](List& list, RecordingParent&) { list.SortOnHeader(1); }, "a b c"},
+        {"text", [](List& list, RecordingParent&) { list.SetItemText(0, 0, "bb"); }, "c bb b"},
+        {"a text that is not told",
+         [](List& list, RecordingParent&) {
+             LVITEM item{};
+             item.mask = LVIF_TEXT;
+             item.pszText = const_cast<char*>("d");
+             list.SetItem(&item);
+         },
+         "d c b"},
+        {"data",
+         [](List& list, RecordingParent&) {
+             list.SetItemData(0, 2);
+             list.SetItemData(2, 0);
+         },
+         "c b a"},
+        {"row", [](List& list, RecordingParent&) { list.InsertBitmapString(0, 0, "bc"); },
+         "c bc b a"},
+        {"deletion", [](List& list, RecordingParent&) { list.DeleteItem(1); }, "c a"},
+        {"on demand",
+         [](List& list, RecordingParent& parent) {
+             list.SetItemText(0, 0, LPSTR_TEXTCALLBACK);
+             parent.m_hook = [n = 0](NMHDR* pHdr, LRESULT*) mutable {
+                 if (pHdr->code == LVN_GETDISPINFO) {
+                     auto* pInfo = reinterpret_cast<NMLVDISPINFO*>(pHdr);
+                     pInfo->item.pszText = const_cast<char*>(n++ < 1 ? "0" : "z");
+                 }
+                 return false;
+             };
+             list.SortOnHeader(1);
+             list.SortOnHeader(0);
+         },
+         "z c b"},
+    };
+    for (const auto& c : cases) {
+        ListWindow<OwnTextList> w("name\tother");
+        for (const char* psz : {"a\t1", "b\t1", "c\t1"}) {
+            w.list.SetItemData(w.Add(psz), static_cast<DWORD_PTR>(psz[0] - 'a'));
+        }
+        w.list.ReSort();
+        c.pfnChange(w.list, w.parent);
+        w.list.SortOnHeader(0);
+        std::string strOrder;
+        for (int i = 0; i < w.list.GetItemCount(); ++i) {
+            strOrder += (i > 0 ? " " : "") + std::string(w.list.GetItemText(i, 0));
+        }
+        EXPECT_EQ(strOrder, c.pszOrder) << c.pszChange;
     }
 }
 

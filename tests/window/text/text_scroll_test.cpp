@@ -119,7 +119,7 @@ TEST_F(TextScroll, KeysScroll) {
 }
 
 TEST_F(TextScroll, AMaximisedWindowKeepsItsPosition) {
-    V(SB_BOTTOM);
+    w.text.Scroll(WM_VSCROLL, SB_BOTTOM);
     w.text.ShowWindow(SW_SHOWMAXIMIZED);
     ASSERT_TRUE(w.text.IsZoomed());
     CRect rc;
@@ -237,18 +237,6 @@ TEST(TextPartners, ScrollTogether) {
     EXPECT_EQ(pair.a.text.VScrollPos(), 0);
 }
 
-TEST(TextPartners, OneMayGoFirst) {
-    Pair<OpenText> pair;
-    pair.b.reset();
-    EXPECT_EQ(pair.a.text.Scroll(WM_VSCROLL, SB_PAGEDOWN), 10);
-    pair.a.text.ScrollTo(20, 0);
-    pair.a.text.ClearTextData();
-    EXPECT_EQ(pair.a.text.VScrollPos(), 0);
-    Pair<OpenText> other;
-    other.b->text.DestroyWindow();
-    EXPECT_EQ(other.a.text.Scroll(WM_VSCROLL, SB_PAGEDOWN), 10) << "a partner without a window";
-}
-
 TEST(TextPartners, InTheGridBothHaveAHorizontalBarAndScrollAcrossAlone) {
     Pair<GridText> pair;
     EXPECT_TRUE(pair.a.text.HasBar(SB_HORZ));
@@ -318,7 +306,14 @@ protected:
 
 TEST(TextLeaves, InTheMiddleOfAScrollAndThePartnerFollowsOrIsFree) {
     using Leave = LeavingText::Leave;
-    for (const UINT nMessage : {WM_VSCROLL, WM_MOUSEWHEEL, WM_KEYDOWN, WM_PAINT}) {
+    const struct {
+        UINT nMessage;
+        WPARAM wParam;
+    } kMessages[] = {{WM_VSCROLL, SB_LINEDOWN},
+                     {WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(-3 * WHEEL_DELTA))},
+                     {WM_KEYDOWN, VK_NEXT},
+                     {WM_PAINT, 0}};
+    for (const auto& [nMessage, wParam] : kMessages) {
         for (const Leave leave : {Leave::Window, Leave::Object}) {
             FontParent parent(CSize(200, 100));
             CRect rc(0, 0, 200, 100);
@@ -340,11 +335,7 @@ TEST(TextLeaves, InTheMiddleOfAScrollAndThePartnerFollowsOrIsFree) {
                 pText->Invalidate(FALSE);
                 ::UpdateWindow(hWnd);
             } else {
-                ::SendMessage(hWnd, nMessage,
-                              nMessage == WM_VSCROLL      ? SB_LINEDOWN
-                              : nMessage == WM_MOUSEWHEEL ? MAKEWPARAM(0, -3 * WHEEL_DELTA)
-                                                          : WPARAM{VK_NEXT},
-                              0);
+                ::SendMessage(hWnd, nMessage, wParam, 0);
             }
             EXPECT_FALSE(::IsWindow(hWnd)) << nMessage;
             other.text.ScrollTo(7, 0);

@@ -269,17 +269,24 @@ protected:
     TextWindow<> w;
 };
 
-TEST_F(TextFile, EveryKindOfLineEndEndsALine) {
-    EXPECT_EQ(Load("a\r\nb\n\nlast"), 1);
-    EXPECT_EQ(Lines(), "a|b||last");
-    EXPECT_EQ(w.text.NumRows(), 4);
+TEST_F(TextFile, EveryKindOfLineEndEndsALineAndAZeroIsABlank) {
+    using namespace std::string_literals;
+    for (const auto& [strBytes, strLines] : {std::pair{"a\r\nb\n\nlast"s, "a|b||last"s},
+                                             {"a\0b\0\r\n\0\0\nc"s, "a b |  |c"s},
+                                             {""s, ""s},
+                                             {"a\nb\n"s, "a|b"s}}) {
+        EXPECT_EQ(Load(strBytes), 1);
+        EXPECT_EQ(Lines(), strLines);
+        EXPECT_EQ(w.text.NumRows(), w.text.NumLines());
+    }
+    EXPECT_EQ(w.text.LoadFile(TempPath("no such file").c_str(), 0), 0);
+    EXPECT_EQ(w.text.LoadFile(TempPath("").c_str(), 0), 0) << "a directory";
+    EXPECT_EQ(Lines(), "a|b") << "the lines of before";
     EXPECT_EQ(Load("one\r\n", 1), 1);
     EXPECT_EQ(Lines(), "bone") << "no such style yet: its letter shows";
     w.text.AddStyle(kRed, kGreen);
     EXPECT_EQ(Lines(), "one");
     EXPECT_GT(w.text.Fresh().Count(kGreen), 100);
-    EXPECT_EQ(Load(""), 1);
-    EXPECT_EQ(w.text.NumLines(), 0);
 }
 
 TEST_F(TextFile, ALineMayHaveAMegabyte) {
@@ -318,19 +325,6 @@ TEST_F(TextFile, WhatWasReadBeforeAFaultStaysAndShows) {
     EXPECT_EQ(w.text.LoadFile(file, 0), 0);
     EXPECT_EQ(Lines(), "one|two");
     EXPECT_EQ(w.text.NumRows(), 2);
-}
-
-TEST_F(TextFile, AZeroShowsAsABlank) {
-    using namespace std::string_literals;
-    ASSERT_EQ(Load("a\0b\0\r\n\0\0\nc"s), 1);
-    EXPECT_EQ(Lines(), "a b |  |c") << "nothing behind it is lost";
-}
-
-TEST_F(TextFile, WhatCannotBeOpenedLeavesTheLines) {
-    Load("a\nb\n");
-    EXPECT_EQ(w.text.LoadFile(TempPath("no such file").c_str(), 0), 0);
-    EXPECT_EQ(w.text.LoadFile(TempPath("").c_str(), 0), 0) << "a directory";
-    EXPECT_EQ(Lines(), "a|b");
 }
 
 TEST_F(TextFile, ExportsLinesAndNotRows) {
