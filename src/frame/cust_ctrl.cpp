@@ -1,7 +1,7 @@
 #include "frame/cust_ctrl.h"
 
+#include "frame/dc_guards.h"
 #include "frame/out_of_memory.h"
-#include "frame/select_object.h"
 
 IMPLEMENT_DYNCREATE(QVCustCtrl, CWnd)
 

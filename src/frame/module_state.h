@@ -3,8 +3,6 @@
 
 #pragma once
 
-#include "frame/process_text.h"
-
 #include <afxwin.h>
 
 // Shared target of empty results.

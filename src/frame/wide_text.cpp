@@ -1,6 +1,6 @@
 #include "frame/wide_text.h"
 
-#include "frame/module_state.h"
+#include "frame/process_text.h"
 
 #include <algorithm>
 #include <new>

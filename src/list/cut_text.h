@@ -3,7 +3,7 @@
 #pragma once
 
 #include "frame/core/styled_text.h"
-#include "frame/module_state.h"
+#include "frame/process_text.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -2,9 +2,9 @@
 
 #include "frame/ancestor_font.h"
 #include "frame/core/wheel.h"
+#include "frame/dc_guards.h"
 #include "frame/mouse_wheel.h"
 #include "frame/out_of_memory.h"
-#include "frame/select_object.h"
 #include "list/list_ctrl_core.h"
 
 #include <climits>

@@ -1,7 +1,8 @@
 #include "list/list_ctrl.h"
 
+#include "frame/dc_guards.h"
 #include "frame/out_of_memory.h"
-#include "frame/select_object.h"
+#include "frame/paint_objects.h"
 #include "frame/text_out.h"
 #include "frame/wnd_port.h"
 #include "list/cell_row.h"

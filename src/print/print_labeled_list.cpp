@@ -1,7 +1,7 @@
 #include "print/print_labeled_list.h"
 
+#include "frame/dc_guards.h"
 #include "frame/out_of_memory.h"
-#include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "print/core/pagination.h"
 #include "print/core/row_split.h"

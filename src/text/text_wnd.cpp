@@ -1,9 +1,8 @@
 #include "text/text_wnd.h"
 
 #include "frame/create_window.h"
-#include "frame/module_state.h"
+#include "frame/dc_guards.h"
 #include "frame/out_of_memory.h"
-#include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "text/text_wnd_core.h"
 

@@ -1,9 +1,9 @@
 #include "text/text_wnd.h"
 
 #include "frame/core/wheel.h"
+#include "frame/dc_guards.h"
 #include "frame/mouse_wheel.h"
 #include "frame/out_of_memory.h"
-#include "frame/select_object.h"
 #include "frame/text_out.h"
 #include "text/text_wnd_core.h"
 

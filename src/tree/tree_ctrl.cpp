@@ -1,6 +1,7 @@
 #include "tree/tree_ctrl.h"
 
 #include "frame/ancestor_font.h"
+#include "frame/module_state.h"
 #include "frame/out_of_memory.h"
 #include "frame/text_out.h"
 #include "tree/tree_ctrl_core.h"

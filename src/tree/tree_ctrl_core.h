@@ -4,7 +4,6 @@
 
 #include "frame/alive.h"
 #include "frame/font_measure.h"
-#include "frame/module_state.h"
 #include "frame/process_text.h"
 #include "frame/rectangles.h"
 #include "frame/wnd_port.h"

@@ -181,6 +181,44 @@ TEST_F(Outside, AText) {
     EXPECT_TRUE(text.FollowsNone()) << "the partner is gone";
 }
 
+// --- Lists
+
+class List : public QVSortingListCtrl {
+public:
+    void LooksAtItself(CWnd& parent) {
+        SetDefStyle(WS_CHILD | LVS_REPORT);
+        EXPECT_EQ(m_dwDefStyle, static_cast<DWORD>(WS_CHILD | LVS_REPORT));
+        ASSERT_TRUE(Create(1, kRect, &parent));
+        AddHeader("one\ttwo", lcdtNumber);
+        InsertBitmapString(-1, -1, "2\tb");
+        InsertBitmapString(-1, -1, "1\ta");
+        SetImageCenterVertically(FALSE);
+        SetAlwaysHighlightSel(TRUE);
+        SetAllowSel(FALSE);
+        EXPECT_TRUE(!m_bImageCenterVert && m_bAlwaysHighlightSel && !m_bAllowSel);
+        EXPECT_TRUE(IsPrintComplete());
+        EXPECT_TRUE(InReportMode());
+        EXPECT_EQ(GetDataWidth(), 120);
+        EXPECT_EQ(m_nDataWidth, 120);
+        InvalidateDataWidth();
+        EXPECT_EQ(m_nDataWidth, -1);
+        EXPECT_STREQ(CellText(1, 1), "a");
+        EXPECT_EQ(ToldWindow(), parent.m_hWnd);
+        EXPECT_EQ(m_aColTypes[1], lcdtNumber);
+        m_bAscending = FALSE;
+        SortOnHeader(0);
+        EXPECT_TRUE(m_bAscending);
+        EXPECT_STREQ(CellText(0, 1), "a");
+        EXPECT_EQ(m_nImageWidth + m_nImageHeight, 0);
+        SetNumColumns(1);
+        EXPECT_EQ(NumColumns(), 1);
+    }
+};
+
+TEST_F(Outside, AList) {
+    List().LooksAtItself(m_parent);
+}
+
 // --- Captions
 
 template <class Base>

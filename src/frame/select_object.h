@@ -1,4 +1,0 @@
-#pragma once
-
-#include "frame/dc_guards.h"
-#include "frame/paint_objects.h"
