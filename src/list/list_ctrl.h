@@ -197,7 +197,9 @@ protected:
     BOOL NextField(const CString& strRow, int& nPos, CString& strField) const;
     // The columns' widths on paper, from CalcPrintCols on: what DrawItemText is given there.
     int* PrintColWidths();
-    // To be called where columns change without a message.
+    // For a class that sets up its columns itself: how many there are, and that the sum of their
+    // widths is no longer known.
+    void SetNumColumns(int nColumns);
     void InvalidateDataWidth() { m_nDataWidth = -1; }
     // What is known of changes to rows, for the library's own classes.
     const qv::RowChanges& Changes() const;

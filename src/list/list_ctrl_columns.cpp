@@ -230,6 +230,10 @@ int QVListCtrlEx::NumColumns() const {
     return m_pCore->columns.Count();
 }
 
+void QVListCtrlEx::SetNumColumns(int nColumns) {
+    m_pCore->columns.SetCount(nColumns);
+}
+
 int QVListCtrlEx::GetColFormat(int nCol) const {
     return m_pCore->columns.Format(nCol);
 }

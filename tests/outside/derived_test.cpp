@@ -8,6 +8,19 @@ namespace {
 
 const CRect kRect(0, 0, 200, 100);
 
+// The controls take the font of their parent.
+class Parent : public CWnd {
+public:
+    Parent() { m_font.CreatePointFont(90, "Tahoma"); }
+
+private:
+    LRESULT WindowProc(UINT nMessage, WPARAM wParam, LPARAM lParam) override {
+        return nMessage == WM_GETFONT ? reinterpret_cast<LRESULT>(m_font.m_hObject)
+                                      : CWnd::WindowProc(nMessage, wParam, lParam);
+    }
+    CFont m_font;
+};
+
 class Outside : public testing::Test {
 protected:
     Outside() {
@@ -16,7 +29,7 @@ protected:
     }
     ~Outside() override { m_parent.DestroyWindow(); }
 
-    CWnd m_parent;
+    Parent m_parent;
 };
 
 // --- Tree
@@ -45,7 +58,8 @@ public:
         EXPECT_TRUE(GetShowStatesAtRoot());
         EXPECT_TRUE(GetRedraw());
         EXPECT_EQ(GetIndentStep(), 19);
-        EXPECT_EQ(GetMaxWidth() > 0, ItemHeight() > 0);
+        EXPECT_GT(GetMaxWidth(), 0);
+        EXPECT_GT(ItemHeight(), 0);
         EXPECT_EQ(GetHScrollPos() + GetVScrollPos() + GetHPage() + GetVPage(), 0);
         EXPECT_EQ(GetImageSize(), CSize(0, 0));
         EXPECT_EQ(GetStateImageSize(), CSize(0, 0));
@@ -248,14 +262,15 @@ public:
         SetIncomplete();
         EXPECT_FALSE(IsComplete());
     }
-    void Print(CDC*, const CRect&, unsigned, unsigned) override {}
+    void Print(CDC*, CRect&, unsigned, unsigned) override {}
 };
 
 TEST_F(Outside, ThePrintEngine) {
     Item().LooksAtItself();
     QVPrintEngine engine(nullptr, nullptr, nullptr, nullptr);
     engine.SetPrintAllRows(true);
-    QVPeDataLabeledList& totals = engine.AddLabeledDataList(nullptr);
+    CClientDC dc(&m_parent);
+    QVPeDataLabeledList& totals = engine.AddLabeledDataList(&dc);
     totals.SetFitNumbers(true);
     totals.SetIndented(1);
     QVPrintEnginePage page;
