@@ -4,7 +4,6 @@
 #include "support/fake_grid.h"
 
 #include <gtest/gtest.h>
-#include <memory>
 
 namespace qv {
 
@@ -63,25 +62,46 @@ protected:
     bool IsDown() const { return (model.RowAt(0).dwState & GRS_BUTTONDOWN) != 0; }
 
     CStringArray choices{"one", "two", "three"};
-    std::unique_ptr<FakeGrid> pGrid = std::make_unique<FakeGrid>();
-    FakeGrid& g = *pGrid;
+    FakeGrid g;
     GridModel& model = g.model;
     GridEditing& editing = g.editing;
 };
 
 // --- When what was typed or chosen is kept
 
-struct Ending {
-    const char* pszName;
-    std::function<void(GridEdits&, FakeGrid&)> end;
-    const char* pszTyped;   // the cell's text afterwards; "def" before
-    const char* pszChosen;  // "one" before
-};
-
-class GridKeeps : public GridEdits {
-protected:
-    void Run(const Ending& ending) {
-        SCOPED_TRACE(ending.pszName);
+TEST_F(GridEdits, WhatIsTypedOrChosenIsKeptOrDroppedAsTheEditorIsLeft) {
+    const auto col = [&] { return g.state.m_nCurCol; };
+    struct Ending {
+        const char* pszName;
+        std::function<void()> end;
+        const char* pszTyped;   // the cell's text afterwards; "def" before
+        const char* pszChosen;  // "one" before
+    };
+    const Ending kEndings[] = {
+        {"focus", [&] { g.MoveFocus(Focus::Elsewhere); }, "new", "two"},
+        {"key", [&] { editing.Key(VK_LEFT); }, "new", "two"},
+        {"goto",
+         [&] {
+             editing.GotoCell({1, kStatic}, true);
+         },
+         "new", "two"},
+        {"click", [&] { Click(1, kEdit); }, "new", "two"},
+        {"static", [&] { Click(0, kStatic); }, "new", "two"},
+        {"bar", [&] { g.ScrollByUser(1); }, "new", "two"},
+        {"closed", [&] { g.CloseWindow(); }, "new", "one"},
+        {"Escape", [&] { editing.Key(VK_ESCAPE); }, "def", "one"},
+        {"disabled", [&] { Disable(0, col()); }, "def", "one"},
+        {"read-only", [&] { Disable(0, col(), GCS_READONLY); }, "def", "one"},
+        {"rows deleted",
+         [&] {
+             editing.DeleteRows();
+             AddRows(20);
+             g.MoveFocus(Focus::Elsewhere);
+         },
+         "def", "one"},
+    };
+    for (const auto& [pszName, end, pszTyped, pszChosen] : kEndings) {
+        SCOPED_TRACE(pszName);
         for (const int nCol : {kEditButton, kList}) {
             model.DeleteAllRows();
             AddRows(20);
@@ -92,51 +112,14 @@ protected:
             nCol == kList ? editing.Key(VK_DOWN) : g.Type("new");
             ASSERT_EQ(State(), nCol == kList ? "0,3 list two" : "0,2 edit new");
             g.Told();
-            ending.end(*this, g);
-            const std::string strKept = nCol == kList ? ending.pszChosen : ending.pszTyped;
+            end();
+            const std::string strKept = nCol == kList ? pszChosen : pszTyped;
             EXPECT_EQ(Stored(0, nCol), strKept);
             EXPECT_EQ(g.Told().find("1 ") == 0, nCol == kList && strKept == "two");
             EXPECT_FALSE(g.list.bUp);
             EXPECT_TRUE(editing.CheckInvariants());
             g.MoveFocus(Focus::Elsewhere);
         }
-    }
-
-public:
-    using GridEdits::AddRows;
-    using GridEdits::Click;
-    using GridEdits::Disable;
-};
-
-TEST_F(GridKeeps, WhatIsTypedAndChosenAsTheEditorIsLeft) {
-    const auto on = [](auto& test) -> GridKeeps& { return static_cast<GridKeeps&>(test); };
-    const auto col = [](FakeGrid& grid) { return grid.state.m_nCurCol; };
-    const Ending kEndings[] = {
-        {"focus", [](auto&, auto& f) { f.MoveFocus(Focus::Elsewhere); }, "new", "two"},
-        {"key", [](auto&, auto& f) { f.editing.Key(VK_LEFT); }, "new", "two"},
-        {"goto",
-         [](auto&, auto& f) {
-             f.editing.GotoCell({1, kStatic}, true);
-         },
-         "new", "two"},
-        {"click", [&](auto& t, auto&) { on(t).Click(1, kEdit); }, "new", "two"},
-        {"static", [&](auto& t, auto&) { on(t).Click(0, kStatic); }, "new", "two"},
-        {"bar", [](auto&, auto& f) { f.ScrollByUser(1); }, "new", "two"},
-        {"closed", [](auto&, auto& f) { f.CloseWindow(); }, "new", "one"},
-        {"Escape", [](auto&, auto& f) { f.editing.Key(VK_ESCAPE); }, "def", "one"},
-        {"disabled", [&](auto& t, auto& f) { on(t).Disable(0, col(f)); }, "def", "one"},
-        {"read-only", [&](auto& t, auto& f) { on(t).Disable(0, col(f), GCS_READONLY); }, "def",
-         "one"},
-        {"rows deleted",
-         [&](auto& t, auto& f) {
-             f.editing.DeleteRows();
-             on(t).AddRows(20);
-             f.MoveFocus(Focus::Elsewhere);
-         },
-         "def", "one"},
-    };
-    for (const Ending& ending : kEndings) {
-        Run(ending);
     }
 }
 
