@@ -2,6 +2,7 @@
 #include "drawn_text.h"
 #include "frame/font_measure.h"
 #include "frame/module_state.h"
+#include "frame/process_text.h"
 #include "frame/text_out.h"
 #include "frame/wide_text.h"
 #include "page_text.h"
