@@ -84,9 +84,7 @@ TEST(ListColumnsInWindow, TheSingleColumnFollowsTheWidestRow) {
     ListWindow<> w;
     const std::string strWide(100, 'W');
     w.Add(strWide.c_str());
-    w.Add(
-        "\x1b"
-        "anarrow");
+    w.Add("\033anarrow");
     const int nText = w.list.GetStringWidth(strWide.c_str());
     EXPECT_EQ(w.list.GetColWidth(0, nullptr), nText);
     w.list.DeleteItem(1);
@@ -126,12 +124,8 @@ TEST(ListRows, FieldsGoToColumnsAndBack) {
     w.Add("\tb\tc\td");
     EXPECT_EQ(w.Row(2), "b\tc") << "an empty start leaves no TAB";
     const std::string strLong(3000, 'l');
-    w.Add((strLong + "\t\x1b"
-                     "bx")
-              .c_str());
-    EXPECT_EQ(w.Row(3), strLong +
-                            "\t\x1b"
-                            "bx\t");
+    w.Add((strLong + "\t\033bx").c_str());
+    EXPECT_EQ(w.Row(3), strLong + "\t\033bx\t");
     EXPECT_EQ(w.list.GetImage(9), -1);
     EXPECT_TRUE(w.list.SetImage(0, 2));
     EXPECT_EQ(w.list.GetImage(0), 2);
@@ -151,9 +145,7 @@ TEST(ListRows, AddFindsWhatAWalkWouldFind) {
     w.list.AddStyle(0, 0);
     std::mt19937 random(11);
     const auto anyRow = [&] {
-        std::string str = random() % 4 == 0 ? "\x1b"
-                                              "b"
-                                            : "";
+        std::string str = random() % 4 == 0 ? "\033b" : "";
         for (unsigned n = random() % 4; n > 0; --n) {
             str += "aB2\t"[random() % 4];
         }

@@ -32,9 +32,7 @@ struct StarvedList {
             list.AddHeader("c", lcdtDate);
         }
         for (const char* psz : {"beta row with a long text\tx\t2020-01-01",
-                                "Alpha\t\x1b"
-                                "by\t2021-01-01",
-                                "gamma\tz\t1999-01-01"}) {
+                                "Alpha\t\033by\t2021-01-01", "gamma\tz\t1999-01-01"}) {
             list.InsertBitmapString(0, -1, psz);
         }
         list.SetItemState(1, LVIS_SELECTED, LVIS_SELECTED);

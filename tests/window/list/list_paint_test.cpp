@@ -43,9 +43,7 @@ using Colors = std::vector<COLORREF>;
 TEST(ListPaint, SelectionShowsFocusAndEndsWithTheData) {
     ListWindow<> w("a\tb");
     w.list.AddStyle(kRed, kGreen);
-    w.Add(
-        "x\t\x1b"
-        "bstyled");
+    w.Add("x\t\033bstyled");
     w.Add("y\tz");
     BringToFront(w.parent.m_hWnd);
     w.list.SetFocus();
@@ -72,24 +70,16 @@ TEST(ListPaint, StylesCarryFromCellToCell) {
     w.list.AddStyle(kRed, kGreen);  // b
     w.list.AddStyle(kBlue, kNone);  // c
     w.list.SetColStyle(3, 1);
-    w.Add(
-        "1\t\x1b"
-        "b2\t3\t\x1b"
-        "c4");
+    w.Add("1\t\033b2\t3\t\033c4");
     EXPECT_EQ(Backgrounds(w, 0), (Colors{kWindow, kGreen, kGreen, kGreen}))
         << "the last one by its column's style";
     // Style 0 has a text colour but no background.
-    w.list.SetItemString(0,
-                         "\x1b"
-                         "b1\t\x1b"
-                         "aMMMM\t3\t4");
+    w.list.SetItemString(0, "\033b1\t\033aMMMM\t3\t4");
     EXPECT_EQ(Backgrounds(w, 0), (Colors{kGreen, kGreen, kGreen, kGreen}));
     const CRect rc = w.RectOf(0);
     EXPECT_EQ(Shown(w.list).Count(kRed, CRect(rc.left + 60, rc.top, rc.right, rc.bottom)), 0);
     w.list.SetColWidth(1, 0, nullptr);
-    w.list.SetItemString(0,
-                         "1\t\x1b"
-                         "b2\t3\t4");
+    w.list.SetItemString(0, "1\t\033b2\t3\t4");
     EXPECT_EQ(Backgrounds(w, 0), (Colors{kWindow, kWindow, kWindow, kWindow}))
         << "a hidden column colours nothing";
 }
@@ -166,9 +156,7 @@ TEST(ListPaint, AChangeReachesTheRowsLeftEdge) {
     EXPECT_EQ(edge(), Colors(2, kFace));
     w.list.SelectItem(-1);
     EXPECT_EQ(edge(), Colors(2, kWindow));
-    w.list.SetItemString(0,
-                         "\x1b"
-                         "bx");
+    w.list.SetItemString(0, "\033bx");
     EXPECT_EQ(edge(), Colors(2, kGreen));
 }
 
@@ -257,9 +245,7 @@ public:
 TEST(ListPaint, ARowReachesTheScreenInOnePiece) {
     ListWindow<WatchedList> w("a\tb");
     w.list.AddStyle(kBlue, kGreen);
-    w.Add(
-        "x\t\x1b"
-        "by");
+    w.Add("x\t\033by");
     w.Add("z");
     w.list.UpdateWindow();
     {
@@ -295,10 +281,7 @@ TEST(ListPaint, KeepsNoHandles) {
     ListWindow<> w("a\tb\tc", true);
     w.list.AddStyle(kRed, kGreen);
     for (int i = 0; i < 30; ++i) {
-        w.Add(
-            "x\t\x1b"
-            "by\tz",
-            i % 4);
+        w.Add("x\t\033by\tz", i % 4);
     }
     Shown(w.list);
     const long nHandles = AfxGetOwnedHandleCount();
@@ -334,10 +317,7 @@ TEST(ListMonkey, SurvivesAnyOrderOfOperations) {
         const int n = static_cast<int>(random() % 40) - 2;
         switch (random() % 22) {
             case 0:
-                w.list.InsertBitmapString(n, n,
-                                          "\x1b"
-                                          "brow\tx\t\x1b"
-                                          "zy");
+                w.list.InsertBitmapString(n, n, "\033brow\tx\t\033zy");
                 break;
             case 1:
                 w.list.AddBitmapString(n, "some\tother", random() % 2 != 0);

@@ -39,11 +39,7 @@ TEST(ListPrint, RowsComeInPagesAndRanges) {
     w.list.SetColFormat(1, LVCFMT_RIGHT);
     w.list.ExcludeColumnFromPrinting(2);
     for (int i = 0; i < 5; ++i) {
-        w.Add((std::to_string(i) +
-               "\t\x1b"
-               "an" +
-               std::to_string(i) + "\tx")
-                  .c_str());
+        w.Add((std::to_string(i) + "\t\033an" + std::to_string(i) + "\tx").c_str());
     }
     TextRecorder dc;
     CPrintInfo info;
@@ -110,9 +106,7 @@ TEST(ListPrint, HeadingsHaveTheirFontAndARule) {
 TEST(ListPrint, StylesColourPaperAndTheSelectionDoesNot) {
     ListWindow<> w("a\tb");
     w.list.AddStyle(RGB(200, 0, 0), RGB(0, 200, 0));
-    w.Add(
-        "\x1b"
-        "bx\ty");
+    w.Add("\033bx\ty");
     w.list.SelectItem(0);
     TextRecorder dc(CSize(200, 60));
     w.list.CalcPrintCols(&dc, 200);
@@ -138,9 +132,7 @@ TEST(ListExport, WritesWhatTheCellsShow) {
     const std::string strPath = TempPath("qv_export.txt");
     ListWindow<> w("a\tb\tc");
     w.list.ExcludeColumnFromPrinting(1);
-    w.Add(
-        "1\t\x1b"
-        "a2\t3");
+    w.Add("1\t\033a2\t3");
     w.Add("x");
     w.list.SetItemString(1, "\tx\ty");
     w.list.SetItemText(1, 0, "");

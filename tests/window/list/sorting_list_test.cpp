@@ -69,13 +69,8 @@ TEST(SortingList, AClickSortsAndASecondTurnsTheOrder) {
 
 TEST(SortingList, TypesDecideTheOrder) {
     SortWindow w;
-    for (const char* psz : {"\x1b"
-                            "ab\tx\t-1\t2020-03-01",
-                            "c\t\x1b"
-                            "ax\t5\tno date",
-                            "\x1b"
-                            "aa\tb\t30\t1955-01-01 12:00",
-                            "d\tc\t4\t2020-03-01 10:00"}) {
+    for (const char* psz : {"\033ab\tx\t-1\t2020-03-01", "c\t\033ax\t5\tno date",
+                            "\033aa\tb\t30\t1955-01-01 12:00", "d\tc\t4\t2020-03-01 10:00"}) {
         w.Add(psz);
     }
     EXPECT_EQ(w.Sorted(2), "4 5 30 -1") << "negative numbers are great ones";

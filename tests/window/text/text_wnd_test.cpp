@@ -345,22 +345,14 @@ TEST_F(TextFile, LinesOfAWindowThatIsNotMadeYetComeOutWithoutCodes) {
     OpenText text;
     text.AddText("abc", 0);
     text.AddText("", 3);
-    text.AddText(
-        "\x1b"
-        "a plain escape",
-        1);
+    text.AddText("\033a plain escape", 1);
     ASSERT_EQ(text.ExportData(m_strPath.c_str()), 1);
-    EXPECT_EQ(Written(),
-              "abc\r\n\r\n\x1b"
-              "a plain escape\r\n");
+    EXPECT_EQ(Written(), "abc\r\n\r\n\033a plain escape\r\n");
     EXPECT_EQ(text.CopyToClipboard(), 1);
-    EXPECT_EQ(ClipboardText(),
-              "abc\r\n\r\n\x1b"
-              "a plain escape\r\n\r\n");
+    EXPECT_EQ(ClipboardText(), "abc\r\n\r\n\033a plain escape\r\n\r\n");
     TextRecorder dc;
     text.FormatText(&dc, CSize(1000, 1000));
-    EXPECT_EQ(PrintedPages(text, dc), std::vector<std::string>{"abc/0|/0|\x1b"
-                                                               "a plain escape/0|"});
+    EXPECT_EQ(PrintedPages(text, dc), std::vector<std::string>{"abc/0|/0|\033a plain escape/0|"});
 
     w.text.AddText("abc", 7);
     EXPECT_EQ(Exported(), "habc\r\n") << "no such style: its letter shows, as in the window";
