@@ -88,22 +88,26 @@ protected:
         TheTestApp().m_report = nullptr;
         TheTestApp().Forget();
     }
+    /// Whatever the operation's window or frame throws, the application hears of it, nobody else.
+    void ExpectToldOnce(const std::function<void(Thrower)>& operation) {
+        for (const Kind& kind : kKinds) {
+            m_app.Forget();
+            EXPECT_FALSE(Leaks([&] { operation(kind.pfnThrow); }));
+            EXPECT_EQ(std::vector<std::string>{kind.pszMessage}, m_app.m_exceptions);
+        }
+    }
     TestApp& m_app = TheTestApp();
 };
 
 TEST_F(ExceptionBorder, EveryKindIsToldToTheApplication_AndGivesZero) {
     ThrowingWnd wnd;
     ASSERT_TRUE(MakePopup(wnd));
-    for (const Kind& kind : kKinds) {
-        m_app.Forget();
-        wnd.m_throw = kind.pfnThrow;
-        LRESULT lResult = -1;
-        EXPECT_FALSE(Leaks([&] { lResult = ::SendMessage(wnd.m_hWnd, kThrow, 0, 0); }));
-        EXPECT_EQ(0, lResult);
+    ExpectToldOnce([&](Thrower pfnThrow) {
+        wnd.m_throw = pfnThrow;
+        EXPECT_EQ(0, ::SendMessage(wnd.m_hWnd, kThrow, 0, 0));
         // The message that is being handled is the outer one again.
         EXPECT_NE(CWnd::GetCurrentMessage()->message, kThrow);
-        EXPECT_EQ(std::vector<std::string>{kind.pszMessage}, m_app.m_exceptions);
-    }
+    });
 }
 
 TEST_F(ExceptionBorder, AReportThatFailsItself_EndsThere) {
@@ -230,30 +234,28 @@ TEST_F(ExceptionBorder, AWindowsLife_WithEachAllocationRefused) {
 }
 
 TEST_F(ExceptionBorder, ThrowingInTheLastMessage_LetsGoOfTheWindowAllTheSame) {
-    for (const Kind& kind : kKinds) {
+    ExpectToldOnce([](Thrower pfnThrow) {
         ThrowingWnd wnd;
         ASSERT_TRUE(MakePopup(wnd));
         const HWND hWnd = wnd.m_hWnd;
         wnd.m_nWhere = WM_NCDESTROY;
-        wnd.m_throw = kind.pfnThrow;
-        EXPECT_FALSE(Leaks([&] { ::DestroyWindow(hWnd); }));
+        wnd.m_throw = pfnThrow;
+        ::DestroyWindow(hWnd);
         EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(hWnd));
         EXPECT_EQ(nullptr, wnd.m_hWnd);
         EXPECT_EQ(1, wnd.m_nPostNcDestroy);
-    }
+    });
 }
 
 TEST_F(ExceptionBorder, TheQueueGoesOn_WhateverItsMessagesThrow) {
     ThrowingWnd wnd;
     ASSERT_TRUE(MakePopup(wnd));
     wnd.m_bBeforeTheQueue = true;
-    for (const Kind& kind : kKinds) {
-        m_app.Forget();
-        wnd.m_throw = kind.pfnThrow;
+    ExpectToldOnce([&](Thrower pfnThrow) {
+        wnd.m_throw = pfnThrow;
         wnd.PostMessage(kThrow);
-        EXPECT_FALSE(Leaks([] { PumpPending(); }));
-        EXPECT_EQ(std::vector<std::string>{kind.pszMessage}, m_app.m_exceptions);
-    }
+        PumpPending();
+    });
 }
 
 /// A frame that fails when idle work asks what it is.
@@ -271,12 +273,10 @@ public:
 TEST_F(ExceptionBorder, IdleWorkOverAllFrames_IsNotLeftInTheMiddle) {
     auto* pFrame = new UneasyFrame;
     ASSERT_TRUE(pFrame->Create(nullptr, "Uneasy"));
-    for (const Kind& kind : kKinds) {
-        m_app.Forget();
-        pFrame->m_pfnThrow = kind.pfnThrow;
-        EXPECT_FALSE(Leaks([] { AfxGetThread()->OnIdle(0); }));
-        EXPECT_EQ(std::vector<std::string>{kind.pszMessage}, m_app.m_exceptions);
-    }
+    ExpectToldOnce([&](Thrower pfnThrow) {
+        pFrame->m_pfnThrow = pfnThrow;
+        AfxGetThread()->OnIdle(0);
+    });
     pFrame->m_pfnThrow = nullptr;
     pFrame->DestroyWindow();
 }

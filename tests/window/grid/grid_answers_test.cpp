@@ -83,52 +83,33 @@ const Told kTold[] = {
      }},
 };
 
-enum class Deed { DestroyWindow, DeleteControl, DestroyParent };
-
-class GridHostileParent : public testing::TestWithParam<Deed> {};
-
-TEST_P(GridHostileParent, MayTakeTheGroundAway) {
+TEST(GridHostileParent, MayTakeTheGroundAway) {
+    const std::function<void(GridWindow<GuardedGrid>&)> kDeeds[] = {
+        [](auto& w) { w.grid.DestroyWindow(); }, [](auto& w) { w.DeleteGrid(); },
+        [](auto& w) { w.parent.DestroyWindow(); }};
     for (const Told& told : kTold) {
         SCOPED_TRACE(told.pszName);
-        GridWindow<GuardedGrid> w(30);
-        BringToFront(w.parent.m_hWnd);
-        HWND hWnd = w.grid.m_hWnd;
-        // Opening an editor tells of a change as well, which is not the one that Typed is about.
-        int nToCome = std::string(told.pszName) == "Typed" ? 2 : 1;
-        w.parent.m_answer = [&](UINT nCode) {
-            if (nCode != told.nCode || --nToCome != 0) {
-                return;
-            }
-            switch (GetParam()) {
-                case Deed::DestroyWindow:
-                    w.grid.DestroyWindow();
-                    break;
-                case Deed::DeleteControl:
-                    w.DeleteGrid();
-                    break;
-                case Deed::DestroyParent:
-                    w.parent.DestroyWindow();
-                    break;
-            }
-        };
-        told.act(w);
-        PumpPending();
-        EXPECT_EQ(nToCome, 0);
-        EXPECT_FALSE(::IsWindow(hWnd));
-        EXPECT_TRUE(w.bDeleted || (w.grid.m_hWnd == nullptr && !w.grid.m_bIgnoreFocus));
-        EXPECT_EQ(w.List(), nullptr);
+        for (const auto& deed : kDeeds) {
+            GridWindow<GuardedGrid> w(30);
+            BringToFront(w.parent.m_hWnd);
+            HWND hWnd = w.grid.m_hWnd;
+            // Opening an editor tells of a change as well, which is not the one that Typed is
+            // about.
+            int nToCome = std::string(told.pszName) == "Typed" ? 2 : 1;
+            w.parent.m_answer = [&](UINT nCode) {
+                if (nCode == told.nCode && --nToCome == 0) {
+                    deed(w);
+                }
+            };
+            told.act(w);
+            PumpPending();
+            EXPECT_EQ(nToCome, 0) << &deed - kDeeds;
+            EXPECT_FALSE(::IsWindow(hWnd)) << &deed - kDeeds;
+            EXPECT_TRUE(w.bDeleted || (w.grid.m_hWnd == nullptr && !w.grid.m_bIgnoreFocus));
+            EXPECT_EQ(w.List(), nullptr);
+        }
     }
 }
-
-std::string DeedName(const testing::TestParamInfo<Deed>& test) {
-    const char* const aDeeds[] = {"DestroyWindow", "DeleteControl", "DestroyParent"};
-    return aDeeds[static_cast<int>(test.param)];
-}
-
-INSTANTIATE_TEST_SUITE_P(Deeds, GridHostileParent,
-                         testing::Values(Deed::DestroyWindow, Deed::DeleteControl,
-                                         Deed::DestroyParent),
-                         DeedName);
 
 // --- Anything in any order
 
@@ -155,7 +136,7 @@ TEST(GridMonkey, SurvivesAnyOrderOfInputAndAnswers) {
     };
     const std::function<void()> aDeeds[] = {
         [&] { ::PostMessage(::GetFocus(), WM_KEYDOWN, kKeys[pick(std::size(kKeys))], 1); },
-        [&] { ::GetFocus() != nullptr && TypeKey(kKeys[pick(std::size(kKeys))]); },
+        [&] { ::GetFocus() != nullptr&& TypeKey(kKeys[pick(std::size(kKeys))]); },
         [&] { post(WM_SYSKEYDOWN, VK_DOWN, 1 << 29); },
         [&] { post(WM_LBUTTONDOWN, 0, at()); },
         [&] { post(WM_LBUTTONUP, 0, at()); },

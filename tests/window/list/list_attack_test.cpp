@@ -5,7 +5,6 @@
 
 #include <afxext.h>
 
-#include <algorithm>
 #include <functional>
 #include <gtest/gtest.h>
 
@@ -152,38 +151,25 @@ const Attack kAttacks[] = {
         [](Attacked& w) { ::SetFocus(w.parent.m_hWnd); }),
 };
 
-void PrintTo(const Attack& attack, std::ostream* pOut) {
-    *pOut << attack.pszName;
-}
-
-class ListAttack : public testing::TestWithParam<Attack> {};
-
 // At the first time that the parent is told, or at a later one: other texts, or the image.
-TEST_P(ListAttack, TheListMayBeTakenAway) {
-    const Attack& attack = GetParam();
+TEST(ListAttack, TheListMayBeTakenAway) {
     TheTestApp().Forget();
-    for (const bool bDelete : {true, false}) {
-        for (int nSkip = 0; nSkip < 4; ++nSkip) {
-            Attacked w(attack.pszHeaders);
-            attack.prepare(w);
-            w.list->ValidateRect(nullptr);
-            w.Attack(attack.nCode, nSkip, bDelete);
-            const bool bDone = attack.act(w);
-            EXPECT_TRUE(w.bFired || nSkip > 0);
-            EXPECT_FALSE(w.bFired && bDone) << bDelete << nSkip;
+    for (const Attack& attack : kAttacks) {
+        for (const int nSkip : {0, 1, 2, 3}) {
+            for (const bool bDelete : {true, false}) {
+                SCOPED_TRACE(std::string(attack.pszName) + (bDelete ? ", deleted" : ""));
+                Attacked w(attack.pszHeaders);
+                attack.prepare(w);
+                w.list->ValidateRect(nullptr);
+                w.Attack(attack.nCode, nSkip, bDelete);
+                const bool bDone = attack.act(w);
+                EXPECT_TRUE(w.bFired || nSkip > 0);
+                EXPECT_FALSE(w.bFired && bDone) << nSkip;
+            }
         }
     }
     EXPECT_TRUE(TheTestApp().m_exceptions.empty());
 }
-
-std::string NameOf(const testing::TestParamInfo<Attack>& info) {
-    std::string strName = info.param.pszName;
-    std::replace_if(
-        strName.begin(), strName.end(), [](char ch) { return ch == ' ' || ch == ','; }, '_');
-    return strName;
-}
-
-INSTANTIATE_TEST_SUITE_P(Told, ListAttack, testing::ValuesIn(kAttacks), NameOf);
 
 TEST(SortingListAttack, TheListMayBeTakenAwayWhileTheRowsAreRead) {
     for (const bool bDelete : {true, false}) {

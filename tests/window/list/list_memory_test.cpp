@@ -1,8 +1,8 @@
 // Lists without memory: each allocation of an operation is refused once, alone and with all that
 // follow.
-#include "support/failing_heap.h"
 #include "support/list_window.h"
 #include "support/test_app.h"
+#include "window/refusals.h"
 
 #include <afxext.h>
 
@@ -148,100 +148,55 @@ const Operation kOperations[] = {
     Silent("sort by date", true, [](StarvedList& w) { w.list.SortOnHeader(2); }),
 };
 
-struct Outcome {
-    bool bDone = false;
-    bool bThrown = false;
-    bool bRefused = false;
-};
-
-Outcome Starve(const Operation& operation, StarvedList& w, FailingHeap::Mode mode,
-               int nSucceeding) {
-    Outcome outcome;
-    const FailingHeap heap(nSucceeding, mode);
-    try {
-        outcome.bDone = operation.act(w);
-    } catch (...) {
-        outcome.bThrown = true;
-    }
-    outcome.bRefused = heap.Refused() > 0;
-    return outcome;
-}
-
-class ListMemory : public testing::TestWithParam<Operation> {};
-
-void PrintTo(const Operation& operation, std::ostream* pOut) {
-    *pOut << operation.pszName;
-}
-
-TEST_P(ListMemory, WhatWasThereStays) {
-    const Operation& operation = GetParam();
+TEST(ListMemory, WhatWasThereStays) {
     QuietParent parent;
-    std::string strDone;
-    {
-        StarvedList w(parent, operation.bHeaders);
-        ASSERT_TRUE(operation.act(w));
-        strDone = w.State();
-    }
     TheTestApp().Forget();
-    for (const auto mode : {FailingHeap::kAllLater, FailingHeap::kJustOne}) {
-        for (int nSucceeding = 0;; ++nSucceeding) {
-            SCOPED_TRACE(nSucceeding);
-            StarvedList w(parent, operation.bHeaders);
-            w.list.UpdateWindow();
-            const std::string strBefore = w.State();
-            const Outcome outcome = Starve(operation, w, mode, nSucceeding);
-            ASSERT_FALSE(outcome.bThrown);
-            ASSERT_TRUE(TheTestApp().m_exceptions.empty());
-            const std::string strAfter = w.State();
-            if (!outcome.bDone) {
-                ASSERT_EQ(strAfter, strBefore);
-                ASSERT_STREQ(w.strRead, "as it was");
-            } else if (operation.bReports || !outcome.bRefused) {
-                ASSERT_EQ(strAfter, strDone);
-            } else {
-                ASSERT_TRUE(strAfter == strBefore || strAfter == strDone) << strAfter;
-            }
-            if (!outcome.bRefused) {
-                break;
-            }
-        }
+    for (const Operation& operation : kOperations) {
+        std::unique_ptr<StarvedList> pList;
+        std::string strBefore, strAfter;
+        const auto fresh = [&] {
+            pList.reset();
+            pList = std::make_unique<StarvedList>(parent, operation.bHeaders);
+            pList->list.UpdateWindow();
+            strBefore = pList->State();
+        };
+        fresh();
+        ASSERT_TRUE(operation.act(*pList)) << operation.pszName;
+        const std::string strDone = pList->State();
+        fresh();
+        bool bDone = false;
+        RefuseEach(
+            operation.pszName,
+            [&] {
+                bDone = false;
+                bDone = operation.act(*pList);
+            },
+            [&] {
+                strAfter = pList->State();
+                if (!bDone) {
+                    EXPECT_EQ(strAfter, strBefore);
+                    EXPECT_STREQ(pList->strRead, "as it was");
+                } else if (operation.bReports || strAfter != strBefore) {
+                    EXPECT_EQ(strAfter, strDone);
+                }
+                fresh();
+            });
+        EXPECT_EQ(strAfter, strDone) << operation.pszName;
+        EXPECT_TRUE(TheTestApp().m_exceptions.empty()) << operation.pszName;
     }
 }
-
-std::string NameOf(const testing::TestParamInfo<Operation>& info) {
-    std::string strName = info.param.pszName;
-    for (char& ch : strName) {
-        ch = ch == ' ' ? '_' : ch;
-    }
-    return strName;
-}
-
-INSTANTIATE_TEST_SUITE_P(Refused, ListMemory, testing::ValuesIn(kOperations), NameOf);
 
 TEST(ListMemoryAtCreation, AListThatCannotBeMadeLeavesNoWindow) {
     QuietParent parent;
-    for (const auto mode : {FailingHeap::kAllLater, FailingHeap::kJustOne}) {
-        bool bMade = false;
-        bool bThrown = false;
-        const auto make = [&](QVListCtrlEx& list) {
-            try {
-                bMade = list.Create(kListId, CRect(0, 0, 50, 50), &parent) != FALSE;
-            } catch (...) {
-                bThrown = true;
-            }
-        };
-        int nSucceeding = 0;
-        for (bool bRefused = true; bRefused; ++nSucceeding) {
-            QVListCtrlEx list;
-            {
-                const FailingHeap heap(nSucceeding, mode);
-                make(list);
-                bRefused = heap.Refused() > 0;
-            }
-            ASSERT_FALSE(bThrown) << nSucceeding;
-            ASSERT_EQ(bMade, list.m_hWnd != nullptr) << nSucceeding;
-        }
-    }
+    auto pList = std::make_unique<QVListCtrlEx>();
+    BOOL bMade = FALSE;
+    RefuseEach(
+        "create", [&] { bMade = pList->Create(kListId, CRect(0, 0, 50, 50), &parent); },
+        [&] {
+            EXPECT_EQ(bMade != FALSE, pList->m_hWnd != nullptr);
+            pList = std::make_unique<QVListCtrlEx>();
+        });
+    EXPECT_TRUE(bMade);
 }
 
 TEST(ListMemoryAtCreation, AHeaderTakesItsColumnsWithout) {

@@ -1,38 +1,11 @@
 #include "support/list_window.h"
+#include "support/temp_file.h"
 
 #include <afxext.h>
 
-#include <fstream>
 #include <gtest/gtest.h>
-#include <sstream>
 
 namespace {
-
-std::string TempPath(const char* pszName) {
-    char szDir[MAX_PATH];
-    ::GetTempPath(MAX_PATH, szDir);
-    return std::string(szDir) + pszName;
-}
-
-std::string FileText(const std::string& strPath) {
-    std::ifstream file(strPath, std::ios::binary);
-    std::stringstream text;
-    text << file.rdbuf();
-    return text.str();
-}
-
-TEST(ListPrint, ColumnsShareThePageAsTheyShareTheScreen) {
-    ListWindow<> w("a\tb\tc");
-    TextRecorder dc;
-    w.list.SetColWidth(1, 180, nullptr);
-    w.list.ExcludeColumnFromPrinting(2);
-    EXPECT_EQ(w.list.CalcExcludedColsWidth(), 60);
-    EXPECT_EQ(w.list.CalcPrintCols(&dc, 1000), 3);
-    EXPECT_EQ(w.list.GetPrintColWidth(0), 250);
-    EXPECT_EQ(w.list.GetPrintColWidth(1), 750);
-    EXPECT_EQ(w.list.GetPrintColWidth(2), 0);
-    EXPECT_EQ(w.list.GetPrintColWidth(3), 0);
-}
 
 TEST(ListPrint, RowsComeInPagesAndRanges) {
     ListWindow<> w("a\tb\tc");
@@ -129,23 +102,23 @@ TEST(ListPrint, AFullListOfImagesKeepsItsOddWidths) {
 }
 
 TEST(ListExport, WritesWhatTheCellsShow) {
-    const std::string strPath = TempPath("qv_export.txt");
+    const TempFile file;
     ListWindow<> w("a\tb\tc");
     w.list.ExcludeColumnFromPrinting(1);
     w.Add("1\t\033a2\t3");
     w.Add("x");
     w.list.SetItemString(1, "\tx\ty");
     w.list.SetItemText(1, 0, "");
-    EXPECT_TRUE(w.list.ExportData(strPath.c_str(), ','));
-    EXPECT_EQ(FileText(strPath), "1,2,3\r\nx,y\r\n");
+    EXPECT_TRUE(w.list.ExportData(file.Path(), ','));
+    EXPECT_EQ(file.Content(), "1,2,3\r\nx,y\r\n");
     w.list.DeleteAllItems();
-    EXPECT_TRUE(w.list.ExportData(strPath.c_str(), ';'));
-    EXPECT_EQ(FileText(strPath), "");
-    const HANDLE hHeld = ::CreateFile(strPath.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING,
-                                      FILE_FLAG_DELETE_ON_CLOSE, nullptr);
-    EXPECT_FALSE(w.list.ExportData(strPath.c_str(), ';')) << "somebody else has the file";
+    EXPECT_TRUE(w.list.ExportData(file.Path(), ';'));
+    EXPECT_EQ(file.Content(), "");
+    const HANDLE hHeld =
+        ::CreateFile(file.Path(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    EXPECT_FALSE(w.list.ExportData(file.Path(), ';')) << "somebody else has the file";
     ::CloseHandle(hHeld);
-    EXPECT_FALSE(w.list.ExportData(TempPath("no such folder\\x.txt").c_str(), ';'));
+    EXPECT_FALSE(w.list.ExportData("no such folder\\x.txt", ';'));
 }
 
 TEST(ListExport, AFullDiskIsAnException) {

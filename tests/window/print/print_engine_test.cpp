@@ -249,12 +249,6 @@ TEST_F(PrintEngine, WhatFitsNoPageIsCutOnAPageOfItsOwn) {
     EXPECT_EQ(Page(engine, 1, rc), "before");
     EXPECT_EQ(CutPage(engine, 2, rc), "WWWWWWWW");
     EXPECT_EQ(Page(engine, 3, rc), "after");
-    QVPrintEngine flat(&dc, &header, &normal, &section);
-    flat.AddText("x", &dc, nullptr);
-    flat.AddBreak();
-    flat.AddGroupHeader("y");
-    EXPECT_EQ(flat.Paginate(CRect(0, 0, 600, 0)), 2u);
-    EXPECT_EQ(flat.Paginate(CRect(0, 0, 0, -5)), 2u);
 }
 
 TEST_F(PrintEngine, RowsThatFitNoPageAreCutAndNotLeftOut) {

@@ -1,7 +1,7 @@
 // Each allocation on the way to paper is refused in turn: nothing may be thrown, the document stays
 // as it was or says that something is missing, and lists come out of their print runs.
-#include "support/failing_heap.h"
 #include "support/list_window.h"
+#include "window/refusals.h"
 
 #include <gtest/gtest.h>
 
@@ -47,29 +47,6 @@ protected:
         totals.AddData("label", "1", QVPeDataLabeledListItem::Right);
         return engine;
     }
-    // Runs op with each allocation refused; gives the number of refusals.
-    template <class Op, class Check>
-    int Refuse(Op op, Check check) {
-        int nAll = 0;
-        for (const auto mode : {FailingHeap::kAllLater, FailingHeap::kJustOne}) {
-            bool bThrown = false;
-            nAll += RefuseEachAllocation(
-                mode,
-                [&] {
-                    try {
-                        op();
-                    } catch (...) {
-                        bThrown = true;
-                    }
-                },
-                [&](int n) {
-                    EXPECT_FALSE(bThrown) << n;
-                    bThrown = false;
-                    check(n);
-                });
-        }
-        return nAll;
-    }
 
     ListWindow<> w;
     CDC dc;
@@ -110,16 +87,17 @@ TEST_F(PrintMemory, WhatCannotBeAddedIsLeftOutAndTold) {
         const std::vector<DWORD> whole = Drawn(*pWhole, pWhole->Paginate(rc));
         pWhole.reset();
         auto pEngine = fresh();
-        const int nRefused = Refuse([&] { add(*pEngine); },
-                                    [&](int n) {
-                                        const bool bComplete = pEngine->IsComplete();
-                                        const auto drawn = Drawn(*pEngine, pEngine->Paginate(rc));
-                                        EXPECT_TRUE(!bComplete || drawn == whole) << n;
-                                        EXPECT_FALSE(drawn.empty()) << "what was there stays";
-                                        pEngine.reset();
-                                        EXPECT_EQ(w.list.CalculateItemHeight(&dc), nListHeight);
-                                        pEngine = fresh();
-                                    });
+        const int nRefused = RefuseEach(
+            "add", [&] { add(*pEngine); },
+            [&] {
+                const bool bComplete = pEngine->IsComplete();
+                const auto drawn = Drawn(*pEngine, pEngine->Paginate(rc));
+                EXPECT_TRUE(!bComplete || drawn == whole);
+                EXPECT_FALSE(drawn.empty()) << "what was there stays";
+                pEngine.reset();
+                EXPECT_EQ(w.list.CalculateItemHeight(&dc), nListHeight);
+                pEngine = fresh();
+            });
         EXPECT_GT(nRefused, 0);
     }
 }
@@ -130,14 +108,15 @@ TEST_F(PrintMemory, PagesAreTakenInWhenThereIsMemory) {
     ASSERT_GT(nPages, 1u);
     auto pEngine = std::make_unique<QVPrintEngine>(Whole());
     unsigned nResult = 0;
-    const int nRefused = Refuse([&] { nResult = pEngine->Paginate(rc); },
-                                [&](int n) {
-                                    EXPECT_TRUE(nResult == 0 || nResult == nPages) << n;
-                                    EXPECT_TRUE(pEngine->IsComplete());
-                                    EXPECT_EQ(pEngine->Paginate(rc), nPages) << n;
-                                    pEngine.reset();
-                                    pEngine = std::make_unique<QVPrintEngine>(Whole());
-                                });
+    const int nRefused = RefuseEach(
+        "pages", [&] { nResult = pEngine->Paginate(rc); },
+        [&] {
+            EXPECT_TRUE(nResult == 0 || nResult == nPages);
+            EXPECT_TRUE(pEngine->IsComplete());
+            EXPECT_EQ(pEngine->Paginate(rc), nPages);
+            pEngine.reset();
+            pEngine = std::make_unique<QVPrintEngine>(Whole());
+        });
     EXPECT_GT(nRefused, 0);
     EXPECT_EQ(nResult, nPages);
 }
@@ -148,18 +127,18 @@ TEST_F(PrintMemory, APageThatCannotBePrintedIsTold) {
     const std::vector<DWORD> whole = Drawn(*pEngine, 1);
     const HGDIOBJ hFont = ::GetCurrentObject(dc, OBJ_FONT);
     dc.FillSolidRect(0, 0, kSize, kSize, RGB(255, 255, 255));
-    const int nRefused =
-        Refuse([&] { pEngine->PrintPage(&dc, rc, 1); },
-               [&](int n) {
-                   std::vector<DWORD> drawn(kSize * kSize);
-                   bitmap.GetBitmapBits(kSize * kSize * sizeof(DWORD), drawn.data());
-                   EXPECT_TRUE(!pEngine->IsComplete() || drawn == whole) << n;
-                   EXPECT_EQ(::GetCurrentObject(dc, OBJ_FONT), hFont) << n;
-                   pEngine.reset();
-                   pEngine = std::make_unique<QVPrintEngine>(Whole());
-                   EXPECT_EQ(pEngine->Paginate(rc), nPages);
-                   dc.FillSolidRect(0, 0, kSize, kSize, RGB(255, 255, 255));
-               });
+    const int nRefused = RefuseEach(
+        "page", [&] { pEngine->PrintPage(&dc, rc, 1); },
+        [&] {
+            std::vector<DWORD> drawn(kSize * kSize);
+            bitmap.GetBitmapBits(kSize * kSize * sizeof(DWORD), drawn.data());
+            EXPECT_TRUE(!pEngine->IsComplete() || drawn == whole);
+            EXPECT_EQ(::GetCurrentObject(dc, OBJ_FONT), hFont);
+            pEngine.reset();
+            pEngine = std::make_unique<QVPrintEngine>(Whole());
+            EXPECT_EQ(pEngine->Paginate(rc), nPages);
+            dc.FillSolidRect(0, 0, kSize, kSize, RGB(255, 255, 255));
+        });
     EXPECT_GT(nRefused, 0);
 }
 

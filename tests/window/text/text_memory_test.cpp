@@ -1,51 +1,13 @@
-#include "support/failing_heap.h"
 #include "support/list_window.h"
+#include "support/temp_file.h"
 #include "support/text_window.h"
+#include "window/refusals.h"
 
 #include <afxext.h>
 
-#include <cstdio>
-#include <fstream>
 #include <gtest/gtest.h>
 
 namespace {
-
-// Counts what its message handlers throw.
-template <class Window>
-class Watched : public Window {
-public:
-    int nLeft = 0;
-
-protected:
-    LRESULT WindowProc(UINT nMessage, WPARAM wParam, LPARAM lParam) override {
-        try {
-            return Window::WindowProc(nMessage, wParam, lParam);
-        } catch (...) {
-            ++nLeft;
-            return 0;
-        }
-    }
-};
-
-// Each allocation of an operation is refused in turn, alone and with all later ones. One that asks
-// for none cannot go wrong.
-template <class Operation, class Check>
-void RefuseEach(const char* pszWhat, Operation operation, Check check) {
-    int nThrown = 0;
-    for (const FailingHeap::Mode mode : {FailingHeap::kAllLater, FailingHeap::kJustOne}) {
-        RefuseEachAllocation(
-            mode,
-            [&] {
-                try {
-                    operation();
-                } catch (...) {
-                    ++nThrown;
-                }
-            },
-            [&](int) { check(); });
-    }
-    EXPECT_EQ(nThrown, 0) << pszWhat;
-}
 
 class TextMemory : public testing::Test {
 protected:
@@ -55,18 +17,9 @@ protected:
             w.text.AddText("several words that wrap, with \x80 and \x95 among them", 0);
         }
         w.text.CalcLayout();
-        std::ofstream(strPath) << "one\ntwo\n";
-    }
-    ~TextMemory() override { std::remove(strPath.c_str()); }
-
-    static std::string TempFile() {
-        char szDir[MAX_PATH];
-        ::GetTempPath(MAX_PATH, szDir);
-        return std::string(szDir) + "qv_text_memory.txt";
     }
 
     TextWindow<Watched<OpenText>> w;
-    const std::string strPath = TempFile();
 };
 
 TEST_F(TextMemory, LayoutsKeepTheRowsThatThereAre) {
@@ -90,7 +43,7 @@ TEST_F(TextMemory, LayoutsKeepTheRowsThatThereAre) {
     w.Resize(200, 10);
     w.text.CalcLayout();
     EXPECT_EQ(w.text.NumRows(), nRows);
-    EXPECT_EQ(w.text.nLeft, 0);
+    EXPECT_EQ(w.text.nThrown, 0);
 }
 
 TEST_F(TextMemory, PaintsAndScrollsLetNothingOut) {
@@ -112,17 +65,18 @@ TEST_F(TextMemory, PaintsAndScrollsLetNothingOut) {
     send(WM_KEYDOWN, VK_NEXT);
     RefuseEach(
         "scroll", [&] { w.text.ScrollTo(20, 0); }, [&] { w.text.ScrollTo(5, 0); });
-    EXPECT_EQ(w.text.nLeft, 0);
+    EXPECT_EQ(w.text.nThrown, 0);
 }
 
 TEST_F(TextMemory, FilesAreReadAndWrittenOrRefused) {
     int bDone = 0;
+    const TempFile exported;
     RefuseEach(
-        "export", [&] { bDone = w.text.ExportData(strPath.c_str()); }, [] {});
+        "export", [&] { bDone = w.text.ExportData(exported.Path()); }, [] {});
     EXPECT_EQ(bDone, 1);
-    std::ofstream(strPath) << "one\ntwo\n";
+    const TempFile file("one\ntwo\n");
     RefuseEach(
-        "load", [&] { bDone = w.text.LoadFile(strPath.c_str(), 0); },
+        "load", [&] { bDone = w.text.LoadFile(file.Path(), 0); },
         [&] { EXPECT_TRUE(!bDone || w.text.NumLines() == 2); });
     EXPECT_EQ(bDone, 1);
     EXPECT_STREQ(w.text.GetLineText(1), "two");
@@ -162,37 +116,39 @@ TEST_F(TextMemory, PagesOfBeforeStayAndRowsComeTheNextTime) {
     rows("current", [&] { return w.text.GetCurrentLine(&dc, strText, nStyle, nLine); });
 }
 
-TEST_F(TextMemory, AWindowIsMadeOrNot) {
-    Watched<OpenText> text;
-    int bDone = 0;
-    RefuseEach(
-        "create",
-        [&] {
-            CRect rc(0, 0, 50, 50);
-            bDone = text.Create(rc, &w.parent, 5, 1);
-        },
-        [&] {
-            EXPECT_EQ(bDone, text.m_hWnd != nullptr);
-            text.DestroyWindow();
-        });
-    EXPECT_EQ(bDone, 1);
-    const auto place = [&] {
-        text.DestroyWindow();
-        if (::GetDlgItem(w.parent.m_hWnd, 6) == nullptr) {
-            ::CreateWindow("STATIC", "", WS_CHILD, 0, 0, 9, 9, w.parent.m_hWnd,
-                           reinterpret_cast<HMENU>(6), nullptr, nullptr);
+// A control is made, or takes the place of an item; without memory neither, and nothing is thrown.
+constexpr UINT kItemId = 6;
+template <class Control, class Make, class Attach>
+void ExpectMadeOrNot(CWnd& parent, Control& control, Make make, Attach attach) {
+    BOOL bDone = FALSE;
+    const auto check = [&] {
+        EXPECT_EQ(bDone != FALSE, control.m_hWnd != nullptr);
+        control.DestroyWindow();
+        if (::GetDlgItem(parent.m_hWnd, kItemId) == nullptr) {
+            ::CreateWindow("STATIC", "", WS_CHILD | WS_VISIBLE, 160, 0, 90, 90, parent.m_hWnd,
+                           reinterpret_cast<HMENU>(UINT_PTR{kItemId}), nullptr, nullptr);
         }
     };
-    place();
+    check();
     RefuseEach(
-        "initialize", [&] { bDone = text.Initialize(6, &w.parent, 0); },
+        "create", [&] { bDone = make(); }, check);
+    EXPECT_TRUE(bDone);
+    RefuseEach(
+        "attach", [&] { bDone = attach(); },
         [&] {
-            EXPECT_EQ(bDone, text.m_hWnd != nullptr);
-            EXPECT_NE(::GetDlgItem(w.parent.m_hWnd, 6), nullptr) << "one of both is there";
-            place();
+            EXPECT_NE(::GetDlgItem(parent.m_hWnd, kItemId), nullptr) << "one of both is there";
+            check();
         });
-    EXPECT_EQ(bDone, 1);
-    EXPECT_EQ(text.nLeft, 0);
+    EXPECT_TRUE(bDone);
+    EXPECT_EQ(control.nThrown, 0);
+}
+
+TEST_F(TextMemory, AWindowIsMadeOrNot) {
+    Watched<OpenText> text;
+    CRect rc(0, 0, 50, 50);
+    ExpectMadeOrNot(
+        w.parent, text, [&] { return text.Create(rc, &w.parent, 5, 1); },
+        [&] { return text.Initialize(kItemId, &w.parent, 0); });
 }
 
 template <class Header>
@@ -203,30 +159,10 @@ TYPED_TEST_SUITE(CaptionMemory, Headers);
 TYPED_TEST(CaptionMemory, AWindowIsMadeOrNot) {
     FontParent parent(CSize(300, 200));
     Watched<TypeParam> header;
-    BOOL bDone = FALSE;
-    RefuseEach(
-        "create",
-        [&] {
-            CRect rc(0, 0, 150, 100);
-            bDone = header.Create(WS_CHILD | WS_VISIBLE, rc, &parent, 7);
-        },
-        [&] {
-            EXPECT_EQ(bDone, header.m_hWnd != nullptr);
-            header.DestroyWindow();
-        });
-    EXPECT_TRUE(bDone);
-    RefuseEach(
-        "attach", [&] { bDone = header.Initialize(8, &parent); },
-        [&] {
-            EXPECT_EQ(bDone, header.m_hWnd != nullptr);
-            header.DestroyWindow();
-            if (::GetDlgItem(parent.m_hWnd, 8) == nullptr) {
-                ::CreateWindow("STATIC", "", WS_CHILD | WS_VISIBLE, 160, 0, 90, 90, parent.m_hWnd,
-                               reinterpret_cast<HMENU>(8), nullptr, nullptr);
-            }
-        });
-    EXPECT_TRUE(bDone);
-    EXPECT_EQ(header.nLeft, 0);
+    CRect rc(0, 0, 150, 100);
+    ExpectMadeOrNot(
+        parent, header, [&] { return header.Create(WS_CHILD | WS_VISIBLE, rc, &parent, 7); },
+        [&] { return header.Initialize(kItemId, &parent); });
 }
 
 TYPED_TEST(CaptionMemory, CaptionsAndPaintsLetNothingOut) {
@@ -251,7 +187,7 @@ TYPED_TEST(CaptionMemory, CaptionsAndPaintsLetNothingOut) {
     ::RedrawWindow(header.m_hWnd, nullptr, nullptr,
                    RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
     EXPECT_TRUE(Picture::OfClient(header.m_hWnd) == after) << "with memory, all of it";
-    EXPECT_EQ(header.nLeft, 0);
+    EXPECT_EQ(header.nThrown, 0);
 }
 
 }  // namespace

@@ -1,14 +1,12 @@
 #include "support/list_window.h"
 #include "support/pump.h"
+#include "support/temp_file.h"
 #include "support/text_window.h"
 
 #include <afxext.h>
 #include <afxwin.h>
 
-#include <cstdio>
-#include <fstream>
 #include <gtest/gtest.h>
-#include <sstream>
 
 namespace {
 
@@ -105,27 +103,19 @@ TEST(TextPaint, LongLinesWrapAndTabsStandOnMultiplesOfEight) {
     TextWindow<> w;
     w.text.AddStyle(kRed, kGreen);
     w.Resize(w.text.Extent("MMMM MM").cx, 6);
-    w.text.AddText("MMMM MMMM", 1);
-    w.text.AddText("\tI", 1);
-    w.text.AddText("I", 1);
+    for (const char* psz : {"\tI", "I", "MMMM MMMM"}) {
+        w.text.AddText(psz, 1);
+    }
     w.text.CalcLayout();
     EXPECT_EQ(w.text.NumRows(), 4);
     const Picture picture = w.text.Fresh();
     const int h = w.text.m_nCharHeight;
-    const auto same = [&](int nRow, int x, int nOtherRow, int xOther) {
-        for (int i = 0; i < 30 * h; ++i) {
-            if (picture.At(x + i % 30, nRow * h + i / 30) !=
-                picture.At(xOther + i % 30, nOtherRow * h + i / 30)) {
-                return false;
-            }
-        }
-        return true;
-    };
-    EXPECT_GT(picture.Count(kRed, w.text.RowRect(0)), 3);
-    EXPECT_TRUE(same(0, 0, 1, 0));
-    EXPECT_FALSE(same(1, 0, 2, 0));
-    EXPECT_TRUE(same(2, 8, 3, 0));
-    EXPECT_EQ(picture.Count(kGreen, CRect(0, 2 * h, 8, 3 * h)), 8 * h);
+    EXPECT_EQ(picture.Count(kGreen, CRect(0, 0, 8, h)), 8 * h);
+    const int nInk = picture.Count(kRed, CRect(0, h, 30, 2 * h));
+    EXPECT_EQ(picture.Count(kRed, CRect(8, 0, 38, h)), nInk);
+    for (const int nRow : {2, 3}) {
+        EXPECT_GT(picture.Count(kRed, w.text.RowRect(nRow)), 2 * nInk);
+    }
 }
 
 TEST(TextPaint, AfterAClearNothingThatIsGoneIsRead) {
@@ -171,10 +161,7 @@ TEST(TextPaint, NothingIsErasedUnderARow) {
     w.Resize(300, 4);
     w.Fill(3);
     w.text.UpdateWindow();
-    {
-        CClientDC dc(&w.text);
-        dc.FillSolidRect(0, 0, 300, 200, kRed);
-    }
+    CClientDC(&w.text).FillSolidRect(0, 0, 300, 200, kRed);
     w.text.nRows = w.text.nErased = 0;
     w.text.Invalidate(TRUE);
     const Picture picture = Picture::OfClient(w.text.m_hWnd);
@@ -232,18 +219,10 @@ std::vector<std::string> PrintedPages(QVTextWnd& text, CDC& dc) {
 
 // --- Files
 
-std::string TempPath(const char* pszName) {
-    char szDir[MAX_PATH];
-    ::GetTempPath(MAX_PATH, szDir);
-    return std::string(szDir) + pszName;
-}
-
 class TextFile : public testing::Test {
 protected:
-    void TearDown() override { std::remove(m_strPath.c_str()); }
     int Load(const std::string& strBytes, int nStyle = 0) {
-        std::ofstream(m_strPath, std::ios::binary) << strBytes;
-        return w.text.LoadFile(m_strPath.c_str(), nStyle);
+        return w.text.LoadFile(TempFile(strBytes).Path(), nStyle);
     }
     // All lines, '|' between.
     std::string Lines() {
@@ -254,19 +233,14 @@ protected:
         }
         return str;
     }
-    std::string Exported() {
-        EXPECT_EQ(w.text.ExportData(m_strPath.c_str()), 1);
-        return Written();
-    }
-    std::string Written() {
-        std::ifstream file(m_strPath, std::ios::binary);
-        std::stringstream text;
-        text << file.rdbuf();
-        return text.str();
+    static std::string Exported(QVTextWnd& text) {
+        const TempFile file;
+        EXPECT_EQ(text.ExportData(file.Path()), 1);
+        return file.Content();
     }
 
-    const std::string m_strPath = TempPath("qv_text.txt");
     TextWindow<> w;
+    const std::string m_strNowhere = std::string(TempFile().Path()) + "\\no such folder";
 };
 
 TEST_F(TextFile, EveryKindOfLineEndEndsALineAndAZeroIsABlank) {
@@ -279,8 +253,8 @@ TEST_F(TextFile, EveryKindOfLineEndEndsALineAndAZeroIsABlank) {
         EXPECT_EQ(Lines(), strLines);
         EXPECT_EQ(w.text.NumRows(), w.text.NumLines());
     }
-    EXPECT_EQ(w.text.LoadFile(TempPath("no such file").c_str(), 0), 0);
-    EXPECT_EQ(w.text.LoadFile(TempPath("").c_str(), 0), 0) << "a directory";
+    EXPECT_EQ(w.text.LoadFile(m_strNowhere.c_str(), 0), 0);
+    EXPECT_EQ(w.text.LoadFile(".", 0), 0) << "a directory";
     EXPECT_EQ(Lines(), "a|b") << "the lines of before";
     EXPECT_EQ(Load("one\r\n", 1), 1);
     EXPECT_EQ(Lines(), "bone") << "no such style yet: its letter shows";
@@ -290,10 +264,7 @@ TEST_F(TextFile, EveryKindOfLineEndEndsALineAndAZeroIsABlank) {
 }
 
 TEST_F(TextFile, ALineMayHaveAMegabyte) {
-    std::string strLong;
-    while (strLong.size() < 1024 * 1024) {
-        strLong += "word ";
-    }
+    const std::string strLong(1024 * 1024, 'x');
     ASSERT_EQ(Load(std::string("a\n").append(strLong).append("\nb\n")), 1);
     ASSERT_EQ(w.text.NumLines(), 3);
     EXPECT_TRUE(w.text.Text(1) == strLong);
@@ -319,9 +290,9 @@ private:
 };
 
 TEST_F(TextFile, WhatWasReadBeforeAFaultStaysAndShows) {
-    std::ofstream(m_strPath, std::ios::binary) << "one\ntwo\nthree\nfour\n";
+    const TempFile temp("one\ntwo\nthree\nfour\n");
     VanishingFile file;
-    ASSERT_TRUE(file.Open(m_strPath.c_str(), CFile::modeRead | CFile::typeText));
+    ASSERT_TRUE(file.Open(temp.Path(), CFile::modeRead | CFile::typeText));
     EXPECT_EQ(w.text.LoadFile(file, 0), 0);
     EXPECT_EQ(Lines(), "one|two");
     EXPECT_EQ(w.text.NumRows(), 2);
@@ -335,10 +306,10 @@ TEST_F(TextFile, ExportsLinesAndNotRows) {
     w.text.AddText(strLong.c_str(), 0);
     w.text.CalcLayout();
     ASSERT_GT(w.text.NumRows(), 3);
-    EXPECT_EQ(Exported(), std::string("red\r\n\r\n").append(strLong).append("\r\n"));
+    EXPECT_EQ(Exported(w.text), std::string("red\r\n\r\n").append(strLong).append("\r\n"));
     w.text.ClearTextData();
-    EXPECT_EQ(Exported(), "");
-    EXPECT_EQ(w.text.ExportData(TempPath("no such folder\\x.txt").c_str()), 0);
+    EXPECT_EQ(Exported(w.text), "");
+    EXPECT_EQ(w.text.ExportData(m_strNowhere.c_str()), 0);
 }
 
 TEST_F(TextFile, LinesOfAWindowThatIsNotMadeYetComeOutWithoutCodes) {
@@ -346,8 +317,7 @@ TEST_F(TextFile, LinesOfAWindowThatIsNotMadeYetComeOutWithoutCodes) {
     text.AddText("abc", 0);
     text.AddText("", 3);
     text.AddText("\033a plain escape", 1);
-    ASSERT_EQ(text.ExportData(m_strPath.c_str()), 1);
-    EXPECT_EQ(Written(), "abc\r\n\r\n\033a plain escape\r\n");
+    EXPECT_EQ(Exported(text), "abc\r\n\r\n\033a plain escape\r\n");
     EXPECT_EQ(text.CopyToClipboard(), 1);
     EXPECT_EQ(ClipboardText(), "abc\r\n\r\n\033a plain escape\r\n\r\n");
     TextRecorder dc;
@@ -355,7 +325,7 @@ TEST_F(TextFile, LinesOfAWindowThatIsNotMadeYetComeOutWithoutCodes) {
     EXPECT_EQ(PrintedPages(text, dc), std::vector<std::string>{"abc/0|/0|\033a plain escape/0|"});
 
     w.text.AddText("abc", 7);
-    EXPECT_EQ(Exported(), "habc\r\n") << "no such style: its letter shows, as in the window";
+    EXPECT_EQ(Exported(w.text), "habc\r\n") << "no such style: its letter shows, as in the window";
     EXPECT_STREQ(w.text.GetLineText(0), "abc");
     EXPECT_EQ(w.text.GetLineText(1), nullptr);
 }
@@ -381,12 +351,10 @@ TEST(TextClipboard, AnotherProgramPastesWhatWasCopied) {
     w.text.AddText("and more", 0);
     ASSERT_EQ(w.text.CopyToClipboard(), 1);
     char szProgram[MAX_PATH];
-    char szFolder[MAX_PATH];
     ::GetModuleFileName(nullptr, szProgram, MAX_PATH);
-    ::GetTempPath(MAX_PATH, szFolder);
-    const std::string strFile = std::string(szFolder) + "qv_pasted.txt";
+    const TempFile file;
     CString strCommand;
-    strCommand.Format("\"%s\" --paste-into \"%s\"", szProgram, strFile.c_str());
+    strCommand.Format("\"%s\" --paste-into \"%s\"", szProgram, file.Path());
     STARTUPINFO start{};
     start.cb = sizeof(start);
     PROCESS_INFORMATION process{};
@@ -401,11 +369,7 @@ TEST(TextClipboard, AnotherProgramPastesWhatWasCopied) {
     ::CloseHandle(process.hProcess);
     ASSERT_TRUE(bEnded);
     EXPECT_EQ(dwResult, 0u);
-    std::ifstream file(strFile, std::ios::binary);
-    std::stringstream text;
-    text << file.rdbuf();
-    EXPECT_EQ(text.str(), "copied \xe9\r\nand more\r\n\r\n");
-    ::DeleteFile(strFile.c_str());
+    EXPECT_EQ(file.Content(), "copied \xe9\r\nand more\r\n\r\n");
 }
 
 TEST(TextClipboard, HoldsAllLinesAndAnEmptyOne) {

@@ -1,9 +1,10 @@
 // Each allocation of each operation is refused in turn: nothing may be thrown, an operation that
 // gives its error result has changed nothing, and the next paint shows what there is.
-#include "support/failing_heap.h"
 #include "support/picture.h"
 #include "support/tree_window.h"
+#include "window/refusals.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace {
@@ -19,21 +20,7 @@ protected:
     }
 };
 
-// Notices what leaves its window procedure.
-class WatchedTree : public QVTreeCtrlEx {
-public:
-    int nThrown = 0;
-
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-        try {
-            return QVTreeCtrlEx::WindowProc(message, wParam, lParam);
-        } catch (...) {
-            ++nThrown;
-            return 0;
-        }
-    }
-};
+using WatchedTree = Watched<QVTreeCtrlEx>;
 
 // Its steps want memory as well.
 class GreedyTree : public WatchedTree {
@@ -78,36 +65,23 @@ protected:
         return str;
     }
     // op tells whether it was done; undo takes that back. Gives the number of refusals.
-    template <class Op, class Undo>
-    int Refuse(const char* pszName, Op op, Undo undo) {
+    int Refuse(const char* pszName, const std::function<bool()>& op,
+               const std::function<void()>& undo) {
         const std::string strBefore = State();
         const Picture before = Shown();
-        int nAll = 0;
-        for (const auto mode : {FailingHeap::kAllLater, FailingHeap::kJustOne}) {
-            bool bDone = false;
-            bool bThrown = false;
-            nAll += RefuseEachAllocation(
-                mode,
-                [&] {
-                    try {
-                        bDone = op();
-                    } catch (...) {
-                        bThrown = true;
-                    }
-                },
-                [&](int n) {
-                    EXPECT_FALSE(bThrown) << pszName << " " << n;
-                    if (bDone) {
-                        undo();
-                    }
-                    EXPECT_EQ(State(), strBefore) << pszName << " " << n;
-                    EXPECT_TRUE(Shown() == before) << pszName << " " << n;
-                    bThrown = false;
-                });
-            EXPECT_TRUE(bDone) << pszName;
-        }
+        bool bDone = false;
+        const int nRefused = RefuseEach(
+            pszName, [&] { bDone = op(); },
+            [&] {
+                if (bDone) {
+                    undo();
+                }
+                EXPECT_EQ(State(), strBefore);
+                EXPECT_TRUE(Shown() == before);
+            });
+        EXPECT_TRUE(bDone) << pszName;
         EXPECT_EQ(tree.nThrown, 0) << pszName;
-        return nAll;
+        return nRefused;
     }
     Picture Shown() {
         tree.SetRedraw(TRUE);
@@ -124,78 +98,63 @@ protected:
 using Trees = testing::Types<WatchedTree, GreedyTree>;
 TYPED_TEST_SUITE(TreeMemory, Trees);
 
-TYPED_TEST(TreeMemory, ItemsComeGoAndMoveOrStay) {
+TYPED_TEST(TreeMemory, WhatIsNotDoneChangesNothing) {
     auto& tree = this->tree;
-    const HTREEITEM p = this->p, q = this->q;
-    const std::string strLong(20000, 'x');
-    HTREEITEM h = nullptr;
-    for (const HTREEITEM hAfter : {TVI_LAST, TVI_FIRST, TVI_SORT}) {
-        const auto insert = [&] {
-            h = tree.InsertItem(strLong.c_str(), 0, 0, p, hAfter);
-            return h != nullptr;
-        };
-        EXPECT_GT(this->Refuse("insert", insert, [&] { tree.DeleteItem(h); }), 0);
-    }
-    const HTREEITEM hLast = tree.GetLastChild(p);
-    this->Refuse(
-        "move", [&] { return tree.ChangeParent(hLast, q) != 0; },
-        [&] { tree.ChangeParent(hLast, p); });
-    EXPECT_GT(this->Refuse(
-                  "sort", [&] { return tree.SortChildren(p) != 0; },
-                  [&] {
-                      tree.DeleteChildren(p);
-                      this->Fill();
-                  }),
-              0);
-    this->Refuse(
-        "delete", [&] { return tree.DeleteItem(tree.GetLastChild(p)) != 0; },
-        [&] { this->Add("row 0", p); });
-    this->Refuse(
-        "empty", [&] { return tree.DeleteChildren(p) != 0; }, [&] { this->Fill(); });
-    const CString strOld = tree.GetItemText(q);
-    const CString strNew(strLong.c_str());
-    this->Refuse(
-        "text",
-        [&] {
-            tree.SetItemText(q, strNew);
-            return true;
-        },
-        [&] { tree.SetItemText(q, strOld); });
-    this->Refuse(
-        "states", [&] { return tree.LoadTreeStates(30008) != 0; }, [] {});
-}
-
-TYPED_TEST(TreeMemory, TheViewFollowsOrIsFittedLater) {
-    auto& tree = this->tree;
-    const HTREEITEM p = this->p, q = this->q;
-    this->Refuse(
-        "expand", [&] { return tree.Expand(p, TVE_TOGGLE, TRUE, FALSE) != 0; },
-        [&] { tree.Expand(p, TVE_EXPAND, TRUE, FALSE); });
-    this->Refuse(
-        "select", [&] { return tree.SelectItem(q) != 0; }, [&] { tree.SelectItem(nullptr); });
-    this->Refuse(
-        "show", [&] { return tree.EnsureVisible(q) != 0; }, [&] { tree.EnsureVisible(p); });
-    CRect rc;
-    this->Refuse(
-        "rectangle", [&] { return tree.GetItemRect(p, &rc, TRUE) != 0; }, [] {});
-    this->Refuse(
-        "hit", [&] { return tree.HitTest(CPoint(30, 5), nullptr, nullptr) == p; }, [] {});
+    const HTREEITEM p = this->p, q = this->q, hLast = tree.GetLastChild(p);
+    const CString strLong('x', 20000), strOld = tree.GetItemText(q);
     const int stops[] = {100, 20200};
-    this->Refuse(
-        "stops",
-        [&] {
-            tree.UseTabs(stops, 2);
-            tree.SetItemState(p, 0, TVIS_EXPANDED);
-            tree.SetItemState(p, TVIS_EXPANDED, TVIS_EXPANDED);
-            tree.SetItemImage(p, 1);
-            tree.SetCheck(p, TRUE, TRUE);
-            return true;
-        },
-        [&] {
-            tree.ClearTabs();
-            tree.SetItemImage(p, 0);
-            tree.SetCheck(p, FALSE, TRUE);
-        });
+    HTREEITEM h = nullptr;
+    CRect rc;
+    const auto insert = [&](HTREEITEM hAfter) {
+        h = tree.InsertItem(strLong, 0, 0, p, hAfter);
+        return h != nullptr;
+    };
+    const auto remove = [&] { tree.DeleteItem(h); };
+    const auto fill = [&] { this->Fill(); };
+    const auto nothing = [] {};
+    const struct {
+        const char* pszName;
+        bool bNeedsMemory;
+        std::function<bool()> op;
+        std::function<void()> undo;
+    } kOperations[] = {
+        {"insert", true, [&] { return insert(TVI_LAST); }, remove},
+        {"insert first", true, [&] { return insert(TVI_FIRST); }, remove},
+        {"insert sorted", true, [&] { return insert(TVI_SORT); }, remove},
+        {"move", false, [&] { return tree.ChangeParent(hLast, q) != 0; },
+         [&] { tree.ChangeParent(hLast, p); }},
+        {"sort", true, [&] { return tree.SortChildren(p) != 0; },
+         [&] { tree.DeleteChildren(p), fill(); }},
+        {"delete", false, [&] { return tree.DeleteItem(tree.GetLastChild(p)) != 0; },
+         [&] { this->Add("row 0", p); }},
+        {"empty", false, [&] { return tree.DeleteChildren(p) != 0; }, fill},
+        {"text", false, [&] { return tree.SetItemText(q, strLong), true; },
+         [&] { tree.SetItemText(q, strOld); }},
+        {"states", false, [&] { return tree.LoadTreeStates(30008) != 0; }, nothing},
+        {"expand", false, [&] { return tree.Expand(p, TVE_TOGGLE, TRUE, FALSE) != 0; },
+         [&] { tree.Expand(p, TVE_EXPAND, TRUE, FALSE); }},
+        {"select", false, [&] { return tree.SelectItem(q) != 0; },
+         [&] { tree.SelectItem(nullptr); }},
+        {"show", false, [&] { return tree.EnsureVisible(q) != 0; }, [&] { tree.EnsureVisible(p); }},
+        {"rectangle", false, [&] { return tree.GetItemRect(p, &rc, TRUE) != 0; }, nothing},
+        {"hit", false, [&] { return tree.HitTest(CPoint(30, 5), nullptr, nullptr) == p; }, nothing},
+        {"stops", false,
+         [&] {
+             tree.UseTabs(stops, 2);
+             tree.SetItemState(p, 0, TVIS_EXPANDED);
+             tree.SetItemState(p, TVIS_EXPANDED, TVIS_EXPANDED);
+             tree.SetItemImage(p, 1);
+             tree.SetCheck(p, TRUE, TRUE);
+             return true;
+         },
+         [&] {
+             tree.ClearTabs();
+             tree.SetItemImage(p, 0);
+             tree.SetCheck(p, FALSE, TRUE);
+         }}};
+    for (const auto& [pszName, bNeedsMemory, op, undo] : kOperations) {
+        EXPECT_GE(this->Refuse(pszName, op, undo), bNeedsMemory ? 1 : 0);
+    }
 }
 
 TYPED_TEST(TreeMemory, NothingLeavesTheWindowProcedure) {
@@ -233,27 +192,17 @@ TYPED_TEST(TreeMemory, NothingLeavesTheWindowProcedure) {
 
 TEST(TreeMemoryFirst, AWindowComesWholeOrNotAtAll) {
     QuietParent parent;
-    for (const auto mode : {FailingHeap::kAllLater, FailingHeap::kJustOne}) {
-        auto pTree = std::make_unique<WatchedTree>();
-        BOOL bMade = FALSE;
-        bool bThrown = false;
-        RefuseEachAllocation(
-            mode,
-            [&] {
-                try {
-                    bMade = pTree->Create(kTreeStyle, CRect(0, 0, 300, 100), &parent, kTreeId);
-                } catch (...) {
-                    bThrown = true;
-                }
-            },
-            [&](int n) {
-                EXPECT_FALSE(bThrown) << n;
-                EXPECT_EQ(bMade != FALSE, pTree->m_hWnd != nullptr) << n;
-                EXPECT_EQ(pTree->nThrown, 0) << n;
-                pTree = std::make_unique<WatchedTree>();
-            });
-        EXPECT_TRUE(bMade);
-    }
+    auto pTree = std::make_unique<WatchedTree>();
+    BOOL bMade = FALSE;
+    RefuseEach(
+        "create",
+        [&] { bMade = pTree->Create(kTreeStyle, CRect(0, 0, 300, 100), &parent, kTreeId); },
+        [&] {
+            EXPECT_EQ(bMade != FALSE, pTree->m_hWnd != nullptr);
+            EXPECT_EQ(pTree->nThrown, 0);
+            pTree = std::make_unique<WatchedTree>();
+        });
+    EXPECT_TRUE(bMade);
 }
 
 }  // namespace

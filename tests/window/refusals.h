@@ -1,0 +1,50 @@
+// What each area's tests of memory share: every allocation of an operation is refused in turn.
+#pragma once
+
+#include "support/failing_heap.h"
+
+#include <gtest/gtest.h>
+
+/// Counts what leaves its window procedure.
+template <class Window>
+class Watched : public Window {
+public:
+    int nThrown = 0;
+
+protected:
+    LRESULT WindowProc(UINT nMessage, WPARAM wParam, LPARAM lParam) override {
+        try {
+            return Window::WindowProc(nMessage, wParam, lParam);
+        } catch (...) {
+            ++nThrown;
+            return 0;
+        }
+    }
+};
+
+/// Refuses each allocation of the operation, alone and with all later ones; nothing may be thrown.
+/// After each run, with memory again, check() is called. Gives the number of runs in which
+/// something was refused: an operation that asks for no memory cannot go wrong.
+template <class Operation, class Check>
+int RefuseEach(const char* pszWhat, Operation operation, Check check) {
+    int nRefused = 0;
+    int nThrown = 0;
+    for (const FailingHeap::Mode mode : {FailingHeap::kAllLater, FailingHeap::kJustOne}) {
+        nRefused += RefuseEachAllocation(
+            mode,
+            [&] {
+                try {
+                    operation();
+                } catch (...) {
+                    ++nThrown;
+                }
+            },
+            [&](int nSucceeding) {
+                SCOPED_TRACE(pszWhat);
+                SCOPED_TRACE(nSucceeding);
+                check();
+            });
+    }
+    EXPECT_EQ(nThrown, 0) << pszWhat;
+    return nRefused;
+}
