@@ -3,6 +3,8 @@
 
 #include "support/failing_heap.h"
 
+#include <afxwin.h>
+
 #include <gtest/gtest.h>
 
 /// Counts what leaves its window procedure.
@@ -22,6 +24,25 @@ protected:
     }
 };
 
+/// What came out of an operation.
+enum class Outcome { kDone, kMemoryException, kOther };
+
+template <class Operation>
+Outcome Try(Operation operation) {
+    try {
+        operation();
+        return Outcome::kDone;
+    } catch (CMemoryException* e) {
+        e->Delete();
+        return Outcome::kMemoryException;
+    } catch (CException* e) {
+        e->Delete();
+        return Outcome::kOther;
+    } catch (...) {
+        return Outcome::kOther;
+    }
+}
+
 /// Refuses each allocation of the operation, alone and with all later ones; nothing may be thrown.
 /// After each run, with memory again, check() is called. Gives the number of runs in which
 /// something was refused: an operation that asks for no memory cannot go wrong.
@@ -31,14 +52,7 @@ int RefuseEach(const char* pszWhat, Operation operation, Check check) {
     int nThrown = 0;
     for (const FailingHeap::Mode mode : {FailingHeap::kAllLater, FailingHeap::kJustOne}) {
         nRefused += RefuseEachAllocation(
-            mode,
-            [&] {
-                try {
-                    operation();
-                } catch (...) {
-                    ++nThrown;
-                }
-            },
+            mode, [&] { nThrown += Try(operation) != Outcome::kDone; },
             [&](int nSucceeding) {
                 SCOPED_TRACE(pszWhat);
                 SCOPED_TRACE(nSucceeding);

@@ -1,7 +1,7 @@
 // Extension modules: whose classes and resources are found while they are loaded, and afterwards.
-#include "support/failing_heap.h"
 #include "support/test_app.h"
 #include "window/late_module/late_module_ids.h"
+#include "window/refusals.h"
 #include "window/second_module/second_module_ids.h"
 
 #include <gtest/gtest.h>
@@ -85,16 +85,12 @@ TEST(ExtensionModule, WithoutMemoryForAnEntry_ThereIsNone) {
     AFX_EXTENSION_MODULE module;
     const int nChain = LengthOfChain();
     CDynLinkLibrary* pEntry = nullptr;
-    bool bThrew = false;
+    Outcome outcome = Outcome::kOther;
     {
         FailingHeap heap(0);
-        try {
-            pEntry = new CDynLinkLibrary(module);
-        } catch (...) {
-            bThrew = true;
-        }
+        outcome = Try([&] { pEntry = new CDynLinkLibrary(module); });
     }
-    EXPECT_FALSE(bThrew);
+    EXPECT_EQ(Outcome::kDone, outcome);
     EXPECT_EQ(nullptr, pEntry);
     EXPECT_EQ(nChain, LengthOfChain());
 }

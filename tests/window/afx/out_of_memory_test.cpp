@@ -1,5 +1,5 @@
 // Values and collections without memory: the framework's exception, and everything as it was.
-#include "support/failing_heap.h"
+#include "window/refusals.h"
 
 #include <afxcoll.h>
 #include <afxwin.h>
@@ -10,24 +10,6 @@
 #include <vector>
 
 namespace {
-
-enum class Outcome { kDone, kMemoryException, kOther };
-
-template <typename Operation>
-Outcome Try(Operation operation) {
-    try {
-        operation();
-        return Outcome::kDone;
-    } catch (CMemoryException* e) {
-        e->Delete();
-        return Outcome::kMemoryException;
-    } catch (CException* e) {
-        e->Delete();
-    } catch (...) {
-        return Outcome::kOther;
-    }
-    return Outcome::kOther;
-}
 
 /// Has the change made to a fresh object again and again, each allocation refused once. A refusal
 /// must come out as the framework's exception and leave what show() tells as it was; unless the

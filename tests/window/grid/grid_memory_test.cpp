@@ -1,29 +1,13 @@
-#include "support/failing_heap.h"
 #include "support/grid_window.h"
 #include "support/pump.h"
 #include "support/test_app.h"
+#include "window/refusals.h"
 
 #include <gtest/gtest.h>
 #include <new>
 #include <utility>
 
 namespace {
-
-// What came out of an operation.
-enum class Left { Nothing, MemoryException, Other };
-
-template <class Action>
-Left WhatLeaves(Action action) {
-    try {
-        action();
-        return Left::Nothing;
-    } catch (CMemoryException* pException) {
-        pException->Delete();
-        return Left::MemoryException;
-    } catch (...) {
-        return Left::Other;
-    }
-}
 
 // Operations on a grid with each allocation refused in turn, and with all from each on.
 class GridWithoutMemory : public testing::TestWithParam<FailingHeap::Mode> {
@@ -42,20 +26,20 @@ protected:
     // that asks for no memory cannot go wrong.
     template <class Action, class Check>
     void Refuse(Action action, Check check) {
-        Left left = Left::Nothing;
+        Outcome left = Outcome::kDone;
         RefuseEachAllocation(
-            GetParam(), [&] { left = WhatLeaves(action); },
+            GetParam(), [&] { left = Try(action); },
             [&](int nSucceeding) {
                 SCOPED_TRACE(nSucceeding);
-                EXPECT_NE(left, Left::Other);
+                EXPECT_NE(left, Outcome::kOther);
                 check(left);
             });
     }
     // The same for what may tell nothing.
     template <class Action, class Check>
     void RefuseQuietly(Action action, Check check) {
-        Refuse(action, [&](Left left) {
-            EXPECT_EQ(left, Left::Nothing);
+        Refuse(action, [&](Outcome left) {
+            EXPECT_EQ(left, Outcome::kDone);
             EXPECT_FALSE(grid.m_bIgnoreFocus);
             check();
         });
@@ -90,25 +74,25 @@ protected:
 
 TEST_P(GridWithoutMemory, FillingSaysSoAndLeavesWhatWasThere) {
     Refuse([&] { grid.SetCellText(0, kEdit, kLong); },
-           [&](Left left) {
-               EXPECT_EQ(w.Text(0, kEdit), left == Left::Nothing ? std::string(kLong) : "abc");
+           [&](Outcome left) {
+               EXPECT_EQ(w.Text(0, kEdit), left == Outcome::kDone ? std::string(kLong) : "abc");
            });
     int nColumns = grid.NumColumns();
     Refuse([&] { grid.AddColumn(gctStatic, 20); },
-           [&](Left left) {
-               EXPECT_EQ(grid.NumColumns(), nColumns + (left == Left::Nothing));
+           [&](Outcome left) {
+               EXPECT_EQ(grid.NumColumns(), nColumns + (left == Outcome::kDone));
                nColumns = grid.NumColumns();
            });
     int nRows = grid.NumRows();
     const CString strRow = "a\tb\t" + kLong;
     Refuse([&] { grid.AddRow(strRow, 0); },
-           [&](Left left) {
-               EXPECT_EQ(grid.NumRows(), nRows + (left == Left::Nothing));
+           [&](Outcome left) {
+               EXPECT_EQ(grid.NumRows(), nRows + (left == Outcome::kDone));
                nRows = grid.NumRows();
            });
     grid.DeleteAllRows();
     Refuse([&] { grid.AddRow(strRow, 0); },
-           [&](Left) { EXPECT_EQ(grid.m_nTopRow, grid.NumRows() > 0 ? 0 : -1); });
+           [&](Outcome) { EXPECT_EQ(grid.m_nTopRow, grid.NumRows() > 0 ? 0 : -1); });
 }
 
 TEST_P(GridWithoutMemory, AskingGivesNothing) {
@@ -215,8 +199,8 @@ TEST_P(GridWithoutMemory, AControlIsMadeOrNot) {
         }
     };
     Refuse([&] { pGrid = new (place) OpenGrid; },
-           [&](Left left) {
-               EXPECT_EQ(pGrid != nullptr, left == Left::Nothing);
+           [&](Outcome left) {
+               EXPECT_EQ(pGrid != nullptr, left == Outcome::kDone);
                unmake();
            });
     pGrid = new (place) OpenGrid;
