@@ -255,21 +255,22 @@ TEST(PreTranslate, WalksFromTheTargetUpToTheStop) {
     MSG msg = {};
     msg.hwnd = leaf.m_hWnd;
     msg.message = WM_APP;
-    EXPECT_FALSE(CWnd::WalkPreTranslateTree(top.m_hWnd, &msg));
-    EXPECT_EQ(log, (std::vector<std::string>{"leaf", "middle", "top"}));
-    log.clear();
-    EXPECT_FALSE(CWnd::WalkPreTranslateTree(middle.m_hWnd, &msg));
-    EXPECT_EQ(log, (std::vector<std::string>{"leaf", "middle"}));
-    log.clear();
+    const auto walk = [&](HWND hWndStop, BOOL bTaken) {
+        log.clear();
+        EXPECT_EQ(CWnd::WalkPreTranslateTree(hWndStop, &msg), bTaken);
+        return log;
+    };
+    const std::vector<std::string> upToMiddle{"leaf", "middle"};
+    EXPECT_EQ(walk(top.m_hWnd, FALSE), (std::vector<std::string>{"leaf", "middle", "top"}));
+    EXPECT_EQ(walk(middle.m_hWnd, FALSE), upToMiddle);
     middle.m_bTake = true;
-    EXPECT_TRUE(CWnd::WalkPreTranslateTree(nullptr, &msg));
-    EXPECT_EQ(log, (std::vector<std::string>{"leaf", "middle"}));
+    EXPECT_EQ(walk(nullptr, TRUE), upToMiddle);
 
     // In the pump a message that was taken is not dispatched.
     log.clear();
     leaf.PostMessage(WM_APP);
     PumpPending();
-    EXPECT_EQ(log, (std::vector<std::string>{"leaf", "middle"}));
+    EXPECT_EQ(log, upToMiddle);
 }
 
 TEST(FileDialogs, TakePathsAndFiltersApart) {

@@ -1,32 +1,16 @@
-#include "support/grid_window.h"
 #include "support/picture.h"
-#include "support/pump.h"
-#include "support/real_input.h"
+#include "window/grid/grid_in_front.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
 // What an application may have otherwise than by default; each test begins with the default.
-class GridChoices : public testing::Test {
+class GridChoices : public GridInFront {
 protected:
-    GridChoices() : grid(w.grid) {
-        BringToFront(w.parent.m_hWnd);
-        w.other.SetFocus();
-        PumpPending();
-    }
-    bool Click(int nRow, int nCol) { return ClickAt(grid.m_hWnd, w.At(nRow, nCol)); }
-    void AltDown() { TypeKey(VK_DOWN, false, false, true); }
-    CRect ListRect() {
-        CRect rc;
-        ::GetWindowRect(w.List(), &rc);
-        return rc;
-    }
+    GridChoices() : GridInFront(3) {}
     int LineHeight() { return static_cast<int>(::SendMessage(w.List(), LB_GETITEMHEIGHT, 0, 0)); }
     bool ListHasBar() { return (::GetWindowLong(w.List(), GWL_STYLE) & WS_VSCROLL) != 0; }
-
-    GridWindow<> w{3};
-    OpenGrid& grid;
 };
 
 TEST_F(GridChoices, AnAddedRowIsPaintedByItself) {
@@ -78,9 +62,7 @@ TEST_F(GridChoices, AListIsLimitedInHeightScrollsAndKeepsToTheScreen) {
     };
     const int nTop = top();
     // Its bar works, and the keys still go to the grid.
-    CPoint ptBar(ListRect().right - 5, ListRect().bottom - 5);
-    grid.ScreenToClient(&ptBar);
-    ClickAt(grid.m_hWnd, ptBar);
+    ClickAt(grid.m_hWnd, ListRect().BottomRight() - CSize(5, 5));
     EXPECT_EQ(top(), nTop + 1);
     EXPECT_EQ(CWnd::GetFocus(), &grid);
     ClickAt(grid.m_hWnd, w.LineAt(nTop + 3));
@@ -93,9 +75,7 @@ TEST_F(GridChoices, AListIsLimitedInHeightScrollsAndKeepsToTheScreen) {
     grid.GotoCell(1, kList, FALSE);
     grid.SetFocus();
     AltDown();
-    CRect rcCell = w.CellRect(1, kList);
-    grid.ClientToScreen(&rcCell);
-    EXPECT_EQ(ListRect().bottom, rcCell.top) << "there is no room under the cell";
+    EXPECT_EQ(ListRect().bottom, w.CellRect(1, kList).top) << "there is no room under the cell";
     EXPECT_EQ(ListRect().Height(), 6 * LineHeight() + 2);
 }
 

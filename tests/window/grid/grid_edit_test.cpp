@@ -1,24 +1,13 @@
-#include "support/grid_window.h"
-#include "support/pump.h"
-#include "support/real_input.h"
+#include "window/grid/grid_in_front.h"
 #include "window/grid/grid_test_ids.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-class GridEdit : public testing::Test {
+class GridEdit : public GridInFront {
 protected:
-    GridEdit() : grid(w.grid) {
-        BringToFront(w.parent.m_hWnd);
-        w.other.SetFocus();
-        PumpPending();
-    }
-    bool Click(int nRow, int nCol) { return ClickAt(grid.m_hWnd, w.At(nRow, nCol)); }
-    void AltDown() { TypeKey(VK_DOWN, false, false, true); }
-
-    GridWindow<> w{20};
-    OpenGrid& grid;
+    GridEdit() : GridInFront(20) {}
 };
 
 // --- The edit
@@ -72,11 +61,8 @@ TEST_F(GridEdit, ArrowsLeaveTheCellAtTheEndsOfTheTextOnly) {
 TEST_F(GridEdit, AnEditorIsPlacedBeforeTheFirstPaintToo) {
     grid.SendMessage(WM_SETREDRAW, TRUE);
     grid.GotoCell(2, kEditButton, TRUE);
-    CRect rcEdit;
-    ::GetWindowRect(w.Edit(), &rcEdit);
-    grid.ScreenToClient(&rcEdit);
     const CRect rc = w.CellRect(2, kEditButton);
-    EXPECT_EQ(rcEdit,
+    EXPECT_EQ(RectOf(w.Edit()),
               CRect(rc.left + 2, rc.top + 1, w.ButtonRect(2, kEditButton).left - 2, rc.bottom - 2));
 }
 
@@ -110,12 +96,9 @@ TEST_F(GridEdit, AListFollowsThePointerAndNeverTakesTheFocus) {
     ASSERT_NE(w.List(), nullptr);
     EXPECT_EQ(w.ListLine(), "one");
     EXPECT_EQ(CWnd::GetFocus(), &grid);
-    CRect rcList;
-    ::GetWindowRect(w.List(), &rcList);
-    grid.ScreenToClient(&rcList);
     const CRect rc = w.CellRect(0, kList);
     const auto nLine = static_cast<int>(::SendMessage(w.List(), LB_GETITEMHEIGHT, 0, 0));
-    EXPECT_EQ(rcList, CRect(rc.left, rc.bottom - 1, rc.right - 1, rc.bottom + 1 + 3 * nLine));
+    EXPECT_EQ(ListRect(), CRect(rc.left, rc.bottom - 1, rc.right - 1, rc.bottom + 1 + 3 * nLine));
     ClickAt(grid.m_hWnd, w.LineAt(2));
     EXPECT_EQ(w.List(), nullptr);
     EXPECT_EQ(w.Text(0, kList) + " " + w.Told(), "three 1 ");

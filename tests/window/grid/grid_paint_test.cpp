@@ -1,7 +1,5 @@
-#include "support/grid_window.h"
 #include "support/picture.h"
-#include "support/pump.h"
-#include "support/real_input.h"
+#include "window/grid/grid_in_front.h"
 
 #include <afxwin.h>
 
@@ -18,13 +16,9 @@ const COLORREF kDark = ::GetSysColor(COLOR_3DDKSHADOW);
 constexpr COLORREF kRed = RGB(255, 0, 0);
 
 // Rows of height h fit exactly, or with a part of one more.
-class GridPaint : public testing::Test {
+class GridPaint : public GridInFront {
 protected:
-    GridPaint() : grid(w.grid), h(w.grid.m_nCellHeight) {
-        BringToFront(w.parent.m_hWnd);
-        w.other.SetFocus();
-        PumpPending();
-    }
+    GridPaint() : GridInFront(0), h(grid.m_nCellHeight) {}
     Picture Shown() {
         grid.Invalidate(FALSE);
         return Picture::OfClient(grid.m_hWnd);
@@ -44,8 +38,6 @@ protected:
     }
     bool HasBar() { return (grid.GetStyle() & WS_VSCROLL) != 0; }
 
-    GridWindow<> w{0};
-    OpenGrid& grid;
     const int h;
 };
 

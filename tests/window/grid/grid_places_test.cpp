@@ -1,26 +1,13 @@
-#include "support/grid_window.h"
-#include "support/pump.h"
-#include "support/real_input.h"
+#include "window/grid/grid_in_front.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
 // Where the editors lie as the cells under them move.
-class GridPlaces : public testing::Test {
+class GridPlaces : public GridInFront {
 protected:
-    GridPlaces() : grid(w.grid) {
-        BringToFront(w.parent.m_hWnd);
-        w.other.SetFocus();
-        PumpPending();
-    }
-    bool Click(int nRow, int nCol) { return ClickAt(grid.m_hWnd, w.At(nRow, nCol)); }
-    CRect RectOf(HWND hWnd) {
-        CRect rc;
-        ::GetWindowRect(hWnd, &rc);
-        grid.ScreenToClient(&rc);
-        return rc;
-    }
+    GridPlaces() : GridInFront(30) {}
     void ExpectEditIn(int nRow, int nCol) {
         const CRect rc = w.CellRect(nRow, nCol);
         EXPECT_EQ(RectOf(::GetDlgItem(grid.m_hWnd, kGridEditChild)),
@@ -30,13 +17,9 @@ protected:
     void ExpectListAt(int nRow, int nCol) {
         ASSERT_NE(w.List(), nullptr);
         const CRect rc = w.CellRect(nRow, nCol);
-        const CRect rcList = RectOf(w.List());
-        EXPECT_EQ(rcList.TopLeft(), CPoint(rc.left, rc.bottom - 1));
-        EXPECT_EQ(rcList.Width(), rc.Width() - 1);
+        EXPECT_EQ(ListRect().TopLeft(), CPoint(rc.left, rc.bottom - 1));
+        EXPECT_EQ(ListRect().Width(), rc.Width() - 1);
     }
-
-    GridWindow<> w{30};
-    OpenGrid& grid;
 };
 
 TEST_F(GridPlaces, AnEditFollowsItsCellAsCodeScrollsOrFontAndWidthsChange) {

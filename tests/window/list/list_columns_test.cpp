@@ -187,11 +187,10 @@ TEST(ListSelection, IsOneRowOrNone) {
     for (const char* psz : {"x", "y", "z"}) {
         w.Add(psz);
     }
-    EXPECT_EQ(w.list.GetSelectedItem(), -1);
-    EXPECT_EQ(w.list.SelectItem(1), -1);
-    EXPECT_EQ(w.list.GetSelectedItem(), 1);
-    EXPECT_EQ(w.list.SelectItem(-1), -1);
-    EXPECT_EQ(w.list.GetSelectedItem(), -1);
+    for (const int nItem : {1, -1}) {
+        EXPECT_EQ(w.list.SelectItem(nItem), -1);
+        EXPECT_EQ(w.list.GetSelectedItem(), nItem);
+    }
     w.list.ModifyStyle(LVS_SINGLESEL, 0);
     w.list.SelectItem(0);
     w.list.SetItemState(2, LVIS_SELECTED, LVIS_SELECTED);

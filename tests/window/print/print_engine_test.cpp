@@ -18,18 +18,14 @@ protected:
         nSection = HeightOf(section);
         dc.FillSolidRect(0, 0, 900, 900, RGB(255, 255, 255));
     }
-    int HeightOf(CFont& font) {
+    CSize ExtentIn(CFont& font, const char* psz) {
         CFont* pOld = dc.SelectObject(&font);
-        const int n = dc.GetTextExtent("0", 1).cy;
+        const CSize size = dc.GetTextExtent(CString(psz));
         dc.SelectObject(pOld);
-        return n;
+        return size;
     }
-    int WidthOf(CFont& font, const char* psz) {
-        CFont* pOld = dc.SelectObject(&font);
-        const int n = dc.GetTextExtent(CString(psz)).cx;
-        dc.SelectObject(pOld);
-        return n;
-    }
+    int HeightOf(CFont& font) { return ExtentIn(font, "0").cy; }
+    int WidthOf(CFont& font, const char* psz) { return ExtentIn(font, psz).cx; }
     // What the page shows, in order.
     std::string Page(QVPrintEngine& engine, unsigned nPage, const CRect& rc) {
         dc.texts.clear();

@@ -90,26 +90,23 @@ TEST_F(TreeInput, DoubleClickTogglesUnlessTheParentTakesIt) {
 
 TEST_F(TreeInput, ArrowKeysWalkOpenAndClose) {
     EXPECT_EQ(w.tree.SendMessage(WM_GETDLGCODE), DLGC_WANTARROWS | DLGC_WANTCHARS);
-    TypeKey(VK_DOWN);
-    EXPECT_EQ(w.Told(), "ing ->a | ed ->a") << "without a selection: the top row";
-    TypeKey(VK_RIGHT);
-    EXPECT_EQ(w.Told(), "ex a | exd a");
-    TypeKey(VK_RIGHT);
-    EXPECT_EQ(w.Told(), "ing a>a1 | ed a>a1") << "open already: one down";
-    TypeKey(VK_LEFT);
-    EXPECT_EQ(w.Told(), "ing a1>a | ed a1>a") << "closed: to the parent";
-    TypeKey(VK_LEFT);
-    EXPECT_EQ(w.Told(), "ex a | exd a");
-    TypeKey(VK_LEFT);
-    EXPECT_EQ(w.Told(), "") << "a closed root item has nowhere to go";
-    TypeKey(VK_DOWN);
-    EXPECT_EQ(w.Told(), "ing a>b | ed a>b");
-    TypeKey(VK_DOWN);
-    EXPECT_EQ(w.Told(), "") << "the last row";
-    TypeKey(VK_RIGHT);
-    EXPECT_EQ(w.Told(), "");
-    TypeKey(VK_UP);
-    EXPECT_EQ(w.Told(), "ing b>a | ed b>a");
+    const struct {
+        WORD nKey;
+        const char* pszTold;
+    } kKeys[] = {{VK_DOWN, "ing ->a | ed ->a"},  // without a selection: the top row
+                 {VK_RIGHT, "ex a | exd a"},
+                 {VK_RIGHT, "ing a>a1 | ed a>a1"},  // open already: one down
+                 {VK_LEFT, "ing a1>a | ed a1>a"},   // closed: to the parent
+                 {VK_LEFT, "ex a | exd a"},
+                 {VK_LEFT, ""},  // a closed root item has nowhere to go
+                 {VK_DOWN, "ing a>b | ed a>b"},
+                 {VK_DOWN, ""},  // the last row
+                 {VK_RIGHT, ""},
+                 {VK_UP, "ing b>a | ed b>a"}};
+    for (const auto& key : kKeys) {
+        TypeKey(key.nKey);
+        EXPECT_EQ(w.Told(), key.pszTold) << &key - kKeys;
+    }
     w.tree.Expand(a, TVE_EXPAND, TRUE, FALSE);
     w.tree.Expand(a1, TVE_EXPAND, TRUE, FALSE);
     w.tree.SelectItem(a11);
