@@ -66,6 +66,25 @@ TEST(ListPaint, SelectionShowsFocusAndEndsWithTheData) {
     EXPECT_GT(Shown(w.list).Count(kRed), 0);
 }
 
+TEST(ListPaint, StylesCarryFromCellToCell) {
+    ListWindow<> w("a\tb\tc\td");
+    w.list.AddStyle(kRed, kGreen);  // b
+    w.list.AddStyle(kBlue, kNone);  // c
+    w.list.SetColStyle(3, 1);
+    w.Add("1\t\033b2\t3\t\033c4");
+    EXPECT_EQ(Backgrounds(w, 0), (Colors{kWindow, kGreen, kGreen, kGreen}))
+        << "the last one by its column's style";
+    // Style 0 has a text colour but no background.
+    w.list.SetItemString(0, "\033b1\t\033aMMMM\t3\t4");
+    EXPECT_EQ(Backgrounds(w, 0), (Colors{kGreen, kGreen, kGreen, kGreen}));
+    const CRect rc = w.RectOf(0);
+    EXPECT_EQ(Shown(w.list).Count(kRed, CRect(rc.left + 60, rc.top, rc.right, rc.bottom)), 0);
+    w.list.SetColWidth(1, 0, nullptr);
+    w.list.SetItemString(0, "1\t\033b2\t3\t4");
+    EXPECT_EQ(Backgrounds(w, 0), (Colors{kWindow, kWindow, kWindow, kWindow}))
+        << "a hidden column colours nothing";
+}
+
 TEST(ListPaint, TheSpaceUnderTheRowsHasTheColumnsColours) {
     ListWindow<> w("a\tb");
     w.list.AddStyle(kRed, kGreen);
