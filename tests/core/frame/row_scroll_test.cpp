@@ -101,17 +101,6 @@ TEST(ScrollThumb, GoesBehindTheEndByItsLimit) {
     }
 }
 
-TEST(ScrollThumb, TheBarKnowsMoreThan16Bits) {
-    FakeWindow window(200, 130);
-    const RowScroll scroll(window);
-    EXPECT_EQ(scroll.ThumbPosition(SB_VERT, SB_THUMBTRACK), std::nullopt);
-    window.bPositionKnown = true;
-    window.nTrackPos = 70000;
-    window.nThumbPos = 65536;
-    EXPECT_EQ(scroll.ThumbPosition(SB_VERT, SB_THUMBTRACK), 70000);
-    EXPECT_EQ(scroll.ThumbPosition(SB_VERT, SB_THUMBPOSITION), 65536);
-}
-
 TEST(ScrollThumb, TheEndOfAShorterBarStandsForTheLastPage) {
     const qv::ScrollRange bar{0, 10, 8, 0};  // of 11 rows, 10 of which show
     for (const auto& [nThumb, nRow] : {std::pair{0, 0}, {1, 1}, {2, 2}, {3, 1}, {5, 1}}) {

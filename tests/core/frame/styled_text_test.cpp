@@ -117,21 +117,6 @@ TEST(ChangeStyle, OverwritesACodeInPlaceAndGivesNone) {
     EXPECT_STREQ(alone, "\x1B");
 }
 
-TEST(NextField, ReadsFieldsUpToTheLastThatHasText) {
-    const auto fields = [](std::string_view row) {
-        std::string strAll;
-        std::string_view field;
-        for (int nPos = 0; qv::NextField(row, nPos, field);) {
-            strAll += "[" + std::string(field) + "]";
-        }
-        return strAll;
-    };
-    EXPECT_EQ(fields("a\t\tb"), "[a][][b]");
-    EXPECT_EQ(fields("a\t"), "[a]");
-    EXPECT_EQ(fields("\ta"), "[][a]");
-    EXPECT_EQ(fields(""), "");
-}
-
 TEST(Wheel, AddsSmallMovementsUpToSteps) {
     struct Case {
         int nDelta;

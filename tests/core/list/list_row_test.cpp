@@ -1,27 +1,8 @@
 #include "list/core/list_row.h"
 
 #include <gtest/gtest.h>
-#include <initializer_list>
 
 namespace qv {
-
-namespace {
-
-std::string Joined(std::initializer_list<const char*> cells) {
-    std::string strRow;
-    for (const char* psz : cells) {
-        JoinCell(strRow, psz, ',');
-    }
-    return strRow;
-}
-
-}  // namespace
-
-TEST(ListRow, ASeparatorIsWrittenOnlyBehindSomething) {
-    EXPECT_EQ(Joined({"", "x", "y"}), "x,y");
-    EXPECT_EQ(Joined({"x", "", "y", ""}), "x,,y,");
-    EXPECT_EQ(Joined({"", ""}), "");
-}
 
 TEST(ListRow, HighlightFollowsFocusAndStyles) {
     constexpr bool kNo = false, kYes = true;
