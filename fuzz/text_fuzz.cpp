@@ -2,6 +2,7 @@
 // and the word wrap done step by step. No text that is measured may hold a byte from behind a line.
 
 #include "fuzz_input.h"
+#include "support/odd_measures.h"
 #include "support/text_split_rule.h"
 #include "text/core/display_rows.h"
 #include "text/core/print_rows.h"

@@ -2,6 +2,8 @@
 
 #include "frame/core/char_widths.h"
 
+#include "support/double_byte.h"
+
 #include <gtest/gtest.h>
 #include <map>
 #include <random>
@@ -12,14 +14,6 @@ namespace {
 
 using qv::CharWidths;
 using qv::MultiByte;
-
-MultiByte DoubleByte() {
-    MultiByte::LeadTable lead{};
-    for (int i = 0x81; i < 0xA0; ++i) {
-        lead[static_cast<size_t>(i)] = true;
-    }
-    return MultiByte::DoubleByte({}, lead);
-}
 
 // A character is as wide as its bytes say; some have no width of their own.
 class Widths : public qv::CharWidthSource {

@@ -2,9 +2,9 @@
 
 #include "base/multi_byte.h"
 #include "support/fake_window.h"
+#include "support/odd_measures.h"
 #include "support/text_split_rule.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
 #include <string>
 #include <string_view>
@@ -92,24 +92,6 @@ TEST(TextSplit, NoCharacterIsCutInTwoHoweverNarrowTheWindow) {
     splitter.Split("\xE6\x97\xA5\xE6\x97\xA5x", 2 * kChar, starts);
     EXPECT_EQ(starts, (Starts{0, 0, 3, 6})) << "each too wide by itself, and taken whole";
 }
-
-// Every byte is as wide as the next, but for z, which has no width.
-class CountingMeasure : public qv::TextMeasure {
-public:
-    qv::Size Extent(std::string_view text) override {
-        nBytes += text.size();
-        return {kChar * static_cast<int>(text.size() - std::count(text.begin(), text.end(), 'z')),
-                10};
-    }
-    void PrefixWidths(std::string_view text, int* pWidths) override {
-        nBytes += text.size();
-        int nWidth = 0;
-        for (const char ch : text) {
-            *pWidths++ = nWidth += ch == 'z' ? 0 : kChar;
-        }
-    }
-    std::size_t nBytes = 0;
-};
 
 TEST(TextSplit, MeasuresFewTimesWhatTheTextHolds) {
     std::string strWords;
