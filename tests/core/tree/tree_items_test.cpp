@@ -172,20 +172,16 @@ TEST_F(TreeNavigation, CodesLeadToRelatives) {
     EXPECT_FALSE(tree.Items().CheckForAncestor(nullptr, a));
 }
 
-TEST_F(TreeNavigation, WalkGoesThroughTheWholeTreeBothWays) {
+TEST_F(TreeNavigation, WalkTakesAllItemsAndRowsFollowExpansionBothWays) {
     EXPECT_EQ(tree.Walk(), "a a1 x a2 b b1 c");
-    for (HTREEITEM h = a; h != c; h = tree.Items().WalkNext(h)) {
-        EXPECT_EQ(tree.Items().WalkPrev(tree.Items().WalkNext(h)), h);
-    }
-    EXPECT_EQ(tree.Items().WalkNext(c), nullptr);
-    EXPECT_EQ(tree.Items().WalkPrev(a), nullptr);
-}
-
-TEST_F(TreeNavigation, RowsFollowExpansionBothWays) {
     EXPECT_EQ(tree.Rows(), "a b c");
     tree.Expand(a, TVE_EXPAND, false, false);
     tree.Expand(a1, TVE_EXPAND, false, false);
     EXPECT_EQ(tree.Rows(), "a a1 x a2 b c");
+    for (HTREEITEM h = a; h != c; h = tree.Items().WalkNext(h)) {
+        EXPECT_EQ(tree.Items().WalkPrev(tree.Items().WalkNext(h)), h);
+    }
+    EXPECT_EQ(tree.Items().WalkPrev(a), nullptr);
     for (HTREEITEM h = a; h != c; h = tree.Items().NextDisplayableItem(h)) {
         EXPECT_EQ(tree.Items().LastDisplayableItem(tree.Items().NextDisplayableItem(h)), h);
     }
