@@ -5,10 +5,8 @@
 
 #include <gtest/gtest.h>
 #include <new>
-#include <random>
 #include <string>
 #include <tuple>
-#include <vector>
 
 namespace {
 
@@ -98,49 +96,6 @@ TEST_F(Printing, PiecesAreThoseOfTheLinePassedIn) {
     EXPECT_TRUE(rowCountedBy(2, 2));
     EXPECT_EQ(m_row.strText, " bbb ");
     EXPECT_EQ(m_row.nLine, 1);
-}
-
-TEST_F(Printing, RowsByNumberJoinedGiveEveryLineBack) {
-    std::mt19937 random(7);
-    static constexpr std::string_view kParts[] = {"a",  "word",     " ",   "   ",
-                                                  "\n", "\xC3\xA4", "\x1B"};
-    const auto fill = [&](TextLines& lines, std::vector<std::string>& texts) {
-        lines.Clear();
-        texts.clear();
-        for (unsigned n = random() % 8; n > 0; --n) {
-            std::string strText;
-            for (unsigned nPart = random() % 30; nPart > 0; --nPart) {
-                strText += kParts[random() % std::size(kParts)];
-            }
-            lines.Add(strText, 0);
-            texts.push_back(strText);
-        }
-    };
-    std::vector<std::string> texts, otherTexts;
-    for (int i = 0; i < 300; ++i) {
-        fill(m_lines, texts);
-        fill(m_other, otherTexts);
-        m_rows.Clear();
-        m_otherRows.Clear();
-        Format(static_cast<int>(random() % 20), 9, i % 2 == 0);
-        const auto check = [&](const PrintRows& rows, const TextLines& lines,
-                               const std::vector<std::string>& expected) {
-            std::vector<std::string> joined(expected.size());
-            for (int nRow = 0; nRow < rows.Count(); ++nRow) {
-                ASSERT_TRUE(rows.Row(nRow, lines, m_styles, m_row));
-                if (m_row.nLine < lines.Count()) {
-                    joined[static_cast<std::size_t>(m_row.nLine)] += m_row.strText;
-                } else {
-                    ASSERT_EQ(m_row.strText, "");
-                }
-            }
-            ASSERT_EQ(joined, expected);
-        };
-        check(m_rows, m_lines, texts);
-        if (i % 2 == 0) {
-            check(m_otherRows, m_other, otherTexts);
-        }
-    }
 }
 
 TEST_F(Printing, RowsByNumberKnowWhatThereIsNot) {
