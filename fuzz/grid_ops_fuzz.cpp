@@ -65,8 +65,10 @@ private:
 
     void AddRow() {
         const std::string strRow = m_input.Text();
-        const int nRow = m_model.AddRow(strRow, m_input.Byte());
+        const unsigned dwState = m_input.Byte();
+        const int nRow = m_model.AddRow(strRow, dwState);
         FUZZ_CHECK(nRow == static_cast<int>(m_rows.size()));
+        FUZZ_CHECK(m_model.RowAt(nRow).dwState == dwState);
         m_rows.emplace_back(static_cast<size_t>(m_nColumns));
         ++m_nBlocks;
         size_t nStart = 0;
