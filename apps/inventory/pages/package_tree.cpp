@@ -15,6 +15,7 @@ constexpr DWORD_PTR kPlaceholder = 1;
 }  // namespace
 
 void PackageTree::SetUp() {
+    KeepSteps(typeid(PackageTree));  // it replaces none
     const COLORREF crWindow = ::GetSysColor(COLOR_WINDOW);
     m_nTrouble = AddStyle(RGB(176, 0, 0), RGB(255, 232, 224));
     m_nRequired = AddStyle(RGB(0, 0, 144), crWindow);

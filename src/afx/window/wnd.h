@@ -305,7 +305,8 @@ public:
 
 protected:
     HWND m_hWndOwner = nullptr;
-    WNDPROC m_pfnSuper = nullptr;  ///< the procedure that ours was put in front of
+    WNDPROC m_pfnSuper = nullptr;          ///< the procedure that ours was put in front of
+    WNDPROC m_pfnSuperReplaced = nullptr;  ///< the same; a program may put another one above
     /// The same under its own address, for messages that the system converts nothing in: there is
     /// no need of the system then, which takes its time. Null: unknown.
     WNDPROC m_pfnSuperDirect = nullptr;

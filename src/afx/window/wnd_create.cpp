@@ -76,7 +76,7 @@ void PutProcedureInFront(CWnd* pWnd, HWND hWnd) {
         ::SetWindowLongPtr(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&AfxWndProc)));
     if (pfnOld != &AfxWndProc && *ppfnSuper == nullptr) {
         *ppfnSuper = pfnOld;
-        AfxWndAccess::SuperDirect(pWnd) = pfnDirect;
+        AfxWndAccess::SetSuperDirect(pWnd, pfnOld, pfnDirect);
     }
     AfxTakeWideInput(hWnd, pfnWide);
 }
@@ -216,7 +216,7 @@ HWND CWnd::UnsubclassWindow() {
         ::SetWindowLongPtr(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(*ppfnSuper));
         AfxEndWideInput(m_hWnd);
         *ppfnSuper = nullptr;
-        m_pfnSuperDirect = nullptr;
+        m_pfnSuperDirect = m_pfnSuperReplaced = nullptr;
     }
     return Detach();
 }
@@ -253,7 +253,7 @@ void CWnd::OnNcDestroy() {
         ::SetWindowLongPtr(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(*ppfnSuper));
     }
     AfxEndWideInput(m_hWnd);
-    m_pfnSuper = m_pfnSuperDirect = nullptr;
+    m_pfnSuper = m_pfnSuperDirect = m_pfnSuperReplaced = nullptr;
     Detach();
     PostNcDestroy();
 }

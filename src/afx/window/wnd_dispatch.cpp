@@ -72,7 +72,7 @@ LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (WNDPROC pfnSuper = *GetSuperWndProcAddr()) {
         // A control has one message for texts of each kind, so the system has nothing to convert.
         if (message >= WM_USER && message < kFirstRegisteredMessage &&
-            m_pfnSuperDirect != nullptr) {
+            m_pfnSuperDirect != nullptr && pfnSuper == m_pfnSuperReplaced) {
             return m_pfnSuperDirect(m_hWnd, message, wParam, lParam);
         }
         if (message == WM_CHAR && AfxDefaultTypedByte(m_hWnd, wParam, lParam)) {

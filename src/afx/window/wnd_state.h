@@ -33,7 +33,10 @@ struct AfxWndAccess {
         return pWnd->WindowProc(message, wParam, lParam);
     }
     static WNDPROC* SuperWndProc(CWnd* pWnd) { return pWnd->GetSuperWndProcAddr(); }
-    static WNDPROC& SuperDirect(CWnd* pWnd) { return pWnd->m_pfnSuperDirect; }
+    static void SetSuperDirect(CWnd* pWnd, WNDPROC pfnReplaced, WNDPROC pfnDirect) {
+        pWnd->m_pfnSuperReplaced = pfnReplaced;
+        pWnd->m_pfnSuperDirect = pfnDirect;
+    }
     static void OnNcDestroy(CWnd* pWnd) { pWnd->CWnd::OnNcDestroy(); }
     /// Fills in the names that the application did not give.
     static void NameApp(CWinApp* pApp, HINSTANCE hInstance);

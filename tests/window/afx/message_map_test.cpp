@@ -1,7 +1,10 @@
 // Message maps: each kind of entry reaches its handler with the right arguments; what a class does
 // not handle falls through to its base, in another module if need be.
+#include "support/recording_parent.h"
 #include "support/test_app.h"
 #include "window/second_module/second_module.h"
+
+#include <afxcmn.h>
 
 #include <gtest/gtest.h>
 
@@ -316,6 +319,25 @@ TEST(ThreadMessages, WithoutWindow_GoToTheThreadsMap) {
     EXPECT_EQ(thread.m_wSeen, 11u);
     msg.message = kPlain + 1;
     EXPECT_FALSE(thread.PreTranslateMessage(&msg));
+}
+
+// --- A procedure that a program puts in place of the control's own
+
+class ReplacedTree : public CTreeCtrl {
+public:
+    void Replace() { m_pfnSuper = &Answer; }
+
+private:
+    static LRESULT CALLBACK Answer(HWND, UINT, WPARAM, LPARAM) { return 77; }
+};
+
+TEST(SuperProcedure, MessagesOfAControlsOwnGoToTheProcedureBehind) {
+    RecordingParent parent;
+    ReplacedTree tree;
+    ASSERT_TRUE(tree.Create(WS_CHILD, CRect(0, 0, 50, 50), &parent, 1));
+    EXPECT_EQ(tree.SendMessage(TVM_GETCOUNT), 0);
+    tree.Replace();
+    EXPECT_EQ(tree.SendMessage(TVM_GETCOUNT), 77);
 }
 
 }  // namespace
