@@ -5,7 +5,6 @@
 #include <climits>
 #include <gtest/gtest.h>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace {
@@ -18,15 +17,14 @@ std::string Stored(std::string_view text, char chStyle = 'a') {
 
 TEST(TextLines, EachIsStoredBehindItsStyleCode) {
     TextLines lines;
+    struct Case {
+        int nStyle;
+        char chCode;
+    };
     int nLines = 0;
-    for (const auto& [nStyle, chCode] : {std::pair{-1, 'a'},
-                                         {0, 'a'},
-                                         {2, 'c'},
-                                         {31, '\x80'},
-                                         {256, 'a'},
-                                         {-2, '\x5F'},
-                                         {255, '\x60'},
-                                         {INT_MIN, 'a'}}) {
+    for (const auto& [nStyle, chCode] :
+         {Case{-1, 'a'}, Case{0, 'a'}, Case{2, 'c'}, Case{31, '\x80'}, Case{256, 'a'},
+          Case{-2, '\x5F'}, Case{255, '\x60'}, Case{INT_MIN, 'a'}}) {
         EXPECT_EQ(lines.Add("x", nStyle), ++nLines);
         EXPECT_EQ(lines.Line(nLines - 1), Stored("x", chCode)) << nStyle;
     }
