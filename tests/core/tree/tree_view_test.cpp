@@ -2,6 +2,7 @@
 #include "support/test_tree.h"
 
 #include <gtest/gtest.h>
+#include <random>
 
 namespace {
 
@@ -454,6 +455,75 @@ TEST_F(TreeScrolling, TheFirstItemIsMeasuredAsSoonAsThereIsMemory) {
     tree.measure.bOutOfMemory = false;
     tree.FitIfDue();
     EXPECT_TRUE(tree.ItemVisible(rows[0]));
+}
+
+// Whatever happens to the tree, a refit gives what walking all rows gives.
+TEST(TreeProperty, RefitsAgreeWithAPlainWalk) {
+    for (unsigned nSeed = 1; nSeed <= 30; ++nSeed) {
+        std::mt19937 random(nSeed);
+        TestTree tree;
+        tree.window.size = {150, 16 * 7};
+        std::vector<HTREEITEM> items;
+        const auto any = [&]() -> HTREEITEM {
+            items.clear();
+            for (HTREEITEM h = tree.Root(); h != nullptr; h = tree.Items().WalkNext(h)) {
+                items.push_back(h);
+            }
+            return items.empty() ? nullptr : items[random() % items.size()];
+        };
+        for (int i = 0; i < 400; ++i) {
+            const std::string strText(1 + random() % 30, 'a' + static_cast<char>(random() % 26));
+            HTREEITEM h = any();
+            HTREEITEM hBranch = h != nullptr && h->pParent != nullptr ? h->pParent : h;
+            switch (random() % 8) {
+                case 0:
+                    if (random() % 2 == 0) {
+                        tree.DeleteItem(h ? h : TVI_ROOT);
+                    }
+                    break;
+                case 1:
+                    tree.Expand(random() % 2 ? h : hBranch, TVE_TOGGLE, true, random() % 2);
+                    break;
+                case 2:
+                    if (h != tree.Root()) {
+                        tree.ChangeParent(h, any());
+                    }
+                    break;
+                case 3:
+                    tree.SortChildren(hBranch);
+                    break;
+                case 4:
+                    tree.SetItemText(h, strText.c_str());
+                    tree.SetItemState(h, random() % 2 ? TVIS_EXPANDED : 0, TVIS_EXPANDED);
+                    break;
+                default:
+                    for (unsigned n = random() % 60; n > 0; --n) {
+                        tree.Add(strText, h, random() % 2 ? TVI_FIRST : TVI_LAST);
+                    }
+            }
+            tree.CalcScroll();
+            tree.CalcBottomItem();
+            int nRows = 0, nTop = tree.Root() != nullptr ? -1 : 0, nWidest = 0;
+            for (HTREEITEM r = tree.Root(); r != nullptr; r = tree.Items().NextDisplayableItem(r)) {
+                nTop = r == tree.Top() ? nRows : nTop;
+                qv::Rect rect;
+                tree.CalcItemRect(nullptr, 0, r, rect, false);
+                nWidest = std::max(nWidest, rect.right);
+                ++nRows;
+            }
+            ASSERT_TRUE(tree.CheckInvariants()) << nSeed << "/" << i;
+            ASSERT_EQ(tree.MaxWidth(), nWidest) << nSeed << "/" << i;
+            ASSERT_EQ(tree.VScrollPos(), nTop) << nSeed << "/" << i;
+            if (tree.VPage() != 0) {
+                ASSERT_EQ(tree.window.ranges[SB_VERT].nMax, nRows - 1);
+            }
+            const int nWanted = static_cast<int>(random() % 200);
+            const int nDown = tree.ScrollTreeDown(nWanted);
+            ASSERT_TRUE(nDown == nWanted ||
+                        tree.Items().NextDisplayableItem(tree.Bottom()) == nullptr);
+            ASSERT_EQ(tree.ScrollTreeUp(nDown / 2), nDown / 2);
+        }
+    }
 }
 
 }  // namespace
