@@ -18,9 +18,7 @@ public:
         std::string strText;
         for (unsigned n = Byte() % 24; n > 0 && !AtEnd(); --n) {
             // Mostly what carries structure.
-            static constexpr char kBytes[] =
-                "ab\t\x1B"
-                "A\x81\xC3\xA4z{";
+            static constexpr char kBytes[] = "ab\t\033A\x81\xC3\xA4z{";
             const unsigned b = Byte();
             strText += b < 200 ? kBytes[b % (sizeof(kBytes) - 1)] : static_cast<char>(b);
         }

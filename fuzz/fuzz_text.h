@@ -2,20 +2,8 @@
 
 #pragma once
 
-#include "base/multi_byte.h"
+#include "support/double_byte.h"
 
 inline qv::MultiByte TextOfKind(unsigned nKind) {
-    if (nKind % 3 == 0) {
-        return qv::MultiByte();
-    }
-    if (nKind % 3 == 1) {
-        return qv::MultiByte::Utf8();
-    }
-    qv::MultiByte::FoldTable fold{};
-    qv::MultiByte::LeadTable lead{};
-    for (unsigned i = 0; i < 256; ++i) {
-        fold[i] = static_cast<unsigned char>(i);
-        lead[i] = i > 0x80 && i < 0xA0;
-    }
-    return qv::MultiByte::DoubleByte(fold, lead);
+    return nKind % 3 == 0 ? qv::MultiByte() : nKind % 3 == 1 ? qv::MultiByte::Utf8() : DoubleByte();
 }

@@ -1,13 +1,10 @@
 // Random sequences of all that a grid's store can be told, beside a plain table of texts, and what
 // its layout makes of them.
 
-#include "base/platform_names.h"
 #include "fuzz_input.h"
-#include "grid/core/grid_keys.h"
 #include "grid/core/grid_layout.h"
 
 #include <algorithm>
-#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -65,8 +62,10 @@ private:
 
     void AddRow() {
         const std::string strRow = m_input.Text();
-        const int nRow = m_model.AddRow(strRow, m_input.Byte());
+        const unsigned dwState = m_input.Byte();
+        const int nRow = m_model.AddRow(strRow, dwState);
         FUZZ_CHECK(nRow == static_cast<int>(m_rows.size()));
+        FUZZ_CHECK(m_model.RowAt(nRow).dwState == dwState);
         m_rows.emplace_back(static_cast<size_t>(m_nColumns));
         ++m_nBlocks;
         size_t nStart = 0;
@@ -138,19 +137,6 @@ private:
         FUZZ_CHECK(!hit.bOnButton || m_model.UsesButton(hit.cell.nCol));
     }
 
-    void Key() {
-        constexpr std::array kKeys{VK_LEFT, VK_RIGHT, VK_UP, VK_DOWN, VK_HOME, VK_END, VK_NEXT};
-        const int nCount = m_model.NumRows();
-        if (nCount > 0 && m_nColumns > 0) {
-            const qv::GridCell from = m_input.Byte() % 8 == 0
-                                          ? qv::GridCell{}
-                                          : qv::GridCell{Below(nCount), Below(m_nColumns)};
-            const unsigned nKey = static_cast<unsigned>(kKeys[m_input.Byte() % kKeys.size()]);
-            const qv::GridCell to = qv::KeyTarget(nKey, from, m_model, Below(nCount), Below(32));
-            FUZZ_CHECK(m_model.IsRow(to.nRow) && m_model.IsColumn(to.nCol));
-        }
-    }
-
     void Step() {
         switch (m_input.Byte() % 16) {
             case 0:
@@ -173,8 +159,6 @@ private:
                 return SetPartOfItself();
             case 9:
                 return HitTest();
-            case 10:
-                return Key();
             default:
                 return SetText();
         }

@@ -172,52 +172,10 @@ private:
     unsigned m_nCarried = 0;  // the first row that the next page will carry
 };
 
-// Anything comes back from PrintSize; after the input's end every item ends.
-class WildItems : public FakePageItems {
-public:
-    WildItems(FakePageItems items, FuzzInput& input)
-        : FakePageItems(std::move(items)), m_input(input) {}
-    unsigned MinSize(std::size_t) override { return m_input.Byte(); }
-    unsigned MaxSize(std::size_t) override { return m_input.Byte() * 2; }
-    bool PrintSize(std::size_t, unsigned nFirst, unsigned& nLast, unsigned& nRemaining) override {
-        nRemaining -= m_input.Byte();
-        if (m_input.Byte() % 4 != 0) {
-            nLast = nFirst + m_input.Byte() % 4 - 2;
-        }
-        return m_input.Byte() % 4 == 0;
-    }
-
-private:
-    FuzzInput& m_input;
-};
-
-void RunWild(FakePageItems items, FuzzInput& input, unsigned nHeight) {
-    WildItems wild(std::move(items), input);
-    std::vector<PageRecord> pages;
-    qv::Paginate(wild, 1, nHeight, pages);
-    unsigned nBehind = 0;  // the least item that may come
-    unsigned nRow = 0;     // of that item, if it goes on
-    for (const PageRecord& page : pages) {
-        FUZZ_CHECK(page.nFirstItem >= nBehind && page.nFirstItem <= page.nLastItem);
-        if (nRow > 0 && page.nFirstItem == nBehind) {
-            FUZZ_CHECK(page.nFirstSub == nRow);
-            FUZZ_CHECK(page.nLastItem > page.nFirstItem || page.nLastSub >= nRow);
-        }
-        const bool bSplit = page.nLastSub != kToEnd;
-        nBehind = bSplit ? page.nLastItem : page.nLastItem + 1;
-        nRow = bSplit ? page.nLastSub + 1 : 0;
-    }
-    FUZZ_CHECK(nBehind <= wild.items.size());
-}
-
 void Run(FuzzInput& input) {
     const unsigned nHeight = input.Byte() % 160;
     const unsigned nWidth = 1 + input.Byte() % 64;
-    const bool bWild = input.Byte() % 8 == 0;
     FakePageItems items = RandomItems(input);
-    if (bWild) {
-        return RunWild(std::move(items), input, nHeight);
-    }
     const auto numbers = input.Byte() % 2 == 0 ? qv::RowNumbers::kOwn : qv::RowNumbers::kKept;
     std::vector<PageRecord> pages;
     FUZZ_CHECK(qv::Paginate(items, nWidth, nHeight, pages, numbers) == pages.size());

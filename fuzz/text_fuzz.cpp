@@ -2,6 +2,7 @@
 // and the word wrap done step by step. No text that is measured may hold a byte from behind a line.
 
 #include "fuzz_input.h"
+#include "support/odd_measures.h"
 #include "support/text_split_rule.h"
 #include "text/core/display_rows.h"
 #include "text/core/print_rows.h"
@@ -180,6 +181,27 @@ private:
                                            (nPages == 0 || (nPages - 1) * nLinesPerPage < nRows)
                                      : nPages == 0);
         own.rows.m_nNumPages = other.rows.m_nNumPages = nPages;
+        CheckJoined(own);
+        if (bBoth) {
+            CheckJoined(other);
+        }
+    }
+
+    // Rows by number, joined, give every line back.
+    void CheckJoined(const Sister& sister) {
+        std::vector<std::string> joined(sister.plain.lines.size());
+        qv::PrintedRow row;
+        for (int nRow = 0; nRow < sister.rows.Count(); ++nRow) {
+            FUZZ_CHECK(sister.rows.Row(nRow, sister.lines, m_styles, row));
+            if (row.nLine < sister.lines.Count()) {
+                joined[static_cast<std::size_t>(row.nLine)] += row.strText;
+            } else {
+                FUZZ_CHECK(row.strText.empty());
+            }
+        }
+        for (std::size_t i = 0; i < joined.size(); ++i) {
+            FUZZ_CHECK(joined[i] == Shown(sister.plain.lines[i]));
+        }
     }
 
     // What the current row is to give, expected going in as row does.

@@ -112,7 +112,7 @@ public:
         }
     }
     void InvalidateAll() override {}
-    void InvalidateRow(int nRow) override { rowsInvalid.push_back(nRow); }
+    void InvalidateRow(int) override {}
     void InvalidateCell(qv::GridCell) override {}
     void EraseCell(qv::GridCell) override {}
     void InvalidateButton(const qv::Rect&) override {}
@@ -224,6 +224,5 @@ public:
     bool bMouse = false;
     int nTopRow = 0;
     int nDefaults = 0;
-    std::vector<int> rowsInvalid;
     std::string strTold;
 };

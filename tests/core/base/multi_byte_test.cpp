@@ -1,6 +1,7 @@
 #include "base/multi_byte.h"
 
 #include "base/text_pool.h"
+#include "support/double_byte.h"
 
 #include <gtest/gtest.h>
 #include <random>
@@ -13,68 +14,53 @@ int Sign(int n) {
     return (n > 0) - (n < 0);
 }
 
-MultiByte Japanese() {
-    MultiByte::FoldTable fold{};
-    MultiByte::LeadTable lead{};
-    for (unsigned i = 0; i < 256; ++i) {
-        fold[i] = static_cast<unsigned char>(i >= 'A' && i <= 'Z' ? i + 32 : i);
-        lead[i] = (i >= 0x81 && i <= 0x9F) || (i >= 0xE0 && i <= 0xFC);
+TEST(MultiByte, ComparesWithoutCaseByCharacter) {
+    const MultiByte kBytes, kPairs = DoubleByte(), kUtf8 = MultiByte::Utf8();
+    const struct {
+        const MultiByte& text;
+        const char *psz1, *psz2;
+        int nOrder;
+    } cases[] = {
+        {kBytes, "Abc", "aBC", 0},
+        {kBytes, "abc", "abd", -1},
+        {kBytes, "abd", "ABC", 1},
+        {kBytes, "ab", "abc", -1},
+        {kBytes, "", "", 0},
+        {kBytes, "\xFF", "a", 1},              // bytes compare unsigned
+        {kPairs, "\x83\x41", "\x83\x61", -1},  // 0x41 is no letter A here
+        {kPairs, "A\x83\x41", "a\x83\x41", 0},
+        {kPairs, "\xB1", "\x81\x40", -1},  // one byte sorts before two
+        {kPairs, "\x83", "\x83", 0},       // a lead byte before the terminator is itself
+        {kUtf8, "\xC3", "\xC3", 0},
+        {kUtf8, "\xC3\x84rger", "\xC3\xA4RGER", 0},          // A umlaut
+        {kUtf8, "\xD0\x94\xD0\x81", "\xD0\xB4\xD1\x91", 0},  // Cyrillic
+        {kUtf8, "\xC4\x9A", "\xC4\x9B", 0},                  // E caron
+        {kUtf8, "\xC3\x97", "\xC3\xB7", -1},                 // the times sign is no letter
+    };
+    for (const auto& [text, psz1, psz2, nOrder] : cases) {
+        EXPECT_EQ(text.CompareNoCase(psz1, psz2), nOrder) << psz1 << " and " << psz2;
     }
-    return MultiByte::DoubleByte(fold, lead);
 }
 
-TEST(MultiByte, ComparesWithoutCaseAndPutsShorterTextsFirst) {
-    const MultiByte text;
-    EXPECT_EQ(text.CompareNoCase("Abc", "aBC"), 0);
-    EXPECT_EQ(text.CompareNoCase("abc", "abd"), -1);
-    EXPECT_EQ(text.CompareNoCase("abd", "ABC"), 1);
-    EXPECT_EQ(text.CompareNoCase("ab", "abc"), -1);
-    EXPECT_EQ(text.CompareNoCase("", ""), 0);
-    EXPECT_EQ(text.CompareNoCase("\xFF", "a"), 1) << "bytes compare unsigned";
-}
-
-TEST(MultiByte, SecondByteOfADoubleByteCharacterIsNotFolded) {
-    const MultiByte text = Japanese();
-    EXPECT_NE(text.CompareNoCase("\x83\x41", "\x83\x61"), 0) << "0x41 is no letter A here";
-    EXPECT_EQ(text.CompareNoCase("A\x83\x41", "a\x83\x41"), 0);
-    EXPECT_EQ(text.CompareNoCase("\xB1", "\x81\x40"), -1) << "one byte sorts before two";
-}
-
-TEST(MultiByte, LeadByteBeforeTheTerminatorStandsForItself) {
-    EXPECT_EQ(Japanese().CharBytes("\x83"), 1u);
-    EXPECT_EQ(Japanese().CompareNoCase("\x83", "\x83"), 0);
+TEST(MultiByte, ACharacterIsWholeOrOneByteAtTheEnd) {
+    EXPECT_EQ(DoubleByte().CharBytes("\x83"), 1u);
     EXPECT_EQ(MultiByte::Utf8().CharBytes("\xE2\x82"), 1u);
-    EXPECT_EQ(MultiByte::Utf8().CompareNoCase("\xC3", "\xC3"), 0);
-}
-
-TEST(MultiByte, CharacterOfAViewEndsWithTheView) {
     const std::string_view sign = "\xE2\x82\xAC";
     EXPECT_EQ(MultiByte::Utf8().CharBytes(sign), 3u);
     EXPECT_EQ(MultiByte::Utf8().CharBytes(sign.substr(0, 2)), 1u);
-    EXPECT_EQ(Japanese().CharBytes(std::string_view("\x83\x41")), 2u);
-    EXPECT_EQ(Japanese().CharBytes(std::string_view("\x83\x41", 1)), 1u);
+    EXPECT_EQ(DoubleByte().CharBytes(std::string_view("\x83\x41")), 2u);
+    EXPECT_EQ(DoubleByte().CharBytes(std::string_view("\x83\x41", 1)), 1u);
     EXPECT_EQ(MultiByte().CharBytes(std::string_view("\0x", 2)), 1u);
     EXPECT_EQ(MultiByte().CharBytes(std::string_view()), 0u);
-}
-
-TEST(MultiByte, Utf8LettersFoldByCodePoint) {
-    const MultiByte text = MultiByte::Utf8();
-    EXPECT_EQ(text.CompareNoCase("\xC3\x84rger", "\xC3\xA4RGER"), 0);          // A umlaut
-    EXPECT_EQ(text.CompareNoCase("\xD0\x94\xD0\x81", "\xD0\xB4\xD1\x91"), 0);  // Cyrillic
-    EXPECT_EQ(text.CompareNoCase("\xC4\x9A", "\xC4\x9B"), 0);                  // E caron
-    EXPECT_NE(text.CompareNoCase("\xC3\x97", "\xC3\xB7"), 0) << "the times sign is no letter";
-}
-
-TEST(MultiByte, PrefixNeverSplitsACharacter) {
-    EXPECT_EQ(Japanese().PrefixBytes("a\x83\x41z", 2), 1u);
-    EXPECT_EQ(Japanese().PrefixBytes("a\x83\x41z", 3), 3u);
-    EXPECT_EQ(MultiByte::Utf8().PrefixBytes("\xE2\x82\xAC", 2), 0u);
+    EXPECT_EQ(DoubleByte().PrefixBytes("a\x83\x41z", 2), 1u);
+    EXPECT_EQ(DoubleByte().PrefixBytes("a\x83\x41z", 3), 3u);
+    EXPECT_EQ(MultiByte::Utf8().PrefixBytes(sign.data(), 2), 0u);
     EXPECT_EQ(MultiByte().PrefixBytes("abc", 99), 3u);
 }
 
 TEST(MultiByte, SortKeysOrderAsComparisonDoes) {
     std::mt19937 random(7);
-    for (const MultiByte& text : {MultiByte(), Japanese(), MultiByte::Utf8()}) {
+    for (const MultiByte& text : {MultiByte(), DoubleByte(), MultiByte::Utf8()}) {
         for (int i = 0; i < 4000; ++i) {
             std::string strings[2];
             for (std::string& str : strings) {

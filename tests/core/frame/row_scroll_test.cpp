@@ -101,26 +101,6 @@ TEST(ScrollThumb, GoesBehindTheEndByItsLimit) {
     }
 }
 
-TEST(ScrollThumb, TheBarKnowsMoreThan16Bits) {
-    FakeWindow window(200, 130);
-    const RowScroll scroll(window);
-    EXPECT_EQ(scroll.ThumbPosition(SB_VERT, SB_THUMBTRACK), std::nullopt);
-    window.bPositionKnown = true;
-    window.nTrackPos = 70000;
-    window.nThumbPos = 65536;
-    EXPECT_EQ(scroll.ThumbPosition(SB_VERT, SB_THUMBTRACK), 70000);
-    EXPECT_EQ(scroll.ThumbPosition(SB_VERT, SB_THUMBPOSITION), 65536);
-}
-
-TEST(ScrollThumb, TheEndOfAShorterBarStandsForTheLastPage) {
-    const qv::ScrollRange bar{0, 10, 8, 0};  // of 11 rows, 10 of which show
-    for (const auto& [nThumb, nRow] : {std::pair{0, 0}, {1, 1}, {2, 2}, {3, 1}, {5, 1}}) {
-        EXPECT_EQ(qv::ThumbAtEnd(nThumb, bar, {0, 11, 10}), nRow) << nThumb;
-    }
-    EXPECT_EQ(qv::ThumbAtEnd(40, {0, 49, 10, 0}, {0, 50, 10}), 40);
-    EXPECT_EQ(qv::ThumbAtEnd(3, {0, 4, 2, 0}, {0, 5, 10}), 0) << "all shows";
-}
-
 TEST(ScrollBars, ShowWhereTheContentNeedsThem) {
     const struct {
         const char* pszWhat;
@@ -151,15 +131,6 @@ TEST(ScrollBars, ShowWhereTheContentNeedsThem) {
         EXPECT_EQ(plan.room.cx, whole.cx - (bVert ? kBar : 0)) << pszWhat;
         EXPECT_EQ(plan.room.cy, whole.cy - (bHorz ? kBar : 0)) << pszWhat;
     }
-}
-
-TEST(ScrollBars, TheAreaWithoutThemIsThatOfTheBarsNamed) {
-    FakeWindow window(200, 130);
-    window.bShown[SB_VERT] = true;
-    const RowScroll scroll(window);
-    EXPECT_EQ(scroll.ClientSize().cx, 183);
-    EXPECT_EQ(scroll.SizeWithout(false, true).cx, 200);
-    EXPECT_EQ(scroll.SizeWithout(true, true).cy, 130 + kBar);
 }
 
 // --- The refit

@@ -1,34 +1,9 @@
 #include "frame/core/sort_keys.h"
 
 #include <gtest/gtest.h>
-#include <random>
+#include <iterator>
 
 namespace qv {
-
-TEST(SortKeys, OrderTextsAsTheComparisonWithoutCaseDoes) {
-    const MultiByte text;
-    SortKeys keys(text);
-    std::mt19937 random(3);
-    std::vector<std::string> texts{"", "a", "A", "ab", "abcdefgh", "ABCDEFGHI", "abcdefghj"};
-    for (int i = 0; i < 60; ++i) {
-        std::string str(random() % 12, ' ');
-        for (char& ch : str) {
-            ch = static_cast<char>("aAbB\xe9z"[random() % 6]);
-        }
-        texts.push_back(str);
-    }
-    std::vector<SortKey> made;
-    for (const std::string& str : texts) {
-        made.push_back(keys.Text(str.c_str()));
-    }
-    for (size_t i = 0; i < texts.size(); ++i) {
-        for (size_t j = 0; j < texts.size(); ++j) {
-            ASSERT_EQ(keys.Compare(made[i], made[j]),
-                      text.CompareNoCase(texts[i].c_str(), texts[j].c_str()))
-                << texts[i] << " and " << texts[j];
-        }
-    }
-}
 
 TEST(SortKeys, NumbersAreUnsigned) {
     const MultiByte text;

@@ -42,11 +42,7 @@ TEST_F(GridView, TheLastColumnReachesTheEdgeWhateverItsWidth) {
     m_model.Column(2)->nWidth = 500;
     EXPECT_EQ(CellAt(3, 2), (Rect{110, 40, 200, 60}));
     EXPECT_EQ(m_layout.RowRect(99), (Rect{0, 1960, 200, 1980}));
-}
-
-TEST_F(GridView, ACellThatThereIsNotLeavesTheRectangleAlone) {
-    constexpr GridCell kNone[] = {{-1, 0}, {12, 0}, {0, -1}, {0, 3}};
-    for (const GridCell& cell : kNone) {
+    for (const GridCell& cell : {GridCell{-1, 0}, {12, 0}, {0, -1}, {0, 3}}) {
         Rect rc{1, 2, 3, 4};
         EXPECT_FALSE(m_layout.CellRect(cell.nRow, cell.nCol, rc));
         EXPECT_EQ(rc, (Rect{1, 2, 3, 4}));
@@ -65,10 +61,6 @@ TEST_F(GridView, PartsOfACellLeaveItsLinesAndItsButtonFree) {
 }
 
 TEST_F(GridView, APointHitsTheCellThatShowsThere) {
-    EXPECT_EQ(HitAt(0, 0), (GridCell{0, 0}));
-    EXPECT_EQ(HitAt(49, 19), (GridCell{0, 0}));
-    EXPECT_EQ(HitAt(50, 20), (GridCell{1, 1}));
-    EXPECT_EQ(HitAt(110, 99), (GridCell{4, 2}));
     EXPECT_EQ(HitAt(199, 99), (GridCell{4, 2}));
     EXPECT_EQ(HitAt(200, 99), (GridCell{4, -1}));
     EXPECT_EQ(HitAt(0, -1), kNoCell);

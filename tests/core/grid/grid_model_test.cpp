@@ -62,47 +62,6 @@ TEST(GridModel, TheKindOfAColumnSaysWhetherItHasButtonAndEdit) {
     }
 }
 
-TEST(GridModel, ARowStringFillsColumnsAsFarAsEitherGoes) {
-    GridModel model;
-    EXPECT_EQ(Added(model, "nowhere"), "");
-    AddColumns(model, 2);
-    EXPECT_EQ(Added(model, "a\tb\tc"), "a|b|");
-    EXPECT_EQ(model.CountStrings(), 3u);
-    EXPECT_EQ(Added(model, "a"), "a|-|");
-    EXPECT_EQ(Added(model, "\tb"), "-|b|");
-    EXPECT_EQ(model.CountStrings(), 5u);
-    AddColumns(model, 1);
-    EXPECT_EQ(Added(model, "a\t\tc"), "a|-|c|");
-    EXPECT_EQ(Added(model, "a\tb\t"), "a|b|-|");
-    EXPECT_EQ(Added(model,
-                    "\x1B"
-                    "A\t "),
-              "\x1B"
-              "A| |-|");
-    EXPECT_EQ(Added(model, ""), "-|-|-|");
-    EXPECT_EQ(model.RowAt(model.AddRow("", GRS_CURRENT)).dwState, GRS_CURRENT);
-    EXPECT_TRUE(model.CheckInvariants());
-}
-
-TEST(GridModel, AColumnAddedLaterKeepsEarlierCells) {
-    GridModel model;
-    model.AddRow("lost", 0);
-    AddColumns(model, 2);
-    model.AddRow("a\tb", 0);
-    model.Cell(1, 1)->dwData = 7;
-    model.ModifyStyle(1, 1, GCS_READONLY, 0);
-    AddColumns(model, 1);
-    EXPECT_EQ(Row(model, 0), "-|-|-|");
-    EXPECT_EQ(Row(model, 1), "a|b|-|");
-    EXPECT_EQ(model.Cell(1, 1)->dwData, 7u);
-    EXPECT_EQ(model.Cell(1, 1)->dwStyle, GCS_READONLY);
-    EXPECT_EQ(model.Cell(1, 2)->dwData, 0u);
-    EXPECT_EQ(model.Cell(1, 2)->dwStyle, 0u);
-    model.SetText(0, 2, "late");
-    EXPECT_EQ(Row(model, 0), "-|-|late|");
-    EXPECT_TRUE(model.CheckInvariants());
-}
-
 TEST(GridModel, ARowAddedWithoutMemoryIsNotThereOrReadsAsEmpty) {
     const std::string strRow = "a\tb\t" + std::string(300, 'x');
     std::string strWhole = strRow + '|';

@@ -32,10 +32,7 @@ using Widths = std::vector<int>;
 
 TEST(ListFit, AColumnIsItsFieldAndAMargin) {
     FakeColumns columns({60, 60, 60});
-    EXPECT_EQ(FitToFields(columns,
-                          "abc\t\x1b"
-                          "bx"),
-              2);
+    EXPECT_EQ(FitToFields(columns, "abc\t\033bx"), 2);
     EXPECT_EQ(columns.widths, (Widths{33, 33, 60})) << "codes as they stand";
     EXPECT_EQ(FitToFields(columns, ""), 0);
 }

@@ -1,27 +1,8 @@
 #include "list/core/list_row.h"
 
 #include <gtest/gtest.h>
-#include <initializer_list>
 
 namespace qv {
-
-namespace {
-
-std::string Joined(std::initializer_list<const char*> cells) {
-    std::string strRow;
-    for (const char* psz : cells) {
-        JoinCell(strRow, psz, ',');
-    }
-    return strRow;
-}
-
-}  // namespace
-
-TEST(ListRow, ASeparatorIsWrittenOnlyBehindSomething) {
-    EXPECT_EQ(Joined({"", "x", "y"}), "x,y");
-    EXPECT_EQ(Joined({"x", "", "y", ""}), "x,,y,");
-    EXPECT_EQ(Joined({"", ""}), "");
-}
 
 TEST(ListRow, HighlightFollowsFocusAndStyles) {
     constexpr bool kNo = false, kYes = true;
@@ -40,10 +21,7 @@ TEST(ListRow, ACellTakesColoursFromItsStyleOrItsColumns) {
     constexpr COLORREF kNoBack = 0xFFFFFFFF;
     constexpr COLORREF kWindow = 77;
     StyleTable styles;
-    const CellText none = ReadCell(styles,
-                                   "\x1b"
-                                   "ax",
-                                   0, kWindow);
+    const CellText none = ReadCell(styles, "\033ax", 0, kWindow);
     EXPECT_EQ(none.text, "ax") << "without a table the code's letter shows";
     EXPECT_FALSE(none.crText || none.crBk);
     EXPECT_EQ(StyleBackground(styles, 0, kWindow), kWindow);
@@ -56,29 +34,11 @@ TEST(ListRow, ACellTakesColoursFromItsStyleOrItsColumns) {
         const char* pszText;
         std::optional<COLORREF> crText, crBk;
     } cases[] = {
-        {"plain", 1, "plain", {}, {}},
-        {"", 1, "", {}, {}},
-        {"\x1b"
-         "bx",
-         0, "x", 2, 20},
-        {"\x1b"
-         "ax",
-         1,
-         "x",
-         1,
-         {}},  // style 0 has no background
-        {"\x1b"
-         "cx",
-         1, "x", 3, 20},  // the column's stands in
-        {"\x1b"
-         "cx",
-         99, "x", 3, 10},  // a style that is none is the default one
-        {"\x1b"
-         "zx",
-         1,
-         "zx",
-         1,
-         {}},  // a code outside the table counts as 0
+        {"plain", 1, "plain", {}, {}}, {"", 1, "", {}, {}},
+        {"\033bx", 0, "x", 2, 20},     {"\033ax", 1, "x", 1, {}},  // style 0 has no background
+        {"\033cx", 1, "x", 3, 20},                                 // the column's stands in
+        {"\033cx", 99, "x", 3, 10},  // a style that is none is the default one
+        {"\033zx", 1, "zx", 1, {}},  // a code outside the table counts as 0
     };
     for (const auto& c : cases) {
         const CellText cell = ReadCell(styles, c.pszCell, c.nColStyle, kWindow);

@@ -42,22 +42,15 @@ TEST(Pagination, EachRuleOfThePageTable) {
     } cases[] = {
         {"nothing to print gives no page", Items(), 100, ""},
         {"nor do breaks alone", Items().Break().Break(), 100, ""},
-        {"nor breaks behind a full page", Items().Block(30).Block(0).Break().Break(), 30,
-         "0.0-1.end"},
         {"an exact fit stays", Items().Block(40).Block(60).Block(1), 100, "0.0-1.end | 2.0-2.end"},
-        {"of a list too", Items().List(9, 10).Group(), 100, "0.0-0.end | 1.0-1.end"},
-        {"and of a text", Items().Text(5 * kWidth), 50, "0.0-0.end"},
         {"one line more goes on", Items().Text(5 * kWidth + 1), 50, "0.0-0.4 | 0.5-0.end"},
         {"breaks vanish at the top", Items().Break().Block(20).Break().Block(20), 50, "1.0-3.end"},
-        {"of any page", Items().Block(40).Break().Break().Block(20), 50, "0.0-1.end | 3.0-3.end"},
         {"also where they do not fit", Items().Block(45).Break().Block(50), 50,
          "0.0-0.end | 2.0-2.end"},
         {"a header moves to what it announces", Items().Block(80).Group().List(3, 10), 100,
          "0.0-0.end | 1.0-2.end"},
         {"one line is enough to stay", Items().Block(80).Group().Text(5 * kWidth), 100,
          "0.0-2.0 | 2.1-2.end"},
-        {"it leaves a split item's end behind", Items().List(12).Group().Block(75), 100,
-         "0.0-0.9 | 0.10-0.end | 1.10-2.end"},
         {"no room for the group: the section header stays alone",
          Items().Block(65).Section().Group().Block(20), 100, "0.0-1.end | 2.0-3.end"},
         {"no room behind the group header: it moves alone",
@@ -66,19 +59,14 @@ TEST(Pagination, EachRuleOfThePageTable) {
          "0.0-2.end | 3.0-3.end"},
         {"unless it has no room itself", Items().Block(85).Group().Break().Block(20), 100,
          "0.0-0.end | 1.0-3.end"},
-        {"lists split by row", Items().List(8, 10), 50, "0.0-0.3 | 0.4-0.end"},
-        {"with their headings on each page", Items().List(9, 10).Block(30), 50,
+        {"lists split by row, with their headings on each page", Items().List(9, 10).Block(30), 50,
          "0.0-0.3 | 0.4-0.7 | 0.8-1.end"},
         {"headings and one row begin one", Items().Block(30).List(4, 10), 50,
          "0.0-1.0 | 1.1-1.end"},
-        {"less does not", Items().Block(31).List(4, 10), 50, "0.0-0.end | 1.0-1.end"},
         {"without rows it wants room for one, and takes that of its headings",
          Items().Block(35).List(0, 10).Block(40), 50, "0.0-0.end | 1.0-2.end"},
         {"labelled lists begin with two rows", Items().Block(40).Labelled(3), 50,
          "0.0-0.end | 1.0-1.end"},
-        {"and may end with one", Items().Block(30).Labelled(3), 50, "0.0-1.1 | 1.2-1.end"},
-        {"or have no more", Items().Block(40).Labelled(1), 50, "0.0-1.end"},
-        {"or none", Items().Block(50).Labelled(0), 50, "0.0-1.end"},
         {"the row number of a split item stays", Items().List(8).Block(40).Labelled(3), 50,
          "0.0-0.4 | 0.5-0.end | 1.5-1.end | 2.5-2.end"},
         {"a printed break does not clear it", Items().List(9).Break().Block(40), 50,
@@ -88,10 +76,6 @@ TEST(Pagination, EachRuleOfThePageTable) {
         {"an item that splits goes on from its own rows", Items().List(8, 0, 10).List(9, 30), 50,
          "0.0-0.4 | 0.5-0.end | 1.5-1.1 | 1.2-1.3 | 1.4-1.5 | 1.6-1.7 | 1.8-1.end"},
         {"what is taller than a page has one for itself", Items().Block(60), 50, "0.0-0.end"},
-        {"between others", Items().Block(10).Block(60).Block(10), 50,
-         "0.0-0.end | 1.0-1.end | 2.0-2.end"},
-        {"a list", Items().List(3, 45).Group(), 50, "0.0-0.end | 1.0-1.end"},
-        {"a header", Items().Section().Break().Block(10), 20, "0.0-0.end | 2.0-2.end"},
         {"and all on a page without height", Items().Group().Block(0).Text(1), 0,
          "0.0-0.end | 1.0-1.end | 2.0-2.end"},
         {"a header that never stands with its follower keeps its page", Items().Group().Block(45),
@@ -193,39 +177,31 @@ TEST(PaginationReplay, OnlyTheEndsOfAPageHaveRowNumbers) {
     EXPECT_EQ(Replay({4, 7, 7, kToEnd}), "4:7-end 5:0-end 6:0-end 7:0-end ");
 }
 
-TEST(RowSplit, TakesTheHeaderAndTheRowsThatFit) {
-    unsigned nLast = 0;
-    unsigned nRemaining = 57;
-    EXPECT_FALSE(qv::FitRows(10, 15, 10, 2, nLast, nRemaining));
-    EXPECT_EQ(nLast, 5u);
-    EXPECT_EQ(nRemaining, 2u);
-    nRemaining = 57;
-    EXPECT_TRUE(qv::FitRows(6, 15, 10, 2, nLast, nRemaining)) << "the last row fits exactly";
-    EXPECT_EQ(nLast, 5u);
-    nRemaining = 57;
-    EXPECT_TRUE(qv::FitRows(4, 15, 10, 2, nLast, nRemaining));
-    EXPECT_EQ(nLast, 3u);
-    EXPECT_EQ(nRemaining, 22u);
-}
-
-TEST(RowSplit, NothingWrapsAround) {
-    unsigned nLast = 0;
-    unsigned nRemaining = 5;
-    EXPECT_FALSE(qv::FitRows(3, 15, 10, 1, nLast, nRemaining));
-    EXPECT_EQ(nLast, 0u);
-    EXPECT_EQ(nRemaining, 0u) << "the header took what there was";
-    nRemaining = 9;
-    EXPECT_FALSE(qv::FitRows(3, 0, 10, 0, nLast, nRemaining));
-    EXPECT_EQ(nLast, kToEnd) << "no row";
-    EXPECT_EQ(nRemaining, 9u);
+TEST(RowSplit, TakesTheHeaderAndTheRowsThatFitAndNothingWrapsAround) {
+    const struct {
+        unsigned nRows, nHeader, nRow, nFirst, nRemaining;
+        bool bEnds;
+        unsigned nLast, nLeft;
+    } cases[] = {
+        {10, 15, 10, 2, 57, false, 5, 2},
+        {6, 15, 10, 2, 57, true, 5, 2},  // the last row fits exactly
+        {4, 15, 10, 2, 57, true, 3, 22},
+        {3, 15, 10, 1, 5, false, 0, 0},      // the header took what there was
+        {3, 0, 10, 0, 9, false, kToEnd, 9},  // no row
+        {3, 4, 0, 1, 9, true, 2, 5},         // rows of no height
+        {kToEnd, 0, 1, kToEnd - 10, 9, false, kToEnd - 2, 0},
+    };
+    for (const auto& c : cases) {
+        unsigned nLast = 0;
+        unsigned nRemaining = c.nRemaining;
+        EXPECT_EQ(qv::FitRows(c.nRows, c.nHeader, c.nRow, c.nFirst, nLast, nRemaining), c.bEnds);
+        EXPECT_EQ(nLast, c.nLast) << c.nRows << " rows, " << c.nRemaining;
+        EXPECT_EQ(nRemaining, c.nLeft) << c.nRows << " rows, " << c.nRemaining;
+    }
+    unsigned nLast = 7;
+    unsigned nRemaining = 9;
     EXPECT_TRUE(qv::FitRows(3, 0, 10, 5, nLast, nRemaining)) << "no row is left";
     EXPECT_EQ(nRemaining, 9u);
-    EXPECT_FALSE(qv::FitRows(kToEnd, 0, 1, kToEnd - 10, nLast, nRemaining));
-    EXPECT_EQ(nLast, kToEnd - 2);
-    nRemaining = 9;
-    EXPECT_TRUE(qv::FitRows(3, 4, 0, 1, nLast, nRemaining)) << "rows of no height";
-    EXPECT_EQ(nLast, 2u);
-    EXPECT_EQ(nRemaining, 5u);
 }
 
 }  // namespace

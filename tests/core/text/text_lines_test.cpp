@@ -39,9 +39,6 @@ TEST(TextLines, TextsOfAnyLengthKeepTheirOrderAndPlace) {
     for (const std::size_t nLength : {0, 5, 20000, 1, 200000, 3, 16381, 16382, 0, 60000}) {
         texts.emplace_back(nLength, static_cast<char>('a' + texts.size()));
     }
-    for (int i = 0; i < 3000; ++i) {
-        texts.push_back(std::to_string(i) + std::string(static_cast<std::size_t>(i % 90), '.'));
-    }
     std::vector<const char*> places;
     for (const std::string& strText : texts) {
         lines.Add(strText, 0);
@@ -51,32 +48,6 @@ TEST(TextLines, TextsOfAnyLengthKeepTheirOrderAndPlace) {
         ASSERT_EQ(lines.Line(i), places[static_cast<std::size_t>(i)]);
         ASSERT_EQ(lines.Line(i), Stored(texts[static_cast<std::size_t>(i)]));
     }
-}
-
-TEST(TextLines, ClearForgetsAllAndSaysSo) {
-    TextLines lines;
-    for (int i = 0; i < 3; ++i) {
-        EXPECT_EQ(lines.Add("text", 1), 1);
-        EXPECT_EQ(lines.Line(0), Stored("text", 'b'));
-        EXPECT_STREQ(lines.Text(0), "text");
-        const unsigned nBefore = lines.Generation();
-        lines.Clear();
-        EXPECT_NE(lines.Generation(), nBefore);
-        EXPECT_EQ(lines.Count(), 0);
-        EXPECT_EQ(lines.Line(0), nullptr);
-        EXPECT_EQ(lines.Text(0), nullptr);
-    }
-}
-
-TEST(TextLines, CodesShowOnceThereAreStylesButTheirs) {
-    qv::StyleTable styles;
-    const std::string strLine = Stored("abc", 'c');
-    EXPECT_STREQ(qv::LineText(styles, strLine.c_str()), "abc") << "before the window is made";
-    styles.Add(0, 0);
-    EXPECT_STREQ(qv::LineText(styles, strLine.c_str()), "cabc");
-    styles.Add(0, 0);
-    styles.Add(0, 0);
-    EXPECT_STREQ(qv::LineText(styles, strLine.c_str()), "abc");
 }
 
 TEST(TextLines, WithoutMemoryALineIsRefusedAndNothingChanges) {
