@@ -2,7 +2,7 @@
 
 int TestApp::DoMessageBox(LPCTSTR lpszPrompt, UINT, UINT) {
     m_prompts.emplace_back(lpszPrompt);
-    return m_nAnswer;
+    return IDOK;
 }
 
 LRESULT TestApp::ProcessWndProcException(CException* e, const MSG* pMsg) {

@@ -1,4 +1,5 @@
 // Dialogs: modal loops, results, focus, PreTranslateMessage on the way of every message.
+#include "support/popup.h"
 #include "support/pump.h"
 #include "support/real_input.h"
 #include "support/recording_parent.h"
@@ -9,6 +10,7 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -171,52 +173,41 @@ TEST(ModelessDialogs, LiveBesideTheirParentUntilDestroyed) {
 /// Notes its name when a message passes on its way to be dispatched.
 class WatchingWnd : public CWnd {
 public:
-    WatchingWnd(std::string name, std::vector<std::string>& log) : m_name(name), m_log(log) {}
+    WatchingWnd(const char* pszName, std::string& strLog) : m_pszName(pszName), m_strLog(strLog) {}
     bool m_bTake = false;
 
     BOOL PreTranslateMessage(MSG* pMsg) override {
-        if (pMsg->message == WM_APP) {
-            m_log.push_back(m_name);
-            return m_bTake;
-        }
-        return FALSE;
+        m_strLog += pMsg->message == WM_APP ? m_pszName : "";
+        return pMsg->message == WM_APP && m_bTake;
     }
 
 private:
-    std::string m_name;
-    std::vector<std::string>& m_log;
+    const char* m_pszName;
+    std::string& m_strLog;
 };
 
 TEST(PreTranslate, WalksFromTheTargetUpToTheStop) {
-    std::vector<std::string> log;
-    WatchingWnd top("top", log);
-    WatchingWnd middle("middle", log);
-    WatchingWnd leaf("leaf", log);
-    ASSERT_TRUE(top.CreateEx(0, nullptr, "", WS_POPUP, 0, 0, 50, 50, nullptr, nullptr));
-    ASSERT_TRUE(middle.Create(nullptr, "", 0, CRect(0, 0, 9, 9), &top, 1));
+    std::string strLog;
+    WatchingWnd top(">top", strLog);
+    WatchingWnd middle(">middle", strLog);
+    WatchingWnd leaf("leaf", strLog);
+    const CRect rc(0, 0, 9, 9);
+    ASSERT_TRUE(MakePopup(top));
+    ASSERT_TRUE(middle.Create(nullptr, "", 0, rc, &top, 1));
     HWND hPlain = ::CreateWindowEx(0, "STATIC", "", WS_CHILD, 0, 0, 1, 1, middle.m_hWnd, nullptr,
                                    nullptr, nullptr);
     ASSERT_TRUE(leaf.CreateEx(0, nullptr, "", WS_CHILD, 0, 0, 1, 1, hPlain, nullptr));
-
     MSG msg = {};
     msg.hwnd = leaf.m_hWnd;
     msg.message = WM_APP;
-    const auto walk = [&](HWND hWndStop, BOOL bTaken) {
-        log.clear();
-        EXPECT_EQ(CWnd::WalkPreTranslateTree(hWndStop, &msg), bTaken);
-        return log;
-    };
-    const std::vector<std::string> upToMiddle{"leaf", "middle"};
-    EXPECT_EQ(walk(top.m_hWnd, FALSE), (std::vector<std::string>{"leaf", "middle", "top"}));
-    EXPECT_EQ(walk(middle.m_hWnd, FALSE), upToMiddle);
+    EXPECT_FALSE(CWnd::WalkPreTranslateTree(top.m_hWnd, &msg));
+    EXPECT_EQ(std::exchange(strLog, {}), "leaf>middle>top");
+    EXPECT_FALSE(CWnd::WalkPreTranslateTree(middle.m_hWnd, &msg));
+    EXPECT_EQ(std::exchange(strLog, {}), "leaf>middle");
     middle.m_bTake = true;
-    EXPECT_EQ(walk(nullptr, TRUE), upToMiddle);
-
-    // In the pump a message that was taken is not dispatched.
-    log.clear();
     leaf.PostMessage(WM_APP);
     PumpPending();
-    EXPECT_EQ(log, upToMiddle);
+    EXPECT_EQ(strLog, "leaf>middle");
 }
 
 }  // namespace

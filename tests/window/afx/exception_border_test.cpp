@@ -1,6 +1,7 @@
 // Exceptions stop where the system called: whatever a handler throws, and with however little
 // memory, the caller gets a result.
 #include "support/failing_heap.h"
+#include "support/popup.h"
 #include "support/pump.h"
 #include "support/test_app.h"
 #include "window/afx/afx_test_ids.h"
@@ -64,10 +65,6 @@ private:
         }
     }
 };
-
-BOOL MakePopup(CWnd& wnd) {
-    return wnd.CreateEx(0, nullptr, "", WS_POPUP, 0, 0, 50, 50, nullptr, nullptr);
-}
 
 /// Runs something that the system may do; true if an exception came out.
 template <typename Operation>

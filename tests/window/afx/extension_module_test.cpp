@@ -1,7 +1,8 @@
 // Extension modules: whose classes and resources are found while they are loaded, and afterwards.
-#include "support/test_app.h"
+#include "support/popup.h"
 #include "window/late_module/late_module_ids.h"
 #include "window/refusals.h"
+#include "window/second_module/second_module.h"
 #include "window/second_module/second_module_ids.h"
 
 #include <gtest/gtest.h>
@@ -18,9 +19,10 @@ IMPLEMENT_DYNCREATE(ProgramObject, CObject)
 /// library, a module of the program's.
 void ExpectTheOthersFound() {
     for (const char* pszName :
-         {"ProgramObject", "CWnd", "CObject", "CDynLinkLibrary", "QVTreeCtrlEx", "ModuleWnd"}) {
+         {"ProgramObject", "CWnd", "CObject", "CDynLinkLibrary", "QVTreeCtrlEx"}) {
         EXPECT_NE(nullptr, CRuntimeClass::FromName(pszName)) << pszName;
     }
+    EXPECT_EQ(RUNTIME_CLASS(ModuleObject), CRuntimeClass::FromName("ModuleObject"));
     CString str;
     EXPECT_TRUE(str.LoadString(IDS_SECOND));
     EXPECT_TRUE(str.LoadString(AFX_IDP_PARSE_INT));
@@ -56,7 +58,7 @@ TEST(ExtensionModule, LoadedLate_JoinsAndLeaves) {
         std::unique_ptr<CObject> pWnd(CRuntimeClass::CreateObject("LateWnd"));
         auto* pLateWnd = DYNAMIC_DOWNCAST(CWnd, pWnd.get());
         ASSERT_NE(nullptr, pLateWnd);
-        ASSERT_TRUE(pLateWnd->CreateEx(0, nullptr, "", WS_POPUP, 0, 0, 5, 5, nullptr, nullptr));
+        ASSERT_TRUE(MakePopup(*pLateWnd));
         EXPECT_EQ(77, pLateWnd->SendMessage(WM_APP));
         pLateWnd->DestroyWindow();
         pWnd.reset();

@@ -1,4 +1,6 @@
 // Menus: who owns the handle, owner drawing.
+#include "support/popup.h"
+
 #include <afxwin.h>
 
 #include <gtest/gtest.h>
@@ -36,7 +38,7 @@ public:
 
 TEST(Menu, OwnerDrawnRowsAskTheirObject) {
     CWnd wnd;
-    ASSERT_TRUE(wnd.CreateEx(0, nullptr, "", WS_POPUP, 0, 0, 50, 50, nullptr, nullptr));
+    ASSERT_TRUE(MakePopup(wnd));
     DrawnMenu menu;
     ASSERT_TRUE(menu.CreatePopupMenu());
     menu.AppendMenu(MF_OWNERDRAW, 5);

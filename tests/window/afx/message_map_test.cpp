@@ -1,8 +1,5 @@
-// Message maps: each kind of entry reaches its handler with the right arguments; what a class does
-// not handle falls through to its base, in another module if need be.
-#include "support/recording_parent.h"
-#include "support/test_app.h"
-#include "window/second_module/second_module.h"
+// Message maps: ranges, handlers that pass on what they were given, results, colours.
+#include "support/popup.h"
 
 #include <afxcmn.h>
 
@@ -10,15 +7,12 @@
 
 namespace {
 
-const UINT s_nRegistered = ::RegisterWindowMessage("message map test");
-
 constexpr UINT kCommand = 101;
 constexpr UINT kFirst = 110;
 constexpr UINT kLast = 112;
 constexpr UINT kExFirst = 120;
 constexpr UINT kExLast = 122;
 constexpr UINT kNotify = 140;
-constexpr UINT kPlain = WM_APP + 1;
 constexpr UINT kCode = static_cast<UINT>(-700);
 
 /// Writes down which handler ran, with what.
@@ -73,29 +67,6 @@ protected:
         Log("notifyrange %u", nID);
         *pResult = 9;
     }
-    afx_msg LRESULT OnRegistered(WPARAM wParam, LPARAM) {
-        Log("registered %d", static_cast<int>(wParam));
-        return 43;
-    }
-    afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt) {
-        Log("wheel %u %d %d,%d", nFlags, zDelta, static_cast<int>(pt.x), static_cast<int>(pt.y));
-        return TRUE;
-    }
-    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
-        Log("key %u %u %u", nChar, nRepCnt, nFlags);
-    }
-    afx_msg void OnMove(int x, int y) { Log("move %d,%d", x, y); }
-    afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized) {
-        Log("activate %u %d %d", nState, pWndOther != nullptr, bMinimized != 0);
-    }
-    afx_msg BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message) {
-        Log("cursor %d %d %u", pWnd == this, static_cast<int>(nHitTest), message);
-        return TRUE;
-    }
-    afx_msg LRESULT OnNcHitTest(CPoint point) {
-        Log("hit %d,%d", static_cast<int>(point.x), static_cast<int>(point.y));
-        return HTCAPTION;
-    }
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) {
         Log("color %d %d %u", pDC != nullptr, pWnd == this, nCtlColor);
         return static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH));
@@ -114,20 +85,13 @@ BEGIN_MESSAGE_MAP(MappedWnd, CWnd)
     ON_NOTIFY(kCode, kNotify, &MappedWnd::OnOneNotify)
     ON_NOTIFY_RANGE(kCode, kFirst, kLast, &MappedWnd::OnNotifyRange)
     ON_NOTIFY_EX_RANGE(kCode, kExFirst, kExLast, &MappedWnd::OnExNotify)
-    ON_REGISTERED_MESSAGE(s_nRegistered, &MappedWnd::OnRegistered)
-    ON_WM_MOUSEWHEEL()
-    ON_WM_KEYDOWN()
-    ON_WM_MOVE()
-    ON_WM_ACTIVATE()
-    ON_WM_SETCURSOR()
-    ON_WM_NCHITTEST()
     ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
 
 class MessageMap : public testing::Test {
 protected:
     MessageMap() {
-        m_wnd.CreateEx(0, nullptr, "", WS_POPUP, 0, 0, 50, 50, nullptr, nullptr);
+        MakePopup(m_wnd);
         m_wnd.Take();
     }
     MappedWnd m_wnd;
@@ -179,22 +143,6 @@ TEST_F(MessageMap, UpdateHandlers_MayPassTheQuestionOn) {
     EXPECT_STREQ(m_wnd.Take(), "update 101;updaterange 112;");
 }
 
-TEST_F(MessageMap, WindowMessages_AreTakenApartAndGiveTheirResults) {
-    const LPARAM lNegative = MAKELPARAM(-3, -20);
-    EXPECT_EQ(m_wnd.SendMessage(s_nRegistered, 5), 43);
-    m_wnd.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(MK_CONTROL, -120), lNegative);
-    m_wnd.SendMessage(WM_KEYDOWN, VK_F5, MAKELPARAM(2, 0x4001));
-    m_wnd.SendMessage(WM_MOVE, 0, lNegative);
-    m_wnd.SendMessage(WM_ACTIVATE, MAKEWPARAM(WA_CLICKACTIVE, 1));
-    EXPECT_EQ(m_wnd.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(m_wnd.m_hWnd),
-                                MAKELPARAM(HTERROR, WM_LBUTTONDOWN)),
-              TRUE);
-    EXPECT_EQ(m_wnd.SendMessage(WM_NCHITTEST, 0, lNegative), HTCAPTION);
-    EXPECT_STREQ(m_wnd.Take(),
-                 "registered 5;wheel 8 -120 -3,-20;key 116 2 16385;move -3,-20;activate 2 0 1;"
-                 "cursor 1 -2 513;hit -3,-20;");
-}
-
 TEST_F(MessageMap, AllColourMessages_ComeAsOne) {
     CClientDC dc(&m_wnd);
     for (UINT nMessage : {WM_CTLCOLOREDIT, WM_CTLCOLORLISTBOX, WM_CTLCOLORSTATIC}) {
@@ -203,75 +151,6 @@ TEST_F(MessageMap, AllColourMessages_ComeAsOne) {
                   reinterpret_cast<LRESULT>(::GetStockObject(BLACK_BRUSH)));
     }
     EXPECT_STREQ(m_wnd.Take(), "color 1 1 1;color 1 1 2;color 1 1 6;");
-}
-
-/// Derived in the program from a class of another module.
-class DerivedWnd : public ModuleWnd {
-public:
-    int m_nOwnSize = 0;
-
-protected:
-    afx_msg void OnSize(UINT nType, int cx, int cy) {
-        ++m_nOwnSize;
-        ModuleWnd::OnSize(nType, cx, cy);
-    }
-    DECLARE_MESSAGE_MAP()
-};
-
-BEGIN_MESSAGE_MAP(DerivedWnd, ModuleWnd)
-    ON_WM_SIZE()
-END_MESSAGE_MAP()
-
-TEST(MessageMapAcrossModules, DerivedFirst_ThenBaseInTheOtherModule) {
-    DerivedWnd wnd;
-    ASSERT_TRUE(wnd.CreateEx(0, nullptr, "", WS_POPUP, 0, 0, 50, 50, nullptr, nullptr));
-    wnd.m_nOwnSize = wnd.m_nBaseSize = 0;
-    wnd.SendMessage(WM_SIZE, SIZE_RESTORED, MAKELPARAM(1, 1));
-    EXPECT_EQ(wnd.m_nOwnSize, 1);
-    EXPECT_EQ(wnd.m_nBaseSize, 1);
-}
-
-class ThreadMessageApp : public CWinThread {
-public:
-    WPARAM m_wSeen = 0;
-
-protected:
-    afx_msg void OnThreadMessage(WPARAM wParam, LPARAM) { m_wSeen = wParam; }
-    DECLARE_MESSAGE_MAP()
-};
-
-BEGIN_MESSAGE_MAP(ThreadMessageApp, CWinThread)
-    ON_THREAD_MESSAGE(kPlain, &ThreadMessageApp::OnThreadMessage)
-END_MESSAGE_MAP()
-
-TEST(ThreadMessages, WithoutWindow_GoToTheThreadsMap) {
-    ThreadMessageApp thread;
-    MSG msg = {};
-    msg.message = kPlain;
-    msg.wParam = 11;
-    EXPECT_TRUE(thread.PreTranslateMessage(&msg));
-    EXPECT_EQ(thread.m_wSeen, 11u);
-    msg.message = kPlain + 1;
-    EXPECT_FALSE(thread.PreTranslateMessage(&msg));
-}
-
-// --- A procedure that a program puts in place of the control's own
-
-class ReplacedTree : public CTreeCtrl {
-public:
-    void Replace() { m_pfnSuper = &Answer; }
-
-private:
-    static LRESULT CALLBACK Answer(HWND, UINT, WPARAM, LPARAM) { return 77; }
-};
-
-TEST(SuperProcedure, MessagesOfAControlsOwnGoToTheProcedureBehind) {
-    RecordingParent parent;
-    ReplacedTree tree;
-    ASSERT_TRUE(tree.Create(WS_CHILD, CRect(0, 0, 50, 50), &parent, 1));
-    EXPECT_EQ(tree.SendMessage(TVM_GETCOUNT), 0);
-    tree.Replace();
-    EXPECT_EQ(tree.SendMessage(TVM_GETCOUNT), 77);
 }
 
 }  // namespace

@@ -134,31 +134,6 @@ TEST(OutOfMemory, AnAbsurdSizeIsAMatterOfMemory) {
     EXPECT_STREQ("a", str);
 }
 
-TEST(OutOfMemory, ListsAndMapsKeepTheirElements) {
-    RefuseInChange<CStringList>(
-        "list", [](CStringList& l) { l.AddTail("one"); },
-        [](const CStringList& l) {
-            std::string strShown;
-            for (POSITION pos = l.GetHeadPosition(); pos != nullptr;) {
-                strShown += std::string(l.GetNext(pos)) + ",";
-            }
-            return strShown;
-        },
-        [](CStringList& l) { l.AddHead(kLong); });
-    const auto prepare = [](CMapStringToString& m) { m.SetAt("one", "1"); };
-    const auto show = [](const CMapStringToString& m) {
-        CString strOne;
-        CString strTwo;
-        m.Lookup("one", strOne);
-        m.Lookup("two", strTwo);
-        return std::to_string(m.GetCount()) + std::string(strOne) + std::string(strTwo);
-    };
-    RefuseInChange<CMapStringToString>("map, old key", prepare, show,
-                                       [](CMapStringToString& m) { m.SetAt("one", kLong); });
-    RefuseInChange<CMapStringToString>("map, by index", prepare, show,
-                                       [](CMapStringToString& m) { m["two"]; });
-}
-
 TEST(OutOfMemory, AMemoryFileKeepsItsBytes) {
     RefuseInChange<CMemFile>(
         "memory file", [](CMemFile& f) { f.Write("abc", 3); },
@@ -172,24 +147,6 @@ TEST(OutOfMemory, AMemoryFileKeepsItsBytes) {
             return std::to_string(nAt) + "/" + std::to_string(file.GetLength()) + szRead;
         },
         [](CMemFile& f) { f.Write(kMuch.c_str(), 4000); });
-}
-
-TEST(OutOfMemory, AFileThatIsNotThereIsAMatterOfMemory_WhereThatIsMissing) {
-    bool bToldOfFile = false;
-    const auto open = [&] {
-        try {
-            CFile file("no such folder\\no such file", CFile::modeRead);
-        } catch (CFileException* e) {
-            bToldOfFile = true;
-            e->Delete();
-        }
-    };
-    Outcome outcome = Outcome::kDone;
-    const int nRefused = RefuseEachAllocation(
-        FailingHeap::kAllLater, [&] { outcome = Try(open); },
-        [&](int) { EXPECT_NE(Outcome::kOther, outcome); });
-    EXPECT_GT(nRefused, 0);
-    EXPECT_TRUE(bToldOfFile);
 }
 
 TEST(OutOfMemory, SelectingDrawingObjects_HappensWhollyOrNotAtAll) {

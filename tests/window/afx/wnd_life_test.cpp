@@ -1,4 +1,5 @@
 // A window's life: creation, subclassing, objects for handles, destruction at odd moments.
+#include "support/popup.h"
 #include "support/recording_parent.h"
 
 #include <gtest/gtest.h>
@@ -38,10 +39,6 @@ protected:
 private:
     std::vector<std::string>& m_log;
 };
-
-BOOL MakePopup(CWnd& wnd) {
-    return wnd.CreateEx(0, nullptr, "", WS_POPUP, 0, 0, 50, 50, nullptr, nullptr);
-}
 
 TEST(WndLife, ObjectGetsEveryMessageFromTheFirstToTheLast) {
     std::vector<std::string> log;
@@ -207,8 +204,7 @@ TEST(DefaultProcessing, UsesTheMessageNowBeingHandled) {
 
 TEST(WndState, ScrollPositionsBeyond16BitsComeBackWhole) {
     CWnd wnd;
-    ASSERT_TRUE(
-        wnd.CreateEx(0, nullptr, "", WS_POPUP | WS_VSCROLL, 0, 0, 50, 50, nullptr, nullptr));
+    ASSERT_TRUE(MakePopup(wnd, WS_VSCROLL));
     SCROLLINFO info = {sizeof info, SIF_ALL, 0, 1000000, 100, 700000, 0};
     wnd.SetScrollInfo(SB_VERT, &info);
     EXPECT_EQ(wnd.GetScrollPos(SB_VERT), 700000);
