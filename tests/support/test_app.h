@@ -26,3 +26,6 @@ public:
 
 /// The one object, made by the program's main file.
 TestApp& TheTestApp();
+
+/// All that such a program does; its main function gives the result.
+int RunTests(int argc, char** argv);

@@ -4,6 +4,8 @@
 #include <afxcmn.h>
 
 #include <gtest/gtest.h>
+#include <string>
+#include <utility>
 
 namespace {
 
@@ -18,14 +20,10 @@ constexpr UINT kCode = static_cast<UINT>(-700);
 /// Writes down which handler ran, with what.
 class MappedWnd : public CWnd {
 public:
-    CString m_strLog;
+    std::string m_strLog;
     BOOL m_bExResult = TRUE;
 
-    CString Take() {
-        CString strLog = m_strLog;
-        m_strLog.Empty();
-        return strLog;
-    }
+    std::string Take() { return std::exchange(m_strLog, {}); }
     BOOL Route(UINT nID, int nCode = CN_COMMAND) { return OnCmdMsg(nID, nCode, nullptr, nullptr); }
     BOOL RouteNotify(UINT nID, LRESULT& lResult) {
         NMHDR hdr = {m_hWnd, nID, kCode};
@@ -34,41 +32,34 @@ public:
     }
 
 protected:
-    void Log(LPCTSTR lpszFormat, ...) {
-        va_list args;
-        va_start(args, lpszFormat);
-        CString str;
-        str.FormatV(lpszFormat, args);
-        va_end(args);
-        m_strLog += str + ";";
-    }
-    afx_msg void OnPlainCommand() { Log("command"); }
-    afx_msg void OnRange(UINT nID) { Log("range %u", nID); }
+    void Log(const char* pszHandler, UINT n) { m_strLog += pszHandler + std::to_string(n) + ";"; }
+    afx_msg void OnPlainCommand() { Log("command ", 0); }
+    afx_msg void OnRange(UINT nID) { Log("range ", nID); }
     afx_msg BOOL OnExRange(UINT nID) {
-        Log("exrange %u", nID);
+        Log("exrange ", nID);
         return m_bExResult;
     }
-    afx_msg void OnControlRange(UINT nID) { Log("control %u", nID); }
-    afx_msg void OnUpdate(CCmdUI* pCmdUI) { Log("update %u", pCmdUI->m_nID); }
+    afx_msg void OnControlRange(UINT nID) { Log("control ", nID); }
+    afx_msg void OnUpdate(CCmdUI* pCmdUI) { Log("update ", pCmdUI->m_nID); }
     afx_msg void OnUpdateRange(CCmdUI* pCmdUI) {
-        Log("updaterange %u", pCmdUI->m_nID);
+        Log("updaterange ", pCmdUI->m_nID);
         pCmdUI->ContinueRouting();
     }
     afx_msg void OnOneNotify(NMHDR* pNMHDR, LRESULT* pResult) {
-        Log("notify %d", static_cast<int>(pNMHDR->code));
+        Log("notify ", 0 - pNMHDR->code);
         *pResult = 7;
     }
     afx_msg BOOL OnExNotify(UINT nID, NMHDR*, LRESULT* pResult) {
-        Log("notifyex %u", nID);
+        Log("notifyex ", nID);
         *pResult = 8;
         return m_bExResult;
     }
     afx_msg void OnNotifyRange(UINT nID, NMHDR*, LRESULT* pResult) {
-        Log("notifyrange %u", nID);
+        Log("notifyrange ", nID);
         *pResult = 9;
     }
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) {
-        Log("color %d %d %u", pDC != nullptr, pWnd == this, nCtlColor);
+        Log(pDC != nullptr && pWnd == this ? "color " : "somebody's ", nCtlColor);
         return static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH));
     }
 
@@ -107,7 +98,7 @@ TEST_F(MessageMap, Commands_MatchNumberRangeAndCode_AndGoOnWhereTheHandlerSaysSo
     EXPECT_TRUE(m_wnd.Route(kExFirst));
     m_wnd.m_bExResult = FALSE;
     EXPECT_FALSE(m_wnd.Route(kExLast));
-    EXPECT_STREQ(m_wnd.Take(), "command;range 110;range 112;control 111;exrange 120;exrange 122;");
+    EXPECT_EQ(m_wnd.Take(), "command 0;range 110;range 112;control 111;exrange 120;exrange 122;");
 }
 
 TEST_F(MessageMap, Notifications_ReachTheirHandlersAndGiveResults) {
@@ -127,7 +118,7 @@ TEST_F(MessageMap, Notifications_ReachTheirHandlersAndGiveResults) {
     EXPECT_EQ(lResult, 8);
     m_wnd.m_bExResult = FALSE;
     EXPECT_FALSE(m_wnd.RouteNotify(kExLast, lResult));
-    EXPECT_STREQ(m_wnd.Take(), "notify -700;notifyrange 112;notifyex 120;notifyex 122;");
+    EXPECT_EQ(m_wnd.Take(), "notify 700;notifyrange 112;notifyex 120;notifyex 122;");
 }
 
 TEST_F(MessageMap, UpdateHandlers_MayPassTheQuestionOn) {
@@ -140,7 +131,7 @@ TEST_F(MessageMap, UpdateHandlers_MayPassTheQuestionOn) {
     AFX_CMDHANDLERINFO info;  // asks without calling
     EXPECT_TRUE(m_wnd.OnCmdMsg(kCommand, CN_COMMAND, nullptr, &info));
     EXPECT_EQ(info.pTarget, &m_wnd);
-    EXPECT_STREQ(m_wnd.Take(), "update 101;updaterange 112;");
+    EXPECT_EQ(m_wnd.Take(), "update 101;updaterange 112;");
 }
 
 TEST_F(MessageMap, AllColourMessages_ComeAsOne) {
@@ -150,7 +141,7 @@ TEST_F(MessageMap, AllColourMessages_ComeAsOne) {
                                     reinterpret_cast<LPARAM>(m_wnd.m_hWnd)),
                   reinterpret_cast<LRESULT>(::GetStockObject(BLACK_BRUSH)));
     }
-    EXPECT_STREQ(m_wnd.Take(), "color 1 1 1;color 1 1 2;color 1 1 6;");
+    EXPECT_EQ(m_wnd.Take(), "color 1;color 2;color 6;");
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include <ctime>
 #include <gtest/gtest.h>
+#include <vector>
 
 namespace {
 
@@ -13,12 +14,9 @@ constexpr double kSecond = 1.0 / 86400;
 void ExpectFields(const COleDateTime& date, int nYear, int nMonth, int nDay, int nHour = 0,
                   int nMin = 0, int nSec = 0) {
     EXPECT_EQ(date.GetStatus(), COleDateTime::valid);
-    EXPECT_EQ(date.GetYear(), nYear);
-    EXPECT_EQ(date.GetMonth(), nMonth);
-    EXPECT_EQ(date.GetDay(), nDay);
-    EXPECT_EQ(date.GetHour(), nHour);
-    EXPECT_EQ(date.GetMinute(), nMin);
-    EXPECT_EQ(date.GetSecond(), nSec);
+    EXPECT_EQ(std::vector<int>({date.GetYear(), date.GetMonth(), date.GetDay(), date.GetHour(),
+                                date.GetMinute(), date.GetSecond()}),
+              std::vector<int>({nYear, nMonth, nDay, nHour, nMin, nSec}));
 }
 
 COleDateTime Parsed(LPCTSTR lpszText, LCID lcid = kEnglish, DWORD dwFlags = 0) {

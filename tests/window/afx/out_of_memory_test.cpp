@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <gtest/gtest.h>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -19,29 +20,26 @@ void RefuseInChange(const char* pszName, const std::function<void(Object&)>& pre
                     const std::function<std::string(const Object&)>& show,
                     const std::function<void(Object&)>& change) {
     SCOPED_TRACE(pszName);
-    for (int nSucceeding = 0; nSucceeding < 1000; ++nSucceeding) {
-        Object object;
-        prepare(object);
-        const std::string strBefore = show(object);
-        Outcome outcome = Outcome::kDone;
-        int nRefused = 0;
-        {
-            FailingHeap heap(nSucceeding, FailingHeap::kJustOne);
-            outcome = Try([&] { change(object); });
-            nRefused = heap.Refused();
-        }
-        if (nRefused == 0) {
-            EXPECT_GT(nSucceeding, 0) << "it asked for nothing";
-            EXPECT_EQ(Outcome::kDone, outcome);
-            EXPECT_NE(strBefore, show(object)) << "it did nothing";
-            return;
-        }
-        EXPECT_NE(Outcome::kOther, outcome);
-        if (outcome == Outcome::kMemoryException) {
-            EXPECT_EQ(strBefore, show(object)) << nSucceeding;
-        }
-    }
-    ADD_FAILURE() << "never done";
+    const auto make = [&] {
+        auto pObject = std::make_unique<Object>();
+        prepare(*pObject);
+        return pObject;
+    };
+    auto pObject = make();
+    const std::string strBefore = show(*pObject);
+    std::string strAfter;
+    Outcome outcome = Outcome::kDone;
+    const int nRefused = RefuseEachAllocation(
+        FailingHeap::kJustOne, [&] { outcome = Try([&] { change(*pObject); }); },
+        [&](int nSucceeding) {
+            EXPECT_NE(Outcome::kOther, outcome);
+            strAfter = show(*pObject);
+            EXPECT_TRUE(outcome == Outcome::kDone || strAfter == strBefore) << nSucceeding;
+            pObject = make();
+        });
+    EXPECT_GT(nRefused, 0) << "it asked for nothing";
+    EXPECT_EQ(Outcome::kDone, outcome);
+    EXPECT_NE(strBefore, strAfter) << "it did nothing";
 }
 
 constexpr char kLong[] = "a text that is longer than what any string keeps in itself";

@@ -1,75 +1,64 @@
 // A window's life: creation, subclassing, objects for handles, destruction at odd moments.
+#include "support/mortal.h"
 #include "support/popup.h"
 #include "support/recording_parent.h"
 
 #include <gtest/gtest.h>
 #include <string>
-#include <vector>
+#include <utility>
 
 namespace {
 
 /// Writes down the messages of its life, and the virtual calls between them.
 class LifeWnd : public CWnd {
 public:
-    explicit LifeWnd(std::vector<std::string>& log) : m_log(log) {}
+    std::string Told() { return std::exchange(m_strLog, {}); }
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override {
-        m_log.push_back("PreCreateWindow");
+        m_strLog += "PreCreateWindow ";
         return CWnd::PreCreateWindow(cs);
     }
-    void PreSubclassWindow() override { m_log.push_back("PreSubclassWindow"); }
+    void PreSubclassWindow() override { m_strLog += "PreSubclassWindow "; }
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-        for (const auto& [nMessage, pszName] :
-             {std::pair<UINT, const char*>{WM_NCCREATE, "WM_NCCREATE"},
-              {WM_NCCALCSIZE, "WM_NCCALCSIZE"},
-              {WM_CREATE, "WM_CREATE"},
-              {WM_DESTROY, "WM_DESTROY"},
-              {WM_NCDESTROY, "WM_NCDESTROY"}}) {
-            if (message == nMessage) {
-                m_log.push_back(pszName);
-            }
-        }
+        m_strLog += message == WM_NCCREATE     ? "WM_NCCREATE "
+                    : message == WM_NCCALCSIZE ? "WM_NCCALCSIZE "
+                    : message == WM_CREATE     ? "WM_CREATE "
+                    : message == WM_DESTROY    ? "WM_DESTROY "
+                    : message == WM_NCDESTROY  ? "WM_NCDESTROY "
+                                               : "";
         return CWnd::WindowProc(message, wParam, lParam);
     }
     void PostNcDestroy() override {
-        m_log.push_back(m_hWnd == nullptr ? "PostNcDestroy" : "PostNcDestroy with a handle");
+        m_strLog += m_hWnd == nullptr ? "PostNcDestroy " : "PostNcDestroy with a handle ";
     }
 
 private:
-    std::vector<std::string>& m_log;
+    std::string m_strLog;
 };
 
 TEST(WndLife, ObjectGetsEveryMessageFromTheFirstToTheLast) {
-    std::vector<std::string> log;
-    LifeWnd wnd(log);
+    LifeWnd wnd;
     ASSERT_TRUE(MakePopup(wnd));
-    EXPECT_EQ(log, (std::vector<std::string>{"PreCreateWindow", "PreSubclassWindow", "WM_NCCREATE",
-                                             "WM_NCCALCSIZE", "WM_CREATE"}));
-    EXPECT_EQ(CWnd::FromHandlePermanent(wnd.m_hWnd), &wnd);
-
-    log.clear();
+    EXPECT_EQ(wnd.Told(), "PreCreateWindow PreSubclassWindow WM_NCCREATE WM_NCCALCSIZE WM_CREATE ");
     HWND hWnd = wnd.m_hWnd;
     EXPECT_TRUE(wnd.DestroyWindow());
-    EXPECT_EQ(log, (std::vector<std::string>{"WM_DESTROY", "WM_NCDESTROY", "PostNcDestroy"}));
+    EXPECT_EQ(wnd.Told(), "WM_DESTROY WM_NCDESTROY PostNcDestroy ");
     EXPECT_EQ(CWnd::FromHandlePermanent(hWnd), nullptr);
     EXPECT_FALSE(wnd.DestroyWindow());
-
     {
         CWnd another;
         EXPECT_TRUE(MakePopup(wnd)) << "an object may have another window later";
         ASSERT_TRUE(another.Attach(wnd.Detach()));
         hWnd = another.m_hWnd;
-        EXPECT_TRUE(::IsWindow(hWnd));
     }
     EXPECT_FALSE(::IsWindow(hWnd)) << "it goes with its object";
 }
 
 TEST(WndLife, UnknownClass_FailsAndTellsTheObject) {
-    std::vector<std::string> log;
-    LifeWnd wnd(log);
+    LifeWnd wnd;
     EXPECT_FALSE(wnd.CreateEx(0, "no such class", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr));
-    EXPECT_EQ(log, (std::vector<std::string>{"PreCreateWindow", "PostNcDestroy"}));
+    EXPECT_EQ(wnd.Told(), "PreCreateWindow PostNcDestroy ");
     // The next window of somebody else must not be taken for this object's.
     CStatic other;
     EXPECT_TRUE(other.CreateEx(0, "STATIC", "", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr));
@@ -78,10 +67,6 @@ TEST(WndLife, UnknownClass_FailsAndTellsTheObject) {
 
 /// Deletes itself with its window, and destroys it from a handler when told.
 class SuicidalWnd : public CWnd {
-public:
-    explicit SuicidalWnd(int& nAlive) : m_nAlive(nAlive) { ++m_nAlive; }
-    ~SuicidalWnd() override { --m_nAlive; }
-
 protected:
     void PostNcDestroy() override { delete this; }
     afx_msg LRESULT OnDie(WPARAM, LPARAM) {
@@ -89,15 +74,11 @@ protected:
         return 5;
     }
     afx_msg void OnDieByCommand() { DestroyWindow(); }
-    afx_msg BOOL OnDieByNotify(UINT, NMHDR*, LRESULT* pResult) {
+    afx_msg void OnDieByNotify(NMHDR*, LRESULT* pResult) {
         DestroyWindow();
         *pResult = 6;
-        return TRUE;
     }
     DECLARE_MESSAGE_MAP()
-
-private:
-    int& m_nAlive;
 };
 
 constexpr UINT kDie = WM_APP + 2;
@@ -106,14 +87,13 @@ constexpr UINT kChildId = 9;
 BEGIN_MESSAGE_MAP(SuicidalWnd, CWnd)
     ON_MESSAGE(kDie, &SuicidalWnd::OnDie)
     ON_COMMAND(kChildId, &SuicidalWnd::OnDieByCommand)
-    ON_NOTIFY_EX(NM_CLICK, kChildId, &SuicidalWnd::OnDieByNotify)
+    ON_NOTIFY(NM_CLICK, kChildId, &SuicidalWnd::OnDieByNotify)
 END_MESSAGE_MAP()
 
 TEST(WndLife, DestroyedAndDeletedInsideItsOwnHandler) {
-    int nAlive = 0;
     for (const auto& [nMessage, lResult] :
          {std::pair<UINT, LRESULT>{kDie, 5}, {WM_COMMAND, 1}, {WM_NOTIFY, 6}}) {
-        auto* pWnd = new SuicidalWnd(nAlive);
+        auto* pWnd = new Mortal<SuicidalWnd>;
         ASSERT_TRUE(MakePopup(*pWnd));
         const HWND hWnd = pWnd->m_hWnd;
         const HWND hChild =
@@ -124,7 +104,6 @@ TEST(WndLife, DestroyedAndDeletedInsideItsOwnHandler) {
                                 nMessage == WM_NOTIFY ? reinterpret_cast<LPARAM>(&hdr)
                                                       : reinterpret_cast<LPARAM>(hChild)),
                   lResult);
-        EXPECT_EQ(nAlive, 0);
         EXPECT_FALSE(::IsWindow(hWnd));
     }
 }
