@@ -77,14 +77,9 @@ LRESULT QVHeaderWnd::WindowProc(UINT nMessage, WPARAM wParam, LPARAM lParam) {
 }
 
 int QVHeaderWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
-    int bInitialized = 0;
-    qv::MemorySuffices([&] {
-        if (CWnd::OnCreate(lpCreateStruct) != -1) {
-            const auto nID = static_cast<UINT>(reinterpret_cast<UINT_PTR>(lpCreateStruct->hMenu));
-            bInitialized = Initialize(nID, CWnd::FromHandle(lpCreateStruct->hwndParent));
-        }
-    });
-    return bInitialized ? 0 : -1;
+    return qv::InitializeOnCreate(
+        *lpCreateStruct, [&] { return CWnd::OnCreate(lpCreateStruct); },
+        [&](UINT nID, CWnd* pParent) { return Initialize(nID, pParent); });
 }
 
 // --- Caption

@@ -1,8 +1,10 @@
-// The font of a control that was given none: that of the nearest window that has one.
+// The font of a control: that of the nearest window that has one, where it was given none.
 
 #pragma once
 
 #include <afxwin.h>
+
+#include <cstdlib>
 
 namespace qv {
 
@@ -14,6 +16,14 @@ inline CFont* NearestFont(CWnd* pWnd) {
         }
     }
     return nullptr;
+}
+
+// Height of a window's font as it was asked for, in pixels: lfHeight without its sign. 0 for a
+// window without font.
+inline int AskedFontHeight(const CWnd& wnd) {
+    LOGFONT logFont;
+    CFont* pFont = wnd.GetFont();
+    return pFont != nullptr && pFont->GetLogFont(&logFont) != 0 ? std::abs(logFont.lfHeight) : 0;
 }
 
 }  // namespace qv

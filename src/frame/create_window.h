@@ -24,4 +24,26 @@ BOOL CreateWhole(CWnd& wnd, Create create) {
     return bCreated;
 }
 
+// WM_CREATE of a control: the default handling, then initialize(nID, pParent) as for an item of a
+// dialog. The result of the message: -1 if either fails, or memory does.
+template <class Default, class Initialize>
+int InitializeOnCreate(const CREATESTRUCT& cs, Default handleByDefault, Initialize initialize) {
+    int bInitialized = FALSE;
+    MemorySuffices([&] {
+        if (handleByDefault() != -1) {
+            const auto nID = static_cast<UINT>(reinterpret_cast<UINT_PTR>(cs.hMenu));
+            bInitialized = initialize(nID, CWnd::FromHandle(cs.hwndParent));
+        }
+    });
+    return bInitialized ? 0 : -1;
+}
+
+// A border asked for is a sunken edge.
+inline void BorderToClientEdge(CREATESTRUCT& cs) {
+    if ((cs.style & WS_BORDER) != 0) {
+        cs.style &= ~WS_BORDER;
+        cs.dwExStyle |= WS_EX_CLIENTEDGE;
+    }
+}
+
 }  // namespace qv

@@ -2,7 +2,9 @@
 
 #include "frame/ancestor_font.h"
 #include "frame/core/wheel.h"
+#include "frame/create_window.h"
 #include "frame/dc_guards.h"
+#include "frame/image_strip.h"
 #include "frame/mouse_wheel.h"
 #include "frame/out_of_memory.h"
 #include "list/list_ctrl_core.h"
@@ -68,10 +70,7 @@ BOOL QVListCtrlEx::PreCreateWindow(CREATESTRUCT& cs) {
         cs.lpszClass = WC_LISTVIEW;
     }
     cs.style = static_cast<LONG>(m_dwDefStyle);
-    if ((cs.style & WS_BORDER) != 0) {
-        cs.style &= ~WS_BORDER;
-        cs.dwExStyle |= WS_EX_CLIENTEDGE;
-    }
+    qv::BorderToClientEdge(cs);
     return CListCtrl::PreCreateWindow(cs);
 }
 
@@ -136,17 +135,13 @@ void QVListCtrlEx::LoadImages(UINT nBitmapID, COLORREF crMask, int cx) {
         return;
     }
     SetImageList(nullptr, LVSIL_SMALL);
-    m_imageList.DeleteImageList();
-    m_nImageWidth = m_nImageHeight = 0;
-    if (!m_imageList.Create(nBitmapID, cx, 0, crMask)) {
-        return;
+    CSize size;
+    const bool bLoaded = qv::LoadStrip(m_imageList, nBitmapID, cx, crMask, size);
+    m_nImageWidth = size.cx;
+    m_nImageHeight = size.cy;
+    if (bLoaded) {
+        SetImageList(&m_imageList, LVSIL_SMALL);
     }
-    IMAGEINFO info;
-    if (m_imageList.GetImageInfo(0, &info)) {
-        m_nImageHeight = info.rcImage.bottom - info.rcImage.top;
-        m_nImageWidth = cx;
-    }
-    SetImageList(&m_imageList, LVSIL_SMALL);
 }
 
 void QVListCtrlEx::TakeFontOfParents() {

@@ -1,11 +1,11 @@
 #include "list/list_ctrl.h"
 
+#include "frame/core/paper_rows.h"
 #include "frame/core/styled_text.h"
 #include "frame/dc_guards.h"
 #include "frame/out_of_memory.h"
 #include "frame/text_out.h"
 #include "list/cell_row.h"
-#include "list/core/list_paper.h"
 #include "list/list_ctrl_core.h"
 
 #include <afxext.h>

@@ -1,11 +1,11 @@
 #include "print/print_items.h"
 
+#include "frame/core/paper_rows.h"
 #include "frame/core/styled_text.h"
 #include "frame/dc_guards.h"
 #include "frame/process_text.h"
 #include "frame/text_out.h"
 #include "list/cell_row.h"
-#include "list/core/list_paper.h"
 #include "list/list_ctrl.h"
 #include "print/core/pagination.h"
 #include "print/core/row_split.h"

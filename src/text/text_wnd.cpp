@@ -54,22 +54,17 @@ int QVTextWnd::Create(CRect& rc, CWnd* pParent, UINT nID, int bBorder) {
 }
 
 BOOL QVTextWnd::PreCreateWindow(CREATESTRUCT& cs) {
-    if (m_bBorder || (cs.style & WS_BORDER) != 0) {
-        cs.dwExStyle |= WS_EX_CLIENTEDGE;
-        cs.style &= ~WS_BORDER;
+    if (m_bBorder) {
+        cs.style |= WS_BORDER;
     }
+    qv::BorderToClientEdge(cs);
     return CWnd::PreCreateWindow(cs);
 }
 
 int QVTextWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
-    int bInitialized = 0;
-    qv::MemorySuffices([&] {
-        if (CWnd::OnCreate(lpCreateStruct) != -1) {
-            const auto nID = static_cast<UINT>(reinterpret_cast<UINT_PTR>(lpCreateStruct->hMenu));
-            bInitialized = Initialize(nID, CWnd::FromHandle(lpCreateStruct->hwndParent), m_bBorder);
-        }
-    });
-    return bInitialized ? 0 : -1;
+    return qv::InitializeOnCreate(
+        *lpCreateStruct, [&] { return CWnd::OnCreate(lpCreateStruct); },
+        [&](UINT nID, CWnd* pParent) { return Initialize(nID, pParent, m_bBorder); });
 }
 
 int QVTextWnd::Initialize(UINT nID, CWnd* pParent, int bBorder) {

@@ -1,6 +1,7 @@
 #include "tree/tree_ctrl_core.h"
 
 #include "frame/dc_guards.h"
+#include "frame/image_strip.h"
 #include "frame/out_of_memory.h"
 
 #include <algorithm>
@@ -55,10 +56,9 @@ int QVTreeCtrlEx::Core::WidestRow() {
 void QVTreeCtrlEx::Core::ReadImageSizes(qv::TreeImages& images) {
     const auto read = [](CImageList* pImageList, int& cx, int& cy) {
         if (pImageList != nullptr) {
-            IMAGEINFO info;
-            const bool bKnown = pImageList->GetImageInfo(0, &info);
-            cx = bKnown ? info.rcImage.right - info.rcImage.left : 0;
-            cy = bKnown ? info.rcImage.bottom - info.rcImage.top : 0;
+            const CSize size = qv::ImageSize(*pImageList);
+            cx = size.cx;
+            cy = size.cy;
         }
     };
     read(m_tree.m_pImageList, images.cxImage, images.cyImage);

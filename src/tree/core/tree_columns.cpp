@@ -4,63 +4,6 @@
 
 namespace qv {
 
-namespace {
-
-constexpr int kFormatStep = 10000;
-constexpr unsigned kLastFormat = 2;
-
-unsigned FormatOf(int nEncoded) {
-    return nEncoded < kFormatStep ? 0 : std::min<unsigned>(nEncoded / kFormatStep, kLastFormat);
-}
-
-int PositionOf(int nEncoded) {
-    return nEncoded - static_cast<int>(FormatOf(nEncoded)) * kFormatStep;
-}
-
-int Encode(int nPosition, unsigned nFormat) {
-    return nPosition + static_cast<int>(nFormat) * kFormatStep;
-}
-
-}  // namespace
-
-void TabStops::Use(const int* pTabs, int nCount) {
-    Clear();
-    if (nCount == -1) {
-        const int* pEnd = pTabs != nullptr ? pTabs + kMaxTabs : pTabs;
-        nCount = 0;
-        while (pTabs + nCount != pEnd && pTabs[nCount] != 0) {
-            ++nCount;
-        }
-    }
-    m_nTabs = pTabs != nullptr ? std::clamp(nCount, 0, kMaxTabs) : 0;
-    std::copy(pTabs, pTabs + m_nTabs, m_aTabs.begin());
-}
-
-void TabStops::Clear() {
-    m_nTabs = 0;
-    m_aTabs.fill(0);
-}
-
-int TabStops::Value(int nTab) const {
-    return IsTab(nTab) ? PositionOf(m_aTabs[nTab]) : 0;
-}
-
-void TabStops::SetValue(int nTab, int nValue) {
-    if (IsTab(nTab)) {
-        m_aTabs[nTab] = Encode(std::max(nValue, 0), FormatOf(m_aTabs[nTab]));
-    }
-}
-
-unsigned TabStops::Format(int nTab) const {
-    return IsTab(nTab) ? FormatOf(m_aTabs[nTab]) : DT_LEFT;
-}
-
-void TabStops::SetFormat(int nTab, unsigned nFormat) {
-    if (IsTab(nTab)) {
-        m_aTabs[nTab] = Encode(PositionOf(m_aTabs[nTab]), nFormat > kLastFormat ? 0 : nFormat);
-    }
-}
-
 int ColumnsExtent(std::string_view text, const TabStops& tabs, bool bIndentTabs,
                   const StyleTable& styles, TextMeasure& measure) {
     if (tabs.Count() == 0) {

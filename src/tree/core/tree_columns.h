@@ -1,46 +1,18 @@
-// The columns of a tree row: tab stops, the width that a row's fields take, and the fields with
-// their rectangles for painting.
-//
-// A stop is one number, position plus 10000 for centred or 20000 for right-aligned. The first field
-// of a row lies before any stop, with column -1; field i (from 1) belongs to stop i - 1; fields
-// beyond the last stop are not shown.
+// The columns of a tree row: the width that a row's fields take, and the fields with their
+// rectangles for painting. Fields beyond the last stop are not shown.
 
 #pragma once
 
 #include "base/geometry.h"
 #include "base/text_measure.h"
 #include "frame/core/styled_text.h"
+#include "frame/core/tab_stops.h"
 
-#include <array>
 #include <string_view>
 
 namespace qv {
 
-inline constexpr int kMaxTabs = 20;
 inline constexpr int kColumnGap = 4;  // between a column's text and the next column, in pixels
-
-class TabStops {
-public:
-    // nCount -1 counts up to the first 0; more than kMaxTabs stops are not taken.
-    void Use(const int* pTabs, int nCount);
-    void Clear();
-
-    int Count() const { return m_nTabs; }
-    // Position in pixels; 0 for an index that is none.
-    int Value(int nTab) const;
-    // Keeps the format. A value that is not positive gives 0.
-    void SetValue(int nTab, int nValue);
-    // DT_LEFT, DT_CENTER or DT_RIGHT; 0 for an index that is none.
-    unsigned Format(int nTab) const;
-    // Keeps the position. Any format but DT_CENTER and DT_RIGHT gives DT_LEFT.
-    void SetFormat(int nTab, unsigned nFormat);
-
-private:
-    bool IsTab(int nTab) const { return nTab >= 0 && nTab < m_nTabs; }
-
-    int m_nTabs = 0;
-    std::array<int, kMaxTabs> m_aTabs{};
-};
 
 // Pixels from the start of the text to the end of its last column. text comes without the row's own
 // style code. With bIndentTabs the stops count from the start of the text, otherwise from the start

@@ -1,4 +1,4 @@
-// Measures of a list on paper, in units of the printer.
+// Measures of rows and their headings on paper, in units of the printer.
 
 #pragma once
 
