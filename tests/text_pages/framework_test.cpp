@@ -293,6 +293,9 @@ TEST(FrameworkText, FoldersOfChosenFiles) {
         CFileDialog dlg(TRUE, nullptr, nullptr, OFN_ALLOWMULTISELECT,
                         (word.str + "|*.*||").c_str());
         EXPECT_EQ(word.str, dlg.m_ofn.lpstrFilter);
+        const CFileDialog named(FALSE, "txt", ("C:\\" + word.str + ".tar.gz").c_str());
+        EXPECT_EQ(word.str + ".tar", std::string(named.GetFileTitle()));
+        EXPECT_STREQ("gz", named.GetFileExt());
         const std::string strChosen =
             "C:\\" + word.str + '\0' + word.str + '\0' + "two" + '\0' + '\0';
         std::copy(strChosen.begin(), strChosen.end(), dlg.m_ofn.lpstrFile);

@@ -5,6 +5,7 @@
 #include <afxdtctl.h>
 
 #include <gtest/gtest.h>
+#include <string>
 
 namespace {
 
@@ -14,6 +15,25 @@ protected:
     const CRect m_rc{0, 0, 200, 150};
     static constexpr DWORD kShown = WS_CHILD | WS_VISIBLE;
 };
+
+TEST_F(Controls, EditsGiveTheirLinesOneByOne) {
+    CEdit edit;
+    ASSERT_TRUE(edit.Create(kShown | ES_MULTILINE, m_rc, &m_parent, 1));
+    edit.SetWindowText("first\r\nsecond line");
+    char szLine[32] = "";
+    const int nLength = edit.GetLine(1, szLine, sizeof szLine);
+    EXPECT_EQ(std::string(szLine, nLength), "second line");
+}
+
+TEST_F(Controls, TreeItemsAreFoundWhereTheyStand) {
+    CTreeCtrl tree;
+    ASSERT_TRUE(tree.Create(kShown, m_rc, &m_parent, 1));
+    tree.InsertItem("first");
+    const HTREEITEM hSecond = tree.InsertItem("second");
+    CRect rc;
+    ASSERT_TRUE(tree.GetItemRect(hSecond, rc, TRUE));
+    EXPECT_EQ(tree.HitTest(rc.CenterPoint()), hSecond);
+}
 
 TEST_F(Controls, ListsGiveTheirSelectionRowByRow) {
     CListCtrl list;

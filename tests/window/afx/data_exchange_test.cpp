@@ -91,6 +91,7 @@ TEST_F(DataExchange, FillsTheControlsAtTheStart) {
     EXPECT_EQ(m_dlg.SendDlgItemMessage(IDC_LIST, LB_GETCURSEL), 1);
     EXPECT_STREQ(TextOf(IDC_COMBO), "free text");
     EXPECT_EQ(m_dlg.GetDlgItem(IDC_SCROLL)->GetScrollPos(SB_CTL), 40);
+    EXPECT_EQ(m_dlg.m_button.m_hWnd, m_dlg.GetDlgItem(IDOK)->m_hWnd);
     EXPECT_EQ(m_dlg.m_nChanges, 0) << "filling is not the user's doing";
     EXPECT_EQ(m_dlg.SendDlgItemMessage(IDC_NAME, EM_GETLIMITTEXT), 5);
 }

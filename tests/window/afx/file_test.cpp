@@ -129,6 +129,15 @@ TEST(StdioFile, LinesEndAtLineFeedsAndAtTheEnd) {
     }
 }
 
+TEST(StdioFile, LinesMayEndWhereABufferDoes) {
+    for (const size_t nLength : {1022u, 1023u, 1024u, 1025u}) {
+        const std::string strLong(nLength, 'x');
+        const TempFile temp(strLong + "\r\n" + strLong);
+        CStdioFile file(temp.Path(), CFile::modeRead);
+        EXPECT_EQ(Lines(file), strLong + "|" + strLong + "|");
+    }
+}
+
 TEST(StdioFile, LinesLongerThanTheBufferComeInParts) {
     const TempFile temp("abcdef\r\ng");
     CStdioFile file(temp.Path(), CFile::modeRead);

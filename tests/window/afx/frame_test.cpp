@@ -187,4 +187,10 @@ TEST_F(Frames, ClosingTheMainFrame_EndsTheMessageLoop) {
     EXPECT_EQ(app.m_pMainWnd, nullptr);
 }
 
+TEST(FrameCreation, WithAMenuThatIsNowhere_Fails) {
+    auto* pFrame = new CFrameWnd;
+    EXPECT_FALSE(pFrame->Create(nullptr, "", WS_OVERLAPPEDWINDOW, CFrameWnd::rectDefault, nullptr,
+                                MAKEINTRESOURCE(9999)));  // and deletes the object
+}
+
 }  // namespace

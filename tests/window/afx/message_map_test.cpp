@@ -144,4 +144,44 @@ TEST_F(MessageMap, AllColourMessages_ComeAsOne) {
     EXPECT_EQ(m_wnd.Take(), "color 1;color 2;color 6;");
 }
 
+class WaitingThread : public CWinThread {
+public:
+    WPARAM m_wSeen = 0;
+
+protected:
+    afx_msg void OnThreadMessage(WPARAM wParam, LPARAM) { m_wSeen = wParam; }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(WaitingThread, CWinThread)
+    ON_THREAD_MESSAGE(WM_APP, &WaitingThread::OnThreadMessage)
+END_MESSAGE_MAP()
+
+TEST(ThreadMessages, WithoutWindow_GoToTheThreadsMap) {
+    WaitingThread thread;
+    MSG msg = {nullptr, WM_APP, 11, 0, 0, {}};
+    EXPECT_TRUE(thread.PreTranslateMessage(&msg));
+    EXPECT_EQ(thread.m_wSeen, 11u);
+    msg.message = WM_APP + 1;
+    EXPECT_FALSE(thread.PreTranslateMessage(&msg));
+}
+
+/// A program puts a procedure in place of the control's own.
+class ReplacedTree : public CTreeCtrl {
+public:
+    void Replace() { m_pfnSuper = &Answer; }
+
+private:
+    static LRESULT CALLBACK Answer(HWND, UINT, WPARAM, LPARAM) { return 77; }
+};
+
+TEST(SuperProcedure, MessagesOfAControlsOwnGoToTheProcedureBehind) {
+    CWnd parent;
+    ASSERT_TRUE(MakePopup(parent));
+    ReplacedTree tree;
+    ASSERT_TRUE(tree.Create(WS_CHILD, CRect(0, 0, 50, 50), &parent, 1));
+    tree.Replace();
+    EXPECT_EQ(tree.SendMessage(TVM_GETCOUNT), 77);
+}
+
 }  // namespace

@@ -40,6 +40,9 @@ TEST(OleDateTime, FieldsComeBackAsTheyWentIn) {
     const COleDateTime date(2024, 12, 31, 13, 14, 15);
     EXPECT_EQ(date.GetDayOfWeek(), 3);
     EXPECT_EQ(date.GetDayOfYear(), 366);
+    SYSTEMTIME st;
+    ASSERT_TRUE(date.GetAsSystemTime(st));
+    EXPECT_EQ(COleDateTime(st), date);
 }
 
 TEST(OleDateTime, TimesOfOtherKindsBecomeLocalTime) {

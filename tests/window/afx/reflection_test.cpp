@@ -136,4 +136,38 @@ TEST(Reflection, OwnerDrawing_CallsTheControlsVirtuals) {
     EXPECT_EQ(list.m_nDeleted, 3);
 }
 
+class BarButton : public CButton {
+public:
+    void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override {
+        CDC::FromHandle(lpDrawItemStruct->hDC)
+            ->FillSolidRect(&lpDrawItemStruct->rcItem, RGB(9, 8, 7));
+    }
+};
+
+class SlidingBar : public CScrollBar {
+public:
+    UINT m_nPos = 0;
+
+protected:
+    afx_msg void HScroll(UINT, UINT nPos) { m_nPos = nPos; }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(SlidingBar, CScrollBar)
+    ON_WM_HSCROLL_REFLECT()
+END_MESSAGE_MAP()
+
+TEST(Reflection, ButtonsAndScrollBars) {
+    RecordingParent parent;
+    BarButton button;
+    ASSERT_TRUE(button.Create("", WS_CHILD | WS_VISIBLE | BS_OWNERDRAW, CRect(0, 0, 30, 30),
+                              &parent, kControl));
+    EXPECT_EQ(Picture::OfClient(button.m_hWnd).Count(RGB(9, 8, 7)), 900);
+    SlidingBar bar;
+    ASSERT_TRUE(bar.Create(WS_CHILD | SBS_HORZ, CRect(0, 50, 100, 70), &parent, kControl));
+    parent.SendMessage(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 12),
+                       reinterpret_cast<LPARAM>(bar.m_hWnd));
+    EXPECT_EQ(bar.m_nPos, 12u);
+}
+
 }  // namespace
