@@ -36,6 +36,7 @@ TEST(AppSettings, ComeBackFromTheRegistryAndFromTheIniFile) {
         }
         EXPECT_TRUE(app.WriteProfileInt("Sizes", "Width", -5));
         EXPECT_EQ(static_cast<int>(app.GetProfileInt("Sizes", "Width", 1)), -5);
+        EXPECT_EQ(app.GetProfileInt("Sizes", "Height", 33), 33u);
         EXPECT_TRUE(app.WriteProfileString("Names", "Title", "a title"));
         EXPECT_STREQ(app.GetProfileString("Names", "Title"), "a title");
         BYTE bytes[] = {0, 1, 0xFE, 0x7A};
@@ -50,6 +51,12 @@ TEST(AppSettings, ComeBackFromTheRegistryAndFromTheIniFile) {
         EXPECT_STREQ(app.GetProfileString("Names", "Title", "gone"), "gone");
         EXPECT_TRUE(app.WriteProfileString("Names", nullptr, nullptr));
     }
+}
+
+TEST(AppMessages, WhatIsFilledInIsNotFilledInAgain) {
+    CString str;
+    AfxFormatString2(str, AFX_IDP_PARSE_INT_RANGE, "%2", "9");
+    EXPECT_STREQ(str, "Please enter a whole number from %2 to 9.");
 }
 
 TEST(IdleMessages, PaintsAndARestingMouseAreNone) {
