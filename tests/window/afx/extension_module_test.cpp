@@ -67,6 +67,15 @@ TEST(ExtensionModule, LoadedLate_JoinsAndLeaves) {
     }
 }
 
+TEST(ExtensionModule, ARecordThatGoes_LeavesTheList) {
+    CRuntimeClass record = {"Passing", sizeof(CObject), 0xFFFF, nullptr, nullptr, nullptr};
+    {
+        const AFX_CLASSINIT init(&record);
+        EXPECT_EQ(&record, CRuntimeClass::FromName("Passing"));
+    }
+    EXPECT_EQ(nullptr, CRuntimeClass::FromName("Passing"));
+}
+
 TEST(ExtensionModule, WithoutMemoryForAnEntry_ThereIsNone) {
     AFX_EXTENSION_MODULE module;
     const int nChain = LengthOfChain();
