@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "common/locale_info.h"
 #include "containers/header_wnd.h"
 #include "containers/list_header_wnd.h"
 #include "containers/text_header_wnd.h"
@@ -15,5 +16,8 @@
 #include "list/list_ctrl.h"
 #include "list/sorting_list_ctrl.h"
 #include "print/print_engine.h"
+#include "text/date_time_edit.h"
+#include "text/speed_edit.h"
+#include "text/text_box.h"
 #include "text/text_wnd.h"
 #include "tree/tree_ctrl.h"
