@@ -30,6 +30,8 @@ public:
     static MultiByte Utf8();
 
     int CompareNoCase(const char* psz1, const char* psz2) const;
+    // As _mbsnbicmp: the characters that begin in the first nBytes bytes alone.
+    int CompareNoCase(const char* psz1, const char* psz2, std::size_t nBytes) const;
 
     // Appends bytes whose memcmp order is the order of CompareNoCase (a shorter key that is the
     // start of a longer one comes first). For sorting many strings by keys made once.

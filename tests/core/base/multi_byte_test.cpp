@@ -42,6 +42,30 @@ TEST(MultiByte, ComparesWithoutCaseByCharacter) {
     }
 }
 
+TEST(MultiByte, ComparesTheCharactersThatBeginInTheFirstBytes) {
+    const MultiByte kBytes, kPairs = DoubleByte(), kUtf8 = MultiByte::Utf8();
+    const struct {
+        const MultiByte& text;
+        const char *psz1, *psz2;
+        size_t nBytes;
+        int nOrder;
+    } cases[] = {
+        {kBytes, "ABc", "abd", 2, 0},
+        {kBytes, "ABc", "abd", 3, -1},
+        {kBytes, "a", "ab", 2, -1},  // a text that ends earlier
+        {kBytes, "a", "A", 9, 0},
+        {kBytes, "a", "b", 0, 0},
+        {kPairs, "a\x83\x41", "a\x83\x42", 1, 0},
+        {kPairs, "a\x83\x41", "a\x83\x42", 2, -1},  // the character is whole
+        {kPairs, "a\x83\x41", "a\x83", 2, 1},
+        {kUtf8, "\xC3\x84x", "\xC3\xA4y", 2, 0},
+        {kUtf8, "\xC3\x84x", "\xC3\xA4y", 3, -1},
+    };
+    for (const auto& [text, psz1, psz2, nBytes, nOrder] : cases) {
+        EXPECT_EQ(text.CompareNoCase(psz1, psz2, nBytes), nOrder) << psz1 << ' ' << nBytes;
+    }
+}
+
 TEST(MultiByte, ACharacterIsWholeOrOneByteAtTheEnd) {
     EXPECT_EQ(DoubleByte().CharBytes("\x83"), 1u);
     EXPECT_EQ(MultiByte::Utf8().CharBytes("\xE2\x82"), 1u);
