@@ -2,6 +2,11 @@
 
 #pragma once
 
+#include "buttons/bitmap_button.h"
+#include "buttons/check_wnd.h"
+#include "buttons/macro_button.h"
+#include "buttons/menu_button.h"
+#include "buttons/tool_button.h"
 #include "common/locale_info.h"
 #include "containers/header_wnd.h"
 #include "containers/list_header_wnd.h"
