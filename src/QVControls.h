@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "boxes/bitmap_combo_box.h"
+#include "boxes/color_combo_box.h"
 #include "containers/header_wnd.h"
 #include "containers/list_header_wnd.h"
 #include "containers/text_header_wnd.h"
