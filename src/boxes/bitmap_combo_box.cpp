@@ -19,6 +19,10 @@ constexpr int kEditLower = 1;   // what stands in that part
 
 IMPLEMENT_DYNCREATE(QVBitmapComboBox, CComboBox)
 
+BEGIN_MESSAGE_MAP(QVBitmapComboBox, CComboBox)
+    ON_WM_MEASUREITEM()
+END_MESSAGE_MAP()
+
 // --- Creation
 
 BOOL QVBitmapComboBox::PreCreateWindow(CREATESTRUCT& cs) {
@@ -178,6 +182,12 @@ int QVBitmapComboBox::CompareToItem(int nImage, LPCSTR pszText, int nItem) {
 }
 
 // --- Looks
+
+// Asked by the control's own list, whose question goes on to the parent: there is no child to look
+// for, once a row.
+void QVBitmapComboBox::OnMeasureItem(int, LPMEASUREITEMSTRUCT) {
+    Default();
+}
 
 void QVBitmapComboBox::MeasureItem(LPMEASUREITEMSTRUCT pMeasure) {
     if (m_nItemHeight != 0) {

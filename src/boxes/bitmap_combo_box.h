@@ -88,6 +88,8 @@ protected:
 
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    afx_msg void OnMeasureItem(int nCtlID, LPMEASUREITEMSTRUCT pMeasure);
+    DECLARE_MESSAGE_MAP()
 
     int m_nBitmapHeight = 0;  // 0: no images
     int m_nBitmapWidth = 0;

@@ -19,6 +19,10 @@ constexpr int kFrame = 2;   // of the square, around its colour
 
 IMPLEMENT_DYNCREATE(QVColorComboBox, CComboBox)
 
+BEGIN_MESSAGE_MAP(QVColorComboBox, CComboBox)
+    ON_WM_MEASUREITEM()
+END_MESSAGE_MAP()
+
 // --- Creation
 
 BOOL QVColorComboBox::PreCreateWindow(CREATESTRUCT& cs) {
@@ -84,6 +88,12 @@ void QVColorComboBox::ExtractInfo(LPCSTR pszStored, int& nColor, CString& strTex
 }
 
 // --- Looks
+
+// Asked by the control's own list, whose question goes on to the parent: there is no child to look
+// for, once a row.
+void QVColorComboBox::OnMeasureItem(int, LPMEASUREITEMSTRUCT) {
+    Default();
+}
 
 void QVColorComboBox::MeasureItem(LPMEASUREITEMSTRUCT pMeasure) {
     if (m_nItemHeight != 0) {

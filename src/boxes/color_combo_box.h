@@ -62,6 +62,8 @@ protected:
 
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    afx_msg void OnMeasureItem(int nCtlID, LPMEASUREITEMSTRUCT pMeasure);
+    DECLARE_MESSAGE_MAP()
 
     CArray<COLORREF, COLORREF> m_aColors;
     int m_nItemHeight = 0;   // also the side of the square; 0: not known
