@@ -2,6 +2,7 @@
 
 #include "boxes/combo_item.h"
 #include "boxes/core/box_heights.h"
+#include "boxes/core/box_order.h"
 #include "frame/ancestor_font.h"
 #include "frame/create_window.h"
 #include "frame/image_strip.h"
@@ -172,11 +173,11 @@ int QVBitmapComboBox::CompareToItem(int nImage, LPCSTR pszText, int nItem) {
         if (m_nBitmapWidth != 0) {
             ExtractInfo(qv::StoredRow(*this, nItem), nOther, strOther);
         }
-        if (m_bSortByImageIndex && nImage != nOther) {
-            nOrder = nImage > nOther ? 1 : -1;
-        } else {
-            nOrder = qv::ProcessText().CompareNoCase(pszText != nullptr ? pszText : "", strOther);
-        }
+        nOrder = qv::CompareBoxRows(m_bSortByImageIndex != FALSE,
+                                    {nImage, pszText != nullptr ? pszText : ""}, {nOther, strOther},
+                                    [](const char* psz1, const char* psz2) {
+                                        return qv::ProcessText().CompareNoCase(psz1, psz2);
+                                    });
     });
     return nOrder;
 }
