@@ -1,4 +1,5 @@
-// The controls in real windows: window_bench [tree | list | grid | text]; all without an argument.
+// The controls in real windows: window_bench [tree | list | grid | text | combo]; all without an
+// argument.
 
 #include "window_bench.h"
 
@@ -29,6 +30,9 @@ int main(int argc, char** argv) {
     }
     if (asked("text")) {
         MeasureText();
+    }
+    if (asked("combo")) {
+        MeasureCombo();
     }
     return 0;
 }

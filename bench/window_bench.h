@@ -41,3 +41,4 @@ void MeasureTree();
 void MeasureList();
 void MeasureGrid();
 void MeasureText();
+void MeasureCombo();

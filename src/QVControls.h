@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "boxes/bitmap_combo_box.h"
+#include "boxes/color_combo_box.h"
 #include "buttons/bitmap_button.h"
 #include "buttons/check_wnd.h"
 #include "buttons/macro_button.h"
