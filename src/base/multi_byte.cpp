@@ -6,6 +6,9 @@ namespace qv {
 
 namespace {
 
+// What bytes that form no character are ordered by: behind all characters.
+constexpr std::uint32_t kStray = 0x200000;
+
 MultiByte::FoldTable AsciiFold() {
     MultiByte::FoldTable fold;
     for (int i = 0; i < 256; ++i) {
@@ -122,25 +125,57 @@ std::size_t MultiByte::PrefixBytes(const char* psz, std::size_t nMost) const {
     return nBytes;
 }
 
-// The folded value of the character at psz, which moves behind it; 0 at the terminator, where it
-// stays. Bytes that form no UTF-8 character get values behind every character.
-std::uint32_t MultiByte::NextFolded(const char*& psz) const {
-    const std::size_t nBytes = CharBytes(psz);
-    const auto* p = reinterpret_cast<const unsigned char*>(psz);
-    psz += nBytes;
+// The value of the character of nBytes bytes at p, by which it is ordered. Bytes that form no UTF-8
+// character get values behind every character.
+std::uint32_t MultiByte::Value(const char* p, std::size_t nBytes) const {
+    const auto byte = [p](std::size_t i) {
+        return std::uint32_t{static_cast<unsigned char>(p[i])};
+    };
     if (nBytes <= 1) {
-        const bool bStray = m_kind == Kind::Utf8 && p[0] >= 0x80;
-        return bStray ? 0x200000u + p[0] : m_fold[p[0]];
+        return m_kind == Kind::Utf8 && byte(0) >= 0x80 ? kStray + byte(0) : byte(0);
     }
     if (m_kind == Kind::DoubleByte) {
-        const std::uint32_t c = static_cast<std::uint32_t>(p[0]) << 8 | p[1];
+        return byte(0) << 8 | byte(1);
+    }
+    std::uint32_t c = byte(0) & (0xFFu >> (nBytes + 1));
+    for (std::size_t i = 1; i < nBytes; ++i) {
+        c = c << 6 | (byte(i) & 0x3Fu);
+    }
+    return c;
+}
+
+// The value of the first character, which is taken off the text.
+std::uint32_t MultiByte::TakeValue(std::string_view& text) const {
+    const std::size_t nBytes = CharBytes(text);
+    const std::uint32_t c = Value(text.data(), nBytes);
+    text.remove_prefix(nBytes);
+    return c;
+}
+
+// The folded value of the character at psz, which moves behind it; 0 at the terminator, where it
+// stays.
+std::uint32_t MultiByte::NextFolded(const char*& psz) const {
+    const std::size_t nBytes = CharBytes(psz);
+    const std::uint32_t c = Value(psz, nBytes);
+    psz += nBytes;
+    if (nBytes <= 1) {
+        return c < kStray ? m_fold[c] : c;
+    }
+    if (m_kind == Kind::DoubleByte) {
         return m_pfnFold != nullptr ? m_pfnFold(c) : c;
     }
-    std::uint32_t c = p[0] & (0xFFu >> (nBytes + 1));
-    for (std::size_t i = 1; i < nBytes; ++i) {
-        c = c << 6 | (p[i] & 0x3Fu);
-    }
     return FoldCodePoint(c);
+}
+
+int MultiByte::Compare(std::string_view text1, std::string_view text2) const {
+    while (!text1.empty() && !text2.empty()) {
+        const std::uint32_t c1 = TakeValue(text1);
+        const std::uint32_t c2 = TakeValue(text2);
+        if (c1 != c2) {
+            return c1 < c2 ? -1 : 1;
+        }
+    }
+    return static_cast<int>(!text1.empty()) - static_cast<int>(!text2.empty());
 }
 
 int MultiByte::CompareNoCase(const char* psz1, const char* psz2) const {

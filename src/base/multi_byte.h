@@ -1,6 +1,6 @@
-// Order of 8-bit multi-byte text without regard to case. The rule is the platform's _mbsicmp: the
-// characters of both strings are folded to lower case and compared by value, a double-byte
-// character counting as lead byte times 256 plus trail byte. Results are -1, 0 or 1.
+// Order of 8-bit multi-byte text, mostly without regard to case. The rule is the platform's
+// _mbsicmp: the characters of both strings are folded to lower case and compared by value, a
+// double-byte character counting as lead byte times 256 plus trail byte. Results are -1, 0 or 1.
 //
 // No routine here cuts a character in two or reads past the terminator: a lead byte with nothing
 // behind it stands for itself.
@@ -32,6 +32,9 @@ public:
     int CompareNoCase(const char* psz1, const char* psz2) const;
     // As _mbsnbicmp: the characters that begin in the first nBytes bytes alone.
     int CompareNoCase(const char* psz1, const char* psz2, std::size_t nBytes) const;
+    // As it, but letters that differ in case differ: the platform's _mbscmp. A text that is the
+    // start of a longer one comes first.
+    int Compare(std::string_view text1, std::string_view text2) const;
 
     // Appends bytes whose memcmp order is the order of CompareNoCase (a shorter key that is the
     // start of a longer one comes first). For sorting many strings by keys made once.
@@ -52,6 +55,8 @@ private:
     enum class Kind { SingleByte, DoubleByte, Utf8 };
 
     std::size_t CharBytes(const char* p, std::size_t nMost) const;
+    std::uint32_t Value(const char* p, std::size_t nBytes) const;
+    std::uint32_t TakeValue(std::string_view& text) const;
     std::uint32_t NextFolded(const char*& psz) const;
 
     Kind m_kind = Kind::SingleByte;

@@ -64,3 +64,10 @@ CString& QVStyledRows::AppendStyleText(CString& strRow, LPCSTR pszText, int nSty
     strRow += strText;
     return strRow;
 }
+
+BOOL QVStyledRows::NextField(const CString& strRow, int& nPos, CString& strField) const {
+    std::string_view field;
+    const bool bFound = qv::NextField(std::string_view(strRow), nPos, field);
+    strField = CString(field.data(), static_cast<int>(field.size()));
+    return bFound;
+}

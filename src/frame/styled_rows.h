@@ -69,4 +69,8 @@ protected:
     // Appends a field to a row, with the TAB between if there is need of one. Below 0 the text goes
     // on in the row's last field, without TAB or code. Public in the controls that offer it.
     CString& AppendStyleText(CString& strRow, LPCSTR pszText, int nStyle) const;
+
+    // Reads the field at nPos, its code included, and moves nPos behind its TAB. 0 at the end of
+    // the row, where nPos stays; a TAB at the very end of a row starts no further field.
+    BOOL NextField(const CString& strRow, int& nPos, CString& strField) const;
 };

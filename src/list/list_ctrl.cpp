@@ -7,10 +7,10 @@
 #include "frame/image_strip.h"
 #include "frame/mouse_wheel.h"
 #include "frame/out_of_memory.h"
+#include "frame/saved_rows.h"
 #include "list/list_ctrl_core.h"
 
 #include <climits>
-#include <unordered_map>
 
 IMPLEMENT_DYNCREATE(QVListCtrlEx, CListCtrl)
 
@@ -205,20 +205,13 @@ void QVListCtrlEx::SaveSelections() {
 }
 
 void QVListCtrlEx::RestoreSelections() {
-    // The first row of each value.
-    std::unordered_map<DWORD_PTR, int> rows;
-    const bool bRead = qv::MemorySuffices([&] {
-        const int nItems = m_aSavedSel.GetSize() != 0 ? GetItemCount() : 0;
-        for (int nItem = 0; nItem < nItems; ++nItem) {
-            rows.emplace(GetItemData(nItem), nItem);
-        }
-    });
     const qv::WindowWatch watch(m_alive, m_hWnd);
-    for (INT_PTR i = 0; bRead && watch && i < m_aSavedSel.GetSize(); ++i) {
-        if (const auto it = rows.find(m_aSavedSel[i]); it != rows.end()) {
-            SetItemState(it->second, LVIS_SELECTED, LVIS_SELECTED);
-        }
-    }
+    qv::FindSavedRows(
+        m_aSavedSel, GetItemCount(), [this](int nItem) { return GetItemData(nItem); },
+        [&](int nItem) {
+            SetItemState(nItem, LVIS_SELECTED, LVIS_SELECTED);
+            return static_cast<bool>(watch);
+        });
 }
 
 void QVListCtrlEx::InvalidateData(BOOL bErase) {

@@ -194,7 +194,6 @@ protected:
     BOOL InReportMode();
     UINT GetColDrawFormat(int nCol) const;
     UINT GetHdrDrawFormat(int nCol);
-    BOOL NextField(const CString& strRow, int& nPos, CString& strField) const;
     // The columns' widths on paper, from CalcPrintCols on: what DrawItemText is given there.
     int* PrintColWidths();
     // For a class that sets up its columns itself: how many there are, and that the sum of their

@@ -44,13 +44,6 @@ LPCSTR QVListCtrlEx::CellText(int nItem, int nCol) {
     return m_pCore->text.data();
 }
 
-BOOL QVListCtrlEx::NextField(const CString& strRow, int& nPos, CString& strField) const {
-    std::string_view field;
-    const bool bFound = qv::NextField(std::string_view(strRow), nPos, field);
-    strField = CString(field.data(), static_cast<int>(field.size()));
-    return bFound;
-}
-
 BOOL QVListCtrlEx::SetItemString(int nItem, LPCSTR pszText) {
     if (nItem >= GetItemCount()) {
         return FALSE;

@@ -10,6 +10,7 @@ struct Package {
     std::string strName;
     std::string strSection;
     std::string strVersion;
+    std::string strArchitecture;
     std::string strState;    // "installed" where nothing is to be said
     std::string strSummary;  // one line
     long nSizeKiB = 0;

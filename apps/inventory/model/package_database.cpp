@@ -81,6 +81,8 @@ private:
             m_package.strSection = value;
         } else if (name == "Version") {
             m_package.strVersion = value;
+        } else if (name == "Architecture") {
+            m_package.strArchitecture = value;
         } else if (name == "Description") {
             m_package.strSummary = value;
         } else if (name == "Priority") {

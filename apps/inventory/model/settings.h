@@ -17,6 +17,33 @@ struct Setting {
     std::vector<std::string> choices;  // of a choice
 };
 
+// A file of lines "key=value" below a first line that names it.
+class KeyedValues {
+public:
+    std::vector<Setting>& All() { return m_settings; }
+    const std::string& Value(int n) const { return m_settings[n].strValue; }
+    // The number of the value among the choices.
+    int Choice(int n) const;
+    // False, and nothing changes, for a choice that is none and for a text of several lines.
+    bool Set(int n, const std::string& strValue);
+
+    void Reset() { m_settings = m_defaults; }
+    std::string Format() const;
+    // Reads what Format wrote; lines that are missing keep their defaults. False for anything else,
+    // with the line in nLine, and all values are the defaults then.
+    bool Parse(std::string_view text, size_t& nLine);
+
+protected:
+    KeyedValues(std::string_view firstLine, std::vector<Setting> defaults);
+
+private:
+    bool ParseLine(std::string_view line);
+
+    std::string_view m_firstLine;
+    std::vector<Setting> m_defaults;
+    std::vector<Setting> m_settings;
+};
+
 // Indices of the settings.
 enum SettingIndex {
     kSettingTitle,
@@ -28,24 +55,7 @@ enum SettingIndex {
     kSettingCount
 };
 
-class Settings {
+class Settings : public KeyedValues {
 public:
     Settings();  // defaults
-
-    std::vector<Setting>& All() { return m_settings; }
-    const std::string& Value(SettingIndex n) const { return m_settings[n].strValue; }
-    // The number of the value among the choices.
-    int Choice(SettingIndex n) const;
-    // False, and nothing changes, for a choice that is none and for a text of several lines.
-    bool Set(SettingIndex n, const std::string& strValue);
-
-    std::string Format() const;
-    // Reads what Format wrote; lines that are missing keep their defaults. False for anything else,
-    // with the line in nLine, and all values are the defaults then.
-    bool Parse(std::string_view text, size_t& nLine);
-
-private:
-    bool ParseLine(std::string_view line);
-
-    std::vector<Setting> m_settings;
 };

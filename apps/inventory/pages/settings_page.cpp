@@ -109,7 +109,7 @@ void SettingsPage::Keep() {
     for (int n = 0; n < kSettingCount; ++n) {
         CString strValue;
         m_grid.GetCellText(n, ColumnOf(m_settings.All()[n].kind), strValue);
-        m_settings.Set(static_cast<SettingIndex>(n), static_cast<LPCSTR>(strValue));
+        m_settings.Set(n, static_cast<LPCSTR>(strValue));
     }
     const std::string text = m_settings.Format();
     if (text == m_strSaved) {

@@ -61,6 +61,7 @@ void ReadEntries(HKEY hRoot, REGSAM nView, std::vector<Package>& packages) {
             package.strSection = "(no publisher)";
         }
         package.strVersion = entry.Text("DisplayVersion");
+        package.strArchitecture = nView == KEY_WOW64_32KEY ? "x86" : "x64";
         package.strState = "installed";
         package.strSummary = entry.Text("InstallLocation");
         package.nSizeKiB = static_cast<long>(entry.Number("EstimatedSize"));

@@ -43,8 +43,8 @@ CString UsersSettingsPath() {
     return strFolder + "\\settings.txt";
 }
 
-CString LoadSettings(const CString& strPath, Settings& settings) {
-    settings = Settings();
+CString LoadSettings(const CString& strPath, KeyedValues& settings) {
+    settings.Reset();
     CFileStatus status;
     std::string text;
     CString strMessage;
@@ -70,7 +70,7 @@ CString LoadSettings(const CString& strPath, Settings& settings) {
     return strMessage;
 }
 
-bool SaveSettings(const CString& strPath, const Settings& settings) {
+bool SaveSettings(const CString& strPath, const KeyedValues& settings) {
     const CString strNew = strPath + ".new";
     const std::string text = settings.Format();
     try {

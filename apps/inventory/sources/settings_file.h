@@ -10,7 +10,7 @@
 CString UsersSettingsPath();
 // No file: the defaults. A damaged one is set aside under another name; the message then names
 // both and the line, and the defaults are in force. Empty: nothing to say.
-CString LoadSettings(const CString& strPath, Settings& settings);
+CString LoadSettings(const CString& strPath, KeyedValues& settings);
 // Writes beside the file and then puts that in its place, so that there is a whole one at any
 // time. False if that fails; the old file is as it was.
-bool SaveSettings(const CString& strPath, const Settings& settings);
+bool SaveSettings(const CString& strPath, const KeyedValues& settings);

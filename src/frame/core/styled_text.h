@@ -10,6 +10,7 @@
 #include "frame/records.h"
 
 #include <array>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -35,6 +36,15 @@ bool ChangeStyle(char* pszText, int nStyle);
 // Reads the field at nPos and moves nPos behind its TAB. False at the end of the row, where nPos
 // stays; a TAB at the very end of a row starts no further field.
 bool NextField(std::string_view row, int& nPos, std::string_view& field);
+
+// Appends a cell to a row. The separator goes between only if something stands before: empty cells
+// at the start of a row leave no trace, as exports and saved rows of long standing expect.
+inline void JoinCell(std::string& strRow, std::string_view cell, char chSeparator) {
+    if (!strRow.empty()) {
+        strRow += chSeparator;
+    }
+    strRow += cell;
+}
 
 class StyleTable {
 public:

@@ -3,6 +3,7 @@
 #include "base/platform_names.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace qv {
 
@@ -10,6 +11,9 @@ namespace {
 
 constexpr int kFormatStep = 10000;
 constexpr unsigned kLastFormat = 2;
+// The farthest position that goes into a stop with any format.
+constexpr int kFarthest =
+    std::numeric_limits<int>::max() - static_cast<int>(kLastFormat) * kFormatStep;
 
 unsigned FormatOf(int nEncoded) {
     return nEncoded < kFormatStep ? 0 : std::min<unsigned>(nEncoded / kFormatStep, kLastFormat);
@@ -38,7 +42,7 @@ int TabValue(std::span<const int> tabs, int nTab) {
 
 void SetTabValue(std::span<int> tabs, int nTab, int nValue) {
     if (int* pStop = StopAt(tabs, nTab)) {
-        *pStop = Encode(std::max(nValue, 0), FormatOf(*pStop));
+        *pStop = Encode(std::clamp(nValue, 0, kFarthest), FormatOf(*pStop));
     }
 }
 
@@ -49,7 +53,8 @@ unsigned TabFormat(std::span<const int> tabs, int nTab) {
 
 void SetTabFormat(std::span<int> tabs, int nTab, unsigned nFormat) {
     if (int* pStop = StopAt(tabs, nTab)) {
-        *pStop = Encode(PositionOf(*pStop), nFormat > kLastFormat ? 0 : nFormat);
+        *pStop =
+            Encode(std::min(PositionOf(*pStop), kFarthest), nFormat > kLastFormat ? 0 : nFormat);
     }
 }
 

@@ -1,4 +1,4 @@
-// A list's row: how its cells join to one string, and where its parts are drawn.
+// A list's row: its cells, and where its parts are drawn.
 //
 // A row is composed in a bitmap of its own, so rectangles are in pixels from the row's top left.
 
@@ -12,16 +12,6 @@
 #include <string_view>
 
 namespace qv {
-
-// Appends a cell to a row. The separator goes between only if something stands before: empty cells
-// at the start of a row leave no trace, as exports and saved rows of long standing expect.
-template <class String>
-void JoinCell(String& strRow, const char* pszCell, char chSeparator) {
-    if (strRow[0] != '\0') {
-        strRow += chSeparator;
-    }
-    strRow += pszCell;
-}
 
 // The look of a row by its selection.
 enum class Highlight { None, Full, Faded };

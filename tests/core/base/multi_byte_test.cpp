@@ -66,6 +66,29 @@ TEST(MultiByte, ComparesTheCharactersThatBeginInTheFirstBytes) {
     }
 }
 
+TEST(MultiByte, ComparesByCharacterWithCaseAsWell) {
+    const MultiByte kBytes, kPairs = DoubleByte(), kUtf8 = MultiByte::Utf8();
+    const struct {
+        const MultiByte& text;
+        std::string_view text1, text2;
+        int nOrder;
+    } cases[] = {
+        {kBytes, "ab", "ab", 0},
+        {kBytes, "B", "a", -1},
+        {kBytes, "ab", "abc", -1},
+        {kBytes, "b", "abc", 1},
+        {kBytes, "\xFF", "a", 1},
+        {kPairs, "\xB1", "\x81\x40", -1},                      // one byte sorts before two
+        {kPairs, std::string_view("\x83\x41", 1), "\x83", 0},  // nothing behind the end is read
+        {kUtf8, "\xC3\xA4", "\xC3\x84", 1},                    // a umlaut, A umlaut
+        {kUtf8, "\xC3", "\xF0\x9F\x98\x80", 1},                // no character at all: the last
+    };
+    for (const auto& [text, text1, text2, nOrder] : cases) {
+        EXPECT_EQ(text.Compare(text1, text2), nOrder) << text1 << " and " << text2;
+        EXPECT_EQ(text.Compare(text2, text1), -nOrder) << text1 << " and " << text2;
+    }
+}
+
 TEST(MultiByte, ACharacterIsWholeOrOneByteAtTheEnd) {
     EXPECT_EQ(DoubleByte().CharBytes("\x83"), 1u);
     EXPECT_EQ(MultiByte::Utf8().CharBytes("\xE2\x82"), 1u);

@@ -10,13 +10,14 @@ TEST(PackageDatabase, ReadsStanzasWithContinuationLines) {
     DatabaseError error;
     ASSERT_TRUE(
         ParsePackages("Package: b\nStatus: install ok installed\nPriority: required\n"
-                      "Section: libs\nInstalled-Size: 2048\nVersion: 1.2-3\n"
+                      "Section: libs\nArchitecture: all\nInstalled-Size: 2048\nVersion: 1.2-3\n"
                       "Depends: libc6 (>= 2.36), x | y,\nDescription: one line\n more: text\n .\n"
                       "\n\r\nPackage: a\nStatus: deinstall ok config-files\n",
                       packages, error));
     ASSERT_EQ(packages.size(), 2u);
     const Package& b = packages[0];
     EXPECT_EQ(b.strVersion, "1.2-3");
+    EXPECT_EQ(b.strArchitecture, "all");
     EXPECT_EQ(b.strSummary, "one line");
     EXPECT_EQ(b.strState, "installed");
     EXPECT_EQ(b.nSizeKiB, 2048);
