@@ -196,6 +196,7 @@ void QVTextBox::OnWindowPosChanging(WINDOWPOS* pPos) {
 void QVTextBox::OnSize(UINT nType, int cx, int cy) {
     CStatic::OnSize(nType, cx, cy);
     PlaceSpin();
+    Invalidate(FALSE);  // the text keeps to the middle
 }
 
 // --- Steps

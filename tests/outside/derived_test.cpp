@@ -181,6 +181,59 @@ TEST_F(Outside, AText) {
     EXPECT_TRUE(text.FollowsNone()) << "the partner is gone";
 }
 
+// --- Edits
+
+class Box : public QVTextBox {
+public:
+    void LooksAtItself(CWnd& parent) {
+        SetShowBorder(0);
+        SetTextList("one\ttwo");
+        ASSERT_TRUE(Create(1, kRect, &parent));
+        EnableSpin();
+        EXPECT_NE(m_spin.m_hWnd, nullptr);
+        EXPECT_EQ(m_aTexts.GetSize(), 2);
+        EXPECT_EQ(m_strText, "one");
+        EXPECT_TRUE(m_bTextList && !m_bShowBorder && m_nCurText == 0);
+        EXPECT_EQ(m_crTextBk, ::GetSysColor(COLOR_WINDOW));
+        EXPECT_EQ(m_crText, ::GetSysColor(COLOR_BTNTEXT));
+        EXPECT_TRUE(m_pImageList == nullptr && m_nImage == -1);
+    }
+};
+
+class SpeedEdit : public QVSpeedEdit {
+public:
+    void LooksAtItself() {
+        CStringArray names;
+        names.Add("one");
+        SetSpeedData(&names);
+        SetSpeedOnly(1);
+        EXPECT_EQ(FindSpeedText("o") + SpeedMatch("o", 0), 0);
+        EXPECT_TRUE(m_pSpeedData == &names && m_bSpeedOnly);
+    }
+};
+
+class DateEdit : public QVDateTimeEdit {
+public:
+    void LooksAtItself(CWnd& parent) {
+        ASSERT_TRUE(Create(WS_CHILD | DTS_TIMEFORMAT, kRect, &parent, 1));
+        SetShowSeconds(1);
+        LocalizeFormat();
+        EXPECT_EQ(m_strFormat, QVLocaleInfo().TimeFormat());
+        EXPECT_TRUE(m_bLocalized && m_bShowSeconds && !m_bBlank && !IsBlank());
+        CString strFormat("y-ss");
+        RemoveFormatString(strFormat, "ss");
+        DoubleFormatCharacter(strFormat, 'y');
+        DoubleFormatString(strFormat, "yy");
+        EXPECT_EQ(strFormat, "yyyy");
+    }
+};
+
+TEST_F(Outside, Edits) {
+    Box().LooksAtItself(m_parent);
+    SpeedEdit().LooksAtItself();
+    DateEdit().LooksAtItself(m_parent);
+}
+
 // --- Lists
 
 class List : public QVSortingListCtrl {

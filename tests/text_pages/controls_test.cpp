@@ -172,6 +172,16 @@ TEST(TextControls, TextWindowShowsLines) {
     });
 }
 
+TEST(TextControls, TextBoxShowsItsText) {
+    FontParent parent(CSize(300, 200));
+    QVTextBox box;
+    box.SetTextColor(kText);
+    box.SetTextBkColor(kBack);
+    ASSERT_TRUE(box.Create(12, CRect(0, 0, 300, 40), &parent));
+    ExpectInk(parent, box, FontOf(parent), kText, kBack,
+              [&](const std::string& str) { box.SetWindowText(str.c_str()); });
+}
+
 TEST(TextControls, CaptionsShowTheirText) {
     FontParent parent(CSize(300, 200));
     QVTreeHeaderWnd wnd;

@@ -99,6 +99,21 @@ TEST_F(Controls, DatePickersKeepATime) {
     EXPECT_EQ(read.GetDay(), 5);
     picker.SetTime(static_cast<LPSYSTEMTIME>(nullptr));
     EXPECT_EQ(picker.GetTime(read), static_cast<DWORD>(GDT_NONE));
+    COleDateTime date;
+    EXPECT_FALSE(picker.GetTime(date));
+    EXPECT_EQ(date.GetStatus(), COleDateTime::null);
+    EXPECT_TRUE(picker.SetTime(COleDateTime(2003, 4, 5, 6, 7, 8)));
+    EXPECT_FALSE(picker.SetTime(COleDateTime(2003, 4, 5, 25, 0, 0))) << "no time";
+    EXPECT_TRUE(picker.GetTime(date));
+    EXPECT_EQ(date, COleDateTime(2003, 4, 5, 6, 7, 8));
+    EXPECT_TRUE(picker.SetRange(&date, static_cast<COleDateTime*>(nullptr)));
+    CTime last(9);
+    EXPECT_EQ(picker.GetRange(&read, &last), static_cast<DWORD>(GDTR_MIN));
+    EXPECT_EQ(read, time);
+    EXPECT_EQ(last, CTime(9)) << "no such end";
+    date.SetStatus(COleDateTime::null);
+    picker.SetTime(date);
+    EXPECT_EQ(picker.GetTime(read), static_cast<DWORD>(GDT_NONE));
 }
 
 }  // namespace
