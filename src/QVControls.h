@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "boxes/bitmap_list_box.h"
 #include "containers/header_wnd.h"
 #include "containers/list_header_wnd.h"
 #include "containers/text_header_wnd.h"
