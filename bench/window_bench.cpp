@@ -1,4 +1,4 @@
-// The controls in real windows: window_bench [tree | list | grid | text]; all without an argument.
+// The controls in real windows: window_bench [boxes | tree | list | grid | text]; all without an argument.
 
 #include "window_bench.h"
 
@@ -18,6 +18,9 @@ int main(int argc, char** argv) {
         return argc < 2 || std::strcmp(argv[1], pszArea) == 0;
     };
     std::printf("in windows\n");
+    if (asked("boxes")) {
+        MeasureBoxes();
+    }
     if (asked("tree")) {
         MeasureTree();
     }

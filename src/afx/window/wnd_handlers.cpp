@@ -423,6 +423,17 @@ static CMenu* FindMenuOfItem(HMENU hMenu, UINT nID) {
     return nullptr;
 }
 
+/// The control that asks. A list asks for one row after the other, and to find a control by its id
+/// all children are gone through: the one that asked before comes first.
+static HWND FindMeasured(HWND hParent, UINT nID) {
+    HWND& hLast = AfxGetWndState().hLastMeasured;
+    if (!::IsWindow(hLast) || ::GetParent(hLast) != hParent ||
+        static_cast<UINT>(::GetDlgCtrlID(hLast)) != nID) {
+        hLast = ::GetDlgItem(hParent, static_cast<int>(nID));
+    }
+    return hLast;
+}
+
 void CWnd::OnMeasureItem(int, LPMEASUREITEMSTRUCT lpMeasureItemStruct) {
     if (lpMeasureItemStruct->CtlType == ODT_MENU) {
         CMenu* pMenu = FindMenuOfItem(AfxGetWndState().hLastPopup, lpMeasureItemStruct->itemID);
@@ -434,7 +445,7 @@ void CWnd::OnMeasureItem(int, LPMEASUREITEMSTRUCT lpMeasureItemStruct) {
             return;
         }
     } else {
-        HWND hWndChild = ::GetDlgItem(m_hWnd, static_cast<int>(lpMeasureItemStruct->CtlID));
+        HWND hWndChild = FindMeasured(m_hWnd, lpMeasureItemStruct->CtlID);
         if (hWndChild != nullptr && ReflectLastMsg(hWndChild)) {
             return;
         }
