@@ -178,7 +178,7 @@ TEST(TextControls, TextBoxShowsItsText) {
     box.SetTextColor(kText);
     box.SetTextBkColor(kBack);
     ASSERT_TRUE(box.Create(12, CRect(0, 0, 300, 40), &parent));
-    ExpectInk(parent, box, FontOf(parent), kText, kBack,
+    ExpectInk(box, FontOf(parent), kText, kBack,
               [&](const std::string& str) { box.SetWindowText(str.c_str()); });
 }
 
