@@ -33,7 +33,7 @@ int MainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     static constexpr UINT kIndicators[] = {ID_INDICATOR_MESSAGE, ID_INDICATOR_MARKED};
     if (CFrameWnd::OnCreate(lpCreateStruct) == -1 || !m_pages.Create(this) ||
         !m_pages.Add(m_sections) || !m_pages.Add(m_packages) || !m_pages.Add(m_report) ||
-        !m_pages.Add(m_settings) || !m_pages.Add(m_log) ||
+        !m_pages.Add(m_settings) || !m_pages.Add(m_log) || !m_pages.Add(m_largest) ||
         !m_statusBar.Create(this) ||
         !m_statusBar.SetIndicators(kIndicators, static_cast<int>(std::size(kIndicators)))) {
         return -1;
@@ -52,6 +52,7 @@ void MainFrame::LoadSettings(const CString& strPath, bool bInteractive) {
     const class Settings& settings = m_settings.Values();
     m_sections.Tree().UseIndentedColumns(settings.Choice(kSettingTreeColumns) == 0);
     m_packages.UseSettings(settings);
+    m_largest.UseSettings(settings);
     m_packages.UseFilterFile(strFile.Left(strFile.ReverseFind('\\') + 1) + "filter.txt");
 }
 

@@ -41,8 +41,8 @@ void PackagesPage::OnSize(UINT nType, int cx, int cy) {
     m_frame.MoveWindow(0, rc.Height(), cx, std::max(cy - rc.Height(), 0));
 }
 
-// Tab, mnemonics and Enter go around in bar and list as in a dialog. What a dialog sees it keeps, so
-// the frame's accelerators come first.
+// Tab, mnemonics and Enter go around in bar and list as in a dialog. What a dialog sees it keeps,
+// so the frame's accelerators come first.
 BOOL PackagesPage::PreTranslateMessage(MSG* pMsg) {
     return Page::PreTranslateMessage(pMsg) || GetParentFrame()->PreTranslateMessage(pMsg) ||
            PreTranslateInput(pMsg);

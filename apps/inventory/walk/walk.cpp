@@ -27,7 +27,7 @@ bool Walk::Run() {
     return TreePage() && OpenBranch() && Marks() && AbsoluteColumns() && Find() && Vetoes() &&
            Packages() && FindPackage() && ImageColumn() && Export() && Refresh() &&
            FilterSection() && FilterDate() && FilterOpens() && Jump() && ToolTip() &&
-           ReportMenu() && TypeSettings() &&
+           ReportMenu() && LargestPackages() && LargestOnPaper() && TypeSettings() &&
            ChooseSetting() && SettingsKept() && ReportPages() && Zoom() && Paper() && Logs() &&
            FollowLog() && LogOnPaper();
 }

@@ -33,6 +33,10 @@ private:
     bool Jump();
     bool ToolTip();
     bool ReportMenu();
+    // The largest packages
+    bool LargestPackages();
+    bool LargestOnPaper();
+    bool LargestHeading(int nCol, LargestList::Order order, const char* pszStation);
     // The logs
     bool Logs();
     bool FollowLog();

@@ -64,7 +64,9 @@ bool Walk::FilterDate() {
     CRect rc;
     bar.GetDlgItem(IDC_FILTER_SINCE)->GetWindowRect(&rc);
     Click(CPoint(rc.left + 10, rc.CenterPoint().y));
-    Press(VK_UP);
+    Press(VK_RIGHT);  // from the day of the week to the month
+    Press(VK_DOWN);
+    Press(VK_DOWN);
     if (!Expect("a key in the blank date makes it a day",
                 [&] { return bar.Filter().tSince != 0; }) ||
         !Station("bar-3-since")) {
