@@ -1,12 +1,14 @@
 // Core without a window; the tree, the grid and the wrapped text beside Qt's own where that was
 // asked for.
 
+#include "base/multi_byte.h"
 #include "bench.h"
 #include "grid/core/grid_model.h"
 #include "print/core/text_wrap.h"
 #include "support/fake_page_items.h"
 #include "support/test_tree.h"
 #include "text/core/display_rows.h"
+#include "text/core/type_ahead.h"
 
 #include <algorithm>
 #include <malloc.h>
@@ -341,6 +343,51 @@ void MeasureText(const std::vector<std::string>& lines) {
                   bench::MedianOf([&] { return AppendFollow(lines); }) * 1e6, "us");
 }
 
+// Beginnings of 1 to 8 letters, found and not found, in a million sorted names.
+void MeasureTypeAhead() {
+    const qv::MultiByte text;
+    std::vector<std::string> names = RandomTexts(kMillion);
+    std::sort(names.begin(), names.end());
+    std::mt19937 random(19);
+    std::vector<std::string> typed;
+    for (int i = 0; i < 100000; ++i) {
+        typed.push_back(names[random() % names.size()].substr(0, 1 + random() % 8));
+        if (i % 2 != 0) {
+            typed.back().back() = '!';  // behind no letter stands one
+        }
+    }
+    const auto order = [&](const std::string& strName, const std::string& strTyped) {
+        return text.CompareNoCase(strName.c_str(), strTyped.c_str(), strTyped.size());
+    };
+    long long nOurSum = 0;
+    long long nTheirSum = 0;
+    const auto ours = [&] {
+        nOurSum = 0;
+        for (const std::string& str : typed) {
+            const int nFound = qv::FindTyped(
+                kMillion, [&](int n) { return order(names[static_cast<std::size_t>(n)], str); });
+            nOurSum += nFound >= 0 ? nFound : 0;
+        }
+    };
+    const auto theirs = [&] {
+        nTheirSum = 0;
+        for (const std::string& str : typed) {
+            const auto it = std::lower_bound(
+                names.begin(), names.end(), str,
+                [&](const std::string& strName, const auto&) { return order(strName, str) < 0; });
+            nTheirSum += it != names.end() && order(*it, str) == 0 ? it - names.begin() : 0;
+        }
+    };
+    const bench::Pair pair =
+        bench::MedianPair([&] { return bench::Time(ours); }, [&] { return bench::Time(theirs); });
+    if (nOurSum != nTheirSum) {
+        std::printf("type-ahead and lower_bound find different names\n");
+        std::exit(1);
+    }
+    bench::Figure("edits/speed-find-1m", pair.ours / static_cast<double>(typed.size()) * 1e9, "ns");
+    bench::Ratio("edits/speed-find-1m", pair.ours, pair.theirs);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -400,5 +447,6 @@ int main(int argc, char** argv) {
     MeasureRows();
     MeasurePrint();
     MeasureText(log);
+    MeasureTypeAhead();
     return 0;
 }

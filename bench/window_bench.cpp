@@ -1,4 +1,5 @@
-// The controls in real windows: window_bench [boxes | tree | list | grid | text]; all without an argument.
+// The controls in real windows: window_bench [tree | list | grid | text | boxes]; all without an
+// argument.
 
 #include "window_bench.h"
 
@@ -18,9 +19,6 @@ int main(int argc, char** argv) {
         return argc < 2 || std::strcmp(argv[1], pszArea) == 0;
     };
     std::printf("in windows\n");
-    if (asked("boxes")) {
-        MeasureBoxes();
-    }
     if (asked("tree")) {
         MeasureTree();
     }
@@ -32,6 +30,10 @@ int main(int argc, char** argv) {
     }
     if (asked("text")) {
         MeasureText();
+    }
+    if (asked("boxes")) {
+        MeasureListBox();
+        MeasureCombo();
     }
     return 0;
 }

@@ -37,8 +37,9 @@ inline void Compare(const char* pszName, double factor, const char* pszUnit, Pai
 
 }  // namespace bench
 
-void MeasureBoxes();
 void MeasureTree();
 void MeasureList();
 void MeasureGrid();
 void MeasureText();
+void MeasureListBox();
+void MeasureCombo();

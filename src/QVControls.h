@@ -2,7 +2,15 @@
 
 #pragma once
 
+#include "boxes/bitmap_combo_box.h"
 #include "boxes/bitmap_list_box.h"
+#include "boxes/color_combo_box.h"
+#include "buttons/bitmap_button.h"
+#include "buttons/check_wnd.h"
+#include "buttons/macro_button.h"
+#include "buttons/menu_button.h"
+#include "buttons/tool_button.h"
+#include "common/locale_info.h"
 #include "containers/header_wnd.h"
 #include "containers/list_header_wnd.h"
 #include "containers/text_header_wnd.h"
@@ -16,5 +24,8 @@
 #include "list/list_ctrl.h"
 #include "list/sorting_list_ctrl.h"
 #include "print/print_engine.h"
+#include "text/date_time_edit.h"
+#include "text/speed_edit.h"
+#include "text/text_box.h"
 #include "text/text_wnd.h"
 #include "tree/tree_ctrl.h"

@@ -179,16 +179,23 @@ int MultiByte::Compare(std::string_view text1, std::string_view text2) const {
 }
 
 int MultiByte::CompareNoCase(const char* psz1, const char* psz2) const {
-    for (;;) {
+    return CompareNoCase(psz1, psz2, std::string_view::npos);
+}
+
+// Characters that fold to the same value have the same number of bytes.
+int MultiByte::CompareNoCase(const char* psz1, const char* psz2, std::size_t nBytes) const {
+    const char* const pszFirst = psz1;
+    while (static_cast<std::size_t>(psz1 - pszFirst) < nBytes) {
         const std::uint32_t c1 = NextFolded(psz1);
         const std::uint32_t c2 = NextFolded(psz2);
         if (c1 != c2) {
             return c1 < c2 ? -1 : 1;
         }
         if (c1 == 0) {
-            return 0;
+            break;
         }
     }
+    return 0;
 }
 
 void MultiByte::AppendSortKey(const char* psz, std::string& strKey) const {

@@ -17,13 +17,10 @@ class OpenGrid : public QVGridCtrl {
 public:
     using QVGridCtrl::ButtonRectFromCellRect;
     using QVGridCtrl::CalcCellRect;
-    using QVGridCtrl::CellFromPoint;
-    using QVGridCtrl::m_bBtnDown;
     using QVGridCtrl::m_bEditing;
     using QVGridCtrl::m_bIgnoreFocus;
     using QVGridCtrl::m_nCellHeight;
     using QVGridCtrl::m_nTopRow;
-    using QVGridCtrl::m_si;
     using QVGridCtrl::PressedButtonRect;
     using QVGridCtrl::RowAt;
 };

@@ -16,14 +16,10 @@ constexpr COLORREF kListImageMask = RGB(0, 128, 128);
 template <class List = QVListCtrlEx>
 class OpenList : public List {
 public:
-    using List::CalculateItemWidth;
     using List::FillEmptySpace;
-    using List::m_bmpBack;
-    using List::m_dcMem;
     using List::m_nClientWidth;
     using List::m_nDataWidth;
     using List::m_nTextHeight;
-    using List::OutputFormattedText;
     using List::SortOnHeader;
 };
 

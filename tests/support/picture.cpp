@@ -4,35 +4,35 @@ Picture Picture::OfClient(HWND hWnd) {
     ::UpdateWindow(hWnd);
     CRect rc;
     ::GetClientRect(hWnd, rc);
+    HDC hDC = ::GetDC(hWnd);
+    const Picture picture = Of(hDC, rc.Size());
+    ::ReleaseDC(hWnd, hDC);
+    return picture;
+}
+
+Picture Picture::Of(HDC hDC, CSize size) {
     Picture picture;
-    picture.m_size = rc.Size();
-    if (rc.IsRectEmpty()) {
+    picture.m_size = size;
+    if (size.cx <= 0 || size.cy <= 0) {
         return picture;
     }
     BITMAPINFO info = {};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = rc.Width();
-    info.bmiHeader.biHeight = -rc.Height();  // the first row is the upper one
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    info.bmiHeader.biCompression = BI_RGB;
-
-    HDC hDC = ::GetDC(hWnd);
+    // A negative height: the first row is the upper one.
+    info.bmiHeader = {sizeof info.bmiHeader, size.cx, -size.cy, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
     HDC hMemoryDC = ::CreateCompatibleDC(hDC);
     void* pBits = nullptr;
     HBITMAP hBitmap = ::CreateDIBSection(hDC, &info, DIB_RGB_COLORS, &pBits, nullptr, 0);
     HGDIOBJ hOld = ::SelectObject(hMemoryDC, hBitmap);
-    ::BitBlt(hMemoryDC, 0, 0, rc.Width(), rc.Height(), hDC, 0, 0, SRCCOPY);
+    ::BitBlt(hMemoryDC, 0, 0, size.cx, size.cy, hDC, 0, 0, SRCCOPY);
     ::GdiFlush();
     const auto* pPixels = static_cast<const DWORD*>(pBits);
-    picture.m_pixels.assign(pPixels, pPixels + rc.Width() * rc.Height());
+    picture.m_pixels.assign(pPixels, pPixels + size.cx * size.cy);
     for (DWORD& dwPixel : picture.m_pixels) {
         dwPixel &= 0x00FFFFFF;  // the fourth byte is nobody's
     }
     ::SelectObject(hMemoryDC, hOld);
     ::DeleteObject(hBitmap);
     ::DeleteDC(hMemoryDC);
-    ::ReleaseDC(hWnd, hDC);
     return picture;
 }
 

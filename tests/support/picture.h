@@ -9,6 +9,8 @@ class Picture {
 public:
     /// Lets the window paint what is due, then copies its client area.
     static Picture OfClient(HWND hWnd);
+    /// What was drawn on a device context, from the upper left corner on.
+    static Picture Of(HDC hDC, CSize size);
 
     int Width() const { return m_size.cx; }
     int Height() const { return m_size.cy; }

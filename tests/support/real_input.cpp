@@ -3,6 +3,7 @@
 #include "support/pump.h"
 
 #include <map>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -94,14 +95,10 @@ struct ButtonKind {
 };
 
 ButtonKind KindOf(MouseButton button) {
-    switch (button) {
-        case MouseButton::Right:
-            return {MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP, WM_RBUTTONDOWN, WM_RBUTTONUP};
-        case MouseButton::Middle:
-            return {MOUSEEVENTF_MIDDLEDOWN, MOUSEEVENTF_MIDDLEUP, WM_MBUTTONDOWN, WM_MBUTTONUP};
-        default:
-            return {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP, WM_LBUTTONDOWN, WM_LBUTTONUP};
+    if (button == MouseButton::Right) {
+        return {MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP, WM_RBUTTONDOWN, WM_RBUTTONUP};
     }
+    return {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP, WM_LBUTTONDOWN, WM_LBUTTONUP};
 }
 
 }  // namespace
@@ -117,29 +114,23 @@ bool BringToFront(HWND hWnd) {
 }
 
 bool TypeKey(WORD vk, bool bShift, bool bControl, bool bAlt) {
+    std::vector<WORD> keys;
+    for (const auto& [bHeld, vkHeld] :
+         {std::pair{bShift, VK_SHIFT}, {bControl, VK_CONTROL}, {bAlt, VK_MENU}, {true, int{vk}}}) {
+        if (bHeld) {
+            keys.push_back(static_cast<WORD>(vkHeld));
+        }
+    }
     std::vector<INPUT> inputs;
-    std::vector<WORD> held;
-    if (bShift) {
-        held.push_back(VK_SHIFT);
+    for (const WORD vkDown : keys) {
+        inputs.push_back(KeyInput(vkDown, false));
     }
-    if (bControl) {
-        held.push_back(VK_CONTROL);
-    }
-    if (bAlt) {
-        held.push_back(VK_MENU);
-    }
-    for (WORD vkHeld : held) {
-        inputs.push_back(KeyInput(vkHeld, false));
-    }
-    inputs.push_back(KeyInput(vk, false));
-    inputs.push_back(KeyInput(vk, true));
-    for (auto it = held.rbegin(); it != held.rend(); ++it) {
+    for (auto it = keys.rbegin(); it != keys.rend(); ++it) {
         inputs.push_back(KeyInput(*it, true));
     }
     InputWatch watch;
     // With the menu key down the key itself is a system key; its release comes as a plain one.
-    const int nPlainUps = static_cast<int>(held.size()) + (bAlt ? 0 : 1);
-    return Send(inputs) && watch.AwaitKeys(nPlainUps);
+    return Send(inputs) && watch.AwaitKeys(static_cast<int>(keys.size()) - (bAlt ? 1 : 0));
 }
 
 bool TypeText(LPCTSTR lpszText) {

@@ -4,7 +4,7 @@
 
 #include <afxwin.h>
 
-enum class MouseButton { Left, Right, Middle };
+enum class MouseButton { Left, Right };
 
 /// Makes the window's top-level window the foreground window. FALSE if the system refuses.
 bool BringToFront(HWND hWnd);

@@ -42,39 +42,7 @@ const RecordingParent::Notification* RecordingParent::Last(UINT nCode) const {
 
 size_t RecordingParent::SizeOf(UINT nCode) const {
     const auto it = m_sizes.find(nCode);
-    if (it != m_sizes.end()) {
-        return it->second;
-    }
-    switch (nCode) {
-        case LVN_ITEMCHANGING:
-        case LVN_ITEMCHANGED:
-        case LVN_INSERTITEM:
-        case LVN_DELETEITEM:
-        case LVN_COLUMNCLICK:
-        case LVN_BEGINDRAG:
-            return sizeof(NMLISTVIEW);
-        case LVN_GETDISPINFO:
-        case LVN_SETDISPINFO:
-        case LVN_BEGINLABELEDIT:
-        case LVN_ENDLABELEDIT:
-            return sizeof(NMLVDISPINFO);
-        case TVN_SELCHANGING:
-        case TVN_SELCHANGED:
-        case TVN_ITEMEXPANDING:
-        case TVN_ITEMEXPANDED:
-        case TVN_BEGINDRAG:
-        case TVN_DELETEITEM:
-            return sizeof(NMTREEVIEW);
-        case TVN_GETDISPINFO:
-        case TVN_SETDISPINFO:
-        case TVN_BEGINLABELEDIT:
-        case TVN_ENDLABELEDIT:
-            return sizeof(NMTVDISPINFO);
-        case TVN_KEYDOWN:
-            return sizeof(NMTVKEYDOWN);
-        default:
-            return sizeof(NMHDR);
-    }
+    return it != m_sizes.end() ? it->second : sizeof(NMHDR);
 }
 
 BOOL RecordingParent::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {

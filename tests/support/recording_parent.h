@@ -43,8 +43,7 @@ public:
 
     /// What notifications of that code get as result from now on.
     void SetResult(UINT nCode, LRESULT lResult) { m_results[nCode] = lResult; }
-    /// How many bytes to copy of notifications of that code; else those of the platform's own
-    /// structure if the code is one of its, or an NMHDR's.
+    /// How many bytes to copy of notifications of that code; else an NMHDR's.
     void SetSize(UINT nCode, size_t nBytes) { m_sizes[nCode] = nBytes; }
     /// Called for each notification after it was written down; TRUE: *pResult is the result.
     std::function<bool(NMHDR*, LRESULT*)> m_hook;

@@ -1,8 +1,10 @@
 #include "support/test_app.h"
 
+#include <gtest/gtest.h>
+
 int TestApp::DoMessageBox(LPCTSTR lpszPrompt, UINT, UINT) {
     m_prompts.emplace_back(lpszPrompt);
-    return m_nAnswer;
+    return IDOK;
 }
 
 LRESULT TestApp::ProcessWndProcException(CException* e, const MSG* pMsg) {
@@ -21,4 +23,15 @@ LRESULT TestApp::ProcessWndProcException(CException* e, const MSG* pMsg) {
 
 TestApp& TheTestApp() {
     return *static_cast<TestApp*>(AfxGetApp());
+}
+
+int RunTests(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX);
+    if (!AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), SW_SHOWNORMAL)) {
+        return 1;
+    }
+    const int nResult = RUN_ALL_TESTS();
+    AfxWinTerm();
+    return nResult;
 }

@@ -14,7 +14,6 @@ public:
 
     std::vector<std::string> m_prompts;         ///< texts of message boxes
     std::vector<std::string> m_exceptions;      ///< messages of exceptions that left a handler
-    int m_nAnswer = IDOK;                       ///< what a message box gives
     std::function<void(CException*)> m_report;  ///< runs before an exception is written down
 
     void Forget() {
@@ -27,3 +26,6 @@ public:
 
 /// The one object, made by the program's main file.
 TestApp& TheTestApp();
+
+/// All that such a program does; its main function gives the result.
+int RunTests(int argc, char** argv);

@@ -13,7 +13,6 @@ constexpr UINT kTextId = 79;
 class OpenText : public QVTextWnd {
 public:
     using QVTextWnd::CalculateLineRect;
-    using QVTextWnd::DoVScroll;
     using QVTextWnd::m_bUseProportionalFont;
     using QVTextWnd::m_nCharHeight;
     using QVTextWnd::m_nCharWidth;

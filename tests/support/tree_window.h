@@ -33,7 +33,10 @@ template <class Tree = QVTreeCtrlEx>
 class TreeWindow {
 public:
     explicit TreeWindow(DWORD dwStyle = kTreeStyle, CSize size = CSize(300, 200)) : parent(size) {
-        parent.SetSize(static_cast<UINT>(NM_DBLCLK), sizeof(NM_TREEVIEW));
+        for (const UINT nCode : {TVN_SELCHANGING, TVN_SELCHANGED, TVN_ITEMEXPANDING,
+                                 TVN_ITEMEXPANDED, static_cast<UINT>(NM_DBLCLK)}) {
+            parent.SetSize(nCode, sizeof(NM_TREEVIEW));
+        }
         tree.Create(dwStyle, CRect(CPoint(0, 0), size), &parent, kTreeId);
     }
     HTREEITEM Add(const char* psz, HTREEITEM hParent = nullptr) {

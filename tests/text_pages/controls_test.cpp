@@ -1,6 +1,7 @@
 // What the controls show of a text, beside the platform's wide calls.
 #include "ink.h"
 #include "page_text.h"
+#include "support/combo_window.h"
 #include "support/grid_window.h"
 #include "support/list_box_window.h"
 #include "support/list_window.h"
@@ -22,16 +23,13 @@ Picture Fresh(CWnd& wnd) {
 // The ink that a control leaves for each word where it had a blank before, and the platform's. show
 // gives the control a text; the font is the control's.
 template <class Show>
-void ExpectInk(CWnd& parent, CWnd& wnd, HFONT hFont, COLORREF crText, COLORREF crBk, Show show) {
-    WideLabel label(parent, hFont, crText, crBk);
+void ExpectInk(CWnd& wnd, HFONT hFont, COLORREF crText, COLORREF crBk, Show show) {
     for (const PageWord& word : PageWords()) {
-        label.ShowWindow(SW_HIDE);
         show(" ");
         const Picture blank = Fresh(wnd);
         show(word.str);
         const Ink ink(Fresh(wnd), blank, crBk);
-        label.ShowWindow(SW_SHOW);
-        const Ink wanted = label.Shows(word.strWide);
+        const Ink wanted = WideInk(word.strWide, hFont, crText, crBk);
         ASSERT_FALSE(wanted.IsEmpty());
         EXPECT_EQ(ink, wanted) << word.str;
     }
@@ -48,10 +46,10 @@ TEST(TextControls, TreeShowsItemsAndTheirFields) {
     w.tree.UseTabs(stops, 1);
     const HTREEITEM h = w.Add(w.tree.MakeStyleText("first", nStyle));
     const HFONT hFont = FontOf(w.parent);
-    ExpectInk(w.parent, w.tree, hFont, kText, kBack, [&](const std::string& str) {
+    ExpectInk(w.tree, hFont, kText, kBack, [&](const std::string& str) {
         w.tree.SetItemText(h, w.tree.MakeStyleText(str.c_str(), nStyle));
     });
-    ExpectInk(w.parent, w.tree, hFont, kText, kBack, [&](const std::string& str) {
+    ExpectInk(w.tree, hFont, kText, kBack, [&](const std::string& str) {
         CString strRow = w.tree.MakeStyleText("x", nStyle);
         w.tree.AppendStyleText(strRow, str.c_str(), nStyle);
         w.tree.SetItemText(h, strRow);
@@ -72,7 +70,7 @@ TEST(TextControls, ListShowsCellsAndHeadings) {
     w.Add("x");
     const HFONT hFont = FontOf(w.list);
     for (const char* pszBefore : {"", "x\t"}) {
-        ExpectInk(w.parent, w.list, hFont, kText, kBack, [&](const std::string& str) {
+        ExpectInk(w.list, hFont, kText, kBack, [&](const std::string& str) {
             CString strRow = pszBefore;
             w.list.AppendStyleText(strRow, str.c_str(), nStyle);
             w.list.SetItemString(0, strRow);
@@ -88,8 +86,7 @@ TEST(TextControls, ListShowsCellsAndHeadings) {
     setHeading(" ");
     const Picture blank = Fresh(header);
     const COLORREF crHeading = blank.At(250, blank.Height() / 2);
-    ExpectInk(w.parent, header, FontOf(header), ::GetSysColor(COLOR_BTNTEXT), crHeading,
-              setHeading);
+    ExpectInk(header, FontOf(header), ::GetSysColor(COLOR_BTNTEXT), crHeading, setHeading);
     for (const PageWord& word : PageWords()) {
         QVListCtrlEx list;
         list.Create(5, CRect(0, 0, 100, 100), &w.parent);
@@ -97,6 +94,35 @@ TEST(TextControls, ListShowsCellsAndHeadings) {
         CString strHeadings;
         EXPECT_EQ(list.MakeHeaderString(strHeadings), 2);
         EXPECT_EQ(std::string(strHeadings), word.str + "\t" + word.str);
+    }
+}
+
+TEST(TextControls, ComboBoxesShowTheirSelectedRow) {
+    ComboWindow<QVBitmapComboBox> bitmaps;
+    const int nStyle = bitmaps.combo.AddStyle(kText, kBack);
+    ExpectInk(bitmaps.parent, bitmaps.combo, FontOf(bitmaps.combo), kText, kBack,
+              [&](const std::string& str) {
+                  bitmaps.combo.ResetContent();
+                  bitmaps.combo.AddBitmapString(1,
+                                                bitmaps.combo.MakeStyleText(str.c_str(), nStyle));
+                  bitmaps.combo.SetCurSel(0);
+              });
+    ComboWindow<QVColorComboBox> colors;
+    ExpectInk(colors.parent, colors.combo, FontOf(colors.combo), ::GetSysColor(COLOR_WINDOWTEXT),
+              ::GetSysColor(COLOR_WINDOW), [&](const std::string& str) {
+                  colors.combo.ResetContent();
+                  colors.combo.InsertColorString(1, 0, str.c_str());
+                  colors.combo.SetCurSel(0);
+              });
+    bitmaps.combo.ResetContent();
+    for (const PageWord& word : PageWords()) {
+        const int nRow = bitmaps.combo.AddBitmapString(1, "x");
+        EXPECT_EQ(bitmaps.combo.SetItemString(nRow, word.str.c_str()), 1);
+        CString str;
+        bitmaps.combo.GetItemString(nRow, str);
+        EXPECT_EQ(std::string(str), word.str);
+        EXPECT_EQ(bitmaps.combo.FindBitmapString(1, word.str.c_str()), nRow);
+        EXPECT_EQ(bitmaps.combo.CompareToItem(1, word.str.c_str(), nRow), 0);
     }
 }
 
@@ -174,7 +200,7 @@ TEST(TextControls, GridShowsCells) {
     GridWindow<> w(1);
     w.grid.SetColWidth(kEdit, 150);
     const HFONT hFont = FontOf(w.parent);
-    ExpectInk(w.parent, w.grid, hFont, ::GetSysColor(COLOR_WINDOWTEXT), ::GetSysColor(COLOR_WINDOW),
+    ExpectInk(w.grid, hFont, ::GetSysColor(COLOR_WINDOWTEXT), ::GetSysColor(COLOR_WINDOW),
               [&](const std::string& str) { w.grid.SetCellText(0, kEdit, str.c_str()); });
     for (const PageWord& word : PageWords()) {
         EXPECT_GE(w.grid.AutoSizeColumn(kEdit, 0), 0);
@@ -187,11 +213,21 @@ TEST(TextControls, TextWindowShowsLines) {
     TextWindow<> w;
     const int nStyle = w.text.AddStyle(kText, kBack);
     const HFONT hFont = static_cast<HFONT>(::GetStockObject(DEFAULT_GUI_FONT));
-    ExpectInk(w.parent, w.text, hFont, kText, kBack, [&](const std::string& str) {
+    ExpectInk(w.text, hFont, kText, kBack, [&](const std::string& str) {
         w.text.ClearTextData();
         w.text.AddText(str.c_str(), nStyle);
         w.text.CalcLayout();
     });
+}
+
+TEST(TextControls, TextBoxShowsItsText) {
+    FontParent parent(CSize(300, 200));
+    QVTextBox box;
+    box.SetTextColor(kText);
+    box.SetTextBkColor(kBack);
+    ASSERT_TRUE(box.Create(12, CRect(0, 0, 300, 40), &parent));
+    ExpectInk(box, FontOf(parent), kText, kBack,
+              [&](const std::string& str) { box.SetWindowText(str.c_str()); });
 }
 
 TEST(TextControls, CaptionsShowTheirText) {
@@ -199,8 +235,7 @@ TEST(TextControls, CaptionsShowTheirText) {
     QVTreeHeaderWnd wnd;
     CRect rc(0, 0, 300, 200);
     ASSERT_TRUE(wnd.Create(WS_CHILD | WS_VISIBLE, rc, &parent, 12));
-    ExpectInk(parent, wnd, FontOf(parent), ::GetSysColor(COLOR_WINDOWTEXT),
-              ::GetSysColor(COLOR_BTNFACE),
+    ExpectInk(wnd, FontOf(parent), ::GetSysColor(COLOR_WINDOWTEXT), ::GetSysColor(COLOR_BTNFACE),
               [&](const std::string& str) { wnd.SetHeaderText(str.c_str()); });
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "support/picture.h"
+#include "support/recording_parent.h"
 
 #include <algorithm>
 #include <ostream>
@@ -52,50 +53,23 @@ inline std::ostream& operator<<(std::ostream& out, const Ink& ink) {
     return out;
 }
 
-/// A wide text as the platform draws it in a font: what every control should leave.
-class WideLabel : public CWnd {
-public:
-    WideLabel(CWnd& parent, HFONT hFont, COLORREF crText, COLORREF crBk, UINT nFormat = 0)
-        : m_hFont(hFont), m_crText(crText), m_crBk(crBk), m_nFormat(nFormat) {
-        CreateEx(0, AfxRegisterWndClass(0), "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 40),
-                 &parent, 999);
-    }
-    Ink Shows(const std::wstring& strText) {
-        const Picture with = With(strText);
-        return Ink(with, With(L""), m_crBk);
-    }
-
-protected:
-    LRESULT WindowProc(UINT nMessage, WPARAM wParam, LPARAM lParam) override {
-        if (nMessage != WM_PAINT) {
-            return CWnd::WindowProc(nMessage, wParam, lParam);
-        }
-        CPaintDC dc(this);
-        CRect rc;
-        GetClientRect(&rc);
-        dc.FillSolidRect(&rc, m_crBk);
-        dc.SetTextColor(m_crText);
-        dc.SetBkColor(m_crBk);
-        const HGDIOBJ hOld = ::SelectObject(dc, m_hFont);
+/// What a wide text leaves as the platform draws it on a window: what every control should leave.
+inline Ink WideInk(const std::wstring& strText, HFONT hFont, COLORREF crText, COLORREF crBk) {
+    const CSize size(300, 40);
+    RecordingParent wnd(size, WS_POPUP);
+    CClientDC dc(&wnd);
+    const HGDIOBJ hOldFont = ::SelectObject(dc, hFont);
+    dc.SetTextColor(crText);
+    dc.SetBkColor(crBk);
+    const auto show = [&](const std::wstring& strShown) {
+        CRect rc(CPoint(0, 0), size);
+        dc.FillSolidRect(&rc, crBk);
         rc.DeflateRect(5, 5);
-        ::DrawTextW(dc, m_strText.data(), static_cast<int>(m_strText.size()), &rc,
-                    DT_NOPREFIX | DT_SINGLELINE | m_nFormat);
-        ::SelectObject(dc, hOld);
-        return 0;
-    }
-
-private:
-    Picture With(const std::wstring& strText) {
-        m_strText = strText;
-        ::SetWindowPos(m_hWnd, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
-        Invalidate(FALSE);
-        const Picture picture = Picture::OfClient(m_hWnd);
-        return picture;
-    }
-
-    HFONT m_hFont;
-    COLORREF m_crText;
-    COLORREF m_crBk;
-    UINT m_nFormat;
-    std::wstring m_strText;
-};
+        ::DrawTextW(dc, strShown.data(), static_cast<int>(strShown.size()), &rc,
+                    DT_NOPREFIX | DT_SINGLELINE);
+        return Picture::Of(dc, size);
+    };
+    const Ink ink(show(strText), show(L""), crBk);
+    ::SelectObject(dc, hOldFont);
+    return ink;
+}

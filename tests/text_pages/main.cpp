@@ -13,12 +13,5 @@ TEST(TextPage, ProcessIsInTheCodePageThatThisRunIsFor) {
 }
 
 int main(int argc, char** argv) {
-    testing::InitGoogleTest(&argc, argv);
-    ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX);
-    if (!AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), SW_SHOWNORMAL)) {
-        return 1;
-    }
-    const int nResult = RUN_ALL_TESTS();
-    AfxWinTerm();
-    return nResult;
+    return RunTests(argc, argv);
 }

@@ -51,13 +51,6 @@ int main(int argc, char** argv) {
         return PasteInto(argv[2]);
     }
     ExpectNoWindowManager();
-    testing::InitGoogleTest(&argc, argv);
-    ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX);
     ::SetUnhandledExceptionFilter(EndOnCrash);
-    if (!AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), SW_SHOWNORMAL)) {
-        return 1;
-    }
-    const int nResult = RUN_ALL_TESTS();
-    AfxWinTerm();
-    return nResult;
+    return RunTests(argc, argv);
 }

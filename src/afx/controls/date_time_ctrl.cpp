@@ -5,6 +5,36 @@
 
 IMPLEMENT_DYNAMIC(CDateTimeCtrl, CWnd)
 
+namespace {
+
+/// Both ends of a range in another type of time.
+template <class Time>
+DWORD GetRangeAs(const CDateTimeCtrl& ctrl, Time* pMin, Time* pMax) {
+    SYSTEMTIME first{};
+    SYSTEMTIME last{};
+    const DWORD dwResult = ctrl.GetRange(&first, &last);
+    if (pMin != nullptr && (dwResult & GDTR_MIN)) {
+        *pMin = Time(first);
+    }
+    if (pMax != nullptr && (dwResult & GDTR_MAX)) {
+        *pMax = Time(last);
+    }
+    return dwResult;
+}
+
+template <class Time>
+BOOL SetRangeAs(CDateTimeCtrl& ctrl, const Time* pMin, const Time* pMax) {
+    SYSTEMTIME first{};
+    SYSTEMTIME last{};
+    if ((pMin != nullptr && !pMin->GetAsSystemTime(first)) ||
+        (pMax != nullptr && !pMax->GetAsSystemTime(last))) {
+        return FALSE;
+    }
+    return ctrl.SetRange(pMin != nullptr ? &first : nullptr, pMax != nullptr ? &last : nullptr);
+}
+
+}  // namespace
+
 BOOL CDateTimeCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
     return CWnd::Create(DATETIMEPICK_CLASS, nullptr, dwStyle, rect, pParentWnd, nID);
 }
@@ -20,6 +50,17 @@ DWORD CDateTimeCtrl::GetTime(CTime& timeDest) const {
         timeDest = CTime(st);
     }
     return dwResult;
+}
+
+BOOL CDateTimeCtrl::GetTime(COleDateTime& timeDest) const {
+    SYSTEMTIME st = {};
+    const DWORD dwResult = GetTime(&st);
+    if (dwResult == GDT_VALID) {
+        timeDest = COleDateTime(st);
+    } else if (dwResult == GDT_NONE) {
+        timeDest.SetStatus(COleDateTime::null);
+    }
+    return dwResult == GDT_VALID;
 }
 
 BOOL CDateTimeCtrl::SetTime(LPSYSTEMTIME pTimeNew) {
@@ -40,6 +81,14 @@ BOOL CDateTimeCtrl::SetTime(const CTime* pTimeNew) {
     return pTimeNew->GetAsSystemTime(st) && SetTime(&st);
 }
 
+BOOL CDateTimeCtrl::SetTime(const COleDateTime& timeNew) {
+    if (timeNew.GetStatus() == COleDateTime::null) {
+        return SetTime(static_cast<LPSYSTEMTIME>(nullptr));
+    }
+    SYSTEMTIME st = {};
+    return timeNew.GetAsSystemTime(st) && SetTime(&st);
+}
+
 BOOL CDateTimeCtrl::SetFormat(LPCTSTR pstrFormat) {
     return AfxSend<BOOL>(m_hWnd, DTM_SETFORMAT, 0, pstrFormat);
 }
@@ -54,6 +103,22 @@ DWORD CDateTimeCtrl::GetRange(LPSYSTEMTIME pMinRange, LPSYSTEMTIME pMaxRange) co
         *pMaxRange = range[1];
     }
     return dwResult;
+}
+
+DWORD CDateTimeCtrl::GetRange(CTime* pMinRange, CTime* pMaxRange) const {
+    return GetRangeAs(*this, pMinRange, pMaxRange);
+}
+
+DWORD CDateTimeCtrl::GetRange(COleDateTime* pMinRange, COleDateTime* pMaxRange) const {
+    return GetRangeAs(*this, pMinRange, pMaxRange);
+}
+
+BOOL CDateTimeCtrl::SetRange(const CTime* pMinRange, const CTime* pMaxRange) {
+    return SetRangeAs(*this, pMinRange, pMaxRange);
+}
+
+BOOL CDateTimeCtrl::SetRange(const COleDateTime* pMinRange, const COleDateTime* pMaxRange) {
+    return SetRangeAs(*this, pMinRange, pMaxRange);
 }
 
 BOOL CDateTimeCtrl::SetRange(const LPSYSTEMTIME pMinRange, const LPSYSTEMTIME pMaxRange) {

@@ -423,13 +423,12 @@ static CMenu* FindMenuOfItem(HMENU hMenu, UINT nID) {
     return nullptr;
 }
 
-/// The control that asks. A list asks for one row after the other, and to find a control by its id
-/// all children are gone through: the one that asked before comes first.
-static HWND FindMeasured(HWND hParent, UINT nID) {
+/// The child that items belong to. Whoever fills a control asks for the same one many times, and
+/// the system searches.
+static HWND FindChildOfItems(HWND hWnd, UINT nID) {
     HWND& hLast = AfxGetWndState().hLastMeasured;
-    if (!::IsWindow(hLast) || ::GetParent(hLast) != hParent ||
-        static_cast<UINT>(::GetDlgCtrlID(hLast)) != nID) {
-        hLast = ::GetDlgItem(hParent, static_cast<int>(nID));
+    if (::GetParent(hLast) != hWnd || static_cast<UINT>(::GetDlgCtrlID(hLast)) != nID) {
+        hLast = ::GetDlgItem(hWnd, static_cast<int>(nID));
     }
     return hLast;
 }
@@ -445,7 +444,7 @@ void CWnd::OnMeasureItem(int, LPMEASUREITEMSTRUCT lpMeasureItemStruct) {
             return;
         }
     } else {
-        HWND hWndChild = FindMeasured(m_hWnd, lpMeasureItemStruct->CtlID);
+        HWND hWndChild = FindChildOfItems(m_hWnd, lpMeasureItemStruct->CtlID);
         if (hWndChild != nullptr && ReflectLastMsg(hWndChild)) {
             return;
         }

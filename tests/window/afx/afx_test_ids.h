@@ -18,8 +18,6 @@
 
 #define ID_ON_CLIENT 2201
 #define ID_ON_FRAME 2202
-#define ID_ON_APP 2203
 #define ID_ON_NOBODY 2204
 #define ID_SWITCHED_OFF 2205
-#define ID_CHECKED 2206
-#define ID_RENAMED 2207
+#define ID_OTHER 2206

@@ -127,9 +127,7 @@ TEST_F(DataExchange, RejectsWhatIsNoNumberOrOutOfBounds_AndKeepsTheOldValue) {
     for (LPCTSTR lpszBad : {"", "seven", "7x", "99999999999", "11", "-11"}) {
         EXPECT_TRUE(Rejected(IDC_NUMBER, lpszBad)) << lpszBad;
     }
-    const std::string& prompt = TheTestApp().m_prompts[0];
-    EXPECT_NE(prompt.find("-10 "), std::string::npos) << "the bounds are named";
-    EXPECT_NE(prompt.find("10."), std::string::npos);
+    EXPECT_EQ(TheTestApp().m_prompts[0], "Please enter a whole number from -10 to 10.");
     m_dlg.SetDlgItemText(IDC_NUMBER, "3");
     EXPECT_TRUE(Rejected(IDC_REAL, "1,5,2"));
     EXPECT_EQ(m_dlg.m_real, 2.5);

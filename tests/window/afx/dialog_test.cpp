@@ -1,19 +1,16 @@
-// Dialogs: modal loops, results, focus, PreTranslateMessage on the way of every message, resources
-// of another module.
+// Dialogs: modal loops, results, focus, PreTranslateMessage on the way of every message.
+#include "support/popup.h"
 #include "support/pump.h"
 #include "support/real_input.h"
 #include "support/recording_parent.h"
-#include "support/test_app.h"
 #include "window/afx/afx_test_ids.h"
-#include "window/second_module/second_module.h"
 #include "window/second_module/second_module_ids.h"
-
-#include <afxdlgs.h>
 
 #include <algorithm>
 #include <functional>
 #include <gtest/gtest.h>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -28,7 +25,6 @@ public:
 
     std::function<void(ModalDialog&)> m_action;
     std::function<void(ModalDialog&)> m_init;
-    int m_nPreTranslated = 0;
     BOOL m_bSwallowKeys = FALSE;
     LONG m_lLongestIdle = -1;  ///< highest count of idle calls in a row
 
@@ -41,16 +37,11 @@ public:
         return TRUE;
     }
     BOOL PreTranslateMessage(MSG* pMsg) override {
-        if (pMsg->message == kAct) {
-            ++m_nPreTranslated;
-        }
         if (m_bSwallowKeys && pMsg->message == WM_KEYDOWN) {
             return TRUE;
         }
         return CDialog::PreTranslateMessage(pMsg);
     }
-    using CDialog::OnCancel;
-    using CDialog::OnOK;
 
 protected:
     afx_msg LRESULT OnAct(WPARAM, LPARAM) {
@@ -76,24 +67,29 @@ END_MESSAGE_MAP()
 TEST(ModalDialogs, GiveTheResultOfTheirEnd_AndDisableTheirOwnerMeanwhile) {
     RecordingParent parent;
     ModalDialog dlg(&parent);
-    bool bParentDisabled = false;
-    dlg.m_action = [&](ModalDialog& d) {
-        bParentDisabled = !parent.IsWindowEnabled();
-        EXPECT_EQ(::GetWindow(d.m_hWnd, GW_OWNER), parent.m_hWnd);
-        d.EndDialog(77);
+    dlg.m_action = [&](ModalDialog& outer) {
+        EXPECT_FALSE(parent.IsWindowEnabled());
+        EXPECT_EQ(::GetWindow(outer.m_hWnd, GW_OWNER), parent.m_hWnd);
+        ModalDialog inner(&outer, IDD_SECOND);
+        inner.m_action = [&](ModalDialog& d) {
+            EXPECT_NE(d.GetDlgItem(IDC_SECOND_EDIT), nullptr) << "of another module";
+            EXPECT_FALSE(outer.IsWindowEnabled());
+            d.EndDialog(11);
+        };
+        EXPECT_EQ(inner.DoModal(), 11);
+        EXPECT_TRUE(outer.IsWindowEnabled());
+        EXPECT_FALSE(parent.IsWindowEnabled());
+        outer.EndDialog(77);
     };
     EXPECT_EQ(dlg.DoModal(), 77);
-    EXPECT_TRUE(bParentDisabled);
     EXPECT_TRUE(parent.IsWindowEnabled());
     EXPECT_EQ(dlg.m_hWnd, nullptr);
-    EXPECT_EQ(dlg.m_nPreTranslated, 1);
 
-    dlg.m_action = [](ModalDialog& d) { d.OnCancel(); };
-    EXPECT_EQ(dlg.DoModal(), IDCANCEL) << "the same object runs again";
     dlg.m_action = [](ModalDialog& d) { d.SendMessage(WM_COMMAND, IDOK); };
-    EXPECT_EQ(dlg.DoModal(), IDOK);
+    EXPECT_EQ(dlg.DoModal(), IDOK) << "the same object runs again";
     dlg.m_action = [](ModalDialog& d) { d.SendMessage(WM_CLOSE); };
     EXPECT_EQ(dlg.DoModal(), IDCANCEL);
+    EXPECT_EQ(ModalDialog(nullptr, 9999).DoModal(), -1) << "no such template";
 }
 
 void CALLBACK ActLater(HWND hWnd, UINT, UINT_PTR nID, DWORD) {
@@ -124,25 +120,14 @@ TEST(ModalDialogs, ShowThemselvesWhenTheQueueIsEmpty_ThenIdle) {
     EXPECT_EQ(dlg.m_lLongestIdle, kIdleRounds) << "called again while it gives TRUE, then no more";
 }
 
-TEST(ModalDialogs, Nest) {
-    RecordingParent parent;
-    ModalDialog outer(&parent);
-    outer.m_action = [&](ModalDialog& d) {
-        ModalDialog inner(&d);
-        inner.m_action = [&](ModalDialog& i) {
-            EXPECT_FALSE(d.IsWindowEnabled());
-            i.EndDialog(11);
-        };
-        EXPECT_EQ(inner.DoModal(), 11);
-        EXPECT_TRUE(d.IsWindowEnabled());
-        EXPECT_FALSE(parent.IsWindowEnabled());
-        d.EndDialog(22);
-    };
-    EXPECT_EQ(outer.DoModal(), 22);
-}
-
+/// A template in memory: a caption and nothing else.
 TEST(ModalDialogs, EndedWhileBeingMade_NeverRun) {
-    ModalDialog dlg;
+    const struct {
+        DLGTEMPLATE dlg = {WS_POPUP | WS_CAPTION, 0, 0, 0, 0, 50, 50};
+        WORD empty[4] = {};  // no menu, the usual class, no title
+    } memory;
+    ModalDialog dlg(nullptr, 0);
+    ASSERT_TRUE(dlg.InitModalIndirect(&memory.dlg));
     int nActions = 0;
     dlg.m_init = [](ModalDialog& d) { d.EndDialog(5); };
     dlg.m_action = [&](ModalDialog&) { ++nActions; };
@@ -181,109 +166,48 @@ TEST(ModelessDialogs, LiveBesideTheirParentUntilDestroyed) {
     EXPECT_TRUE(parent.IsWindowEnabled());
     PumpPending();
     EXPECT_EQ(nActions, 1);
-    EXPECT_EQ(dlg.GetDefID() & 0xFFFF, static_cast<DWORD>(IDOK));
-    dlg.GotoDlgCtrl(dlg.GetDlgItem(IDCANCEL));
     EXPECT_TRUE(dlg.DestroyWindow());
     EXPECT_FALSE(dlg.Create(9999u, &parent));
-    EXPECT_EQ(ModalDialog(nullptr, 9999).DoModal(), -1);
-}
-
-/// A template in memory: a caption and nothing else.
-TEST(ModalDialogs, RunFromATemplateInMemory) {
-    struct {
-        DLGTEMPLATE dlg = {WS_POPUP | WS_CAPTION, 0, 0, 0, 0, 50, 50};
-        WORD empty[4] = {};  // no menu, the usual class, no title
-    } memory;
-    class MemoryDialog : public CDialog {
-    public:
-        BOOL OnInitDialog() override {
-            PostMessage(WM_COMMAND, IDOK);
-            return CDialog::OnInitDialog();
-        }
-    } dlg;
-    ASSERT_TRUE(dlg.InitModalIndirect(&memory.dlg));
-    EXPECT_EQ(dlg.DoModal(), IDOK);
-}
-
-TEST(ResourcesOfOtherModules, AreFoundWithoutNamingTheModule) {
-    CString str;
-    ASSERT_TRUE(str.LoadString(IDS_SECOND));
-    EXPECT_STREQ(str, "text of the second module");
-    HINSTANCE hInst = AfxFindResourceHandle(MAKEINTRESOURCE(IDD_SECOND), RT_DIALOG);
-    EXPECT_EQ(hInst, ::GetModuleHandle("second_module.dll"));
-
-    ModalDialog dlg(nullptr, IDD_SECOND);
-    bool bEdit = false;
-    dlg.m_action = [&](ModalDialog& d) {
-        bEdit = d.GetDlgItem(IDC_SECOND_EDIT) != nullptr;
-        d.OnOK();
-    };
-    EXPECT_EQ(dlg.DoModal(), IDOK);
-    EXPECT_TRUE(bEdit);
 }
 
 /// Notes its name when a message passes on its way to be dispatched.
 class WatchingWnd : public CWnd {
 public:
-    WatchingWnd(std::string name, std::vector<std::string>& log) : m_name(name), m_log(log) {}
+    WatchingWnd(const char* pszName, std::string& strLog) : m_pszName(pszName), m_strLog(strLog) {}
     bool m_bTake = false;
 
     BOOL PreTranslateMessage(MSG* pMsg) override {
-        if (pMsg->message == WM_APP) {
-            m_log.push_back(m_name);
-            return m_bTake;
-        }
-        return FALSE;
+        m_strLog += pMsg->message == WM_APP ? m_pszName : "";
+        return pMsg->message == WM_APP && m_bTake;
     }
 
 private:
-    std::string m_name;
-    std::vector<std::string>& m_log;
+    const char* m_pszName;
+    std::string& m_strLog;
 };
 
 TEST(PreTranslate, WalksFromTheTargetUpToTheStop) {
-    std::vector<std::string> log;
-    WatchingWnd top("top", log);
-    WatchingWnd middle("middle", log);
-    WatchingWnd leaf("leaf", log);
-    ASSERT_TRUE(top.CreateEx(0, nullptr, "", WS_POPUP, 0, 0, 50, 50, nullptr, nullptr));
-    ASSERT_TRUE(middle.Create(nullptr, "", 0, CRect(0, 0, 9, 9), &top, 1));
+    std::string strLog;
+    WatchingWnd top(">top", strLog);
+    WatchingWnd middle(">middle", strLog);
+    WatchingWnd leaf("leaf", strLog);
+    const CRect rc(0, 0, 9, 9);
+    ASSERT_TRUE(MakePopup(top));
+    ASSERT_TRUE(middle.Create(nullptr, "", 0, rc, &top, 1));
     HWND hPlain = ::CreateWindowEx(0, "STATIC", "", WS_CHILD, 0, 0, 1, 1, middle.m_hWnd, nullptr,
                                    nullptr, nullptr);
     ASSERT_TRUE(leaf.CreateEx(0, nullptr, "", WS_CHILD, 0, 0, 1, 1, hPlain, nullptr));
-
     MSG msg = {};
     msg.hwnd = leaf.m_hWnd;
     msg.message = WM_APP;
-    const auto walk = [&](HWND hWndStop, BOOL bTaken) {
-        log.clear();
-        EXPECT_EQ(CWnd::WalkPreTranslateTree(hWndStop, &msg), bTaken);
-        return log;
-    };
-    const std::vector<std::string> upToMiddle{"leaf", "middle"};
-    EXPECT_EQ(walk(top.m_hWnd, FALSE), (std::vector<std::string>{"leaf", "middle", "top"}));
-    EXPECT_EQ(walk(middle.m_hWnd, FALSE), upToMiddle);
+    EXPECT_FALSE(CWnd::WalkPreTranslateTree(top.m_hWnd, &msg));
+    EXPECT_EQ(std::exchange(strLog, {}), "leaf>middle>top");
+    EXPECT_FALSE(CWnd::WalkPreTranslateTree(middle.m_hWnd, &msg));
+    EXPECT_EQ(std::exchange(strLog, {}), "leaf>middle");
     middle.m_bTake = true;
-    EXPECT_EQ(walk(nullptr, TRUE), upToMiddle);
-
-    // In the pump a message that was taken is not dispatched.
-    log.clear();
     leaf.PostMessage(WM_APP);
     PumpPending();
-    EXPECT_EQ(log, upToMiddle);
-}
-
-TEST(FileDialogs, TakePathsAndFiltersApart) {
-    CFileDialog dlg(TRUE, "txt", "C:\\folder\\name.tar.gz", OFN_ALLOWMULTISELECT,
-                    "Texts (*.txt)|*.txt|All|*.*||");
-    EXPECT_STREQ(dlg.m_ofn.lpstrFilter, "Texts (*.txt)");
-    EXPECT_EQ(memcmp(dlg.m_ofn.lpstrFilter, "Texts (*.txt)\0*.txt\0All\0*.*\0", 28), 0);
-    EXPECT_STREQ(dlg.GetFileName(), "name.tar.gz");
-    EXPECT_STREQ(dlg.GetFileTitle(), "name.tar");
-    EXPECT_STREQ(dlg.GetFileExt(), "gz");
-    POSITION pos = dlg.GetStartPosition();
-    EXPECT_STREQ(dlg.GetNextPathName(pos), "C:\\folder\\name.tar.gz");
-    EXPECT_EQ(pos, nullptr);
+    EXPECT_EQ(strLog, "leaf>middle");
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include <ctime>
 #include <gtest/gtest.h>
+#include <vector>
 
 namespace {
 
@@ -13,12 +14,9 @@ constexpr double kSecond = 1.0 / 86400;
 void ExpectFields(const COleDateTime& date, int nYear, int nMonth, int nDay, int nHour = 0,
                   int nMin = 0, int nSec = 0) {
     EXPECT_EQ(date.GetStatus(), COleDateTime::valid);
-    EXPECT_EQ(date.GetYear(), nYear);
-    EXPECT_EQ(date.GetMonth(), nMonth);
-    EXPECT_EQ(date.GetDay(), nDay);
-    EXPECT_EQ(date.GetHour(), nHour);
-    EXPECT_EQ(date.GetMinute(), nMin);
-    EXPECT_EQ(date.GetSecond(), nSec);
+    EXPECT_EQ(std::vector<int>({date.GetYear(), date.GetMonth(), date.GetDay(), date.GetHour(),
+                                date.GetMinute(), date.GetSecond()}),
+              std::vector<int>({nYear, nMonth, nDay, nHour, nMin, nSec}));
 }
 
 COleDateTime Parsed(LPCTSTR lpszText, LCID lcid = kEnglish, DWORD dwFlags = 0) {
@@ -44,7 +42,6 @@ TEST(OleDateTime, FieldsComeBackAsTheyWentIn) {
     EXPECT_EQ(date.GetDayOfYear(), 366);
     SYSTEMTIME st;
     ASSERT_TRUE(date.GetAsSystemTime(st));
-    EXPECT_EQ(st.wMilliseconds, 0);
     EXPECT_EQ(COleDateTime(st), date);
 }
 
@@ -56,8 +53,6 @@ TEST(OleDateTime, TimesOfOtherKindsBecomeLocalTime) {
     const ULONGLONG nUnits = (1700000000ULL + 11644473600ULL) * 10000000;
     const FILETIME ft{static_cast<DWORD>(nUnits), static_cast<DWORD>(nUnits >> 32)};
     EXPECT_EQ(COleDateTime(ft), COleDateTime(time));
-    const COleDateTime before(_time64(nullptr));
-    EXPECT_LE(before, COleDateTime::GetCurrentTime());
     EXPECT_EQ(COleDateTime(__time64_t{-1} << 62).GetStatus(), COleDateTime::invalid);
 }
 
@@ -73,12 +68,6 @@ TEST(OleDateTime, SettersKeepTheValueWhenTheyRefuse) {
     EXPECT_EQ(date.m_dt, dtBefore);
     EXPECT_EQ(date.GetStatus(), COleDateTime::invalid);
     EXPECT_EQ(date.GetYear(), COleDateTime::error);
-    SYSTEMTIME st;
-    EXPECT_FALSE(date.GetAsSystemTime(st));
-    EXPECT_EQ(COleDateTime(99, 1, 1, 0, 0, 0).m_dt, 0);
-
-    EXPECT_EQ(date.SetTime(18, 0, 0), 0);
-    EXPECT_DOUBLE_EQ(date.m_dt, 0.75);
     EXPECT_EQ(date.SetDate(2023, 2, 30), 0);
     ExpectFields(date, 2023, 3, 2);
     EXPECT_EQ(date.SetDate(2024, 3, 0), 0);
@@ -105,10 +94,7 @@ TEST(OleDateTime, TextThatIsNoDateLeavesNothing) {
         EXPECT_EQ(date.GetStatus(), COleDateTime::invalid) << lpszText;
         EXPECT_EQ(date.m_dt, 0) << lpszText;
     }
-    COleDateTime date;
-    EXPECT_FALSE(date.ParseDateTime(nullptr));
-    EXPECT_TRUE(date.ParseDateTime("2024-05-17"));
-    EXPECT_EQ(date.GetStatus(), COleDateTime::valid);
+    EXPECT_FALSE(COleDateTime().ParseDateTime(nullptr));
 }
 
 TEST(OleDateTime, FormatsByLocaleAndByCodes) {
@@ -123,9 +109,7 @@ TEST(OleDateTime, FormatsByLocaleAndByCodes) {
     COleDateTime nothing(date);
     nothing.SetStatus(COleDateTime::null);
     EXPECT_STREQ(nothing.Format(), "");
-    EXPECT_STREQ(nothing.Format("%Y"), "");
     nothing.SetStatus(COleDateTime::invalid);
-    EXPECT_STREQ(nothing.Format(), "Not a date");
     EXPECT_STREQ(nothing.Format("%Y"), "Not a date");
 }
 
@@ -133,10 +117,6 @@ TEST(OleDateTime, ComparesByTheOrderOfTime) {
     const COleDateTime six(1899, 12, 29, 6, 0, 0);
     const COleDateTime seven(1899, 12, 29, 7, 0, 0);
     EXPECT_LT(six, seven);
-    EXPECT_GT(seven, six);
-    EXPECT_LE(six, six);
-    EXPECT_GE(six, six);
-    EXPECT_NE(six, seven);
     EXPECT_LT(seven, COleDateTime(1899, 12, 30, 0, 0, 0));
     COleDateTime a(six);
     COleDateTime b(seven);
@@ -144,8 +124,6 @@ TEST(OleDateTime, ComparesByTheOrderOfTime) {
     EXPECT_NE(a, six);
     b.SetStatus(COleDateTime::null);
     EXPECT_EQ(a, b);
-    b = 2.5;
-    EXPECT_EQ(b.GetStatus(), COleDateTime::valid);
 }
 
 TEST(OleDateTime, SpansCarryDatesAcrossTheZeroDay) {
@@ -167,23 +145,20 @@ TEST(OleDateTime, SpansCarryDatesAcrossTheZeroDay) {
     EXPECT_EQ(span.GetSeconds(), 3);
     EXPECT_EQ(span.GetTotalHours(), 49);
     EXPECT_EQ((-span).GetTotalMinutes(), -(49 * 60 + 2));
-    EXPECT_EQ((span + span - span).GetTotalSeconds(), span.GetTotalSeconds());
-    EXPECT_EQ(COleDateTimeSpan(1.0), COleDateTimeSpan(0, 24, 0, 0));
-    EXPECT_LT(-span, span);
 }
 
 TEST(OleDateTime, ArithmeticPassesOnWhatHasNoValue) {
     const COleDateTime last(9999, 12, 31, 12, 0, 0);
-    EXPECT_EQ((last + COleDateTimeSpan(0, 11, 0, 0)).GetStatus(), COleDateTime::valid);
-    EXPECT_EQ((last + COleDateTimeSpan(1, 0, 0, 0)).GetStatus(), COleDateTime::invalid);
     const COleDateTime first(100, 1, 1, 12, 0, 0);
-    EXPECT_EQ((first - COleDateTimeSpan(0, 11, 0, 0)).GetStatus(), COleDateTime::valid);
-    EXPECT_EQ((first - COleDateTimeSpan(1, 0, 0, 0)).GetStatus(), COleDateTime::invalid);
     COleDateTime invalid;
     invalid.SetStatus(COleDateTime::invalid);
     COleDateTime null;
     null.SetStatus(COleDateTime::null);
-    EXPECT_EQ((invalid + COleDateTimeSpan(1.0)).GetStatus(), COleDateTime::invalid);
+    const COleDateTimeSpan day(1.0);
+    EXPECT_EQ((last + day).GetStatus(), COleDateTime::invalid);
+    EXPECT_EQ((first - day).GetStatus(), COleDateTime::invalid);
+    EXPECT_EQ((first + day).GetStatus(), COleDateTime::valid);
+    EXPECT_EQ((invalid + day).GetStatus(), COleDateTime::invalid);
     EXPECT_EQ((null - invalid).GetStatus(), COleDateTimeSpan::null);
     EXPECT_EQ((invalid - last).GetStatus(), COleDateTimeSpan::invalid);
     EXPECT_EQ(COleDateTimeSpan(4000000.0).GetStatus(), COleDateTimeSpan::invalid);

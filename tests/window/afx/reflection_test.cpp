@@ -23,9 +23,7 @@ protected:
         *pResult = TRUE;  // no expanding
         return m_bKeep;
     }
-    afx_msg void OnSelChanged(NMHDR* pNMHDR, LRESULT*) {
-        m_nAlways += reinterpret_cast<NMTREEVIEW*>(pNMHDR)->itemNew.hItem != nullptr;
-    }
+    afx_msg void OnSelChanged(NMHDR*, LRESULT*) { ++m_nAlways; }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -41,8 +39,7 @@ TEST(Reflection, Notifications_GoToTheChildFirst_ThenToTheParentIfDeclined) {
     HTREEITEM hRoot = tree.InsertItem("root");
     tree.InsertItem("leaf", hRoot);
 
-    tree.SendMessage(TVM_EXPAND, TVE_EXPAND, reinterpret_cast<LPARAM>(hRoot));
-    EXPECT_EQ(tree.m_nSeen, 1);
+    tree.Expand(hRoot, TVE_EXPAND);
     EXPECT_EQ(parent.Count(TVN_ITEMEXPANDING), 0);
     EXPECT_EQ(tree.GetItemState(hRoot, TVIS_EXPANDED), 0u) << "the child's result counts";
 
@@ -50,9 +47,7 @@ TEST(Reflection, Notifications_GoToTheChildFirst_ThenToTheParentIfDeclined) {
     parent.SetResult(TVN_ITEMEXPANDING, FALSE);
     tree.Expand(hRoot, TVE_EXPAND);
     EXPECT_EQ(tree.m_nSeen, 2);
-    ASSERT_EQ(parent.Count(TVN_ITEMEXPANDING), 1);
-    EXPECT_EQ(parent.Last(TVN_ITEMEXPANDING)->As<NMTREEVIEW>().itemNew.hItem, hRoot);
-    EXPECT_EQ(parent.Last(TVN_ITEMEXPANDING)->idFrom, kControl);
+    EXPECT_EQ(parent.Count(TVN_ITEMEXPANDING), 1);
     EXPECT_NE(tree.GetItemState(hRoot, TVIS_EXPANDED), 0u);
 
     tree.SelectItem(hRoot);
@@ -106,13 +101,11 @@ TEST(Reflection, ControlCodesAndColours) {
 /// Draws its items as bars whose colour is the item data.
 class BarListBox : public CListBox {
 public:
-    int m_nMeasured = 0;
     int m_nDeleted = 0;
-    int m_nCompared = 0;
+    UINT m_nHeight = 20;
 
     void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct) override {
-        ++m_nMeasured;
-        lpMeasureItemStruct->itemHeight = 20;
+        lpMeasureItemStruct->itemHeight = m_nHeight;
     }
     void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override {
         CDC* pDC = CDC::FromHandle(lpDrawItemStruct->hDC);
@@ -120,7 +113,6 @@ public:
                            static_cast<COLORREF>(lpDrawItemStruct->itemData));
     }
     int CompareItem(LPCOMPAREITEMSTRUCT lpCompareItemStruct) override {
-        ++m_nCompared;
         const ULONG_PTR first = lpCompareItemStruct->itemData1;
         const ULONG_PTR second = lpCompareItemStruct->itemData2;
         return first < second ? -1 : first > second ? 1 : 0;
@@ -137,16 +129,19 @@ TEST(Reflection, OwnerDrawing_CallsTheControlsVirtuals) {
     for (COLORREF cr : {RGB(0, 0, 9), RGB(0, 0, 3), RGB(0, 0, 6)}) {
         list.AddString(reinterpret_cast<LPCTSTR>(static_cast<UINT_PTR>(cr)));
     }
-    EXPECT_EQ(list.m_nMeasured, 3);
-    EXPECT_GE(list.m_nCompared, 3);
     EXPECT_EQ(list.GetItemData(0), RGB(0, 0, 3));
-    EXPECT_EQ(list.GetItemData(2), RGB(0, 0, 9));
-    EXPECT_EQ(list.GetItemHeight(0), 20);
     const Picture picture = Picture::OfClient(list.m_hWnd);
     EXPECT_EQ(picture.At(5, 10), RGB(0, 0, 3));
     EXPECT_EQ(picture.At(5, 30), RGB(0, 0, 6));
-    list.ResetContent();
-    EXPECT_EQ(list.m_nDeleted, 3);
+    BarListBox other;
+    other.m_nHeight = 30;
+    other.Create(WS_CHILD | LBS_OWNERDRAWVARIABLE, CRect(0, 0, 100, 100), &parent, kControl + 1);
+    for (BarListBox* pList : {&other, &list, &other}) {
+        pList->AddString(nullptr);
+        EXPECT_EQ(pList->GetItemHeight(0), static_cast<int>(pList->m_nHeight));
+        pList->ResetContent();
+    }
+    EXPECT_EQ(list.m_nDeleted, 4);
 }
 
 class BarButton : public CButton {
@@ -159,14 +154,10 @@ public:
 
 class SlidingBar : public CScrollBar {
 public:
-    UINT m_nCode = 0;
     UINT m_nPos = 0;
 
 protected:
-    afx_msg void HScroll(UINT nSBCode, UINT nPos) {
-        m_nCode = nSBCode;
-        m_nPos = nPos;
-    }
+    afx_msg void HScroll(UINT, UINT nPos) { m_nPos = nPos; }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -180,13 +171,10 @@ TEST(Reflection, ButtonsAndScrollBars) {
     ASSERT_TRUE(button.Create("", WS_CHILD | WS_VISIBLE | BS_OWNERDRAW, CRect(0, 0, 30, 30),
                               &parent, kControl));
     EXPECT_EQ(Picture::OfClient(button.m_hWnd).Count(RGB(9, 8, 7)), 900);
-
     SlidingBar bar;
-    ASSERT_TRUE(
-        bar.Create(WS_CHILD | WS_VISIBLE | SBS_HORZ, CRect(0, 50, 100, 70), &parent, kControl + 1));
+    ASSERT_TRUE(bar.Create(WS_CHILD | SBS_HORZ, CRect(0, 50, 100, 70), &parent, kControl));
     parent.SendMessage(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 12),
                        reinterpret_cast<LPARAM>(bar.m_hWnd));
-    EXPECT_EQ(bar.m_nCode, static_cast<UINT>(SB_THUMBPOSITION));
     EXPECT_EQ(bar.m_nPos, 12u);
 }
 

@@ -96,6 +96,7 @@ TEST(BitmapListBoxRows, HeightsFitFontAndImage) {
     OpenListBox list;
     ASSERT_TRUE(list.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 99, 99), &parent, kBoxId));
     EXPECT_EQ(list.GetStyle() & kBoxStyle & 0x60, 0x60u);
+    list.SetHeader(kBoxHeaderId);
     EXPECT_EQ(list.Initialize(kBoxId, kListImages, kListImageMask, 0, &parent), 1);
     list.AddBitmapString(0, "a");
     EXPECT_GT(list.GetItemHeight(0), 0);

@@ -3,13 +3,7 @@
 
 static AFX_EXTENSION_MODULE LateModule;
 
-/// Made by name alone.
-class LateObject : public CObject {
-    DECLARE_DYNCREATE(LateObject)
-};
-IMPLEMENT_DYNCREATE(LateObject, CObject)
-
-/// Its message map lies in the module.
+/// Made by name alone; its message map lies in the module.
 class LateWnd : public CWnd {
     DECLARE_DYNCREATE(LateWnd)
 

@@ -2,22 +2,7 @@
 
 static AFX_EXTENSION_MODULE s_module;
 
-IMPLEMENT_DYNAMIC(ModuleWnd, CWnd)
-
-BEGIN_MESSAGE_MAP(ModuleWnd, CWnd)
-    ON_WM_SIZE()
-    ON_WM_TIMER()
-END_MESSAGE_MAP()
-
-void ModuleWnd::OnSize(UINT nType, int cx, int cy) {
-    ++m_nBaseSize;
-    CWnd::OnSize(nType, cx, cy);
-}
-
-void ModuleWnd::OnTimer(UINT_PTR nIDEvent) {
-    ++m_nBaseTimer;
-    CWnd::OnTimer(nIDEvent);
-}
+IMPLEMENT_DYNAMIC(ModuleObject, CObject)
 
 extern "C" BOOL WINAPI DllMain(HINSTANCE hInstance, DWORD dwReason, LPVOID) {
     if (dwReason == DLL_PROCESS_ATTACH) {

@@ -1,4 +1,4 @@
-// An extension module for tests: a window class to derive from, and resources of its own.
+// An extension module for tests: a class and resources of its own.
 #pragma once
 
 #include <afxwin.h>
@@ -9,16 +9,6 @@
 #define SECOND_MODULE_API __declspec(dllimport)
 #endif
 
-/// Its map lies in the module; programs derive from it.
-class SECOND_MODULE_API ModuleWnd : public CWnd {
-    DECLARE_DYNAMIC(ModuleWnd)
-
-public:
-    int m_nBaseSize = 0;   ///< calls of the module's WM_SIZE handler
-    int m_nBaseTimer = 0;  ///< calls of the module's WM_TIMER handler
-
-protected:
-    afx_msg void OnSize(UINT nType, int cx, int cy);
-    afx_msg void OnTimer(UINT_PTR nIDEvent);
-    DECLARE_MESSAGE_MAP()
+class SECOND_MODULE_API ModuleObject : public CObject {
+    DECLARE_DYNAMIC(ModuleObject)
 };

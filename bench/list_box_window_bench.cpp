@@ -240,7 +240,7 @@ void MeasurePaint() {
 
 }  // namespace
 
-void MeasureBoxes() {
+void MeasureListBox() {
     MeasureFill("boxes/list-fill-20k", 0, false);
     MeasureFill("boxes/list-sorted-20k", LBS_SORT, false);
     MeasureFill("boxes/list-sorted-20k-by-image", LBS_SORT, true);
