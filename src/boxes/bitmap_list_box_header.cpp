@@ -366,7 +366,7 @@ int QVBitmapListBox::CreateHeader(CHeaderCtrl& header, UINT nID, CRect& rc, int 
     if (!watch) {
         return FALSE;
     }
-    header.SetFont(GetFont(), TRUE);
+    header.SendMessage(WM_SETFONT, static_cast<WPARAM>(SendMessage(WM_GETFONT)), TRUE);
     CRect rcLeft(rc);
     WINDOWPOS pos{};
     HDLAYOUT layout{&rcLeft, &pos};
