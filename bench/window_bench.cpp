@@ -1,4 +1,5 @@
-// The controls in real windows: window_bench [tree | list | grid | text]; all without an argument.
+// The controls in real windows: window_bench [tree | list | grid | text | boxes]; all without an
+// argument.
 
 #include "window_bench.h"
 
@@ -29,6 +30,10 @@ int main(int argc, char** argv) {
     }
     if (asked("text")) {
         MeasureText();
+    }
+    if (asked("boxes")) {
+        MeasureListBox();
+        MeasureCombo();
     }
     return 0;
 }

@@ -2,6 +2,14 @@
 
 #pragma once
 
+#include "boxes/bitmap_combo_box.h"
+#include "boxes/bitmap_list_box.h"
+#include "boxes/color_combo_box.h"
+#include "buttons/bitmap_button.h"
+#include "buttons/check_wnd.h"
+#include "buttons/macro_button.h"
+#include "buttons/menu_button.h"
+#include "buttons/tool_button.h"
 #include "common/locale_info.h"
 #include "containers/header_wnd.h"
 #include "containers/list_header_wnd.h"

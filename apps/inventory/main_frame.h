@@ -32,6 +32,8 @@ protected:
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg void OnReload();
+    afx_msg void OnPreview();
+    afx_msg void OnPrint();
     afx_msg void OnUpdateMessage(CCmdUI* pCmdUI);
     afx_msg void OnUpdateMarked(CCmdUI* pCmdUI);
     DECLARE_MESSAGE_MAP()

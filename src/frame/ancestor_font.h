@@ -18,6 +18,15 @@ inline CFont* NearestFont(CWnd* pWnd) {
     return nullptr;
 }
 
+// Gives a window that has no font the nearest one, if there is any.
+inline void TakeNearestFont(CWnd& wnd) {
+    if (wnd.GetFont() == nullptr) {
+        if (CFont* pFont = NearestFont(wnd.GetParent())) {
+            wnd.SetFont(pFont, TRUE);
+        }
+    }
+}
+
 // Height of a window's font as it was asked for, in pixels: lfHeight without its sign. 0 for a
 // window without font.
 inline int AskedFontHeight(const CWnd& wnd) {

@@ -24,6 +24,18 @@ BOOL CreateWhole(CWnd& wnd, Create create) {
     return bCreated;
 }
 
+// Attaches wnd, which has no window, to the item nID of a dialog. False, and without a window
+// still, if there is no such item or no memory.
+inline bool AttachToItem(CWnd& wnd, UINT nID, CWnd* pParent) {
+    BOOL bAttached = FALSE;
+    if (!MemorySuffices(
+            [&] { bAttached = pParent != nullptr && wnd.SubclassDlgItem(nID, pParent); }) &&
+        wnd.m_hWnd != nullptr) {
+        wnd.UnsubclassWindow();
+    }
+    return bAttached != FALSE;
+}
+
 // WM_CREATE of a control: the default handling, then initialize(nID, pParent) as for an item of a
 // dialog. The result of the message: -1 if either fails, or memory does.
 template <class Default, class Initialize>

@@ -99,7 +99,7 @@ bool QVListCtrlEx::SetUp(UINT nBitmapID, COLORREF crMask, int cx) {
     const qv::WindowWatch watch(m_alive, m_hWnd);
     ModifyStyle(LVS_TYPEMASK, LVS_REPORT | LVS_OWNERDRAWFIXED, 0);
     LoadImages(nBitmapID, crMask, cx);
-    TakeFontOfParents();
+    qv::TakeNearestFont(*this);
     MeasureFont();
     CRect rcClient;
     GetClientRect(&rcClient);
@@ -141,15 +141,6 @@ void QVListCtrlEx::LoadImages(UINT nBitmapID, COLORREF crMask, int cx) {
     m_nImageHeight = size.cy;
     if (bLoaded) {
         SetImageList(&m_imageList, LVSIL_SMALL);
-    }
-}
-
-void QVListCtrlEx::TakeFontOfParents() {
-    if (GetFont() != nullptr) {
-        return;
-    }
-    if (CFont* pFont = qv::NearestFont(GetParent())) {
-        SetFont(pFont, TRUE);
     }
 }
 

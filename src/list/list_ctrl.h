@@ -265,7 +265,6 @@ private:
     int FirstTextColumn() const { return m_bImageFirstCol ? 1 : 0; }
     bool SetUp(UINT nBitmapID, COLORREF crMask, int cx);
     void LoadImages(UINT nBitmapID, COLORREF crMask, int cx);
-    void TakeFontOfParents();
     void MeasureFont();
     bool HasFocus() const { return ::GetFocus() == m_hWnd; }
     bool ShowsSelAlways() const { return (GetStyle() & LVS_SHOWSELALWAYS) != 0; }

@@ -267,6 +267,55 @@ TEST_F(Outside, AList) {
     List().LooksAtItself(m_parent);
 }
 
+// --- Combo boxes
+
+class BitmapCombo : public QVBitmapComboBox {
+public:
+    void LooksAtItself(CWnd& parent) {
+        ASSERT_TRUE(Create(WS_CHILD | CBS_DROPDOWNLIST, kRect, &parent, 1));
+        EXPECT_EQ(GetStyle() & 0xFF0, DWORD{CBS_OWNERDRAWVARIABLE | CBS_HASSTRINGS});
+        EXPECT_EQ(Initialize(1, 30008, RGB(0, 128, 128), 12, &parent), 1);
+        EXPECT_EQ(m_nBitmapWidth + m_nBitmapHeight + m_nFontHeight, 36);
+        EXPECT_EQ(m_nItemHeight, 14);
+        EXPECT_EQ(m_imageList.GetImageCount(), 4);
+        EXPECT_FALSE(m_bSortByImageIndex);
+        EXPECT_EQ(NumStyles(), 1);
+        AddBitmapString(2, MakeStyleText("text", 0));
+        CString strText;
+        GetDisplayText(0, 0, FALSE, strText);
+        EXPECT_STREQ(strText, "\033atext");
+        int nImage = 0;
+        ExtractInfo("a\t7", nImage, strText);
+        EXPECT_EQ(nImage, 7);
+        EXPECT_EQ(GetItemIndent(0, 0), 0);
+    }
+};
+
+class ColorCombo : public QVColorComboBox {
+public:
+    void LooksAtItself(CWnd& parent) {
+        ASSERT_TRUE(Create(WS_CHILD | CBS_DROPDOWNLIST, kRect, &parent, 1));
+        EXPECT_EQ(GetStyle() & 0xFF0, DWORD{CBS_OWNERDRAWVARIABLE | CBS_HASSTRINGS});
+        COLORREF aColors[] = {RGB(1, 2, 3), RGB(4, 5, 6)};
+        EXPECT_EQ(Initialize(1, aColors, 2, &parent), 1);
+        EXPECT_EQ(m_aColors[1], aColors[1]);
+        EXPECT_EQ(m_nItemHeight, 14);
+        CalcItemHeight();
+        EXPECT_EQ(m_nItemHeight, 16);
+        CString strText;
+        int nColor = 0;
+        ExtractInfo("a\tb\t7", nColor, strText);
+        EXPECT_STREQ(strText, "a\tb");
+        CClientDC dc(&parent);
+        DrawColorBox(&dc, 1, CPoint(0, 0));
+    }
+};
+
+TEST_F(Outside, ComboBoxes) {
+    BitmapCombo().LooksAtItself(m_parent);
+    ColorCombo().LooksAtItself(m_parent);
+}
+
 // --- Captions
 
 template <class Base>

@@ -1,6 +1,7 @@
 // What the controls show of a text, beside the platform's wide calls.
 #include "ink.h"
 #include "page_text.h"
+#include "support/combo_window.h"
 #include "support/grid_window.h"
 #include "support/list_window.h"
 #include "support/text_window.h"
@@ -92,6 +93,35 @@ TEST(TextControls, ListShowsCellsAndHeadings) {
         CString strHeadings;
         EXPECT_EQ(list.MakeHeaderString(strHeadings), 2);
         EXPECT_EQ(std::string(strHeadings), word.str + "\t" + word.str);
+    }
+}
+
+TEST(TextControls, ComboBoxesShowTheirSelectedRow) {
+    ComboWindow<QVBitmapComboBox> bitmaps;
+    const int nStyle = bitmaps.combo.AddStyle(kText, kBack);
+    ExpectInk(bitmaps.parent, bitmaps.combo, FontOf(bitmaps.combo), kText, kBack,
+              [&](const std::string& str) {
+                  bitmaps.combo.ResetContent();
+                  bitmaps.combo.AddBitmapString(1,
+                                                bitmaps.combo.MakeStyleText(str.c_str(), nStyle));
+                  bitmaps.combo.SetCurSel(0);
+              });
+    ComboWindow<QVColorComboBox> colors;
+    ExpectInk(colors.parent, colors.combo, FontOf(colors.combo), ::GetSysColor(COLOR_WINDOWTEXT),
+              ::GetSysColor(COLOR_WINDOW), [&](const std::string& str) {
+                  colors.combo.ResetContent();
+                  colors.combo.InsertColorString(1, 0, str.c_str());
+                  colors.combo.SetCurSel(0);
+              });
+    bitmaps.combo.ResetContent();
+    for (const PageWord& word : PageWords()) {
+        const int nRow = bitmaps.combo.AddBitmapString(1, "x");
+        EXPECT_EQ(bitmaps.combo.SetItemString(nRow, word.str.c_str()), 1);
+        CString str;
+        bitmaps.combo.GetItemString(nRow, str);
+        EXPECT_EQ(std::string(str), word.str);
+        EXPECT_EQ(bitmaps.combo.FindBitmapString(1, word.str.c_str()), nRow);
+        EXPECT_EQ(bitmaps.combo.CompareToItem(1, word.str.c_str(), nRow), 0);
     }
 }
 

@@ -423,6 +423,16 @@ static CMenu* FindMenuOfItem(HMENU hMenu, UINT nID) {
     return nullptr;
 }
 
+/// The child that items belong to. Whoever fills a control asks for the same one many times, and
+/// the system searches.
+static HWND FindChildOfItems(HWND hWnd, UINT nID) {
+    HWND& hLast = AfxGetWndState().hLastMeasured;
+    if (::GetParent(hLast) != hWnd || static_cast<UINT>(::GetDlgCtrlID(hLast)) != nID) {
+        hLast = ::GetDlgItem(hWnd, static_cast<int>(nID));
+    }
+    return hLast;
+}
+
 void CWnd::OnMeasureItem(int, LPMEASUREITEMSTRUCT lpMeasureItemStruct) {
     if (lpMeasureItemStruct->CtlType == ODT_MENU) {
         CMenu* pMenu = FindMenuOfItem(AfxGetWndState().hLastPopup, lpMeasureItemStruct->itemID);
@@ -434,7 +444,7 @@ void CWnd::OnMeasureItem(int, LPMEASUREITEMSTRUCT lpMeasureItemStruct) {
             return;
         }
     } else {
-        HWND hWndChild = ::GetDlgItem(m_hWnd, static_cast<int>(lpMeasureItemStruct->CtlID));
+        HWND hWndChild = FindChildOfItems(m_hWnd, lpMeasureItemStruct->CtlID);
         if (hWndChild != nullptr && ReflectLastMsg(hWndChild)) {
             return;
         }

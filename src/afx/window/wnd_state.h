@@ -14,6 +14,7 @@ struct AfxWndState {
     MSG lastSentMsg = {};           ///< the message being handled
     HWND hLockoutNotify = nullptr;  ///< its controls' notifications are dropped meanwhile
     HMENU hLastPopup = nullptr;     ///< the menu that opened last
+    HWND hLastMeasured = nullptr;   ///< the child that was asked last how high an item is
     CWinThread* pThread = nullptr;  ///< the thread object, the application's in the main thread
 };
 

@@ -102,9 +102,10 @@ TEST(Reflection, ControlCodesAndColours) {
 class BarListBox : public CListBox {
 public:
     int m_nDeleted = 0;
+    UINT m_nHeight = 20;
 
     void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct) override {
-        lpMeasureItemStruct->itemHeight = 20;
+        lpMeasureItemStruct->itemHeight = m_nHeight;
     }
     void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override {
         CDC* pDC = CDC::FromHandle(lpDrawItemStruct->hDC);
@@ -132,8 +133,15 @@ TEST(Reflection, OwnerDrawing_CallsTheControlsVirtuals) {
     const Picture picture = Picture::OfClient(list.m_hWnd);
     EXPECT_EQ(picture.At(5, 10), RGB(0, 0, 3));
     EXPECT_EQ(picture.At(5, 30), RGB(0, 0, 6));
-    list.ResetContent();
-    EXPECT_EQ(list.m_nDeleted, 3);
+    BarListBox other;
+    other.m_nHeight = 30;
+    other.Create(WS_CHILD | LBS_OWNERDRAWVARIABLE, CRect(0, 0, 100, 100), &parent, kControl + 1);
+    for (BarListBox* pList : {&other, &list, &other}) {
+        pList->AddString(nullptr);
+        EXPECT_EQ(pList->GetItemHeight(0), static_cast<int>(pList->m_nHeight));
+        pList->ResetContent();
+    }
+    EXPECT_EQ(list.m_nDeleted, 4);
 }
 
 class BarButton : public CButton {
