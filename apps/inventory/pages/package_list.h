@@ -20,6 +20,8 @@ public:
     // is still there. The inventory must outlive what is shown of it.
     void Show(const Inventory& inventory);
 
+    // Of the texts of each kind of package.
+    void UseColors(COLORREF crInstalled, COLORREF crRequired, COLORREF crTrouble);
     // Images beside the names, or in a column of their own.
     void UseImageColumn(bool bOwn);
     bool HasImageColumn() const { return m_bImageColumn; }

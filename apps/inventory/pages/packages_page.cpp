@@ -1,6 +1,7 @@
 #include "pages/packages_page.h"
 
 #include "dialogs/export_dialog.h"
+#include "model/report_settings.h"
 #include "resource.h"
 
 BEGIN_MESSAGE_MAP(PackagesPage, Page)
@@ -38,6 +39,16 @@ void PackagesPage::SetInventory(const Inventory& inventory) {
     List().Show(inventory);
 }
 
+void PackagesPage::UseSettings(const Settings& settings) {
+    m_pSettings = &settings;
+    const auto color = [&](int nSetting) {
+        const NamedColor& named = kTextColors[settings.Choice(nSetting)];
+        return RGB(named.red, named.green, named.blue);
+    };
+    List().UseColors(color(kSettingColorInstalled), color(kSettingColorRequired),
+                     color(kSettingColorUnusual));
+}
+
 CString PackagesPage::MarkedText() {
     const PackageList::Selected selected = List().CountSelected();
     CString strText;
@@ -64,7 +75,7 @@ void PackagesPage::OnExport() {
         dialog.m_nSeparator = m_pSettings->Choice(kSettingSeparator);
         const CString strFolder = m_pSettings->Value(kSettingExportFolder).c_str();
         if (m_strExportPath.IsEmpty() && !strFolder.IsEmpty()) {
-            dialog.m_strPath = strFolder + "\\packages.txt";
+            dialog.m_strPath = strFolder + "\\" + m_pSettings->Value(kSettingExportName).c_str();
         }
     }
     if (dialog.DoModal() == IDOK && Export(dialog.m_strPath, dialog.Separator())) {

@@ -15,8 +15,8 @@ public:
     bool FindNext(const CString& strText) override { return List().FindNext(strText); }
 
     PackageList& List() { return *static_cast<PackageList*>(m_frame.GetListBox()); }
-    // What the export dialog starts with.
-    void UseSettings(const Settings& settings) { m_pSettings = &settings; }
+    // What the export dialog starts with, and the colours of the rows.
+    void UseSettings(const Settings& settings);
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);

@@ -27,7 +27,7 @@ bool Walk::Run() {
     return TreePage() && OpenBranch() && Marks() && AbsoluteColumns() && Find() && Vetoes() &&
            Packages() && FindPackage() && ImageColumn() && Export() && Refresh() &&
            TypeSettings() && ChooseSetting() && SettingsKept() && ReportPages() && Zoom() &&
-           Paper() && Logs() && FollowLog() && LogOnPaper();
+           ReportSettings() && Paper() && Logs() && FollowLog() && LogOnPaper();
 }
 
 bool Walk::Station(const char* pszName) {
