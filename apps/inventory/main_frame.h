@@ -48,7 +48,7 @@ private:
     TreePage m_sections;
     PackagesPage m_packages;
     SettingsPage m_settings;
-    ReportPage m_report{m_packages, m_settings.Values()};
+    ReportPage m_report{m_packages, m_settings};
     LogPage m_log;
     LargestPage m_largest;
     PageHost m_pages;

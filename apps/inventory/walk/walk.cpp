@@ -28,8 +28,8 @@ bool Walk::Run() {
            Packages() && FindPackage() && ImageColumn() && Export() && Refresh() &&
            FilterSection() && FilterDate() && FilterOpens() && Jump() && ToolTip() &&
            ReportMenu() && LargestPackages() && LargestOnPaper() && TypeSettings() &&
-           ChooseSetting() && SettingsKept() && ReportPages() && Zoom() && Paper() && Logs() &&
-           FollowLog() && LogOnPaper();
+           ChooseSetting() && SettingsKept() && ReportPages() && Zoom() && ReportSettings() &&
+           Paper() && Logs() && FollowLog() && LogOnPaper();
 }
 
 bool Walk::Station(const char* pszName) {

@@ -48,6 +48,10 @@ private:
     // The report
     bool ReportPages();
     bool Zoom();
+    bool ReportSettings();
+    bool FillReportSettings(CWnd& dialog);
+    static void CALLBACK WhenReportSettingsAreUp(HWND hWnd, UINT nMessage, UINT_PTR nTimer,
+                                                 DWORD dwTime);
     bool Paper();
 
     PackageTree& Tree() { return m_frame.Sections().Tree(); }
@@ -68,4 +72,6 @@ private:
 
     MainFrame& m_frame;
     CString m_strFolder;
+    bool m_bSettingsFilled = false;
+    static inline Walk* s_pWalk = nullptr;  // for what happens while a dialog is up
 };
