@@ -6,6 +6,8 @@
 #include "sources/registry_source.h"
 #include "sources/settings_file.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr char kPackageDatabase[] = "Z:\\var\\lib\\dpkg\\status";
@@ -23,8 +25,11 @@ BEGIN_MESSAGE_MAP(MainFrame, CFrameWnd)
 END_MESSAGE_MAP()
 
 BOOL MainFrame::PreCreateWindow(CREATESTRUCT& cs) {
-    cs.cx = 1000;
-    cs.cy = 640;
+    // As large for any size of the system's fonts, as far as the screen goes.
+    const CClientDC dc(nullptr);
+    const int nDpi = dc.GetDeviceCaps(LOGPIXELSX);
+    cs.cx = std::min(::MulDiv(1000, nDpi, 96), ::GetSystemMetrics(SM_CXSCREEN));
+    cs.cy = std::min(::MulDiv(640, nDpi, 96), ::GetSystemMetrics(SM_CYSCREEN));
     cs.style &= ~static_cast<LONG>(FWS_ADDTOTITLE);
     return CFrameWnd::PreCreateWindow(cs);
 }
