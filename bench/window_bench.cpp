@@ -1,5 +1,5 @@
-// The controls in real windows: window_bench [tree | list | grid | text | boxes]; all without an
-// argument.
+// The controls in real windows: window_bench [tree | list | grid | text | boxes | buttons]; all
+// without an argument.
 
 #include "window_bench.h"
 
@@ -34,6 +34,9 @@ int main(int argc, char** argv) {
     if (asked("boxes")) {
         MeasureListBox();
         MeasureCombo();
+    }
+    if (asked("buttons")) {
+        MeasureButtons();
     }
     return 0;
 }

@@ -37,6 +37,7 @@ inline void Compare(const char* pszName, double factor, const char* pszUnit, Pai
 
 }  // namespace bench
 
+void MeasureButtons();
 void MeasureTree();
 void MeasureList();
 void MeasureGrid();

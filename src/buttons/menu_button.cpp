@@ -72,10 +72,12 @@ void QVMenuButton::ShowMenu() {
     });
 }
 
-// A menu does not end by itself when its window goes.
+// A menu does not end by itself when its window goes. Where the popup goes first, with the top-level
+// window that owns it, EndMenu has nobody to wake the menu's loop by.
 void QVMenuButton::CloseMenu() {
     if (m_bMenuOpen) {
         ::EndMenu();
+        ::PostThreadMessage(::GetCurrentThreadId(), WM_CANCELMODE, 0, 0);
     }
 }
 

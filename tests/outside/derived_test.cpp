@@ -418,6 +418,57 @@ TEST_F(Outside, ACustomControl) {
     EXPECT_EQ(dc.GetPixel(5, 5), RGB(255, 0, 0));
 }
 
+// --- Buttons
+
+class Tool : public QVToolButton {
+public:
+    void LooksAtItself(CWnd& parent) {
+        EXPECT_FALSE(m_bCheckable || m_bIgnoreUp || m_pFocusWnd || m_pToolTip || m_pImageList);
+        m_bCheckable = TRUE;
+        ASSERT_TRUE(Create("", WS_CHILD | BS_OWNERDRAW, kRect, &parent, 1));
+        SetCheck(2);
+        EXPECT_EQ(m_nCheck + m_nImage, 2);
+        CClientDC dc(this);
+        CRect rect(kRect);
+        EXPECT_TRUE(ShadeRect(dc, rect));
+    }
+};
+
+class Macros : public QVMacroButton {
+public:
+    unsigned m_nChosen = 9;
+    void LooksAtItself(CWnd& parent) {
+        ASSERT_TRUE(Create("", WS_CHILD | BS_OWNERDRAW, kRect, &parent, 1));
+        AddMacro("title", "snippet");
+        EXPECT_EQ(m_astrItems[0], "title");
+        EXPECT_EQ(m_astrMacros[0], "snippet");
+        EXPECT_EQ(m_nEditCtrlID, 0u);
+        CClientDC dc(this);
+        DrawArrow(dc, kRect, RGB(0, 0, 0));
+        SendMessage(WM_COMMAND, m_nStartCmdID);
+        EXPECT_EQ(m_nChosen, 0u);
+    }
+    void OnMenuSelected(unsigned nIndex) override { m_nChosen = nIndex; }
+};
+
+class Mark : public QVCheckWnd {
+public:
+    void LooksAtItself(CDC& dc) {
+        SetIsChecked(1);
+        EXPECT_TRUE(m_bChecked);
+        DrawWindow(dc);
+    }
+};
+
+TEST_F(Outside, Buttons) {
+    Tool().LooksAtItself(m_parent);
+    Macros().LooksAtItself(m_parent);
+    Mark mark;
+    ASSERT_TRUE(mark.Create(nullptr, "", WS_CHILD, kRect, &m_parent, 1));
+    CClientDC dc(&mark);
+    mark.LooksAtItself(dc);
+}
+
 // --- Print
 
 class Item : public QVPrintEngineData {

@@ -1,4 +1,5 @@
 // What the controls show of a text, beside the platform's wide calls.
+#include "drawn_text.h"
 #include "ink.h"
 #include "page_text.h"
 #include "support/combo_window.h"
@@ -234,6 +235,62 @@ TEST(TextControls, CaptionsShowTheirText) {
     ASSERT_TRUE(wnd.Create(WS_CHILD | WS_VISIBLE, rc, &parent, 12));
     ExpectInk(wnd, FontOf(parent), ::GetSysColor(COLOR_WINDOWTEXT), ::GetSysColor(COLOR_BTNFACE),
               [&](const std::string& str) { wnd.SetHeaderText(str.c_str()); });
+}
+
+TEST(TextControls, MenuButtonsShowTheirCaption) {
+    FontParent parent(CSize(300, 100));
+    QVMenuButton button;
+    button.Create("", WS_CHILD | BS_OWNERDRAW, CRect(0, 0, 300, 40), &parent, 5);
+    for (const bool bEnabled : {true, false}) {
+        button.EnableWindow(bEnabled);
+        for (const PageWord& word : PageWords()) {
+            button.SetWindowText(word.str.c_str());
+            DRAWITEMSTRUCT item{};
+            item.rcItem = CRect(0, 0, 300, 40);
+            item.hDC = ::CreateEnhMetaFile(nullptr, nullptr, nullptr, nullptr);
+            button.DrawItem(&item);
+            const auto texts = TakeTexts(::CloseEnhMetaFile(item.hDC));
+            ASSERT_EQ(texts.size(), bEnabled ? 1u : 2u) << word.str;
+            EXPECT_EQ(texts[0].str, word.strWide);
+        }
+    }
+}
+
+// Tells no selection, so that snippets go to the caret.
+class SilentEdit : public CEdit {
+public:
+    bool m_bSilent = false;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        return m_bSilent && message == EM_GETSEL ? -1 : CEdit::WindowProc(message, wParam, lParam);
+    }
+};
+
+TEST(TextControls, SnippetsGoBetweenCharacters) {
+    FontParent parent(CSize(300, 100));
+    QVMacroButton button;
+    button.Create("", WS_CHILD | BS_OWNERDRAW, CRect(0, 0, 20, 20), &parent, 5);
+    button.SetEditCtrlID(6);
+    SilentEdit edit;
+    edit.Create(WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, CRect(0, 30, 300, 60), &parent, 6);
+    edit.SetFocus();
+    unsigned nEntry = 0;
+    for (const PageWord& word : PageWords()) {
+        button.AddMacro(word.str.c_str(), word.str.c_str());
+        for (const bool bSilent : {false, true}) {
+            edit.SetWindowText((word.str + word.str).c_str());
+            edit.SendMessage(EM_SETSEL, word.strWide.size(),
+                             static_cast<LPARAM>(word.strWide.size()));
+            edit.m_bSilent = bSilent;
+            button.OnMenuSelected(nEntry);
+            edit.m_bSilent = false;
+            CString strText;
+            edit.GetWindowText(strText);
+            EXPECT_EQ(std::string(strText), word.str + word.str + word.str) << bSilent;
+        }
+        ++nEntry;
+    }
 }
 
 // --- Word wrap
