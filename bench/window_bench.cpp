@@ -1,4 +1,4 @@
-// The controls in real windows: window_bench [tree | list | grid | text | combo]; all without an
+// The controls in real windows: window_bench [tree | list | grid | text | boxes]; all without an
 // argument.
 
 #include "window_bench.h"
@@ -31,7 +31,8 @@ int main(int argc, char** argv) {
     if (asked("text")) {
         MeasureText();
     }
-    if (asked("combo")) {
+    if (asked("boxes")) {
+        MeasureListBox();
         MeasureCombo();
     }
     return 0;

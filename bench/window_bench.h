@@ -41,4 +41,5 @@ void MeasureTree();
 void MeasureList();
 void MeasureGrid();
 void MeasureText();
+void MeasureListBox();
 void MeasureCombo();

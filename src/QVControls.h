@@ -3,6 +3,7 @@
 #pragma once
 
 #include "boxes/bitmap_combo_box.h"
+#include "boxes/bitmap_list_box.h"
 #include "boxes/color_combo_box.h"
 #include "buttons/bitmap_button.h"
 #include "buttons/check_wnd.h"

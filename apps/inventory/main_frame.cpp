@@ -16,6 +16,8 @@ BEGIN_MESSAGE_MAP(MainFrame, CFrameWnd)
     ON_WM_CREATE()
     ON_WM_SETFOCUS()
     ON_COMMAND(ID_RELOAD, OnReload)
+    ON_COMMAND(ID_PACKAGES_PREVIEW, OnPreview)
+    ON_COMMAND(ID_PACKAGES_PRINT, OnPrint)
     ON_UPDATE_COMMAND_UI(ID_INDICATOR_MESSAGE, OnUpdateMessage)
     ON_UPDATE_COMMAND_UI(ID_INDICATOR_MARKED, OnUpdateMarked)
 END_MESSAGE_MAP()
@@ -31,7 +33,8 @@ int MainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     static constexpr UINT kIndicators[] = {ID_INDICATOR_MESSAGE, ID_INDICATOR_MARKED};
     if (CFrameWnd::OnCreate(lpCreateStruct) == -1 || !m_pages.Create(this) ||
         !m_pages.Add(m_sections) || !m_pages.Add(m_packages) || !m_pages.Add(m_report) ||
-        !m_pages.Add(m_settings) || !m_pages.Add(m_log) || !m_statusBar.Create(this) ||
+        !m_pages.Add(m_settings) || !m_pages.Add(m_log) || !m_pages.Add(m_largest) ||
+        !m_statusBar.Create(this) ||
         !m_statusBar.SetIndicators(kIndicators, static_cast<int>(std::size(kIndicators)))) {
         return -1;
     }
@@ -49,6 +52,8 @@ void MainFrame::LoadSettings(const CString& strPath, bool bInteractive) {
     const class Settings& settings = m_settings.Values();
     m_sections.Tree().UseIndentedColumns(settings.Choice(kSettingTreeColumns) == 0);
     m_packages.UseSettings(settings);
+    m_largest.UseSettings(settings);
+    m_packages.UseFilterFile(strFile.Left(strFile.ReverseFind('\\') + 1) + "filter.txt");
 }
 
 void MainFrame::OnSetFocus(CWnd*) {
@@ -82,6 +87,14 @@ BOOL MainFrame::Open(const CString& strPath, bool bInteractive) {
 
 void MainFrame::OnReload() {
     Open(m_strPath, true);
+}
+
+void MainFrame::OnPreview() {
+    m_pages.ShowPage(m_report);
+}
+
+void MainFrame::OnPrint() {
+    m_report.SendMessage(WM_COMMAND, ID_REPORT_PRINT);
 }
 
 void MainFrame::OnUpdateMessage(CCmdUI* pCmdUI) {

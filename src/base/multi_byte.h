@@ -32,8 +32,8 @@ public:
     int CompareNoCase(const char* psz1, const char* psz2) const;
     // As _mbsnbicmp: the characters that begin in the first nBytes bytes alone.
     int CompareNoCase(const char* psz1, const char* psz2, std::size_t nBytes) const;
-    // As it, but letters that differ in case differ: the platform's _mbscmp. A text that is the
-    // start of a longer one comes first.
+    // As CompareNoCase, but letters that differ in case differ: the platform's _mbscmp. A text that
+    // is the start of a longer one comes first.
     int Compare(std::string_view text1, std::string_view text2) const;
 
     // Appends bytes whose memcmp order is the order of CompareNoCase (a shorter key that is the

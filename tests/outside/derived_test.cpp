@@ -186,17 +186,13 @@ TEST_F(Outside, AText) {
 class Box : public QVTextBox {
 public:
     void LooksAtItself(CWnd& parent) {
-        SetShowBorder(0);
         SetTextList("one\ttwo");
         ASSERT_TRUE(Create(1, kRect, &parent));
         EnableSpin();
         EXPECT_NE(m_spin.m_hWnd, nullptr);
-        EXPECT_EQ(m_aTexts.GetSize(), 2);
-        EXPECT_EQ(m_strText, "one");
-        EXPECT_TRUE(m_bTextList && !m_bShowBorder && m_nCurText == 0);
-        EXPECT_EQ(m_crTextBk, ::GetSysColor(COLOR_WINDOW));
-        EXPECT_EQ(m_crText, ::GetSysColor(COLOR_BTNTEXT));
-        EXPECT_TRUE(m_pImageList == nullptr && m_nImage == -1);
+        EXPECT_EQ(m_strText, m_aTexts[0]);
+        EXPECT_TRUE(m_bTextList && m_bShowBorder && m_nCurText == 0 && m_nImage == -1);
+        EXPECT_TRUE(m_crTextBk != m_crText && m_pImageList == nullptr);
     }
 };
 
@@ -204,7 +200,6 @@ class SpeedEdit : public QVSpeedEdit {
 public:
     void LooksAtItself() {
         CStringArray names;
-        names.Add("one");
         SetSpeedData(&names);
         SetSpeedOnly(1);
         EXPECT_EQ(FindSpeedText("o") + SpeedMatch("o", 0), 0);
@@ -270,6 +265,45 @@ public:
 
 TEST_F(Outside, AList) {
     List().LooksAtItself(m_parent);
+}
+
+// --- Boxes
+
+class ListBox : public QVBitmapListBox {
+public:
+    void LooksAtItself(CWnd& parent) {
+        ASSERT_TRUE(Create(WS_CHILD, kRect, &parent, 1));
+        SetHeader(2);
+        SortByImageIndex(0);
+        ASSERT_TRUE(Initialize(1, 0, 0, 0, &parent));
+        EXPECT_EQ(HeaderID(), m_nHeaderID);
+        EXPECT_EQ(m_anTabs[0], 60) << "by CalcTabs";
+        AddHeader("title");
+        EXPECT_EQ(m_header.GetItemCount(), 1);
+        EXPECT_EQ(m_wndFrame.m_hWnd, nullptr);
+        int nImage;
+        CString strText;
+        ExtractInfo("text\t5", nImage, strText);
+        EXPECT_EQ(nImage, 5);
+        int nPos = 0;
+        EXPECT_TRUE(NextField("\033aa\tb", nPos, strText));
+        EXPECT_STREQ(strText, "\033aa");
+        SaveSelections();
+        EXPECT_EQ(m_aSavedSelections.GetSize(), 0);
+        CalcItemHeight();
+        EXPECT_EQ(m_nItemHeight, std::max(m_nFontHeight, m_nBitmapHeight) + 2);
+        EXPECT_TRUE(m_bRedraw);
+    }
+
+protected:
+    int CalcTabs(CDC*, int* pTabs) override {
+        pTabs[0] = 60;
+        return 1;
+    }
+};
+
+TEST_F(Outside, AListBox) {
+    ListBox().LooksAtItself(m_parent);
 }
 
 // --- Combo boxes

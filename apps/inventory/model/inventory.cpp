@@ -37,3 +37,11 @@ std::string SizeText(long nKiB) {
     }
     return szText;
 }
+
+std::string DateText(std::time_t t) {
+    char szDate[32] = "";
+    if (const std::tm* pTime = t != 0 ? std::localtime(&t) : nullptr) {
+        std::strftime(szDate, sizeof(szDate), "%Y-%m-%d %H:%M", pTime);
+    }
+    return szDate;
+}

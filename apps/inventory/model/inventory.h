@@ -38,3 +38,5 @@ private:
 
 // "12 KiB", "3.4 MiB", "1.2 GiB".
 std::string SizeText(long nKiB);
+// Local day and minute; empty for 0.
+std::string DateText(std::time_t t);

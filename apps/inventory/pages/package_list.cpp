@@ -9,14 +9,6 @@ constexpr int kImagePackage = 0;
 constexpr int kImageTrouble = 1;
 constexpr int kImageRequired = 2;
 
-std::string DateText(std::time_t t) {
-    char szDate[32] = "";
-    if (const std::tm* pTime = t != 0 ? std::localtime(&t) : nullptr) {
-        std::strftime(szDate, sizeof(szDate), "%Y-%m-%d %H:%M", pTime);
-    }
-    return szDate;
-}
-
 }  // namespace
 
 IMPLEMENT_DYNCREATE(PackageList, QVSortingListCtrl)
@@ -75,13 +67,10 @@ void PackageList::UseImageColumn(bool bOwn) {
     Invalidate(FALSE);
 }
 
-DWORD_PTR PackageList::IdOf(const std::string& strName) {
-    return m_ids.emplace(strName, m_ids.size()).first->second;
-}
-
-void PackageList::Show(const Inventory& inventory) {
+void PackageList::Show(const Inventory& inventory, const PackageFilter& filter) {
     const bool bFirst = m_pInventory == nullptr;
     m_pInventory = &inventory;
+    m_filter = filter;
     if (bFirst) {
         m_bAscending = TRUE;
     }
@@ -100,11 +89,14 @@ void PackageList::Fill() {
     }
     for (const Section& section : m_pInventory->Sections()) {
         for (const Package& package : section.packages) {
+            if (!m_filter.Shows(package)) {
+                continue;
+            }
             const int nImage = package.bUnusual    ? kImageTrouble
                                : package.bRequired ? kImageRequired
                                                    : kImagePackage;
             const int nItem = InsertBitmapString(nImage, -1, Row(package));
-            const DWORD_PTR nId = IdOf(package.strName);
+            const size_t nId = m_ids.Of(package.strName);
             SetItemData(nItem, nId);
             m_packages.resize(std::max<size_t>(m_packages.size(), nId + 1));
             m_packages[nId] = &package;
@@ -143,13 +135,28 @@ bool PackageList::FindNext(const CString& strText) {
         CString strName(PackageOf(nItem)->strName.c_str());
         strName.MakeLower();
         if (strName.Find(strWanted) >= 0) {
-            SetItemState(-1, 0, LVIS_SELECTED);
-            SetItemState(nItem, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
-            EnsureVisible(nItem, FALSE);
+            SelectAlone(nItem);
             return true;
         }
     }
     return false;
+}
+
+bool PackageList::GoTo(const CString& strName) {
+    for (int nItem = 0; nItem < GetItemCount(); ++nItem) {
+        const Package* pPackage = PackageOf(nItem);
+        if (pPackage != nullptr && strName == pPackage->strName.c_str()) {
+            SelectAlone(nItem);
+            return true;
+        }
+    }
+    return false;
+}
+
+void PackageList::SelectAlone(int nItem) {
+    SetItemState(-1, 0, LVIS_SELECTED);
+    SetItemState(nItem, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+    EnsureVisible(nItem, FALSE);
 }
 
 PackageList::Selected PackageList::CountSelected() {

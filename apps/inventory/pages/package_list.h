@@ -4,9 +4,9 @@
 #pragma once
 
 #include "QVControls.h"
-#include "model/inventory.h"
+#include "model/package_filter.h"
+#include "model/package_ids.h"
 
-#include <map>
 #include <string>
 #include <vector>
 
@@ -16,9 +16,10 @@ class PackageList : public QVSortingListCtrl {
 public:
     // Styles and columns; call once the window exists.
     void SetUp(CFont* pFont);
-    // Fills the list anew, in the order of the last sort; what was selected is selected again if it
-    // is still there. The inventory must outlive what is shown of it.
-    void Show(const Inventory& inventory);
+    // Fills the list anew with what the filter lets through, in the order of the last sort; what
+    // was selected is selected again if it is still there. The inventory must outlive what is shown
+    // of it.
+    void Show(const Inventory& inventory, const PackageFilter& filter);
 
     // Of the texts of each kind of package.
     void UseColors(COLORREF crInstalled, COLORREF crRequired, COLORREF crTrouble);
@@ -28,6 +29,8 @@ public:
 
     const Package* PackageOf(int nItem);
     bool FindNext(const CString& strText);
+    // Selects the package of that name and shows it. False if the list does not have it.
+    bool GoTo(const CString& strName);
     struct Selected {
         int nPackages = 0;
         long nSizeKiB = 0;
@@ -40,14 +43,15 @@ private:
     void MakeColumns();
     void Fill();
     CString Row(const Package& package) const;
-    DWORD_PTR IdOf(const std::string& strName);
+
+    void SelectAlone(int nItem);
 
     const Inventory* m_pInventory = nullptr;
+    PackageFilter m_filter;
     bool m_bImageColumn = false;
     int m_nTrouble = 0;  // styles
     int m_nRequired = 0;
     int m_nDetail = 0;
-    // Item data are numbers that a package keeps when the inventory is read again.
-    std::map<std::string, DWORD_PTR> m_ids;
+    PackageIds m_ids;                        // item data
     std::vector<const Package*> m_packages;  // by number
 };

@@ -1,14 +1,17 @@
 #include "pages/packages_page.h"
 
-#include "dialogs/export_dialog.h"
 #include "model/report_settings.h"
 #include "resource.h"
+#include "sources/settings_file.h"
 
 BEGIN_MESSAGE_MAP(PackagesPage, Page)
     ON_WM_CREATE()
+    ON_WM_DESTROY()
     ON_WM_SIZE()
     ON_NOTIFY(LVN_ITEMCHANGED, IDC_LIST, OnItemChanged)
     ON_COMMAND(ID_LIST_EXPORT, OnExport)
+    ON_COMMAND(ID_PACKAGES_EXPORT, OnExport)
+    ON_COMMAND(IDOK, OnEnter)
     ON_COMMAND_RANGE(ID_LIST_IMAGE_COLUMN, ID_LIST_PRINT_SUMMARY, OnFlag)
     ON_UPDATE_COMMAND_UI_RANGE(ID_LIST_IMAGE_COLUMN, ID_LIST_PRINT_SUMMARY, OnUpdateFlag)
 END_MESSAGE_MAP()
@@ -22,25 +25,84 @@ int PackagesPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     m_frame.SetImageInfo(IDB_PACKAGES, kImageMask, kImageWidth);
     m_frame.SetHeaderText("Packages: a click on a heading sorts, a second turns the order");
     CRect rcNone(0, 0, 0, 0);
-    if (Page::OnCreate(lpCreateStruct) == -1 ||
+    if (Page::OnCreate(lpCreateStruct) == -1 || !m_bar.Create(this) ||
         !m_frame.Create(WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, rcNone, this, IDC_LIST_FRAME)) {
         return -1;
     }
+    m_frame.ModifyStyleEx(0, WS_EX_CONTROLPARENT);  // Tab goes through it to the list
     List().SetUp(&m_font);
     return 0;
 }
 
 void PackagesPage::OnSize(UINT nType, int cx, int cy) {
     Page::OnSize(nType, cx, cy);
-    m_frame.MoveWindow(0, 0, cx, cy);
+    CRect rc;
+    m_bar.GetWindowRect(&rc);
+    m_bar.MoveWindow(0, 0, cx, rc.Height());
+    m_frame.MoveWindow(0, rc.Height(), cx, std::max(cy - rc.Height(), 0));
+}
+
+// Tab, mnemonics and Enter go around in bar and list as in a dialog. What a dialog sees it keeps,
+// so the frame's accelerators come first.
+BOOL PackagesPage::PreTranslateMessage(MSG* pMsg) {
+    return Page::PreTranslateMessage(pMsg) || GetParentFrame()->PreTranslateMessage(pMsg) ||
+           PreTranslateInput(pMsg);
 }
 
 void PackagesPage::SetInventory(const Inventory& inventory) {
-    List().Show(inventory);
+    m_pInventory = &inventory;
+    m_bar.SetInventory(inventory);
+    Refill();
+}
+
+// --- The filter
+
+void PackagesPage::UseFilterFile(const CString& strPath) {
+    m_strFilterFile = strPath;
+    FilterValues values;
+    LoadSettings(strPath, values);  // damaged: all packages show, and the file is set aside
+    m_bar.SetFilter(values.Filter());
+}
+
+void PackagesPage::OnDestroy() {
+    if (!m_strFilterFile.IsEmpty()) {
+        SaveSettings(m_strFilterFile, FilterValues(m_bar.Filter()));
+    }
+    Page::OnDestroy();
+}
+
+void PackagesPage::OnFilterChanged() {
+    Refill();
+}
+
+void PackagesPage::Refill() {
+    if (m_pInventory == nullptr) {
+        return;
+    }
+    List().Show(*m_pInventory, m_bar.Filter());
+    m_strMessage.Empty();
+    if (!m_bar.Filter().IsOpen()) {
+        m_strMessage.Format("%d of %u packages", List().GetItemCount(),
+                            static_cast<unsigned>(m_pInventory->CountPackages()));
+    }
+    m_bar.ShowMarks(List().PackageOf(List().GetNextItem(-1, LVNI_FOCUSED)));
+}
+
+void PackagesPage::OnJump(const CString& strName) {
+    if (!List().GoTo(strName)) {
+        m_strMessage.Format("The filter hides %s", static_cast<LPCTSTR>(strName));
+    }
+}
+
+void PackagesPage::OnEnter() {
+    if (m_bar.HasFocusInJump()) {
+        List().SetFocus();
+    }
 }
 
 void PackagesPage::UseSettings(const Settings& settings) {
     m_pSettings = &settings;
+    m_exporter.UseSettings(settings);
     const auto color = [&](int nSetting) {
         const NamedColor& named = kTextColors[settings.Choice(nSetting)];
         return RGB(named.red, named.green, named.blue);
@@ -63,45 +125,22 @@ void PackagesPage::OnItemChanged(NMHDR* pNMHDR, LRESULT* pResult) {
     if ((change.uNewState & LVIS_FOCUSED) != 0) {
         const Package* pPackage = List().PackageOf(change.iItem);
         m_strMessage = pPackage != nullptr ? pPackage->strSummary.c_str() : "";
+        m_bar.ShowMarks(pPackage);
     }
 }
 
-// --- Export
+CString PackagesPage::ExportName() const {
+    return m_pSettings != nullptr ? m_pSettings->Value(kSettingExportName).c_str() : "";
+}
 
 void PackagesPage::OnExport() {
-    ExportDialog dialog(this);
-    dialog.m_strPath = m_strExportPath;
-    if (m_pSettings != nullptr) {
-        dialog.m_nSeparator = m_pSettings->Choice(kSettingSeparator);
-        const CString strFolder = m_pSettings->Value(kSettingExportFolder).c_str();
-        if (m_strExportPath.IsEmpty() && !strFolder.IsEmpty()) {
-            dialog.m_strPath = strFolder + "\\" + m_pSettings->Value(kSettingExportName).c_str();
-        }
+    const auto write = [this](LPCSTR pszPath, char chSeparator) {
+        return List().ExportData(pszPath, chSeparator);
+    };
+    if (m_exporter.Run(*this, ExportName(), write)) {
+        m_strMessage.Format("%d rows written to %s", List().GetItemCount(),
+                            static_cast<LPCTSTR>(m_exporter.Path()));
     }
-    if (dialog.DoModal() == IDOK && Export(dialog.m_strPath, dialog.Separator())) {
-        m_strExportPath = dialog.m_strPath;
-    }
-}
-
-// Half a list would look like a whole one, so what could not be finished is taken away again.
-bool PackagesPage::Export(LPCSTR pszPath, char chSeparator) {
-    const CWaitCursor wait;
-    CString strProblem;
-    try {
-        if (List().ExportData(pszPath, chSeparator)) {
-            m_strMessage.Format("%d rows written to %s", List().GetItemCount(), pszPath);
-            return true;
-        }
-        strProblem.Format("%s cannot be opened for writing.", pszPath);
-    } catch (CFileException* pException) {
-        char szReason[256];
-        pException->GetErrorMessage(szReason, sizeof(szReason));
-        pException->Delete();
-        ::DeleteFile(pszPath);
-        strProblem.Format("The list could not be written to %s: %s", pszPath, szReason);
-    }
-    AfxMessageBox(strProblem, MB_ICONEXCLAMATION);
-    return false;
 }
 
 // --- The list's settings
@@ -128,6 +167,7 @@ void PackagesPage::OnFlag(UINT nID) {
     switch (nID) {
         case ID_LIST_IMAGE_COLUMN:
             List().UseImageColumn(bSet);
+            m_bar.ShowImageColumn(bSet);
             break;
         case ID_LIST_CENTER_IMAGES:
             List().SetImageCenterVertically(m_bCenterImages = bSet);

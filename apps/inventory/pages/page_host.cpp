@@ -2,6 +2,8 @@
 
 #include "resource.h"
 
+#include <algorithm>
+
 BEGIN_MESSAGE_MAP(PageHost, CWnd)
     ON_WM_CREATE()
     ON_WM_SIZE()
@@ -79,6 +81,10 @@ void PageHost::Show(size_t nPage) {
     Active().ShowWindow(SW_SHOW);
     old.ShowWindow(SW_HIDE);
     Active().SetFocus();
+}
+
+void PageHost::ShowPage(const Page& page) {
+    Show(static_cast<size_t>(std::find(m_pages.begin(), m_pages.end(), &page) - m_pages.begin()));
 }
 
 void PageHost::OnTab(NMHDR*, LRESULT* pResult) {

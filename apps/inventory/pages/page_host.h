@@ -12,6 +12,8 @@ class PageHost : public CWnd {
 public:
     BOOL Create(CWnd* pParent);
     BOOL Add(Page& page);
+    // Brings one of the pages to the front.
+    void ShowPage(const Page& page);
     Page& Active() { return *m_pages[m_nActive]; }
     void SetInventory(const Inventory& inventory);
     CTabCtrl& Tabs() { return m_tabs; }

@@ -26,8 +26,10 @@ bool Walk::Run() {
     Tree().SetFocus();
     return TreePage() && OpenBranch() && Marks() && AbsoluteColumns() && Find() && Vetoes() &&
            Packages() && FindPackage() && ImageColumn() && Export() && Refresh() &&
-           TypeSettings() && ChooseSetting() && SettingsKept() && ReportPages() && Zoom() &&
-           ReportSettings() && Paper() && Logs() && FollowLog() && LogOnPaper();
+           FilterSection() && FilterDate() && FilterOpens() && Jump() && ToolTip() &&
+           ReportMenu() && LargestPackages() && LargestOnPaper() && TypeSettings() &&
+           ChooseSetting() && SettingsKept() && ReportPages() && Zoom() && ReportSettings() &&
+           Paper() && Logs() && FollowLog() && LogOnPaper();
 }
 
 bool Walk::Station(const char* pszName) {

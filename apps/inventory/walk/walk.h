@@ -26,6 +26,17 @@ private:
     bool ImageColumn();
     bool Export();
     bool Refresh();
+    // The bar above it
+    bool FilterSection();
+    bool FilterDate();
+    bool FilterOpens();
+    bool Jump();
+    bool ToolTip();
+    bool ReportMenu();
+    // The largest packages
+    bool LargestPackages();
+    bool LargestOnPaper();
+    bool LargestHeading(int nCol, LargestList::Order order, const char* pszStation);
     // The logs
     bool Logs();
     bool FollowLog();
@@ -48,6 +59,7 @@ private:
     CPoint PointOf(HTREEITEM hItem, int nOffset);
     CPoint PointOfHeading(int nCol);
     CPoint PointOfRow(int nItem);
+    CPoint PointOfTool(UINT nID);
     void ClickTab(int nPage);
     // Opens the dialog that asks what to find, and types letters into it.
     void AskFor(const char* pszLetters);

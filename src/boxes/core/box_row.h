@@ -17,6 +17,11 @@ struct BoxRow {
     std::string_view text;  // part of the stored string
 };
 
+// For texts of callers: null counts as empty.
+inline const char* OrEmpty(const char* psz) {
+    return psz != nullptr ? psz : "";
+}
+
 std::string JoinBoxRow(int nNumber, std::string_view text, NumberPlace place);
 
 // The number is read as atoi reads it: blanks, a sign, digits up to the first other byte; 0 without

@@ -8,154 +8,83 @@
 
 namespace {
 
-constexpr UINT kEditId = 82;
-const CRect kPlace(20, 20, 200, 44);
+using AnEdit = Mortal<Watched<QVSpeedEdit>>;
 
-class OpenSpeedEdit : public QVSpeedEdit {
-public:
-    using QVSpeedEdit::FindSpeedText;
-    using QVSpeedEdit::SpeedMatch;
-
-    // The text, with the selection in brackets.
-    std::string Shown() {
-        CString str;
-        GetWindowText(str);
-        int nStart;
-        int nEnd;
-        GetSel(nStart, nEnd);
-        return std::string(str)
-            .insert(static_cast<size_t>(nEnd), "]")
-            .insert(static_cast<size_t>(nStart), "[");
-    }
-    std::string Typed(const char* pszKeys) {
-        for (; *pszKeys != 0; ++pszKeys) {
-            SendMessage(WM_CHAR, static_cast<BYTE>(*pszKeys), 1);
-        }
-        return Shown();
-    }
-};
-
-template <class Edit = OpenSpeedEdit>
-class Speed {
-public:
-    explicit Speed(int bOnly = 0) : parent(CSize(300, 100)), pEdit(new Edit) {
+class SpeedEdit : public testing::Test, protected FontParent {
+protected:
+    SpeedEdit() : FontParent(CSize(300, 100)) { Make(); }
+    void Make() {
+        names.RemoveAll();
         for (const char* psz : {"alpha", "Beta", "betamax"}) {
             names.Add(psz);
         }
+        pEdit = std::make_unique<AnEdit>();
         pEdit->SetSpeedData(&names);
-        pEdit->SetSpeedOnly(bOnly);
-        pEdit->Create(WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, kPlace, &parent, kEditId);
+        pEdit->Create(WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, CRect(9, 9, 99, 32), this, 1);
+        pEdit->SetFocus();
     }
-
-    CStringArray names;
-    FontParent parent;
-    std::unique_ptr<Edit> pEdit;
-};
-
-TEST(SpeedEdit, CompletesWhatIsTyped) {
-    Speed<> w;
-    ASSERT_TRUE(BringToFront(w.parent.m_hWnd));
-    w.pEdit->SetFocus();
-    TypeText("b");
-    EXPECT_EQ(w.pEdit->Shown(), "B[eta]");
-    TypeText("eta");
-    EXPECT_EQ(w.pEdit->Shown(), "Beta[]");
-    TypeText("m");
-    EXPECT_EQ(w.pEdit->Shown(), "betam[ax]");
-    TypeKey(VK_BACK);
-    EXPECT_EQ(w.pEdit->Shown(), "betam[]") << "the platform's own";
-    w.pEdit->SetSel(2, 2);
-    TypeText("x");
-    EXPECT_EQ(w.pEdit->Shown(), "bex[]") << "the rest goes";
-    EXPECT_EQ(w.parent.CountCommands(EN_CHANGE), 7);
-}
-
-TEST(SpeedEdit, OnlyEntriesCanBeTypedWhereThatIsAsked) {
-    Speed<> w(1);
-    EXPECT_EQ(w.pEdit->Typed("beTa"), "Beta[]");
-    EXPECT_EQ(w.pEdit->Typed("x"), "Beta[]");
-    EXPECT_EQ(w.pEdit->Typed("M"), "betam[ax]");
-    EXPECT_EQ(w.pEdit->Typed("\b"), "Beta[]");
-    EXPECT_EQ(w.pEdit->Typed("\b\b"), "Be[ta]");
-    EXPECT_EQ(w.pEdit->Typed("\b\b"), "[alpha]");
-    w.names.RemoveAll();
-    EXPECT_EQ(w.pEdit->Typed("a\b"), "[alpha]") << "nothing to show";
-}
-
-TEST(SpeedEdit, IsThePlatformsWithoutEntriesAndWhereItIsReadOnly) {
-    Speed<> w;
-    w.pEdit->SetReadOnly();
-    EXPECT_EQ(w.pEdit->Typed("b"), "[]");
-    w.pEdit->SetReadOnly(FALSE);
-    w.pEdit->SetSpeedData(nullptr);
-    EXPECT_EQ(w.pEdit->Typed("bx"), "bx[]");
-    EXPECT_EQ(w.pEdit->FindSpeedText("b"), -1);
-    EXPECT_EQ(w.pEdit->SpeedMatch("b", 0), 1);
-}
-
-TEST(SpeedEdit, MatchesSortAsTheEntryDoes) {
-    Speed<> w;
-    const struct {
-        const char* pszText;
-        int nIndex, nMatch;
-    } cases[] = {{"BET", 1, 0}, {"b", 0, -1}, {"a", 1, 1},
-                 {"a", 3, 1},   {"a", -1, 1}, {"betas", 1, -1}};
-    for (const auto& c : cases) {
-        EXPECT_EQ(w.pEdit->SpeedMatch(c.pszText, c.nIndex), c.nMatch) << c.pszText << c.nIndex;
-    }
-    EXPECT_EQ(w.pEdit->FindSpeedText("BET"), 1);
-    EXPECT_EQ(w.pEdit->FindSpeedText(""), -1);
-}
-
-TEST(SpeedEdit, MemoryThatIsWantedLeavesNothingBehind) {
-    Speed<Watched<OpenSpeedEdit>> w;
-    RefuseEach(
-        "typed", [&] { ::SendMessage(w.pEdit->m_hWnd, WM_CHAR, 'b', 1); },
-        [&] {
-            const std::string strShown = w.pEdit->Shown();
-            EXPECT_TRUE(strShown == "[]" || strShown == "B[eta]") << strShown;
-            w.pEdit->SetWindowText("");
-        });
-    EXPECT_EQ(w.pEdit->nThrown, 0);
-}
-
-// The parent clears the entries or deletes the edit at changes.
-class MeddlingParent : public FontParent {
-public:
-    MeddlingParent() : FontParent(CSize(300, 100)) {}
-    std::function<void(UINT nCode)> m_meddle;
-
-protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
-        m_meddle(HIWORD(wParam));
+        m_meddle();
         return FontParent::OnCommand(wParam, lParam);
     }
+    // The text, with the selection in brackets.
+    std::string Shown() {
+        CString str;
+        pEdit->GetWindowText(str);
+        int nStart, nEnd;
+        pEdit->GetSel(nStart, nEnd);
+        str.Insert(nEnd, "]");
+        str.Insert(nStart, "[");
+        return std::string(str);
+    }
+
+    std::function<void()> m_meddle = [] {};
+    CStringArray names;
+    std::unique_ptr<AnEdit> pEdit;
 };
 
-TEST(SpeedEditMonkey, SurvivesAParentThatTakesThingsAway) {
-    MeddlingParent parent;
-    CStringArray names;
-    std::unique_ptr<Mortal<OpenSpeedEdit>> pEdit;
+TEST_F(SpeedEdit, CompletesWhatIsTyped) {
+    ASSERT_TRUE(BringToFront(m_hWnd));
+    const auto type = [](int nKey) { TypeKey(static_cast<WORD>(nKey)); };
+    const auto only = [&](int bOnly) { pEdit->SetSpeedOnly(bOnly); };
+    const auto readOnly = [&](int bReadOnly) { pEdit->SetReadOnly(bReadOnly); };
+    const auto plain = [&](int) { pEdit->SetSpeedData(nullptr); };
+    const std::tuple<std::function<void(int)>, int, const char*> cases[] = {
+        {type, 'B', "B[eta]"},      {type, 'E', "Be[ta]"},     {type, VK_BACK, "Be[]"},
+        {only, 1, "Be[]"},          {type, VK_BACK, "B[eta]"}, {type, 'X', "B[eta]"},
+        {type, VK_BACK, "[alpha]"}, {type, 'Z', "[alpha]"},    {only, 0, "[alpha]"},
+        {type, 'Z', "z[]"},         {readOnly, 1, "z[]"},      {type, 'B', "z[]"},
+        {readOnly, 0, "z[]"},       {plain, 0, "z[]"},         {type, 'B', "zb[]"}};
+    for (const auto& [act, n, pszShown] : cases) {
+        act(n);
+        EXPECT_EQ(Shown(), pszShown);
+    }
+}
+
+using SpeedEditMonkey = SpeedEdit;
+
+TEST_F(SpeedEditMonkey, SurvivesAParentThatTakesThingsAwayAndTheWantOfMemory) {
+    RefuseEach(
+        "typed", [&] { ::SendMessage(pEdit->m_hWnd, WM_CHAR, 'b', 1); },
+        [&] {
+            EXPECT_TRUE(Shown() == "[]" || Shown() == "B[eta]") << Shown();
+            EXPECT_EQ(pEdit->nThrown, 0);
+            pEdit->SetWindowText("");
+        });
     std::mt19937 random = MonkeyRandom(3);
+    pEdit.reset();
     const LONG nHandles = AfxGetOwnedHandleCount();
-    int nMade = 0;
-    parent.m_meddle = [&](UINT nCode) {
-        if (nCode == EN_CHANGE || nCode == EN_UPDATE) {
-            random() % 4 == 0 ? names.RemoveAll() : void();
-            random() % 3 == 0 ? pEdit.reset() : void();
-        }
+    m_meddle = [&] {
+        random() % 4 == 0 ? names.RemoveAll() : void();
+        random() % 3 == 0 ? pEdit.reset() : void();
     };
+    int nMade = 0;
     for (int i = 0; i < MonkeySteps() || nMade < 1000; ++i) {
-        while (names.GetSize() < 4) {
-            names.Add(std::string(1 + random() % 3, static_cast<char>('a' + random() % 3)).c_str());
-        }
-        if (pEdit == nullptr) {
+        while (pEdit == nullptr) {
+            Make();
             ++nMade;
-            pEdit = std::make_unique<Mortal<OpenSpeedEdit>>();
-            pEdit->SetSpeedData(&names);
-            pEdit->SetSpeedOnly(nMade % 2);
-            ASSERT_TRUE(pEdit->Create(WS_CHILD | WS_VISIBLE, kPlace, &parent, kEditId));
         }
+        pEdit->SetSpeedOnly(random() % 2);
         pEdit->SendMessage(EM_SETSEL, random() % 5, random() % 5);
         pEdit->SendMessage(WM_CHAR, random() % 6 == 0 ? '\b' : 'a' + random() % 4, 1);
     }

@@ -1,0 +1,201 @@
+#include "dialogs/package_bar.h"
+
+#include <algorithm>
+#include <mbstring.h>
+
+namespace {
+
+constexpr int kImageWidth = 16;
+constexpr COLORREF kMask = RGB(255, 0, 255);
+constexpr int kImagePackage = 0;
+constexpr int kImageTrouble = 1;
+constexpr int kImageRequired = 2;
+
+int ImageOf(const Section& section) {
+    const auto any = [&](bool Package::*pMark) {
+        return std::any_of(section.packages.begin(), section.packages.end(),
+                           [&](const Package& package) { return package.*pMark; });
+    };
+    return any(&Package::bUnusual)    ? kImageTrouble
+           : any(&Package::bRequired) ? kImageRequired
+                                      : kImagePackage;
+}
+
+bool NameBefore(const std::string& str1, const std::string& str2) {
+    const auto bytes = [](const std::string& str) {
+        return reinterpret_cast<const unsigned char*>(str.c_str());
+    };
+    return _mbsicmp(bytes(str1), bytes(str2)) < 0;
+}
+
+// Row 0 stands for all; the others are what they say.
+std::string Chosen(QVBitmapComboBox& box) {
+    CString str;
+    const int nRow = box.GetCurSel();
+    return nRow > 0 && box.GetItemString(nRow, str) ? std::string(str) : std::string();
+}
+
+// The row of a text, or row 0 if there is none.
+void Choose(QVBitmapComboBox& box, const std::string& strText) {
+    CString str;
+    int nRow = strText.empty() ? 0 : box.GetCount() - 1;
+    while (nRow > 0 && !(box.GetItemString(nRow, str) && strText == std::string(str))) {
+        --nRow;
+    }
+    box.SetCurSel(nRow);
+}
+
+}  // namespace
+
+BEGIN_MESSAGE_MAP(PackageBar, CDialog)
+    ON_CBN_SELCHANGE(IDC_FILTER_SECTION, OnChoice)
+    ON_CBN_SELCHANGE(IDC_FILTER_ARCHITECTURE, OnChoice)
+    ON_NOTIFY(DTN_DATETIMECHANGE, IDC_FILTER_SINCE, OnSince)
+    ON_BN_CLICKED(IDC_FILTER_ANY_DATE, OnAnyDate)
+    ON_EN_CHANGE(IDC_JUMP, OnTyped)
+    ON_COMMAND_RANGE(ID_FIRST_COMMAND, ID_LAST_COMMAND, OnTool)
+END_MESSAGE_MAP()
+
+BOOL PackageBar::OnInitDialog() {
+    CDialog::OnInitDialog();
+    m_section.Initialize(IDC_FILTER_SECTION, IDB_PACKAGES, kMask, kImageWidth, this);
+    m_architecture.Initialize(IDC_FILTER_ARCHITECTURE, IDB_PACKAGES, kMask, kImageWidth, this);
+    m_since.SubclassDlgItem(IDC_FILTER_SINCE, this);
+    m_jump.SubclassDlgItem(IDC_JUMP, this);
+    m_jump.SetSpeedData(&m_names);
+    m_jump.SetSpeedOnly(TRUE);
+    m_required.SubclassDlgItem(IDC_MARK_REQUIRED, this);
+    m_unusual.SubclassDlgItem(IDC_MARK_UNUSUAL, this);
+    SetUpTools();
+    ShowSince();
+    return FALSE;
+}
+
+void PackageBar::SetUpTools() {
+    m_images.Create(IDB_TOOLS, kImageWidth, 0, kMask);
+    struct Tool {
+        QVBitmapButton& button;
+        UINT nID;
+        int nImage;
+    };
+    for (const Tool& tool :
+         {Tool{m_reload, ID_RELOAD, 0}, Tool{m_find, ID_FIND, 1}, Tool{m_export, ID_LIST_EXPORT, 2},
+          Tool{m_imageColumn, ID_LIST_IMAGE_COLUMN, 3}}) {
+        tool.button.SubclassDlgItem(tool.nID, this);
+        tool.button.SetImageID(&m_images, tool.nImage);
+        tool.button.EnableToolTip(0u);
+    }
+    m_report.SubclassDlgItem(IDC_REPORT_MENU, this);
+    m_report.SetStartCmdID(ID_PACKAGES_PREVIEW);
+    m_report.AddString("Preview the report");
+    m_report.AddString("Print the report...");
+    m_report.AddString("Export the list...");
+}
+
+// The page around moves the focus, out of the bar as well.
+BOOL PackageBar::PreTranslateMessage(MSG* pMsg) {
+    return CWnd::PreTranslateMessage(pMsg);
+}
+
+// --- What can be chosen
+
+void PackageBar::SetInventory(const Inventory& inventory) {
+    for (QVBitmapComboBox* pBox : {&m_section, &m_architecture}) {
+        pBox->SetRedraw(FALSE);
+        pBox->ResetContent();
+    }
+    m_section.AddBitmapString(kImagePackage, "all sections");
+    std::vector<std::string> names;
+    for (const Section& section : inventory.Sections()) {
+        m_section.AddBitmapString(ImageOf(section), section.strName.c_str());
+        for (const Package& package : section.packages) {
+            names.push_back(package.strName);
+        }
+    }
+    m_architecture.AddBitmapString(kImagePackage, "all");
+    for (const std::string& strName : Architectures(inventory)) {
+        m_architecture.AddBitmapString(kImagePackage, strName.c_str());
+    }
+    std::sort(names.begin(), names.end(), NameBefore);
+    m_names.SetSize(static_cast<INT_PTR>(names.size()));
+    for (size_t i = 0; i < names.size(); ++i) {
+        m_names[static_cast<INT_PTR>(i)] = names[i].c_str();
+    }
+    for (QVBitmapComboBox* pBox : {&m_section, &m_architecture}) {
+        pBox->SetRedraw(TRUE);
+        pBox->Invalidate(FALSE);
+    }
+    SetFilter(m_filter);
+}
+
+void PackageBar::ShowMarks(const Package* pPackage) {
+    const auto show = [](QVCheckWnd& mark, bool bSet) {
+        if (bSet != (mark.Checked() != 0)) {
+            mark.SetIsChecked(bSet);
+        }
+    };
+    show(m_required, pPackage != nullptr && pPackage->bRequired);
+    show(m_unusual, pPackage != nullptr && pPackage->bUnusual);
+}
+
+// --- The filter
+
+void PackageBar::SetFilter(const PackageFilter& filter) {
+    m_filter = filter;
+    Choose(m_section, filter.strSection);
+    Choose(m_architecture, filter.strArchitecture);
+    m_filter.strSection = Chosen(m_section);
+    m_filter.strArchitecture = Chosen(m_architecture);
+    ShowSince();
+}
+
+void PackageBar::ShowSince() {
+    if (m_filter.tSince != 0) {
+        m_since.SetDate(CTime(m_filter.tSince));
+    } else {
+        // A blank picker still holds a day: that which it opens with.
+        m_since.SetDate(CTime::GetCurrentTime());
+        m_since.SetWindowText("");
+    }
+}
+
+void PackageBar::TakeFilter() {
+    m_filter = {Chosen(m_section), Chosen(m_architecture), 0};
+    if (!m_since.IsBlank()) {
+        int nYear = 0;
+        int nMonth = 0;
+        int nDay = 0;
+        m_since.GetDate(nYear, nMonth, nDay);
+        m_filter.tSince = static_cast<std::time_t>(CTime(nYear, nMonth, nDay, 0, 0, 0).GetTime());
+    }
+    m_owner.OnFilterChanged();
+}
+
+void PackageBar::OnChoice() {
+    TakeFilter();
+}
+
+void PackageBar::OnSince(NMHDR*, LRESULT* pResult) {
+    *pResult = 0;
+    TakeFilter();
+}
+
+void PackageBar::OnAnyDate() {
+    m_since.SetWindowText("");
+    TakeFilter();
+}
+
+// --- Commands
+
+void PackageBar::OnTyped() {
+    CString strName;
+    m_jump.GetWindowText(strName);
+    if (!strName.IsEmpty()) {
+        m_owner.OnJump(strName);
+    }
+}
+
+// The buttons say what the menu says.
+void PackageBar::OnTool(UINT nID) {
+    AfxGetMainWnd()->PostMessage(WM_COMMAND, nID);
+}

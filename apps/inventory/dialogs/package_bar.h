@@ -1,0 +1,70 @@
+// The bar above the package list: which packages it shows, a way to one of them by its name, and
+// the list's commands. A child dialog.
+
+#pragma once
+
+#include "QVControls.h"
+#include "model/package_filter.h"
+#include "resource.h"
+
+#include <afxwin.h>
+
+// Told of what the user does in the bar.
+class PackageBarOwner {
+public:
+    virtual void OnFilterChanged() = 0;
+    // The whole name of a package.
+    virtual void OnJump(const CString& strName) = 0;
+
+protected:
+    ~PackageBarOwner() = default;
+};
+
+class PackageBar : public CDialog {
+public:
+    explicit PackageBar(PackageBarOwner& owner) : m_owner(owner) {}
+    BOOL Create(CWnd* pParent) { return CDialog::Create(IDD_PACKAGE_BAR, pParent); }
+
+    // What can be chosen. The filter stays as far as it still can.
+    void SetInventory(const Inventory& inventory);
+    // Tells nobody.
+    void SetFilter(const PackageFilter& filter);
+    const PackageFilter& Filter() const { return m_filter; }
+    // Null: none.
+    void ShowMarks(const Package* pPackage);
+    void ShowImageColumn(bool bOwn) { m_imageColumn.SetCheck(bOwn); }
+    bool HasFocusInJump() const { return ::GetFocus() == m_jump.m_hWnd; }
+
+protected:
+    BOOL OnInitDialog() override;
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+    void OnOK() override {}
+    void OnCancel() override {}
+    afx_msg void OnChoice();
+    afx_msg void OnSince(NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg void OnAnyDate();
+    afx_msg void OnTyped();
+    afx_msg void OnTool(UINT nID);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void SetUpTools();
+    void ShowSince();
+    void TakeFilter();
+
+    PackageBarOwner& m_owner;
+    PackageFilter m_filter;
+    CImageList m_images;
+    CStringArray m_names;  // of all packages, in order
+    QVBitmapComboBox m_section;
+    QVBitmapComboBox m_architecture;
+    QVDateTimeEdit m_since;
+    QVSpeedEdit m_jump;
+    QVToolButton m_reload;
+    QVToolButton m_find;
+    QVToolButton m_export;
+    QVBitmapButton m_imageColumn;
+    QVMenuButton m_report;
+    QVCheckWnd m_required;
+    QVCheckWnd m_unusual;
+};
