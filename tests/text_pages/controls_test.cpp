@@ -100,15 +100,13 @@ TEST(TextControls, ListShowsCellsAndHeadings) {
 TEST(TextControls, ComboBoxesShowTheirSelectedRow) {
     ComboWindow<QVBitmapComboBox> bitmaps;
     const int nStyle = bitmaps.combo.AddStyle(kText, kBack);
-    ExpectInk(bitmaps.parent, bitmaps.combo, FontOf(bitmaps.combo), kText, kBack,
-              [&](const std::string& str) {
-                  bitmaps.combo.ResetContent();
-                  bitmaps.combo.AddBitmapString(1,
-                                                bitmaps.combo.MakeStyleText(str.c_str(), nStyle));
-                  bitmaps.combo.SetCurSel(0);
-              });
+    ExpectInk(bitmaps.combo, FontOf(bitmaps.combo), kText, kBack, [&](const std::string& str) {
+        bitmaps.combo.ResetContent();
+        bitmaps.combo.AddBitmapString(1, bitmaps.combo.MakeStyleText(str.c_str(), nStyle));
+        bitmaps.combo.SetCurSel(0);
+    });
     ComboWindow<QVColorComboBox> colors;
-    ExpectInk(colors.parent, colors.combo, FontOf(colors.combo), ::GetSysColor(COLOR_WINDOWTEXT),
+    ExpectInk(colors.combo, FontOf(colors.combo), ::GetSysColor(COLOR_WINDOWTEXT),
               ::GetSysColor(COLOR_WINDOW), [&](const std::string& str) {
                   colors.combo.ResetContent();
                   colors.combo.InsertColorString(1, 0, str.c_str());
@@ -155,11 +153,10 @@ TEST(TextControls, ListBoxShowsRowsAndFields) {
     const HFONT hFont = FontOf(*w.list);
     w.list->AddBitmapString(7, "x");
     const auto show = [&](const std::string& str) { w.list->SetItemString(0, str.c_str()); };
-    ExpectInk(w.parent, *w.list, hFont, ::GetSysColor(COLOR_WINDOWTEXT),
-              ::GetSysColor(COLOR_WINDOW), show);
+    ExpectInk(*w.list, hFont, ::GetSysColor(COLOR_WINDOWTEXT), ::GetSysColor(COLOR_WINDOW), show);
     const int tabs[] = {100};
     w.list->UseTabs(tabs, 1);
-    ExpectInk(w.parent, *w.list, hFont, kText, kBack, [&](const std::string& str) {
+    ExpectInk(*w.list, hFont, kText, kBack, [&](const std::string& str) {
         CString strRow;
         w.list->AppendStyleText(strRow, str.c_str(), nStyle);
         show("x\t" + std::string(strRow));

@@ -101,7 +101,6 @@ void PackagesPage::OnEnter() {
 }
 
 void PackagesPage::UseSettings(const Settings& settings) {
-    m_pSettings = &settings;
     m_exporter.UseSettings(settings);
     const auto color = [&](int nSetting) {
         const NamedColor& named = kTextColors[settings.Choice(nSetting)];
@@ -129,15 +128,11 @@ void PackagesPage::OnItemChanged(NMHDR* pNMHDR, LRESULT* pResult) {
     }
 }
 
-CString PackagesPage::ExportName() const {
-    return m_pSettings != nullptr ? m_pSettings->Value(kSettingExportName).c_str() : "";
-}
-
 void PackagesPage::OnExport() {
     const auto write = [this](LPCSTR pszPath, char chSeparator) {
         return List().ExportData(pszPath, chSeparator);
     };
-    if (m_exporter.Run(*this, ExportName(), write)) {
+    if (m_exporter.Run(*this, nullptr, write)) {
         m_strMessage.Format("%d rows written to %s", List().GetItemCount(),
                             static_cast<LPCTSTR>(m_exporter.Path()));
     }

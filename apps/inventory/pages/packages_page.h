@@ -37,7 +37,6 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    CString ExportName() const;
     void OnFilterChanged() override;
     void OnJump(const CString& strName) override;
     void Refill();
@@ -45,7 +44,6 @@ private:
 
     const Inventory* m_pInventory = nullptr;
     PackageBar m_bar{*this};
-    const Settings* m_pSettings = nullptr;
     CString m_strFilterFile;
     QVListHeaderWnd m_frame{RUNTIME_CLASS(PackageList)};
     Exporter m_exporter;
