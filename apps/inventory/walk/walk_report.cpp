@@ -54,7 +54,8 @@ bool Walk::ReportSettings() {
 
 void CALLBACK Walk::WhenReportSettingsAreUp(HWND hWnd, UINT, UINT_PTR nTimer, DWORD) {
     CWnd* pDialog = CWnd::FromHandle(::FindWindow(nullptr, "Report settings"));
-    if (pDialog == nullptr || ::GetFocus() != ::GetDlgItem(pDialog->m_hWnd, IDC_REPORT_TITLE)) {
+    if (pDialog == nullptr || !pDialog->IsWindowVisible() ||
+        ::GetFocus() != ::GetDlgItem(pDialog->m_hWnd, IDC_REPORT_TITLE)) {
         return;
     }
     ::KillTimer(hWnd, nTimer);
