@@ -6,6 +6,8 @@
 #include "sources/registry_source.h"
 #include "sources/settings_file.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr char kPackageDatabase[] = "Z:\\var\\lib\\dpkg\\status";
@@ -23,8 +25,11 @@ BEGIN_MESSAGE_MAP(MainFrame, CFrameWnd)
 END_MESSAGE_MAP()
 
 BOOL MainFrame::PreCreateWindow(CREATESTRUCT& cs) {
-    cs.cx = 1000;
-    cs.cy = 640;
+    // As large for any size of the system's fonts, as far as the screen goes.
+    const CClientDC dc(nullptr);
+    const int nDpi = dc.GetDeviceCaps(LOGPIXELSX);
+    cs.cx = std::min(::MulDiv(1000, nDpi, 96), ::GetSystemMetrics(SM_CXSCREEN));
+    cs.cy = std::min(::MulDiv(640, nDpi, 96), ::GetSystemMetrics(SM_CYSCREEN));
     cs.style &= ~static_cast<LONG>(FWS_ADDTOTITLE);
     return CFrameWnd::PreCreateWindow(cs);
 }
@@ -33,7 +38,7 @@ int MainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     static constexpr UINT kIndicators[] = {ID_INDICATOR_MESSAGE, ID_INDICATOR_MARKED};
     if (CFrameWnd::OnCreate(lpCreateStruct) == -1 || !m_pages.Create(this) ||
         !m_pages.Add(m_sections) || !m_pages.Add(m_packages) || !m_pages.Add(m_report) ||
-        !m_pages.Add(m_settings) || !m_pages.Add(m_log) ||
+        !m_pages.Add(m_settings) || !m_pages.Add(m_log) || !m_pages.Add(m_largest) ||
         !m_statusBar.Create(this) ||
         !m_statusBar.SetIndicators(kIndicators, static_cast<int>(std::size(kIndicators)))) {
         return -1;
@@ -52,6 +57,7 @@ void MainFrame::LoadSettings(const CString& strPath, bool bInteractive) {
     const class Settings& settings = m_settings.Values();
     m_sections.Tree().UseIndentedColumns(settings.Choice(kSettingTreeColumns) == 0);
     m_packages.UseSettings(settings);
+    m_largest.UseSettings(settings);
     m_packages.UseFilterFile(strFile.Left(strFile.ReverseFind('\\') + 1) + "filter.txt");
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "model/package_database.h"
+#include "pages/largest_page.h"
 #include "pages/log_page.h"
 #include "pages/packages_page.h"
 #include "pages/page_host.h"
@@ -21,6 +22,7 @@ public:
     ReportPage& Report() { return m_report; }
     SettingsPage& Settings() { return m_settings; }
     LogPage& Log() { return m_log; }
+    LargestPage& Largest() { return m_largest; }
     // Empty: the user's own file. Call before Open.
     void LoadSettings(const CString& strPath, bool bInteractive);
     PageHost& Pages() { return m_pages; }
@@ -46,7 +48,8 @@ private:
     TreePage m_sections;
     PackagesPage m_packages;
     SettingsPage m_settings;
-    ReportPage m_report{m_packages, m_settings.Values()};
+    ReportPage m_report{m_packages, m_settings};
     LogPage m_log;
+    LargestPage m_largest;
     PageHost m_pages;
 };

@@ -329,6 +329,11 @@ int QVBitmapListBox::CreateHeaders() {
         PlaceBehind(m_hWnd, m_wndFrame.m_hWnd != nullptr ? m_wndFrame.m_hWnd : m_header.m_hWnd, rc,
                     SWP_FRAMECHANGED);
     }
+    // The frame paints nothing where header and list are, not even before they do.
+    if (watch && m_wndFrame.m_hWnd != nullptr) {
+        m_wndFrame.ModifyStyle(0, WS_CLIPSIBLINGS);
+        m_wndFrame.SetWindowPos(&CWnd::wndBottom, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    }
     return nCreated;
 }
 
@@ -361,7 +366,7 @@ int QVBitmapListBox::CreateHeader(CHeaderCtrl& header, UINT nID, CRect& rc, int 
     if (!watch) {
         return FALSE;
     }
-    header.SetFont(GetFont(), TRUE);
+    header.SendMessage(WM_SETFONT, static_cast<WPARAM>(SendMessage(WM_GETFONT)), TRUE);
     CRect rcLeft(rc);
     WINDOWPOS pos{};
     HDLAYOUT layout{&rcLeft, &pos};

@@ -267,6 +267,45 @@ TEST_F(Outside, AList) {
     List().LooksAtItself(m_parent);
 }
 
+// --- Boxes
+
+class ListBox : public QVBitmapListBox {
+public:
+    void LooksAtItself(CWnd& parent) {
+        ASSERT_TRUE(Create(WS_CHILD, kRect, &parent, 1));
+        SetHeader(2);
+        SortByImageIndex(0);
+        ASSERT_TRUE(Initialize(1, 0, 0, 0, &parent));
+        EXPECT_EQ(HeaderID(), m_nHeaderID);
+        EXPECT_EQ(m_anTabs[0], 60) << "by CalcTabs";
+        AddHeader("title");
+        EXPECT_EQ(m_header.GetItemCount(), 1);
+        EXPECT_EQ(m_wndFrame.m_hWnd, nullptr);
+        int nImage;
+        CString strText;
+        ExtractInfo("text\t5", nImage, strText);
+        EXPECT_EQ(nImage, 5);
+        int nPos = 0;
+        EXPECT_TRUE(NextField("\033aa\tb", nPos, strText));
+        EXPECT_STREQ(strText, "\033aa");
+        SaveSelections();
+        EXPECT_EQ(m_aSavedSelections.GetSize(), 0);
+        CalcItemHeight();
+        EXPECT_EQ(m_nItemHeight, std::max(m_nFontHeight, m_nBitmapHeight) + 2);
+        EXPECT_TRUE(m_bRedraw);
+    }
+
+protected:
+    int CalcTabs(CDC*, int* pTabs) override {
+        pTabs[0] = 60;
+        return 1;
+    }
+};
+
+TEST_F(Outside, AListBox) {
+    ListBox().LooksAtItself(m_parent);
+}
+
 // --- Combo boxes
 
 class BitmapCombo : public QVBitmapComboBox {

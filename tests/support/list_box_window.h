@@ -58,6 +58,19 @@ protected:
     }
 };
 
+// A parent that may be made to do something before it looks at a message.
+class HookedParent : public FontParent {
+public:
+    using FontParent::FontParent;
+    std::function<bool(UINT nMessage)> onMessage;  // true: that was all
+
+protected:
+    LRESULT WindowProc(UINT nMessage, WPARAM wParam, LPARAM lParam) override {
+        return onMessage && onMessage(nMessage) ? 0
+                                                : FontParent::WindowProc(nMessage, wParam, lParam);
+    }
+};
+
 template <class List = OpenListBox>
 class ListBoxWindow {
 public:
@@ -78,6 +91,7 @@ public:
     }
     ~ListBoxWindow() {
         parent.m_hook = nullptr;
+        parent.onMessage = nullptr;
         if (!bDeleted) {
             delete list;
         }
@@ -125,7 +139,7 @@ public:
         return item;
     }
 
-    FontParent parent;
+    HookedParent parent;
     List* list = new List;
     bool bDeleted = false;
 };

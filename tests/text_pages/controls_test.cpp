@@ -4,6 +4,7 @@
 #include "page_text.h"
 #include "support/combo_window.h"
 #include "support/grid_window.h"
+#include "support/list_box_window.h"
 #include "support/list_window.h"
 #include "support/text_window.h"
 #include "support/tree_window.h"
@@ -100,15 +101,13 @@ TEST(TextControls, ListShowsCellsAndHeadings) {
 TEST(TextControls, ComboBoxesShowTheirSelectedRow) {
     ComboWindow<QVBitmapComboBox> bitmaps;
     const int nStyle = bitmaps.combo.AddStyle(kText, kBack);
-    ExpectInk(bitmaps.parent, bitmaps.combo, FontOf(bitmaps.combo), kText, kBack,
-              [&](const std::string& str) {
-                  bitmaps.combo.ResetContent();
-                  bitmaps.combo.AddBitmapString(1,
-                                                bitmaps.combo.MakeStyleText(str.c_str(), nStyle));
-                  bitmaps.combo.SetCurSel(0);
-              });
+    ExpectInk(bitmaps.combo, FontOf(bitmaps.combo), kText, kBack, [&](const std::string& str) {
+        bitmaps.combo.ResetContent();
+        bitmaps.combo.AddBitmapString(1, bitmaps.combo.MakeStyleText(str.c_str(), nStyle));
+        bitmaps.combo.SetCurSel(0);
+    });
     ComboWindow<QVColorComboBox> colors;
-    ExpectInk(colors.parent, colors.combo, FontOf(colors.combo), ::GetSysColor(COLOR_WINDOWTEXT),
+    ExpectInk(colors.combo, FontOf(colors.combo), ::GetSysColor(COLOR_WINDOWTEXT),
               ::GetSysColor(COLOR_WINDOW), [&](const std::string& str) {
                   colors.combo.ResetContent();
                   colors.combo.InsertColorString(1, 0, str.c_str());
@@ -147,6 +146,52 @@ TEST(TextControls, ListHeadingOf254BytesIsCutBehindACharacter) {
     EXPECT_GT(strGot.size(), 250u);
     EXPECT_EQ(word.str.find(strGot), 0u);
     EXPECT_EQ(word.strWide.find(FromPage(strGot)), 0u);
+}
+
+TEST(TextControls, ListBoxShowsRowsAndFields) {
+    ListBoxWindow<> w;
+    const int nStyle = w.list->AddStyle(kText, kBack);
+    const HFONT hFont = FontOf(*w.list);
+    w.list->AddBitmapString(7, "x");
+    const auto show = [&](const std::string& str) { w.list->SetItemString(0, str.c_str()); };
+    ExpectInk(*w.list, hFont, ::GetSysColor(COLOR_WINDOWTEXT), ::GetSysColor(COLOR_WINDOW), show);
+    const int tabs[] = {100};
+    w.list->UseTabs(tabs, 1);
+    ExpectInk(*w.list, hFont, kText, kBack, [&](const std::string& str) {
+        CString strRow;
+        w.list->AppendStyleText(strRow, str.c_str(), nStyle);
+        show("x\t" + std::string(strRow));
+    });
+    for (const PageWord& word : PageWords()) {
+        show(word.str + "\t" + word.str);
+        EXPECT_EQ(w.Row(0), word.str + "\t" + word.str);
+        EXPECT_EQ(w.list->GetImage(0), 7);
+        EXPECT_EQ(w.list->FindBitmapString(7, w.Row(0).c_str()), 0);
+    }
+    const PageWord word = LongWord(2000);
+    show(word.str);
+    EXPECT_EQ(w.Row(0), word.str);
+}
+
+TEST(TextControls, ListBoxHeadingOf99BytesIsCutBehindACharacter) {
+    for (const int nBefore : {0, 1, 2, 3}) {
+        const PageWord word = LongWord(120);
+        const std::string strTitle = std::string(static_cast<size_t>(nBefore), '.') + word.str;
+        ListBoxWindow<> w(0, false, true);
+        w.list->AddHeader(strTitle.c_str());
+        for (const bool bSync : {false, true}) {
+            if (bSync) {
+                w.list->CalcTabsFromHeader(0);
+            }
+            CString str;
+            w.list->MakeHeaderString(str);
+            EXPECT_EQ(strTitle.find(str), 0u);
+            EXPECT_GT(str.GetLength(), 95);
+            EXPECT_LT(str.GetLength(), 100);
+            const std::string strGot = std::string(str).substr(static_cast<size_t>(nBefore));
+            EXPECT_EQ(word.strWide.find(FromPage(strGot)), 0u);
+        }
+    }
 }
 
 TEST(TextControls, GridShowsCells) {

@@ -1,5 +1,7 @@
 #include "model/settings.h"
 
+#include "model/report_settings.h"
+
 #include <algorithm>
 
 namespace {
@@ -12,6 +14,15 @@ std::string_view NextLine(std::string_view& text) {
         line.remove_suffix(1);
     }
     return line;
+}
+
+template <class Entry, size_t nCount>
+std::vector<std::string> Names(const Entry (&entries)[nCount]) {
+    std::vector<std::string> names;
+    for (const Entry& entry : entries) {
+        names.emplace_back(entry.pszName);
+    }
+    return names;
 }
 
 }  // namespace
@@ -72,28 +83,30 @@ bool KeyedValues::Parse(std::string_view text, size_t& nLine) {
 }
 
 Settings::Settings()
-    : KeyedValues("inventory settings, version 1",
-                  {
-                      {"report.title",
-                       "Title of the report",
-                       SettingKind::Text,
-                       "What is installed on this machine",
-                       {}},
-                      {"report.footer", "Beside the page number", SettingKind::Text, "", {}},
-                      {"report.margins",
-                       "Margins",
-                       SettingKind::Choice,
-                       "normal",
-                       {"narrow", "normal", "wide"}},
-                      {"tree.columns",
-                       "Columns of the tree",
-                       SettingKind::Choice,
-                       "indented",
-                       {"indented", "absolute"}},
-                      {"export.separator",
-                       "Between exported cells",
-                       SettingKind::Choice,
-                       "TAB",
-                       {"TAB", "comma", "semicolon", "bar"}},
-                      {"export.folder", "Folder for exports", SettingKind::Folder, "", {}},
-                  }) {}
+    : KeyedValues(
+          "inventory settings, version 1",
+          {{"tree.columns",
+            "Columns of the tree",
+            SettingKind::Choice,
+            "indented",
+            {"indented", "absolute"}},
+           {"export.separator",
+            "Between exported cells",
+            SettingKind::Choice,
+            "TAB",
+            {"TAB", "comma", "semicolon", "bar"}},
+           {"export.name", "Name of the exported list", SettingKind::Text, "packages.txt", {}},
+           {"export.folder", "Folder for exports", SettingKind::Folder, "", {}},
+           {"report.title", "Title", SettingKind::Text, "What is installed on <machine>", {}},
+           {"report.footer", "Footer", SettingKind::Text, "", {}},
+           {"report.paper", "Paper", SettingKind::Choice, kPapers[0].pszName, Names(kPapers)},
+           {"report.margins", "Margins", SettingKind::Text, "23 23 23 23", {}},
+           {"report.packages",
+            "Packages",
+            SettingKind::Choice,
+            "all of them",
+            {"all of them", "the required ones", "those in an unusual state"}},
+           {"colors.installed", "Installed", SettingKind::Choice, "black", Names(kTextColors)},
+           {"colors.required", "Required", SettingKind::Choice, "blue", Names(kTextColors)},
+           {"colors.unusual", "In an unusual state", SettingKind::Choice, "red",
+            Names(kTextColors)}}) {}

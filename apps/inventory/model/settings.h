@@ -44,15 +44,22 @@ private:
     std::vector<Setting> m_settings;
 };
 
-// Indices of the settings.
+// Indices of the settings: first those that have a row in the settings page's grid, then the
+// report's, which have a dialog.
 enum SettingIndex {
-    kSettingTitle,
-    kSettingFooter,
-    kSettingMargins,
     kSettingTreeColumns,
     kSettingSeparator,
+    kSettingExportName,
     kSettingExportFolder,
-    kSettingCount
+    kSettingsInGrid,
+    kSettingTitle = kSettingsInGrid,
+    kSettingFooter,
+    kSettingPaper,
+    kSettingMargins,
+    kSettingPackages,
+    kSettingColorInstalled,
+    kSettingColorRequired,
+    kSettingColorUnusual
 };
 
 class Settings : public KeyedValues {

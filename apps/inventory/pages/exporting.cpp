@@ -32,7 +32,8 @@ bool Exporter::Run(CWnd& parent, LPCSTR pszName, const std::function<BOOL(LPCSTR
         dialog.m_nSeparator = m_pSettings->Choice(kSettingSeparator);
         const CString strFolder = m_pSettings->Value(kSettingExportFolder).c_str();
         if (m_strPath.IsEmpty() && !strFolder.IsEmpty()) {
-            dialog.m_strPath = strFolder + "\\" + pszName;
+            const CString strName = m_pSettings->Value(kSettingExportName).c_str();
+            dialog.m_strPath = strFolder + "\\" + (pszName != nullptr ? CString(pszName) : strName);
         }
     }
     if (dialog.DoModal() != IDOK) {

@@ -22,6 +22,13 @@ void PackageList::SetUp(CFont* pFont) {
     MakeColumns();
 }
 
+void PackageList::UseColors(COLORREF crInstalled, COLORREF crRequired, COLORREF crTrouble) {
+    UpdateStyle(0, crInstalled, StyleColors(0).crBk);
+    UpdateStyle(m_nRequired, crRequired, StyleColors(m_nRequired).crBk);
+    UpdateStyle(m_nTrouble, crTrouble, StyleColors(m_nTrouble).crBk);
+    InvalidateData(FALSE);
+}
+
 void PackageList::MakeColumns() {
     ClearHeaders();
     ClearCols();

@@ -21,6 +21,8 @@ public:
     // of it.
     void Show(const Inventory& inventory, const PackageFilter& filter);
 
+    // Of the texts of each kind of package.
+    void UseColors(COLORREF crInstalled, COLORREF crRequired, COLORREF crTrouble);
     // Images beside the names, or in a column of their own.
     void UseImageColumn(bool bOwn);
     bool HasImageColumn() const { return m_bImageColumn; }

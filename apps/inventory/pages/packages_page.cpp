@@ -1,5 +1,6 @@
 #include "pages/packages_page.h"
 
+#include "model/report_settings.h"
 #include "resource.h"
 #include "sources/settings_file.h"
 
@@ -41,8 +42,8 @@ void PackagesPage::OnSize(UINT nType, int cx, int cy) {
     m_frame.MoveWindow(0, rc.Height(), cx, std::max(cy - rc.Height(), 0));
 }
 
-// Tab, mnemonics and Enter go around in bar and list as in a dialog. What a dialog sees it keeps, so
-// the frame's accelerators come first.
+// Tab, mnemonics and Enter go around in bar and list as in a dialog. What a dialog sees it keeps,
+// so the frame's accelerators come first.
 BOOL PackagesPage::PreTranslateMessage(MSG* pMsg) {
     return Page::PreTranslateMessage(pMsg) || GetParentFrame()->PreTranslateMessage(pMsg) ||
            PreTranslateInput(pMsg);
@@ -99,6 +100,16 @@ void PackagesPage::OnEnter() {
     }
 }
 
+void PackagesPage::UseSettings(const Settings& settings) {
+    m_exporter.UseSettings(settings);
+    const auto color = [&](int nSetting) {
+        const NamedColor& named = kTextColors[settings.Choice(nSetting)];
+        return RGB(named.red, named.green, named.blue);
+    };
+    List().UseColors(color(kSettingColorInstalled), color(kSettingColorRequired),
+                     color(kSettingColorUnusual));
+}
+
 CString PackagesPage::MarkedText() {
     const PackageList::Selected selected = List().CountSelected();
     CString strText;
@@ -121,7 +132,7 @@ void PackagesPage::OnExport() {
     const auto write = [this](LPCSTR pszPath, char chSeparator) {
         return List().ExportData(pszPath, chSeparator);
     };
-    if (m_exporter.Run(*this, "packages.txt", write)) {
+    if (m_exporter.Run(*this, nullptr, write)) {
         m_strMessage.Format("%d rows written to %s", List().GetItemCount(),
                             static_cast<LPCTSTR>(m_exporter.Path()));
     }

@@ -21,8 +21,8 @@ public:
     PackageBar& Bar() { return m_bar; }
     // Shows what the file says, and writes there what the filter is at the end.
     void UseFilterFile(const CString& strPath);
-    // What the export dialog starts with.
-    void UseSettings(const Settings& settings) { m_exporter.UseSettings(settings); }
+    // What the export dialog starts with, and the colours of the rows.
+    void UseSettings(const Settings& settings);
 
 protected:
     BOOL PreTranslateMessage(MSG* pMsg) override;

@@ -32,6 +32,17 @@ bool PrinterChoice::Ask(unsigned nPages, CDC& dc) {
     return true;
 }
 
+void PrinterChoice::UsePaper(int nPaper) {
+    if (nPaper == 0 || (m_pd.hDevMode == nullptr && !GetDefaults())) {
+        return;
+    }
+    if (DEVMODE* pMode = GetDevMode()) {
+        pMode->dmPaperSize = static_cast<short>(nPaper);
+        pMode->dmFields |= DM_PAPERSIZE;
+        ::GlobalUnlock(m_pd.hDevMode);
+    }
+}
+
 unsigned PrinterChoice::FirstPage() const {
     return PrintRange() ? static_cast<unsigned>(GetFromPage()) : 1;
 }
@@ -40,9 +51,13 @@ unsigned PrinterChoice::LastPage() const {
     return PrintRange() ? static_cast<unsigned>(GetToPage()) : ~0u;
 }
 
-bool OpenDefaultPrinter(CWnd* pParent, CDC& dc) {
+bool OpenDefaultPrinter(CWnd* pParent, CDC& dc, int nPaper) {
     PrinterChoice printer(pParent);
-    if (!printer.GetDefaults() || !dc.Attach(printer.CreatePrinterDC())) {
+    if (!printer.GetDefaults()) {
+        return false;
+    }
+    printer.UsePaper(nPaper);
+    if (!dc.Attach(printer.CreatePrinterDC())) {
         return false;
     }
     dc.m_bPrinting = TRUE;

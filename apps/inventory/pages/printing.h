@@ -17,12 +17,14 @@ public:
     // Asks which printer and which of nPages pages. False if the user does not want to, or if there
     // is no printer, which is said.
     bool Ask(unsigned nPages, CDC& dc);
+    // Begins with a paper (DMPAPER_) in place of the printer's own; 0 leaves that.
+    void UsePaper(int nPaper);
     unsigned FirstPage() const;
     unsigned LastPage() const;
 };
 
 // The default printer without a question; false if there is none.
-bool OpenDefaultPrinter(CWnd* pParent, CDC& dc);
+bool OpenDefaultPrinter(CWnd* pParent, CDC& dc, int nPaper = 0);
 
 // Prints pages nFirst to nLast. pszOutput: a file that the job goes to, null for the printer's own
 // port. False if the printer does not take it; nothing is printed then.

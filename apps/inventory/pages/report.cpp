@@ -1,15 +1,17 @@
 #include "pages/report.h"
 
+#include "model/report_settings.h"
 #include "pages/printing.h"
 
 #include <algorithm>
 
 namespace {
 
-constexpr double kMarginInches[] = {0.6, 0.9, 1.4};  // narrow, normal, wide
-// The paper where there is no printer to tell it: A4.
-constexpr double kPaperWidthInch = 8.27;
-constexpr double kPaperHeightInch = 11.69;
+constexpr double kInch = 25.4;  // in millimetres
+// Where there is no printer to tell its own paper.
+constexpr const Paper& kUsualPaper = kPapers[1];
+
+enum ReportedPackages { kReportAll, kReportRequired, kReportUnusual };
 
 long SizeOf(const Section& section) {
     long nKiB = 0;
@@ -38,15 +40,16 @@ CString WithThousands(size_t n) {
 Report::Report(const Inventory& inventory, const ReportOptions& options, const Settings& settings,
                QVListCtrlEx& columns, QVListCtrlEx& list, CDC& dc)
     : m_options(options), m_settings(settings) {
+    Choose(inventory);
     MeasurePaper(dc);
     MakeFonts(dc);
     m_pEngine = std::make_unique<QVPrintEngine>(&dc, &m_fontHeader, &m_fontNormal, &m_fontSection);
     m_pEngine->SetPrintAllRows(true);
     if (options.bIntroduction) {
-        AddIntroduction(inventory, dc);
+        AddIntroduction(dc);
     }
     if (options.bSections || options.bTotals) {
-        for (const Section& section : inventory.Sections()) {
+        for (const Section& section : m_inventory.Sections()) {
             AddSection(section, columns, dc);
         }
     }
@@ -57,6 +60,33 @@ Report::Report(const Inventory& inventory, const ReportOptions& options, const S
     m_nPages = m_pEngine->Paginate(m_rcText);
 }
 
+void Report::Choose(const Inventory& inventory) {
+    const int nPackages = m_settings.Choice(kSettingPackages);
+    std::vector<Package> packages;
+    for (const Section& section : inventory.Sections()) {
+        std::copy_if(
+            section.packages.begin(), section.packages.end(), std::back_inserter(packages),
+            [&](const Package& package) {
+                return nPackages == kReportAll ||
+                       (nPackages == kReportRequired ? package.bRequired : package.bUnusual);
+            });
+    }
+    m_inventory.SetPackages(std::move(packages));
+}
+
+CString Report::Text(int nSetting) const {
+    char szMachine[MAX_COMPUTERNAME_LENGTH + 1] = "";
+    DWORD nLength = sizeof(szMachine);
+    ::GetComputerName(szMachine, &nLength);
+    const CString strDate = CTime::GetCurrentTime().Format("%Y-%m-%d");
+    return ReplaceCodes(
+               m_settings.Value(nSetting),
+               {{kCodeMachine, szMachine},
+                {kCodeDate, static_cast<LPCSTR>(strDate)},
+                {kCodePackages, static_cast<LPCSTR>(WithThousands(m_inventory.CountPackages()))}})
+        .c_str();
+}
+
 void Report::MeasurePaper(CDC& dc) {
     const int nDpiX = dc.GetDeviceCaps(LOGPIXELSX);
     const int nDpiY = dc.GetDeviceCaps(LOGPIXELSY);
@@ -64,12 +94,18 @@ void Report::MeasurePaper(CDC& dc) {
         m_paper = CSize(dc.GetDeviceCaps(PHYSICALWIDTH), dc.GetDeviceCaps(PHYSICALHEIGHT));
         m_origin = CPoint(dc.GetDeviceCaps(PHYSICALOFFSETX), dc.GetDeviceCaps(PHYSICALOFFSETY));
     } else {
-        m_paper = CSize(static_cast<int>(kPaperWidthInch * nDpiX),
-                        static_cast<int>(kPaperHeightInch * nDpiY));
+        const int nPaper = m_settings.Choice(kSettingPaper);
+        const Paper& paper = nPaper != 0 ? kPapers[nPaper] : kUsualPaper;
+        m_paper = CSize(static_cast<int>(paper.width / kInch * nDpiX),
+                        static_cast<int>(paper.height / kInch * nDpiY));
     }
     m_rcText = CRect(CPoint(-m_origin.x, -m_origin.y), m_paper);
-    const double margin = kMarginInches[m_settings.Choice(kSettingMargins)];
-    m_rcText.DeflateRect(static_cast<int>(margin * nDpiX), static_cast<int>(margin * nDpiY));
+    const Margins margins = ReadMargins(m_settings.Value(kSettingMargins));
+    const auto units = [](double margin, int nDpi) {
+        return static_cast<int>(margin / kInch * nDpi);
+    };
+    m_rcText.DeflateRect(units(margins[0], nDpiX), units(margins[1], nDpiY),
+                         units(margins[2], nDpiX), units(margins[3], nDpiY));
 }
 
 void Report::MakeFonts(CDC& dc) {
@@ -80,14 +116,14 @@ void Report::MakeFonts(CDC& dc) {
     m_nLineHeight = dc.GetTextExtent("0", 1).cy;
 }
 
-void Report::AddIntroduction(const Inventory& inventory, CDC& dc) {
+void Report::AddIntroduction(CDC& dc) {
     long nKiB = 0;
     size_t nUnusual = 0;
-    for (const Section& section : inventory.Sections()) {
+    for (const Section& section : m_inventory.Sections()) {
         nKiB += SizeOf(section);
         nUnusual += UnusualIn(section);
     }
-    m_pEngine->AddHeader(m_settings.Value(kSettingTitle).c_str(), &dc);
+    m_pEngine->AddHeader(Text(kSettingTitle), &dc);
     m_pEngine->AddBreak();
     CString strText;
     strText.Format(
@@ -96,8 +132,8 @@ void Report::AddIntroduction(const Inventory& inventory, CDC& dc) {
         "its packages, ordered by name, with their versions, sizes and states, and ends "
         "with its totals. Packages that are in any state but properly installed are "
         "counted apart; at this moment there are %s of them.",
-        static_cast<LPCTSTR>(WithThousands(inventory.CountPackages())),
-        static_cast<LPCTSTR>(WithThousands(inventory.Sections().size())), SizeText(nKiB).c_str(),
+        static_cast<LPCTSTR>(WithThousands(m_inventory.CountPackages())),
+        static_cast<LPCTSTR>(WithThousands(m_inventory.Sections().size())), SizeText(nKiB).c_str(),
         static_cast<LPCTSTR>(WithThousands(nUnusual)));
     m_pEngine->AddText(strText, &dc, nullptr);
 }
@@ -154,5 +190,5 @@ void Report::PrintPage(CDC& dc, unsigned nPage) {
     rcLine.bottom = rcLine.top + m_nLineHeight;
     strText.Format("Page %u of %u", nPage, m_nPages);
     dc.DrawText(strText, &rcLine, DT_SINGLELINE | DT_NOPREFIX | DT_CENTER);
-    dc.DrawText(m_settings.Value(kSettingFooter).c_str(), -1, &rcLine, DT_SINGLELINE | DT_NOPREFIX);
+    dc.DrawText(Text(kSettingFooter), &rcLine, DT_SINGLELINE | DT_NOPREFIX);
 }

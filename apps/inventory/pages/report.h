@@ -36,14 +36,19 @@ public:
     void PrintPage(CDC& dc, unsigned nPage);
 
 private:
+    // What goes into the report of a machine's inventory.
+    void Choose(const Inventory& inventory);
+    // A text of the settings, its codes replaced.
+    CString Text(int nSetting) const;
     void MeasurePaper(CDC& dc);
     void MakeFonts(CDC& dc);
-    void AddIntroduction(const Inventory& inventory, CDC& dc);
+    void AddIntroduction(CDC& dc);
     void AddSection(const Section& section, QVListCtrlEx& columns, CDC& dc);
     void AddTotals(const Section& section, CDC& dc);
 
     ReportOptions m_options;
     const Settings& m_settings;
+    Inventory m_inventory;
     CFont m_fontNormal;
     CFont m_fontHeader;
     CFont m_fontSection;

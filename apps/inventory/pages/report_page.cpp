@@ -1,5 +1,7 @@
 #include "pages/report_page.h"
 
+#include "dialogs/report_settings_dialog.h"
+#include "model/report_settings.h"
 #include "pages/printing.h"
 #include "resource.h"
 
@@ -22,6 +24,7 @@ constexpr Choice kButtonTexts[] = {{ID_REPORT_PREVIOUS, "Previous page"},
                                    {ID_REPORT_ZOOM_IN, "Zoom in"},
                                    {ID_REPORT_ZOOM_OUT, "Zoom out"},
                                    {ID_REPORT_FIT, "Fit"},
+                                   {ID_REPORT_SETTINGS, "Settings..."},
                                    {ID_REPORT_PRINT, "Print..."}};
 
 }  // namespace
@@ -36,6 +39,7 @@ BEGIN_MESSAGE_MAP(ReportPage, Page)
     ON_COMMAND(ID_REPORT_ZOOM_IN, OnZoomIn)
     ON_COMMAND(ID_REPORT_ZOOM_OUT, OnZoomOut)
     ON_COMMAND(ID_REPORT_FIT, OnFit)
+    ON_COMMAND(ID_REPORT_SETTINGS, OnSettings)
     ON_COMMAND(ID_REPORT_PRINT, OnPrint)
     ON_UPDATE_COMMAND_UI(ID_REPORT_PREVIOUS, OnUpdatePrevious)
     ON_UPDATE_COMMAND_UI(ID_REPORT_NEXT, OnUpdateNext)
@@ -117,19 +121,23 @@ void ReportPage::OnShown() {
     MakeReport();
 }
 
+int ReportPage::PaperNumber() const {
+    return kPapers[m_settings.Values().Choice(kSettingPaper)].nPlatformNumber;
+}
+
 // Pages are laid out for the printer that they will come from.
 void ReportPage::OpenDevice() {
     if (m_dcDevice.GetSafeHdc() != nullptr) {
         return;
     }
-    if (OpenDefaultPrinter(this, m_dcDevice)) {
+    if (OpenDefaultPrinter(this, m_dcDevice, PaperNumber())) {
         return;
     }
     m_dcDevice.CreateCompatibleDC(nullptr);
 }
 
 std::unique_ptr<Report> ReportPage::Compose(CDC& dc) {
-    return std::make_unique<Report>(*m_pInventory, m_options, m_settings, m_columns,
+    return std::make_unique<Report>(*m_pInventory, m_options, m_settings.Values(), m_columns,
                                     m_packages.List(), dc);
 }
 
@@ -195,6 +203,22 @@ void ReportPage::OnUpdateNext(CCmdUI* pCmdUI) {
     pCmdUI->Enable(m_preview.PageShown() < Pages());
 }
 
+// --- Settings
+
+void ReportPage::OnSettings() {
+    ReportSettingsDialog dialog(this, m_settings.Values());
+    if (dialog.DoModal() != IDOK) {
+        return;
+    }
+    m_settings.Take(dialog.m_settings);
+    m_packages.UseSettings(m_settings.Values());
+    m_preview.SetReport(nullptr, nullptr);
+    m_pReport.reset();
+    m_dcDevice.DeleteDC();  // may have another paper
+    MakeReport();
+    m_strMessage = m_settings.Message();
+}
+
 // --- Paper
 
 void ReportPage::OnPrint() {
@@ -202,6 +226,7 @@ void ReportPage::OnPrint() {
         return;
     }
     PrinterChoice printer(this);
+    printer.UsePaper(PaperNumber());
     CDC dc;
     if (printer.Ask(Pages(), dc) && !Print(dc, printer.FirstPage(), printer.LastPage(), nullptr)) {
         AfxMessageBox(m_strMessage, MB_ICONEXCLAMATION);
@@ -210,7 +235,7 @@ void ReportPage::OnPrint() {
 
 bool ReportPage::PrintToFile(LPCSTR pszOutput) {
     CDC dc;
-    if (!OpenDefaultPrinter(this, dc)) {
+    if (!OpenDefaultPrinter(this, dc, PaperNumber())) {
         m_strMessage = "There is no printer to print on.";
         return false;
     }

@@ -6,13 +6,14 @@
 #include "pages/page.h"
 #include "pages/preview_window.h"
 #include "pages/report.h"
+#include "pages/settings_page.h"
 
 #include <memory>
 
 class ReportPage : public Page {
 public:
     // The list that can be printed as it stands.
-    ReportPage(PackagesPage& packages, const Settings& settings)
+    ReportPage(PackagesPage& packages, SettingsPage& settings)
         : m_packages(packages), m_settings(settings) {}
 
     LPCSTR Title() const override { return "Report"; }
@@ -39,6 +40,7 @@ protected:
     afx_msg void OnZoomIn();
     afx_msg void OnZoomOut();
     afx_msg void OnFit();
+    afx_msg void OnSettings();
     afx_msg void OnPrint();
     afx_msg void OnUpdatePrevious(CCmdUI* pCmdUI);
     afx_msg void OnUpdateNext(CCmdUI* pCmdUI);
@@ -46,16 +48,17 @@ protected:
 
 private:
     static constexpr int kOptions = 4;
-    static constexpr int kButtons = 6;
+    static constexpr int kButtons = 7;
 
     bool& Option(UINT nID);
     bool PrintPages(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutput);
+    int PaperNumber() const;
     void OpenDevice();
     void MakeReport();
     std::unique_ptr<Report> Compose(CDC& dc);
 
     PackagesPage& m_packages;
-    const Settings& m_settings;
+    SettingsPage& m_settings;
     const Inventory* m_pInventory = nullptr;
     ReportOptions m_options;
     QVListCtrlEx m_columns;  // hidden: gives the sections their columns

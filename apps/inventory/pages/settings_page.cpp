@@ -77,7 +77,8 @@ void SettingsPage::ShowDatabase(const CString& strPath) {
 void SettingsPage::Fill() {
     m_grid.SetRedraw(FALSE);
     m_grid.DeleteAllRows();
-    for (const Setting& setting : m_settings.All()) {
+    for (int n = 0; n < kSettingsInGrid; ++n) {
+        const Setting& setting = m_settings.All()[n];
         const int nRow = m_grid.AddRow(CString(setting.pszName), 0);
         m_grid.SetCellText(nRow, ColumnOf(setting.kind), setting.strValue.c_str());
         for (int nCol = kTextColumn; nCol <= kFolderColumn; ++nCol) {
@@ -103,14 +104,23 @@ void SettingsPage::Fill() {
 }
 
 void SettingsPage::Keep() {
-    if (m_grid.m_hWnd == nullptr || m_strPath.IsEmpty() || m_grid.NumRows() < kSettingCount) {
+    if (m_grid.m_hWnd == nullptr || m_strPath.IsEmpty() || m_grid.NumRows() < kSettingsInGrid) {
         return;
     }
-    for (int n = 0; n < kSettingCount; ++n) {
+    for (int n = 0; n < kSettingsInGrid; ++n) {
         CString strValue;
         m_grid.GetCellText(n, ColumnOf(m_settings.All()[n].kind), strValue);
         m_settings.Set(n, static_cast<LPCSTR>(strValue));
     }
+    Write();
+}
+
+void SettingsPage::Take(const Settings& settings) {
+    m_settings = settings;
+    Write();
+}
+
+void SettingsPage::Write() {
     const std::string text = m_settings.Format();
     if (text == m_strSaved) {
         return;
@@ -147,7 +157,8 @@ BOOL SettingsPage::OnCommand(WPARAM wParam, LPARAM lParam) {
 
 void SettingsPage::OnButton() {
     const int nRow = m_grid.CurrentRow();
-    if (nRow < 0 || nRow >= kSettingCount || m_grid.IsCellReadOnly(nRow, m_grid.CurrentColumn())) {
+    if (nRow < 0 || nRow >= kSettingsInGrid ||
+        m_grid.IsCellReadOnly(nRow, m_grid.CurrentColumn())) {
         return;
     }
     if (m_grid.CurrentColumn() == kChoiceColumn) {

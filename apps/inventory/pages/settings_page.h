@@ -20,6 +20,8 @@ public:
     QVGridCtrl& Grid() { return m_grid; }
     // Takes what stands in the cells, also what is being typed, and writes it if it is new.
     void Keep();
+    // Takes settings that were made elsewhere, as in the report's dialog, and writes them.
+    void Take(const Settings& settings);
 
 protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
@@ -31,6 +33,7 @@ protected:
 
 private:
     void Fill();
+    void Write();
     void OnButton();
     void Choose(int nRow);
     void Browse(int nRow);

@@ -27,9 +27,9 @@ bool Walk::Run() {
     return TreePage() && OpenBranch() && Marks() && AbsoluteColumns() && Find() && Vetoes() &&
            Packages() && FindPackage() && ImageColumn() && Export() && Refresh() &&
            FilterSection() && FilterDate() && FilterOpens() && Jump() && ToolTip() &&
-           ReportMenu() && TypeSettings() &&
-           ChooseSetting() && SettingsKept() && ReportPages() && Zoom() && Paper() && Logs() &&
-           FollowLog() && LogOnPaper();
+           ReportMenu() && LargestPackages() && LargestOnPaper() && TypeSettings() &&
+           ChooseSetting() && SettingsKept() && ReportPages() && Zoom() && ReportSettings() &&
+           Paper() && Logs() && FollowLog() && LogOnPaper();
 }
 
 bool Walk::Station(const char* pszName) {

@@ -33,6 +33,10 @@ private:
     bool Jump();
     bool ToolTip();
     bool ReportMenu();
+    // The largest packages
+    bool LargestPackages();
+    bool LargestOnPaper();
+    bool LargestHeading(int nCol, LargestList::Order order, const char* pszStation);
     // The logs
     bool Logs();
     bool FollowLog();
@@ -44,6 +48,10 @@ private:
     // The report
     bool ReportPages();
     bool Zoom();
+    bool ReportSettings();
+    bool FillReportSettings(CWnd& dialog);
+    static void CALLBACK WhenReportSettingsAreUp(HWND hWnd, UINT nMessage, UINT_PTR nTimer,
+                                                 DWORD dwTime);
     bool Paper();
 
     PackageTree& Tree() { return m_frame.Sections().Tree(); }
@@ -64,4 +72,6 @@ private:
 
     MainFrame& m_frame;
     CString m_strFolder;
+    bool m_bSettingsFilled = false;
+    static inline Walk* s_pWalk = nullptr;  // for what happens while a dialog is up
 };

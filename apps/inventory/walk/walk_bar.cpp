@@ -64,7 +64,9 @@ bool Walk::FilterDate() {
     CRect rc;
     bar.GetDlgItem(IDC_FILTER_SINCE)->GetWindowRect(&rc);
     Click(CPoint(rc.left + 10, rc.CenterPoint().y));
-    Press(VK_UP);
+    Press(VK_RIGHT);  // from the day of the week to the month
+    Press(VK_DOWN);
+    Press(VK_DOWN);
     if (!Expect("a key in the blank date makes it a day",
                 [&] { return bar.Filter().tSince != 0; }) ||
         !Station("bar-3-since")) {
@@ -74,10 +76,10 @@ bool Walk::FilterDate() {
     return Expect("the button blanks it again", [&] { return bar.Filter().tSince == 0; });
 }
 
-// Back to all sections, by keys alone: two steps of Shift and Tab from the button.
+// Back to all sections, by keys alone: over the date, the way to a package and the architecture.
 bool Walk::FilterOpens() {
     PackageBar& bar = m_frame.Packages().Bar();
-    for (int i = 0; i < 3; ++i) {
+    for (int i = 0; i < 4; ++i) {
         Press(VK_TAB, VK_SHIFT);
     }
     Press(VK_HOME);

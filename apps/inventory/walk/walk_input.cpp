@@ -31,6 +31,12 @@ void Click(CPoint ptScreen) {
     SendMouse(ptScreen, {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP});
 }
 
+void ClickOn(CWnd& wnd) {
+    CRect rc;
+    wnd.GetWindowRect(&rc);
+    Click(rc.CenterPoint());
+}
+
 void LetClickPass() {
     const ULONGLONG nThen = ::GetTickCount64() + ::GetDoubleClickTime();
     WaitFor([&] { return ::GetTickCount64() > nThen; });

@@ -11,6 +11,8 @@ constexpr DWORD kPatience = 10000;  // milliseconds until a condition counts as 
 // The pointer goes there; flags are MOUSEEVENTF_ values, one input each.
 void SendMouse(CPoint ptScreen, std::initializer_list<DWORD> flags, DWORD dwData = 0);
 void Click(CPoint ptScreen);
+// In the middle of a window.
+void ClickOn(CWnd& wnd);
 // Two clicks in a short time would be a double click.
 void LetClickPass();
 void Press(WORD nKey, WORD nHeld = 0);

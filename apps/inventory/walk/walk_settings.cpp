@@ -31,7 +31,7 @@ bool Walk::TypeSettings() {
     if (!Expect("the settings come up", [&] { return grid.IsWindowVisible() != FALSE; })) {
         return false;
     }
-    Click(PointOfCell(grid, kSettingTitle, kTextColumn));
+    Click(PointOfCell(grid, kSettingExportName, kTextColumn));
     if (!Expect("a click opens the editor", [&] {
             CWnd* pFocus = CWnd::GetFocus();
             return pFocus != nullptr && pFocus->GetParent() == &grid;
@@ -44,7 +44,7 @@ bool Walk::TypeSettings() {
     return Expect("what is typed is in the cell",
                   [&] {
                       CString str;
-                      grid.GetCellText(kSettingTitle, kTextColumn, str);
+                      grid.GetCellText(kSettingExportName, kTextColumn, str);
                       return str == "all of it";
                   }) &&
            Station("settings-1-typing");
@@ -52,20 +52,20 @@ bool Walk::TypeSettings() {
 
 bool Walk::ChooseSetting() {
     QVGridCtrl& grid = m_frame.Settings().Grid();
-    Click(PointOfCell(grid, kSettingMargins, kChoiceColumn));
+    Click(PointOfCell(grid, kSettingSeparator, kChoiceColumn));
     if (!Expect("a click in another cell opens its list", [&] {
-            return grid.CurrentRow() == kSettingMargins && ::FindWindow("ListBox", nullptr);
+            return grid.CurrentRow() == kSettingSeparator && ::FindWindow("ListBox", nullptr);
         })) {
         return false;
     }
-    Press(VK_UP);
+    Press(VK_DOWN);
     if (!Station("settings-2-choosing")) {
         return false;
     }
     LetClickPass();
-    Click(PointOfCell(grid, kSettingMargins, kChoiceColumn));
+    Click(PointOfCell(grid, kSettingSeparator, kChoiceColumn));
     return Expect("the choice is taken",
-                  [&] { return m_frame.Settings().Values().Choice(kSettingMargins) == 0; });
+                  [&] { return m_frame.Settings().Values().Choice(kSettingSeparator) == 1; });
 }
 
 bool Walk::SettingsKept() {
@@ -73,7 +73,7 @@ bool Walk::SettingsKept() {
     return Expect("leaving the page keeps the settings in their file", [this] {
         Settings settings;
         return LoadSettings(m_strFolder + "\\settings.txt", settings).IsEmpty() &&
-               settings.Value(kSettingTitle) == "all of it" &&
-               settings.Choice(kSettingMargins) == 0;
+               settings.Value(kSettingExportName) == "all of it" &&
+               settings.Choice(kSettingSeparator) == 1;
     });
 }

@@ -1,0 +1,38 @@
+// LargestPage: where the disk went, in a list box that prints itself.
+
+#pragma once
+
+#include "pages/exporting.h"
+#include "pages/largest_list.h"
+#include "pages/page.h"
+
+class LargestPage : public Page {
+public:
+    LPCSTR Title() const override { return "Largest"; }
+    void SetInventory(const Inventory& inventory) override { m_list.Show(inventory); }
+    CWnd& Control() override { return m_list; }
+    CString MarkedText() override;
+
+    LargestList& List() { return m_list; }
+    // What the export dialog starts with.
+    void UseSettings(const Settings& settings) { m_exporter.UseSettings(settings); }
+    // On the default printer, without a question. pszOutput: a file that the job goes to. False,
+    // with the reason in the page's message, if it fails.
+    bool PrintToFile(LPCSTR pszOutput);
+
+protected:
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnSelected();
+    afx_msg void OnExport();
+    afx_msg void OnPrint();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    // pPrinter, unless null, says which pages.
+    bool Print(CDC& dc, class PrinterChoice* pPrinter, LPCSTR pszOutput);
+
+    LargestList m_list;
+    Exporter m_exporter;
+};
