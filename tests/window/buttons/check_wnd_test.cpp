@@ -1,6 +1,6 @@
+#include "QVControls.h"
 #include "support/picture.h"
 #include "support/recording_parent.h"
-#include "window/buttons/button_dialog.h"
 
 #include <gtest/gtest.h>
 
@@ -28,26 +28,6 @@ TEST(CheckWnd, ASquareAsHighAsTheWindowIsWideWithACrossWhenSet) {
         check.SetIsChecked(FALSE);
         EXPECT_TRUE(Picture::OfClient(check.m_hWnd) == up) << "nothing is left";
     }
-}
-
-class Filled : public QVCheckWnd {
-protected:
-    void DrawWindow(CDC& dc) override {
-        dc.FillSolidRect(0, 0, 99, 99, RGB(1, 2, 3));
-        m_bChecked ? AfxThrowMemoryException() : void();
-    }
-};
-
-TEST(CheckWnd, AnItemOfADialogMayDrawOtherwiseAndIsNotPaintedForEverWithoutMemory) {
-    CDialog dlg;
-    ASSERT_TRUE(dlg.Create(IDD_BUTTONS));
-    Filled check;
-    ASSERT_TRUE(check.SubclassDlgItem(IDC_MARK, &dlg));
-    dlg.ShowWindow(SW_SHOW);
-    EXPECT_EQ(Picture::OfClient(check.m_hWnd).At(3, 3), RGB(1, 2, 3));
-    check.SetIsChecked(TRUE);
-    check.UpdateWindow();
-    EXPECT_FALSE(::GetUpdateRect(check.m_hWnd, nullptr, FALSE));
 }
 
 }  // namespace
