@@ -11,6 +11,7 @@ constexpr COLORREF kRed = RGB(255, 0, 0);
 constexpr int kSide = 10;
 const CPoint kIn(5, 5);
 const CPoint kOut(60, 30);
+const CPoint kFar(22, 15);  // a press there is no double click
 
 // A red square.
 class Image : public CImageList {
@@ -56,7 +57,7 @@ const Press kPresses[] = {
     {"click again", 1, 0, 1, [](HWND h) { ClickAt(h, kIn); }},
     {"third state", 2, 1, 1, [](HWND h) { ClickAt(h, kIn); }},
     {"double", 0, 1, 1, [](HWND h) { ClickAt(h, kIn, MouseButton::Left, true); }},
-    {"released outside", 0, 0, 0, [](HWND h) { PressAt(h, kIn), ReleaseAt(h, kOut); }},
+    {"released outside", 0, 0, 0, [](HWND h) { PressAt(h, kFar), ReleaseAt(h, kOut); }},
     {"after a double click that ended elsewhere", 0, 1, 1,
      [](HWND h) { ::SendMessage(h, WM_LBUTTONDBLCLK, 0, 0), ClickAt(h, kIn); }},
     {"mnemonic", 0, 1, 1, [](HWND) { TypeKey('M', false, false, true); }},
@@ -69,9 +70,9 @@ const Press kPresses[] = {
      }},
     {"Space while the mouse holds it", 0, 1, 1,
      [](HWND h) {
-         PressAt(h, kIn);
+         PressAt(h, kFar);
          SendKeys({VK_SPACE}), PumpPending();
-         ReleaseAt(h, kIn);
+         ReleaseAt(h, kFar);
      }},
     {"the mouse while Space holds it", 0, 1, 1,
      [](HWND h) {
