@@ -78,19 +78,22 @@ int ReportPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
 
 void ReportPage::OnSize(UINT nType, int cx, int cy) {
     Page::OnSize(nType, cx, cy);
+    // Room for the words in any size of the system's fonts.
+    const int nDpi = CClientDC(this).GetDeviceCaps(LOGPIXELSX);
+    const auto scaled = [&](int nPixels) { return ::MulDiv(nPixels, nDpi, 96); };
     int y = kGap;
     const auto place = [&](CWnd& wnd) {
-        wnd.MoveWindow(kGap, y, kPanelWidth - 2 * kGap, kRowHeight);
-        y += kRowHeight + kGap;
+        wnd.MoveWindow(kGap, y, scaled(kPanelWidth) - 2 * kGap, scaled(kRowHeight));
+        y += scaled(kRowHeight) + kGap;
     };
     for (CButton& option : m_aOptions) {
         place(option);
     }
-    y += kRowHeight;
+    y += scaled(kRowHeight);
     for (CButton& button : m_aButtons) {
         place(button);
     }
-    m_preview.MoveWindow(kPanelWidth, 0, std::max(cx - kPanelWidth, 0), cy);
+    m_preview.MoveWindow(scaled(kPanelWidth), 0, std::max(cx - scaled(kPanelWidth), 0), cy);
 }
 
 bool& ReportPage::Option(UINT nID) {
