@@ -1,14 +1,16 @@
-// A button in a dialog of a main window, and input that is sent without waiting for it: keys that
-// stay down, and what goes into the loop of a menu.
+// A button in a dialog of a main window, and keys that are sent without waiting for them: they may
+// stay down, or go into the loop of a menu.
 #pragma once
 
 #include "QVControls.h"
+#include "support/mortal.h"
+#include "support/picture.h"
 #include "support/pump.h"
 #include "support/real_input.h"
+#include "support/recording_parent.h"
 #include "support/test_app.h"
 #include "window/buttons/button_test_ids.h"
-
-#include <afxext.h>
+#include "window/refusals.h"
 
 inline void SendKey(WORD vk, bool bUp) {
     INPUT input{};
@@ -17,40 +19,6 @@ inline void SendKey(WORD vk, bool bUp) {
     input.ki.dwFlags = bUp ? KEYEVENTF_KEYUP : 0;
     ::SendInput(1, &input, sizeof input);
 }
-inline void SendKeys(const std::vector<WORD>& keys) {
-    for (const WORD vk : keys) {
-        SendKey(vk, false), SendKey(vk, true);
-    }
-}
-
-constexpr DWORD kButtonStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW;
-constexpr UINT kFirst = 900;
-
-/// The application's.
-class MainWindow : public CFrameWnd {
-public:
-    MainWindow() {
-        Create(nullptr, "Main", WS_OVERLAPPEDWINDOW, CRect(0, 0, 300, 200));
-        TheTestApp().m_pMainWnd = this;
-    }
-    ~MainWindow() override {
-        TheTestApp().m_pMainWnd = nullptr;  // or it would end the program
-        DestroyWindow();
-    }
-    void PostNcDestroy() override {}
-    std::vector<UINT> m_commands;
-    std::function<void()> m_act = [] {};
-
-protected:
-    BOOL OnCmdMsg(UINT nID, int nCode, void* p, AFX_CMDHANDLERINFO* pInfo) override {
-        if (nCode != CN_COMMAND || nID < kFirst) {
-            return CFrameWnd::OnCmdMsg(nID, nCode, p, pInfo);
-        }
-        m_commands.push_back(nID);
-        m_act();
-        return TRUE;
-    }
-};
 
 class ToldDialog : public CDialog {
 public:
@@ -67,27 +35,25 @@ protected:
     }
 };
 
+const CPoint kIn(5, 8);
+
 template <class Button>
 struct ButtonDialog {
-    ButtonDialog() {
+    explicit ButtonDialog(UINT nID = IDC_BUTTON) {
+        TheTestApp().m_pMainWnd = &frame;
         dlg.Create(IDD_BUTTONS, &frame);
-        button->SubclassDlgItem(IDC_BUTTON, &dlg);
+        button->SubclassDlgItem(nID, &dlg);
         button->SetWindowPos(nullptr, 0, 0, 30, 24, SWP_NOMOVE | SWP_NOZORDER);
         dlg.ShowWindow(SW_SHOW);
         BringToFront(dlg.m_hWnd);
-        Edit().SetFocus();
+        dlg.GetDlgItem(IDC_EDIT)->SetFocus();
     }
     ~ButtonDialog() {
         dlg.m_told = [](UINT) {};
-    }
-    CWnd& Edit() { return *dlg.GetDlgItem(IDC_EDIT); }
-    std::string Text(int nID = IDC_EDIT) {
-        CString str;
-        dlg.GetDlgItemText(nID, str);
-        return std::string(str);
+        TheTestApp().m_pMainWnd = nullptr;  // or its window would end the program
     }
 
-    MainWindow frame;
+    RecordingParent frame;
     ToldDialog dlg;
     std::unique_ptr<Button> button = std::make_unique<Button>();
 };

@@ -5,6 +5,4 @@
 #define IDC_BUTTON 2702
 #define IDC_EDIT 2703
 #define IDC_LINES 2704
-#define IDC_CHOICES 2705
-#define IDC_MARK 2706
-#define IDS_TIP 2710
+#define IDC_MARK 2705

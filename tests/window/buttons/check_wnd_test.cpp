@@ -1,32 +1,25 @@
-#include "QVControls.h"
-#include "support/picture.h"
-#include "support/recording_parent.h"
+#include "window/buttons/button_dialog.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
 TEST(CheckWnd, ASquareAsHighAsTheWindowIsWideWithACrossWhenSet) {
-    RecordingParent parent(CSize(100, 60));
+    ButtonDialog<QVCheckWnd> w(IDC_MARK);
     const COLORREF crLine = ::GetSysColor(COLOR_WINDOWTEXT);
-    for (const int nHeight : {12, 20, 8}) {
-        QVCheckWnd check;
-        ASSERT_TRUE(check.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(5, 5, 17, 5 + nHeight),
-                                 &parent, 1));
-        const Picture up = Picture::OfClient(check.m_hWnd);
-        EXPECT_EQ(up.At(5, 4), RGB(192, 192, 192));
-        EXPECT_EQ(up.Count(crLine), nHeight == 8 ? 12 + 2 * 7 : 44) << "cut off, or none below";
-        for (const int nTimes : {1, 2}) {
-            check.SetIsChecked(nTimes);
-            EXPECT_EQ(check.Checked(), nTimes);
-            EXPECT_TRUE(::GetUpdateRect(check.m_hWnd, nullptr, FALSE)) << "also the second time";
-            const Picture set = Picture::OfClient(check.m_hWnd);
-            EXPECT_EQ(set.Count(crLine), nHeight == 8 ? 12 + 2 * 7 + 2 * 7 : 44 + 20);
-            EXPECT_EQ(set.At(4, 4), crLine);
-            EXPECT_EQ(set.At(7, 4), crLine);
+    for (const auto& [nHeight, nBox, nCross] :
+         {std::array{12, 44, 20}, {20, 44, 20}, {8, 26, 14}}) {
+        w.button->SetWindowPos(nullptr, 0, 0, 12, nHeight, SWP_NOMOVE | SWP_NOZORDER);
+        for (const int bChecked : {0, 1, 1, 0}) {
+            w.button->UpdateWindow();
+            w.button->SetIsChecked(bChecked);
+            EXPECT_EQ(w.button->Checked(), bChecked);
+            EXPECT_TRUE(::GetUpdateRect(w.button->m_hWnd, nullptr, FALSE)) << "also if it was so";
+            const Picture shown = Picture::OfClient(w.button->m_hWnd);
+            EXPECT_EQ(shown.Count(crLine), nBox + bChecked * nCross) << "cut off, or none below";
+            EXPECT_EQ(shown.At(4, 4) == crLine && shown.At(7, 4) == crLine, bChecked != 0);
+            EXPECT_EQ(shown.At(6, 3), RGB(192, 192, 192));
         }
-        check.SetIsChecked(FALSE);
-        EXPECT_TRUE(Picture::OfClient(check.m_hWnd) == up) << "nothing is left";
     }
 }
 

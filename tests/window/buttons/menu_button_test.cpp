@@ -1,344 +1,228 @@
 #include "support/monkey.h"
-#include "support/mortal.h"
-#include "support/picture.h"
 #include "window/buttons/button_dialog.h"
-#include "window/refusals.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-const CPoint kIn(20, 8);
-using Play = std::function<void(HWND hMenuWnd, HMENU hMenu)>;
+constexpr UINT kFirst = 900;
+constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_OWNERDRAW;
 
-// Plays input into its menu as soon as that is up; without any, the menu closes.
+// Plays into its menu as soon as that is up.
 template <class Base>
-class Played : public Watched<Base> {
+class Played : public Mortal<Watched<Base>> {
 public:
     using Base::m_astrItems;
-    Play m_play;
+    std::function<void(HWND hMenu)> m_play = [](HWND) { ::EndMenu(); };
     int m_nMenus = 0;
-    CRect m_rcMenu;
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-        if (message == WM_INITMENUPOPUP) {
-            ++m_nMenus;
-            m_hMenu = reinterpret_cast<HMENU>(wParam);
-        } else if (message == WM_ENTERIDLE) {
-            ::GetWindowRect(reinterpret_cast<HWND>(lParam), &m_rcMenu);
-            const Play play = m_play;  // the button may go in it
-            play ? play(reinterpret_cast<HWND>(lParam), m_hMenu) : void(::EndMenu());
-            return 0;
+        m_nMenus += message == WM_INITMENUPOPUP;
+        if (message != WM_ENTERIDLE) {
+            return Watched<Base>::WindowProc(message, wParam, lParam);
         }
-        return Watched<Base>::WindowProc(message, wParam, lParam);
+        const auto play = m_play;  // the button may go in it
+        play(reinterpret_cast<HWND>(lParam));
+        return 0;
     }
-
-private:
-    HMENU m_hMenu = nullptr;
 };
 
-template <class Button>
-void AddEntries(Button& button) {
-    for (const char* psz : {"&one", "two", "three"}) {
-        button.AddString(psz);
-    }
-}
-
-using Window = ButtonDialog<Played<QVMenuButton>>;
-
-const std::pair<const char*, std::function<void(HWND)>> kOpen[] = {
-    {"mouse", [](HWND h) { ClickAt(h, kIn); }},
-    {"double click", [](HWND h) { ClickAt(h, kIn, MouseButton::Left, true); }},
-    {"Space", [](HWND h) { ::SetFocus(h), TypeKey(VK_SPACE); }},
-    {"mnemonic", [](HWND) { TypeKey('M', false, false, true); }},
-    {"Enter", [](HWND) { TypeKey(VK_RETURN); }},
-};
-constexpr size_t kOfAnyParent = 3;  // the others are a dialog's
-
-struct Choice {
-    const char* pszName;
-    std::vector<UINT> commands;
-    Play play;
-};
-const Choice kChoices[] = {
-    {"keys",
-     {kFirst + 1},
-     [](HWND, HMENU) {
-         SendKeys({VK_DOWN, VK_DOWN, VK_RETURN});
-     }},
-    {"letter", {kFirst}, [](HWND, HMENU) { SendKeys({'O'}); }},
-    {"mouse",
-     {kFirst + 2},
-     [](HWND hWnd, HMENU hMenu) {
-         CRect rc;
-         ::GetMenuItemRect(hWnd, hMenu, 2, &rc);
-         ::SetCursorPos(rc.CenterPoint().x, rc.CenterPoint().y);
-         INPUT inputs[2]{};
-         inputs[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
-         inputs[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
-         ::SendInput(2, inputs, sizeof(INPUT));
-     }},
-    {"none", {}, [](HWND, HMENU) { SendKeys({VK_ESCAPE}); }},
-};
-
-template <class Button>
-void ExpectEachChoiceOnce(MainWindow& frame, Button& button, size_t nWays) {
-    for (size_t nWay = 0; nWay < nWays; ++nWay) {
-        for (const Choice& choice : kChoices) {
-            SCOPED_TRACE(std::string(kOpen[nWay].first) + ", " + choice.pszName);
-            button.m_nMenus = 0;
-            button.m_play = choice.play;
-            frame.m_commands.clear();
-            kOpen[nWay].second(button.m_hWnd);
-            PumpPending();
-            EXPECT_EQ(frame.m_commands, choice.commands);
-            EXPECT_EQ(button.m_nMenus, 1);
-        }
+void SendKeys(const std::vector<WORD>& keys) {
+    for (const WORD vk : keys) {
+        SendKey(vk, false), SendKey(vk, true);
     }
 }
 
 TEST(MenuButton, AChoiceReachesTheMainWindowOnceAndTheMenuStaysClosed) {
-    Window w;
-    for (const auto& [pszName, open] : kOpen) {
-        w.dlg.SetDefID(IDC_BUTTON);
-        open(w.button->m_hWnd);
+    ButtonDialog<Played<QVMenuButton>> w;
+    w.dlg.SetDefID(IDC_BUTTON);
+    ClickAt(w.button->m_hWnd, kIn);
+    EXPECT_EQ(w.button->m_nMenus, 1) << "an empty one";
+    for (const char* psz : {"&one", "two", "three"}) {
+        w.button->AddString(psz);
     }
-    EXPECT_EQ(w.button->m_nMenus, static_cast<int>(std::size(kOpen))) << "empty ones";
-    AddEntries(*w.button);
-    ExpectEachChoiceOnce(w.frame, *w.button, std::size(kOpen));
-    EXPECT_EQ(w.button->SendMessage(WM_GETDLGCODE), DLGC_BUTTON);
     CRect rc;
     w.button->GetWindowRect(&rc);
-    EXPECT_EQ(w.button->m_rcMenu.TopLeft(), CPoint(rc.left, rc.bottom));
-    w.button->m_nMenus = 0;
-    w.button->SetStartCmdID(IDC_BUTTON);  // its own id is that of an entry
-    for (const WPARAM wCommand : {IDC_BUTTON - 1, IDC_BUTTON, IDC_BUTTON + 2, IDC_BUTTON + 3}) {
-        w.button->SendMessage(WM_COMMAND, wCommand);
+    const struct {
+        void (*open)(HWND);
+        std::vector<WORD> keys;
+        int nChosen;
+    } cases[] = {
+        {[](HWND h) { ClickAt(h, kIn); }, {VK_DOWN, VK_DOWN, VK_RETURN}, 1},
+        {[](HWND h) { ClickAt(h, kIn, MouseButton::Left, true); }, {'O'}, 0},
+        {[](HWND h) { ::SetFocus(h), TypeKey(VK_SPACE); }, {VK_UP, VK_RETURN}, 2},
+        {[](HWND) { TypeKey('M', false, false, true); }, {VK_ESCAPE}, -1},
+        {[](HWND) { TypeKey(VK_RETURN); }, {'O'}, 0},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(&c - cases);
+        w.button->m_nMenus = 0;
+        w.frame.m_commands.clear();
+        w.button->m_play = [&](HWND hMenu) {
+            CRect rcMenu;
+            ::GetWindowRect(hMenu, &rcMenu);
+            EXPECT_EQ(rcMenu.TopLeft(), CPoint(rc.left, rc.bottom));
+            SendKeys(c.keys);
+        };
+        c.open(w.button->m_hWnd);
+        PumpPending();
+        EXPECT_EQ(w.button->m_nMenus, 1);
+        ASSERT_EQ(w.frame.m_commands.size(), c.nChosen < 0 ? 0u : 1u);
+        EXPECT_TRUE(c.nChosen < 0 ||
+                    w.frame.m_commands[0].id == kFirst + static_cast<UINT>(c.nChosen));
     }
-    w.button->SendMessage(WM_COMMAND, MAKEWPARAM(IDC_BUTTON, 1));
-    w.frame.m_commands.clear();
-    PumpPending();
-    EXPECT_EQ(w.frame.m_commands, (std::vector<UINT>{IDC_BUTTON, IDC_BUTTON + 2}));
-    w.button->EnableWindow(FALSE);
-    ClickAt(w.button->m_hWnd, kIn);
-    TypeKey('M', false, false, true), TypeKey(VK_RETURN);
-    EXPECT_EQ(w.button->m_nMenus, 0);
-
-    MainWindow frame;
-    Played<QVMenuButton> button;
-    button.Create("menu", kButtonStyle, CRect(10, 10, 90, 35), &frame, 5);
-    AddEntries(button);
-    frame.ShowWindow(SW_SHOW);
-    ExpectEachChoiceOnce(frame, button, kOfAnyParent);
+    EXPECT_EQ(w.button->SendMessage(WM_GETDLGCODE), DLGC_BUTTON);
 }
 
-TEST(MenuButton, MayGoWhileItsMenuIsOpenOrItsCommandIsHandled) {
-    for (const bool bInMenu : {true, false}) {
-        for (const int nWhatGoes : {0, 1, 2}) {
-            SCOPED_TRACE(nWhatGoes);
-            ButtonDialog<Mortal<Played<QVMenuButton>>> w;
-            AddEntries(*w.button);
-            const HWND hWnd = w.button->m_hWnd;
-            const auto go = [&] {
-                nWhatGoes == 0   ? w.button.reset()
-                : nWhatGoes == 1 ? void(w.button->DestroyWindow())
-                                 : void(w.dlg.DestroyWindow());
-            };
-            w.frame.m_act = go;
-            w.button->m_play = [&, bInMenu](HWND, HMENU) {
-                bInMenu ? go() : SendKeys({VK_DOWN, VK_RETURN});
-            };
-            ClickAt(hWnd, kIn);
-            PumpPending();
-            EXPECT_FALSE(::IsWindow(hWnd));
-            EXPECT_EQ(w.frame.m_commands.size(), bInMenu ? 0u : 1u);
+TEST(MenuButton, ItsCommandsAreNoClicksOfItsOwn) {
+    ButtonDialog<Played<QVMenuButton>> w;
+    w.button->AddString("one");
+    w.button->AddString("two");
+    w.button->SetStartCmdID(IDC_BUTTON);
+    for (const bool bOfFrame : {false, true}) {
+        bOfFrame ? void(w.button->SetParent(&w.frame)) : void();
+        w.frame.m_commands.clear();
+        for (const int n : {-1, 0, 1, 2, 0x10000}) {  // the last one with a code
+            w.button->SendMessage(WM_COMMAND, static_cast<WPARAM>(IDC_BUTTON + n));
         }
+        PumpPending();
+        ASSERT_EQ(w.frame.m_commands.size(), 2u);
+        EXPECT_EQ(w.frame.m_commands[1].id, IDC_BUTTON + 1u);
+        EXPECT_EQ(w.button->m_nMenus, 0);
+        w.button->SetDlgCtrlID(1);
     }
 }
 
-TEST(MenuButton, CaptionAndArrowAreDrawnAndEngravedIfDisabled) {
-    Window w;
-    LOGFONT log{};
-    log.lfHeight = -16;
-    log.lfQuality = NONANTIALIASED_QUALITY;
-    CFont font;
-    font.CreateFontIndirect(&log);
-    w.button->SetFont(&font);
-    w.button->SetWindowText("M");
+// The arrow's place is that of the caption, which the tests of code pages see.
+TEST(MenuButton, TheArrowIsDrawnBehindTheCaptionAndEngravedIfDisabled) {
+    ButtonDialog<QVMenuButton> w;
     w.button->MoveWindow(5, 30, 90, 31);
     CClientDC dc(w.button.get());
-    const qv::SelectGuard<CFont> select(dc, &font);
+    const qv::SelectGuard<CFont> select(dc, w.button->GetFont());
     TEXTMETRIC metrics{};
     dc.GetTextMetrics(&metrics);
-    const int nWidth = dc.GetTextExtent("M", 1).cx + metrics.tmMaxCharWidth + 7;
-    const CRect rc(CPoint((90 - nWidth) / 2, (31 - metrics.tmDescent - metrics.tmHeight) / 2),
-                   CSize(nWidth, metrics.tmHeight));
-    const CRect rcArrow(rc.right - 8, rc.top, rc.right + 1, rc.bottom + 1);
-    const CRect rcCaption(rc.left, rc.top, rcArrow.left, rc.bottom + 1);
-    const auto shown = [&] { return Picture::OfClient(w.button->m_hWnd); };
-    const auto count = [&](int nColor, const CRect& rcPart) {
-        return shown().Count(::GetSysColor(nColor), rcPart);
+    const int nWidth = dc.GetTextExtent("&Mine", 5).cx + metrics.tmMaxCharWidth + 7;
+    const int yText = (31 - metrics.tmDescent - metrics.tmHeight) / 2;
+    const CRect rcArrow(CPoint((90 - nWidth) / 2 + nWidth - 8, yText + (metrics.tmHeight - 4) / 2),
+                        CSize(9, 5));
+    const auto count = [&](int nColor, const CRect& rc) {
+        return Picture::OfClient(w.button->m_hWnd).Count(::GetSysColor(nColor), rc);
     };
     EXPECT_EQ(count(COLOR_WINDOWTEXT, rcArrow), 7 + 5 + 3 + 1);
-    const int nInk = count(COLOR_WINDOWTEXT, rcCaption);
-    EXPECT_GT(nInk, 10);
-    const Picture up = shown();
-    w.button->SetState(TRUE);
-    EXPECT_TRUE(shown() == up) << "never goes down";
-    w.button->SetState(FALSE);
     w.button->SetFocus();
     const int nFace = count(COLOR_BTNFACE, CRect(3, 3, 87, 4));
     EXPECT_TRUE(nFace > 30 && nFace < 60) << "dotted";
-    EXPECT_EQ(count(COLOR_BTNFACE, CRect(2, 2, 88, 3)), 86);
     w.button->EnableWindow(FALSE);
     EXPECT_EQ(count(COLOR_GRAYTEXT, rcArrow), 16);
     EXPECT_EQ(count(COLOR_3DHILIGHT, rcArrow), 7);
-    EXPECT_EQ(count(COLOR_GRAYTEXT, rcCaption), nInk);
-    EXPECT_GT(count(COLOR_3DHILIGHT, rcCaption), 5);
-    EXPECT_EQ(count(COLOR_WINDOWTEXT, rcCaption) + count(COLOR_WINDOWTEXT, rcArrow), 0);
 }
 
-// --- Snippets
-
-struct Macros : ButtonDialog<Played<QVMacroButton>> {
-    Macros() { button->AddMacro("name", "%n"); }
-    // What nID shows after the entry was chosen.
-    std::string Insert(int nID = IDC_EDIT) {
-        button->m_play = [](HWND, HMENU) { SendKeys({VK_DOWN, VK_RETURN}); };
-        ClickAt(button->m_hWnd, kIn);
-        PumpPending();
-        return Text(nID);
-    }
-    std::string InsertByID(UINT nID) {
-        button->SetEditCtrlID(nID);
-        return Insert(static_cast<int>(nID));
-    }
+class Macros : public Played<QVMacroButton> {
+public:
+    using QVMacroButton::m_astrMacros;
 };
 
-TEST(MacroButton, ASnippetTakesThePlaceOfTheSelection) {
-    Macros w;
+TEST(MacroButton, ASnippetTakesThePlaceOfTheSelectionOrGoesToTheCaret) {
+    ButtonDialog<Macros> w;
+    w.button->AddMacro("name", "%n");
     w.button->AddString("no entry");
-    EXPECT_EQ(w.button->m_astrItems.GetSize(), 1);
-    w.Edit().SetWindowText("abcd");
-    w.Edit().SendMessage(EM_SETSEL, 1, 3);
-    EXPECT_EQ(w.Insert(), "a%nd") << "the focus stayed in the edit";
-    EXPECT_FALSE(w.Edit().SendMessage(EM_CANUNDO));
-    w.button->SetFocus();
-    EXPECT_EQ(w.Insert(), "a%nd") << "the focus is on no edit";
-    w.Edit().EnableWindow(FALSE);
-    EXPECT_EQ(w.InsertByID(IDC_EDIT), "a%n%nd");
-    EXPECT_EQ(w.InsertByID(IDC_LINES), "%n") << "read-only";
-    EXPECT_EQ(w.InsertByID(IDC_MARK) + w.InsertByID(60000), "") << "no edit, none at all";
-    w.button->SetEditCtrlID(IDC_EDIT);
-    w.button->OnMenuSelected(1);
-    w.Edit().DestroyWindow();
-    EXPECT_EQ(w.Insert(), "");
-    EXPECT_TRUE(w.frame.m_commands.empty()) << "no command of the program's";
-    const CString strLong('x', 5000);
+    w.button->m_play = [](HWND) { SendKeys({VK_UP, VK_RETURN}); };
+    std::string strLong;
+    while (strLong.size() < 131071) {
+        strLong += "0123456789\r\n";
+    }
+    const struct {
+        int nID, nTarget, nFocus;
+        std::string strText;
+        int nStart, nEnd;
+        std::string strShown;
+    } cases[] = {
+        {0, IDC_EDIT, IDC_EDIT, "abcd", 1, 3, "a%nd"},
+        {0, IDC_EDIT, IDC_BUTTON, "abcd", 1, 3, "abcd"},
+        {IDC_LINES, IDC_LINES, IDC_EDIT, "read-only", 0, 4, "%n-only"},
+        {IDC_MARK, IDC_MARK, IDC_EDIT, "no edit", 0, 0, "no edit"},
+        {60000, IDC_EDIT, IDC_EDIT, "none at all", 0, 0, "none at all"},
+        // EM_GETSEL cannot tell these, and EM_CHARFROMPOS has their low words only.
+        {0, IDC_LINES, IDC_LINES, strLong, 65535, 65535, std::string(strLong).insert(65535, "%n")},
+        {0, IDC_LINES, IDC_LINES, strLong, 131071, 131071,
+         std::string(strLong).insert(131071, "%n")},
+    };
+    for (const auto& c : cases) {
+        CWnd& target = *w.dlg.GetDlgItem(c.nTarget);
+        target.SetWindowText(c.strText.c_str());
+        w.dlg.GetDlgItem(c.nFocus)->SetFocus();
+        target.SendMessage(EM_SETSEL, static_cast<WPARAM>(c.nStart), c.nEnd);
+        target.SendMessage(EM_SCROLLCARET);
+        w.button->SetEditCtrlID(static_cast<UINT>(c.nID));
+        ClickAt(w.button->m_hWnd, kIn);
+        CString str;
+        target.GetWindowText(str);
+        EXPECT_TRUE(c.strShown == LPCSTR(str)) << str.Left(20);
+        EXPECT_FALSE(target.SendMessage(EM_CANUNDO));
+        const LRESULT lBehind = target.SendMessage(EM_POSFROMCHAR, c.nStart + WPARAM{2});
+        EXPECT_TRUE(c.nStart < 65535 || CWnd::GetCaretPos() == CPoint(lBehind));
+    }
+    w.button->OnMenuSelected(1);  // none
+    const CString strEntry("a title and a snippet");
     RefuseEach(
-        "entry", [&] { w.button->AddMacro(strLong, strLong); },
-        [&] {
-            for (INT_PTR i = 1; i < w.button->m_astrItems.GetSize(); ++i) {
-                ASSERT_EQ(w.button->m_astrItems[i], strLong);
-            }
-        });
-    w.button->m_play = nullptr;
-    RefuseEach(
-        "menu", [&] { w.button->SendMessage(WM_LBUTTONDOWN); }, [] {});
-    RefuseEach(
-        "paint", [&] { w.button->RedrawWindow(); }, [] {});
-    EXPECT_EQ(w.button->nThrown, 0);
+        "entry", [&] { w.button->AddMacro(strEntry, strEntry); },
+        [&] { EXPECT_EQ(w.button->m_astrItems.GetSize(), w.button->m_astrMacros.GetSize()); });
 }
 
-// As an edit does whose caret is behind what EM_GETSEL can tell.
-class SilentEdit : public CEdit {
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-        return message == EM_GETSEL ? -1 : CEdit::WindowProc(message, wParam, lParam);
-    }
-};
-
-TEST(MacroButton, AnEditThatTellsNoSelectionGetsTheSnippetAtItsCaret) {
-    Macros w;
-    SilentEdit edit;
-    edit.SubclassDlgItem(IDC_EDIT, &w.dlg);
-    for (const auto& [nCaret, pszText] : {std::pair(2, "ab%ncd"), {0, "%nabcd"}, {4, "abcd%n"}}) {
-        edit.SetWindowText("abcd");
-        edit.SetSel(nCaret, nCaret);
-        EXPECT_EQ(w.Insert(), pszText);
-        const LRESULT lBehind = edit.SendMessage(EM_POSFROMCHAR, static_cast<WPARAM>(nCaret + 2));
-        EXPECT_TRUE(lBehind == -1 || CWnd::GetCaretPos() == CPoint(lBehind)) << nCaret;
-    }
-    CWnd& lines = *w.dlg.GetDlgItem(IDC_LINES);
-    std::string strText;
-    while (strText.size() < 140000) {
-        strText += "0123456789\r\n";
-    }
-    lines.SetFocus();
-    for (const int nCaret : {65535, 131071}) {
-        lines.SetWindowText(strText.c_str());
-        lines.SendMessage(EM_SETSEL, nCaret, nCaret);
-        lines.SendMessage(EM_SCROLLCARET);
-        EXPECT_EQ(w.Insert(IDC_LINES).find("%n"), static_cast<size_t>(nCaret));
-    }
-}
-
-// --- Anything in any order
+// --- Whoever is told of a button, or has its menu, takes it away, or the dialog with it
 
 template <class Button>
 class ButtonMonkey : public testing::Test {};
-using Buttons = testing::Types<QVBitmapButton, QVToolButton, Played<QVMacroButton>>;
+using Buttons = testing::Types<Mortal<Watched<QVToolButton>>, Mortal<Watched<QVCheckWnd>>, Macros>;
 TYPED_TEST_SUITE(ButtonMonkey, Buttons);
 
-TYPED_TEST(ButtonMonkey, SurvivesAnyOrderOfMessages) {
-    const LONG nOwned = AfxGetOwnedHandleCount();
-    {
-        ButtonDialog<TypeParam> w;
-        std::mt19937 random = MonkeyRandom(9);
-        const auto pick = [&](size_t n) { return static_cast<int>(random() % n); };
-        constexpr UINT kMessages[] = {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_MOUSEMOVE,
-                                      WM_CANCELMODE,  WM_SETFOCUS,  WM_KILLFOCUS,     BM_CLICK,
-                                      WM_KEYDOWN,     WM_KEYUP,     BM_SETCHECK,      BM_SETSTATE,
-                                      WM_ENABLE,      WM_COMMAND,   WM_CAPTURECHANGED};
-        constexpr WPARAM kParams[] = {0, 1, 2, VK_SPACE, kFirst, kFirst + 1};
-        int nTold = 0;
-        int nMade = 0;
-        bool bMayGo = false;
-        const auto make = [&] {
-            w.button = std::make_unique<TypeParam>();
-            w.button->Create("&x", kButtonStyle, CRect(5, 40, 35, 60), &w.dlg, IDC_BUTTON);
-            if constexpr (requires { w.button->SetEditCtrlID(0); }) {
-                w.button->AddMacro("x", "y");
-                w.button->SetEditCtrlID(IDC_EDIT);
-            } else {
-                w.button->EnableToolTip("tip");
-            }
-            ++nMade;
-        };
-        w.dlg.m_told = [&](UINT nCode) {
-            nTold += nCode == BN_CLICKED || nCode == EN_CHANGE;
-            bMayGo&& pick(9) == 0 ? w.button.reset() : void();
-        };
-        w.button.reset();
-        for (int i = 0; i < MonkeySteps(); ++i) {
-            SCOPED_TRACE(i);
-            w.button == nullptr ? make() : void();
-            const LPARAM lPoint = MAKELPARAM(pick(40) - 5, pick(30) - 3);
-            bMayGo = true;
-            w.button->SendMessage(kMessages[pick(std::size(kMessages))],
-                                  kParams[pick(std::size(kParams))], lPoint);
-            bMayGo = false;
-            pick(9) == 0 && w.button != nullptr ? void(w.button->RedrawWindow()) : PumpPending();
+TYPED_TEST(ButtonMonkey, SurvivesAnyOrderOfMessagesAndTheWantOfMemory) {
+    ButtonDialog<TypeParam> w;
+    HWND hWnd = nullptr;
+    int nTold = 0;
+    bool bMayGo = false;
+    const auto attack = [&] {
+        switch (bMayGo ? ++nTold % 6 : 0) {
+            case 1:
+                return w.button.reset();
+            case 3:
+                return void(w.button != nullptr && w.button->DestroyWindow());
+            case 5:
+                return void(w.dlg.DestroyWindow());
         }
-        EXPECT_GT(nTold, MonkeySteps() / 200);
-        EXPECT_GT(nMade, 1);
-        for (int i = 0; i < 1000; ++i) {
-            make();
-            w.button->RedrawWindow();
+    };
+    w.dlg.m_told = [&](UINT) { attack(); };
+    const auto make = [&] {
+        bMayGo = false;
+        w.dlg.m_hWnd == nullptr ? void(w.dlg.Create(IDD_BUTTONS, &w.frame)) : void();
+        w.button = std::make_unique<TypeParam>();
+        w.button->CWnd::Create("BUTTON", "x", kStyle, CRect(5, 40, 35, 60), &w.dlg, IDC_BUTTON);
+        if constexpr (requires { w.button->m_play; }) {
+            w.button->AddMacro("x", "y");
+            w.button->SetEditCtrlID(IDC_EDIT);
+            w.button->m_play = [&](HWND) { attack(), ::EndMenu(); };
         }
-    }
-    EXPECT_EQ(AfxGetOwnedHandleCount(), nOwned);
+        hWnd = w.button->m_hWnd;
+        bMayGo = true;
+    };
+    const auto send = [&](UINT nMessage, WPARAM wParam = 0) {
+        ::SendMessage(hWnd, nMessage, wParam, MAKELPARAM(5, 8));
+    };
+    constexpr UINT kOthers[] = {WM_CANCELMODE, WM_SETFOCUS, WM_KILLFOCUS,      BM_SETCHECK,
+                                BM_SETSTATE,   WM_ENABLE,   WM_CAPTURECHANGED, WM_LBUTTONDBLCLK};
+    PlayInAnyOrder(w.button, make,
+                   {[&](int n) { send(kOthers[(n + 5) % 8], n % 3); },
+                    [&](int) { send(WM_LBUTTONDOWN), send(WM_LBUTTONUP); },
+                    [&](int) { send(WM_KEYDOWN, VK_SPACE), send(WM_KEYUP, VK_SPACE); },
+                    [&](int n) { send(WM_COMMAND, kFirst + n % 2), PumpPending(); },
+                    [&](int n) { ::MoveWindow(hWnd, 0, 0, n, n / 4, TRUE), PumpPending(); }});
+    EXPECT_TRUE(nTold > 100 || typeid(TypeParam) == typeid(Mortal<Watched<QVCheckWnd>>));
+    make();
+    bMayGo = false;
+    RefuseEach(
+        "all", [&] { send(WM_LBUTTONDOWN), w.button->RedrawWindow(); },
+        [&] { EXPECT_EQ(w.button->nThrown, 0); });
 }
 
 }  // namespace

@@ -8,8 +8,6 @@
 
 namespace {
 
-using AnEdit = Mortal<Watched<QVSpeedEdit>>;
-
 class SpeedEdit : public testing::Test, protected FontParent {
 protected:
     SpeedEdit() : FontParent(CSize(300, 100)) { Make(); }
@@ -18,10 +16,9 @@ protected:
         for (const char* psz : {"alpha", "Beta", "betamax"}) {
             names.Add(psz);
         }
-        pEdit = std::make_unique<AnEdit>();
+        pEdit = std::make_unique<Mortal<Watched<QVSpeedEdit>>>();
         pEdit->SetSpeedData(&names);
         pEdit->Create(WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, CRect(9, 9, 99, 32), this, 1);
-        pEdit->SetFocus();
     }
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
         m_meddle();
@@ -40,24 +37,27 @@ protected:
 
     std::function<void()> m_meddle = [] {};
     CStringArray names;
-    std::unique_ptr<AnEdit> pEdit;
+    std::unique_ptr<Mortal<Watched<QVSpeedEdit>>> pEdit;
 };
 
 TEST_F(SpeedEdit, CompletesWhatIsTyped) {
     ASSERT_TRUE(BringToFront(m_hWnd));
-    const auto type = [](int nKey) { TypeKey(static_cast<WORD>(nKey)); };
-    const auto only = [&](int bOnly) { pEdit->SetSpeedOnly(bOnly); };
-    const auto readOnly = [&](int bReadOnly) { pEdit->SetReadOnly(bReadOnly); };
-    const auto plain = [&](int) { pEdit->SetSpeedData(nullptr); };
-    const std::tuple<std::function<void(int)>, int, const char*> cases[] = {
-        {type, 'B', "B[eta]"},      {type, 'E', "Be[ta]"},     {type, VK_BACK, "Be[]"},
-        {only, 1, "Be[]"},          {type, VK_BACK, "B[eta]"}, {type, 'X', "B[eta]"},
-        {type, VK_BACK, "[alpha]"}, {type, 'Z', "[alpha]"},    {only, 0, "[alpha]"},
-        {type, 'Z', "z[]"},         {readOnly, 1, "z[]"},      {type, 'B', "z[]"},
-        {readOnly, 0, "z[]"},       {plain, 0, "z[]"},         {type, 'B', "zb[]"}};
-    for (const auto& [act, n, pszShown] : cases) {
-        act(n);
-        EXPECT_EQ(Shown(), pszShown);
+    pEdit->SetFocus();
+    const struct {
+        bool bOnly;
+        int nKey;
+        const char* pszShown;
+        bool bReadOnly = false, bPlain = false;
+    } cases[] = {
+        {false, 'B', "B[eta]"},    {false, 'E', "Be[ta]"},    {false, VK_BACK, "Be[]"},
+        {true, VK_BACK, "B[eta]"}, {true, 'X', "B[eta]"},     {true, VK_BACK, "[alpha]"},
+        {false, 'Z', "z[]"},       {false, 'B', "z[]", true}, {false, 'B', "zb[]", false, true}};
+    for (const auto& c : cases) {
+        pEdit->SetSpeedOnly(c.bOnly);
+        pEdit->SetReadOnly(c.bReadOnly);
+        pEdit->SetSpeedData(c.bPlain ? nullptr : &names);
+        TypeKey(static_cast<WORD>(c.nKey));
+        EXPECT_EQ(Shown(), c.pszShown);
     }
 }
 
@@ -71,25 +71,16 @@ TEST_F(SpeedEditMonkey, SurvivesAParentThatTakesThingsAwayAndTheWantOfMemory) {
             EXPECT_EQ(pEdit->nThrown, 0);
             pEdit->SetWindowText("");
         });
-    std::mt19937 random = MonkeyRandom(3);
-    pEdit.reset();
-    const LONG nHandles = AfxGetOwnedHandleCount();
+    int nTold = 0;
     m_meddle = [&] {
-        random() % 4 == 0 ? names.RemoveAll() : void();
-        random() % 3 == 0 ? pEdit.reset() : void();
+        ++nTold % 4 == 0 ? names.RemoveAll() : void();
+        nTold % 3 == 0 ? pEdit.reset() : void();
     };
-    int nMade = 0;
-    for (int i = 0; i < MonkeySteps() || nMade < 1000; ++i) {
-        while (pEdit == nullptr) {
-            Make();
-            ++nMade;
-        }
-        pEdit->SetSpeedOnly(random() % 2);
-        pEdit->SendMessage(EM_SETSEL, random() % 5, random() % 5);
-        pEdit->SendMessage(WM_CHAR, random() % 6 == 0 ? '\b' : 'a' + random() % 4, 1);
-    }
     pEdit.reset();
-    EXPECT_EQ(AfxGetOwnedHandleCount(), nHandles);
+    PlayInAnyOrder(
+        pEdit, [&] { Make(); },
+        {[&](int n) { pEdit->SetSpeedOnly(n % 2); }, [&](int n) { pEdit->SetSel(n / 12, n / 9); },
+         [&](int n) { pEdit->SendMessage(WM_CHAR, "aabbcde\b"[(n + 5) % 8], 1); }});
 }
 
 }  // namespace
