@@ -20,11 +20,8 @@ constexpr bool kIsList = std::is_base_of_v<CListBox, Box>;
 template <class Box>
 constexpr bool kHasImages = !std::is_base_of_v<QVColorComboBox, Box>;
 
-template <class Box>
-constexpr DWORD kBoxStyle = WS_CHILD | WS_VISIBLE | WS_VSCROLL |
-                            (kIsList<Box>
-                                 ? DWORD{LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS | LBS_NOTIFY}
-                                 : DWORD{CBS_OWNERDRAWVARIABLE | CBS_HASSTRINGS});
+constexpr DWORD kListStyle = LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS | LBS_NOTIFY;
+constexpr DWORD kComboStyle = CBS_OWNERDRAWVARIABLE | CBS_HASSTRINGS;
 
 template <class Box>
 constexpr DWORD kPlainBox = kIsList<Box> ? 0 : CBS_DROPDOWNLIST;
@@ -54,7 +51,6 @@ class OpenListBox : public OpenBox<QVBitmapListBox> {
 public:
     using QVBitmapListBox::m_anPrintHeaderTabs;
     using QVBitmapListBox::m_anPrintTabs;
-    using QVBitmapListBox::m_anTabs;
     using QVBitmapListBox::m_bRedraw;
     using QVBitmapListBox::m_header;
     using QVBitmapListBox::m_imageList;
@@ -106,11 +102,10 @@ protected:
 template <class Box>
 int SetUpBox(Box& box, CWnd* pParent, UINT nID = kBoxId, bool bImages = true) {
     if constexpr (kHasImages<Box>) {
-        return box.Initialize(nID, kListImages, kListImageMask, bImages ? kListImageWidth : 0,
-                              pParent);
+        const int nWidth = bImages ? kListImageWidth : 0;
+        return box.Initialize(nID, kListImages, kListImageMask, nWidth, pParent);
     } else {
-        return box.Initialize(nID, g_aBoxColors, static_cast<int>(std::size(g_aBoxColors)),
-                              pParent);
+        return box.Initialize(nID, g_aBoxColors, 3, pParent);
     }
 }
 template <class Box>
@@ -120,16 +115,6 @@ int InsertRow(Box& box, int nNumber, int nIndex, const char* pszText) {
     } else {
         return box.InsertColorString(nNumber, nIndex, pszText);
     }
-}
-template <class Box>
-std::string StoredRow(Box& box, int nRow) {
-    CString str;
-    if constexpr (kIsList<Box>) {
-        box.GetText(nRow, str);
-    } else {
-        box.GetLBText(nRow, str);
-    }
-    return std::string(str);
 }
 
 template <class Box>
@@ -149,8 +134,10 @@ public:
 
     explicit BoxWindow(DWORD dwStyle = kPlainBox<Box>, bool bImages = true, bool bHeader = false)
         : parent(CSize(340, 200)) {
-        ::CreateWindowEx(0, kIsList<Box> ? "LISTBOX" : "COMBOBOX", "", kBoxStyle<Box> | dwStyle, 10,
-                         20, 300, 160, parent.m_hWnd,
+        ::CreateWindowEx(0, kIsList<Box> ? "LISTBOX" : "COMBOBOX", "",
+                         WS_CHILD | WS_VISIBLE | WS_VSCROLL | dwStyle |
+                             (kIsList<Box> ? kListStyle : kComboStyle),
+                         10, 20, 300, 160, parent.m_hWnd,
                          reinterpret_cast<HMENU>(static_cast<UINT_PTR>(kBoxId)), nullptr, nullptr);
         if constexpr (kIsList<Box>) {
             box->SetHeader(bHeader ? kBoxHeaderId : 0);
@@ -168,22 +155,25 @@ public:
         parent.m_hook = nullptr;
         parent.onMessage = nullptr;
     }
-    std::string Stored(int nRow) { return StoredRow(*box, nRow); }
-    std::string Text(int nRow) {
-        CString str("none");
-        box->GetItemString(nRow, str);
+    std::string Stored(int nRow) {
+        CString str;
+        if constexpr (kIsList<Box>) {
+            box->GetText(nRow, str);
+        } else {
+            box->GetLBText(nRow, str);
+        }
         return std::string(str);
     }
     // The selected row of a combo box; those of a list, the caret in brackets: "0|2(2)".
     std::string Selection() {
         std::string str;
-        if constexpr (kIsList<Box>) {
+        if constexpr (!kIsList<Box>) {
+            return std::to_string(box->GetCurSel());
+        } else {
             for (int i = 0; i < box->GetCount(); ++i) {
                 str += box->GetSel(i) > 0 ? (str.empty() ? "" : "|") + std::to_string(i) : "";
             }
             return str + "(" + std::to_string(box->GetCaretIndex()) + ")";
-        } else {
-            return std::to_string(box->GetCurSel());
         }
     }
 

@@ -102,6 +102,14 @@ TYPED_TEST(ImageBoxRows, ReplacedOnesKeepTheirState) {
         box.ValidateRect(nullptr);
         EXPECT_FALSE(replace(30) || replace(-1) || box.GetUpdateRect(nullptr));
         EXPECT_TRUE(replace(5) && box.GetUpdateRect(nullptr)) << "drawn anew";
+        box.InsertString(0, "");
+        box.SetItemString(0, "a");
+        EXPECT_EQ(w.Stored(0), "a\t-1");
+        if constexpr (kIsList<TypeParam>) {
+            box.SetRedraw(FALSE);
+            replace(5);
+            EXPECT_FALSE(box.m_bRedraw) << "as the caller has it";
+        }
     }
 }
 
@@ -141,7 +149,7 @@ TYPED_TEST(ImageBoxRows, AreComparedByImageAndText) {
 // What the platform makes of a height of the part that shows the selected row.
 int PartHeight(CWnd& parent, UINT nHeight) {
     CComboBox combo;
-    combo.Create(kBoxStyle<CComboBox> | CBS_DROPDOWNLIST, CRect(0, 0, 50, 50), &parent, 3);
+    combo.Create(WS_CHILD | kComboStyle | CBS_DROPDOWNLIST, CRect(0, 0, 50, 50), &parent, 3);
     combo.SetItemHeight(-1, nHeight);
     return combo.GetItemHeight(-1);
 }
