@@ -92,7 +92,7 @@ std::vector<Operation<Box>> Operations() {
 // What else the list handles itself.
 std::vector<Act<OpenListBox>> ActsOfTheList() {
     static constexpr int kTabs[20] = {50, 10090, 20300};
-    return {[](auto& s, int n, auto) { s.box->SendMessage(WM_RBUTTONDOWN, 0, n * 0x140014); },
+    return {[](auto& s, int n, auto) { s.box->SendMessage(WM_RBUTTONDOWN, 0, n * 0x50014); },
             [](auto& s, int n, auto) { s.box->MoveWindow(0, 0, n * 9, n * 6); },
             [](auto& s, int n, auto psz) { n ? s.box->AddHeader(psz) : s.box->ClearHeaders(); },
             [](auto& s, int n, auto) { s.box->UseTabs(kTabs, n % 22); },
