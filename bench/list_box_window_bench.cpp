@@ -86,6 +86,7 @@ protected:
     HWND m_hList = nullptr;
 };
 
+constexpr int kFills = 11;
 constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_NOINTEGRALHEIGHT |
                          LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS;
 
@@ -218,7 +219,7 @@ double TimeFill(DWORD dwStyle, bool bByImage) {
 void MeasureFill(const char* pszName, DWORD dwStyle, bool bByImage) {
     Compare(pszName, 1e3, "ms",
             bench::FastestPair([&] { return TimeFill<Ours>(dwStyle, bByImage); },
-                               [&] { return TimeFill<Theirs>(dwStyle, bByImage); }));
+                               [&] { return TimeFill<Theirs>(dwStyle, bByImage); }, kFills));
 }
 
 void MeasurePaint() {

@@ -72,8 +72,8 @@ void QVMenuButton::ShowMenu() {
     });
 }
 
-// A menu does not end by itself when its window goes. Where the popup goes first, with the top-level
-// window that owns it, EndMenu has nobody to wake the menu's loop by.
+// A menu does not end by itself when its window goes. Where the popup goes first, with the
+// top-level window that owns it, EndMenu has nobody to wake the menu's loop by.
 void QVMenuButton::CloseMenu() {
     if (m_bMenuOpen) {
         ::EndMenu();

@@ -124,7 +124,8 @@ BOOL CDC::RestoreDC(int nSavedDC) {
     if (m_hDC == nullptr || m_hAttribDC == nullptr || m_hAttribDC == m_hDC) {
         return ::RestoreDC(m_hDC != nullptr ? m_hDC : m_hAttribDC, nSavedDC);
     }
-    // Somebody may have saved one of the two before: by number they differ, step by step they agree.
+    // Somebody may have saved one of the two before: by number they differ, step by step they
+    // agree.
     int nSteps = nSavedDC;
     if (nSavedDC > 0) {
         nSteps -= ::SaveDC(m_hDC);
