@@ -1,9 +1,4 @@
-#include "support/monkey.h"
-#include "support/real_input.h"
-#include "support/text_window.h"
-#include "window/refusals.h"
-
-#include <gtest/gtest.h>
+#include "window/text/edit_window.h"
 
 namespace {
 
@@ -35,9 +30,8 @@ public:
     }
 };
 
-class DateEdit : public testing::Test, protected FontParent {
+class DateEdit : public EditWindow<OpenDate> {
 protected:
-    DateEdit() : FontParent(CSize(300, 100)) {}
     void Make(DWORD dwStyle) {
         pEdit = std::make_unique<OpenDate>();
         pEdit->Create(WS_CHILD | WS_VISIBLE | dwStyle, CRect(20, 20, 240, 48), this, 1);
@@ -45,7 +39,6 @@ protected:
 
     const UserSetting time{LOCALE_STIMEFORMAT, "h.mm.ss tt"};
     const UserSetting date{LOCALE_SLONGDATE, "gg dddd, d MMMM yy"};
-    std::unique_ptr<OpenDate> pEdit;
 };
 
 TEST_F(DateEdit, TheUsersPicturesMakeTheFormatOnce) {

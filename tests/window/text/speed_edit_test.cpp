@@ -1,16 +1,10 @@
-#include "support/monkey.h"
-#include "support/mortal.h"
-#include "support/real_input.h"
-#include "support/text_window.h"
-#include "window/refusals.h"
-
-#include <gtest/gtest.h>
+#include "window/text/edit_window.h"
 
 namespace {
 
-class SpeedEdit : public testing::Test, protected FontParent {
+class SpeedEdit : public EditWindow<Mortal<Watched<QVSpeedEdit>>> {
 protected:
-    SpeedEdit() : FontParent(CSize(300, 100)) { Make(); }
+    SpeedEdit() { Make(); }
     void Make() {
         names.RemoveAll();
         for (const char* psz : {"alpha", "Beta", "betamax"}) {
@@ -19,10 +13,6 @@ protected:
         pEdit = std::make_unique<Mortal<Watched<QVSpeedEdit>>>();
         pEdit->SetSpeedData(&names);
         pEdit->Create(WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, CRect(9, 9, 99, 32), this, 1);
-    }
-    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
-        m_meddle();
-        return FontParent::OnCommand(wParam, lParam);
     }
     // The text, with the selection in brackets.
     std::string Shown() {
@@ -35,9 +25,7 @@ protected:
         return std::string(str);
     }
 
-    std::function<void()> m_meddle = [] {};
     CStringArray names;
-    std::unique_ptr<Mortal<Watched<QVSpeedEdit>>> pEdit;
 };
 
 TEST_F(SpeedEdit, CompletesWhatIsTyped) {
@@ -72,7 +60,7 @@ TEST_F(SpeedEditMonkey, SurvivesAParentThatTakesThingsAwayAndTheWantOfMemory) {
             pEdit->SetWindowText("");
         });
     int nTold = 0;
-    m_meddle = [&] {
+    m_told = [&](WPARAM, LPARAM) {
         ++nTold % 4 == 0 ? names.RemoveAll() : void();
         nTold % 3 == 0 ? pEdit.reset() : void();
     };

@@ -1,11 +1,5 @@
-#include "support/monkey.h"
-#include "support/mortal.h"
 #include "support/one_color_image.h"
-#include "support/real_input.h"
-#include "support/text_window.h"
-#include "window/refusals.h"
-
-#include <gtest/gtest.h>
+#include "window/text/edit_window.h"
 
 namespace {
 
@@ -26,17 +20,13 @@ public:
     }
 };
 
-class TextBox : public testing::Test, protected FontParent {
+class TextBox : public EditWindow<OpenBox> {
 protected:
-    TextBox() : FontParent(CSize(300, 200)) { Make("one\ttwo\tTHREE"); }
+    TextBox() { Make("one\ttwo\tTHREE"); }
     void Make(const char* pszList) {
-        pBox = std::make_unique<OpenBox>();
-        pBox->SetTextList(pszList);
-        pBox->Create(kBoxId, kPlace, this);
-    }
-    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
-        wParam == MAKEWPARAM(kBoxId, 8) && lParam == 0 ? m_chosen() : void();
-        return FontParent::OnCommand(wParam, lParam);
+        pEdit = std::make_unique<OpenBox>();
+        pEdit->SetTextList(pszList);
+        pEdit->Create(kBoxId, kPlace, this);
     }
     CRect RectOf(const CWnd& wnd) {
         CRect rc;
@@ -44,14 +34,16 @@ protected:
         ScreenToClient(&rc);
         return rc;
     }
-
-    std::function<void()> m_chosen = [] {};
-    std::unique_ptr<OpenBox> pBox;
+    void OnChoice(const std::function<void()>& act) {
+        m_told = [=](WPARAM wParam, LPARAM lParam) {
+            wParam == MAKEWPARAM(kBoxId, 8) && lParam == 0 ? act() : void();
+        };
+    }
 };
 
 TEST_F(TextBox, AnItemKeepsItsCaptionWhateverTheListIs) {
-    EXPECT_EQ(pBox->GetStyle() & 0xFFFF0000 & ~WS_CLIPCHILDREN, 0x50010000u);
-    EXPECT_TRUE(pBox->GetExStyle() & WS_EX_STATICEDGE);
+    EXPECT_EQ(pEdit->GetStyle() & 0xFFFF0000 & ~WS_CLIPCHILDREN, 0x50010000u);
+    EXPECT_TRUE(pEdit->GetExStyle() & WS_EX_STATICEDGE);
     CStatic item;
     item.Create("a caption", WS_CHILD, kPlace, this, kBoxId + 1);
     item.Detach();
@@ -64,57 +56,59 @@ TEST_F(TextBox, AnItemKeepsItsCaptionWhateverTheListIs) {
 }
 
 TEST_F(TextBox, TheSpinButtonIsInsideAndFollowsAndTheBoxStays) {
-    EXPECT_EQ(RectOf(*pBox), kPlace) << "the platform would move and narrow it";
+    EXPECT_EQ(RectOf(*pEdit), kPlace) << "the platform would move and narrow it";
     for (const CRect& rc : {kPlace, CRect(10, 90, 100, 121)}) {
-        pBox->MoveWindow(&rc);
-        EXPECT_EQ(RectOf(pBox->m_spin), CRect(rc.right - 2 - ::GetSystemMetrics(SM_CXHSCROLL),
-                                              rc.top + 2, rc.right - 2, rc.bottom - 2));
+        pEdit->MoveWindow(&rc);
+        EXPECT_EQ(RectOf(pEdit->m_spin), CRect(rc.right - 2 - ::GetSystemMetrics(SM_CXHSCROLL),
+                                               rc.top + 2, rc.right - 2, rc.bottom - 2));
     }
-    pBox->SetTextList("four\tfive");
-    pBox->SendMessage(WM_VSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 2));
-    EXPECT_EQ(pBox->Text(), "four") << "beyond the list";
+    pEdit->SetTextList("four\tfive");
+    pEdit->SendMessage(WM_VSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 2));
+    EXPECT_EQ(pEdit->Text(), "four") << "beyond the list";
 }
 
 TEST_F(TextBox, TextsThatAreSetFindTheirPlace) {
-    pBox->SetTextList("one\ttwo\tTHREE\ttwo");
+    pEdit->SetTextList("one\ttwo\tTHREE\ttwo");
     for (const auto& [pszText, nCurText, nSpin] : {std::tuple<const char*, int, int>("TWO", 1, 1),
                                                    {"three", 2, 2},
                                                    {"four", -1, 2},
                                                    {nullptr, -1, 2}}) {
-        EXPECT_EQ(pBox->SendMessage(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(pszText)), 1);
-        EXPECT_EQ(pBox->Text(), pszText != nullptr ? pszText : "");
-        EXPECT_EQ(pBox->m_nCurText, nCurText);
-        EXPECT_EQ(LOWORD(pBox->m_spin.GetPos()), nSpin);
+        EXPECT_EQ(pEdit->SendMessage(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(pszText)), 1);
+        EXPECT_EQ(pEdit->Text(), pszText != nullptr ? pszText : "");
+        EXPECT_EQ(pEdit->m_nCurText, nCurText);
+        EXPECT_EQ(LOWORD(pEdit->m_spin.GetPos()), nSpin);
     }
 }
 
 TEST_F(TextBox, ClicksAndKeysStepRoundAndRound) {
     const auto click = [&](int nQuarter) {
-        const CRect rc = RectOf(pBox->m_spin);
+        const CRect rc = RectOf(pEdit->m_spin);
         ClickAt(m_hWnd, CPoint(rc.CenterPoint().x, rc.top + nQuarter * rc.Height() / 4));
     };
-    const auto enable = [&](int bEnable) { pBox->EnableWindow(bEnable); };
-    const auto key = [&](int vk) { ClickAt(pBox->m_hWnd, {5, 5}), TypeKey(static_cast<WORD>(vk)); };
+    const auto enable = [&](int bEnable) { pEdit->EnableWindow(bEnable); };
+    const auto key = [&](int vk) {
+        ClickAt(pEdit->m_hWnd, {5, 5}), TypeKey(static_cast<WORD>(vk));
+    };
     int nChoices = 0;
-    m_chosen = [&] { ++nChoices; };
+    OnChoice([&] { ++nChoices; });
     const std::tuple<std::function<void(int)>, int, const char*> cases[] = {
         {click, 1, "two"},   {click, 3, "one"},    {click, 3, "THREE"}, {enable, 0, "THREE"},
         {click, 1, "THREE"}, {enable, 1, "THREE"}, {key, VK_UP, "one"}, {key, VK_DOWN, "THREE"}};
     for (const auto& [act, n, pszText] : cases) {
         act(n);
-        EXPECT_EQ(pBox->Text(), pszText);
+        EXPECT_EQ(pEdit->Text(), pszText);
     }
     EXPECT_EQ(nChoices, 5);
-    m_chosen = [&] { pBox.reset(); };
+    OnChoice([&] { pEdit.reset(); });
     click(1);
-    EXPECT_EQ(pBox, nullptr) << "deleted at a choice";
+    EXPECT_EQ(pEdit, nullptr) << "deleted at a choice";
 }
 
 TEST_F(TextBox, ColoursAlignmentAndImageShow) {
     constexpr COLORREF kRed = RGB(255, 0, 0), kBlue = RGB(0, 0, 255);
     OneColorImage image(CSize(10, 12), kBlue);
     Make("MM");
-    pBox->SetTextColor(kRed);
+    pEdit->SetTextColor(kRed);
     const struct {
         DWORD dwAlign;
         int nImage, nInk, bEnabled = 1;  // where the text begins, or has its middle or end
@@ -122,11 +116,11 @@ TEST_F(TextBox, ColoursAlignmentAndImageShow) {
                  {SS_CENTER, -1, 69}, {SS_RIGHT, 0, 133}, {SS_LEFT, -1, 2, 0}};
     for (const auto& c : cases) {
         SCOPED_TRACE(&c - cases);
-        pBox->ModifyStyle(SS_TYPEMASK, c.dwAlign);
-        pBox->SetImage(&image, c.nImage);
-        pBox->EnableWindow(c.bEnabled);
-        pBox->Invalidate(TRUE);
-        const Picture shown = Picture::OfClient(pBox->m_hWnd);
+        pEdit->ModifyStyle(SS_TYPEMASK, c.dwAlign);
+        pEdit->SetImage(&image, c.nImage);
+        pEdit->EnableWindow(c.bEnabled);
+        pEdit->Invalidate(TRUE);
+        const Picture shown = Picture::OfClient(pEdit->m_hWnd);
         EXPECT_EQ(shown.Count(kBlue, CRect(2, 5, 12, 17)), c.nImage == 0 ? 120 : 0);
         const COLORREF crText = c.bEnabled ? kRed : ::GetSysColor(COLOR_GRAYTEXT);
         EXPECT_GT(shown.Count(crText), 5);
@@ -141,16 +135,16 @@ using TextBoxMonkey = TextBox;
 TEST_F(TextBoxMonkey, SurvivesAnyOrderOfMessagesAndTheWantOfMemory) {
     const char* const kLists[] = {"", "one", "one\ttwo", "\t\t\t", nullptr};
     int nChosen = 0;
-    m_chosen = [&] { ++nChosen % 2 == 0 ? pBox.reset() : pBox->SetTextList("x\ty"); };
+    OnChoice([&] { ++nChosen % 2 == 0 ? pEdit.reset() : pEdit->SetTextList("x\ty"); });
     int nMade = 0;
-    pBox.reset();
+    pEdit.reset();
     PlayInAnyOrder(
-        pBox, [&] { Make(kLists[++nMade % 5]); },
-        {[&](int n) { pBox->SetTextList(kLists[(n + 5) % 5]); },
-         [&](int n) { pBox->SendMessage(WM_VSCROLL, MAKEWPARAM((n + 5) % 10, n)); },
-         [&](int n) { pBox->SendMessage(WM_KEYDOWN, n % 2 != 0 ? VK_UP : VK_DOWN); },
-         [&](int n) { pBox->MoveWindow(n, n, n * 3, n), pBox->UpdateWindow(); },
-         [&](int n) { pBox->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, n * WHEEL_DELTA)); }});
+        pEdit, [&] { Make(kLists[++nMade % 5]); },
+        {[&](int n) { pEdit->SetTextList(kLists[(n + 5) % 5]); },
+         [&](int n) { pEdit->SendMessage(WM_VSCROLL, MAKEWPARAM((n + 5) % 10, n)); },
+         [&](int n) { pEdit->SendMessage(WM_KEYDOWN, n % 2 != 0 ? VK_UP : VK_DOWN); },
+         [&](int n) { pEdit->MoveWindow(n, n, n * 3, n), pEdit->UpdateWindow(); },
+         [&](int n) { pEdit->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, n * WHEEL_DELTA)); }});
     OpenBox box;
     RefuseEach(
         "all",
