@@ -140,13 +140,17 @@ void PackageBar::ShowMarks(const Package* pPackage) {
 
 // --- The filter
 
+// Before there is an inventory nothing can be chosen, and the filter waits.
 void PackageBar::SetFilter(const PackageFilter& filter) {
     m_filter = filter;
+    ShowSince();
+    if (m_section.GetCount() == 0) {
+        return;
+    }
     Choose(m_section, filter.strSection);
     Choose(m_architecture, filter.strArchitecture);
     m_filter.strSection = Chosen(m_section);
     m_filter.strArchitecture = Chosen(m_architecture);
-    ShowSince();
 }
 
 void PackageBar::ShowSince() {
