@@ -1,24 +1,18 @@
 #include "dialogs/package_bar.h"
 
+#include "package_strip.h"
+
 #include <algorithm>
 #include <mbstring.h>
 
 namespace {
-
-constexpr int kImageWidth = 16;
-constexpr COLORREF kMask = RGB(255, 0, 255);
-constexpr int kImagePackage = 0;
-constexpr int kImageTrouble = 1;
-constexpr int kImageRequired = 2;
 
 int ImageOf(const Section& section) {
     const auto any = [&](bool Package::*pMark) {
         return std::any_of(section.packages.begin(), section.packages.end(),
                            [&](const Package& package) { return package.*pMark; });
     };
-    return any(&Package::bUnusual)    ? kImageTrouble
-           : any(&Package::bRequired) ? kImageRequired
-                                      : kImagePackage;
+    return StripImage(any(&Package::bUnusual), any(&Package::bRequired));
 }
 
 bool NameBefore(const std::string& str1, const std::string& str2) {
@@ -58,8 +52,9 @@ END_MESSAGE_MAP()
 
 BOOL PackageBar::OnInitDialog() {
     CDialog::OnInitDialog();
-    m_section.Initialize(IDC_FILTER_SECTION, IDB_PACKAGES, kMask, kImageWidth, this);
-    m_architecture.Initialize(IDC_FILTER_ARCHITECTURE, IDB_PACKAGES, kMask, kImageWidth, this);
+    m_section.Initialize(IDC_FILTER_SECTION, IDB_PACKAGES, kStripMask, kStripImageWidth, this);
+    m_architecture.Initialize(IDC_FILTER_ARCHITECTURE, IDB_PACKAGES, kStripMask, kStripImageWidth,
+                              this);
     m_since.SubclassDlgItem(IDC_FILTER_SINCE, this);
     m_jump.SubclassDlgItem(IDC_JUMP, this);
     m_jump.SetSpeedData(&m_names);
@@ -72,7 +67,7 @@ BOOL PackageBar::OnInitDialog() {
 }
 
 void PackageBar::SetUpTools() {
-    m_images.Create(IDB_TOOLS, kImageWidth, 0, kMask);
+    m_images.Create(IDB_TOOLS, kStripImageWidth, 0, kStripMask);
     struct Tool {
         QVBitmapButton& button;
         UINT nID;
@@ -104,7 +99,7 @@ void PackageBar::SetInventory(const Inventory& inventory) {
         pBox->SetRedraw(FALSE);
         pBox->ResetContent();
     }
-    m_section.AddBitmapString(kImagePackage, "all sections");
+    m_section.AddBitmapString(kPlainPackage, "all sections");
     std::vector<std::string> names;
     for (const Section& section : inventory.Sections()) {
         m_section.AddBitmapString(ImageOf(section), section.strName.c_str());
@@ -112,9 +107,9 @@ void PackageBar::SetInventory(const Inventory& inventory) {
             names.push_back(package.strName);
         }
     }
-    m_architecture.AddBitmapString(kImagePackage, "all");
+    m_architecture.AddBitmapString(kPlainPackage, "all");
     for (const std::string& strName : Architectures(inventory)) {
-        m_architecture.AddBitmapString(kImagePackage, strName.c_str());
+        m_architecture.AddBitmapString(kPlainPackage, strName.c_str());
     }
     std::sort(names.begin(), names.end(), NameBefore);
     m_names.SetSize(static_cast<INT_PTR>(names.size()));

@@ -1,12 +1,12 @@
 #include "dialogs/report_settings_dialog.h"
 
 #include "model/report_settings.h"
+#include "package_strip.h"
 
 namespace {
 
-constexpr int kImageWidth = 16;
-constexpr COLORREF kImageMask = RGB(255, 0, 255);
-constexpr int kPackageImages[] = {0, 2, 1};  // of all, required and unusual packages
+// Of all, required and unusual packages.
+constexpr PackageImage kPackageImages[] = {kPlainPackage, kRequiredPackage, kPackageInTrouble};
 
 }  // namespace
 
@@ -33,7 +33,7 @@ void ReportSettingsDialog::OfferCodes(QVMacroButton& button, UINT nButton, UINT 
 }
 
 void ReportSettingsDialog::OfferPackages() {
-    m_packages.Initialize(IDC_REPORT_PACKAGES, IDB_PACKAGES, kImageMask, kImageWidth, this);
+    m_packages.Initialize(IDC_REPORT_PACKAGES, IDB_PACKAGES, kStripMask, kStripImageWidth, this);
     const std::vector<std::string>& choices = m_settings.All()[kSettingPackages].choices;
     for (size_t i = 0; i < choices.size(); ++i) {
         m_packages.AddBitmapString(kPackageImages[i], choices[i].c_str());

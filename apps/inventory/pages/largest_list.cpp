@@ -1,5 +1,7 @@
 #include "pages/largest_list.h"
 
+#include "package_strip.h"
+
 #include <algorithm>
 
 namespace {
@@ -8,9 +10,6 @@ constexpr size_t kMost = 200;
 constexpr int kGapsPerInch = 8;  // between columns
 constexpr UINT kColumns = 5;
 constexpr int kSizeTab = 0;  // the stop of the second column
-constexpr int kImagePackage = 0;
-constexpr int kImageTrouble = 1;
-constexpr int kImageRequired = 2;
 
 }  // namespace
 
@@ -55,9 +54,7 @@ void LargestList::Fill() {
 
 // Where the row belongs among those that are there; by size they come in their order.
 void LargestList::Insert(const Package& package) {
-    const int nImage = package.bUnusual    ? kImageTrouble
-                       : package.bRequired ? kImageRequired
-                                           : kImagePackage;
+    const int nImage = StripImage(package);
     const CString strRow = Row(package);
     int nPlace = GetCount();
     if (m_order != Order::Size) {

@@ -1,5 +1,6 @@
 #include "pages/largest_page.h"
 
+#include "package_strip.h"
 #include "pages/printing.h"
 #include "resource.h"
 
@@ -10,8 +11,6 @@
 namespace {
 
 constexpr int kMargin = 4;
-constexpr int kImageWidth = 16;
-constexpr COLORREF kImageMask = RGB(255, 0, 255);
 const CSize kFirstSize(400, 300);
 
 // A run of the list's print protocol, from its first step to its last.
@@ -71,7 +70,7 @@ int LargestPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
         !m_list.Create(WS_CHILD | WS_VISIBLE | WS_BORDER | WS_VSCROLL | WS_TABSTOP | LBS_NOTIFY |
                            LBS_EXTENDEDSEL | LBS_NOINTEGRALHEIGHT,
                        CRect(CPoint(kMargin, kMargin), kFirstSize), this, IDC_LARGEST) ||
-        !m_list.Initialize(IDC_LARGEST, IDB_PACKAGES, kImageMask, kImageWidth, this)) {
+        !m_list.Initialize(IDC_LARGEST, IDB_PACKAGES, kStripMask, kStripImageWidth, this)) {
         return -1;
     }
     m_list.SetUp();

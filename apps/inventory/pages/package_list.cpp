@@ -1,15 +1,6 @@
 #include "pages/package_list.h"
 
-#include "resource.h"
-
-namespace {
-
-constexpr int kImageWidth = 16;
-constexpr int kImagePackage = 0;
-constexpr int kImageTrouble = 1;
-constexpr int kImageRequired = 2;
-
-}  // namespace
+#include "package_strip.h"
 
 IMPLEMENT_DYNCREATE(PackageList, QVSortingListCtrl)
 
@@ -50,7 +41,7 @@ void PackageList::MakeColumns() {
         "00:00\tinterpreters\tnot-installed\tA summary of what the package is good for, in a line";
     SetupColumnsFromString(m_bImageColumn ? "\t" + strSample : strSample);
     if (m_bImageColumn) {
-        SetColWidth(0, 2 * kImageWidth, nullptr);
+        SetColWidth(0, 2 * kStripImageWidth, nullptr);
     }
 }
 
@@ -92,10 +83,7 @@ void PackageList::Fill() {
             if (!m_filter.Shows(package)) {
                 continue;
             }
-            const int nImage = package.bUnusual    ? kImageTrouble
-                               : package.bRequired ? kImageRequired
-                                                   : kImagePackage;
-            const int nItem = InsertBitmapString(nImage, -1, Row(package));
+            const int nItem = InsertBitmapString(StripImage(package), -1, Row(package));
             const size_t nId = m_ids.Of(package.strName);
             SetItemData(nItem, nId);
             m_packages.resize(std::max<size_t>(m_packages.size(), nId + 1));

@@ -1,6 +1,7 @@
 #include "pages/packages_page.h"
 
 #include "model/report_settings.h"
+#include "package_strip.h"
 #include "resource.h"
 #include "sources/settings_file.h"
 
@@ -17,12 +18,10 @@ BEGIN_MESSAGE_MAP(PackagesPage, Page)
 END_MESSAGE_MAP()
 
 int PackagesPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
-    constexpr int kImageWidth = 16;
-    constexpr COLORREF kImageMask = RGB(255, 0, 255);
     m_frame.SetListStyle(WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_REPORT | LVS_SHOWSELALWAYS |
                          LVS_OWNERDRAWFIXED);
     m_frame.SetListID(IDC_LIST);
-    m_frame.SetImageInfo(IDB_PACKAGES, kImageMask, kImageWidth);
+    m_frame.SetImageInfo(IDB_PACKAGES, kStripMask, kStripImageWidth);
     m_frame.SetHeaderText("Packages: a click on a heading sorts, a second turns the order");
     CRect rcNone(0, 0, 0, 0);
     if (Page::OnCreate(lpCreateStruct) == -1 || !m_bar.Create(this) ||
