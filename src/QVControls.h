@@ -13,6 +13,8 @@
 #include "common/locale_info.h"
 #include "containers/header_wnd.h"
 #include "containers/list_header_wnd.h"
+#include "containers/tab_wnd.h"
+#include "containers/tab_wnd_page.h"
 #include "containers/text_header_wnd.h"
 #include "containers/tree_header_wnd.h"
 #include "frame/cust_ctrl.h"
