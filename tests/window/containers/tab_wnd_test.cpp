@@ -6,6 +6,8 @@
 #include "window/containers/tab_test_ids.h"
 #include "window/refusals.h"
 
+#include <afxpriv.h>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -47,7 +49,10 @@ class Tabs : public Mortal<QVTabWnd> {
 public:
     using QVTabWnd::SwitchTabs;
     int m_nFirst = 0;
-    void AddTabPages() override { Add(m_nFirst), EXPECT_EQ(NumPages(), 0); }
+    void AddTabPages() override {
+        Add(m_nFirst);
+        EXPECT_EQ(NumPages(), 0) << "tabs come afterwards";
+    }
     void Add(int nPages) {
         while (nPages-- > 0 &&
                AddPage(("Title " + std::string(1, static_cast<char>('a' + s_nLiving % 26))).c_str(),
@@ -59,7 +64,12 @@ public:
 class Frame : public CFrameWnd {
 public:
     int m_nCommands = 0;
-    BOOL OnCommand(WPARAM, LPARAM) override { return ++m_nCommands; }
+    int m_nHelp = 0;
+    LRESULT WindowProc(UINT nMessage, WPARAM wParam, LPARAM lParam) override {
+        m_nCommands += nMessage == WM_COMMAND;
+        m_nHelp += nMessage == WM_COMMANDHELP;
+        return CFrameWnd::WindowProc(nMessage, wParam, lParam);
+    }
 };
 
 // In a dialog of a main window with accelerators.
@@ -90,6 +100,10 @@ struct TabDialog {
     Frame& frame = *new Frame;
     CDialog dlg;
     std::unique_ptr<Tabs> tabs;
+};
+
+struct AskForHelp : CWinApp {
+    static void Ask() { (TheTestApp().*&AskForHelp::OnHelp)(); }
 };
 
 int Focus() {
@@ -215,7 +229,7 @@ TEST(TabWnd, TheKeyboardGoesThroughThePage) {
         TypeKey(VK_TAB);
         EXPECT_EQ(Focus(), nNext);
     }
-    tabs.SetFocus();
+    tabs.GetPage(0)->GetDlgItem(IDC_PAGE_EDIT)->SetFocus();
     TypeKey('K', false, true), TypeKey(VK_RETURN), TypeKey(VK_ESCAPE);
     EXPECT_EQ(Focus(), IDC_PAGE_EDIT);
     EXPECT_EQ(w.frame.m_nCommands, 1);
@@ -233,6 +247,10 @@ TEST(TabWnd, TheKeyboardGoesThroughThePage) {
     TheTestApp().m_pMainWnd = &w.dlg;  // has no accelerators
     tabs.SetFocus(), TypeKey('K', false, true);
     EXPECT_EQ(w.frame.m_nCommands, 1);
+    AskForHelp::Ask();
+    EXPECT_EQ(w.frame.m_nHelp, 0) << "a page keeps to itself what nobody helps with";
+    w.dlg.GetDlgItem(IDC_BEFORE)->SetFocus(), AskForHelp::Ask();
+    EXPECT_EQ(w.frame.m_nHelp, 1);
 }
 
 // A page's step takes away what it belongs to, or adds to it.
@@ -250,11 +268,12 @@ TEST(TabWnd, PagesOutliveTheirOwnSteps) {
             TextRecorder dc;
             QVPrintEngine engine(&dc, nullptr, nullptr, nullptr);
             const std::function<void()> acts[] = {
-                [&] { tabs->Add(1); }, [&] { tabs->SetActivePage(1); },
+                [&] { tabs->Add(1); }, [&] { tabs->SetActivePage(0), tabs->SetActivePage(1); },
                 [&] { tabs->BeginPrinting(&dc, engine, FALSE); },
                 [&] {
-                    auto* pPage = tabs->GetPage(tabs->GetActivePage());
-                    ClickAt(pPage->GetDlgItem(IDC_PAGE_BUTTON)->m_hWnd, CPoint(5, 5));
+                    if (auto* pPage = tabs->GetPage(tabs->GetActivePage())) {
+                        ClickAt(pPage->GetDlgItem(IDC_PAGE_BUTTON)->m_hWnd, CPoint(5, 5));
+                    }
                 }};
             for (const auto& act : acts) {
                 tabs && tabs->NumPages() > 0 ? act() : void();
