@@ -1,9 +1,7 @@
 #include "containers/core/split_layout.h"
 
-#include "support/split_player.h"
-
+#include <array>
 #include <gtest/gtest.h>
-#include <random>
 
 namespace qv {
 
@@ -54,28 +52,6 @@ TEST(SplitBar, AKeptPositionIsKeptOnce) {
     nRatio = kKeepPosition;
     bar.EndResize(0);
     EXPECT_EQ(nRatio, 50);
-}
-
-TEST(SplitBar, EndsEachDragWithoutATrackerAndWhereItBelongs) {
-    std::mt19937 random(7);
-    const auto number = [&](int nBelow) { return static_cast<int>(random() % nBelow); };
-    for (const bool bVertical : {true, false}) {
-        SplitPlayer player(bVertical, 5);
-        for (int i = 0; i < 5000; ++i) {
-            const int c = 1 + number(1000);
-            player.SetRatio(number(102) - 1);
-            ASSERT_TRUE(player.Resize({c, c})) << i;
-            player.SetRatio(20 + number(60));
-            ASSERT_TRUE(player.Resize({c, c})) << i;
-            for (int nAt = 0; nAt < c; nAt += 4) {
-                ASSERT_TRUE(player.Press({nAt, nAt})) << i;
-            }
-            for (int nMove = 0; nMove < 4; ++nMove) {
-                ASSERT_TRUE(player.MoveTo({number(c + 20) - 10, number(c + 20) - 10})) << i;
-            }
-            ASSERT_TRUE(i % 2 == 0 ? player.Release() : player.Cancel()) << i;
-        }
-    }
 }
 
 }  // namespace qv
