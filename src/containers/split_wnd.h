@@ -12,7 +12,7 @@
 // Ownership: the windows of both panes are destroyed with this window, and their objects deleted
 // with this object unless SetAutoDeletePanes(FALSE) is called: for panes that are members, and for
 // those that delete themselves. A pane whose window somebody else destroys, or whose object they
-// delete, leaves its slot, and its object is not touched any more. A temporary object, as
+// delete, leaves its slot as long as this one has a window, and its object is not touched any more. A temporary object, as
 // GetDlgItem gives, stands for its window as long as that is there, and is never deleted.
 // Coordinates are client pixels of this window where nothing else is said, positions along the way
 // that the bar moves.

@@ -27,18 +27,15 @@ public:
 
 private:
     LRESULT WindowProc(UINT nMessage, WPARAM wParam, LPARAM lParam) override {
+        const auto onSize = nMessage == WM_SIZE ? m_onSize : nullptr;
+        if (onSize != nullptr) {
+            return onSize(), 0;
+        }
         if (nMessage == WM_PAINT) {
             ++m_nPaints;
-            CPaintDC dc(this);
-            for (int x = 0; x < 1000; x += 25) {
-                dc.FillSolidRect(x, 0, 25, 600, RGB(x, x * 3, 200));
-            }
-        } else if (const auto onSize = nMessage == WM_SIZE ? m_onSize : nullptr) {
-            onSize();
-        } else {
-            return CWnd::WindowProc(nMessage, wParam, lParam);
+            CClientDC(this).FillSolidRect(0, 0, 999, 999, RGB(9, 99, 199));
         }
-        return 0;
+        return CWnd::WindowProc(nMessage, wParam, lParam);
     }
 };
 IMPLEMENT_DYNCREATE(Pane, CWnd)
@@ -47,9 +44,8 @@ class Split : public Mortal<QVSplitWnd> {
 public:
     using QVSplitWnd::m_bTracking;
     using QVSplitWnd::m_nSplitPos;
-    using QVSplitWnd::m_nSplitRatio;
 
-    int Width() { return SplitterWidth(); }
+    using QVSplitWnd::SplitterWidth;
     CRect Bar() {
         CRect rect;
         CalcSplitRect(rect, -1);
@@ -66,7 +62,6 @@ public:
         GetParent()->ScreenToClient(&rect);
         return rect == Place(nPane);
     }
-    bool Fit() { return Fits(0) && Fits(1); }
     Pane& At(int nPane) { return *static_cast<Pane*>(GetPane(nPane)); }
 };
 
@@ -108,8 +103,8 @@ TEST(SplitWnd, ADragInvertsATrackerAndTheReleaseMovesThePanes) {
     Shown w;
     Split& split = *w.pSplit;
     const Picture before = w.Look();
-    const int nEnd = 2 * split.Width();
-    split.At(0).m_nPaints = split.At(1).m_nPaints = 0;
+    const int nEnd = 2 * split.SplitterWidth();
+    const int nPaints = split.At(0).m_nPaints;
     ASSERT_TRUE(w.Press());
     for (const auto& [pt, nPos] : {std::pair{CPoint(501, 9), 501},
                                    {{0, 9}, nEnd},
@@ -124,18 +119,19 @@ TEST(SplitWnd, ADragInvertsATrackerAndTheReleaseMovesThePanes) {
     for (int x = 0; x < 1000; ++x) {
         split.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(x, 50));
     }
-    EXPECT_EQ(split.At(0).m_nPaints + split.At(1).m_nPaints, 0);
+    EXPECT_EQ(split.At(0).m_nPaints, nPaints);
     ASSERT_TRUE(ReleaseAt(split.m_hWnd, CPoint(333, 50)));
     PumpPending();
-    EXPECT_TRUE(split.Fit());
-    EXPECT_EQ(split.m_nSplitRatio, 33);
-    EXPECT_LE(split.At(0).m_nPaints, 1);
-    EXPECT_EQ(split.At(1).m_nPaints, 1);
+    EXPECT_TRUE(split.Fits(0) && split.Fits(1));
+    EXPECT_LE(split.At(0).m_nPaints, nPaints + 1);
     const Picture after = w.Look();
     w.parent.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_UPDATENOW);
     EXPECT_EQ(Differing(after, w.Look()), 0) << "no trace of a tracker";
     split.SendMessage(WM_SIZE, SIZE_RESTORED, MAKELPARAM(1000, 100));
     EXPECT_EQ(split.m_nSplitPos, 330);
+    split.At(1).m_onSize = [&] { w.pSplit.reset(); };
+    split.SendMessage(WM_SIZE, SIZE_RESTORED, MAKELPARAM(900, 100));
+    EXPECT_EQ(w.pSplit, nullptr) << "in a size of its pane";
 }
 
 TEST(SplitWnd, WhateverEndsADragTakesTheTrackerAwayAndTheBarBack) {
@@ -144,14 +140,11 @@ TEST(SplitWnd, WhateverEndsADragTakesTheTrackerAwayAndTheBarBack) {
         [](Split& split) { split.At(0).SetCapture(); },
         [](Split& split) {
             const RecordingParent other(CSize(30, 30), WS_POPUP);
-            ASSERT_TRUE(BringToFront(other.m_hWnd));
+            EXPECT_TRUE(BringToFront(other.m_hWnd));
             split.SendMessage(WM_LBUTTONUP);
         },
         [](Split& split) { ReleaseAt(split.m_hWnd, CPoint(300, -15)); },
-        [](Split& split) {
-            split.ShowWindow(SW_HIDE);
-            split.ShowWindow(SW_SHOW);
-        },
+        [](Split& split) { split.ShowWindow(SW_HIDE), split.ShowWindow(SW_SHOW); },
         [](Split& split) { split.MoveWindow(kPlace.x, kPlace.y, 1000, 100); },
         [](Split& split) { split.SwapPane(1, split.GetPane(1)); },
     };
@@ -169,61 +162,38 @@ TEST(SplitWnd, WhateverEndsADragTakesTheTrackerAwayAndTheBarBack) {
     }
 }
 
-TEST(SplitWnd, ThePanesMayGoInADragAndTheSplitWindowInASizeOfItsPane) {
-    Shown w;
-    Pane& pane = w.pSplit->At(1);
-    ASSERT_TRUE(w.Press() && MoveTo(w.pSplit->m_hWnd, CPoint(300, 50)));
-    delete w.pSplit->GetPane(0);
-    w.Look();
-    EXPECT_EQ(w.pSplit->GetPane(0), nullptr);
-    w.pSplit->SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(400, 5));
-    CRect rect = w.pSplit->Place(0);
-    rect.right = 405;
-    EXPECT_EQ(w.Look().Count(::GetSysColor(COLOR_BTNFACE), rect), rect.Width() * rect.Height());
-    pane.m_onSize = [&] { w.pSplit.reset(); };
-    ReleaseAt(w.pSplit->m_hWnd, CPoint(400, 50));
-    EXPECT_EQ(w.pSplit, nullptr);
-}
-
-// A tree of split windows; its leaves are panes.
-void Nest(Split& split, CWnd& parent, int nDepth, std::vector<Split*>& splits) {
+// A tree of split windows, whose leaves are panes.
+void Nest(Split& split, int nDepth, std::vector<Split*>& splits) {
     splits.push_back(&split);
-    for (int i = 0; i < 2; ++i) {
-        if (nDepth == 0) {
-            ASSERT_TRUE(split.AddPane(RUNTIME_CLASS(Pane), kPaneId));
-            continue;
-        }
+    CRect rect(0, 0, 9, 9);
+    while (nDepth == 0 && split.AddPane(RUNTIME_CLASS(Pane), kPaneId)) {
+    }
+    for (int i = 0; nDepth > 0 && i < 2; ++i) {
         auto* pInner = new Split;
-        CRect rect(0, 0, 9, 9);
-        ASSERT_TRUE(pInner->Create(rect, &parent, kSplitId, nDepth % 2) && split.AddPane(pInner));
-        EXPECT_FALSE(pInner->GetExStyle() & WS_EX_CLIENTEDGE || pInner->AddPane(&split));
-        Nest(*pInner, parent, nDepth - 1, splits);
+        pInner->Create(rect, split.GetParent(), kSplitId, nDepth % 2);
+        EXPECT_TRUE(split.AddPane(pInner) && !pInner->AddPane(&split));
+        Nest(*pInner, nDepth - 1, splits);
     }
 }
 
 TEST(SplitWnd, NestedOnesFollowBelowTheirPanesWithOnePaintASize) {
     Shown w(0);
     std::vector<Split*> splits;
-    Nest(*w.pSplit, w.parent, 2, splits);
-    for (Split* pSplit : splits) {
-        pSplit->BringWindowToTop();
-    }
-    std::vector<HWND> seen;
+    Nest(*w.pSplit, 2, splits);
+    std::map<HWND, int> order;
     for (HWND h = ::GetTopWindow(w.parent); h != nullptr; h = ::GetWindow(h, GW_HWNDNEXT)) {
-        seen.push_back(h);
+        order[h] = static_cast<int>(order.size());
     }
-    const auto order = [&](CWnd& wnd) { return std::find(seen.begin(), seen.end(), wnd.m_hWnd); };
     for (int i = 0; i <= 500; ++i) {
-        w.pSplit->MoveWindow(i % 7, i % 3, 1000 - i, 100 + i % 20);
+        w.pSplit->MoveWindow(i % 7, 20, 1000 - i, 100 + i % 20);
         w.pSplit->MoveWindow(10, 20, 1000 - i, 100 + i % 20);
         PumpPending();
         for (Split* pSplit : splits) {
-            ASSERT_TRUE(pSplit->Fit()) << i;
             for (const int nPane : {0, 1}) {
-                EXPECT_LT(order(*pSplit->GetPane(nPane)), order(*pSplit));
-                if (auto* pLeaf = DYNAMIC_DOWNCAST(Pane, pSplit->GetPane(nPane))) {
-                    ASSERT_LE(std::exchange(pLeaf->m_nPaints, 0), 1) << i;
-                }
+                ASSERT_TRUE(pSplit->Fits(nPane)) << i;
+                ASSERT_LT(order[pSplit->GetPane(nPane)->m_hWnd], order[pSplit->m_hWnd]);
+                auto* pLeaf = DYNAMIC_DOWNCAST(Pane, pSplit->GetPane(nPane));
+                ASSERT_TRUE(pLeaf == nullptr || std::exchange(pLeaf->m_nPaints, 0) <= 1) << i;
             }
         }
     }
@@ -252,26 +222,22 @@ TEST(SplitWnd, DeletesItsPanesButForThoseOfOthers) {
 
 TEST(SplitWnd, AnItemFollowsItsRatioAndTakesClicksOnItsBarAlone) {
     RecordingParent parent;
-    CStatic items[2];
-    for (UINT nID = 0; nID < 2; ++nID) {
-        items[nID].Create("", WS_CHILD | WS_VISIBLE, CRect(0, 0, 40, 80), &parent, nID + 1);
-        items[nID].UnsubclassWindow();
+    for (const UINT nID : {kSplitId, kPaneId}) {
+        CStatic item;
+        item.Create("", WS_CHILD | WS_VISIBLE, CRect(0, 0, 40, 80), &parent, nID);
+        item.UnsubclassWindow();
     }
     Split split;
-    EXPECT_FALSE(split.Initialize(99, &parent, 1) || split.Initialize(1, nullptr, 1));
-    ASSERT_TRUE(split.Initialize(1, &parent, FALSE));
-    EXPECT_TRUE(split.AddPane(parent.GetDlgItem(2)));
+    EXPECT_FALSE(split.Initialize(99, &parent, 1) || split.Initialize(kSplitId, nullptr, 1));
+    ASSERT_TRUE(split.Initialize(kSplitId, &parent, FALSE));
+    EXPECT_TRUE(split.AddPane(parent.GetDlgItem(kPaneId)));
     CWnd::DeleteTempMap();
     split.SetSplitRatio(25);
     EXPECT_EQ(split.m_nSplitPos, 40);
     split.MoveWindow(0, 0, 200, 100);
-    EXPECT_EQ(split.m_nSplitPos, 25);
-    EXPECT_TRUE(split.Fits(0));
-    split.SetSplitRatio(-1);
-    split.MoveWindow(0, 0, 200, 200);
-    EXPECT_EQ(split.m_nSplitPos * 100 + split.m_nSplitRatio, 2512);
     split.SendMessage(WM_SIZE, SIZE_MAXIMIZED, MAKELPARAM(20, 20));
     EXPECT_EQ(split.m_nSplitPos, 25);
+    EXPECT_TRUE(split.Fits(0));
     const auto hit = [&](CPoint pt) {
         split.ClientToScreen(&pt);
         return ::WindowFromPoint(pt);
@@ -281,9 +247,10 @@ TEST(SplitWnd, AnItemFollowsItsRatioAndTakesClicksOnItsBarAlone) {
     MoveTo(split.m_hWnd, split.Bar().TopLeft());
     split.SendMessage(WM_SETCURSOR);
     EXPECT_EQ(::GetCursor(), AfxGetApp()->LoadCursor(AFX_IDC_VSPLITBAR));
+    EXPECT_EQ(Picture::OfClient(parent).Count(::GetSysColor(COLOR_BTNFACE), split.Place(1)),
+              200 * split.Place(1).Height());
     split.ShowWindow(SW_HIDE);
     split.MoveWindow(0, 0, 90, 90);
-    split.SwapPane(0, nullptr);
     EXPECT_FALSE(split.IsWindowVisible());
 }
 
@@ -302,13 +269,10 @@ TEST(SplitWnd, LivesThroughAnythingMonkey) {
         [&](int n) { pSplit->SetSplitRatio(n); },
         [&](int n) { pSplit->MoveWindow(n, n, n * 6, n); },
         [&](int n) { pSplit->ShowWindow(n % 3 ? SW_SHOW : SW_HIDE); },
-        [&](int n) {
-            CWnd* pPane = pSplit->GetPane(n % 2);
-            delete (pSplit->m_hWnd != nullptr ? pPane : nullptr);
-        },
+        [&](int n) { delete (pSplit->m_hWnd != nullptr ? pSplit->GetPane(n % 2) : nullptr); },
         [&](int n) { n % 4 == 0 ? pSplit->DestroyWindow() : FALSE; },
         [&](int) { PumpPending(); }};
-    for (const UINT nMessage : {WM_LBUTTONDOWN, WM_MOUSEMOVE, WM_LBUTTONUP, WM_SIZE, WM_PAINT}) {
+    for (const UINT nMessage : {WM_LBUTTONDOWN, WM_MOUSEMOVE, WM_LBUTTONUP, WM_SIZE}) {
         deeds.push_back([&pSplit, nMessage](int n) {
             pSplit->SendMessage(nMessage, 0, MAKELPARAM(n % 2 ? n * 6 : pSplit->m_nSplitPos, n));
         });
