@@ -7,13 +7,13 @@
 // Create it, or Initialize it for an item of a dialog; then AddPane for both panes. It moves its
 // panes whenever it is moved or sized; it does not follow the size of its parent. A drag ends, and
 // the bar goes back, where the window is moved, sized or hidden meanwhile, a pane is added or
-// swapped, or the capture goes to somebody else.
+// swapped, or another window takes the capture or comes to the front.
 //
 // Ownership: the windows of both panes are destroyed with this window, and their objects deleted
 // with this object unless SetAutoDeletePanes(FALSE) is called: for panes that are members, and for
-// those that delete themselves. A pane whose window somebody else destroys, or whose object they
-// delete, leaves its slot as long as this one has a window, and its object is not touched any more. A temporary object, as
-// GetDlgItem gives, stands for its window as long as that is there, and is never deleted.
+// those that delete themselves. As long as this window is there, a pane whose window somebody else
+// destroys, or whose object they delete, leaves its slot, and its object is not touched any more. A
+// temporary object, as GetDlgItem gives, stands for its window and is never deleted.
 // Coordinates are client pixels of this window where nothing else is said, positions along the way
 // that the bar moves.
 
