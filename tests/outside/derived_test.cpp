@@ -394,6 +394,30 @@ TEST_F(Outside, Captions) {
     EXPECT_NE(text.GetTextWnd().m_hWnd, nullptr);
 }
 
+// --- Split windows
+
+class Splitter : public QVSplitWnd {
+public:
+    void LooksAtItself(CWnd& parent) {
+        CRect rect(kRect);
+        ASSERT_TRUE(Create(rect, &parent, 1, FALSE) && AddPane(RUNTIME_CLASS(CWnd), 2));
+        SetSplitRatio(20);
+        EXPECT_EQ(m_nSplitPos + m_nTrackStart + m_nSplitRatio, 50 + 20);
+        EXPECT_TRUE(m_hSplitCursor != m_hArrowCursor && m_bAutoDeletePanes && m_pPane0);
+        EXPECT_FALSE(m_bVertical || m_bTracking || m_bOverBar || m_bClientPanes);
+        CalcSplitRect(rect, -1);
+        EXPECT_EQ(rect.Height(), SplitterWidth() / 2 * 2);
+        DrawSplitTracker(10);
+        m_pPane1 = new CWnd;
+        RepositionPanes();
+        EXPECT_EQ(GetPane(1), m_pPane1);
+    }
+};
+
+TEST_F(Outside, ASplitWindow) {
+    Splitter().LooksAtItself(m_parent);
+}
+
 // --- What paints itself, and guards
 
 class Painted : public QVCustCtrl {

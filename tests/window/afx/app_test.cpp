@@ -23,6 +23,14 @@ TEST(WaitCursor, Nests_AndGivesTheOldCursorBackAtTheEnd) {
     EXPECT_EQ(::GetCursor(), hBefore);
 }
 
+TEST(AppResources, TheSplitCursorsComeLastInTheChain) {
+    for (const UINT nID : {AFX_IDC_HSPLITBAR, AFX_IDC_VSPLITBAR}) {
+        EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCE(nID), RT_GROUP_CURSOR),
+                  ::GetModuleHandle("qvafx.dll"));
+        EXPECT_NE(TheTestApp().LoadCursor(nID), nullptr) << nID;
+    }
+}
+
 TEST(AppSettings, ComeBackFromTheRegistryAndFromTheIniFile) {
     class SettingsApp : public TestApp {
     public:

@@ -82,6 +82,14 @@ TEST(GdiObjects, TemporaryOnesLeaveTheHandleAlone) {
     EXPECT_EQ(AfxGetOwnedHandleCount(), nOwned);
 }
 
+TEST(GdiObjects, TheHalftoneBrushIsNobodys) {
+    const LONG nOwned = AfxGetOwnedHandleCount();
+    const HBRUSH hBrush = *CDC::GetHalftoneBrush();
+    EXPECT_EQ(AfxGetOwnedHandleCount(), nOwned);
+    CGdiObject::DeleteTempMap();
+    EXPECT_EQ(static_cast<HBRUSH>(*CDC::GetHalftoneBrush()), hBrush);
+}
+
 TEST(GdiObjects, APointIsSoManyUnitsOfTheContext) {
     CDC dc;
     ASSERT_TRUE(dc.CreateCompatibleDC(nullptr));
