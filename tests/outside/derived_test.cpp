@@ -394,6 +394,27 @@ TEST_F(Outside, Captions) {
     EXPECT_NE(text.GetTextWnd().m_hWnd, nullptr);
 }
 
+// --- Wizards
+
+class Panel : public QVWizardStepWnd {
+public:
+    int Sum() { return m_nStepIndex + static_cast<int>(m_dwStepID) + !m_fontNormal.m_hObject; }
+    void Draw(CDC& dc, const CRect&) override { qv::SelectGuard font(dc, &m_fontBold); }
+};
+
+class WizardPage : public QVWizardPage {
+public:
+    int ValidateData() override { return m_dwWizButtons == PSWIZB_BACK && !m_StepWnd.m_hWnd; }
+};
+
+TEST_F(Outside, AWizard) {
+    EXPECT_EQ(Panel().Sum(), 0);
+    WizardPage page;
+    page.SetNextPageID(8);
+    EXPECT_EQ(page.OnWizardNext(), 8);
+    EXPECT_EQ(QVWizard().RegisterWizPage(&page, "title"), 0);
+}
+
 // --- What paints itself, and guards
 
 class Painted : public QVCustCtrl {
