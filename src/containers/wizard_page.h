@@ -4,8 +4,8 @@
 //
 // Next and Back lead to the neighbours in the sheet, or to the pages that SetNextPageID and
 // SetPrevPageID name, which a page may still decide in ValidateData. Data that are not valid keep
-// the user from Next and Finish, never from Back.
-// What DoDataExchange rejects holds in both directions, as in any sheet.
+// the user from Next and Finish, never from Back; what DoDataExchange rejects does so in both
+// directions, as in any sheet.
 //
 // A page stands for the step WizStepID: its template's number, unless a derived class says
 // otherwise; several pages may stand for one step. A template given by name has the low 32 bits of
