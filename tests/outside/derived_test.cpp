@@ -399,23 +399,24 @@ TEST_F(Outside, Captions) {
 template <class Base>
 class Page : public Base {
 public:
-    explicit Page(LPCDLGTEMPLATE pTemplate) {
+    bool PointsAt(LPCDLGTEMPLATE pTemplate) {
         this->m_psp.dwFlags |= PSP_DLGINDIRECT;
         this->m_psp.pResource = pTemplate;
-    }
-    bool PointsAt(LPCDLGTEMPLATE pTemplate) {
         PROPSHEETPAGE psp = this->m_psp;
         this->PreProcessPageTemplate(psp, FALSE);
         return psp.pResource == pTemplate;
     }
 };
 
-template <class Base>
-class PropSheet : public Base {
+template <class BaseSheet, class BasePage>
+class PropSheet : public BaseSheet {
 public:
-    PropSheet() : Base("Sheet") {}
-    void LooksAtItself(CPropertyPage& page) {
-        this->CPropertySheet::AddPage(&page);
+    PropSheet() : BaseSheet("Sheet") {}
+    void LooksAtItself() {
+        alignas(4) const WORD noItems[12] = {};
+        Page<BasePage> page;
+        EXPECT_TRUE(page.PointsAt(reinterpret_cast<LPCDLGTEMPLATE>(noItems)));
+        this->AddPage(&page);
         this->BuildPropPageArray();
         EXPECT_EQ(this->m_psh.nPages, 1u);
         EXPECT_NE(this->m_fontTab.m_hObject, nullptr);
@@ -423,16 +424,8 @@ public:
 };
 
 TEST_F(Outside, PropertySheets) {
-    const struct {
-        DLGTEMPLATE head = {WS_CHILD, 0, 0, 0, 0, 50, 50};
-        WORD noTexts[3] = {};
-    } memory;
-    Page<QVPropertyPage> page(&memory.head);
-    Page<QVPropertyPageEx> pageEx(&memory.head);
-    EXPECT_TRUE(page.PointsAt(&memory.head));
-    EXPECT_TRUE(pageEx.PointsAt(&memory.head));
-    PropSheet<QVPropertySheet>().LooksAtItself(page);
-    PropSheet<QVPropertySheetEx>().LooksAtItself(pageEx);
+    PropSheet<QVPropertySheet, QVPropertyPage>().LooksAtItself();
+    PropSheet<QVPropertySheetEx, QVPropertyPageEx>().LooksAtItself();
 }
 
 // --- What paints itself, and guards
