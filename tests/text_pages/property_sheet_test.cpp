@@ -11,21 +11,20 @@
 
 namespace {
 
-/// A page's template in memory: an edit with id 1.
-struct Template {
+/// A page's template: an edit with id 1.
+const struct {
     DLGTEMPLATE head = {WS_CHILD | WS_CAPTION | DS_CONTROL, 0, 1, 0, 0, 160, 60};
     WORD noTexts[3] = {};
     DLGITEMTEMPLATE edit = {WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, 0, 5, 5, 140, 14, 1};
-    WORD editClass[2] = {0xFFFF, 0x0081};
-    WORD noMore[2] = {};
-};
+    WORD editClass[4] = {0xFFFF, 0x0081};
+} kTemplate alignas(4);
 
 class WordPage : public QVPropertyPageEx {
 public:
     explicit WordPage(const std::string& strWord) : m_strWord(strWord.c_str()) {
         Construct(0u);
         m_psp.dwFlags |= PSP_DLGINDIRECT | PSP_USETITLE;
-        m_psp.pResource = &m_template.head;
+        m_psp.pResource = &kTemplate.head;
         m_psp.pszTitle = m_strWord;
         m_strHeaderTitle = m_strHeaderSubTitle = m_strWord;
     }
@@ -33,8 +32,6 @@ public:
 
 private:
     void DoDataExchange(CDataExchange* pDX) override { DDX_Text(pDX, 1, m_strWord); }
-
-    Template m_template;
 };
 
 std::wstring WideText(HWND hWnd) {

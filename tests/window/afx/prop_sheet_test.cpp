@@ -29,9 +29,6 @@ TEST(PropertySheets, LiveBesideTheirOwner_WithoutButtons) {
     t.sheet.SendMessage(WM_SYSCOMMAND, SC_CLOSE);
     EXPECT_EQ(t.sheet.m_hWnd, nullptr);
 
-    ASSERT_TRUE(t.sheet.Create(&t.owner, WS_CHILD | WS_VISIBLE));
-    EXPECT_EQ(::GetParent(t.sheet.m_hWnd), t.owner.m_hWnd);
-    t.sheet.DestroyWindow();
     t.sheet.SetWizardMode();
     ASSERT_TRUE(t.sheet.Create(&t.owner));
     t.Press(IDCANCEL);
@@ -56,11 +53,7 @@ TEST(PropertySheets, ComeUpWithThePagesThatCanBeMade) {
 }
 
 /// What a page may do to its sheet while it is asked something.
-struct Deed {
-    const char* pszName;
-    void (*pfnDo)(Pages& t, Pages::Page& page);
-};
-const Deed kDeeds[] = {
+const std::pair<const char*, void (*)(Pages& t, Pages::Page& page)> kDeeds[] = {
     {"ends it", [](Pages& t, Pages::Page&) { t.sheet.EndDialog(7); }},
     {"leaves it", [](Pages& t, Pages::Page& page) { t.sheet.RemovePage(&page); }},
     {"changes it", [](Pages& t, Pages::Page&) { t.sheet.SetActivePage(2); }},
@@ -71,7 +64,7 @@ const Deed kDeeds[] = {
 };
 
 /// One page does the deed at the first such question; the sheet is over in the end.
-void Attack(const Deed& deed, const std::string& question, bool bWizard) {
+void Attack(int nDeed, const std::string& question, bool bWizard) {
     Pages t;
     if (bWizard) {
         t.sheet.SetWizardMode();
@@ -80,7 +73,7 @@ void Attack(const Deed& deed, const std::string& question, bool bWizard) {
     for (Pages::Page* pPage : {&t.b, &t.p, &t.n}) {
         pPage->m_asked = [&, pPage](const std::string& asked) {
             if (asked == question && !std::exchange(bDone, true)) {
-                deed.pfnDo(t, *pPage);
+                kDeeds[nDeed].second(t, *pPage);
             }
         };
     }
@@ -93,16 +86,16 @@ void Attack(const Deed& deed, const std::string& question, bool bWizard) {
         }
     });
     EXPECT_TRUE(t.sheet.m_hWnd == nullptr && t.owner.IsWindowEnabled())
-        << deed.pszName << " in " << question;
+        << kDeeds[nDeed].first << " in " << question;
 }
 
 TEST(PropertySheets, OutliveWhatAPageDoesWhileItIsAsked) {
-    for (const Deed& deed : kDeeds) {
+    for (int i = 0; i < static_cast<int>(std::size(kDeeds)); ++i) {
         for (const char* pszQuestion : {"set", "kill", "apply", "ok", "query", "cancel"}) {
-            Attack(deed, pszQuestion, false);
+            Attack(i, pszQuestion, false);
         }
         for (const char* pszQuestion : {"set", "kill", "query", "next", "back", "finish"}) {
-            Attack(deed, pszQuestion, true);
+            Attack(i, pszQuestion, true);
         }
     }
     TheTestApp().Forget();
@@ -133,11 +126,10 @@ TEST(DialogTemplates, OfBothKindsHaveAFontThatCanBeReplaced) {
             ASSERT_TRUE(copy.SetFont(lpszFace, 9));
             EXPECT_EQ(FontIn(copy), std::string(lpszFace) + " 9");
             CDialog dlg;
-            const auto pTemplate = static_cast<LPCDLGTEMPLATE>(copy.m_hTemplate);
-            ASSERT_TRUE(dlg.CreateIndirect(pTemplate, &parent));
+            ASSERT_TRUE(dlg.CreateIndirect(static_cast<LPCDLGTEMPLATE>(copy.m_hTemplate), &parent));
             CRect rcDlg;
-            SIZE pixels;
             dlg.GetClientRect(rcDlg);
+            SIZE pixels;
             copy.GetSizeInPixels(&pixels);
             EXPECT_EQ(rcDlg.Size(), CSize(pixels)) << lpszFace;
             EXPECT_NE(dlg.GetDlgItem(nID == IDD_PAGE_BIG ? IDC_PAGE_CHECK : IDC_PAGE_EDIT),
@@ -147,8 +139,7 @@ TEST(DialogTemplates, OfBothKindsHaveAFontThatCanBeReplaced) {
     EXPECT_FALSE(CDialogTemplate().Load(MAKEINTRESOURCE(9999)));
 }
 
-/// DIALOGEX: the system's message font stands without a name.
-TEST(DialogTemplates, OfTheMessageFontNameNone) {
+TEST(DialogTemplates, OfTheSystemsMessageFontNameNone) {
     const WORD memory[] = {1,  0xFFFF, 0, 0, 0, 0,      DS_SETFONT, 0x8000, 0,   0,   0,
                            50, 50,     0, 0, 0, 0x7FFF, 'x',        'x',    'x', 'x', 'x'};
     CDialogTemplate dialogTemplate(reinterpret_cast<const DLGTEMPLATE*>(memory));

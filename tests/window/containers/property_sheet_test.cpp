@@ -79,24 +79,22 @@ TYPED_TEST(AnySheet, ChangesPagesByKeysAndTabs_UnlessAPageRefuses) {
 }
 
 TYPED_TEST(AnySheet, AppliesAndClosesAsPagesSay) {
-    EXPECT_EQ(this->Show([&] {
+    this->Show([&] {
+        const CWnd& apply = *this->sheet.GetDlgItem(ID_APPLY_NOW);
         this->b.SetModified();
         this->sheet.SetActivePage(1);
         this->p.SetModified();
         this->b.SetModified(FALSE);
-        EXPECT_TRUE(this->Enabled(ID_APPLY_NOW)) << "of the other page";
+        EXPECT_TRUE(apply.IsWindowEnabled()) << "of the other page";
         this->Take();
         this->Press(ID_APPLY_NOW);
         EXPECT_EQ(this->Take().rfind("p:kill b:apply b:ok p:apply p:ok", 0), 0U);
-        EXPECT_FALSE(this->Enabled(ID_APPLY_NOW));
+        EXPECT_FALSE(apply.IsWindowEnabled());
         this->p.m_refused = {"sibling"};
         EXPECT_EQ(this->b.QuerySiblings(3, 4), 7);
-        EXPECT_EQ(this->Take(), "b:sibling p:sibling") << "until one answers";
         this->p.CancelToClose();
-        EXPECT_FALSE(this->Enabled(IDCANCEL));
-        this->Press(IDOK);
-    }),
-              IDOK);
+        EXPECT_FALSE(this->sheet.GetDlgItem(IDCANCEL)->IsWindowEnabled());
+    });
 }
 
 TYPED_TEST(AnySheet, AsAWizardGoesWhereItsPagesSay) {
@@ -135,31 +133,25 @@ std::string FontOf(CWnd* pWnd) {
     return font.lfFaceName + std::to_string(font.lfHeight);
 }
 
-template <class SheetClass>
-class TabFont : public testing::Test {};
-using FontSheets = testing::Types<QVPropertySheet, QVPropertySheetEx>;
-TYPED_TEST_SUITE(TabFont, FontSheets);
-
-TYPED_TEST(TabFont, IsTheFirstPages_AndPagesKeepTheirs) {
-    struct Case {
-        UINT nFirst;
-        const char* pszTabs;
-    };
-    for (const Case& c : {Case{IDD_PAGE_BIG, "Tahoma-16"}, Case{IDD_PAGE_PLAIN, "Arial-13"},
-                          Case{IDD_PAGE_BARE, "MS Shell Dlg-11"}}) {
+template <class Sheet>
+void ShowFonts() {
+    const std::pair<UINT, const char*> cases[] = {{IDD_PAGE_BIG, "Tahoma-16"},
+                                                  {IDD_PAGE_PLAIN, "Arial-13"},
+                                                  {IDD_PAGE_BARE, "MS Shell Dlg-11"}};
+    for (const auto& [nFirst, pszTabs] : cases) {
         const LONG nHandles = AfxGetOwnedHandleCount();
         {
-            ActingSheet<TypeParam> sheet("Fonts");
-            QVPropertyPage first(c.nFirst);
+            ActingSheet<Sheet> sheet("Fonts");
+            QVPropertyPage first(nFirst);
             QVPropertyPage second(IDD_PAGE_BIG);
             CPropertyPage third(IDD_PAGE_BIG);
             for (CPropertyPage* pPage :
                  std::initializer_list<CPropertyPage*>{&first, &second, &third}) {
                 sheet.CPropertySheet::AddPage(pPage);
             }
-            sheet.m_action = [&] {
+            sheet.m_action = [&, pszTabs = pszTabs] {
                 CTabCtrl* pTabs = sheet.GetTabControl();
-                EXPECT_EQ(FontOf(pTabs), c.pszTabs);
+                EXPECT_EQ(FontOf(pTabs), pszTabs);
                 CRect rcPages;
                 CRect rcPage;
                 pTabs->GetClientRect(rcPages);
@@ -180,21 +172,19 @@ TYPED_TEST(TabFont, IsTheFirstPages_AndPagesKeepTheirs) {
     }
 }
 
-struct TitledPage : QVPropertyPageEx {
-    TitledPage(LPCTSTR lpszTitle, LPCTSTR lpszSubtitle) : QVPropertyPageEx(IDD_PAGE_BIG) {
-        m_strHeaderTitle = lpszTitle;
-        m_strHeaderSubTitle = lpszSubtitle;
-    }
-};
+TEST(TabFont, IsTheFirstPages_AndPagesKeepTheirs) {
+    ShowFonts<QVPropertySheet>();
+    ShowFonts<QVPropertySheetEx>();
+}
 
 TEST(HeaderTitles, AreInTheLongerRecordsAlone_AndOnlyThoseThatAreThere) {
     constexpr DWORD kTitles = PSP_USEHEADERTITLE | PSP_USEHEADERSUBTITLE;
-    TitledPage subtitle("", "Subtitle");
-    QVPropertyPageEx fromStrings(IDD_PAGE_BIG, IDS_TAB, IDS_TITLE, IDS_SUBTITLE);
+    QVPropertyPageEx subtitle(IDD_PAGE_BIG, 0, 0, IDS_SUBTITLE);
+    QVPropertyPageEx both(IDD_PAGE_BIG, IDS_TAB, IDS_TITLE, IDS_SUBTITLE);
     CPropertyPage plain(IDD_PAGE_BIG);
-    plain.m_psp.dwFlags |= PSP_USEHEADERTITLE;
+    plain.m_psp.dwFlags |= PSP_USEHEADERTITLE;  // without a title
     const std::pair<CPropertyPage*, DWORD> pages[] = {
-        {&subtitle, PSP_USEHEADERSUBTITLE}, {&fromStrings, kTitles}, {&plain, 0}};
+        {&subtitle, PSP_USEHEADERSUBTITLE}, {&plain, 0}, {&both, kTitles}};
     for (const auto& [pPage, dwTitles] : pages) {
         ActingSheet<QVPropertySheetEx> longer("Longer");
         ActingSheet<QVPropertySheet> shorter("Shorter");
@@ -206,10 +196,8 @@ TEST(HeaderTitles, AreInTheLongerRecordsAlone_AndOnlyThoseThatAreThere) {
         EXPECT_EQ(longer.m_psh.ppsp->dwFlags & kTitles, dwTitles);
         EXPECT_EQ(shorter.m_psh.ppsp->dwSize, PROPSHEETPAGE_V1_SIZE);
         EXPECT_EQ(shorter.m_psh.ppsp->dwFlags & kTitles, 0U);
-        if (dwTitles == kTitles) {
-            EXPECT_STREQ(longer.m_psh.ppsp->pszHeaderTitle, "Title of the header");
-            EXPECT_STREQ(longer.m_psh.ppsp->pszTitle, "From a string");
-        }
+        EXPECT_TRUE(pPage != &both ||
+                    CString("Title of the header") == longer.m_psh.ppsp->pszHeaderTitle);
     }
 }
 

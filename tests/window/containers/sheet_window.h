@@ -43,8 +43,7 @@ public:
         return Ask("sibling") ? 0 : static_cast<LRESULT>(wParam) + lParam;
     }
     BOOL PreTranslateMessage(MSG* pMsg) override {
-        m_nKeys += pMsg->message == WM_KEYDOWN;
-        return Base::PreTranslateMessage(pMsg);
+        return (m_nKeys += pMsg->message == WM_KEYDOWN, Base::PreTranslateMessage(pMsg));
     }
 
 protected:
@@ -114,7 +113,6 @@ struct ThreePages {
         return sheet.DoModal();
     }
     void Press(int nID) { sheet.SendDlgItemMessage(nID, BM_CLICK); }
-    bool Enabled(int nID) { return sheet.GetDlgItem(nID)->IsWindowEnabled(); }
     std::string Take() { return std::exchange(diary, std::string()); }
 
     std::string diary;
