@@ -420,43 +420,21 @@ TEST_F(Outside, ASplitWindow) {
 
 // --- Property sheets
 
-template <class Base>
-class Page : public Base {
+template <class BaseSheet, class BasePage>
+class PropSheet : public BaseSheet {
 public:
-    explicit Page(LPCDLGTEMPLATE pTemplate) {
-        this->m_psp.dwFlags |= PSP_DLGINDIRECT;
-        this->m_psp.pResource = pTemplate;
-    }
-    bool PointsAt(LPCDLGTEMPLATE pTemplate) {
-        PROPSHEETPAGE psp = this->m_psp;
-        this->PreProcessPageTemplate(psp, FALSE);
-        return psp.pResource == pTemplate;
-    }
-};
-
-template <class Base>
-class PropSheet : public Base {
-public:
-    PropSheet() : Base("Sheet") {}
-    void LooksAtItself(CPropertyPage& page) {
-        this->CPropertySheet::AddPage(&page);
+    PropSheet() : BaseSheet("Sheet") {}
+    void LooksAtItself() {
+        BasePage page(30999u);
+        this->AddPage(&page);
         this->BuildPropPageArray();
-        EXPECT_EQ(this->m_psh.nPages, 1u);
-        EXPECT_NE(this->m_fontTab.m_hObject, nullptr);
+        EXPECT_TRUE(this->m_psh.nPages == 1 && this->m_fontTab.m_hObject != nullptr);
     }
 };
 
 TEST_F(Outside, PropertySheets) {
-    const struct {
-        DLGTEMPLATE head = {WS_CHILD, 0, 0, 0, 0, 50, 50};
-        WORD noTexts[3] = {};
-    } memory;
-    Page<QVPropertyPage> page(&memory.head);
-    Page<QVPropertyPageEx> pageEx(&memory.head);
-    EXPECT_TRUE(page.PointsAt(&memory.head));
-    EXPECT_TRUE(pageEx.PointsAt(&memory.head));
-    PropSheet<QVPropertySheet>().LooksAtItself(page);
-    PropSheet<QVPropertySheetEx>().LooksAtItself(pageEx);
+    PropSheet<QVPropertySheet, QVPropertyPage>().LooksAtItself();
+    PropSheet<QVPropertySheetEx, QVPropertyPageEx>().LooksAtItself();
 }
 
 // --- Wizards
