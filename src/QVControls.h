@@ -13,6 +13,8 @@
 #include "common/locale_info.h"
 #include "containers/header_wnd.h"
 #include "containers/list_header_wnd.h"
+#include "containers/property_page.h"
+#include "containers/property_sheet.h"
 #include "containers/text_header_wnd.h"
 #include "containers/tree_header_wnd.h"
 #include "frame/cust_ctrl.h"
