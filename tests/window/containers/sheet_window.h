@@ -61,9 +61,7 @@ public:
     }
 
 protected:
-    void DoDataExchange(CDataExchange* pDX) override {
-        DDX_Text(pDX, IDC_PAGE_EDIT, m_strText);
-    }
+    void DoDataExchange(CDataExchange* pDX) override { DDX_Text(pDX, IDC_PAGE_EDIT, m_strText); }
 
 private:
     bool Ask(const std::string& what) {
@@ -122,7 +120,7 @@ struct ThreePages {
         }
     }
     /// Runs the sheet, with its diary from when it came up.
-    INT_PTR Run(std::function<void()> action) {
+    INT_PTR Show(std::function<void()> action) {
         sheet.m_action = [this, action = std::move(action)] {
             BringToFront(sheet.m_hWnd);
             diary.clear();
