@@ -76,9 +76,30 @@ void BuildPages(CPropertySheet& sheet, PROPSHEETHEADER& psh, CFont& fontTab, DWO
     }
 }
 
+// Where the pages lie, in pixels below the tab control's upper edge.
+int PagesTop(HWND hTabs) {
+    CRect rect;
+    ::GetClientRect(hTabs, rect);
+    ::SendMessage(hTabs, TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&rect.left));
+    return rect.top;
+}
+
+// The platform places pages when it makes them; the first one was made before the font came, and
+// would lie over the edge below the tabs.
 void GiveTabFont(const CPropertySheet& sheet, const CFont& fontTab) {
-    const auto hTabs = reinterpret_cast<HWND>(::SendMessage(sheet.m_hWnd, PSM_GETTABCONTROL, 0, 0));
+    const auto hTabs = reinterpret_cast<HWND>(::SendMessage(sheet, PSM_GETTABCONTROL, 0, 0));
+    const int nTopBefore = PagesTop(hTabs);
     ::SendMessage(hTabs, WM_SETFONT, reinterpret_cast<WPARAM>(fontTab.m_hObject), TRUE);
+    const int nDown = PagesTop(hTabs) - nTopBefore;
+    const auto hPage = reinterpret_cast<HWND>(::SendMessage(sheet, PSM_GETCURRENTPAGEHWND, 0, 0));
+    if (nDown == 0 || hPage == nullptr || sheet.IsWizard()) {
+        return;
+    }
+    CRect rect;
+    ::GetWindowRect(hPage, rect);
+    ::MapWindowPoints(nullptr, sheet, reinterpret_cast<POINT*>(&rect.left), 2);
+    ::SetWindowPos(hPage, nullptr, rect.left, rect.top + nDown, rect.Width(), rect.Height() - nDown,
+                   SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 }  // namespace

@@ -394,6 +394,68 @@ TEST_F(Outside, Captions) {
     EXPECT_NE(text.GetTextWnd().m_hWnd, nullptr);
 }
 
+// --- Property sheets
+
+template <class Base>
+class Page : public Base {
+public:
+    explicit Page(LPCDLGTEMPLATE pTemplate) {
+        this->m_psp.dwFlags |= PSP_DLGINDIRECT;
+        this->m_psp.pResource = pTemplate;
+    }
+    bool PointsAt(LPCDLGTEMPLATE pTemplate) {
+        PROPSHEETPAGE psp = this->m_psp;
+        this->PreProcessPageTemplate(psp, FALSE);
+        return psp.pResource == pTemplate;
+    }
+};
+
+template <class Base>
+class PropSheet : public Base {
+public:
+    PropSheet() : Base("Sheet") {}
+    void LooksAtItself(CPropertyPage& page) {
+        this->CPropertySheet::AddPage(&page);
+        this->BuildPropPageArray();
+        EXPECT_EQ(this->m_psh.nPages, 1u);
+        EXPECT_NE(this->m_fontTab.m_hObject, nullptr);
+    }
+};
+
+TEST_F(Outside, PropertySheets) {
+    const struct {
+        DLGTEMPLATE head = {WS_CHILD, 0, 0, 0, 0, 50, 50};
+        WORD noTexts[3] = {};
+    } memory;
+    Page<QVPropertyPage> page(&memory.head);
+    Page<QVPropertyPageEx> pageEx(&memory.head);
+    EXPECT_TRUE(page.PointsAt(&memory.head));
+    EXPECT_TRUE(pageEx.PointsAt(&memory.head));
+    PropSheet<QVPropertySheet>().LooksAtItself(page);
+    PropSheet<QVPropertySheetEx>().LooksAtItself(pageEx);
+}
+
+// --- Wizards
+
+class Panel : public QVWizardStepWnd {
+public:
+    int Sum() { return m_nStepIndex + static_cast<int>(m_dwStepID) + !m_fontNormal.m_hObject; }
+    void Draw(CDC& dc, const CRect&) override { qv::SelectGuard font(dc, &m_fontBold); }
+};
+
+class WizardPage : public QVWizardPage {
+public:
+    int ValidateData() override { return m_dwWizButtons == PSWIZB_BACK && !m_StepWnd.m_hWnd; }
+};
+
+TEST_F(Outside, AWizard) {
+    EXPECT_EQ(Panel().Sum(), 0);
+    WizardPage page;
+    page.SetNextPageID(8);
+    EXPECT_EQ(page.OnWizardNext(), 8);
+    EXPECT_EQ(QVWizard().RegisterWizPage(&page, "title"), 0);
+}
+
 // --- What paints itself, and guards
 
 class Painted : public QVCustCtrl {

@@ -1,5 +1,6 @@
 // Pages of property sheets: what the platform tells them, and their templates.
 #include "afx/dialogs/modal_owner.h"
+#include "afx/dialogs/prop_sheet_count.h"
 #include "afx/window/wnd_state.h"
 
 #include <afxdlgs.h>
@@ -154,7 +155,11 @@ BOOL CPropertyPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
     if (header.code > PSN_FIRST || header.code < PSN_LAST) {
         return FALSE;
     }
-    *pResult = HandleSheet(header.code);  // this object may be gone
+    {
+        const CPropertySheet::Counting asked(m_pSheet, &CPropertySheet::m_nAsked);
+        *pResult = HandleSheet(header.code);
+    }
+    // This object may be gone.
     if (::IsWindow(hWnd)) {
         ::SetWindowLongPtr(hWnd, DWLP_MSGRESULT, *pResult);
     }

@@ -1,6 +1,7 @@
 #include "afx/dialogs/prop_sheet.h"
 
 #include "afx/dialogs/modal_owner.h"
+#include "afx/dialogs/prop_sheet_count.h"
 #include "afx/window/wnd_state.h"
 
 #include <afxdlgs.h>
@@ -34,7 +35,7 @@ CPropertySheet::CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelec
 
 CPropertySheet::~CPropertySheet() {
     if (m_hWnd != nullptr) {
-        DestroyWindow();
+        CWnd::DestroyWindow();
     }
     DropRecords();
 }
@@ -196,9 +197,12 @@ BOOL CPropertySheet::SetActivePage(CPropertyPage* pPage) {
 
 void CPropertySheet::AddPage(CPropertyPage* pPage) {
     ASSERT_VALID(pPage);
+    if (GetPageIndex(pPage) >= 0) {
+        return;  // a page has one window
+    }
     if (m_hWnd == nullptr) {
         m_pages.Add(pPage);
-    } else if (GetPageIndex(pPage) < 0) {
+    } else {
         AddToWindow(pPage);
     }
 }
@@ -271,6 +275,8 @@ BOOL CPropertySheet::MakeWindow(HWND hWndOwner) {
             GetPage(i)->m_pSheet = this;
         }
     }
+    m_nAsked = m_nHandled = 0;
+    m_bDestroyLater = FALSE;
     m_nModalResult = -1;
     m_nFlags |= WF_CONTINUEMODAL;  // so that OnInitDialog may end it
     AfxHookDialogCreate(this);
@@ -435,14 +441,33 @@ void CPropertySheet::OnSysCommand(UINT nID, LPARAM) {
 
 LRESULT CPropertySheet::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     const HWND hWnd = m_hWnd;
-    const LRESULT lResult = CWnd::WindowProc(message, wParam, lParam);  // this may be gone
-    if (message == WM_COMMAND || message == WM_SYSCOMMAND || message == PSM_PRESSBUTTON) {
-        auto* pSheet = dynamic_cast<CPropertySheet*>(FromHandlePermanent(hWnd));
-        if (pSheet != nullptr && pSheet->m_bModeless && pSheet->CurrentPageWindow() == nullptr) {
-            pSheet->DestroyWindow();
-        }
+    LRESULT lResult = 0;
+    {
+        const Counting handled(this, &CPropertySheet::m_nHandled);
+        lResult = CWnd::WindowProc(message, wParam, lParam);
+    }
+    if (FromHandlePermanent(hWnd) != this) {
+        return lResult;  // gone
+    }
+    const bool bMayEnd =
+        message == WM_COMMAND || message == WM_SYSCOMMAND || message == PSM_PRESSBUTTON;
+    if (m_nHandled == 0 && m_bDestroyLater) {
+        DestroyWindow();
+    } else if (bMayEnd && m_bModeless && CurrentPageWindow() == nullptr) {
+        DestroyWindow();
     }
     return lResult;
+}
+
+BOOL CPropertySheet::DestroyWindow() {
+    if (m_nAsked == 0) {
+        m_bDestroyLater = FALSE;
+        return CWnd::DestroyWindow();
+    }
+    m_bDestroyLater = TRUE;
+    ShowWindow(SW_HIDE);
+    EndModalLoop(-1);
+    return TRUE;
 }
 
 LRESULT CPropertySheet::OnKickIdle(WPARAM wParam, LPARAM lParam) {

@@ -2,6 +2,10 @@
 // Pages are added first, then comes DoModal or Create. Sheet and pages are the program's; a page is
 // there as long as its sheet shows, or takes itself out of it when it goes.
 //
+// A page that is asked something may end or destroy its sheet and take pages out of it. Deleting
+// the sheet, or destroying its owner, has to wait for the answer: the platform's sheet does not
+// live through it.
+//
 // The platform gets a record of each page (m_psp, copied by BuildPropPageArray) that points at the
 // page's template in memory. Page ids that a wizard page returns are looked up among the pages.
 #pragma once
@@ -138,6 +142,9 @@ public:
     virtual INT_PTR DoModal();
     /// Ends a modal sheet with that result, destroys a modeless one. Pages are told nothing.
     void EndDialog(int nEndID);
+    /// While a page is asked something the platform still needs its window, which goes then when
+    /// the sheet's messages have been handled.
+    BOOL DestroyWindow() override;
 
     int GetPageCount() const;
     CPropertyPage* GetPage(int nPage) const;  ///< null out of range
@@ -192,6 +199,7 @@ protected:
 
 private:
     friend class CPropertyPage;
+    class Counting;
 
     void ConstructWith(CWnd* pParentWnd, UINT iSelectPage);
     BOOL MakeWindow(HWND hWndOwner);
@@ -205,6 +213,9 @@ private:
     void HideButtons();
     static int CALLBACK SheetCallback(HWND hWnd, UINT message, LPARAM lParam);
 
+    int m_nAsked = 0;    // questions of the platform that pages are answering
+    int m_nHandled = 0;  // messages of the sheet that are being handled
+    BOOL m_bDestroyLater = FALSE;
     DWORD m_dwStyle = 0;  // of a modeless sheet; 0: the platform's
     DWORD m_dwExStyle = 0;
 };

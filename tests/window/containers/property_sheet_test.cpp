@@ -1,9 +1,13 @@
 // Sheets of the library and of the framework, with pages of either: tabs and wizards by buttons and
 // keys, vetoes, values, fonts.
 #include "QVControls.h"
+#include "support/failing_heap.h"
+#include "support/monkey.h"
 #include "window/containers/sheet_window.h"
 
 #include <afxcmn.h>
+
+#include <memory>
 
 namespace {
 
@@ -167,11 +171,11 @@ public:
 };
 
 template <class SheetClass>
-class TabFont : public testing::Test {};
+class TabFontOf : public testing::Test {};
 using FontSheets = testing::Types<QVPropertySheet, QVPropertySheetEx>;
-TYPED_TEST_SUITE(TabFont, FontSheets);
+TYPED_TEST_SUITE(TabFontOf, FontSheets);
 
-TYPED_TEST(TabFont, IsTheFirstPagesOfEitherKindOfTemplate_AndPagesKeepTheirs) {
+TYPED_TEST(TabFontOf, IsTheFirstPagesOfEitherKindOfTemplate_AndPagesKeepTheirs) {
     struct Case {
         UINT nFirst;
         const char* pszTabs;
@@ -202,6 +206,17 @@ TYPED_TEST(TabFont, IsTheFirstPagesOfEitherKindOfTemplate_AndPagesKeepTheirs) {
         }
         EXPECT_EQ(AfxGetOwnedHandleCount(), nHandles);
     }
+}
+
+TYPED_TEST(TabFontOf, AndRecords_AreNotThereWithoutMemory) {
+    OpenSheet<TypeParam> sheet("Records");
+    QVPropertyPage page(IDD_PAGE_BIG);
+    sheet.AddPage(&page);
+    const int nRefused = RefuseEachAllocation(
+        FailingHeap::kAllLater, [&] { sheet.BuildPropPageArray(); },
+        [&](int) { EXPECT_EQ(sheet.m_psh.nPages != 0, sheet.m_psh.ppsp != nullptr); });
+    EXPECT_GT(nRefused, 0);
+    EXPECT_EQ(sheet.m_psh.nPages, 1U);
 }
 
 template <class Base>
@@ -240,6 +255,65 @@ TEST(HeaderTitles, AreInTheLongerRecordsAlone_AndOnlyThoseThatAreThere) {
     EXPECT_STREQ(longer.Record(2).pszHeaderTitle, "Title of the header");
     EXPECT_STREQ(longer.Record(2).pszHeaderSubTitle, "What stands below it");
     EXPECT_STREQ(longer.Record(2).pszTitle, "From a string");
+}
+
+TEST(TabFont, MovesTheFirstPageDownWhereItsTabsAreHigher) {
+    ThreePages<QVPropertySheet, QVPropertyPage> t;
+    t.Show([&] {
+        CTabCtrl* pTabs = t.sheet.GetTabControl();
+        CRect rcPages;
+        pTabs->GetClientRect(rcPages);
+        pTabs->AdjustRect(FALSE, rcPages);
+        pTabs->ClientToScreen(rcPages);
+        for (CPropertyPage* pPage : {&t.b, &t.n}) {
+            t.sheet.SetActivePage(pPage);
+            CRect rcPage;
+            pPage->GetWindowRect(rcPage);
+            EXPECT_GE(rcPage.top, rcPages.top);
+            EXPECT_LE(rcPage.bottom, rcPages.bottom);
+        }
+    });
+}
+
+TEST(SheetMonkey, AnythingInAnyOrder) {
+    using Pages = ThreePages<QVPropertySheetEx, QVPropertyPageEx>;
+    std::unique_ptr<Pages> t;
+    const auto send = [&](UINT nMessage, WPARAM wParam, LPARAM lParam = 0) {
+        t->sheet.SendMessage(nMessage, wParam, lParam);
+    };
+    const std::function<void(int)> deeds[] = {
+        [&](int n) { t->sheet.SetActivePage(n % 4); },
+        [&](int n) { t->sheet.RemovePage(n % 9); },
+        [&](int n) { t->sheet.AddPage(n % 2 ? &t->b : &t->n); },
+        [&](int n) { t->p.m_refused = {n % 2 ? "kill" : "set"}; },
+        [&](int) {
+            t->b.m_refused = {"apply", "query"};
+        },
+        [&](int n) { send(WM_COMMAND, n % 2 ? IDOK : ID_APPLY_NOW); },
+        [&](int n) { send(WM_COMMAND, n % 2 ? ID_WIZNEXT : ID_WIZBACK); },
+        [&](int n) { send(WM_COMMAND, n % 5 ? IDOK : IDCANCEL); },
+        [&](int n) { send(PSM_PRESSBUTTON, static_cast<WPARAM>(n % 7)); },
+        [&](int n) { send(PSM_SETWIZBUTTONS, 0, n); },
+        [&](int) { t->b.SetModified(); },
+        [&](int) { t->n.CancelToClose(); },
+        [&](int n) { t->b.QuerySiblings(n, n); },
+        [&](int n) { t->b.m_lNext = n % 3 ? IDD_PAGE_BARE : n; },
+        [&](int) { t->p.DestroyWindow(); },
+        [&](int) { t->sheet.DestroyWindow(); },
+        [&](int n) { t->sheet.EndDialog(n); },
+        [&](int) { t->sheet.Create(&t->owner); },
+        [&](int) { t.reset(); },
+    };
+    PlayInAnyOrder<Pages>(t,
+                          [&] {
+                              static int s_nMade = 0;
+                              t = std::make_unique<Pages>();
+                              if (++s_nMade % 2 == 0) {
+                                  t->sheet.SetWizardMode();
+                              }
+                              EXPECT_TRUE(t->sheet.Create(&t->owner, WS_POPUP));
+                          },
+                          {std::begin(deeds), std::end(deeds)});
 }
 
 }  // namespace
