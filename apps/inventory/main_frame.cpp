@@ -55,10 +55,27 @@ void MainFrame::LoadSettings(const CString& strPath, bool bInteractive) {
         AfxMessageBox(strProblem, MB_ICONEXCLAMATION);
     }
     const class Settings& settings = m_settings.Values();
+    const CString strFolder = strFile.Left(strFile.ReverseFind('\\') + 1);
     m_sections.Tree().UseIndentedColumns(settings.Choice(kSettingTreeColumns) == 0);
+    UseSettings();
+    m_packages.UseFilterFile(strFolder + "filter.txt");
+    if (settings.Choice(kSettingStartFilter) != 0) {
+        m_packages.Bar().SetFilter({});
+    }
+    m_desk.Open(strFolder + "reports", bInteractive);
+    m_pages.ShowPage(settings.Value(kSettingStartPage));
+}
+
+void MainFrame::UseSettings() {
+    const class Settings& settings = m_settings.Values();
     m_packages.UseSettings(settings);
     m_largest.UseSettings(settings);
-    m_packages.UseFilterFile(strFile.Left(strFile.ReverseFind('\\') + 1) + "filter.txt");
+    m_report.UseSettings();
+}
+
+BOOL MainFrame::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
+    return CFrameWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo) ||
+           m_desk.OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
 }
 
 void MainFrame::OnSetFocus(CWnd*) {
@@ -84,6 +101,7 @@ BOOL MainFrame::Open(const CString& strPath, bool bInteractive) {
     m_strProblem = error.strMessage.c_str();
     m_inventory.SetPackages(std::move(packages));
     m_pages.SetInventory(m_inventory);
+    m_desk.SetInventory(m_inventory);
     if (!bRead && bInteractive) {
         AfxMessageBox(m_strProblem, MB_ICONEXCLAMATION);
     }

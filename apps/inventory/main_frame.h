@@ -10,6 +10,7 @@
 #include "pages/report_page.h"
 #include "pages/settings_page.h"
 #include "pages/tree_page.h"
+#include "report_desk.h"
 
 #include <afxext.h>
 
@@ -25,10 +26,14 @@ public:
     LargestPage& Largest() { return m_largest; }
     // Empty: the user's own file. Call before Open.
     void LoadSettings(const CString& strPath, bool bInteractive);
+    // The settings have changed.
+    void UseSettings();
     PageHost& Pages() { return m_pages; }
+    ReportDesk& Desk() { return m_desk; }
     CString StatusText(int nPane) { return m_statusBar.GetPaneText(nPane); }
 
 protected:
+    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
@@ -49,6 +54,7 @@ private:
     PackagesPage m_packages;
     SettingsPage m_settings;
     ReportPage m_report{m_packages, m_settings};
+    ReportDesk m_desk{*this};
     LogPage m_log;
     LargestPage m_largest;
     PageHost m_pages;

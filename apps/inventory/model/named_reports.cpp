@@ -17,16 +17,14 @@ std::string NamedReports::FreeName() const {
     return "Report " + std::to_string(n);
 }
 
-int NamedReports::FreeFile() const {
-    int n = 1;
-    while (std::any_of(m_reports.begin(), m_reports.end(),
-                       [n](const NamedReport& report) { return report.nFile == n; })) {
-        ++n;
+bool NamedReports::Add(ReportDefinition report, int nFile) {
+    m_nLastFile = std::max(m_nLastFile, nFile);
+    if (m_reports.size() == kMost) {
+        return false;
     }
-    return n;
-}
-
-void NamedReports::Add(ReportDefinition report, int nFile) {
+    if (report.strName.empty()) {
+        report.strName = FreeName();
+    }
     const std::string strName = report.strName;
     for (int n = 2; Has(report.strName); ++n) {
         report.strName = strName + " (" + std::to_string(n) + ")";
@@ -35,6 +33,7 @@ void NamedReports::Add(ReportDefinition report, int nFile) {
         return report.strName < other.definition.strName;
     });
     m_reports.insert(it, {std::move(report), nFile});
+    return true;
 }
 
 bool NamedReports::CanKeep(const std::string& strName, const std::string& strOld) const {
@@ -47,7 +46,7 @@ NamedReports::Change NamedReports::Keep(const ReportDefinition& report, const st
         std::swap(change.nWrite, change.nGone);
     }
     if (change.nWrite == 0) {
-        change.nWrite = FreeFile();
+        change.nWrite = m_nLastFile + 1;
     }
     Add(report, change.nWrite);
     return change;

@@ -20,8 +20,9 @@ public:
     // "Report 1" or the next that nobody has.
     std::string FreeName() const;
 
-    // One that was in a file. A name that there is already gets a number behind it.
-    void Add(ReportDefinition report, int nFile);
+    // One that was in a file. A name that there is already gets a number behind it, and a report
+    // without one a free name. False if there are too many.
+    bool Add(ReportDefinition report, int nFile);
 
     // Which file to write the report to, and which one goes, 0 for none.
     struct Change {
@@ -37,7 +38,6 @@ public:
     int Remove(const std::string& strName);
 
 private:
-    int FreeFile() const;
-
     std::vector<NamedReport> m_reports;
+    int m_nLastFile = 0;  // the highest number that was seen
 };

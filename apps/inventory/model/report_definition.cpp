@@ -7,14 +7,14 @@
 namespace {
 
 constexpr ReportColumnInfo kInfos[kReportColumns] = {
-    {"name", "Package", "a-package-with-a-long-name-and-more", false},
-    {"version", "Version", "1:14.0.6-12+deb12u1~~", false},
+    {"name", "Package", "a-package-with-a-longer-name", false},
+    {"version", "Version", "1:14.0.6-12+deb12~", false},
     {"size", "Size", "1023.9 MiB~", true},
-    {"installed", "Installed", "2026-11-21 00:00~", false},
-    {"section", "Section", "interpreters", false},
-    {"architecture", "Arch.", "amd64~~", false},
-    {"state", "State", "installed ~~", false},
-    {"summary", "Summary", "A summary of what the package is good for, on paper", false}};
+    {"installed", "Installed", "2026-11-21 00:00 ~~", false},
+    {"section", "Section", "interpreters~", false},
+    {"architecture", "Arch.", "amd64 ~~", false},
+    {"state", "State", "installed ~~~~", false},
+    {"summary", "Summary", "A summary of what the package is", false}};
 
 bool IsBlank(const std::string& str) {
     return str.find_first_not_of(' ') == std::string::npos;
@@ -131,9 +131,10 @@ std::string Describe(const ReportDefinition& report) {
     strText += "\nFonts: " + FontText(report.titleFont) + "; " + FontText(report.headingFont) +
                "; " + FontText(report.textFont);
     strText += "\nColours: ";
-    for (const int nColor : report.colors) {
-        strText += &nColor == report.colors.data() ? "" : ", ";
-        strText += kTextColors[nColor].pszName;
+    static constexpr const char* kColored[kReportColors] = {"texts ", ", installed packages ",
+                                                            ", required ones ", ", unusual ones "};
+    for (int i = 0; i < kReportColors; ++i) {
+        strText += std::string(kColored[i]) + kTextColors[report.colors[i]].pszName;
     }
     return strText;
 }

@@ -30,6 +30,8 @@ enum ReportValue {
     kFirstColor
 };
 
+constexpr size_t kLongestFace = 31;  // the platform's
+
 using Choices = std::vector<std::string>;
 
 Setting Text(const char* pszKey) {
@@ -78,11 +80,12 @@ std::string FontText(const ReportFont& font) {
 }
 
 void ReadFont(const std::string& strText, ReportFont& font) {
-    const size_t nBlank = strText.find(' ');
-    const int nPoints = std::atoi(strText.c_str());
-    if (nBlank != std::string::npos && nBlank + 1 < strText.size() && nPoints >= kSmallestPoints &&
+    const size_t nFace = std::min(strText.find(' '), strText.size() - 1) + 1;
+    const size_t nLength = strText.size() - nFace;
+    const long nPoints = std::strtol(strText.c_str(), nullptr, 10);
+    if (nLength > 0 && nLength <= kLongestFace && nPoints >= kSmallestPoints &&
         nPoints <= kLargestPoints) {
-        font = {strText.substr(nBlank + 1), nPoints};
+        font = {strText.substr(nFace), static_cast<int>(nPoints)};
     }
 }
 
