@@ -28,7 +28,7 @@ CString ReportFiles::Load(NamedReports& reports) const {
     CString strFirst;
     for (const int nFile : files) {
         ReportValues values;
-        const CString strMessage = LoadSettings(PathOf(nFile), values);
+        const CString strMessage = LoadSettings(PathOf(nFile), values, "the report is left out");
         if (strFirst.IsEmpty()) {
             strFirst = strMessage;
         }
