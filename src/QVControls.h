@@ -13,6 +13,7 @@
 #include "common/locale_info.h"
 #include "containers/header_wnd.h"
 #include "containers/list_header_wnd.h"
+#include "containers/split_wnd.h"
 #include "containers/text_header_wnd.h"
 #include "containers/tree_header_wnd.h"
 #include "frame/cust_ctrl.h"
