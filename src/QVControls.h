@@ -14,6 +14,8 @@
 #include "containers/header_wnd.h"
 #include "containers/list_header_wnd.h"
 #include "containers/split_wnd.h"
+#include "containers/tab_wnd.h"
+#include "containers/tab_wnd_page.h"
 #include "containers/text_header_wnd.h"
 #include "containers/tree_header_wnd.h"
 #include "frame/cust_ctrl.h"
