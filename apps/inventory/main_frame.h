@@ -9,7 +9,6 @@
 #include "pages/page_host.h"
 #include "pages/report_page.h"
 #include "pages/settings_page.h"
-#include "pages/tree_page.h"
 
 #include <afxext.h>
 
@@ -17,7 +16,6 @@ class MainFrame : public CFrameWnd {
 public:
     // An empty path: this machine's own inventory.
     BOOL Open(const CString& strPath, bool bInteractive);
-    TreePage& Sections() { return m_sections; }
     PackagesPage& Packages() { return m_packages; }
     ReportPage& Report() { return m_report; }
     SettingsPage& Settings() { return m_settings; }
@@ -45,7 +43,6 @@ private:
     CString m_strProblem;
     Inventory m_inventory;
     CStatusBar m_statusBar;
-    TreePage m_sections;
     PackagesPage m_packages;
     SettingsPage m_settings;
     ReportPage m_report{m_packages, m_settings};

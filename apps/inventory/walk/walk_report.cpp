@@ -4,7 +4,7 @@
 #include "sources/settings_file.h"
 
 bool Walk::ReportPages() {
-    ClickTab(2);
+    ClickTab(1);
     if (!Expect("the report has pages", [this] { return m_frame.Report().Pages() > 1; }) ||
         !Station("report-1-first-page")) {
         return false;
