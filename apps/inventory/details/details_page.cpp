@@ -16,13 +16,6 @@ BOOL DetailsPage::PreTranslateMessage(MSG* pMsg) {
     return CWnd::PreTranslateMessage(pMsg);
 }
 
-void DetailsPage::Forget() {
-    m_bRead = false;
-    if (IsWindowVisible()) {
-        ReadOnce();
-    }
-}
-
 void DetailsPage::ShowPage() {
     ReadOnce();
     QVTabWndPage::ShowPage();

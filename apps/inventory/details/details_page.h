@@ -1,6 +1,6 @@
-// DetailsPage: one side of a package, in the tabs below the list. What it shows is read when it is
-// seen first, or printed, since another package was chosen. Where there is nothing to show it says
-// why.
+// DetailsPage: one side of a package, in the tabs below the list. What it shows is read when its
+// tab is in front, or printed, for the first time since another package was chosen. Where there is
+// nothing to show it says why.
 
 #pragma once
 
@@ -25,7 +25,8 @@ CString Shown(std::string_view text);
 class DetailsPage : public QVTabWndPage {
 public:
     // The source has changed.
-    void Forget();
+    void Forget() { m_bRead = false; }
+    void ReadOnce();
     void ShowPage() override;
     void BeginPrinting(CDC* pDC, QVPrintEngine& engine) override;
     // The control that shows a row for each of something.
@@ -53,8 +54,6 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    void ReadOnce();
-
     CString m_strProblem;
     bool m_bRead = false;
 };

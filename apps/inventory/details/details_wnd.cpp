@@ -58,22 +58,24 @@ void DetailsWnd::Show(const Package* pPackage) {
     m_bNext = pPackage != nullptr;
     m_bWaits = SetTimer(kTimer, kStays, nullptr) != 0;
     if (!m_bWaits) {
-        ReadAll();
+        TakeNext();
     }
 }
 
 void DetailsWnd::OnTimer(UINT_PTR) {
-    ReadAll();
+    TakeNext();
 }
 
-// Each page reads when it is seen.
-void DetailsWnd::ReadAll() {
+void DetailsWnd::TakeNext() {
     KillTimer(kTimer);
     m_bWaits = false;
     m_source.package = m_next;
     m_source.bChosen = m_bNext;
     for (int nPage = 0; nPage < NumPages(); ++nPage) {
         Page(nPage).Forget();
+    }
+    if (Active() != nullptr) {
+        Active()->ReadOnce();
     }
 }
 
@@ -133,7 +135,7 @@ bool DetailsWnd::PrintToFile(LPCSTR pszOutput, bool bActiveOnly) {
 
 bool DetailsWnd::Print(CDC& dc, bool bActiveOnly, PrinterChoice* pPrinter, LPCSTR pszOutput) {
     const CWaitCursor wait;
-    ReadAll();
+    TakeNext();
     CFont fontNormal;
     CFont fontHeader;
     CFont fontSection;

@@ -40,7 +40,7 @@ protected:
 private:
     template <class DetailsOfPackage>
     void Add(const char* pszTitle);
-    void ReadAll();
+    void TakeNext();
     DetailsPage* Active();
     // pPrinter, unless null, says which pages.
     bool Print(CDC& dc, bool bActiveOnly, class PrinterChoice* pPrinter, LPCSTR pszOutput);
