@@ -51,6 +51,7 @@ void DetailsPage::OnSize(UINT nType, int cx, int cy) {
     if (CWnd* pMessage = GetDlgItem(IDC_DETAILS_MESSAGE)) {
         pMessage->MoveWindow(0, 0, cx, cy);
         LayOut(CRect(0, 0, cx, cy));
+        Invalidate();  // a list that moves leaves what it uncovers as it was
     }
 }
 
