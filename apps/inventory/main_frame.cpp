@@ -28,8 +28,8 @@ BOOL MainFrame::PreCreateWindow(CREATESTRUCT& cs) {
     // As large for any size of the system's fonts, as far as the screen goes.
     const CClientDC dc(nullptr);
     const int nDpi = dc.GetDeviceCaps(LOGPIXELSX);
-    cs.cx = std::min(::MulDiv(1000, nDpi, 96), ::GetSystemMetrics(SM_CXSCREEN));
-    cs.cy = std::min(::MulDiv(640, nDpi, 96), ::GetSystemMetrics(SM_CYSCREEN));
+    cs.cx = std::min(::MulDiv(1120, nDpi, 96), ::GetSystemMetrics(SM_CXSCREEN));
+    cs.cy = std::min(::MulDiv(760, nDpi, 96), ::GetSystemMetrics(SM_CYSCREEN));
     cs.style &= ~static_cast<LONG>(FWS_ADDTOTITLE);
     return CFrameWnd::PreCreateWindow(cs);
 }
@@ -37,9 +37,8 @@ BOOL MainFrame::PreCreateWindow(CREATESTRUCT& cs) {
 int MainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     static constexpr UINT kIndicators[] = {ID_INDICATOR_MESSAGE, ID_INDICATOR_MARKED};
     if (CFrameWnd::OnCreate(lpCreateStruct) == -1 || !m_pages.Create(this) ||
-        !m_pages.Add(m_sections) || !m_pages.Add(m_packages) || !m_pages.Add(m_report) ||
-        !m_pages.Add(m_settings) || !m_pages.Add(m_log) || !m_pages.Add(m_largest) ||
-        !m_statusBar.Create(this) ||
+        !m_pages.Add(m_packages) || !m_pages.Add(m_report) || !m_pages.Add(m_settings) ||
+        !m_pages.Add(m_log) || !m_pages.Add(m_largest) || !m_statusBar.Create(this) ||
         !m_statusBar.SetIndicators(kIndicators, static_cast<int>(std::size(kIndicators)))) {
         return -1;
     }
@@ -56,9 +55,9 @@ void MainFrame::LoadSettings(const CString& strPath, bool bInteractive) {
     }
     const class Settings& settings = m_settings.Values();
     const CString strFolder = strFile.Left(strFile.ReverseFind('\\') + 1);
-    m_sections.Tree().UseIndentedColumns(settings.Choice(kSettingTreeColumns) == 0);
     UseSettings();
-    m_packages.UseFilterFile(strFolder + "filter.txt");
+    m_packages.Tree().UseIndentedColumns(settings.Choice(kSettingTreeColumns) == 0);
+    m_packages.UseFolder(strFolder);
     if (settings.Choice(kSettingStartFilter) != 0) {
         m_packages.Bar().SetFilter({});
     }
@@ -88,17 +87,24 @@ BOOL MainFrame::Open(const CString& strPath, bool bInteractive) {
     DatabaseError error;
     CFileStatus status;
     bool bRead = true;
+    CString strFolder;
     if (!strPath.IsEmpty() || CFile::GetStatus(kPackageDatabase, status)) {
         const CString strFile = strPath.IsEmpty() ? CString(kPackageDatabase) : strPath;
         bRead = ReadPackages(static_cast<LPCTSTR>(strFile), packages, error);
         ReadInstallDates(strFile, packages);
         ToProcessCodePage(packages);
+        strFolder = ".\\";
+        if (const int nEnd = std::max(strFile.ReverseFind('\\'), strFile.ReverseFind('/'));
+            nEnd >= 0) {
+            strFolder = strFile.Left(nEnd + 1);
+        }
         m_settings.ShowDatabase(strFile);
     } else {
         packages = ReadUninstallEntries();
         m_settings.ShowDatabase("the registry's uninstall entries");
     }
     m_strProblem = error.strMessage.c_str();
+    m_packages.UseDatabase(strFolder);
     m_inventory.SetPackages(std::move(packages));
     m_pages.SetInventory(m_inventory);
     m_desk.SetInventory(m_inventory);

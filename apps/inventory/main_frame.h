@@ -9,7 +9,6 @@
 #include "pages/page_host.h"
 #include "pages/report_page.h"
 #include "pages/settings_page.h"
-#include "pages/tree_page.h"
 #include "report_desk.h"
 
 #include <afxext.h>
@@ -18,7 +17,6 @@ class MainFrame : public CFrameWnd {
 public:
     // An empty path: this machine's own inventory.
     BOOL Open(const CString& strPath, bool bInteractive);
-    TreePage& Sections() { return m_sections; }
     PackagesPage& Packages() { return m_packages; }
     ReportPage& Report() { return m_report; }
     SettingsPage& Settings() { return m_settings; }
@@ -50,7 +48,6 @@ private:
     CString m_strProblem;
     Inventory m_inventory;
     CStatusBar m_statusBar;
-    TreePage m_sections;
     PackagesPage m_packages;
     SettingsPage m_settings;
     ReportPage m_report{m_packages, m_settings};

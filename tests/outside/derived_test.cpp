@@ -456,6 +456,35 @@ TEST_F(Outside, AWizard) {
     EXPECT_EQ(QVWizard().RegisterWizPage(&page, "title"), 0);
 }
 
+// --- Split windows
+
+class Splitter : public QVSplitWnd {
+public:
+    void LooksAtItself(CWnd& parent) {
+        CRect rect(kRect);
+        ASSERT_TRUE(Create(rect, &parent, 1, FALSE));
+        EXPECT_TRUE(AddPane(RUNTIME_CLASS(CWnd), 2));
+        EXPECT_TRUE(m_pPane0 != nullptr && m_pPane1 == nullptr && m_pPane0 == GetPane(0));
+        SetSplitRatio(20);
+        SetAutoDeletePanes(TRUE);
+        RepositionPanes();
+        EXPECT_EQ(m_nSplitPos + m_nTrackStart + m_nSplitRatio, 50 + 20);
+        EXPECT_TRUE(m_hSplitCursor != m_hArrowCursor && m_bAutoDeletePanes);
+        EXPECT_FALSE(m_bVertical || m_bTracking || m_bOverBar || m_bClientPanes);
+        CalcSplitRect(rect, -1);
+        EXPECT_EQ(rect.Height(), SplitterWidth() / 2 * 2);
+        DrawSplitTracker(10);
+        CalcPaneRect(1, rect);
+        EXPECT_EQ(rect.bottom, kRect.bottom);
+        m_pPane1 = new CWnd;
+        EXPECT_EQ(GetPane(1), m_pPane1);
+    }
+};
+
+TEST_F(Outside, ASplitWindow) {
+    Splitter().LooksAtItself(m_parent);
+}
+
 // --- What paints itself, and guards
 
 class Painted : public QVCustCtrl {

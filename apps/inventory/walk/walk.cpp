@@ -53,17 +53,19 @@ void CALLBACK AnswerFind(HWND hWnd, UINT, UINT_PTR nTimer, DWORD) {
 bool Walk::Run() {
     m_frame.SetForegroundWindow();
     Tree().SetFocus();
-    return TreePage() && OpenBranch() && Marks() && AbsoluteColumns() && Find() && Vetoes() &&
-           Packages() && FindPackage() && ImageColumn() && Export() && Refresh() &&
-           FilterSection() && FilterDate() && FilterOpens() && Jump() && ToolTip() &&
-           ReportMenu() && LargestPackages() && LargestOnPaper() && TypeSettings() &&
-           ChooseSetting() && SettingsKept() && ReportPages() && Zoom() && ReportSettings() &&
-           PreferencesDropped() && Paper() && NewReport() && FinishEarly() && CancelWizard() &&
-           RunFromBar() && EditReport() && DeleteReport() && Logs() && FollowLog() && LogOnPaper();
+    return SectionsTree() && OpenBranch() && SectionNarrows() && Marks() && AbsoluteColumns() &&
+           Find() && Vetoes() && AllPackages() && Packages() && FindPackage() && ImageColumn() &&
+           Export() && Refresh() && DragBars() && DetailsTabs() && GoToDependency() &&
+           NothingToShow() && KeysAround() && DetailsOnPaper() && LayoutKept() && FilterSection() &&
+           FilterDate() && FilterOpens() && Jump() && ToolTip() && ReportMenu() &&
+           LargestPackages() && LargestOnPaper() && TypeSettings() && ChooseSetting() &&
+           SettingsKept() && ReportPages() && Zoom() && ReportSettings() && PreferencesDropped() &&
+           Paper() && NewReport() && FinishEarly() && CancelWizard() && RunFromBar() &&
+           EditReport() && DeleteReport() && Logs() && FollowLog() && LogOnPaper();
 }
 
 bool Walk::Station(const char* pszName) {
-    WaitFor([] { return true; });
+    WaitFor([this] { return !Details().IsWaiting(); });
     m_frame.UpdateWindow();
     const CString strFile = m_strFolder + "\\" + pszName + ".bmp";
     const bool bSaved = SavePicture(m_frame, strFile);

@@ -19,18 +19,29 @@ public:
 
 private:
     // The tree
-    bool TreePage();
+    bool SectionsTree();
     bool OpenBranch();
+    bool SectionNarrows();
     bool Marks();
     bool AbsoluteColumns();
     bool Find();
     bool Vetoes();
+    bool AllPackages();
     // The list
     bool Packages();
     bool FindPackage();
     bool ImageColumn();
     bool Export();
     bool Refresh();
+    // The panes, their bars and the details
+    bool DragBars();
+    bool DragBar(PaneSplit& split, CSize size, const char* pszStation);
+    bool DetailsTabs();
+    bool GoToDependency();
+    bool NothingToShow();
+    bool KeysAround();
+    bool DetailsOnPaper();
+    bool LayoutKept();
     // The bar above it
     bool FilterSection();
     bool FilterDate();
@@ -79,7 +90,9 @@ private:
     bool EditReport();
     bool DeleteReport();
 
-    PackageTree& Tree() { return m_frame.Sections().Tree(); }
+    PackageTree& Tree() { return m_frame.Packages().Tree(); }
+    PackageBrowser& Browser() { return m_frame.Packages().Browser(); }
+    DetailsWnd& Details() { return Browser().Details(); }
     PackageList& List() { return m_frame.Packages().List(); }
     CPoint PointOf(HTREEITEM hItem, int nOffset);
     CPoint PointOfHeading(int nCol);

@@ -55,8 +55,10 @@ bool Walk::FilterSection() {
                   [&] {
                       const std::string& strSection = m_frame.Packages().Bar().Filter().strSection;
                       const Package* pFirst = List().PackageOf(0);
-                      return !strSection.empty() && List().GetItemCount() < nAll &&
-                             pFirst != nullptr && pFirst->strSection == strSection;
+                      return !strSection.empty() &&
+                             Tree().SectionOf(Tree().GetSelectedItem()) == strSection &&
+                             List().GetItemCount() < nAll && pFirst != nullptr &&
+                             pFirst->strSection == strSection;
                   }) &&
            Station("bar-2-filtered");
 }
@@ -125,7 +127,7 @@ bool Walk::ReportMenu() {
                 [this] { return m_frame.Report().IsWindowVisible() != FALSE; })) {
         return false;
     }
-    ClickTab(1);
+    ClickTab(0);
     return Expect("and the tab leads back",
                   [this] { return m_frame.Packages().IsWindowVisible() != FALSE; });
 }

@@ -3,7 +3,7 @@
 #include "resource.h"
 
 bool Walk::ReportPages() {
-    ClickTab(2);
+    ClickTab(1);
     if (!Expect("the report has pages", [this] { return m_frame.Report().Pages() > 1; }) ||
         !Station("report-1-first-page")) {
         return false;

@@ -267,7 +267,7 @@ bool Walk::CancelWizard() {
 }
 
 bool Walk::RunFromBar() {
-    ClickTab(1);
+    ClickTab(0);
     if (!Expect("the packages come up",
                 [this] { return m_frame.Packages().IsWindowVisible() != FALSE; })) {
         return false;

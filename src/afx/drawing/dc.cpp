@@ -229,6 +229,19 @@ CPoint CDC::SetBrushOrg(int x, int y) {
     return pt;
 }
 
+CBrush* CDC::GetHalftoneBrush() {
+    // No object owns it: it comes with its first use and lives as long as the process, and would
+    // look like a leak.
+    static const HBRUSH hHalftone = [] {
+        static constexpr WORD kPixels[] = {0x55, 0xAA, 0x55, 0xAA, 0x55, 0xAA, 0x55, 0xAA};
+        const HBITMAP hPixels = ::CreateBitmap(8, 8, 1, 1, kPixels);
+        const HBRUSH hBrush = ::CreatePatternBrush(hPixels);
+        ::DeleteObject(hPixels);
+        return hBrush;
+    }();
+    return CBrush::FromHandle(hHalftone);
+}
+
 // --- Modes: asked of the attribute context, set in both
 
 #define AFX_SET_IN_BOTH(call_with_output, call_with_attrib) \

@@ -57,6 +57,8 @@ public:
     UINT RealizePalette();
     CPoint GetBrushOrg() const;
     CPoint SetBrushOrg(int x, int y);
+    /// Every other pixel set. The brush is the process's own; the object may be a temporary one.
+    static CBrush* GetHalftoneBrush();
 
     COLORREF GetNearestColor(COLORREF crColor) const;
     COLORREF GetBkColor() const;

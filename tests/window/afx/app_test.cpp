@@ -23,6 +23,18 @@ TEST(WaitCursor, Nests_AndGivesTheOldCursorBackAtTheEnd) {
     EXPECT_EQ(::GetCursor(), hBefore);
 }
 
+TEST(AppResources, TheSplitCursorsComeLastInTheChain) {
+    for (const UINT nID : {AFX_IDC_HSPLITBAR, AFX_IDC_VSPLITBAR}) {
+        const HINSTANCE hModule = AfxFindResourceHandle(MAKEINTRESOURCE(nID), RT_GROUP_CURSOR);
+        EXPECT_EQ(hModule, ::GetModuleHandle("qvafx.dll"));
+        ICONINFO info{};
+        ASSERT_TRUE(::GetIconInfo(TheTestApp().LoadCursor(nID), &info)) << nID;
+        EXPECT_EQ(info.xHotspot, 15u);
+        ::DeleteObject(info.hbmMask);
+        ::DeleteObject(info.hbmColor);
+    }
+}
+
 TEST(AppSettings, ComeBackFromTheRegistryAndFromTheIniFile) {
     class SettingsApp : public TestApp {
     public:

@@ -82,6 +82,18 @@ TEST(GdiObjects, TemporaryOnesLeaveTheHandleAlone) {
     EXPECT_EQ(AfxGetOwnedHandleCount(), nOwned);
 }
 
+TEST(GdiObjects, TheHalftoneBrushSetsEveryOtherPixelAndIsNobodys) {
+    const LONG nOwned = AfxGetOwnedHandleCount();
+    CBrush* pBrush = CDC::GetHalftoneBrush();
+    LOGBRUSH log{};
+    ASSERT_NE(pBrush->GetLogBrush(&log), 0);
+    EXPECT_EQ(log.lbStyle, UINT{BS_PATTERN});
+    EXPECT_EQ(AfxGetOwnedHandleCount(), nOwned);
+    const HBRUSH hBrush = *pBrush;
+    CGdiObject::DeleteTempMap();
+    EXPECT_EQ(static_cast<HBRUSH>(*CDC::GetHalftoneBrush()), hBrush);
+}
+
 TEST(GdiObjects, APointIsSoManyUnitsOfTheContext) {
     CDC dc;
     ASSERT_TRUE(dc.CreateCompatibleDC(nullptr));
