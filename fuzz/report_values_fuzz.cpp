@@ -5,28 +5,20 @@
 #include "fuzz_input.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t nSize) {
-    static constexpr const char* kWords[] = {"columns=",
-                                             "sections=",
-                                             "font.text=",
-                                             "since=2026-02-",
-                                             "all columns=no",
-                                             "name=",
-                                             "\n",
-                                             "\n",
-                                             "\t",
-                                             "|",
-                                             "size\t",
-                                             "12 ",
-                                             "9",
-                                             "x"};
-    std::string strText = "inventory report, version 1\n";
-    for (FuzzInput input(pData, nSize); !input.AtEnd();) {
-        const std::size_t n = input.Byte();
-        strText += n < 128 ? kWords[n % std::size(kWords)] : std::string(1, static_cast<char>(n));
+    static constexpr const char* kKeys[] = {
+        "name=", "title=", "columns=", "sections=", "font.text="};
+    static constexpr const char* kWords[] = {"\t",     "|",   "t", "size\t",
+                                             "name\t", "12 ", "x", "\xE4"};
+    std::string strText = "inventory report, version 1\nall columns=no\n";
+    for (FuzzInput input(pData, nSize); !input.AtEnd(); strText += '\n') {
+        strText += kKeys[input.Byte() % std::size(kKeys)];
+        for (int n = input.Byte() % 16; n > 0; --n) {
+            strText += kWords[input.Byte() % std::size(kWords)];
+        }
     }
     ReportValues values;
     size_t nLine = 0;
-    values.Parse(strText, nLine);
+    FUZZ_CHECK(values.Parse(strText, nLine));
     const ReportDefinition report = values.Definition();
     FUZZ_CHECK(values.Parse(ReportValues(report).Format(), nLine));
     FUZZ_CHECK(values.Definition() == report);
