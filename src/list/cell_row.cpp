@@ -8,12 +8,19 @@ namespace {
 
 constexpr UINT kTextFlags = DT_NOPREFIX | DT_END_ELLIPSIS;
 
+bool Contains(const CRect& rcOuter, const CRect& rc) {
+    return rc.left >= rcOuter.left && rc.top >= rcOuter.top && rc.right <= rcOuter.right &&
+           rc.bottom <= rcOuter.bottom;
+}
+
 // A cell without a colour goes on in that of the cell before it, which the device context has.
 void FillCell(CDC& dc, CRect rcCell, const CellRow& row, const CellText& look) {
     const COLORREF crBk = look.crBk ? *look.crBk : dc.GetBkColor();
     rcCell.InflateRect(0, row.nOutset);
     if (row.pBrush != nullptr && row.pBrush->m_hObject != nullptr && row.crBrush == crBk) {
-        dc.FillRect(&rcCell, row.pBrush);
+        if (!Contains(row.rcFilled, rcCell)) {
+            dc.FillRect(&rcCell, row.pBrush);
+        }
     } else {
         CBrush brush(crBk);
         dc.FillRect(&rcCell, &brush);

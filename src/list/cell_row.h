@@ -37,9 +37,11 @@ public:
     // the row by nOutset.
     bool bFills = false;
     int nOutset = 0;
-    // A brush that is there already, and its colour: most cells have it.
+    // A brush that is there already, and its colour: most cells have it. What it has filled before
+    // is not filled again.
     CBrush* pBrush = nullptr;
     COLORREF crBrush = 0;
+    CRect rcFilled{0, 0, 0, 0};
     // A cell that is narrower than its margins shows nothing. Otherwise its text may stand beside
     // it.
     bool bKeepsIn = false;

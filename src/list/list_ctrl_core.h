@@ -23,6 +23,7 @@ public:
     std::vector<int> paintWidths;  // of the columns for the length of one paint; empty: not known
     std::optional<bool> bSortsItself;  // by the window's style; empty: not asked yet
     COLORREF crItem = 0;               // of the brush of the row that is drawn
+    CRect rcFilled{0, 0, 0, 0};        // of that row, by that brush
     HWND hTold = nullptr;
     bool bPrintComplete = true;
 

@@ -178,6 +178,7 @@ void QVListCtrlEx::ComposeText(UINT nItem, const CRect& rcRow, const qv::RowLayo
                                qv::Highlight highlight) {
     CRect rcText = qv::ToCRect(layout.TextCells(rcRow.Height()));
     m_dcMem.FillRect(&rcText, &m_brItem);
+    m_pCore->rcFilled = rcText;
     const CRect rcBlank = qv::ToCRect(layout.Blank(rcRow.Height()));
     if (rcBlank.Width() > 0) {
         m_dcMem.FillRect(&rcBlank, &m_brBlank);
@@ -274,6 +275,7 @@ void QVListCtrlEx::DrawItemText(CDC* pDC, UINT nItem, const CRect& rc, BOOL bSel
     if (pDC == &m_dcMem) {
         cells.pBrush = &m_brItem;
         cells.crBrush = m_pCore->crItem;
+        cells.rcFilled = m_pCore->rcFilled;
     }
     qv::DrawCells(*pDC, rc, cells);
 }

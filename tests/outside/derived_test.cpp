@@ -416,6 +416,70 @@ TEST_F(Outside, Tabs) {
     TabbedPages().LooksAtItself(m_parent);
 }
 
+// --- Split windows
+
+class Splitter : public QVSplitWnd {
+public:
+    void LooksAtItself(CWnd& parent) {
+        CRect rect(kRect);
+        ASSERT_TRUE(Create(rect, &parent, 1, FALSE) && AddPane(RUNTIME_CLASS(CWnd), 2));
+        SetSplitRatio(20);
+        EXPECT_EQ(m_nSplitPos + m_nTrackStart + m_nSplitRatio, 50 + 20);
+        EXPECT_TRUE(m_hSplitCursor != m_hArrowCursor && m_bAutoDeletePanes && m_pPane0);
+        EXPECT_FALSE(m_bVertical || m_bTracking || m_bOverBar || m_bClientPanes);
+        CalcSplitRect(rect, -1);
+        EXPECT_EQ(rect.Height(), SplitterWidth() / 2 * 2);
+        DrawSplitTracker(10);
+        m_pPane1 = new CWnd;
+        RepositionPanes();
+        EXPECT_EQ(GetPane(1), m_pPane1);
+    }
+};
+
+TEST_F(Outside, ASplitWindow) {
+    Splitter().LooksAtItself(m_parent);
+}
+
+// --- Property sheets
+
+template <class BaseSheet, class BasePage>
+class PropSheet : public BaseSheet {
+public:
+    PropSheet() : BaseSheet("Sheet") {}
+    void LooksAtItself() {
+        BasePage page(30999u);
+        this->AddPage(&page);
+        this->BuildPropPageArray();
+        EXPECT_TRUE(this->m_psh.nPages == 1 && this->m_fontTab.m_hObject != nullptr);
+    }
+};
+
+TEST_F(Outside, PropertySheets) {
+    PropSheet<QVPropertySheet, QVPropertyPage>().LooksAtItself();
+    PropSheet<QVPropertySheetEx, QVPropertyPageEx>().LooksAtItself();
+}
+
+// --- Wizards
+
+class Panel : public QVWizardStepWnd {
+public:
+    int Sum() { return m_nStepIndex + static_cast<int>(m_dwStepID) + !m_fontNormal.m_hObject; }
+    void Draw(CDC& dc, const CRect&) override { qv::SelectGuard font(dc, &m_fontBold); }
+};
+
+class WizardPage : public QVWizardPage {
+public:
+    int ValidateData() override { return m_dwWizButtons == PSWIZB_BACK && !m_StepWnd.m_hWnd; }
+};
+
+TEST_F(Outside, AWizard) {
+    EXPECT_EQ(Panel().Sum(), 0);
+    WizardPage page;
+    page.SetNextPageID(8);
+    EXPECT_EQ(page.OnWizardNext(), 8);
+    EXPECT_EQ(QVWizard().RegisterWizPage(&page, "title"), 0);
+}
+
 // --- What paints itself, and guards
 
 class Painted : public QVCustCtrl {

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-int TestApp::DoMessageBox(LPCTSTR lpszPrompt, UINT, UINT) {
+int TestApp::DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt) {
     m_prompts.emplace_back(lpszPrompt);
-    return IDOK;
+    return m_bShowsBoxes ? CWinApp::DoMessageBox(lpszPrompt, nType, nIDPrompt) : IDOK;
 }
 
 LRESULT TestApp::ProcessWndProcException(CException* e, const MSG* pMsg) {

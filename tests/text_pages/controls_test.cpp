@@ -275,6 +275,18 @@ TEST(TextControls, MenuButtonsShowTheirCaption) {
     }
 }
 
+TEST(TextControls, WizardStepsShowTheirTitles) {
+    FontParent parent(CSize(300, 200));
+    QVWizardStepWnd wnd;
+    ASSERT_TRUE(wnd.Create(12, CRect(0, 0, 300, 100), &parent));
+    std::unique_ptr<QVWizardStepData> pData;
+    ExpectInk(wnd, FontOf(parent), RGB(255, 255, 255), RGB(0, 0, 0), [&](const std::string& str) {
+        pData.reset();
+        pData = std::make_unique<QVWizardStepData>();
+        pData->AddStep(1u, str.c_str());
+    });
+}
+
 // Tells no selection, so that snippets go to the caret.
 class SilentEdit : public CEdit {
 public:

@@ -1,7 +1,9 @@
 #include "afx/dialogs/dialog.h"
 
+#include "afx/dialogs/modal_owner.h"
 #include "afx/window/wnd_state.h"
 
+#include <afxdlgs.h>
 #include <afxpriv.h>
 #include <afxwin.h>
 
@@ -35,31 +37,9 @@ private:
     HGLOBAL m_hData;
 };
 
-/// A window disabled while this lives. The owner of a modal dialog must be enabled again before
-/// the dialog is destroyed, or the system activates somebody else.
-class DisabledOwner {
-public:
-    explicit DisabledOwner(HWND hWnd)
-        : m_hWnd(hWnd != nullptr && hWnd != ::GetDesktopWindow() && ::IsWindowEnabled(hWnd)
-                     ? hWnd
-                     : nullptr) {
-        if (m_hWnd != nullptr) {
-            ::EnableWindow(m_hWnd, FALSE);
-        }
-    }
-    ~DisabledOwner() {
-        if (m_hWnd != nullptr) {
-            ::EnableWindow(m_hWnd, TRUE);
-        }
-    }
-    DisabledOwner(const DisabledOwner&) = delete;
-    DisabledOwner& operator=(const DisabledOwner&) = delete;
+}  // namespace
 
-private:
-    HWND m_hWnd;
-};
-
-INT_PTR CALLBACK DialogProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
+INT_PTR CALLBACK AfxDialogProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message != WM_INITDIALOG) {
         return FALSE;
     }
@@ -72,14 +52,13 @@ INT_PTR CALLBACK DialogProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lPara
         return pDlg->OnInitDialog();
     } catch (...) {
         AfxProcessCurrentException(hWnd, message, wParam, lParam);
-        if (CWnd::FromHandlePermanent(hWnd) == pDlg) {
+        if (CWnd::FromHandlePermanent(hWnd) == pDlg &&
+            !pDlg->IsKindOf(RUNTIME_CLASS(CPropertyPage))) {
             pDlg->EndDialog(-1);
         }
         return FALSE;
     }
 }
-
-}  // namespace
 
 CDialog::CDialog() = default;
 
@@ -165,7 +144,7 @@ BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWn
     m_nFlags |= WF_CONTINUEMODAL;  // so that OnInitDialog may end it
     AfxHookWindowCreate(this);
     HWND hWnd =
-        ::CreateDialogIndirect(hInst, lpDialogTemplate, pParentWnd->GetSafeHwnd(), DialogProc);
+        ::CreateDialogIndirect(hInst, lpDialogTemplate, pParentWnd->GetSafeHwnd(), AfxDialogProc);
     if (!AfxUnhookWindowCreate()) {
         PostNcDestroy();
     }
@@ -197,12 +176,7 @@ INT_PTR CDialog::DoModal() {
 
 INT_PTR CDialog::RunModal(LPCDLGTEMPLATE lpDialogTemplate, HINSTANCE hInst) {
     const HWND hWndOwner = PreModal();
-    try {
-        RunModalFor(hWndOwner, lpDialogTemplate, hInst);
-    } catch (CException* e) {
-        e->Delete();
-        m_nModalResult = -1;
-    } catch (const std::bad_alloc&) {
+    if (!AfxEndsQuietly([&] { RunModalFor(hWndOwner, lpDialogTemplate, hInst); })) {
         m_nModalResult = -1;
     }
     if (hWndOwner != nullptr && ::GetActiveWindow() == m_hWnd) {
@@ -215,7 +189,7 @@ INT_PTR CDialog::RunModal(LPCDLGTEMPLATE lpDialogTemplate, HINSTANCE hInst) {
 
 // The owner is disabled meanwhile.
 void CDialog::RunModalFor(HWND hWndOwner, LPCDLGTEMPLATE lpDialogTemplate, HINSTANCE hInst) {
-    DisabledOwner disabled(hWndOwner);
+    const AfxDisabledOwner disabled(hWndOwner);
     if (!CreateDlgIndirect(lpDialogTemplate, CWnd::FromHandle(hWndOwner), hInst)) {
         return;
     }
@@ -288,23 +262,25 @@ BOOL CDialog::PreTranslateMessage(MSG* pMsg) {
     return CWnd::PreTranslateMessage(pMsg) || PreTranslateInput(pMsg);
 }
 
-BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
-    if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) {
-        return TRUE;
-    }
-    // Commands proper go on to the owner and the application; control codes end here.
+BOOL AfxRouteDialogCommand(CWnd* pWnd, UINT nID, int nCode, void* pExtra,
+                           AFX_CMDHANDLERINFO* pHandlerInfo) {
     constexpr UINT kFirstCommand = 0x8000;
     constexpr UINT kFirstSystemCommand = 0xF000;
     const bool bCommand = nCode == CN_COMMAND || static_cast<UINT>(nCode) == CN_UPDATE_COMMAND_UI;
     if (!bCommand || nID < kFirstCommand || nID >= kFirstSystemCommand) {
         return FALSE;
     }
-    CWnd* pOwner = GetParent();
+    CWnd* pOwner = pWnd->GetParent();
     if (pOwner != nullptr && pOwner->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) {
         return TRUE;
     }
     CWinThread* pThread = AfxGetThread();
     return pThread != nullptr && pThread->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+}
+
+BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
+    return CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo) ||
+           AfxRouteDialogCommand(this, nID, nCode, pExtra, pHandlerInfo);
 }
 
 void CDialog::NextDlgCtrl() const {

@@ -1,6 +1,7 @@
-// The system's common dialogs.
+// The system's common dialogs, and property sheets.
 #pragma once
 
+#include <afxcmn.h>
 #include <afxwin.h>
 
 class QVAFX_API CCommonDialog : public CDialog {
@@ -80,3 +81,5 @@ public:
 private:
     PRINTDLG m_pdActual;
 };
+
+#include "afx/dialogs/prop_sheet.h"

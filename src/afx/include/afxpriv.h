@@ -1,5 +1,8 @@
-// Messages between the framework's own windows, for code that takes part in them.
+// Messages between the framework's own windows, for code that takes part in them, and dialog
+// templates.
 #pragma once
+
+#include "afx/dialogs/dialog_template.h"
 
 #include <afxwin.h>
 

@@ -85,6 +85,7 @@
 #define AFX_ID_PREVIEW_ZOOMOUT 0xE306
 
 // Property sheets
+#define AFX_IDC_TAB_CONTROL 0x3020
 #define ID_APPLY_NOW 0x3021
 #define ID_WIZBACK 0x3023
 #define ID_WIZNEXT 0x3024

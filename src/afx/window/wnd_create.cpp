@@ -82,10 +82,20 @@ void PutProcedureInFront(CWnd* pWnd, HWND hWnd) {
 }
 
 /// A thread's first window brings an input method window along, which is nobody's object.
-bool IsInputMethodWindow(HWND hWnd) {
+bool IsInputMethodWindow(LPCTSTR lpszClass) {
+    return lstrcmpi(lpszClass, "IME") == 0;
+}
+
+/// Whether the object that waits for a window waits for this one.
+bool IsAwaited(const AfxWndState& state, HWND hWnd, const CBT_CREATEWND& create) {
     TCHAR szClass[16] = {};
     ::GetClassName(hWnd, szClass, _countof(szClass));
-    return lstrcmpi(szClass, "IME") == 0;
+    if (!state.bDialogInit) {
+        return !IsInputMethodWindow(szClass);
+    }
+    constexpr char kDialogClass[] = "#32770";
+    return lstrcmp(szClass, kDialogClass) == 0 &&
+           (state.hWndInitParent == nullptr || create.lpcs->hwndParent == state.hWndInitParent);
 }
 
 }  // namespace
@@ -93,7 +103,8 @@ bool IsInputMethodWindow(HWND hWnd) {
 static LRESULT CALLBACK CreationFilter(int code, WPARAM wParam, LPARAM lParam) {
     AfxWndState& state = AfxGetWndState();
     const HWND hWnd = reinterpret_cast<HWND>(wParam);
-    if (code == HCBT_CREATEWND && state.pWndInit != nullptr && !IsInputMethodWindow(hWnd)) {
+    if (code == HCBT_CREATEWND && state.pWndInit != nullptr &&
+        IsAwaited(state, hWnd, *reinterpret_cast<const CBT_CREATEWND*>(lParam))) {
         CWnd* pWnd = state.pWndInit;
         state.pWndInit = nullptr;
         try {
@@ -124,6 +135,14 @@ void AfxHookWindowCreate(CWnd* pWnd) {
     }
     ASSERT(pWnd != nullptr && pWnd->m_hWnd == nullptr);
     state.pWndInit = pWnd;
+    state.bDialogInit = false;
+}
+
+void AfxHookDialogCreate(CWnd* pWnd, HWND hWndParent) {
+    AfxHookWindowCreate(pWnd);
+    AfxWndState& state = AfxGetWndState();
+    state.bDialogInit = true;
+    state.hWndInitParent = hWndParent;
 }
 
 BOOL AfxUnhookWindowCreate() {

