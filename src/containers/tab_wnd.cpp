@@ -6,6 +6,8 @@
 #include "frame/redraw_pause.h"
 #include "print/print_engine.h"
 
+#include <algorithm>
+
 IMPLEMENT_DYNCREATE(QVTabWnd, QVCustCtrl)
 
 namespace {
@@ -26,6 +28,70 @@ public:
 
 private:
     const HWND m_hFocus;
+};
+
+CRect PlaceIn(const CWnd& wndParent, const CWnd* pWnd) {
+    CRect rc;
+    if (pWnd != nullptr && pWnd->m_hWnd != nullptr) {
+        pWnd->GetWindowRect(&rc);
+        wndParent.ScreenToClient(&rc);
+    }
+    return rc;
+}
+
+// What another page leaves to be painted of a tab control whose redraw is off meanwhile: the new
+// page, the tabs, what was due before, and what the old page covered and the new one does not.
+class PageArea {
+public:
+    PageArea(CTabCtrl& tabs, const CWnd* pOldPage)
+        : m_tabs(tabs), m_rcOldPage(PlaceIn(tabs, pOldPage)), m_rcDisplay(Display()) {
+        m_rgnDue.CreateRectRgn(0, 0, 0, 0);
+        tabs.GetUpdateRgn(&m_rgnDue);
+    }
+    void Repaint(CWnd* pPage) {
+        const CRect rcDisplay = Display();
+        const bool bMoved = rcDisplay != m_rcDisplay;
+        constexpr UINT kErased = RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN;
+        m_tabs.RedrawWindow(nullptr, &m_rgnDue, kErased);
+        m_tabs.RedrawWindow(bMoved ? nullptr : TabsBeside(rcDisplay), nullptr, kErased);
+        if (PlaceIn(m_tabs, pPage) != m_rcOldPage) {
+            m_tabs.RedrawWindow(&m_rcOldPage, nullptr, kErased);
+        }
+        if (pPage != nullptr) {
+            pPage->RedrawWindow(nullptr, nullptr, kErased | RDW_FRAME);
+        }
+    }
+
+private:
+    CRect Display() const {
+        CRect rc;
+        m_tabs.GetClientRect(&rc);
+        m_tabs.AdjustRect(FALSE, &rc);
+        return rc;
+    }
+    // The tabs are on the side on which the most room is taken.
+    const RECT* TabsBeside(const CRect& rcDisplay) {
+        CRect rc;
+        m_tabs.GetClientRect(&rc);
+        const int nMost = std::max({rcDisplay.left, rcDisplay.top, rc.right - rcDisplay.right,
+                                    rc.bottom - rcDisplay.bottom});
+        if (nMost == rcDisplay.top) {
+            rc.bottom = rcDisplay.top;
+        } else if (nMost == rcDisplay.left) {
+            rc.right = rcDisplay.left;
+        } else if (nMost == rc.right - rcDisplay.right) {
+            rc.left = rcDisplay.right;
+        } else {
+            rc.top = rcDisplay.bottom;
+        }
+        return &(m_rcTabs = rc);
+    }
+
+    CTabCtrl& m_tabs;
+    const CRect m_rcOldPage;
+    const CRect m_rcDisplay;
+    CRect m_rcTabs;
+    CRgn m_rgnDue;
 };
 
 }  // namespace
@@ -50,8 +116,13 @@ QVTabWnd::~QVTabWnd() {
     }
 }
 
+// The framework's own class of child windows is painted anew as a whole in any other size, with all
+// that is inside.
 BOOL QVTabWnd::PreCreateWindow(CREATESTRUCT& cs) {
     qv::BorderToClientEdge(cs);
+    if (cs.lpszClass == nullptr) {
+        cs.lpszClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW));
+    }
     return QVCustCtrl::PreCreateWindow(cs);
 }
 
@@ -300,6 +371,7 @@ void QVTabWnd::SwitchTabs(int nPage) {
     }
     const QVTabWndPage* const pOld = GetPage(m_nActivePage);
     const bool bFocusInside = pOld != nullptr && ::IsChild(pOld->m_hWnd, ::GetFocus());
+    PageArea area(m_TabCtrl, pOld);
     {
         const qv::RedrawPause pause(*this);
         ++m_nSwitches;
@@ -312,9 +384,11 @@ void QVTabWnd::SwitchTabs(int nPage) {
     if (!watch) {
         return;
     }
-    Repaint();
-    // Hiding may have left the keyboard with a hidden control, or with the tab control.
+    // Nothing of this window shows beside the tab control.
+    InvalidateRect(nullptr, FALSE);
     QVTabWndPage* const pNew = GetPage(m_nActivePage);
+    area.Repaint(pNew);
+    // Hiding may have left the keyboard with a hidden control, or with the tab control.
     HWND hFocus = ::GetFocus();
     if (bFocusInside && (hFocus == nullptr || ::IsChild(m_hWnd, hFocus)) &&
         (pNew == nullptr || !::IsChild(pNew->m_hWnd, hFocus))) {
@@ -364,14 +438,6 @@ void QVTabWnd::HideActive() {
     m_nActivePage = -1;
 }
 
-// Nothing of this window shows beside the tab control. That and the page erase what they do not
-// paint, each its own pixels.
-void QVTabWnd::Repaint() {
-    InvalidateRect(nullptr, FALSE);
-    m_TabCtrl.RedrawWindow(nullptr, nullptr,
-                           RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
-}
-
 // --- Size
 
 void QVTabWnd::OnSize(UINT nType, int cx, int cy) {
@@ -382,10 +448,14 @@ void QVTabWnd::OnSize(UINT nType, int cx, int cy) {
     }
     CRect rc;
     GetClientRect(&rc);
+    // It is drawn anew all the same, but not the page on it.
     m_TabCtrl.SetWindowPos(nullptr, rc.left, rc.top, rc.Width(), rc.Height(),
-                           SWP_NOZORDER | SWP_NOACTIVATE);
+                           SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW);
     if (watch) {
         ResizePages();
+    }
+    if (watch) {
+        m_TabCtrl.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_NOCHILDREN);
     }
 }
 

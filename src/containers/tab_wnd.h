@@ -105,7 +105,6 @@ private:
     bool InsertTab(int nPage);
     void ShowInstead(int nPage);
     void HideActive();
-    void Repaint();
     void Resize(QVTabWndPage& page);
     void PrintPage(CDC* pDC, QVPrintEngine& engine, int nPage);
 

@@ -394,6 +394,28 @@ TEST_F(Outside, Captions) {
     EXPECT_NE(text.GetTextWnd().m_hWnd, nullptr);
 }
 
+// --- Tabs
+
+class TabbedPages : public QVTabWnd {
+public:
+    void LooksAtItself(CWnd& parent) {
+        class Page : public QVTabWndPage {
+        public:
+            Page() : QVTabWndPage(5) { SetModified(TRUE); }
+            bool IsAlone() { return m_nIDTemplate == 5 && m_bModified && !GetTabWnd(); }
+        } page;
+        ASSERT_TRUE(Create(1, kRect, &parent));
+        EXPECT_EQ(AddPage("no such template", &page), nullptr);
+        EXPECT_TRUE(page.IsAlone() && m_bInitialized && m_Pages.GetSize() == NumPages());
+        SwitchTabs(GetActivePage());
+        EXPECT_EQ(m_nActivePage + m_TabCtrl.GetItemCount() + m_astrTitles.GetSize(), -1);
+    }
+};
+
+TEST_F(Outside, Tabs) {
+    TabbedPages().LooksAtItself(m_parent);
+}
+
 // --- Split windows
 
 class Splitter : public QVSplitWnd {
