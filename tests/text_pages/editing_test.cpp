@@ -8,22 +8,6 @@
 
 namespace {
 
-// As an input method or another keyboard gives them.
-bool TypeWide(const std::wstring& strText) {
-    std::vector<INPUT> inputs;
-    for (const wchar_t c : strText) {
-        for (const DWORD dwUp : {DWORD{0}, DWORD{KEYEVENTF_KEYUP}}) {
-            INPUT input{};
-            input.type = INPUT_KEYBOARD;
-            input.ki.wScan = c;
-            input.ki.dwFlags = KEYEVENTF_UNICODE | dwUp;
-            inputs.push_back(input);
-        }
-    }
-    return ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT)) ==
-           inputs.size();
-}
-
 class TextEditing : public testing::Test {
 protected:
     void SetUp() override { ASSERT_TRUE(BringToFront(w.grid.m_hWnd)); }
@@ -48,19 +32,6 @@ TEST_F(TextEditing, ArrowsLeaveTheCellAtTheEndsOfItsCharacters) {
         TypeKey(VK_LEFT);
         EXPECT_EQ(w.Current(), "1,0") << "before the start of " << word.str;
         EXPECT_EQ(w.Text(1, kEdit), word.str);
-    }
-}
-
-TEST_F(TextEditing, WhatIsTypedIsSaved) {
-    for (const PageWord& word : PageWords()) {
-        w.grid.SetCellText(1, kEdit, "");
-        w.grid.GotoCell(1, kEdit, TRUE);
-        ASSERT_NE(w.Edit(), nullptr);
-        ASSERT_TRUE(TypeWide(word.strWide));
-        PumpUntil([&] { return w.Text(1, kEdit) == word.str; }, 1000);
-        EXPECT_EQ(w.Text(1, kEdit), word.str) << "while it is typed";
-        TypeKey(VK_DOWN);
-        EXPECT_EQ(w.Text(1, kEdit), word.str) << "saved";
     }
 }
 

@@ -254,35 +254,6 @@ TEST(FrameworkText, LettersChangeTheirCase) {
     }
 }
 
-TEST(FrameworkText, FilesAndTheirNames) {
-    char szFolder[MAX_PATH] = "";
-    ::GetTempPath(MAX_PATH, szFolder);
-    for (const PageWord& word : PageWords()) {
-        const CString strName = CString(word.str.c_str()) + ".txt";
-        const CString strPath = szFolder + strName;
-        const std::wstring strWidePath = FromPage(std::string(strPath));
-        const HANDLE hFile = ::CreateFileW(strWidePath.c_str(), GENERIC_WRITE, 0, nullptr,
-                                           CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
-        if (hFile == INVALID_HANDLE_VALUE) {
-            continue;  // the file system of this locale has no such names
-        }
-        ::CloseHandle(hFile);
-        {
-            CStdioFile file(strPath, CFile::modeCreate | CFile::modeWrite);
-            EXPECT_STREQ(strName, file.GetFileName());
-            EXPECT_STREQ(word.str.c_str(), file.GetFileTitle());
-            file.WriteString(CString(word.str.c_str()) + "\n");
-        }
-        EXPECT_NE(INVALID_FILE_ATTRIBUTES, ::GetFileAttributesW(strWidePath.c_str()));
-        CStdioFile file(strPath, CFile::modeRead);
-        CString strLine;
-        EXPECT_TRUE(file.ReadString(strLine));
-        EXPECT_EQ(word.str, std::string(strLine));
-        file.Close();
-        CFile::Remove(strPath);
-    }
-}
-
 TEST(FrameworkText, FoldersOfChosenFiles) {
     std::vector<PageWord> words = PageWords();
     PageWord backslash{L"\u8868", {}};  // in 932 its second byte is one

@@ -18,11 +18,9 @@ std::string Row(unsigned nRow) {
 }
 
 // "first item.row-last item.row" for each page.
-std::string Pages(qv::PageItems& items, unsigned nHeight,
-                  qv::RowNumbers numbers = qv::RowNumbers::kKept) {
+std::string Pages(qv::PageItems& items, unsigned nHeight) {
     std::vector<PageRecord> pages;
-    const unsigned nPages = qv::Paginate(items, kWidth, nHeight, pages, numbers);
-    EXPECT_EQ(nPages, pages.size());
+    qv::Paginate(items, kWidth, nHeight, pages);
     std::string strPages;
     for (const PageRecord& page : pages) {
         strPages += (strPages.empty() ? "" : " | ") + std::to_string(page.nFirstItem) + "." +
@@ -88,37 +86,6 @@ TEST(Pagination, EachRuleOfThePageTable) {
     }
 }
 
-TEST(Pagination, WithItsOwnRowNumbersNoItemLosesRows) {
-    const auto pages = [](FakePageItems& items) { return Pages(items, 50, qv::RowNumbers::kOwn); };
-    EXPECT_EQ(pages(FakePageItems().List(8).Block(40).Labelled(3)),
-              "0.0-0.4 | 0.5-0.end | 1.0-1.end | 2.0-2.end");
-    EXPECT_EQ(pages(FakePageItems().List(8, 0, 10).List(9, 30)),
-              "0.0-0.4 | 0.5-0.end | 1.0-1.1 | 1.2-1.3 | 1.4-1.5 | 1.6-1.7 | 1.8-1.end");
-    EXPECT_EQ(pages(FakePageItems().List(8).Group().List(9, 10)),
-              "0.0-0.4 | 0.5-0.end | 1.0-2.2 | 2.3-2.6 | 2.7-2.end")
-        << "a header that is taken back opens the page at its own start";
-}
-
-TEST(Pagination, CalculatesAtEachAttemptAndNotWithinASplit) {
-    FakePageItems items;
-    items.Block(45).Text(12 * kWidth);
-    EXPECT_EQ(Pages(items, 50), "0.0-0.end | 1.0-1.4 | 1.5-1.9 | 1.10-1.end");
-    EXPECT_EQ(items.items[0].nCalcs, 1u);
-    EXPECT_EQ(items.items[1].nCalcs, 2u);
-    EXPECT_EQ(items.items[1].nPrintSizes, 3u);
-}
-
-TEST(Pagination, SecondRunAppendsItsPages) {
-    FakePageItems items;
-    items.List(8).Block(10);
-    std::vector<PageRecord> pages;
-    EXPECT_EQ(qv::Paginate(items, kWidth, 50, pages), 2u);
-    EXPECT_EQ(qv::Paginate(items, kWidth, 50, pages), 2u);
-    ASSERT_EQ(pages.size(), 4u);
-    EXPECT_EQ(pages[0], pages[2]);
-    EXPECT_EQ(pages[1], pages[3]);
-}
-
 // Its PrintSize is the test's.
 class OddItems : public FakePageItems {
 public:
@@ -161,20 +128,6 @@ TEST(PaginationTraps, HeightThatWrappedAroundIsNoRoom) {
     });
     items.Add({.nMin = 10, .nMax = 200}).Block(1);
     EXPECT_EQ(Pages(items, 50), "0.0-0.0 | 0.1-0.end | 1.1-1.end");
-}
-
-std::string Replay(const PageRecord& page) {
-    std::string strCalls;
-    qv::ForEachOnPage(page, [&](std::size_t nItem, unsigned nFirst, unsigned nLast) {
-        strCalls += std::to_string(nItem) + ":" + Row(nFirst) + "-" + Row(nLast) + " ";
-    });
-    return strCalls;
-}
-
-TEST(PaginationReplay, OnlyTheEndsOfAPageHaveRowNumbers) {
-    EXPECT_EQ(Replay({4, 4, 7, 9}), "4:7-9 ");
-    EXPECT_EQ(Replay({4, 5, 7, 9}), "4:7-end 5:0-9 ");
-    EXPECT_EQ(Replay({4, 7, 7, kToEnd}), "4:7-end 5:0-end 6:0-end 7:0-end ");
 }
 
 TEST(RowSplit, TakesTheHeaderAndTheRowsThatFitAndNothingWrapsAround) {

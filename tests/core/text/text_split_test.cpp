@@ -1,6 +1,5 @@
 #include "text/core/text_split.h"
 
-#include "base/multi_byte.h"
 #include "support/fake_window.h"
 #include "support/odd_measures.h"
 #include "support/text_split_rule.h"
@@ -48,40 +47,6 @@ TEST(TextSplit, BreaksAtLineFeedsBlanksAndWords) {
         EXPECT_EQ(split, starts) << text << " in " << dWidth << ": " << pszWhy;
         EXPECT_EQ(SplitByRule(text, nWidth, measure), starts) << "the rule that fuzzers go by";
     }
-}
-
-// Characters of UTF-8, each as wide as it has bytes.
-class Utf8Measure : public qv::TextMeasure {
-public:
-    qv::Size Extent(std::string_view text) override {
-        return {kChar * static_cast<int>(text.size()), 10};
-    }
-    std::size_t CharBytes(std::string_view text) const override { return m_utf8.CharBytes(text); }
-
-private:
-    const qv::MultiByte m_utf8 = qv::MultiByte::Utf8();
-};
-
-TEST(TextSplit, NoCharacterIsCutInTwoHoweverNarrowTheWindow) {
-    Utf8Measure measure;
-    qv::TextSplitter splitter(measure);
-    std::string strText;
-    for (int i = 0; i < 300; ++i) {
-        strText += i % 3 == 0 ? "\xE6\x97\xA5" : i % 7 == 0 ? " " : i % 2 == 0 ? "\xC3\xBC" : "a";
-    }
-    for (int nChars = 0; nChars < 200; ++nChars) {
-        Starts starts;
-        splitter.Split(strText, nChars * kChar, starts);
-        ASSERT_GT(starts.size(), 2u);
-        for (const int nStart : starts) {
-            const auto at = static_cast<std::size_t>(nStart);
-            ASSERT_TRUE(at == strText.size() || (strText[at] & 0xC0) != 0x80)
-                << "byte " << nStart << " at width " << nChars;
-        }
-    }
-    Starts starts;
-    splitter.Split("\xE6\x97\xA5\xE6\x97\xA5x", 2 * kChar, starts);
-    EXPECT_EQ(starts, (Starts{0, 0, 3, 6})) << "each too wide by itself, and taken whole";
 }
 
 TEST(TextSplit, MeasuresFewTimesWhatTheTextHolds) {

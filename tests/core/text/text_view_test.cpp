@@ -89,18 +89,6 @@ TEST(TextView, RowsStayMadeForTheWidthWithoutTheBar) {
     EXPECT_EQ(text.m_nNumRows, 6) << "but for a window that has its size from the system";
 }
 
-TEST(TextView, ALargerWindowShowsTheEndAndTheBarSaysSo) {
-    ShownText text;
-    text.Add(50, "ab");
-    text.Fit();
-    text.m_nVScrollPos = 40;
-    text.Resize(200, 13 * kRow);
-    EXPECT_EQ(text.m_nVScrollPos, 37);
-    EXPECT_EQ(text.window.ranges[SB_VERT].nPos, 37);
-    text.Resize(200, 60 * kRow);
-    EXPECT_EQ(text.m_nVScrollPos, 0);
-}
-
 TEST(TextView, NoBarFitsAWindowAsWideAsTheBar) {
     ShownText text;
     text.Add(60, "several words that wrap");
@@ -130,7 +118,7 @@ TEST_F(TextScrolling, MovesPixelsPositionAndBar) {
         int nRow, nPos;
     } kSteps[] = {
         {SB_LINEUP, 0, 0},       {SB_LINEDOWN, 0, 1},        {SB_PAGEDOWN, 0, 11},
-        {SB_THUMBTRACK, 41, 11}, {SB_THUMBPOSITION, 30, 30}, {SB_PAGEDOWN, 0, 40},
+        {SB_THUMBTRACK, 41, 11}, {SB_THUMBPOSITION, 30, 30}, {SB_THUMBTRACK, 30, 30}, {SB_PAGEDOWN, 0, 40},
         {SB_LINEDOWN, 0, 40},    {SB_BOTTOM, 0, 40},         {SB_TOP, 0, 0},
     };
     for (const auto& [nCode, nRow, nPos] : kSteps) {

@@ -287,16 +287,6 @@ TEST_F(TreeScrolling, SortingRefitsTheViewToTheNewOrder) {
     EXPECT_EQ(tree.window.nAllInvalid, nAll + 1);
 }
 
-TEST_F(TreeScrolling, AWindowLowerThanARowShowsOne) {
-    tree.window.size = {200, 7};
-    Fill(4);
-    EXPECT_EQ(tree.Top(), tree.Bottom());
-    tree.VScroll(SB_LINEDOWN, 0);
-    EXPECT_EQ(tree.Top(), rows[1]);
-    tree.VScroll(SB_PAGEDOWN, 0);
-    EXPECT_TRUE(tree.CheckInvariants());
-}
-
 TEST_F(TreeScrolling, HitFlagsTellTheParts) {
     tree.SetImages({true, true, 16, 16, 12, 12});
     Fill(2);

@@ -25,16 +25,6 @@ TEST_F(Controls, EditsGiveTheirLinesOneByOne) {
     EXPECT_EQ(std::string(szLine, nLength), "second line");
 }
 
-TEST_F(Controls, TreeItemsAreFoundWhereTheyStand) {
-    CTreeCtrl tree;
-    ASSERT_TRUE(tree.Create(kShown, m_rc, &m_parent, 1));
-    tree.InsertItem("first");
-    const HTREEITEM hSecond = tree.InsertItem("second");
-    CRect rc;
-    ASSERT_TRUE(tree.GetItemRect(hSecond, rc, TRUE));
-    EXPECT_EQ(tree.HitTest(rc.CenterPoint()), hSecond);
-}
-
 TEST_F(Controls, ListsGiveTheirSelectionRowByRow) {
     CListCtrl list;
     ASSERT_TRUE(list.Create(kShown | LVS_REPORT | LVS_SHOWSELALWAYS, m_rc, &m_parent, 1));

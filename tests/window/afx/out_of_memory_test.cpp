@@ -147,25 +147,4 @@ TEST(OutOfMemory, AMemoryFileKeepsItsBytes) {
         [](CMemFile& f) { f.Write(kMuch.c_str(), 4000); });
 }
 
-TEST(OutOfMemory, SelectingDrawingObjects_HappensWhollyOrNotAtAll) {
-    CDC dc;
-    ASSERT_TRUE(dc.CreateCompatibleDC(nullptr));
-    CFont font;
-    ASSERT_TRUE(font.CreatePointFont(120, "Tahoma"));
-    CGdiObject::DeleteTempMap();
-    const HGDIOBJ hBefore = ::GetCurrentObject(dc.m_hDC, OBJ_FONT);
-    Outcome outcome = Outcome::kDone;
-    CFont* pOld = nullptr;
-    {
-        FailingHeap heap(0);
-        outcome = Try([&] { pOld = dc.SelectObject(&font); });
-    }
-    EXPECT_EQ(Outcome::kMemoryException, outcome);
-    EXPECT_EQ(nullptr, pOld);
-    EXPECT_EQ(hBefore, ::GetCurrentObject(dc.m_hDC, OBJ_FONT));
-    pOld = dc.SelectObject(&font);
-    EXPECT_EQ(hBefore, pOld->GetSafeHandle());
-    dc.SelectObject(pOld);
-}
-
 }  // namespace

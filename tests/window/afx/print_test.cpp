@@ -31,20 +31,6 @@ protected:
 
 }  // namespace
 
-// Runs before the printer is set up, so it finds a machine without one at the first run there.
-TEST(PrintWithoutPrinter, DefaultsAreRefusedInSilence) {
-    DWORD nBytes = 0;
-    ::GetDefaultPrinter(nullptr, &nBytes);
-    if (::GetLastError() != ERROR_FILE_NOT_FOUND) {
-        GTEST_SKIP() << "there is a printer";
-    }
-    CPrintDialog dlg(FALSE);
-    EXPECT_FALSE(dlg.GetDefaults());
-    EXPECT_EQ(dlg.CreatePrinterDC(), nullptr);
-    EXPECT_EQ(dlg.GetDevMode(), nullptr);
-    EXPECT_TRUE(dlg.GetDeviceName().IsEmpty());
-}
-
 TEST_F(Print, DefaultsNameThePrinterAndMakeItsContexts) {
     CPrintDialog dlg(FALSE);
     ASSERT_TRUE(dlg.GetDefaults());
