@@ -1,7 +1,6 @@
 // Each class derived from, outside the library: what a derived class reaches of it. The build sees
 // to it that every inline function of the headers links.
 #include <QVControls.h>
-#include <cstring>
 #include <gtest/gtest.h>
 
 namespace {
@@ -19,17 +18,6 @@ private:
                                       : CWnd::WindowProc(nMessage, wParam, lParam);
     }
     CFont m_font;
-};
-
-class Outside : public testing::Test {
-protected:
-    Outside() {
-        m_parent.CreateEx(0, AfxRegisterWndClass(0), "", WS_OVERLAPPEDWINDOW, 0, 0, 300, 200,
-                          nullptr, nullptr);
-    }
-    ~Outside() override { m_parent.DestroyWindow(); }
-
-    Parent m_parent;
 };
 
 // --- Tree
@@ -54,10 +42,6 @@ public:
     }
 };
 
-TEST_F(Outside, ATree) {
-    Tree().LooksAtItself(m_parent);
-}
-
 // --- Grid
 
 class Grid : public QVGridCtrl {
@@ -78,10 +62,6 @@ public:
         EXPECT_EQ(rc.Height(), m_nCellHeight);
     }
 };
-
-TEST_F(Outside, AGrid) {
-    Grid().LooksAtItself(m_parent);
-}
 
 // --- Text
 
@@ -106,7 +86,11 @@ public:
         EXPECT_TRUE(m_nTabStop > 0 && m_crBk == ::GetSysColor(COLOR_WINDOW));
         SetUseProportionalFont(1);
         EXPECT_FALSE(m_bUseProportionalFont) << "does nothing";
+        KeepsPages();
+        FollowsAsLongAsThereIsOne();
     }
+
+private:
     void KeepsPages() {
         SetPrintAreaSize(CSize(30, 40));
         SetLinesPerPage(1);
@@ -130,13 +114,6 @@ public:
     }
 };
 
-TEST_F(Outside, AText) {
-    Text text;
-    text.LooksAtItself(m_parent);
-    text.KeepsPages();
-    text.FollowsAsLongAsThereIsOne();
-}
-
 // --- Edits
 
 class Box : public QVTextBox {
@@ -154,7 +131,7 @@ public:
 
 class SpeedEdit : public QVSpeedEdit {
 public:
-    void LooksAtItself() {
+    void LooksAtItself(CWnd&) {
         CStringArray names;
         SetSpeedData(&names);
         SetSpeedOnly(1);
@@ -179,12 +156,6 @@ public:
     }
 };
 
-TEST_F(Outside, Edits) {
-    Box().LooksAtItself(m_parent);
-    SpeedEdit().LooksAtItself();
-    DateEdit().LooksAtItself(m_parent);
-}
-
 // --- Lists
 
 class List : public QVSortingListCtrl {
@@ -208,10 +179,6 @@ public:
         EXPECT_EQ(NumColumns(), 1);
     }
 };
-
-TEST_F(Outside, AList) {
-    List().LooksAtItself(m_parent);
-}
 
 // --- Boxes
 
@@ -246,10 +213,6 @@ protected:
         return 1;
     }
 };
-
-TEST_F(Outside, AListBox) {
-    ListBox().LooksAtItself(m_parent);
-}
 
 // --- Combo boxes
 
@@ -295,11 +258,6 @@ public:
     }
 };
 
-TEST_F(Outside, ComboBoxes) {
-    BitmapCombo().LooksAtItself(m_parent);
-    ColorCombo().LooksAtItself(m_parent);
-}
-
 // --- Captions
 
 template <class Base>
@@ -319,13 +277,6 @@ public:
     }
 };
 
-TEST_F(Outside, Captions) {
-    Captioned<QVHeaderWnd>().LooksAtItself(m_parent);
-    Captioned<QVListHeaderWnd>().LooksAtItself(m_parent);
-    Captioned<QVTreeHeaderWnd>().LooksAtItself(m_parent);
-    Captioned<QVTextHeaderWnd>().LooksAtItself(m_parent);
-}
-
 // --- Tabs
 
 class TabbedPages : public QVTabWnd {
@@ -343,10 +294,6 @@ public:
         EXPECT_EQ(m_nActivePage + m_TabCtrl.GetItemCount() + m_astrTitles.GetSize(), -1);
     }
 };
-
-TEST_F(Outside, Tabs) {
-    TabbedPages().LooksAtItself(m_parent);
-}
 
 // --- Split windows
 
@@ -368,17 +315,13 @@ public:
     }
 };
 
-TEST_F(Outside, ASplitWindow) {
-    Splitter().LooksAtItself(m_parent);
-}
-
 // --- Property sheets
 
 template <class BaseSheet, class BasePage>
 class PropSheet : public BaseSheet {
 public:
     PropSheet() : BaseSheet("Sheet") {}
-    void LooksAtItself() {
+    void LooksAtItself(CWnd&) {
         BasePage page(30999u);
         this->AddPage(&page);
         this->BuildPropPageArray();
@@ -386,55 +329,23 @@ public:
     }
 };
 
-TEST_F(Outside, PropertySheets) {
-    PropSheet<QVPropertySheet, QVPropertyPage>().LooksAtItself();
-    PropSheet<QVPropertySheetEx, QVPropertyPageEx>().LooksAtItself();
-}
-
 // --- Wizards
 
 class Panel : public QVWizardStepWnd {
 public:
-    int Sum() { return m_nStepIndex + static_cast<int>(m_dwStepID) + !m_fontNormal.m_hObject; }
-    void Draw(CDC& dc, const CRect&) override { qv::SelectGuard font(dc, &m_fontBold); }
+    void LooksAtItself(CWnd&) {
+        EXPECT_TRUE(m_nStepIndex == -1 && m_dwStepID == 0);
+        EXPECT_TRUE((m_dwDefStyle & WS_CHILD) && !m_fontNormal.m_hObject && !m_fontBold.m_hObject);
+    }
 };
 
 class WizardPage : public QVWizardPage {
 public:
-    int ValidateData() override { return m_dwWizButtons == PSWIZB_BACK && !m_StepWnd.m_hWnd; }
-};
-
-TEST_F(Outside, AWizard) {
-    EXPECT_EQ(Panel().Sum(), 0);
-    WizardPage page;
-    page.SetNextPageID(8);
-    EXPECT_EQ(page.OnWizardNext(), 8);
-    EXPECT_EQ(QVWizard().RegisterWizPage(&page, "title"), 0);
-}
-
-// --- What paints itself, and guards
-
-class Painted : public QVCustCtrl {
-public:
-    void Draw(CDC& dc, const CRect& rect) override {
-        const qv::ColorGuard colors(dc);
-        CBrush brush(RGB(255, 0, 0));
-        const qv::SelectGuard select(dc, &brush);
-        dc.PatBlt(0, 0, rect.Width(), rect.Height(), PATCOPY);
+    void LooksAtItself(CWnd&) {
+        EXPECT_TRUE(m_dwWizButtons == PSWIZB_BACK && !m_StepWnd.m_hWnd);
+        EXPECT_EQ(QVWizard().RegisterWizPage(this, "title"), 0);
     }
-    DWORD Style() const { return m_dwDefStyle; }
 };
-
-TEST_F(Outside, ACustomControl) {
-    Painted painted;
-    painted.ModifyDefStyle(WS_TABSTOP, WS_BORDER);
-    EXPECT_EQ(painted.Style(), static_cast<DWORD>(WS_CHILD | WS_VISIBLE | WS_BORDER));
-    ASSERT_TRUE(painted.Create(1, kRect, &m_parent));
-    m_parent.ShowWindow(SW_SHOWNA);
-    painted.RedrawWindow();
-    CClientDC dc(&painted);
-    EXPECT_EQ(dc.GetPixel(5, 5), RGB(255, 0, 0));
-}
 
 // --- Buttons
 
@@ -471,21 +382,14 @@ public:
 
 class Mark : public QVCheckWnd {
 public:
-    void LooksAtItself(CDC& dc) {
+    void LooksAtItself(CWnd& parent) {
+        ASSERT_TRUE(Create(nullptr, "", WS_CHILD, kRect, &parent, 1));
         SetIsChecked(1);
         EXPECT_TRUE(m_bChecked);
+        CClientDC dc(this);
         DrawWindow(dc);
     }
 };
-
-TEST_F(Outside, Buttons) {
-    Tool().LooksAtItself(m_parent);
-    Macros().LooksAtItself(m_parent);
-    Mark mark;
-    ASSERT_TRUE(mark.Create(nullptr, "", WS_CHILD, kRect, &m_parent, 1));
-    CClientDC dc(&mark);
-    mark.LooksAtItself(dc);
-}
 
 // --- Print
 
@@ -495,7 +399,7 @@ public:
         SetMinSize(1);
         SetMaxSize(2);
     }
-    void LooksAtItself() {
+    void LooksAtItself(CWnd&) {
         EXPECT_EQ(HeaderFont(), NormalFont());
         EXPECT_EQ(HeaderFontHeight() + NormalFontHeight() + MinSize() + MaxSize(), 10u);
         SetIncomplete();
@@ -504,12 +408,28 @@ public:
     void Print(CDC*, CRect&, unsigned, unsigned) override {}
 };
 
-TEST_F(Outside, ThePrintEngine) {
-    Item().LooksAtItself();
-    QVPrintEngine engine(nullptr, nullptr, nullptr, nullptr);
-    QVPrintEngine copy(engine);
-    copy = engine;
-    EXPECT_TRUE(copy.IsComplete());
+// --- All of them
+
+template <class Control>
+class Outside : public testing::Test {
+protected:
+    Outside() {
+        m_parent.CreateEx(0, AfxRegisterWndClass(0), "", WS_OVERLAPPEDWINDOW, 0, 0, 300, 200,
+                          nullptr, nullptr);
+    }
+    ~Outside() override { m_parent.DestroyWindow(); }
+
+    Parent m_parent;
+};
+using Derived = testing::Types<
+    Tree, Grid, Text, Box, SpeedEdit, DateEdit, List, ListBox, BitmapCombo, ColorCombo,
+    Captioned<QVHeaderWnd>, Captioned<QVListHeaderWnd>, Captioned<QVTreeHeaderWnd>,
+    Captioned<QVTextHeaderWnd>, TabbedPages, Splitter, PropSheet<QVPropertySheet, QVPropertyPage>,
+    PropSheet<QVPropertySheetEx, QVPropertyPageEx>, Panel, WizardPage, Tool, Macros, Mark, Item>;
+TYPED_TEST_SUITE(Outside, Derived);
+
+TYPED_TEST(Outside, ReachesWhatIsItsOwn) {
+    TypeParam().LooksAtItself(this->m_parent);
 }
 
 }  // namespace

@@ -7,7 +7,6 @@
 #include "print/core/row_split.h"
 
 #include <algorithm>
-#include <string>
 #include <vector>
 
 class FakePageItems : public qv::PageItems {

@@ -30,6 +30,7 @@ std::string Pages(qv::PageItems& items, unsigned nHeight) {
     return strPages;
 }
 
+// Where rows and items end up is the fuzzer's, beside a plain walk; these are the rules by name.
 TEST(Pagination, EachRuleOfThePageTable) {
     using Items = FakePageItems;
     const struct {
@@ -40,15 +41,11 @@ TEST(Pagination, EachRuleOfThePageTable) {
     } cases[] = {
         {"nothing to print gives no page", Items(), 100, ""},
         {"nor do breaks alone", Items().Break().Break(), 100, ""},
-        {"an exact fit stays", Items().Block(40).Block(60).Block(1), 100, "0.0-1.end | 2.0-2.end"},
-        {"one line more goes on", Items().Text(5 * kWidth + 1), 50, "0.0-0.4 | 0.5-0.end"},
         {"breaks vanish at the top", Items().Break().Block(20).Break().Block(20), 50, "1.0-3.end"},
         {"also where they do not fit", Items().Block(45).Break().Block(50), 50,
          "0.0-0.end | 2.0-2.end"},
         {"a header moves to what it announces", Items().Block(80).Group().List(3, 10), 100,
          "0.0-0.end | 1.0-2.end"},
-        {"one line is enough to stay", Items().Block(80).Group().Text(5 * kWidth), 100,
-         "0.0-2.0 | 2.1-2.end"},
         {"no room for the group: the section header stays alone",
          Items().Block(65).Section().Group().Block(20), 100, "0.0-1.end | 2.0-3.end"},
         {"no room behind the group header: it moves alone",
@@ -59,8 +56,6 @@ TEST(Pagination, EachRuleOfThePageTable) {
          "0.0-0.end | 1.0-3.end"},
         {"lists split by row, with their headings on each page", Items().List(9, 10).Block(30), 50,
          "0.0-0.3 | 0.4-0.7 | 0.8-1.end"},
-        {"headings and one row begin one", Items().Block(30).List(4, 10), 50,
-         "0.0-1.0 | 1.1-1.end"},
         {"without rows it wants room for one, and takes that of its headings",
          Items().Block(35).List(0, 10).Block(40), 50, "0.0-0.end | 1.0-2.end"},
         {"labelled lists begin with two rows", Items().Block(40).Labelled(3), 50,
@@ -71,9 +66,6 @@ TEST(Pagination, EachRuleOfThePageTable) {
          "0.0-0.4 | 0.5-1.end | 2.5-2.end"},
         {"one left out at the top does", Items().List(10).Break().Block(40), 50,
          "0.0-0.4 | 0.5-0.end | 2.0-2.end"},
-        {"an item that splits goes on from its own rows", Items().List(8, 0, 10).List(9, 30), 50,
-         "0.0-0.4 | 0.5-0.end | 1.5-1.1 | 1.2-1.3 | 1.4-1.5 | 1.6-1.7 | 1.8-1.end"},
-        {"what is taller than a page has one for itself", Items().Block(60), 50, "0.0-0.end"},
         {"and all on a page without height", Items().Group().Block(0).Text(1), 0,
          "0.0-0.end | 1.0-1.end | 2.0-2.end"},
         {"a header that never stands with its follower keeps its page", Items().Group().Block(45),

@@ -39,4 +39,13 @@ TEST(Printing, ARowThatFoundNoMemoryIsGivenTheNextTime) {
     EXPECT_TRUE(row.strText.ends_with("second"));
 }
 
+TEST(Printing, ARowAddedByHandHasNoTextByNumber) {
+    const qv::TextLines lines;
+    qv::PrintRows rows;
+    rows.Add(0, 0);
+    qv::PrintedRow row{"before", 7, 0};
+    EXPECT_FALSE(rows.Row(0, lines, qv::StyleTable(), row));
+    EXPECT_EQ(row.strText, "before");
+}
+
 }  // namespace

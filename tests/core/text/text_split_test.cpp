@@ -50,17 +50,7 @@ TEST(TextSplit, BreaksAtLineFeedsBlanksAndWords) {
 }
 
 TEST(TextSplit, MeasuresFewTimesWhatTheTextHolds) {
-    std::string strWords;
-    std::string strLines;
-    for (int i = 0; i < 40000; ++i) {
-        strWords += "word" + std::string(i % 7, 'x') + ' ';
-        strLines += "line\n";
-    }
-    const std::string strWide(300000, 'a');
-    const std::string strNone(300000, 'z');
-    const std::string strBlanks(300000, ' ');
-    for (const std::string& strText :
-         {strWords, strLines, strWide, strBlanks, strNone + strWide, "a " + strNone + strWide}) {
+    for (const std::string& strText : HugeTexts()) {
         for (const int nChars : {1, 100, 10000}) {
             CountingMeasure measure;
             Starts starts;

@@ -191,50 +191,23 @@ TEST_F(ExceptionBorder, IdleWorkThatThrows_GoesOnTheNextTime) {
     });
 }
 
-/// Its initialization throws, or it does not get the memory that it needs.
+/// Its initialization throws.
 class UnreadyDialog : public CDialog {
 public:
-    UnreadyDialog() : CDialog(IDD_MODAL) {}
-    Thrower m_pfnThrow = nullptr;
-
+    explicit UnreadyDialog(Thrower pfnThrow) : CDialog(IDD_MODAL), m_pfnThrow(pfnThrow) {}
     BOOL OnInitDialog() override {
-        CDialog::OnInitDialog();
-        m_strText.Format("%d", 12345);
-        if (m_pfnThrow != nullptr) {
-            m_pfnThrow();
-        }
-        EndDialog(IDOK);
+        m_pfnThrow();
         return TRUE;
     }
-    CString m_strText;
+
+private:
+    Thrower m_pfnThrow;
 };
 
 TEST_F(ExceptionBorder, ADialogThatFailsToStart_EndsWithMinusOne) {
-    Outcome outcome = Outcome::kDone;
-    INT_PTR nResult = 0;
-    Thrower pfnThrow = nullptr;
-    const auto run = [&] {
-        UnreadyDialog dlg;
-        dlg.m_pfnThrow = pfnThrow;
-        nResult = 0;
-        outcome = Try([&] { nResult = dlg.DoModal(); });
-    };
+    m_app.m_report = [](CException*) { AfxThrowMemoryException(); };
     for (const Kind& kind : kKinds) {
-        m_app.m_report = [](CException*) { AfxThrowMemoryException(); };
-        pfnThrow = kind.pfnThrow;
-        run();
-        EXPECT_EQ(Outcome::kDone, outcome);
-        EXPECT_EQ(-1, nResult);
-    }
-    m_app.m_report = nullptr;
-    pfnThrow = nullptr;
-    for (const auto mode : {FailingHeap::kAllLater, FailingHeap::kJustOne}) {
-        RefuseEachAllocation(mode, run, [&](int nSucceeding) {
-            EXPECT_TRUE(outcome != Outcome::kDone || nResult == -1 || nResult == IDOK)
-                << nSucceeding;
-            AfxGetThread()->OnIdle(1);
-        });
-        EXPECT_EQ(IDOK, nResult);
+        EXPECT_EQ(-1, UnreadyDialog(kind.pfnThrow).DoModal());
     }
 }
 

@@ -3,13 +3,11 @@
 
 #include <afxwin.h>
 
-#include <algorithm>
 #include <functional>
 #include <gtest/gtest.h>
 #include <malloc.h>
 #include <random>
 #include <string>
-#include <vector>
 
 namespace {
 

@@ -14,24 +14,17 @@ void FreeAnswer(CPrintDialog& dlg) {
     ::GlobalFree(dlg.m_pd.hDevNames);
 }
 
-/// A machine with the virtual printer as its default; others have nothing to measure by.
-class Print : public testing::Test {
-protected:
-    void SetUp() override {
-        std::string strError;
-        ASSERT_TRUE(EnsureVirtualPrinter(strError)) << strError;
-        char szName[256] = "";
-        DWORD nBytes = sizeof szName;
-        ASSERT_TRUE(::GetDefaultPrinter(szName, &nBytes));
-        if (lstrcmp(szName, kVirtualPrinterName) != 0) {
-            GTEST_SKIP() << "the default printer is another one: " << szName;
-        }
-    }
-};
-
 }  // namespace
 
-TEST_F(Print, DefaultsNameThePrinterAndMakeItsContexts) {
+TEST(PrintDialog, DefaultsNameThePrinterAndMakeItsContexts) {
+    std::string strError;
+    ASSERT_TRUE(EnsureVirtualPrinter(strError)) << strError;
+    char szName[256] = "";
+    DWORD nBytes = sizeof szName;
+    ASSERT_TRUE(::GetDefaultPrinter(szName, &nBytes));
+    if (lstrcmp(szName, kVirtualPrinterName) != 0) {
+        GTEST_SKIP() << "nothing to measure another printer by: " << szName;
+    }
     CPrintDialog dlg(FALSE);
     ASSERT_TRUE(dlg.GetDefaults());
     EXPECT_STREQ(dlg.GetDeviceName(), kVirtualPrinterName);

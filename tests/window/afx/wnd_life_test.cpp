@@ -1,7 +1,6 @@
 // A window's life: creation, subclassing, objects for handles, destruction at odd moments.
 #include "support/mortal.h"
 #include "support/popup.h"
-#include "support/recording_parent.h"
 
 #include <gtest/gtest.h>
 #include <string>
