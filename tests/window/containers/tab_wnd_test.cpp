@@ -268,7 +268,7 @@ TEST(TabWnd, PagesOutliveTheirOwnSteps) {
             TextRecorder dc;
             QVPrintEngine engine(&dc, nullptr, nullptr, nullptr);
             const std::function<void()> acts[] = {
-                [&] { tabs->Add(1); }, [&] { tabs->SetActivePage(0), tabs->SetActivePage(1); },
+                [&] { tabs->Add(1); }, [&] { tabs->SetActivePage(1); },
                 [&] { tabs->BeginPrinting(&dc, engine, FALSE); },
                 [&] {
                     if (auto* pPage = tabs->GetPage(tabs->GetActivePage())) {
