@@ -1,5 +1,5 @@
-// The controls in real windows: window_bench [tree | list | grid | text | boxes | buttons]; all
-// without an argument.
+// The controls in real windows: window_bench [tree | list | grid | text | boxes | buttons |
+// containers]; all without an argument.
 
 #include "window_bench.h"
 
@@ -37,6 +37,9 @@ int main(int argc, char** argv) {
     }
     if (asked("buttons")) {
         MeasureButtons();
+    }
+    if (asked("containers")) {
+        MeasureContainers();
     }
     return 0;
 }

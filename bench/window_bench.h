@@ -44,3 +44,4 @@ void MeasureGrid();
 void MeasureText();
 void MeasureListBox();
 void MeasureCombo();
+void MeasureContainers();

@@ -16,6 +16,8 @@
 #include "containers/property_page.h"
 #include "containers/property_sheet.h"
 #include "containers/split_wnd.h"
+#include "containers/tab_wnd.h"
+#include "containers/tab_wnd_page.h"
 #include "containers/text_header_wnd.h"
 #include "containers/tree_header_wnd.h"
 #include "containers/wizard.h"

@@ -28,8 +28,8 @@ BOOL MainFrame::PreCreateWindow(CREATESTRUCT& cs) {
     // As large for any size of the system's fonts, as far as the screen goes.
     const CClientDC dc(nullptr);
     const int nDpi = dc.GetDeviceCaps(LOGPIXELSX);
-    cs.cx = std::min(::MulDiv(1000, nDpi, 96), ::GetSystemMetrics(SM_CXSCREEN));
-    cs.cy = std::min(::MulDiv(640, nDpi, 96), ::GetSystemMetrics(SM_CYSCREEN));
+    cs.cx = std::min(::MulDiv(1120, nDpi, 96), ::GetSystemMetrics(SM_CXSCREEN));
+    cs.cy = std::min(::MulDiv(760, nDpi, 96), ::GetSystemMetrics(SM_CYSCREEN));
     cs.style &= ~static_cast<LONG>(FWS_ADDTOTITLE);
     return CFrameWnd::PreCreateWindow(cs);
 }
@@ -37,9 +37,8 @@ BOOL MainFrame::PreCreateWindow(CREATESTRUCT& cs) {
 int MainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     static constexpr UINT kIndicators[] = {ID_INDICATOR_MESSAGE, ID_INDICATOR_MARKED};
     if (CFrameWnd::OnCreate(lpCreateStruct) == -1 || !m_pages.Create(this) ||
-        !m_pages.Add(m_sections) || !m_pages.Add(m_packages) || !m_pages.Add(m_report) ||
-        !m_pages.Add(m_settings) || !m_pages.Add(m_log) || !m_pages.Add(m_largest) ||
-        !m_statusBar.Create(this) ||
+        !m_pages.Add(m_packages) || !m_pages.Add(m_report) || !m_pages.Add(m_settings) ||
+        !m_pages.Add(m_log) || !m_pages.Add(m_largest) || !m_statusBar.Create(this) ||
         !m_statusBar.SetIndicators(kIndicators, static_cast<int>(std::size(kIndicators)))) {
         return -1;
     }
@@ -55,10 +54,27 @@ void MainFrame::LoadSettings(const CString& strPath, bool bInteractive) {
         AfxMessageBox(strProblem, MB_ICONEXCLAMATION);
     }
     const class Settings& settings = m_settings.Values();
-    m_sections.Tree().UseIndentedColumns(settings.Choice(kSettingTreeColumns) == 0);
+    const CString strFolder = strFile.Left(strFile.ReverseFind('\\') + 1);
+    UseSettings();
+    m_packages.Tree().UseIndentedColumns(settings.Choice(kSettingTreeColumns) == 0);
+    m_packages.UseFolder(strFolder);
+    if (settings.Choice(kSettingStartFilter) != 0) {
+        m_packages.Bar().SetFilter({});
+    }
+    m_desk.Open(strFolder + "reports", bInteractive);
+    m_pages.ShowPage(settings.Value(kSettingStartPage));
+}
+
+void MainFrame::UseSettings() {
+    const class Settings& settings = m_settings.Values();
     m_packages.UseSettings(settings);
     m_largest.UseSettings(settings);
-    m_packages.UseFilterFile(strFile.Left(strFile.ReverseFind('\\') + 1) + "filter.txt");
+    m_report.UseSettings();
+}
+
+BOOL MainFrame::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
+    return CFrameWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo) ||
+           m_desk.OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
 }
 
 void MainFrame::OnSetFocus(CWnd*) {
@@ -71,19 +87,27 @@ BOOL MainFrame::Open(const CString& strPath, bool bInteractive) {
     DatabaseError error;
     CFileStatus status;
     bool bRead = true;
+    CString strFolder;
     if (!strPath.IsEmpty() || CFile::GetStatus(kPackageDatabase, status)) {
         const CString strFile = strPath.IsEmpty() ? CString(kPackageDatabase) : strPath;
         bRead = ReadPackages(static_cast<LPCTSTR>(strFile), packages, error);
         ReadInstallDates(strFile, packages);
         ToProcessCodePage(packages);
+        strFolder = ".\\";
+        if (const int nEnd = std::max(strFile.ReverseFind('\\'), strFile.ReverseFind('/'));
+            nEnd >= 0) {
+            strFolder = strFile.Left(nEnd + 1);
+        }
         m_settings.ShowDatabase(strFile);
     } else {
         packages = ReadUninstallEntries();
         m_settings.ShowDatabase("the registry's uninstall entries");
     }
     m_strProblem = error.strMessage.c_str();
+    m_packages.UseDatabase(strFolder);
     m_inventory.SetPackages(std::move(packages));
     m_pages.SetInventory(m_inventory);
+    m_desk.SetInventory(m_inventory);
     if (!bRead && bInteractive) {
         AfxMessageBox(m_strProblem, MB_ICONEXCLAMATION);
     }
@@ -108,9 +132,9 @@ void MainFrame::OnUpdateMessage(CCmdUI* pCmdUI) {
         strText = m_pages.Active().Message();
     }
     if (strText.IsEmpty()) {
-        strText.Format("%u packages in %u sections",
-                       static_cast<unsigned>(m_inventory.CountPackages()),
-                       static_cast<unsigned>(m_inventory.Sections().size()));
+        strText = (CountText(m_inventory.CountPackages(), "package") + " in " +
+                   CountText(m_inventory.Sections().size(), "section"))
+                      .c_str();
     }
     pCmdUI->Enable();
     pCmdUI->SetText(strText);

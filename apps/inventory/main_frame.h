@@ -9,7 +9,7 @@
 #include "pages/page_host.h"
 #include "pages/report_page.h"
 #include "pages/settings_page.h"
-#include "pages/tree_page.h"
+#include "report_desk.h"
 
 #include <afxext.h>
 
@@ -17,7 +17,6 @@ class MainFrame : public CFrameWnd {
 public:
     // An empty path: this machine's own inventory.
     BOOL Open(const CString& strPath, bool bInteractive);
-    TreePage& Sections() { return m_sections; }
     PackagesPage& Packages() { return m_packages; }
     ReportPage& Report() { return m_report; }
     SettingsPage& Settings() { return m_settings; }
@@ -25,10 +24,14 @@ public:
     LargestPage& Largest() { return m_largest; }
     // Empty: the user's own file. Call before Open.
     void LoadSettings(const CString& strPath, bool bInteractive);
+    // The settings have changed.
+    void UseSettings();
     PageHost& Pages() { return m_pages; }
+    ReportDesk& Desk() { return m_desk; }
     CString StatusText(int nPane) { return m_statusBar.GetPaneText(nPane); }
 
 protected:
+    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
@@ -45,10 +48,10 @@ private:
     CString m_strProblem;
     Inventory m_inventory;
     CStatusBar m_statusBar;
-    TreePage m_sections;
     PackagesPage m_packages;
     SettingsPage m_settings;
     ReportPage m_report{m_packages, m_settings};
+    ReportDesk m_desk{*this};
     LogPage m_log;
     LargestPage m_largest;
     PageHost m_pages;

@@ -70,6 +70,9 @@ int QVCustCtrl::OnCreate(LPCREATESTRUCT lpCreateStruct) {
 void QVCustCtrl::OnPaint() {
     CPaintDC dc(this);
     CRect rect;
+    if (dc.GetClipBox(&rect) == NULLREGION) {
+        return;  // its children cover all of it
+    }
     GetClientRect(&rect);
     CDC dcMemory;
     CBitmap bitmap;

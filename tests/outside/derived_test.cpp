@@ -394,6 +394,28 @@ TEST_F(Outside, Captions) {
     EXPECT_NE(text.GetTextWnd().m_hWnd, nullptr);
 }
 
+// --- Tabs
+
+class TabbedPages : public QVTabWnd {
+public:
+    void LooksAtItself(CWnd& parent) {
+        class Page : public QVTabWndPage {
+        public:
+            Page() : QVTabWndPage(5) { SetModified(TRUE); }
+            bool IsAlone() { return m_nIDTemplate == 5 && m_bModified && !GetTabWnd(); }
+        } page;
+        ASSERT_TRUE(Create(1, kRect, &parent));
+        EXPECT_EQ(AddPage("no such template", &page), nullptr);
+        EXPECT_TRUE(page.IsAlone() && m_bInitialized && m_Pages.GetSize() == NumPages());
+        SwitchTabs(GetActivePage());
+        EXPECT_EQ(m_nActivePage + m_TabCtrl.GetItemCount() + m_astrTitles.GetSize(), -1);
+    }
+};
+
+TEST_F(Outside, Tabs) {
+    TabbedPages().LooksAtItself(m_parent);
+}
+
 // --- Split windows
 
 class Splitter : public QVSplitWnd {
@@ -420,43 +442,21 @@ TEST_F(Outside, ASplitWindow) {
 
 // --- Property sheets
 
-template <class Base>
-class Page : public Base {
+template <class BaseSheet, class BasePage>
+class PropSheet : public BaseSheet {
 public:
-    explicit Page(LPCDLGTEMPLATE pTemplate) {
-        this->m_psp.dwFlags |= PSP_DLGINDIRECT;
-        this->m_psp.pResource = pTemplate;
-    }
-    bool PointsAt(LPCDLGTEMPLATE pTemplate) {
-        PROPSHEETPAGE psp = this->m_psp;
-        this->PreProcessPageTemplate(psp, FALSE);
-        return psp.pResource == pTemplate;
-    }
-};
-
-template <class Base>
-class PropSheet : public Base {
-public:
-    PropSheet() : Base("Sheet") {}
-    void LooksAtItself(CPropertyPage& page) {
-        this->CPropertySheet::AddPage(&page);
+    PropSheet() : BaseSheet("Sheet") {}
+    void LooksAtItself() {
+        BasePage page(30999u);
+        this->AddPage(&page);
         this->BuildPropPageArray();
-        EXPECT_EQ(this->m_psh.nPages, 1u);
-        EXPECT_NE(this->m_fontTab.m_hObject, nullptr);
+        EXPECT_TRUE(this->m_psh.nPages == 1 && this->m_fontTab.m_hObject != nullptr);
     }
 };
 
 TEST_F(Outside, PropertySheets) {
-    const struct {
-        DLGTEMPLATE head = {WS_CHILD, 0, 0, 0, 0, 50, 50};
-        WORD noTexts[3] = {};
-    } memory;
-    Page<QVPropertyPage> page(&memory.head);
-    Page<QVPropertyPageEx> pageEx(&memory.head);
-    EXPECT_TRUE(page.PointsAt(&memory.head));
-    EXPECT_TRUE(pageEx.PointsAt(&memory.head));
-    PropSheet<QVPropertySheet>().LooksAtItself(page);
-    PropSheet<QVPropertySheetEx>().LooksAtItself(pageEx);
+    PropSheet<QVPropertySheet, QVPropertyPage>().LooksAtItself();
+    PropSheet<QVPropertySheetEx, QVPropertyPageEx>().LooksAtItself();
 }
 
 // --- Wizards

@@ -225,6 +225,37 @@ TEST(TextControls, CaptionsShowTheirText) {
               [&](const std::string& str) { wnd.SetHeaderText(str.c_str()); });
 }
 
+// A page of nothing.
+class BarePage : public QVTabWndPage {
+    DECLARE_DYNCREATE(BarePage)
+
+public:
+    int Create(CWnd* pParent) override {
+        const struct {
+            DLGTEMPLATE dlg = {WS_CHILD | DS_CONTROL, 0, 0, 0, 0, 50, 50};
+            WORD empty[4] = {};
+        } memory;
+        return CreateIndirect(&memory.dlg, pParent);
+    }
+};
+IMPLEMENT_DYNCREATE(BarePage, QVTabWndPage)
+
+TEST(TextControls, TabsShowTheirTitles) {
+    FontParent parent(CSize(300, 200));
+    QVTabWnd tabs;
+    ASSERT_TRUE(tabs.Create(12, CRect(0, 0, 300, 200), &parent));
+    CTabCtrl& ctrl = tabs.GetTabCtrl();
+    ctrl.ModifyStyle(0, TCS_FIXEDWIDTH);
+    ctrl.SetItemSize(CSize(200, 30));
+    tabs.AddPage(" ", RUNTIME_CLASS(BarePage));
+    const COLORREF crTab = Fresh(ctrl).At(20, 10);
+    ExpectInk(ctrl, FontOf(parent), ::GetSysColor(COLOR_BTNTEXT), crTab,
+              [&](const std::string& str) {
+                  tabs.RemovePages();
+                  tabs.AddPage(str.c_str(), RUNTIME_CLASS(BarePage));
+              });
+}
+
 TEST(TextControls, MenuButtonsShowTheirCaption) {
     FontParent parent(CSize(300, 100));
     QVMenuButton button;

@@ -5,51 +5,38 @@
 #include "support/picture.h"
 #include "support/pump.h"
 
+#include <afxpriv.h>
+
 #include <gtest/gtest.h>
 
 namespace {
 
-/// A page's template in memory: an edit with id 1.
-struct Template {
+/// A page's template: an edit with id 1.
+const struct {
     DLGTEMPLATE head = {WS_CHILD | WS_CAPTION | DS_CONTROL, 0, 1, 0, 0, 160, 60};
     WORD noTexts[3] = {};
-    WORD toAlign = 0;
     DLGITEMTEMPLATE edit = {WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, 0, 5, 5, 140, 14, 1};
-    WORD editClass[2] = {0xFFFF, 0x0081};
-    WORD noMore[2] = {};
-};
+    WORD editClass[4] = {0xFFFF, 0x0081};
+} kTemplate alignas(4);
 
 class WordPage : public QVPropertyPageEx {
 public:
     explicit WordPage(const std::string& strWord) : m_strWord(strWord.c_str()) {
         Construct(0u);
         m_psp.dwFlags |= PSP_DLGINDIRECT | PSP_USETITLE;
-        m_psp.pResource = &m_template.head;
+        m_psp.pResource = &kTemplate.head;
         m_psp.pszTitle = m_strWord;
         m_strHeaderTitle = m_strHeaderSubTitle = m_strWord;
     }
     CString m_strWord;
 
-protected:
-    void DoDataExchange(CDataExchange* pDX) override { DDX_Text(pDX, 1, m_strWord); }
-
 private:
-    Template m_template;
+    void DoDataExchange(CDataExchange* pDX) override { DDX_Text(pDX, 1, m_strWord); }
 };
 
-/// Text of a window or of the first tab, as the wide calls have it.
 std::wstring WideText(HWND hWnd) {
     wchar_t szText[200] = L"";
     ::GetWindowTextW(hWnd, szText, 200);
-    return szText;
-}
-std::wstring WideTab(CTabCtrl* pTabs) {
-    wchar_t szText[200] = L"";
-    TCITEMW item{};
-    item.mask = TCIF_TEXT;
-    item.pszText = szText;
-    item.cchTextMax = 200;
-    ::SendMessageW(pTabs->m_hWnd, TCM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
     return szText;
 }
 
@@ -60,19 +47,24 @@ TEST(PropertySheetText, IsOfTheProcessesCodePage) {
         sheet.AddPage(&page);
         ASSERT_TRUE(sheet.Create());
         EXPECT_EQ(strWide, WideText(sheet.m_hWnd));
-        EXPECT_EQ(strWide, WideTab(sheet.GetTabControl()));
-        const HWND hEdit = page.GetDlgItem(1)->m_hWnd;
-        EXPECT_EQ(strWide, WideText(hEdit));
-        ::SetWindowTextW(hEdit, (strWide + strWide).c_str());
+        wchar_t szTab[200] = L"";
+        TCITEMW item{TCIF_TEXT, 0, 0, szTab, 200, 0, 0};
+        sheet.GetTabControl()->SendMessage(TCM_GETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+        EXPECT_EQ(strWide, szTab);
+        ::SetWindowTextW(page.GetDlgItem(1)->m_hWnd, (strWide + strWide).c_str());
         EXPECT_TRUE(page.UpdateData());
         EXPECT_EQ(str + str, std::string(page.m_strWord));
-        sheet.SetTitle("other");
-        sheet.SetTitle(str.c_str());
-        EXPECT_EQ(strWide, WideText(sheet.m_hWnd));
+        CDialogTemplate withFont(page.m_psp.pResource);
+        CString strFace;
+        WORD nPoints = 0;
+        EXPECT_TRUE(withFont.SetFont(str.c_str(), 9) && withFont.GetFont(strFace, nPoints));
+        EXPECT_EQ(str, std::string(strFace));
+        sheet.SetTitle((str + "2").c_str());
+        EXPECT_EQ(strWide + L"2", WideText(sheet.m_hWnd));
     }
 }
 
-TEST(PropertySheetText, OfAWizardsHeaderIsDrawnAsTheWideCallsDrawIt) {
+TEST(PropertySheetText, OfAWizardIsDrawnAsTheWideCallsDrawIt) {
     for (const auto& [strWide, str] : PageWords()) {
         WordPage page(str);
         QVPropertySheetEx wizard("wizard");
@@ -82,16 +74,14 @@ TEST(PropertySheetText, OfAWizardsHeaderIsDrawnAsTheWideCallsDrawIt) {
         wizard.SetFinishText(str.c_str());
         EXPECT_EQ(strWide, WideText(wizard.GetDlgItem(ID_WIZFINISH)->m_hWnd));
         PumpPending();
-        const auto draw = [&](const wchar_t* pszTitle) {
+        const Picture own = Picture::OfClient(wizard.m_hWnd);
+        for (const wchar_t* pszTitle : {L"something else", strWide.c_str()}) {
             for (const UINT nMessage : {PSM_SETHEADERTITLEW, PSM_SETHEADERSUBTITLEW}) {
                 wizard.SendMessage(nMessage, 0, reinterpret_cast<LPARAM>(pszTitle));
             }
             wizard.Invalidate();
-            return Picture::OfClient(wizard.m_hWnd);
-        };
-        const Picture own = Picture::OfClient(wizard.m_hWnd);
-        EXPECT_TRUE(draw(strWide.c_str()) == own) << str;
-        EXPECT_FALSE(draw(L"something else") == own) << str;
+            EXPECT_EQ(Picture::OfClient(wizard.m_hWnd) == own, pszTitle == strWide) << str;
+        }
     }
 }
 

@@ -1,19 +1,11 @@
 #include "dialogs/package_bar.h"
 
-#include "package_strip.h"
+#include "dialogs/day_edit.h"
 
 #include <algorithm>
 #include <mbstring.h>
 
 namespace {
-
-int ImageOf(const Section& section) {
-    const auto any = [&](bool Package::*pMark) {
-        return std::any_of(section.packages.begin(), section.packages.end(),
-                           [&](const Package& package) { return package.*pMark; });
-    };
-    return StripImage(any(&Package::bUnusual), any(&Package::bRequired));
-}
 
 bool NameBefore(const std::string& str1, const std::string& str2) {
     const auto bytes = [](const std::string& str) {
@@ -40,6 +32,50 @@ void Choose(QVBitmapComboBox& box, const std::string& strText) {
 }
 
 }  // namespace
+
+PackageImage ImageOf(const Section& section) {
+    const auto any = [&](bool Package::*pMark) {
+        return std::any_of(section.packages.begin(), section.packages.end(),
+                           [&](const Package& package) { return package.*pMark; });
+    };
+    return StripImage(any(&Package::bUnusual), any(&Package::bRequired));
+}
+
+CString MenuText(const std::string& strName) {
+    CString strText(strName.c_str());
+    strText.Replace("&", "&&");
+    strText.Replace('\t', ' ');
+    return strText;
+}
+
+// --- The button
+
+void ReportButton::OfferCommands() {
+    SetStartCmdID(ID_PACKAGES_PREVIEW);
+    AddString("Preview the report");
+    AddString("Print the report...");
+    AddString("Export the list...");
+    m_nCommands = m_astrItems.GetSize();
+}
+
+void ReportButton::OfferReports(const std::vector<std::string>& names) {
+    m_astrItems.SetSize(m_nCommands);
+    for (const std::string& strName : names) {
+        AddString(MenuText(strName));
+    }
+}
+
+// The reports have commands of their own.
+void ReportButton::OnMenuSelected(unsigned nIndex) {
+    if (static_cast<INT_PTR>(nIndex) < m_nCommands) {
+        QVMenuButton::OnMenuSelected(nIndex);
+    } else {
+        AfxGetMainWnd()->PostMessage(
+            WM_COMMAND, ID_REPORT_FIRST_NAMED + nIndex - static_cast<unsigned>(m_nCommands));
+    }
+}
+
+// --- The bar
 
 BEGIN_MESSAGE_MAP(PackageBar, CDialog)
     ON_CBN_SELCHANGE(IDC_FILTER_SECTION, OnChoice)
@@ -81,10 +117,7 @@ void PackageBar::SetUpTools() {
         tool.button.EnableToolTip(0u);
     }
     m_report.SubclassDlgItem(IDC_REPORT_MENU, this);
-    m_report.SetStartCmdID(ID_PACKAGES_PREVIEW);
-    m_report.AddString("Preview the report");
-    m_report.AddString("Print the report...");
-    m_report.AddString("Export the list...");
+    m_report.OfferCommands();
 }
 
 // The page around moves the focus, out of the bar as well.
@@ -149,24 +182,11 @@ void PackageBar::SetFilter(const PackageFilter& filter) {
 }
 
 void PackageBar::ShowSince() {
-    if (m_filter.tSince != 0) {
-        m_since.SetDate(CTime(m_filter.tSince));
-    } else {
-        // A blank picker still holds a day: that which it opens with.
-        m_since.SetDate(CTime::GetCurrentTime());
-        m_since.SetWindowText("");
-    }
+    ShowDay(m_since, m_filter.tSince);
 }
 
 void PackageBar::TakeFilter() {
-    m_filter = {Chosen(m_section), Chosen(m_architecture), 0};
-    if (!m_since.IsBlank()) {
-        int nYear = 0;
-        int nMonth = 0;
-        int nDay = 0;
-        m_since.GetDate(nYear, nMonth, nDay);
-        m_filter.tSince = static_cast<std::time_t>(CTime(nYear, nMonth, nDay, 0, 0, 0).GetTime());
-    }
+    m_filter = {Chosen(m_section), Chosen(m_architecture), DayIn(m_since)};
     m_owner.OnFilterChanged();
 }
 

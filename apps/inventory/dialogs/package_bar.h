@@ -5,6 +5,7 @@
 
 #include "QVControls.h"
 #include "model/package_filter.h"
+#include "package_strip.h"
 #include "resource.h"
 
 #include <afxwin.h>
@@ -20,6 +21,24 @@ protected:
     ~PackageBarOwner() = default;
 };
 
+// What stands for a section: the image of what is to be said of its packages.
+PackageImage ImageOf(const Section& section);
+// A name as an entry of a menu.
+CString MenuText(const std::string& strName);
+
+// The button that has commands about the report below it, and the reports that the user keeps.
+class ReportButton : public QVMenuButton {
+public:
+    void OfferCommands();
+    void OfferReports(const std::vector<std::string>& names);
+
+protected:
+    void OnMenuSelected(unsigned nIndex) override;
+
+private:
+    INT_PTR m_nCommands = 0;
+};
+
 class PackageBar : public CDialog {
 public:
     explicit PackageBar(PackageBarOwner& owner) : m_owner(owner) {}
@@ -32,6 +51,8 @@ public:
     const PackageFilter& Filter() const { return m_filter; }
     // Null: none.
     void ShowMarks(const Package* pPackage);
+    // The names of the reports that the user keeps.
+    void ShowReports(const std::vector<std::string>& names) { m_report.OfferReports(names); }
     void ShowImageColumn(bool bOwn) { m_imageColumn.SetCheck(bOwn); }
     bool HasFocusInJump() const { return ::GetFocus() == m_jump.m_hWnd; }
 
@@ -64,7 +85,7 @@ private:
     QVToolButton m_find;
     QVToolButton m_export;
     QVBitmapButton m_imageColumn;
-    QVMenuButton m_report;
+    ReportButton m_report;
     QVCheckWnd m_required;
     QVCheckWnd m_unusual;
 };

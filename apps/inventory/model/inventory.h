@@ -3,6 +3,7 @@
 #pragma once
 
 #include <ctime>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -18,6 +19,9 @@ struct Package {
     bool bUnusual = false;                  // in any state but properly installed
     bool bRequired = false;                 // the machine does not work without it
     std::vector<std::string> dependencies;  // one each, alternatives joined by " | "
+    std::vector<std::string> provides;      // names beside its own that others may ask for
+    // Its entry in the database, as that has it. Null: it comes from elsewhere.
+    std::shared_ptr<const std::string> pStanza;
 };
 
 struct Section {
@@ -36,6 +40,8 @@ private:
     std::vector<Section> m_sections;  // by name
 };
 
+// "1 package", "2 packages".
+std::string CountText(size_t n, const char* pszWhat);
 // "12 KiB", "3.4 MiB", "1.2 GiB".
 std::string SizeText(long nKiB);
 // Local day and minute; empty for 0.

@@ -1,8 +1,9 @@
 #include "model/package_database.h"
 
+#include "model/file_text.h"
+
 #include <charconv>
-#include <cstdio>
-#include <memory>
+#include <limits>
 
 namespace {
 
@@ -17,11 +18,11 @@ std::string_view Trimmed(std::string_view text) {
     return text.substr(nFirst, text.find_last_not_of(" \t\r") - nFirst + 1);
 }
 
-void AppendDependencies(std::string_view value, std::vector<std::string>& dependencies) {
+void AppendList(std::string_view value, std::vector<std::string>& list) {
     while (!value.empty()) {
         const size_t nComma = value.find(',');
         if (const std::string_view one = Trimmed(value.substr(0, nComma)); !one.empty()) {
-            dependencies.emplace_back(one);
+            list.emplace_back(one);
         }
         value.remove_prefix(nComma == std::string_view::npos ? value.size() : nComma + 1);
     }
@@ -37,10 +38,11 @@ public:
             ++m_nLine;
             const size_t nEnd = text.find('\n');
             const std::string_view line = text.substr(0, nEnd);
-            text.remove_prefix(nEnd == std::string_view::npos ? text.size() : nEnd + 1);
             if (!TakeLine(line)) {
                 return false;
             }
+            text.remove_prefix(nEnd == std::string_view::npos ? text.size() : nEnd + 1);
+            m_pEnd = text.data();
         }
         return EndStanza();
     }
@@ -70,7 +72,10 @@ private:
             line.substr(0, nColon).find(' ') != std::string_view::npos) {
             return Fail("the line is no field");
         }
-        m_bInStanza = true;
+        if (!m_bInStanza) {
+            m_bInStanza = true;
+            m_pStart = line.data();
+        }
         return TakeField(line.substr(0, nColon), Trimmed(line.substr(nColon + 1)));
     }
 
@@ -88,7 +93,9 @@ private:
         } else if (name == "Priority") {
             m_package.bRequired = value == "required";
         } else if (name == "Depends" || name == "Pre-Depends") {
-            AppendDependencies(value, m_package.dependencies);
+            AppendList(value, m_package.dependencies);
+        } else if (name == "Provides") {
+            AppendList(value, m_package.provides);
         } else if (name == "Status") {
             m_package.bUnusual = value != kInstalled;
             const size_t nLast = value.rfind(' ');
@@ -117,6 +124,7 @@ private:
         if (m_package.strSection.empty()) {
             m_package.strSection = "(none)";
         }
+        m_package.pStanza = std::make_shared<const std::string>(m_pStart, m_pEnd);
         m_packages.push_back(std::move(m_package));
         m_package = {};
         m_bInStanza = false;
@@ -127,6 +135,8 @@ private:
     DatabaseError& m_error;
     Package m_package;
     bool m_bInStanza = false;
+    const char* m_pStart = nullptr;  // of the stanza
+    const char* m_pEnd = nullptr;    // of the line before
     size_t m_nLine = 0;
 };
 
@@ -140,22 +150,12 @@ bool ParsePackages(std::string_view text, std::vector<Package>& packages, Databa
 bool ReadPackages(const std::string& strPath, std::vector<Package>& packages,
                   DatabaseError& error) {
     packages.clear();
-    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(strPath.c_str(), "rb"),
-                                                               std::fclose);
-    std::string strText;
-    bool bRead = file != nullptr;
-    if (bRead) {
-        char buffer[65536];
-        while (const size_t nRead = std::fread(buffer, 1, sizeof(buffer), file.get())) {
-            strText.append(buffer, nRead);
-        }
-        bRead = std::ferror(file.get()) == 0;
-    }
-    if (!bRead) {
-        error = {strPath + " cannot be read", 0};
+    const FileText file = ReadFileText(strPath, std::numeric_limits<size_t>::max());
+    if (!file.strProblem.empty()) {
+        error = {file.strProblem, 0};
         return false;
     }
-    if (!ParsePackages(strText, packages, error)) {
+    if (!ParsePackages(file.strText, packages, error)) {
         error.strMessage =
             strPath + ", line " + std::to_string(error.nLine) + ": " + error.strMessage;
         return false;

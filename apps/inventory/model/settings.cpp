@@ -109,4 +109,11 @@ Settings::Settings()
            {"colors.installed", "Installed", SettingKind::Choice, "black", Names(kTextColors)},
            {"colors.required", "Required", SettingKind::Choice, "blue", Names(kTextColors)},
            {"colors.unusual", "In an unusual state", SettingKind::Choice, "red",
-            Names(kTextColors)}}) {}
+            Names(kTextColors)},
+           {"start.page", "Page at the start", SettingKind::Text, "", {}},
+           {"start.report", "Report at the start", SettingKind::Text, "", {}},
+           {"start.filter",
+            "Packages at the start",
+            SettingKind::Choice,
+            "as they were left",
+            {"as they were left", "all of them"}}}) {}

@@ -44,8 +44,8 @@ private:
     std::vector<Setting> m_settings;
 };
 
-// Indices of the settings: first those that have a row in the settings page's grid, then the
-// report's, which have a dialog.
+// Indices of the settings: first those that have a row in the settings page's grid, then those of
+// the preferences.
 enum SettingIndex {
     kSettingTreeColumns,
     kSettingSeparator,
@@ -59,7 +59,10 @@ enum SettingIndex {
     kSettingPackages,
     kSettingColorInstalled,
     kSettingColorRequired,
-    kSettingColorUnusual
+    kSettingColorUnusual,
+    kSettingStartPage,    // its title; empty: the first one
+    kSettingStartReport,  // its name; empty: the standard one
+    kSettingStartFilter
 };
 
 class Settings : public KeyedValues {

@@ -113,6 +113,15 @@ const Package* PackageList::PackageOf(int nItem) {
     return nId < m_packages.size() ? m_packages[nId] : nullptr;
 }
 
+const Package* PackageList::Front() {
+    int nItem = GetNextItem(-1, LVNI_FOCUSED);
+    if (nItem == -1 && (nItem = GetNextItem(-1, LVNI_SELECTED)) != -1) {
+        SetItemState(nItem, LVIS_FOCUSED, LVIS_FOCUSED);
+        EnsureVisible(nItem, FALSE);
+    }
+    return PackageOf(nItem);
+}
+
 bool PackageList::FindNext(const CString& strText) {
     CString strWanted(strText);
     strWanted.MakeLower();

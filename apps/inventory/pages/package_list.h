@@ -28,6 +28,9 @@ public:
     bool HasImageColumn() const { return m_bImageColumn; }
 
     const Package* PackageOf(int nItem);
+    // The package with the focus. Where none has it, as after a refill, one that is selected gets
+    // it; null: none is.
+    const Package* Front();
     bool FindNext(const CString& strText);
     // Selects the package of that name and shows it. False if the list does not have it.
     bool GoTo(const CString& strName);

@@ -1,13 +1,17 @@
 #include "pages/package_tree.h"
 
+#include <algorithm>
 #include <iterator>
 
 namespace {
 
 // Version, size (right-aligned), state (centred) and summary, from the start of the text or of the
-// row. A stop behind the last column lets the summary take the room it needs.
+// row, at 96 dpi. A stop behind the last column lets the summary take the room it needs.
 constexpr int kIndentedStops[] = {190, 20310, 10380, 470, 3000};
-constexpr int kAbsoluteStops[] = {290, 20410, 10480, 570, 3000};
+constexpr int kAbsoluteStops[] = {310, 20430, 10500, 590, 3000};
+constexpr int kAlignment = 10000;  // what the control adds for it
+
+enum Level { kLevelRoot, kLevelSection, kLevelPackage };
 
 // Item data of the child that keeps a package's place until its rows are made.
 constexpr DWORD_PTR kPlaceholder = 1;
@@ -30,18 +34,25 @@ void PackageTree::SetUp() {
 void PackageTree::UseIndentedColumns(bool bIndented) {
     m_bIndented = bIndented;
     SetIndentTabs(bIndented);
-    UseTabs(bIndented ? kIndentedStops : kAbsoluteStops,
-            static_cast<int>(std::size(kAbsoluteStops)));
+    const int nDpi = CClientDC(this).GetDeviceCaps(LOGPIXELSX);
+    int aStops[std::size(kAbsoluteStops)];
+    std::transform(std::begin(bIndented ? kIndentedStops : kAbsoluteStops),
+                   std::end(bIndented ? kIndentedStops : kAbsoluteStops), aStops, [&](int nStop) {
+                       const int nPixels = nStop % kAlignment;
+                       return nStop - nPixels + ::MulDiv(nPixels, nDpi, 96);
+                   });
+    UseTabs(aStops, static_cast<int>(std::size(aStops)));
     SetRedraw(TRUE);  // fits the scroll bars to the new columns
 }
 
 void PackageTree::Show(const Inventory& inventory) {
     SetRedraw(FALSE);
     DeleteAllItems();
+    const HTREEITEM hRoot = InsertItem(MakeStyleText("All packages", 0), kImageSection,
+                                       kImageSectionOpen, TVI_ROOT, TVI_LAST);
     for (const Section& section : inventory.Sections()) {
         const CString strRow = MakeStyleText(section.strName.c_str(), 0);
-        HTREEITEM hSection =
-            InsertItem(strRow, kImageSection, kImageSectionOpen, TVI_ROOT, TVI_LAST);
+        HTREEITEM hSection = InsertItem(strRow, kImageSection, kImageSectionOpen, hRoot, TVI_LAST);
         SetItemData(hSection, reinterpret_cast<DWORD_PTR>(&section));
         for (const Package& package : section.packages) {
             HTREEITEM hPackage = AddPackage(hSection, package);
@@ -50,6 +61,7 @@ void PackageTree::Show(const Inventory& inventory) {
             }
         }
     }
+    Expand(hRoot, TVE_EXPAND, FALSE, FALSE);
     SetRedraw(TRUE);
 }
 
@@ -67,12 +79,51 @@ HTREEITEM PackageTree::AddPackage(HTREEITEM hSection, const Package& package) {
     return hPackage;
 }
 
-const Package* PackageTree::PackageOf(HTREEITEM hItem) {
-    const HTREEITEM hParent = GetParentItem(hItem);
-    if (hParent == nullptr || GetParentItem(hParent) != nullptr) {
-        return nullptr;
+int PackageTree::LevelOf(HTREEITEM hItem) {
+    int nLevel = -1;
+    for (; hItem != nullptr; hItem = GetParentItem(hItem)) {
+        ++nLevel;
     }
-    return reinterpret_cast<const Package*>(GetItemData(hItem));
+    return nLevel;
+}
+
+const Package* PackageTree::PackageOf(HTREEITEM hItem) {
+    return LevelOf(hItem) == kLevelPackage ? reinterpret_cast<const Package*>(GetItemData(hItem))
+                                           : nullptr;
+}
+
+bool PackageTree::IsSectionOrRoot(HTREEITEM hItem) {
+    const int nLevel = LevelOf(hItem);
+    return nLevel == kLevelRoot || nLevel == kLevelSection;
+}
+
+std::string PackageTree::SectionOf(HTREEITEM hItem) {
+    int nLevel = LevelOf(hItem);
+    for (; nLevel > kLevelSection; --nLevel) {
+        hItem = GetParentItem(hItem);
+    }
+    return nLevel == kLevelSection ? reinterpret_cast<const Section*>(GetItemData(hItem))->strName
+                                   : "";
+}
+
+void PackageTree::ShowSection(const std::string& strSection) {
+    const HTREEITEM hSelected = GetSelectedItem();
+    const HTREEITEM hRoot = GetRootItem();
+    const bool bIsThere = strSection.empty()
+                              ? hSelected != nullptr && LevelOf(hSelected) != kLevelSection
+                              : SectionOf(hSelected) == strSection;
+    if (bIsThere || hRoot == nullptr) {
+        return;
+    }
+    HTREEITEM hItem = hRoot;
+    if (!strSection.empty()) {
+        hItem = GetChildItem(hRoot);
+        while (hItem != nullptr && SectionOf(hItem) != strSection) {
+            hItem = GetNextSiblingItem(hItem);
+        }
+    }
+    SelectItem(hItem);
+    EnsureVisible(hItem);
 }
 
 void PackageTree::Fill(HTREEITEM hPackage) {
@@ -100,7 +151,7 @@ void PackageTree::AddDetail(HTREEITEM hPackage, const char* pszWhat, const std::
 
 void PackageTree::ExpandSections(UINT nCode) {
     SetRedraw(FALSE);
-    for (HTREEITEM h = GetRootItem(); h != nullptr; h = GetNextSiblingItem(h)) {
+    for (HTREEITEM h = GetChildItem(GetRootItem()); h != nullptr; h = GetNextSiblingItem(h)) {
         Expand(h, nCode, FALSE, FALSE);
     }
     SetRedraw(TRUE);
@@ -132,7 +183,7 @@ bool PackageTree::FindNext(const CString& strText) {
 
 PackageTree::Marked PackageTree::CountMarked() {
     Marked marked;
-    for (HTREEITEM hSection = GetRootItem(); hSection != nullptr;
+    for (HTREEITEM hSection = GetChildItem(GetRootItem()); hSection != nullptr;
          hSection = GetNextSiblingItem(hSection)) {
         for (HTREEITEM h = GetChildItem(hSection); h != nullptr; h = GetNextSiblingItem(h)) {
             if (GetCheck(h)) {

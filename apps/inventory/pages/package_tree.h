@@ -1,5 +1,5 @@
-// PackageTree: the inventory as a tree of sections, packages and what is to be said of each
-// package. The rows of a package are made when its branch is opened first.
+// PackageTree: the inventory as a tree: one row for all of it, below it sections, packages and what
+// is to be said of each package. The rows of a package are made when its branch is opened first.
 
 #pragma once
 
@@ -16,6 +16,12 @@ public:
 
     // The package of an item at the package level, null for others.
     const Package* PackageOf(HTREEITEM hItem);
+    // The section that an item is, or lies in; empty for the row above all of them.
+    std::string SectionOf(HTREEITEM hItem);
+    bool IsSectionOrRoot(HTREEITEM hItem);
+    // Selects a section, or all of them for an empty name, and tells nobody. What is selected
+    // already within it stays.
+    void ShowSection(const std::string& strSection);
     // Makes the rows below a package, if that is still to be done.
     void Fill(HTREEITEM hPackage);
     // All branches of sections open or closed.
@@ -36,6 +42,8 @@ public:
     Marked CountMarked();
 
 private:
+    // 0 for the row above all; -1 for no item.
+    int LevelOf(HTREEITEM hItem);
     HTREEITEM AddPackage(HTREEITEM hSection, const Package& package);
     void AddDetail(HTREEITEM hPackage, const char* pszWhat, const std::string& strValue,
                    int nImage);

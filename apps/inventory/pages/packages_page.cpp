@@ -1,7 +1,6 @@
 #include "pages/packages_page.h"
 
 #include "model/report_settings.h"
-#include "package_strip.h"
 #include "resource.h"
 #include "sources/settings_file.h"
 
@@ -13,23 +12,13 @@ BEGIN_MESSAGE_MAP(PackagesPage, Page)
     ON_COMMAND(ID_LIST_EXPORT, OnExport)
     ON_COMMAND(ID_PACKAGES_EXPORT, OnExport)
     ON_COMMAND(IDOK, OnEnter)
-    ON_COMMAND_RANGE(ID_LIST_IMAGE_COLUMN, ID_LIST_PRINT_SUMMARY, OnFlag)
-    ON_UPDATE_COMMAND_UI_RANGE(ID_LIST_IMAGE_COLUMN, ID_LIST_PRINT_SUMMARY, OnUpdateFlag)
 END_MESSAGE_MAP()
 
 int PackagesPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
-    m_frame.SetListStyle(WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_REPORT | LVS_SHOWSELALWAYS |
-                         LVS_OWNERDRAWFIXED);
-    m_frame.SetListID(IDC_LIST);
-    m_frame.SetImageInfo(IDB_PACKAGES, kStripMask, kStripImageWidth);
-    m_frame.SetHeaderText("Packages: a click on a heading sorts, a second turns the order");
-    CRect rcNone(0, 0, 0, 0);
     if (Page::OnCreate(lpCreateStruct) == -1 || !m_bar.Create(this) ||
-        !m_frame.Create(WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, rcNone, this, IDC_LIST_FRAME)) {
+        !m_browser.Create(this, &m_font)) {
         return -1;
     }
-    m_frame.ModifyStyleEx(0, WS_EX_CONTROLPARENT);  // Tab goes through it to the list
-    List().SetUp(&m_font);
     return 0;
 }
 
@@ -38,93 +27,65 @@ void PackagesPage::OnSize(UINT nType, int cx, int cy) {
     CRect rc;
     m_bar.GetWindowRect(&rc);
     m_bar.MoveWindow(0, 0, cx, rc.Height());
-    m_frame.MoveWindow(0, rc.Height(), cx, std::max(cy - rc.Height(), 0));
+    m_browser.MoveTo(CRect(0, rc.Height(), cx, std::max(cy, rc.Height())));
 }
 
-// Tab, mnemonics and Enter go around in bar and list as in a dialog. What a dialog sees it keeps,
+// --- Keyboard and commands
+
+// Tab, mnemonics and Enter go around in bar and panes as in a dialog. What a dialog sees it keeps,
 // so the frame's accelerators come first.
 BOOL PackagesPage::PreTranslateMessage(MSG* pMsg) {
+    const HWND hFocus = ::GetFocus();
+    if (hFocus != nullptr && ::IsChild(m_hWnd, hFocus)) {
+        m_hLastFocus = hFocus;
+    }
     return Page::PreTranslateMessage(pMsg) || GetParentFrame()->PreTranslateMessage(pMsg) ||
            PreTranslateInput(pMsg);
 }
 
-void PackagesPage::SetInventory(const Inventory& inventory) {
-    m_pInventory = &inventory;
-    m_bar.SetInventory(inventory);
-    Refill();
+CWnd& PackagesPage::Control() {
+    const bool bThere = m_hLastFocus != nullptr && ::IsChild(m_hWnd, m_hLastFocus) &&
+                        ::IsWindowEnabled(m_hLastFocus) && ::IsWindowVisible(m_hLastFocus);
+    return bThere ? *CWnd::FromHandle(m_hLastFocus) : List();
 }
 
-// --- The filter
-
-void PackagesPage::UseFilterFile(const CString& strPath) {
-    m_strFilterFile = strPath;
-    FilterValues values;
-    LoadSettings(strPath, values);  // damaged: all packages show, and the file is set aside
-    m_bar.SetFilter(values.Filter());
+bool PackagesPage::HasFocus(CWnd& wnd) {
+    const HWND hFocus = Control();
+    return hFocus == wnd.m_hWnd || ::IsChild(wnd.m_hWnd, hFocus);
 }
 
-void PackagesPage::OnDestroy() {
-    if (!m_strFilterFile.IsEmpty()) {
-        SaveSettings(m_strFilterFile, FilterValues(m_bar.Filter()));
+BOOL PackagesPage::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
+    if (Page::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) {
+        return TRUE;
     }
-    Page::OnDestroy();
-}
-
-void PackagesPage::OnFilterChanged() {
-    Refill();
-}
-
-void PackagesPage::Refill() {
-    if (m_pInventory == nullptr) {
-        return;
+    const bool bCommand = nCode == CN_COMMAND || nCode == static_cast<int>(CN_UPDATE_COMMAND_UI);
+    const BOOL bDone = bCommand && m_browser.OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+    if (bDone && nCode == CN_COMMAND) {
+        m_bar.ShowImageColumn(List().HasImageColumn());
     }
-    List().Show(*m_pInventory, m_bar.Filter());
-    m_strMessage.Empty();
-    if (!m_bar.Filter().IsOpen()) {
-        m_strMessage.Format("%d of %u packages", List().GetItemCount(),
-                            static_cast<unsigned>(m_pInventory->CountPackages()));
-    }
-    m_bar.ShowMarks(List().PackageOf(List().GetNextItem(-1, LVNI_FOCUSED)));
-}
-
-void PackagesPage::OnJump(const CString& strName) {
-    if (!List().GoTo(strName)) {
-        m_strMessage.Format("The filter hides %s", static_cast<LPCTSTR>(strName));
-    }
+    return bDone;
 }
 
 void PackagesPage::OnEnter() {
     if (m_bar.HasFocusInJump()) {
         List().SetFocus();
+    } else if (HasFocus(m_browser.Details())) {
+        m_browser.Details().GoToTarget();
     }
 }
 
-void PackagesPage::UseSettings(const Settings& settings) {
-    m_exporter.UseSettings(settings);
-    const auto color = [&](int nSetting) {
-        const NamedColor& named = kTextColors[settings.Choice(nSetting)];
-        return RGB(named.red, named.green, named.blue);
-    };
-    List().UseColors(color(kSettingColorInstalled), color(kSettingColorRequired),
-                     color(kSettingColorUnusual));
+bool PackagesPage::FindNext(const CString& strText) {
+    return HasFocus(Tree()) ? Tree().FindNext(strText) : List().FindNext(strText);
 }
 
 CString PackagesPage::MarkedText() {
-    const PackageList::Selected selected = List().CountSelected();
-    CString strText;
-    strText.Format("%d packages selected, %s", selected.nPackages,
-                   SizeText(selected.nSizeKiB).c_str());
-    return strText;
-}
-
-void PackagesPage::OnItemChanged(NMHDR* pNMHDR, LRESULT* pResult) {
-    const auto& change = *reinterpret_cast<NMLISTVIEW*>(pNMHDR);
-    *pResult = 0;
-    if ((change.uNewState & LVIS_FOCUSED) != 0) {
-        const Package* pPackage = List().PackageOf(change.iItem);
-        m_strMessage = pPackage != nullptr ? pPackage->strSummary.c_str() : "";
-        m_bar.ShowMarks(pPackage);
+    if (HasFocus(Tree())) {
+        return m_browser.TreeFrame().MarkedText();
     }
+    const PackageList::Selected selected = List().CountSelected();
+    return (CountText(static_cast<size_t>(selected.nPackages), "package") + " selected, " +
+            SizeText(selected.nSizeKiB))
+        .c_str();
 }
 
 void PackagesPage::OnExport() {
@@ -137,55 +98,118 @@ void PackagesPage::OnExport() {
     }
 }
 
-// --- The list's settings
+// --- What is shown
 
-bool PackagesPage::Flag(UINT nID) {
-    switch (nID) {
-        case ID_LIST_IMAGE_COLUMN:
-            return List().HasImageColumn();
-        case ID_LIST_CENTER_IMAGES:
-            return m_bCenterImages;
-        case ID_LIST_ALLOW_SELECTION:
-            return m_bAllowSelection;
-        case ID_LIST_STRONG_SELECTION:
-            return m_bStrongSelection;
-        case ID_LIST_MANY_SELECTED:
-            return (List().GetStyle() & LVS_SINGLESEL) == 0;
-        default:
-            return List().IsColumnExcludedFromPrinting(List().SummaryColumn()) != FALSE;
+void PackagesPage::UseDatabase(const CString& strFolder) {
+    m_store = strFolder.IsEmpty() ? PackageStore() : PackageStore(std::string(strFolder));
+}
+
+void PackagesPage::SetInventory(const Inventory& inventory) {
+    m_pInventory = &inventory;
+    m_browser.Details().UseSource(inventory, m_store);
+    m_browser.TreeFrame().Show(inventory);
+    m_bar.SetInventory(inventory);
+    Refill();
+}
+
+void PackagesPage::OnFilterChanged() {
+    Refill();
+}
+
+void PackagesPage::Refill() {
+    if (m_pInventory == nullptr) {
+        return;
+    }
+    m_browser.TreeFrame().ShowSection(m_bar.Filter().strSection);
+    List().Show(*m_pInventory, m_bar.Filter());
+    ShowPackage(List().Front());
+    m_strMessage.Empty();
+    if (!m_bar.Filter().IsOpen()) {
+        m_strMessage.Format("%d of %u packages", List().GetItemCount(),
+                            static_cast<unsigned>(m_pInventory->CountPackages()));
     }
 }
 
-void PackagesPage::OnFlag(UINT nID) {
-    const bool bSet = !Flag(nID);
-    switch (nID) {
-        case ID_LIST_IMAGE_COLUMN:
-            List().UseImageColumn(bSet);
-            m_bar.ShowImageColumn(bSet);
-            break;
-        case ID_LIST_CENTER_IMAGES:
-            List().SetImageCenterVertically(m_bCenterImages = bSet);
-            break;
-        case ID_LIST_ALLOW_SELECTION:
-            List().SetAllowSel(m_bAllowSelection = bSet);
-            break;
-        case ID_LIST_STRONG_SELECTION:
-            List().SetAlwaysHighlightSel(m_bStrongSelection = bSet);
-            break;
-        case ID_LIST_MANY_SELECTED:
-            List().SetItemState(-1, 0, LVIS_SELECTED);
-            List().ModifyStyle(bSet ? LVS_SINGLESEL : 0, bSet ? 0 : LVS_SINGLESEL);
-            break;
-        default:
-            List().ExcludeColumnFromPrinting(List().SummaryColumn());
-            break;
-    }
-    List().InvalidateData(FALSE);
+void PackagesPage::ShowPackage(const Package* pPackage) {
+    m_bar.ShowMarks(pPackage);
+    m_browser.Details().Show(pPackage);
 }
 
-void PackagesPage::OnUpdateFlag(CCmdUI* pCmdUI) {
-    const bool bSet = Flag(pCmdUI->m_nID);
-    pCmdUI->SetCheck(bSet);
-    // What was left off paper stays off.
-    pCmdUI->Enable(pCmdUI->m_nID != ID_LIST_PRINT_SUMMARY || !bSet);
+void PackagesPage::OnItemChanged(NMHDR* pNMHDR, LRESULT* pResult) {
+    const auto& change = *reinterpret_cast<NMLISTVIEW*>(pNMHDR);
+    *pResult = 0;
+    if ((change.uNewState & LVIS_FOCUSED) != 0) {
+        const Package* pPackage = List().PackageOf(change.iItem);
+        m_strMessage = pPackage != nullptr ? pPackage->strSummary.c_str() : "";
+        ShowPackage(pPackage);
+    }
+}
+
+void PackagesPage::UseSection(const std::string& strSection) {
+    PackageFilter filter = m_bar.Filter();
+    if (filter.strSection != strSection) {
+        filter.strSection = strSection;
+        m_bar.SetFilter(filter);
+        Refill();
+    }
+}
+
+void PackagesPage::OnSectionChosen(const std::string& strSection) {
+    UseSection(strSection);
+}
+
+void PackagesPage::OnPackageChosen(const Package& package) {
+    if (!m_bar.Filter().strSection.empty()) {
+        UseSection(package.strSection);
+    }
+    OnJump(package.strName.c_str());
+}
+
+void PackagesPage::OnJump(const CString& strName) {
+    if (!List().GoTo(strName)) {
+        m_strMessage.Format("The filter hides %s", static_cast<LPCTSTR>(strName));
+    }
+}
+
+// The way from one package to another leads out of its section.
+void PackagesPage::OnGoTo(const CString& strName) {
+    if (!List().GoTo(strName)) {
+        UseSection("");
+        OnJump(strName);
+    }
+}
+
+// --- What is kept
+
+void PackagesPage::UseFolder(const CString& strFolder) {
+    m_strFilterFile = strFolder + "filter.txt";
+    m_strLayoutFile = strFolder + "layout.txt";
+    FilterValues filter;
+    LoadSettings(m_strFilterFile, filter);  // damaged: all packages show, and the file is set aside
+    m_bar.SetFilter(filter.Filter());
+    LayoutValues layout;
+    LoadSettings(m_strLayoutFile, layout);
+    m_browser.SetLayout(layout.Layout());
+}
+
+void PackagesPage::KeepLayout() {
+    SaveSettings(m_strLayoutFile, LayoutValues(m_browser.Layout()));
+}
+
+void PackagesPage::OnDestroy() {
+    if (!m_strFilterFile.IsEmpty()) {
+        SaveSettings(m_strFilterFile, FilterValues(m_bar.Filter()));
+        KeepLayout();
+    }
+    Page::OnDestroy();
+}
+
+void PackagesPage::UseSettings(const Settings& settings) {
+    m_exporter.UseSettings(settings);
+    const auto color = [&](int nSetting) {
+        const NamedColor& named = kTextColors[settings.Choice(nSetting)];
+        return RGB(named.red, named.green, named.blue);
+    };
+    List().UseColors(color(kSettingColorInstalled), color(kSettingColorRequired),
+                     color(kSettingColorUnusual));
 }

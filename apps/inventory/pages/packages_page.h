@@ -1,53 +1,67 @@
-// PackagesPage: the packages as a sorted report below a bar that filters it, with export and the
-// list's own settings.
+// PackagesPage: the packages, as a tree of sections, a sorted list and the details of one, below a
+// bar that filters them. The bar holds which packages are shown: a section chosen in the tree is a
+// choice in the bar, and the tree follows the bar.
 
 #pragma once
 
 #include "dialogs/package_bar.h"
 #include "model/settings.h"
 #include "pages/exporting.h"
-#include "pages/package_list.h"
+#include "pages/package_browser.h"
 #include "pages/page.h"
 
-class PackagesPage : public Page, private PackageBarOwner {
+class PackagesPage : public Page, private PackageBarOwner, private BrowserOwner {
 public:
     LPCSTR Title() const override { return "Packages"; }
     void SetInventory(const Inventory& inventory) override;
-    CWnd& Control() override { return List(); }
+    // Where the focus was last.
+    CWnd& Control() override;
     CString MarkedText() override;
-    bool FindNext(const CString& strText) override { return List().FindNext(strText); }
+    bool FindNext(const CString& strText) override;
 
-    PackageList& List() { return *static_cast<PackageList*>(m_frame.GetListBox()); }
+    PackageBrowser& Browser() { return m_browser; }
+    PackageTree& Tree() { return m_browser.Tree(); }
+    PackageList& List() { return m_browser.List(); }
     PackageBar& Bar() { return m_bar; }
-    // Shows what the file says, and writes there what the filter is at the end.
-    void UseFilterFile(const CString& strPath);
+    // The files beside the one with the settings that keep the filter and the layout: shows what
+    // they say, and writes there what is in force at the end.
+    void UseFolder(const CString& strFolder);
     // What the export dialog starts with, and the colours of the rows.
     void UseSettings(const Settings& settings);
+    // Of the status file, with a separator at the end; empty: there is none. Call before
+    // SetInventory.
+    void UseDatabase(const CString& strFolder);
+    void KeepLayout();
 
 protected:
     BOOL PreTranslateMessage(MSG* pMsg) override;
+    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
     afx_msg void OnDestroy();
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnItemChanged(NMHDR* pNMHDR, LRESULT* pResult);
     afx_msg void OnExport();
     afx_msg void OnEnter();
-    afx_msg void OnFlag(UINT nID);
-    afx_msg void OnUpdateFlag(CCmdUI* pCmdUI);
     DECLARE_MESSAGE_MAP()
 
 private:
     void OnFilterChanged() override;
     void OnJump(const CString& strName) override;
+    void OnSectionChosen(const std::string& strSection) override;
+    void OnPackageChosen(const Package& package) override;
+    void OnGoTo(const CString& strName) override;
+    void Say(const CString& strMessage) override { m_strMessage = strMessage; }
+    void UseSection(const std::string& strSection);
     void Refill();
-    bool Flag(UINT nID);
+    void ShowPackage(const Package* pPackage);
+    bool HasFocus(CWnd& wnd);
 
     const Inventory* m_pInventory = nullptr;
+    PackageStore m_store;
     PackageBar m_bar{*this};
+    PackageBrowser m_browser{*this};
     CString m_strFilterFile;
-    QVListHeaderWnd m_frame{RUNTIME_CLASS(PackageList)};
+    CString m_strLayoutFile;
     Exporter m_exporter;
-    bool m_bCenterImages = true;
-    bool m_bAllowSelection = true;
-    bool m_bStrongSelection = false;
+    HWND m_hLastFocus = nullptr;
 };

@@ -87,6 +87,19 @@ void PageHost::ShowPage(const Page& page) {
     Show(static_cast<size_t>(std::find(m_pages.begin(), m_pages.end(), &page) - m_pages.begin()));
 }
 
+void PageHost::ShowPage(const std::string& strTitle) {
+    const std::vector<std::string> titles = Titles();
+    Show(static_cast<size_t>(std::find(titles.begin(), titles.end(), strTitle) - titles.begin()));
+}
+
+std::vector<std::string> PageHost::Titles() const {
+    std::vector<std::string> titles;
+    for (const Page* pPage : m_pages) {
+        titles.emplace_back(pPage->Title());
+    }
+    return titles;
+}
+
 void PageHost::OnTab(NMHDR*, LRESULT* pResult) {
     *pResult = 0;
     Show(static_cast<size_t>(m_tabs.GetCurSel()));

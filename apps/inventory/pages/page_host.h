@@ -6,6 +6,7 @@
 
 #include <afxcmn.h>
 
+#include <string>
 #include <vector>
 
 class PageHost : public CWnd {
@@ -14,6 +15,9 @@ public:
     BOOL Add(Page& page);
     // Brings one of the pages to the front.
     void ShowPage(const Page& page);
+    // A title that no page has leaves the page that is in front.
+    void ShowPage(const std::string& strTitle);
+    std::vector<std::string> Titles() const;
     Page& Active() { return *m_pages[m_nActive]; }
     void SetInventory(const Inventory& inventory);
     CTabCtrl& Tabs() { return m_tabs; }

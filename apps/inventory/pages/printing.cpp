@@ -2,12 +2,6 @@
 
 #include <algorithm>
 
-namespace {
-
-constexpr char kFace[] = "Tahoma";
-
-}  // namespace
-
 PrinterChoice::PrinterChoice(CWnd* pParent)
     : CPrintDialog(FALSE, PD_ALLPAGES | PD_USEDEVMODECOPIES | PD_NOSELECTION, pParent) {}
 
@@ -85,9 +79,9 @@ bool PrintJob(CDC& dc, LPCSTR pszName, unsigned nFirst, unsigned nLast, LPCSTR p
     return false;
 }
 
-void MakePrintFont(CFont& font, CDC& dc, int nPoints, int nWeight) {
+void MakePrintFont(CFont& font, CDC& dc, int nPoints, int nWeight, LPCSTR pszFace) {
     const int nHeight = -::MulDiv(nPoints, dc.GetDeviceCaps(LOGPIXELSY), 72);
     font.CreateFont(nHeight, 0, 0, 0, nWeight, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
                     OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
-                    DEFAULT_PITCH | FF_DONTCARE, kFace);
+                    DEFAULT_PITCH | FF_DONTCARE, pszFace);
 }

@@ -32,4 +32,4 @@ bool PrintJob(CDC& dc, LPCSTR pszName, unsigned nFirst, unsigned nLast, LPCSTR p
               const std::function<void(unsigned)>& printPage);
 
 // A font by its size in points on a device.
-void MakePrintFont(CFont& font, CDC& dc, int nPoints, int nWeight);
+void MakePrintFont(CFont& font, CDC& dc, int nPoints, int nWeight, LPCSTR pszFace = "Tahoma");

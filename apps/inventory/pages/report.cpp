@@ -2,29 +2,13 @@
 
 #include "model/report_settings.h"
 #include "pages/printing.h"
-
-#include <algorithm>
+#include "resource.h"
 
 namespace {
 
 constexpr double kInch = 25.4;  // in millimetres
 // Where there is no printer to tell its own paper.
 constexpr const Paper& kUsualPaper = kPapers[1];
-
-enum ReportedPackages { kReportAll, kReportRequired, kReportUnusual };
-
-long SizeOf(const Section& section) {
-    long nKiB = 0;
-    for (const Package& package : section.packages) {
-        nKiB += package.nSizeKiB;
-    }
-    return nKiB;
-}
-
-size_t UnusualIn(const Section& section) {
-    return static_cast<size_t>(std::count_if(section.packages.begin(), section.packages.end(),
-                                             [](const Package& p) { return p.bUnusual; }));
-}
 
 CString WithThousands(size_t n) {
     CString str;
@@ -37,53 +21,49 @@ CString WithThousands(size_t n) {
 
 }  // namespace
 
-Report::Report(const Inventory& inventory, const ReportOptions& options, const Settings& settings,
-               QVListCtrlEx& columns, QVListCtrlEx& list, CDC& dc)
-    : m_options(options), m_settings(settings) {
-    Choose(inventory);
+Report::Report(const Inventory& inventory, const ReportDefinition& definition,
+               const Settings& settings, CWnd& parent, QVListCtrlEx& list, CDC& dc)
+    : m_definition(definition), m_settings(settings), m_content(inventory, definition) {
     MeasurePaper(dc);
     MakeFonts(dc);
     m_pEngine = std::make_unique<QVPrintEngine>(&dc, &m_fontHeader, &m_fontNormal, &m_fontSection);
     m_pEngine->SetPrintAllRows(true);
-    if (options.bIntroduction) {
+    m_pEngine->AddText(Text(m_definition.strTitle), &dc, &m_fontTitle);
+    if (m_definition.bIntroduction) {
         AddIntroduction(dc);
     }
-    if (options.bSections || options.bTotals) {
-        for (const Section& section : m_inventory.Sections()) {
-            AddSection(section, columns, dc);
+    if (m_content.all.packages.empty()) {
+        m_pEngine->AddBreak();
+        m_pEngine->AddText("No package is what the report asks for.", &dc, nullptr);
+    } else if (m_definition.tables == ReportTables::One) {
+        m_pEngine->AddSectionHeader(m_content.all.strName.c_str());
+        AddTable(m_content.all, parent, dc);
+    }
+    if (m_definition.tables == ReportTables::BySection ||
+        m_definition.totals == ReportTotals::BySection) {
+        for (const ReportGroup& section : m_content.sections) {
+            AddSection(section, parent, dc);
         }
     }
-    if (options.bList) {
-        m_pEngine->AddSectionHeader("All packages");
+    if (m_definition.totals == ReportTotals::Overall) {
+        AddSectionTotals(parent, dc);
+    }
+    if (m_definition.bList) {
+        m_pEngine->AddSectionHeader("The list as it is sorted");
         m_pEngine->AddList(&list, &dc);
     }
     m_nPages = m_pEngine->Paginate(m_rcText);
 }
 
-void Report::Choose(const Inventory& inventory) {
-    const int nPackages = m_settings.Choice(kSettingPackages);
-    std::vector<Package> packages;
-    for (const Section& section : inventory.Sections()) {
-        std::copy_if(
-            section.packages.begin(), section.packages.end(), std::back_inserter(packages),
-            [&](const Package& package) {
-                return nPackages == kReportAll ||
-                       (nPackages == kReportRequired ? package.bRequired : package.bUnusual);
-            });
-    }
-    m_inventory.SetPackages(std::move(packages));
-}
-
-CString Report::Text(int nSetting) const {
+CString Report::Text(const std::string& strText) const {
     char szMachine[MAX_COMPUTERNAME_LENGTH + 1] = "";
     DWORD nLength = sizeof(szMachine);
     ::GetComputerName(szMachine, &nLength);
     const CString strDate = CTime::GetCurrentTime().Format("%Y-%m-%d");
-    return ReplaceCodes(
-               m_settings.Value(nSetting),
-               {{kCodeMachine, szMachine},
-                {kCodeDate, static_cast<LPCSTR>(strDate)},
-                {kCodePackages, static_cast<LPCSTR>(WithThousands(m_inventory.CountPackages()))}})
+    const CString strPackages = WithThousands(m_content.all.totals.nPackages);
+    return ReplaceCodes(strText, {{kCodeMachine, szMachine},
+                                  {kCodeDate, static_cast<LPCSTR>(strDate)},
+                                  {kCodePackages, static_cast<LPCSTR>(strPackages)}})
         .c_str();
 }
 
@@ -109,75 +89,107 @@ void Report::MeasurePaper(CDC& dc) {
 }
 
 void Report::MakeFonts(CDC& dc) {
-    MakePrintFont(m_fontNormal, dc, 8, FW_NORMAL);
-    MakePrintFont(m_fontHeader, dc, 9, FW_BOLD);
-    MakePrintFont(m_fontSection, dc, 14, FW_BOLD);
+    const auto make = [&](CFont& font, const ReportFont& wanted, int nMorePoints, int nWeight) {
+        MakePrintFont(font, dc, wanted.nPoints + nMorePoints, nWeight, wanted.strFace.c_str());
+    };
+    make(m_fontTitle, m_definition.titleFont, 0, FW_BOLD);
+    make(m_fontSection, m_definition.headingFont, 0, FW_BOLD);
+    make(m_fontHeader, m_definition.textFont, 1, FW_BOLD);
+    make(m_fontNormal, m_definition.textFont, 0, FW_NORMAL);
     const qv::SelectGuard select(dc, &m_fontNormal);
     m_nLineHeight = dc.GetTextExtent("0", 1).cy;
 }
 
 void Report::AddIntroduction(CDC& dc) {
-    long nKiB = 0;
-    size_t nUnusual = 0;
-    for (const Section& section : m_inventory.Sections()) {
-        nKiB += SizeOf(section);
-        nUnusual += UnusualIn(section);
-    }
-    m_pEngine->AddHeader(Text(kSettingTitle), &dc);
+    const PackageTotals& totals = m_content.all.totals;
     m_pEngine->AddBreak();
     CString strText;
+    const size_t nSections = m_content.sections.size();
     strText.Format(
-        "This report lists what the package database of the machine holds: %s packages "
-        "in %s sections, which take %s on its disks together. Each section begins with "
-        "its packages, ordered by name, with their versions, sizes and states, and ends "
-        "with its totals. Packages that are in any state but properly installed are "
+        "This report lists %s packages of the machine's package database, in %s section%s; they "
+        "take %s on its disks together. Packages that are in any state but properly installed are "
         "counted apart; at this moment there are %s of them.",
-        static_cast<LPCTSTR>(WithThousands(m_inventory.CountPackages())),
-        static_cast<LPCTSTR>(WithThousands(m_inventory.Sections().size())), SizeText(nKiB).c_str(),
-        static_cast<LPCTSTR>(WithThousands(nUnusual)));
+        static_cast<LPCTSTR>(WithThousands(totals.nPackages)),
+        static_cast<LPCTSTR>(WithThousands(nSections)), nSections == 1 ? "" : "s",
+        SizeText(totals.nSizeKiB).c_str(), static_cast<LPCTSTR>(WithThousands(totals.nUnusual)));
     m_pEngine->AddText(strText, &dc, nullptr);
 }
 
-void Report::AddSection(const Section& section, QVListCtrlEx& columns, CDC& dc) {
+void Report::AddSection(const ReportGroup& section, CWnd& parent, CDC& dc) {
     m_pEngine->AddBreak();
     m_pEngine->AddSectionHeader(section.strName.c_str());
-    if (m_options.bSections) {
-        CStringArray& rows = m_rows.emplace_back();
-        for (const Package& package : section.packages) {
-            CString strRow;
-            strRow.Format("%s\t%s\t%s\t%s\t%s", package.strName.c_str(), package.strVersion.c_str(),
-                          SizeText(package.nSizeKiB).c_str(), package.strState.c_str(),
-                          package.strSummary.c_str());
-            rows.Add(strRow);
-        }
-        m_pEngine->AddStringList(&rows, &columns, &dc);
+    if (m_definition.tables == ReportTables::BySection) {
+        AddTable(section, parent, dc);
     }
-    if (m_options.bTotals) {
+    if (m_definition.totals == ReportTotals::BySection) {
+        m_pEngine->AddBreak();
+        m_pEngine->AddGroupHeader("Totals");
         AddTotals(section, dc);
     }
 }
 
-void Report::AddTotals(const Section& section, CDC& dc) {
+void Report::AddTable(const ReportGroup& group, CWnd& parent, CDC& dc) {
+    ReportTable& table = m_tables.emplace_back();
+    const ReportFonts fonts{m_fontHeader, m_fontNormal};
+    if (!table.Make(parent, m_definition, dc, fonts, m_rcText.Width())) {
+        m_bTables = false;
+        return;
+    }
+    table.Fill(group.packages);
+    m_pEngine->AddList(&table, &dc);
+}
+
+void Report::AddTotals(const ReportGroup& group, CDC& dc) {
     using Item = QVPeDataLabeledListItem;
-    m_pEngine->AddBreak();
-    m_pEngine->AddGroupHeader("Totals");
     QVPeDataLabeledList& totals = m_pEngine->AddLabeledDataList(&dc);
-    totals.SetIndented(m_options.bSections);
+    totals.SetIndented(m_definition.tables == ReportTables::BySection);
     totals.SetFitNumbers(true);
-    totals.AddData("Packages:", WithThousands(section.packages.size()), Item::Right);
-    totals.AddData("KiB on disk:", WithThousands(static_cast<size_t>(SizeOf(section))),
+    totals.AddData("Packages:", WithThousands(group.totals.nPackages), Item::Right);
+    totals.AddData("KiB on disk:", WithThousands(static_cast<size_t>(group.totals.nSizeKiB)),
                    Item::Right);
-    totals.AddData("In an unusual state:", WithThousands(UnusualIn(section)), Item::Right);
-    if (!section.packages.empty()) {
-        const auto largest = std::max_element(
-            section.packages.begin(), section.packages.end(),
-            [](const Package& a, const Package& b) { return a.nSizeKiB < b.nSizeKiB; });
-        totals.AddData("Largest:", largest->strName.c_str(), Item::Left);
+    totals.AddData("In an unusual state:", WithThousands(group.totals.nUnusual), Item::Right);
+    if (group.totals.pLargest != nullptr) {
+        totals.AddData("Largest:", group.totals.pLargest->strName.c_str(), Item::Left);
     }
 }
 
+// A row for each section, and the sums below.
+void Report::AddSectionTotals(CWnd& parent, CDC& dc) {
+    m_totals.ModifyDefStyle(WS_VISIBLE | WS_TABSTOP, 0);
+    if (!m_totals.Create(IDC_COLUMNS, CRect(0, 0, 0, 0), &parent)) {
+        m_bTables = false;
+        return;
+    }
+    m_totals.SetFont(parent.GetFont(), FALSE);
+    m_totals.AddHeader("Section\tPackages\tKiB on disk\tUnusual");
+    for (int nCol = 1; nCol < m_totals.NumColumns(); ++nCol) {
+        m_totals.SetColFormat(nCol, LVCFMT_RIGHT);
+        m_totals.SetHdrFormat(nCol, LVCFMT_RIGHT);
+    }
+    m_totals.SetupColumnsFromString("a-section-with-a-long-name\t99,999~\t99,999,999~\t9,999~");
+    for (const ReportGroup& section : m_content.sections) {
+        CString strRow;
+        strRow.Format(
+            "%s\t%s\t%s\t%s", section.strName.c_str(),
+            static_cast<LPCTSTR>(WithThousands(section.totals.nPackages)),
+            static_cast<LPCTSTR>(WithThousands(static_cast<size_t>(section.totals.nSizeKiB))),
+            static_cast<LPCTSTR>(WithThousands(section.totals.nUnusual)));
+        m_totalRows.Add(strRow);
+    }
+    m_pEngine->AddBreak();
+    m_pEngine->AddSectionHeader("Totals");
+    m_pEngine->AddStringList(&m_totalRows, &m_totals, &dc);
+    m_pEngine->AddBreak();
+    AddTotals(m_content.all, dc);
+}
+
 void Report::PrintPage(CDC& dc, unsigned nPage) {
-    m_pEngine->PrintPage(&dc, m_rcText, nPage);
+    {
+        // The engine's texts are in the colour that the context has.
+        const qv::ColorGuard colors(dc);
+        dc.SetTextColor(ReportColorOf(m_definition, kReportTexts));
+        m_pEngine->PrintPage(&dc, m_rcText, nPage);
+    }
     const qv::SelectGuard select(dc, &m_fontNormal);
     CRect rcLine(m_rcText);
     CString strText("Inventory");
@@ -190,5 +202,5 @@ void Report::PrintPage(CDC& dc, unsigned nPage) {
     rcLine.bottom = rcLine.top + m_nLineHeight;
     strText.Format("Page %u of %u", nPage, m_nPages);
     dc.DrawText(strText, &rcLine, DT_SINGLELINE | DT_NOPREFIX | DT_CENTER);
-    dc.DrawText(Text(kSettingFooter), &rcLine, DT_SINGLELINE | DT_NOPREFIX);
+    dc.DrawText(Text(m_settings.Value(kSettingFooter)), &rcLine, DT_SINGLELINE | DT_NOPREFIX);
 }

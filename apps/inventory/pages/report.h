@@ -1,33 +1,28 @@
 // Report: the inventory as a document for a printer, or for a preview of one.
 //
 // Pages are laid out for the device context given at construction, which must outlive the report,
-// as must the inventory and the lists. PrintPage draws on that device context or on one that stands
-// in for it.
+// as must the inventory, the settings and the lists. PrintPage draws on that device context or on
+// one that stands in for it.
 
 #pragma once
 
 #include "QVControls.h"
-#include "model/inventory.h"
+#include "model/report_content.h"
 #include "model/settings.h"
+#include "pages/report_table.h"
 
 #include <list>
 
-struct ReportOptions {
-    bool bIntroduction = true;
-    bool bSections = true;
-    bool bTotals = true;
-    bool bList = false;
-};
-
 class Report {
 public:
-    // columns gives the sections' packages their columns, list is printed as it stands.
-    Report(const Inventory& inventory, const ReportOptions& options, const Settings& settings,
-           QVListCtrlEx& columns, QVListCtrlEx& list, CDC& dc);
+    // The settings tell paper, margins and the footer. The parent bears the report's lists; list is
+    // printed as it stands.
+    Report(const Inventory& inventory, const ReportDefinition& definition, const Settings& settings,
+           CWnd& parent, QVListCtrlEx& list, CDC& dc);
 
     unsigned Pages() const { return m_nPages; }
     // False if memory did not suffice for all of it.
-    bool IsComplete() const { return m_pEngine->IsComplete(); }
+    bool IsComplete() const { return m_bTables && m_pEngine->IsComplete(); }
     // Of the whole sheet, in units of the device context.
     CSize PaperSize() const { return m_paper; }
     // Where the device context's origin lies on the sheet.
@@ -36,27 +31,32 @@ public:
     void PrintPage(CDC& dc, unsigned nPage);
 
 private:
-    // What goes into the report of a machine's inventory.
-    void Choose(const Inventory& inventory);
-    // A text of the settings, its codes replaced.
-    CString Text(int nSetting) const;
+    // A text of the report, its codes replaced.
+    CString Text(const std::string& strText) const;
     void MeasurePaper(CDC& dc);
     void MakeFonts(CDC& dc);
     void AddIntroduction(CDC& dc);
-    void AddSection(const Section& section, QVListCtrlEx& columns, CDC& dc);
-    void AddTotals(const Section& section, CDC& dc);
+    void AddSection(const ReportGroup& section, CWnd& parent, CDC& dc);
+    void AddTable(const ReportGroup& group, CWnd& parent, CDC& dc);
+    void AddTotals(const ReportGroup& group, CDC& dc);
+    void AddSectionTotals(CWnd& parent, CDC& dc);
 
-    ReportOptions m_options;
+    const ReportDefinition m_definition;
     const Settings& m_settings;
-    Inventory m_inventory;
-    CFont m_fontNormal;
-    CFont m_fontHeader;
+    const ReportContent m_content;
+    CFont m_fontTitle;
     CFont m_fontSection;
+    CFont m_fontHeader;
+    CFont m_fontNormal;
     CSize m_paper;
     CPoint m_origin;
     CRect m_rcText;  // within the margins
     int m_nLineHeight = 0;
-    std::list<CStringArray> m_rows;  // outlive the engine, which reads them
+    // What the engine reads outlives it.
+    std::list<ReportTable> m_tables;
+    bool m_bTables = true;  // all of them could be made
+    QVListCtrlEx m_totals;  // the columns of the sections' totals
+    CStringArray m_totalRows;
     std::unique_ptr<QVPrintEngine> m_pEngine;
     unsigned m_nPages = 0;
 };

@@ -1,15 +1,18 @@
 #include "pages/report_page.h"
 
-#include "dialogs/report_settings_dialog.h"
 #include "model/report_settings.h"
+#include "model/report_values.h"
 #include "pages/printing.h"
 #include "resource.h"
+
+#include <type_traits>
 
 namespace {
 
 constexpr int kGap = 6;
 constexpr int kPanelWidth = 130;
 constexpr int kRowHeight = 22;
+constexpr int kListHeight = 300;  // of the reports to choose from, when open
 
 struct Choice {
     UINT nID;
@@ -24,8 +27,12 @@ constexpr Choice kButtonTexts[] = {{ID_REPORT_PREVIOUS, "Previous page"},
                                    {ID_REPORT_ZOOM_IN, "Zoom in"},
                                    {ID_REPORT_ZOOM_OUT, "Zoom out"},
                                    {ID_REPORT_FIT, "Fit"},
+                                   {ID_REPORT_NEW, "New report..."},
+                                   {ID_REPORT_EDIT, "Edit report..."},
+                                   {ID_REPORT_DELETE, "Delete report"},
                                    {ID_REPORT_SETTINGS, "Settings..."},
                                    {ID_REPORT_PRINT, "Print..."}};
+constexpr char kStandardName[] = "Standard report";
 
 }  // namespace
 
@@ -39,7 +46,7 @@ BEGIN_MESSAGE_MAP(ReportPage, Page)
     ON_COMMAND(ID_REPORT_ZOOM_IN, OnZoomIn)
     ON_COMMAND(ID_REPORT_ZOOM_OUT, OnZoomOut)
     ON_COMMAND(ID_REPORT_FIT, OnFit)
-    ON_COMMAND(ID_REPORT_SETTINGS, OnSettings)
+    ON_CBN_SELCHANGE(IDC_REPORT_SHOWN, OnChoice)
     ON_COMMAND(ID_REPORT_PRINT, OnPrint)
     ON_UPDATE_COMMAND_UI(ID_REPORT_PREVIOUS, OnUpdatePrevious)
     ON_UPDATE_COMMAND_UI(ID_REPORT_NEXT, OnUpdateNext)
@@ -50,6 +57,11 @@ int ReportPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
         return -1;
     }
     const CRect rcNone(0, 0, 0, 0);
+    if (!m_choice.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST, rcNone,
+                         this, IDC_REPORT_SHOWN)) {
+        return -1;
+    }
+    m_choice.SetFont(&m_font);
     const auto make = [&](CButton& button, const Choice& choice, DWORD dwStyle) {
         button.Create(choice.pszText, WS_CHILD | WS_VISIBLE | WS_TABSTOP | dwStyle, rcNone, this,
                       choice.nID);
@@ -57,22 +69,11 @@ int ReportPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     };
     for (int i = 0; i < kOptions; ++i) {
         make(m_aOptions[i], kOptionTexts[i], BS_AUTOCHECKBOX);
-        m_aOptions[i].SetCheck(Option(kOptionTexts[i].nID));
     }
     for (int i = 0; i < kButtons; ++i) {
         make(m_aButtons[i], kButtonTexts[i], BS_PUSHBUTTON);
     }
-    m_columns.ModifyDefStyle(WS_VISIBLE, 0);
-    if (!m_columns.Create(IDC_COLUMNS, rcNone, this)) {
-        return -1;
-    }
-    m_columns.SetFont(&m_font);
-    m_columns.AddHeader("Package\tVersion\tSize\tState\tSummary");
-    m_columns.SetColFormat(2, LVCFMT_RIGHT);
-    m_columns.SetHdrFormat(2, LVCFMT_RIGHT);
-    m_columns.SetupColumnsFromString(
-        "a-package-with-a-long-name-and-more\t1:14.0.6-12+deb12u1~~\t1023.9 MiB~\tinstalled ~~\t"
-        "A summary of what the package is good for, on paper");
+    ShowNames({});
     return 0;
 }
 
@@ -86,6 +87,8 @@ void ReportPage::OnSize(UINT nType, int cx, int cy) {
         wnd.MoveWindow(kGap, y, scaled(kPanelWidth) - 2 * kGap, scaled(kRowHeight));
         y += scaled(kRowHeight) + kGap;
     };
+    m_choice.MoveWindow(kGap, y, scaled(kPanelWidth) - 2 * kGap, scaled(kListHeight));
+    y += scaled(kRowHeight) + kGap;
     for (CButton& option : m_aOptions) {
         place(option);
     }
@@ -96,16 +99,77 @@ void ReportPage::OnSize(UINT nType, int cx, int cy) {
     m_preview.MoveWindow(scaled(kPanelWidth), 0, std::max(cx - scaled(kPanelWidth), 0), cy);
 }
 
-bool& ReportPage::Option(UINT nID) {
+// --- Which report
+
+void ReportPage::ShowReport(const ReportDefinition& report) {
+    m_shown = report;
+    m_tables = ReportTables::BySection;
+    m_totals = ReportTotals::BySection;
+    ShowNames(m_names);
+    m_preview.SetReport(nullptr, nullptr);
+    m_pReport.reset();
+    if (IsWindowVisible()) {
+        MakeReport();
+    }
+}
+
+void ReportPage::ShowNames(const std::vector<std::string>& names) {
+    m_names = names;
+    m_choice.ResetContent();
+    m_choice.AddString(kStandardName);
+    int nShown = 0;
+    for (const std::string& strName : m_names) {
+        const int nRow = m_choice.AddString(strName.c_str());
+        nShown = strName == m_shown.strName ? nRow : nShown;
+    }
+    m_choice.SetCurSel(nShown);
+    for (const UINT nID : {ID_REPORT_EDIT, ID_REPORT_DELETE}) {
+        GetDlgItem(static_cast<int>(nID))->EnableWindow(nShown != 0);
+    }
+    TickOptions();
+}
+
+void ReportPage::OnChoice() {
+    const int nRow = m_choice.GetCurSel();
+    AfxGetMainWnd()->PostMessage(
+        WM_COMMAND,
+        nRow > 0 ? ID_REPORT_FIRST_NAMED + static_cast<UINT>(nRow) - 1 : UINT{ID_REPORT_STANDARD});
+}
+
+// The buttons of what is not the page's own do what the menu does.
+BOOL ReportPage::OnCommand(WPARAM wParam, LPARAM lParam) {
+    switch (LOWORD(wParam)) {
+        case ID_REPORT_NEW:
+        case ID_REPORT_EDIT:
+        case ID_REPORT_DELETE:
+        case ID_REPORT_SETTINGS:
+            if (lParam != 0 && HIWORD(wParam) == BN_CLICKED) {
+                AfxGetMainWnd()->PostMessage(WM_COMMAND, LOWORD(wParam));
+                return TRUE;
+            }
+            break;
+        default:
+            break;
+    }
+    return Page::OnCommand(wParam, lParam);
+}
+
+bool ReportPage::HasOption(UINT nID) const {
     switch (nID) {
         case ID_REPORT_INTRODUCTION:
-            return m_options.bIntroduction;
+            return m_shown.bIntroduction;
         case ID_REPORT_SECTIONS:
-            return m_options.bSections;
+            return m_shown.tables != ReportTables::None;
         case ID_REPORT_TOTALS:
-            return m_options.bTotals;
+            return m_shown.totals != ReportTotals::None;
         default:
-            return m_options.bList;
+            return m_shown.bList;
+    }
+}
+
+void ReportPage::TickOptions() {
+    for (CButton& option : m_aOptions) {
+        option.SetCheck(HasOption(static_cast<UINT>(option.GetDlgCtrlID())));
     }
 }
 
@@ -140,7 +204,7 @@ void ReportPage::OpenDevice() {
 }
 
 std::unique_ptr<Report> ReportPage::Compose(CDC& dc) {
-    return std::make_unique<Report>(*m_pInventory, m_options, m_settings.Values(), m_columns,
+    return std::make_unique<Report>(*m_pInventory, m_shown, m_settings.Values(), *this,
                                     m_packages.List(), dc);
 }
 
@@ -166,14 +230,34 @@ CString ReportPage::MarkedText() {
 }
 
 void ReportPage::OnOption(UINT nID) {
-    bool& bOption = Option(nID);
-    bOption = !bOption;
-    m_aOptions[nID - ID_REPORT_FIRST_OPTION].SetCheck(bOption);
+    // None and the kind that there was take turns.
+    const auto turn = [](auto& kind, auto& other) {
+        using Kind = std::remove_reference_t<decltype(kind)>;
+        if (kind != Kind::None) {
+            other = kind;
+        }
+        kind = kind != Kind::None ? Kind::None : other;
+    };
+    switch (nID) {
+        case ID_REPORT_INTRODUCTION:
+            m_shown.bIntroduction = !m_shown.bIntroduction;
+            break;
+        case ID_REPORT_SECTIONS:
+            turn(m_shown.tables, m_tables);
+            break;
+        case ID_REPORT_TOTALS:
+            turn(m_shown.totals, m_totals);
+            break;
+        default:
+            m_shown.bList = !m_shown.bList;
+            break;
+    }
+    TickOptions();
     MakeReport();
 }
 
 void ReportPage::OnUpdateOption(CCmdUI* pCmdUI) {
-    pCmdUI->SetCheck(Option(pCmdUI->m_nID));
+    pCmdUI->SetCheck(HasOption(pCmdUI->m_nID));
 }
 
 // --- The preview
@@ -208,18 +292,18 @@ void ReportPage::OnUpdateNext(CCmdUI* pCmdUI) {
 
 // --- Settings
 
-void ReportPage::OnSettings() {
-    ReportSettingsDialog dialog(this, m_settings.Values());
-    if (dialog.DoModal() != IDOK) {
-        return;
+void ReportPage::UseSettings() {
+    if (m_shown.strName.empty()) {
+        const ReportDefinition standard = StandardReport(m_settings.Values());
+        m_shown.strTitle = standard.strTitle;
+        m_shown.packages = standard.packages;
     }
-    m_settings.Take(dialog.m_settings);
-    m_packages.UseSettings(m_settings.Values());
     m_preview.SetReport(nullptr, nullptr);
     m_pReport.reset();
     m_dcDevice.DeleteDC();  // may have another paper
-    MakeReport();
-    m_strMessage = m_settings.Message();
+    if (IsWindowVisible()) {
+        MakeReport();
+    }
 }
 
 // --- Paper
@@ -269,6 +353,6 @@ bool ReportPage::PrintPages(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR psz
         m_strMessage = "There was not enough memory: parts of the report are missing.";
         return false;
     }
-    m_strMessage.Format("%u pages printed", nLast - nFirst + 1);
+    m_strMessage = (CountText(nLast - nFirst + 1, "page") + " printed").c_str();
     return true;
 }

@@ -9,6 +9,8 @@
 #include "pages/settings_page.h"
 
 #include <memory>
+#include <string>
+#include <vector>
 
 class ReportPage : public Page {
 public:
@@ -23,6 +25,16 @@ public:
     CString MarkedText() override;
 
     PreviewWindow& Preview() { return m_preview; }
+    // What is shown and printed from now on. The standard report, that without a name, takes from
+    // the settings what these tell of it. What is ticked beside the preview belongs to what is
+    // shown, until something else is.
+    void ShowReport(const ReportDefinition& report);
+    const ReportDefinition& Shown() const { return m_shown; }
+    // The names of the reports that can be shown beside the standard one.
+    void ShowNames(const std::vector<std::string>& names);
+    // The settings have changed.
+    void UseSettings();
+
     unsigned Pages() const { return m_pReport != nullptr ? m_pReport->Pages() : 0; }
     // Prints pages nFirst to nLast on a printer's context. pszOutput: a file that the job goes to,
     // null for the printer's own port. False, with the reason in the page's message, if it fails.
@@ -30,7 +42,11 @@ public:
     // The whole report on the default printer, without a question.
     bool PrintToFile(LPCSTR pszOutput);
 
+    // Asks which printer, and prints.
+    afx_msg void OnPrint();
+
 protected:
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnOption(UINT nID);
@@ -40,17 +56,17 @@ protected:
     afx_msg void OnZoomIn();
     afx_msg void OnZoomOut();
     afx_msg void OnFit();
-    afx_msg void OnSettings();
-    afx_msg void OnPrint();
+    afx_msg void OnChoice();
     afx_msg void OnUpdatePrevious(CCmdUI* pCmdUI);
     afx_msg void OnUpdateNext(CCmdUI* pCmdUI);
     DECLARE_MESSAGE_MAP()
 
 private:
     static constexpr int kOptions = 4;
-    static constexpr int kButtons = 7;
+    static constexpr int kButtons = 10;
 
-    bool& Option(UINT nID);
+    bool HasOption(UINT nID) const;
+    void TickOptions();
     bool PrintPages(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutput);
     int PaperNumber() const;
     void OpenDevice();
@@ -60,8 +76,12 @@ private:
     PackagesPage& m_packages;
     SettingsPage& m_settings;
     const Inventory* m_pInventory = nullptr;
-    ReportOptions m_options;
-    QVListCtrlEx m_columns;  // hidden: gives the sections their columns
+    ReportDefinition m_shown;
+    // What comes back with the option.
+    ReportTables m_tables = ReportTables::BySection;
+    ReportTotals m_totals = ReportTotals::BySection;
+    std::vector<std::string> m_names;
+    CComboBox m_choice;
     CButton m_aOptions[kOptions];
     CButton m_aButtons[kButtons];
     PreviewWindow m_preview;

@@ -21,6 +21,13 @@ void Convert(std::string& str) {
 
 }  // namespace
 
+std::string InProcessCodePage(std::string text) {
+    if (::GetACP() != CP_UTF8) {
+        Convert(text);
+    }
+    return text;
+}
+
 void ToProcessCodePage(std::vector<Package>& packages) {
     if (::GetACP() == CP_UTF8) {
         return;
@@ -30,6 +37,8 @@ void ToProcessCodePage(std::vector<Package>& packages) {
                                    &package.strState, &package.strSummary}) {
             Convert(*pText);
         }
-        std::for_each(package.dependencies.begin(), package.dependencies.end(), Convert);
+        for (std::vector<std::string>* pNames : {&package.dependencies, &package.provides}) {
+            std::for_each(pNames->begin(), pNames->end(), Convert);
+        }
     }
 }

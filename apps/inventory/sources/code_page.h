@@ -6,7 +6,9 @@
 
 #include <afxwin.h>
 
+#include <string>
 #include <vector>
 
 // Characters that the code page has not become question marks.
+std::string InProcessCodePage(std::string text);
 void ToProcessCodePage(std::vector<Package>& packages);

@@ -43,7 +43,7 @@ CString UsersSettingsPath() {
     return strFolder + "\\settings.txt";
 }
 
-CString LoadSettings(const CString& strPath, KeyedValues& settings) {
+CString LoadSettings(const CString& strPath, KeyedValues& settings, LPCSTR pszOutcome) {
     settings.Reset();
     CFileStatus status;
     std::string text;
@@ -52,20 +52,17 @@ CString LoadSettings(const CString& strPath, KeyedValues& settings) {
         return strMessage;
     }
     if (!ReadWhole(strPath, text)) {
-        strMessage.Format("The settings in %s cannot be read; the defaults are in force.",
-                          static_cast<LPCTSTR>(strPath));
+        strMessage.Format("%s cannot be read; %s.", static_cast<LPCTSTR>(strPath), pszOutcome);
         return strMessage;
     }
     size_t nLine = 0;
     if (!settings.Parse(text, nLine)) {
         const CString strAside = NameToSetAside(strPath);
         const bool bMoved = ::MoveFile(strPath, strAside) != FALSE;
-        strMessage.Format(
-            "The settings in %s are damaged at line %u; %s%s, and the defaults are "
-            "in force.",
-            static_cast<LPCTSTR>(strPath), static_cast<unsigned>(nLine),
-            bMoved ? "the file is kept as " : "the file could not be kept as ",
-            static_cast<LPCTSTR>(strAside));
+        strMessage.Format("%s is damaged at line %u; %s%s, and %s.", static_cast<LPCTSTR>(strPath),
+                          static_cast<unsigned>(nLine),
+                          bMoved ? "the file is kept as " : "the file could not be kept as ",
+                          static_cast<LPCTSTR>(strAside), pszOutcome);
     }
     return strMessage;
 }

@@ -2,9 +2,38 @@
 
 #include "resource.h"
 
+#include <map>
+
 namespace {
 
 const char* s_pszWanted = "";
+
+constexpr UINT_PTR kFirstTimer = 100;
+constexpr UINT kLookAgain = 50;  // milliseconds
+
+struct Awaited {
+    CString strTitle;
+    std::function<bool(CWnd&)> act;
+};
+std::map<UINT_PTR, Awaited> s_awaited;  // by timer
+
+void CALLBACK LookForDialog(HWND hWnd, UINT, UINT_PTR nTimer, DWORD) {
+    const HWND hDialog = ::FindWindow("#32770", s_awaited[nTimer].strTitle);
+    if (hDialog == nullptr || !::IsWindowVisible(hDialog) || !::IsChild(hDialog, ::GetFocus())) {
+        return;
+    }
+    ::KillTimer(hWnd, nTimer);
+    const Awaited awaited = s_awaited[nTimer];
+    s_awaited.erase(nTimer);
+    if (!awaited.act(*CWnd::FromHandle(hDialog)) && ::IsWindow(hDialog)) {
+        auto* pSheet = dynamic_cast<CPropertySheet*>(CWnd::FromHandlePermanent(hDialog));
+        if (pSheet != nullptr) {
+            pSheet->EndDialog(IDCANCEL);
+        } else {
+            ::EndDialog(hDialog, IDCANCEL);
+        }
+    }
+}
 
 // The dialog runs a loop of its own, so what is typed into it comes from a timer.
 void CALLBACK AnswerFind(HWND hWnd, UINT, UINT_PTR nTimer, DWORD) {
@@ -24,16 +53,19 @@ void CALLBACK AnswerFind(HWND hWnd, UINT, UINT_PTR nTimer, DWORD) {
 bool Walk::Run() {
     m_frame.SetForegroundWindow();
     Tree().SetFocus();
-    return TreePage() && OpenBranch() && Marks() && AbsoluteColumns() && Find() && Vetoes() &&
-           Packages() && FindPackage() && ImageColumn() && Export() && Refresh() &&
-           FilterSection() && FilterDate() && FilterOpens() && Jump() && ToolTip() &&
-           ReportMenu() && LargestPackages() && LargestOnPaper() && TypeSettings() &&
-           ChooseSetting() && SettingsKept() && ReportPages() && Zoom() && ReportSettings() &&
-           Paper() && Logs() && FollowLog() && LogOnPaper();
+    return SectionsTree() && OpenBranch() && SectionNarrows() && Marks() && AbsoluteColumns() &&
+           Find() && Vetoes() && AllPackages() && Packages() && FindPackage() && ImageColumn() &&
+           Export() && Refresh() && DragBars() && DetailsTabs() && GoToDependency() &&
+           NothingToShow() && KeysAround() && DetailsOnPaper() && LayoutKept() && FilterSection() &&
+           FilterDate() && FilterOpens() && Jump() && ToolTip() && ReportMenu() &&
+           LargestPackages() && LargestOnPaper() && TypeSettings() && ChooseSetting() &&
+           SettingsKept() && ReportPages() && Zoom() && ReportSettings() && PreferencesDropped() &&
+           Paper() && NewReport() && FinishEarly() && CancelWizard() && RunFromBar() &&
+           EditReport() && DeleteReport() && Logs() && FollowLog() && LogOnPaper();
 }
 
 bool Walk::Station(const char* pszName) {
-    WaitFor([] { return true; });
+    WaitFor([this] { return !Details().IsWaiting(); });
     m_frame.UpdateWindow();
     const CString strFile = m_strFolder + "\\" + pszName + ".bmp";
     const bool bSaved = SavePicture(m_frame, strFile);
@@ -46,6 +78,7 @@ bool Walk::Happened(const char* pszWhat, bool bHappened) {
     if (!bHappened) {
         std::printf("walk: this did not happen: %s\n", pszWhat);
         std::fflush(stdout);
+        SavePicture(m_frame, m_strFolder + "\\failed.bmp");
     }
     return bHappened;
 }
@@ -58,9 +91,23 @@ void Walk::ClickTab(int nPage) {
     Click(rc.CenterPoint());
 }
 
+void Walk::WhileUp(const char* pszTitle, std::function<bool(CWnd&)> act) {
+    UINT_PTR nTimer = kFirstTimer;
+    while (s_awaited.contains(nTimer)) {
+        ++nTimer;
+    }
+    s_awaited[nTimer] = {pszTitle, std::move(act)};
+    m_frame.SetTimer(nTimer, kLookAgain, LookForDialog);
+}
+
+bool Walk::Enter(CWnd& dialog, int nID) {
+    const HWND hItem = ::GetDlgItem(dialog.m_hWnd, nID);
+    ClickOn(*CWnd::FromHandle(hItem));
+    return Expect("a click gives the focus", [&] { return ::GetFocus() == hItem; });
+}
+
 void Walk::AskFor(const char* pszLetters) {
     constexpr UINT_PTR kTimer = 1;
-    constexpr UINT kLookAgain = 50;  // milliseconds
     s_pszWanted = pszLetters;
     m_frame.SetTimer(kTimer, kLookAgain, AnswerFind);
     Press('F', VK_CONTROL);

@@ -6,6 +6,11 @@
 #include "main_frame.h"
 #include "walk/walk_input.h"
 
+#include <afxdlgs.h>
+
+#include <functional>
+#include <vector>
+
 class Walk {
 public:
     Walk(MainFrame& frame, const CString& strFolder) : m_frame(frame), m_strFolder(strFolder) {}
@@ -14,18 +19,29 @@ public:
 
 private:
     // The tree
-    bool TreePage();
+    bool SectionsTree();
     bool OpenBranch();
+    bool SectionNarrows();
     bool Marks();
     bool AbsoluteColumns();
     bool Find();
     bool Vetoes();
+    bool AllPackages();
     // The list
     bool Packages();
     bool FindPackage();
     bool ImageColumn();
     bool Export();
     bool Refresh();
+    // The panes, their bars and the details
+    bool DragBars();
+    bool DragBar(PaneSplit& split, CSize size, const char* pszStation);
+    bool DetailsTabs();
+    bool GoToDependency();
+    bool NothingToShow();
+    bool KeysAround();
+    bool DetailsOnPaper();
+    bool LayoutKept();
     // The bar above it
     bool FilterSection();
     bool FilterDate();
@@ -33,6 +49,8 @@ private:
     bool Jump();
     bool ToolTip();
     bool ReportMenu();
+    // Presses keys in the menu of the button Report.
+    void OpenReportMenu(const std::vector<WORD>& keys, const char* pszStation);
     // The largest packages
     bool LargestPackages();
     bool LargestOnPaper();
@@ -48,13 +66,33 @@ private:
     // The report
     bool ReportPages();
     bool Zoom();
-    bool ReportSettings();
-    bool FillReportSettings(CWnd& dialog);
-    static void CALLBACK WhenReportSettingsAreUp(HWND hWnd, UINT nMessage, UINT_PTR nTimer,
-                                                 DWORD dwTime);
     bool Paper();
+    // The preferences
+    bool ReportSettings();
+    bool FillReportSettings(CWnd& page);
+    bool ChooseColors(CPropertySheet& sheet);
+    bool ChooseStart(CPropertySheet& sheet);
+    bool PreferencesDropped();
+    CString SettingInFile(int nSetting);
+    // The report's wizard
+    bool NewReport();
+    bool FillReport(CPropertySheet& wizard);
+    bool FillWhat(CPropertySheet& wizard);
+    bool FillColumns(CPropertySheet& wizard);
+    bool FillOrder(CPropertySheet& wizard);
+    bool FillLook(CPropertySheet& wizard);
+    bool FillReady(CPropertySheet& wizard);
+    bool NextStep(CPropertySheet& wizard, int nStep);
+    bool FinishEarly();
+    bool FinishWithoutColumns(CPropertySheet& wizard);
+    bool CancelWizard();
+    bool RunFromBar();
+    bool EditReport();
+    bool DeleteReport();
 
-    PackageTree& Tree() { return m_frame.Sections().Tree(); }
+    PackageTree& Tree() { return m_frame.Packages().Tree(); }
+    PackageBrowser& Browser() { return m_frame.Packages().Browser(); }
+    DetailsWnd& Details() { return Browser().Details(); }
     PackageList& List() { return m_frame.Packages().List(); }
     CPoint PointOf(HTREEITEM hItem, int nOffset);
     CPoint PointOfHeading(int nCol);
@@ -63,6 +101,23 @@ private:
     void ClickTab(int nPage);
     // Opens the dialog that asks what to find, and types letters into it.
     void AskFor(const char* pszLetters);
+    // Clicks on an item of a dialog, which has the focus then.
+    bool Enter(CWnd& dialog, int nID);
+    // Acts in a dialog with that title as soon as it is up; modal ones run a loop of their own. The
+    // dialog is closed if that fails.
+    void WhileUp(const char* pszTitle, std::function<bool(CWnd&)> act);
+    // The same, and whether it came to that and went well. cause brings the dialog up.
+    template <class Cause>
+    bool InDialog(const char* pszTitle, Cause cause, std::function<bool(CWnd&)> act) {
+        bool bActed = false;
+        bool bGood = false;
+        WhileUp(pszTitle, [&](CWnd& dialog) {
+            bActed = true;
+            return bGood = act(dialog);
+        });
+        cause();
+        return Expect(pszTitle, [&] { return bActed; }) && bGood;
+    }
     bool Station(const char* pszName);
     bool Happened(const char* pszWhat, bool bHappened);
     template <class Condition>
@@ -72,6 +127,4 @@ private:
 
     MainFrame& m_frame;
     CString m_strFolder;
-    bool m_bSettingsFilled = false;
-    static inline Walk* s_pWalk = nullptr;  // for what happens while a dialog is up
 };

@@ -8,6 +8,7 @@ constexpr UINT_PTR kTimer = 3;
 constexpr UINT kLookAgain = 50;  // milliseconds
 
 CString s_strMenuPicture;
+std::vector<WORD> s_menuKeys;
 
 // A menu runs a loop of its own, so what is pressed in it comes from a timer.
 void CALLBACK AnswerMenu(HWND hWnd, UINT, UINT_PTR nTimer, DWORD) {
@@ -17,8 +18,9 @@ void CALLBACK AnswerMenu(HWND hWnd, UINT, UINT_PTR nTimer, DWORD) {
     }
     ::KillTimer(hWnd, nTimer);
     SavePicture(*AfxGetMainWnd(), s_strMenuPicture);
-    Press(VK_DOWN);
-    Press(VK_RETURN);
+    for (const WORD nKey : s_menuKeys) {
+        Press(nKey);
+    }
 }
 
 bool TipShows() {
@@ -53,8 +55,10 @@ bool Walk::FilterSection() {
                   [&] {
                       const std::string& strSection = m_frame.Packages().Bar().Filter().strSection;
                       const Package* pFirst = List().PackageOf(0);
-                      return !strSection.empty() && List().GetItemCount() < nAll &&
-                             pFirst != nullptr && pFirst->strSection == strSection;
+                      return !strSection.empty() &&
+                             Tree().SectionOf(Tree().GetSelectedItem()) == strSection &&
+                             List().GetItemCount() < nAll && pFirst != nullptr &&
+                             pFirst->strSection == strSection;
                   }) &&
            Station("bar-2-filtered");
 }
@@ -110,15 +114,20 @@ bool Walk::ToolTip() {
     return Expect("a button says what it does", TipShows) && Station("bar-5-tool-tip");
 }
 
-bool Walk::ReportMenu() {
-    s_strMenuPicture = m_strFolder + "\\bar-6-menu.bmp";
+void Walk::OpenReportMenu(const std::vector<WORD>& keys, const char* pszStation) {
+    s_strMenuPicture = m_strFolder + "\\" + pszStation + ".bmp";
+    s_menuKeys = keys;
     m_frame.SetTimer(kTimer, kLookAgain, AnswerMenu);
     Click(PointOfTool(IDC_REPORT_MENU));
+}
+
+bool Walk::ReportMenu() {
+    OpenReportMenu({VK_DOWN, VK_RETURN}, "bar-6-menu");
     if (!Expect("the menu's first entry shows the report",
                 [this] { return m_frame.Report().IsWindowVisible() != FALSE; })) {
         return false;
     }
-    ClickTab(1);
+    ClickTab(0);
     return Expect("and the tab leads back",
                   [this] { return m_frame.Packages().IsWindowVisible() != FALSE; });
 }

@@ -2,7 +2,7 @@
 
 namespace {
 
-constexpr int kPageLargest = 5;
+constexpr int kPageLargest = 4;
 
 }  // namespace
 

@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr int kPageLog = 4;
+constexpr int kPageLog = 3;
 
 }  // namespace
 

@@ -57,9 +57,9 @@ CPoint Walk::PointOfRow(int nItem) {
 }
 
 bool Walk::Packages() {
-    ClickTab(1);
-    if (!Expect("a click on the tab shows the packages",
-                [this] { return List().IsWindowVisible() && CWnd::GetFocus() == &List(); })) {
+    Press(VK_TAB);
+    if (!Expect("Tab leads from the tree to the list",
+                [this] { return CWnd::GetFocus() == &List(); })) {
         return false;
     }
     const auto sizes = [this](bool bFalling) {
@@ -78,6 +78,7 @@ bool Walk::Packages() {
     if (!Expect("a second click turns the order", [&] { return sizes(true); })) {
         return false;
     }
+    List().EnsureVisible(0, FALSE);
     Click(PointOfRow(1));
     Press(VK_DOWN, VK_SHIFT);
     Press(VK_DOWN, VK_SHIFT);
@@ -127,6 +128,6 @@ bool Walk::Refresh() {
     Press(VK_F5);
     return Expect("what was selected is selected again after a refresh", [&] {
         const Package* pPackage = List().PackageOf(List().GetSelectedItem());
-        return pPackage != nullptr && pPackage->strName == strName;
+        return pPackage != nullptr && pPackage->strName == strName && Details().Shows() == strName;
     });
 }

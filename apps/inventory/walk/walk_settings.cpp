@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr int kPageSettings = 3;
+constexpr int kPageSettings = 2;
 constexpr int kTextColumn = 1;
 constexpr int kChoiceColumn = 2;
 

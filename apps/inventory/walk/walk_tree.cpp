@@ -21,7 +21,7 @@ CPoint Walk::PointOf(HTREEITEM hItem, int nOffset) {
     return pt;
 }
 
-bool Walk::TreePage() {
+bool Walk::SectionsTree() {
     return Expect("the page comes up with sections",
                   [this] {
                       return Tree().GetRootItem() != nullptr && Tree().GetFocus() == &Tree();
@@ -30,7 +30,7 @@ bool Walk::TreePage() {
 }
 
 bool Walk::OpenBranch() {
-    const HTREEITEM hSection = Tree().GetNextSiblingItem(Tree().GetRootItem());
+    const HTREEITEM hSection = Tree().GetNextSiblingItem(Tree().GetChildItem(Tree().GetRootItem()));
     Click(PointOf(hSection, kOnButton));
     if (!Expect("a click on the button opens a section",
                 [&] { return Tree().ItemExpanded(hSection) != FALSE; })) {
@@ -44,12 +44,36 @@ bool Walk::OpenBranch() {
            Station("tree-2-open");
 }
 
+bool Walk::SectionNarrows() {
+    const HTREEITEM hPackage = Tree().GetSelectedItem();
+    const HTREEITEM hSection = Tree().GetParentItem(hPackage);
+    const std::string strSection = Tree().SectionOf(hSection);
+    const auto nAll = List().GetItemCount();
+    Click(PointOf(hSection, kOnText));
+    if (!Expect("a section chosen in the tree is chosen in the bar and leaves its packages alone",
+                [&] {
+                    return m_frame.Packages().Bar().Filter().strSection == strSection &&
+                           List().GetItemCount() < nAll && List().GetItemCount() > 0 &&
+                           List().PackageOf(0)->strSection == strSection;
+                })) {
+        return false;
+    }
+    Press(VK_DOWN);
+    const Package* pPackage = Tree().PackageOf(hPackage);
+    return Expect("a package chosen in the tree comes to the front of the list, with its details",
+                  [&] {
+                      return List().PackageOf(List().GetSelectedItem()) == pPackage &&
+                             Details().Shows() == pPackage->strName;
+                  }) &&
+           Station("tree-2b-section");
+}
+
 bool Walk::Marks() {
     const HTREEITEM hSection = Tree().GetParentItem(Tree().GetSelectedItem());
     Click(PointOf(hSection, kOnCheck));
     if (!Expect("a click on the box ticks the section", [&] {
             return Tree().GetCheck(hSection) && Tree().CountMarked().nPackages > 0 &&
-                   m_frame.StatusText(1) == m_frame.Sections().MarkedText();
+                   m_frame.StatusText(1) == m_frame.Packages().MarkedText();
         })) {
         return false;
     }
@@ -82,7 +106,7 @@ bool Walk::Find() {
                       const Package* pPackage = Tree().PackageOf(hItem);
                       return pPackage != nullptr &&
                              pPackage->strName.find("base") != std::string::npos &&
-                             Tree().ItemVisible(hItem);
+                             Tree().ItemVisible(hItem) && CWnd::GetFocus() == &Tree();
                   }) &&
            Station("tree-5-find");
 }
@@ -106,4 +130,12 @@ bool Walk::Vetoes() {
                              m_frame.StatusText(0).Find("stays ticked") >= 0;
                   }) &&
            Station("tree-6-veto");
+}
+
+bool Walk::AllPackages() {
+    const HTREEITEM hRoot = Tree().GetRootItem();
+    Tree().EnsureVisible(hRoot);
+    Click(PointOf(hRoot, kOnText));
+    return Expect("the tree's first row shows all packages",
+                  [this] { return m_frame.Packages().Bar().Filter().IsOpen(); });
 }

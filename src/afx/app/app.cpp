@@ -3,6 +3,7 @@
 #include "afx/window/wnd_state.h"
 
 #include <afxcmn.h>
+#include <afxpriv.h>
 #include <afxwin.h>
 
 #include <algorithm>
@@ -156,6 +157,14 @@ BOOL CWinApp::OnIdle(LONG lCount) {
 void CWinApp::OnAppExit() {
     if (m_pMainWnd != nullptr) {
         m_pMainWnd->SendMessage(WM_CLOSE);
+    }
+}
+
+void CWinApp::OnHelp() {
+    for (HWND hWnd = ::GetFocus(); hWnd != nullptr; hWnd = ::GetParent(hWnd)) {
+        if (::SendMessage(hWnd, WM_COMMANDHELP, 0, 0) != 0) {
+            return;
+        }
     }
 }
 

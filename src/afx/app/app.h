@@ -100,6 +100,9 @@ protected:
     void SetRegistryKey(UINT nIDRegistryKey);
 
     afx_msg void OnAppExit();
+    /// For ID_HELP, as F1 sends it: asks from the window that has the focus up to the main window
+    /// who gives help (WM_COMMANDHELP).
+    afx_msg void OnHelp();
 
     int m_nWaitCursorCount = 0;
     HCURSOR m_hcurWaitCursorRestore = nullptr;

@@ -133,11 +133,22 @@ private:
     void* m_pData;
 };
 
-/// The units of a dialog in a font: the average width of a letter, and the height of a line.
-SIZE UnitsOfFont(LPCTSTR lpszFace, WORD nPoints) {
+/// The units of a dialog in its template's font: the average width of a letter, and the height of a
+/// line.
+SIZE UnitsOfFont(const TemplateView& view, LPCTSTR lpszFace, WORD nPoints) {
     constexpr int kTenths = 10;  // of a point
+    LOGFONT log = {};
+    log.lfHeight = kTenths * nPoints;
+    log.lfCharSet = DEFAULT_CHARSET;
+    lstrcpyn(log.lfFaceName, lpszFace, LF_FACESIZE);
+    if (view.IsExtended()) {
+        const auto& head = *reinterpret_cast<const ExtendedFontHead*>(view.FontPart());
+        log.lfWeight = head.nWeight;
+        log.lfItalic = head.bItalic;
+        log.lfCharSet = head.nCharSet;
+    }
     CFont font;
-    font.CreatePointFont(kTenths * nPoints, lpszFace);
+    font.CreatePointFontIndirect(&log);
     const HDC hDC = ::GetDC(nullptr);
     const HGDIOBJ hOld = ::SelectObject(hDC, font.m_hObject);
     constexpr char kLetters[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
@@ -303,8 +314,11 @@ void CDialogTemplate::GetSizeInPixels(SIZE* pSize) const {
     CString strFace;
     WORD nPoints = 0;
     const LONG nSystem = ::GetDialogBaseUnits();
-    const SIZE units = GetFont(strFace, nPoints) ? UnitsOfFont(strFace, nPoints)
-                                                 : SIZE{LOWORD(nSystem), HIWORD(nSystem)};
+    SIZE units{LOWORD(nSystem), HIWORD(nSystem)};
+    if (GetFont(strFace, nPoints)) {
+        const LockedTemplate locked(m_hTemplate);
+        units = UnitsOfFont(TemplateView(locked.Get()), strFace, nPoints);
+    }
     pSize->cx = ::MulDiv(pSize->cx, units.cx, kUnitsAcross);
     pSize->cy = ::MulDiv(pSize->cy, units.cy, kUnitsDown);
 }

@@ -270,16 +270,16 @@ BOOL CPropertySheet::MakeWindow(HWND hWndOwner) {
     if (psh.nStartPage >= psh.nPages) {
         psh.nStartPage = 0;
     }
-    for (int i = 0; i < GetPageCount(); ++i) {
-        if (GetPage(i)->m_pSheet == nullptr) {
-            GetPage(i)->m_pSheet = this;
-        }
-    }
     m_nAsked = m_nHandled = 0;
     m_bDestroyLater = FALSE;
     m_nModalResult = -1;
     m_nFlags |= WF_CONTINUEMODAL;  // so that OnInitDialog may end it
     AfxHookDialogCreate(this);
+    for (int i = 0; i < GetPageCount(); ++i) {
+        if (GetPage(i)->m_pSheet == nullptr) {
+            GetPage(i)->m_pSheet = this;
+        }
+    }
     const INT_PTR nResult = ::PropertySheet(&psh);
     const BOOL bTaken = AfxUnhookWindowCreate();
     if (!bTaken) {

@@ -11,6 +11,7 @@
 #define WM_SETMESSAGESTRING 0x0362  // wParam: string number; lParam: text
 #define WM_IDLEUPDATECMDUI 0x0363   // wParam: whether to disable commands without a handler
 #define WM_INITIALUPDATE 0x0364     // to a frame's views and bars before they show first
+#define WM_COMMANDHELP 0x0365  // result: whether help was given; lParam: what it is about, or 0
 #define WM_HELPHITTEST 0x0366
 #define WM_EXITHELPMODE 0x0367
 #define WM_RECALCPARENT 0x0368

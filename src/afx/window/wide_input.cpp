@@ -122,7 +122,28 @@ void AfxDispatchMessage(const MSG& msg) {
     ::IsWindowUnicode(msg.hwnd) ? ::DispatchMessageW(&msg) : ::DispatchMessageA(&msg);
 }
 
+// A dialog inside of another one takes part in the keyboard's way through that: the Tab key and the
+// letters underlined lead out of it. Not every system looks beyond the window that it is given.
+static HWND OutermostDialog(HWND hWndDialog) {
+    HWND hWnd = hWndDialog;
+    while ((::GetWindowLong(hWnd, GWL_STYLE) & WS_CHILD) != 0 &&
+           (::GetWindowLong(hWnd, GWL_EXSTYLE) & WS_EX_CONTROLPARENT) != 0) {
+        HWND hWndParent = ::GetParent(hWnd);
+        TCHAR szClass[8] = {};
+        ::GetClassName(hWndParent, szClass, _countof(szClass));
+        const bool bDialog = lstrcmp(szClass, "#32770") == 0;
+        if (!bDialog && (::GetWindowLong(hWndParent, GWL_EXSTYLE) & WS_EX_CONTROLPARENT) == 0) {
+            break;
+        }
+        hWnd = hWndParent;
+    }
+    return hWnd;
+}
+
 BOOL AfxIsDialogMessage(HWND hWndDialog, MSG& msg) {
+    if (msg.message == WM_SYSCHAR || (msg.message == WM_KEYDOWN && msg.wParam == VK_TAB)) {
+        hWndDialog = OutermostDialog(hWndDialog);
+    }
     return ::IsWindowUnicode(msg.hwnd) ? ::IsDialogMessageW(hWndDialog, &msg)
                                        : ::IsDialogMessageA(hWndDialog, &msg);
 }

@@ -6,7 +6,6 @@
 #define IDD_PAGE_BARE 2903
 #define IDD_PAGE_BROKEN 2904
 
-#define IDS_SHEET 2911
 #define IDS_TAB 2912
 #define IDS_TITLE 2913
 #define IDS_SUBTITLE 2914

@@ -1,4 +1,4 @@
-#include "pages/tree_page.h"
+#include "pages/tree_pane.h"
 
 #include "resource.h"
 
@@ -26,8 +26,7 @@ bool IsCheckChange(const NM_TREEVIEW& notification) {
 
 }  // namespace
 
-BEGIN_MESSAGE_MAP(TreePage, Page)
-    ON_WM_CREATE()
+BEGIN_MESSAGE_MAP(TreePane, QVHeaderWnd)
     ON_WM_SIZE()
     ON_NOTIFY(TVN_SELCHANGING, IDC_TREE, OnSelChanging)
     ON_NOTIFY(TVN_SELCHANGED, IDC_TREE, OnSelChanged)
@@ -45,81 +44,92 @@ BEGIN_MESSAGE_MAP(TreePage, Page)
     ON_UPDATE_COMMAND_UI_RANGE(ID_VETO_SELECTION, ID_VETO_CHECK, OnUpdateVeto)
 END_MESSAGE_MAP()
 
-int TreePage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
+BOOL TreePane::Create(CWnd* pParent, UINT nID) {
     CRect rcNone(0, 0, 0, 0);
-    if (Page::OnCreate(lpCreateStruct) == -1 ||
-        !m_caption.Create(WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, rcNone, this, IDC_TREE_FRAME) ||
-        !m_tree.Create(
-            WS_CHILD | WS_VISIBLE | WS_TABSTOP | TVS_HASLINES | TVS_HASBUTTONS | TVS_LINESATROOT,
-            rcNone, &m_caption, IDC_TREE)) {
-        return -1;
+    if (!QVHeaderWnd::Create(WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, rcNone, pParent, nID) ||
+        !m_tree.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | TVS_HASLINES | TVS_HASBUTTONS |
+                           TVS_LINESATROOT | TVS_SHOWSELALWAYS,
+                       rcNone, this, IDC_TREE)) {
+        return FALSE;
     }
-    m_caption.SetHeaderText("Sections, their packages, and what belongs to each");
+    ModifyStyleEx(0, WS_EX_CONTROLPARENT);  // Tab goes through it to the tree
+    SetHeaderText("Sections and their packages");
     m_tree.SetUp();
-    return 0;
+    return TRUE;
 }
 
-void TreePage::OnSize(UINT nType, int cx, int cy) {
-    Page::OnSize(nType, cx, cy);
-    m_caption.MoveWindow(0, 0, cx, cy);
-    m_tree.MoveWindow(0, m_caption.HeaderHeight(), cx, std::max(cy - m_caption.HeaderHeight(), 0));
+void TreePane::OnSize(UINT nType, int cx, int cy) {
+    QVHeaderWnd::OnSize(nType, cx, cy);
+    SizeInnerWnd(nType, m_tree);
 }
 
-bool TreePage::FindNext(const CString& strText) {
-    return m_tree.FindNext(strText);
-}
-
-void TreePage::SetInventory(const Inventory& inventory) {
-    m_tree.Show(inventory);
-}
-
-CString TreePage::MarkedText() {
+CString TreePane::MarkedText() {
     const PackageTree::Marked marked = m_tree.CountMarked();
-    CString strText;
-    strText.Format("%d packages marked, %s", marked.nPackages, SizeText(marked.nSizeKiB).c_str());
-    return strText;
+    return (CountText(static_cast<size_t>(marked.nPackages), "package") + " marked, " +
+            SizeText(marked.nSizeKiB))
+        .c_str();
+}
+
+void TreePane::Show(const Inventory& inventory) {
+    m_tree.Show(inventory);
+    m_hTold = nullptr;
+}
+
+void TreePane::ShowSection(const std::string& strSection) {
+    m_tree.ShowSection(strSection);
+    m_hTold = m_tree.GetSelectedItem();
 }
 
 // --- What the tree tells
 
-void TreePage::OnSelChanging(NMHDR* pNMHDR, LRESULT* pResult) {
+void TreePane::OnSelChanging(NMHDR* pNMHDR, LRESULT* pResult) {
     const auto& notification = *reinterpret_cast<NM_TREEVIEW*>(pNMHDR);
     const Package* pPackage = m_tree.PackageOf(notification.itemNew.hItem);
-    *pResult = 0;
-    m_strMessage.Empty();
-    if (pPackage == nullptr) {
-        return;
-    }
-    if (IsCheckChange(notification)) {
+    CString strRefusal;
+    if (pPackage != nullptr && IsCheckChange(notification)) {
         const bool bUnticks = m_tree.StateImageFromState(notification.itemNew.state) == 0;
         if (m_bRefuseCheck && bUnticks && pPackage->bRequired) {
-            m_strMessage.Format("%s is required and stays ticked", pPackage->strName.c_str());
-            *pResult = 1;
+            strRefusal.Format("%s is required and stays ticked", pPackage->strName.c_str());
         }
-    } else if (m_bRefuseSelection && pPackage->bUnusual) {
-        m_strMessage.Format("%s is %s and cannot be selected", pPackage->strName.c_str(),
-                            pPackage->strState.c_str());
-        *pResult = 1;
+    } else if (pPackage != nullptr && m_bRefuseSelection && pPackage->bUnusual) {
+        strRefusal.Format("%s is %s and cannot be selected", pPackage->strName.c_str(),
+                          pPackage->strState.c_str());
     }
+    if (IsCheckChange(notification)) {
+        TellSelection();  // a click on a mark has moved it without a word
+    }
+    m_owner.Say(strRefusal);
+    *pResult = !strRefusal.IsEmpty();
 }
 
-void TreePage::OnSelChanged(NMHDR* pNMHDR, LRESULT* pResult) {
-    const auto& notification = *reinterpret_cast<NM_TREEVIEW*>(pNMHDR);
+void TreePane::OnSelChanged(NMHDR* pNMHDR, LRESULT* pResult) {
     *pResult = 0;
-    if (!IsCheckChange(notification)) {
-        const Package* pPackage = m_tree.PackageOf(notification.itemNew.hItem);
-        m_strMessage = pPackage != nullptr ? pPackage->strSummary.c_str() : "";
+    if (!IsCheckChange(*reinterpret_cast<NM_TREEVIEW*>(pNMHDR))) {
+        TellSelection();
     }
 }
 
-void TreePage::OnItemExpanding(NMHDR* pNMHDR, LRESULT* pResult) {
+void TreePane::TellSelection() {
+    const HTREEITEM hItem = m_tree.GetSelectedItem();
+    if (hItem == m_hTold) {
+        return;
+    }
+    m_hTold = hItem;
+    if (const Package* pPackage = m_tree.PackageOf(hItem)) {
+        m_owner.OnPackageChosen(*pPackage);
+    } else if (m_tree.IsSectionOrRoot(hItem)) {
+        m_owner.OnSectionChosen(m_tree.SectionOf(hItem));
+    }
+}
+
+void TreePane::OnItemExpanding(NMHDR* pNMHDR, LRESULT* pResult) {
     m_tree.Fill(reinterpret_cast<NM_TREEVIEW*>(pNMHDR)->itemNew.hItem);
     *pResult = 0;
 }
 
 // --- Commands
 
-void TreePage::OnExpand(UINT nID) {
+void TreePane::OnExpand(UINT nID) {
     const HTREEITEM hItem = m_tree.GetSelectedItem();
     switch (nID) {
         case ID_TREE_EXPAND:
@@ -138,39 +148,39 @@ void TreePage::OnExpand(UINT nID) {
     }
 }
 
-void TreePage::OnSort() {
+void TreePane::OnSort() {
     m_tree.SortChildren(m_tree.GetSelectedItem());
 }
 
-void TreePage::OnColumns(UINT nID) {
+void TreePane::OnColumns(UINT nID) {
     m_tree.UseIndentedColumns(nID == ID_VIEW_INDENTED);
 }
 
-void TreePage::OnStyle(UINT nID) {
+void TreePane::OnStyle(UINT nID) {
     const DWORD dwStyle = StyleOfCommand(nID);
     const bool bHas = (m_tree.GetStyle() & dwStyle) != 0;
     m_tree.ModifyStyle(bHas ? dwStyle : 0, bHas ? 0 : dwStyle);
     m_tree.SetRedraw(TRUE);
 }
 
-void TreePage::OnVeto(UINT nID) {
+void TreePane::OnVeto(UINT nID) {
     bool& bVeto = nID == ID_VETO_SELECTION ? m_bRefuseSelection : m_bRefuseCheck;
     bVeto = !bVeto;
 }
 
-void TreePage::OnUpdateSelection(CCmdUI* pCmdUI) {
+void TreePane::OnUpdateSelection(CCmdUI* pCmdUI) {
     pCmdUI->Enable(m_tree.GetChildItem(m_tree.GetSelectedItem()) != nullptr &&
                    m_tree.GetSelectedItem() != nullptr);
 }
 
-void TreePage::OnUpdateColumns(CCmdUI* pCmdUI) {
+void TreePane::OnUpdateColumns(CCmdUI* pCmdUI) {
     pCmdUI->SetRadio(m_tree.IndentedColumns() == (pCmdUI->m_nID == ID_VIEW_INDENTED));
 }
 
-void TreePage::OnUpdateStyle(CCmdUI* pCmdUI) {
+void TreePane::OnUpdateStyle(CCmdUI* pCmdUI) {
     pCmdUI->SetCheck((m_tree.GetStyle() & StyleOfCommand(pCmdUI->m_nID)) != 0);
 }
 
-void TreePage::OnUpdateVeto(CCmdUI* pCmdUI) {
+void TreePane::OnUpdateVeto(CCmdUI* pCmdUI) {
     pCmdUI->SetCheck(pCmdUI->m_nID == ID_VETO_SELECTION ? m_bRefuseSelection : m_bRefuseCheck);
 }

@@ -1,32 +1,22 @@
-// TreePage: the first page of the application, a tree over all packages with its commands and
-// rules.
+// TreePane: the tree over all packages under its caption, with its commands and rules.
 
 #pragma once
 
+#include "pages/browser_owner.h"
 #include "pages/package_tree.h"
-#include "pages/page.h"
 
-// The caption over the tree. What the tree tells goes on to the page.
-class TreeCaption : public QVHeaderWnd {
-protected:
-    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override {
-        *pResult = SendToParent(WM_NOTIFY, wParam, lParam);
-        return TRUE;
-    }
-};
-
-class TreePage : public Page {
+class TreePane : public QVHeaderWnd {
 public:
-    LPCSTR Title() const override { return "Sections"; }
-    void SetInventory(const Inventory& inventory) override;
-    CWnd& Control() override { return m_tree; }
-    CString MarkedText() override;
-    bool FindNext(const CString& strText) override;
+    explicit TreePane(BrowserOwner& owner) : m_owner(owner) {}
+    BOOL Create(CWnd* pParent, UINT nID);
 
     PackageTree& Tree() { return m_tree; }
+    void Show(const Inventory& inventory);
+    // As the tree's function of that name.
+    void ShowSection(const std::string& strSection);
+    CString MarkedText();
 
 protected:
-    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnSelChanging(NMHDR* pNMHDR, LRESULT* pResult);
     afx_msg void OnSelChanged(NMHDR* pNMHDR, LRESULT* pResult);
@@ -43,8 +33,11 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    TreeCaption m_caption;
+    void TellSelection();
+
+    BrowserOwner& m_owner;
     PackageTree m_tree;
+    HTREEITEM m_hTold = nullptr;  // the selection that the owner knows of
     bool m_bRefuseSelection = false;
     bool m_bRefuseCheck = false;
 };

@@ -1,0 +1,66 @@
+#include "details/details_page.h"
+
+#include "model/stanza.h"
+#include "sources/code_page.h"
+
+CString Shown(std::string_view text) {
+    return InProcessCodePage(Printable(text)).c_str();
+}
+
+BEGIN_MESSAGE_MAP(DetailsPage, QVTabWndPage)
+    ON_WM_SIZE()
+END_MESSAGE_MAP()
+
+// The packages page moves the focus, out of here as well, and asks for accelerators.
+BOOL DetailsPage::PreTranslateMessage(MSG* pMsg) {
+    return CWnd::PreTranslateMessage(pMsg);
+}
+
+void DetailsPage::ShowPage() {
+    ReadOnce();
+    QVTabWndPage::ShowPage();
+}
+
+void DetailsPage::ReadOnce() {
+    if (m_bRead) {
+        return;
+    }
+    m_bRead = true;
+    const CWaitCursor wait;
+    m_strProblem = m_source.bChosen ? Read() : CString("No package is chosen.");
+    SetDlgItemText(IDC_DETAILS_MESSAGE, m_strProblem);
+    const HWND hFocus = ::GetFocus();
+    if (!m_strProblem.IsEmpty() && hFocus != nullptr && ::IsChild(m_hWnd, hFocus)) {
+        GetTabWnd()->GetTabCtrl().SetFocus();  // the keyboard does not go with what is hidden
+    }
+    GetDlgItem(IDC_DETAILS_MESSAGE)->ShowWindow(m_strProblem.IsEmpty() ? SW_HIDE : SW_SHOW);
+    ShowContent(m_strProblem.IsEmpty());
+}
+
+void DetailsPage::BeginPrinting(CDC* pDC, QVPrintEngine& engine) {
+    ReadOnce();
+    if (m_strProblem.IsEmpty()) {
+        Print(*pDC, engine);
+    } else {
+        engine.AddText(m_strProblem, pDC, nullptr);
+    }
+}
+
+void DetailsPage::OnSize(UINT nType, int cx, int cy) {
+    QVTabWndPage::OnSize(nType, cx, cy);
+    if (CWnd* pMessage = GetDlgItem(IDC_DETAILS_MESSAGE)) {
+        pMessage->MoveWindow(0, 0, cx, cy);
+        LayOut(CRect(0, 0, cx, cy));
+        Invalidate();  // a list that moves leaves what it uncovers as it was
+    }
+}
+
+void DetailsPage::LayOut(const CRect& rc) {
+    if (Control().GetSafeHwnd() != nullptr) {
+        Control().MoveWindow(&rc);
+    }
+}
+
+void DetailsPage::ShowContent(bool bShow) {
+    Control().ShowWindow(bShow ? SW_SHOW : SW_HIDE);
+}
