@@ -132,9 +132,9 @@ void MainFrame::OnUpdateMessage(CCmdUI* pCmdUI) {
         strText = m_pages.Active().Message();
     }
     if (strText.IsEmpty()) {
-        strText.Format("%u packages in %u sections",
-                       static_cast<unsigned>(m_inventory.CountPackages()),
-                       static_cast<unsigned>(m_inventory.Sections().size()));
+        strText = (CountText(m_inventory.CountPackages(), "package") + " in " +
+                   CountText(m_inventory.Sections().size(), "section"))
+                      .c_str();
     }
     pCmdUI->Enable();
     pCmdUI->SetText(strText);

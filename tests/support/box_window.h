@@ -54,7 +54,6 @@ public:
     using QVBitmapListBox::m_bRedraw;
     using QVBitmapListBox::m_header;
     using QVBitmapListBox::m_imageList;
-    using QVBitmapListBox::m_nPrintHeaderHeight;
     using QVBitmapListBox::m_nTabs;
     using QVBitmapListBox::m_wndFrame;
     using QVBitmapListBox::RestoreSelections;
@@ -120,18 +119,6 @@ int InsertRow(Box& box, int nNumber, int nIndex, const char* pszText) {
 template <class Box>
 class BoxWindow {
 public:
-    // A parent that may be made to do something before it looks at a message.
-    struct Parent : FontParent {
-        using FontParent::FontParent;
-        std::function<bool(UINT nMessage, WPARAM wParam)> onMessage;  // true: that was all
-
-        LRESULT WindowProc(UINT nMessage, WPARAM wParam, LPARAM lParam) override {
-            return onMessage && onMessage(nMessage, wParam)
-                       ? 0
-                       : FontParent::WindowProc(nMessage, wParam, lParam);
-        }
-    };
-
     explicit BoxWindow(DWORD dwStyle = kPlainBox<Box>, bool bImages = true, bool bHeader = false)
         : parent(CSize(340, 200)) {
         ::CreateWindowEx(0, kIsList<Box> ? "LISTBOX" : "COMBOBOX", "",
@@ -153,7 +140,7 @@ public:
     }
     ~BoxWindow() {
         parent.m_hook = nullptr;
-        parent.onMessage = nullptr;
+        parent.m_onMessage = nullptr;
     }
     std::string Stored(int nRow) {
         CString str;
@@ -177,6 +164,6 @@ public:
         }
     }
 
-    Parent parent;
+    FontParent parent;
     std::unique_ptr<Box> box = std::make_unique<Box>();
 };

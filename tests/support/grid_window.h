@@ -21,7 +21,6 @@ public:
     using QVGridCtrl::m_bIgnoreFocus;
     using QVGridCtrl::m_nCellHeight;
     using QVGridCtrl::m_nTopRow;
-    using QVGridCtrl::PressedButtonRect;
     using QVGridCtrl::RowAt;
 };
 
@@ -155,12 +154,11 @@ public:
     std::string Told() {
         std::string strTold;
         for (const auto& command : parent.m_commands) {
-            if (command.id != kGridId && command.hwnd != grid.m_hWnd) {
-                continue;  // the other control's
+            if (command.id == kGridId) {
+                strTold += command.hwnd != grid.m_hWnd ? "? "
+                           : command.code == EN_CHANGE ? "change "
+                                                       : std::to_string(command.code) + " ";
             }
-            strTold += command.id != kGridId || command.hwnd != grid.m_hWnd ? "? "
-                       : command.code == EN_CHANGE                          ? "change "
-                                                   : std::to_string(command.code) + " ";
         }
         parent.Forget();
         return strTold;

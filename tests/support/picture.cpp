@@ -10,6 +10,11 @@ Picture Picture::OfClient(HWND hWnd) {
     return picture;
 }
 
+Picture Picture::Fresh(CWnd& wnd) {
+    wnd.Invalidate(FALSE);
+    return OfClient(wnd.m_hWnd);
+}
+
 Picture Picture::Of(HDC hDC, CSize size) {
     Picture picture;
     picture.m_size = size;

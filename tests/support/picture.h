@@ -9,6 +9,8 @@ class Picture {
 public:
     /// Lets the window paint what is due, then copies its client area.
     static Picture OfClient(HWND hWnd);
+    /// Of all its client area painted anew.
+    static Picture Fresh(CWnd& wnd);
     /// What was drawn on a device context, from the upper left corner on.
     static Picture Of(HDC hDC, CSize size);
 

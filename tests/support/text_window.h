@@ -42,10 +42,7 @@ public:
         ::SelectObject(dc, ::GetStockObject(DEFAULT_GUI_FONT));
         return dc.GetTextExtent(str.c_str(), static_cast<int>(str.size()));
     }
-    Picture Fresh() {
-        Invalidate(FALSE);
-        return Picture::OfClient(m_hWnd);
-    }
+    Picture Fresh() { return Picture::Fresh(*this); }
 };
 
 class GridText : public OpenText {

@@ -7,18 +7,29 @@
 #include <functional>
 #include <string>
 
-// A parent that tells its font, as dialogs do.
+// A parent that tells its font, as dialogs do, and may be made to do something before it looks at a
+// message.
 class FontParent : public RecordingParent {
 public:
     explicit FontParent(CSize size, DWORD dwStyle = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN)
         : RecordingParent(size, dwStyle) {
         m_font.CreatePointFont(90, "Tahoma");
     }
+    // From now on it wants no memory for what it is told.
+    void BeQuiet() {
+        m_onMessage = [](UINT nMessage, WPARAM) {
+            return nMessage == WM_NOTIFY || nMessage == WM_COMMAND;
+        };
+    }
+    std::function<bool(UINT nMessage, WPARAM wParam)> m_onMessage;  // true: that was all
 
 protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-        return message == WM_GETFONT ? reinterpret_cast<LRESULT>(m_font.GetSafeHandle())
-                                     : RecordingParent::WindowProc(message, wParam, lParam);
+    LRESULT WindowProc(UINT nMessage, WPARAM wParam, LPARAM lParam) override {
+        if (m_onMessage && m_onMessage(nMessage, wParam)) {
+            return 0;
+        }
+        return nMessage == WM_GETFONT ? reinterpret_cast<LRESULT>(m_font.GetSafeHandle())
+                                      : RecordingParent::WindowProc(nMessage, wParam, lParam);
     }
 
 private:
@@ -69,7 +80,7 @@ public:
         for (const auto& n : parent.m_notifications) {
             const auto& nm = n.As<NM_TREEVIEW>();
             const auto name = [&](const TVITEM& item) {
-                return item.hItem == nullptr ? std::string("-") : names ? names(item.hItem) : "?";
+                return item.hItem == nullptr ? "-" : std::string(tree.GetItemText(item.hItem));
             };
             const std::string strItems = name(nm.itemOld) + ">" + name(nm.itemNew);
             strTold += strTold.empty() ? "" : " | ";
@@ -86,7 +97,4 @@ public:
 
     FontParent parent;
     Tree tree;
-    std::function<std::string(HTREEITEM)> names = [this](HTREEITEM h) {
-        return std::string(tree.GetItemText(h));
-    };
 };

@@ -2,8 +2,6 @@
 #include "support/test_app.h"
 
 #include <cstdio>
-#include <cstring>
-#include <gtest/gtest.h>
 
 static TestApp theApp;
 
@@ -28,28 +26,7 @@ static LONG WINAPI EndOnCrash(EXCEPTION_POINTERS* pPointers) {
     return EXCEPTION_EXECUTE_HANDLER;
 }
 
-/// Another program on the same screen: writes what it finds on the clipboard to a file.
-static int PasteInto(const char* pszFile) {
-    int nResult = 1;
-    if (::OpenClipboard(nullptr)) {
-        const HANDLE hText = ::GetClipboardData(CF_TEXT);
-        const auto* pszText =
-            static_cast<const char*>(hText != nullptr ? ::GlobalLock(hText) : nullptr);
-        FILE* pFile = pszText != nullptr ? std::fopen(pszFile, "wb") : nullptr;
-        if (pFile != nullptr) {
-            nResult = std::fputs(pszText, pFile) < 0;
-            nResult |= std::fclose(pFile);
-            ::GlobalUnlock(hText);
-        }
-        ::CloseClipboard();
-    }
-    return nResult;
-}
-
 int main(int argc, char** argv) {
-    if (argc == 3 && std::strcmp(argv[1], "--paste-into") == 0) {
-        return PasteInto(argv[2]);
-    }
     ExpectNoWindowManager();
     ::SetUnhandledExceptionFilter(EndOnCrash);
     return RunTests(argc, argv);

@@ -5,7 +5,9 @@
 
 #include <afxwin.h>
 
+#include <functional>
 #include <gtest/gtest.h>
+#include <memory>
 
 /// Counts what leaves its window procedure.
 template <class Window>
@@ -61,4 +63,36 @@ int RefuseEach(const char* pszWhat, Operation operation, Check check) {
     }
     EXPECT_EQ(nThrown, 0) << pszWhat;
     return nRefused;
+}
+
+/// A control is made or not: without memory no window is left, and nothing is thrown. make gives
+/// whether it was done; check() is called after each run, the control being there if it was.
+template <class Control, class Make>
+void ExpectMadeOrNot(
+    Make make, const std::function<void()>& check = [] {}) {
+    auto pControl = std::make_unique<Watched<Control>>();
+    bool bMade = false;
+    RefuseEach(
+        "make", [&] { bMade = make(*pControl) != 0; },
+        [&] {
+            EXPECT_EQ(bMade, pControl->m_hWnd != nullptr);
+            EXPECT_EQ(pControl->nThrown, 0);
+            check();
+            pControl = std::make_unique<Watched<Control>>();
+        });
+    EXPECT_TRUE(bMade);
+}
+
+/// Who writes to a disk that is full hears of it in an exception.
+template <class Export>
+void ExpectFullDiskIsTold(Export exportTo) {
+    try {
+        if (!exportTo("Z:\\dev\\full")) {
+            GTEST_SKIP() << "needs a device that is always full";
+        }
+        FAIL() << "nothing was said";
+    } catch (CFileException* pException) {
+        EXPECT_EQ(pException->m_cause, CFileException::diskFull);
+        pException->Delete();
+    }
 }

@@ -165,7 +165,7 @@ bool DetailsWnd::Print(CDC& dc, bool bActiveOnly, PrinterChoice* pPrinter, LPCST
         });
     CString strSaid("The printer did not take the details.");
     if (bPrinted) {
-        strSaid.Format("%u pages of details printed", nLast - nFirst + 1);
+        strSaid = ("Details printed: " + CountText(nLast - nFirst + 1, "page")).c_str();
     }
     m_owner.Say(strSaid);
     return bPrinted;

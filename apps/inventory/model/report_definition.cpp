@@ -7,14 +7,14 @@
 namespace {
 
 constexpr ReportColumnInfo kInfos[kReportColumns] = {
-    {"name", "Package", "a-package-with-a-longer-name", false},
-    {"version", "Version", "1:14.0.6-12+deb12~", false},
-    {"size", "Size", "1023.9 MiB~", true},
-    {"installed", "Installed", "2026-11-21 00:00 ~~", false},
-    {"section", "Section", "interpreters~", false},
-    {"architecture", "Arch.", "amd64 ~~", false},
-    {"state", "State", "installed ~~~~", false},
-    {"summary", "Summary", "A summary of what the package is", false}};
+    {"name", "Package", "a-package-with-a-longer-name", false, true},
+    {"version", "Version", "1:14.0.6-12+deb12", false, true},
+    {"size", "Size", "1023.9 MiB", true, false},
+    {"installed", "Installed", "2026-11-21 00:00", false, false},
+    {"section", "Section", "interpreters", false, false},
+    {"architecture", "Arch.", "amd64", false, false},
+    {"state", "State", "installed", false, false},
+    {"summary", "Summary", "A summary of what the package is", false, true}};
 
 bool IsBlank(const std::string& str) {
     return str.find_first_not_of(' ') == std::string::npos;

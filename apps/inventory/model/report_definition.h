@@ -20,6 +20,7 @@ struct ReportColumnInfo {
     const char* pszHeading;
     const char* pszSample;  // as wide as most of what stands in the column
     bool bRight;
+    bool bMayBeCut;  // where the page is too narrow
 };
 const ReportColumnInfo& InfoOf(ReportColumn column);
 

@@ -143,6 +143,6 @@ bool LargestPage::Print(CDC& dc, PrinterChoice* pPrinter, LPCSTR pszOutput) {
         m_strMessage = "The printer did not take the list.";
         return false;
     }
-    m_strMessage.Format("%u pages printed", nLast - nFirst + 1);
+    m_strMessage = (CountText(nLast - nFirst + 1, "page") + " printed").c_str();
     return true;
 }

@@ -83,10 +83,9 @@ CString PackagesPage::MarkedText() {
         return m_browser.TreeFrame().MarkedText();
     }
     const PackageList::Selected selected = List().CountSelected();
-    CString strText;
-    strText.Format("%d packages selected, %s", selected.nPackages,
-                   SizeText(selected.nSizeKiB).c_str());
-    return strText;
+    return (CountText(static_cast<size_t>(selected.nPackages), "package") + " selected, " +
+            SizeText(selected.nSizeKiB))
+        .c_str();
 }
 
 void PackagesPage::OnExport() {

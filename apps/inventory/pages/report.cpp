@@ -130,7 +130,8 @@ void Report::AddSection(const ReportGroup& section, CWnd& parent, CDC& dc) {
 
 void Report::AddTable(const ReportGroup& group, CWnd& parent, CDC& dc) {
     ReportTable& table = m_tables.emplace_back();
-    if (!table.Make(parent, m_definition)) {
+    const ReportFonts fonts{m_fontHeader, m_fontNormal};
+    if (!table.Make(parent, m_definition, dc, fonts, m_rcText.Width())) {
         m_bTables = false;
         return;
     }

@@ -353,6 +353,6 @@ bool ReportPage::PrintPages(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR psz
         m_strMessage = "There was not enough memory: parts of the report are missing.";
         return false;
     }
-    m_strMessage.Format("%u pages printed", nLast - nFirst + 1);
+    m_strMessage = (CountText(nLast - nFirst + 1, "page") + " printed").c_str();
     return true;
 }

@@ -1,11 +1,16 @@
 #include "pages/report_table.h"
 
+#include "model/column_widths.h"
 #include "model/report_settings.h"
 #include "resource.h"
+
+#include <algorithm>
 
 namespace {
 
 constexpr COLORREF kPaper = RGB(255, 255, 255);
+constexpr int kMargins = 2 * 6 + 4;  // of a cell and a little air, in pixels of a screen
+constexpr int kScreenDpi = 96;
 
 }  // namespace
 
@@ -14,28 +19,48 @@ COLORREF ReportColorOf(const ReportDefinition& report, ReportColor color) {
     return RGB(named.red, named.green, named.blue);
 }
 
-bool ReportTable::Make(CWnd& parent, const ReportDefinition& report) {
+bool ReportTable::Make(CWnd& parent, const ReportDefinition& report, CDC& dc,
+                       const ReportFonts& fonts, int nRoom) {
     ModifyDefStyle(WS_VISIBLE | WS_TABSTOP, 0);
     if (!Create(IDC_COLUMNS, CRect(0, 0, 0, 0), &parent)) {
         return false;
     }
     SetFont(parent.GetFont(), FALSE);
     m_columns = report.Columns();
-    CString strSample;
     for (const ReportColumn column : m_columns) {
         const ReportColumnInfo& info = InfoOf(column);
         AddHeader(info.pszHeading);
-        strSample += CString(strSample.IsEmpty() ? "" : "\t") + info.pszSample;
         if (info.bRight) {
             SetColFormat(NumColumns() - 1, LVCFMT_RIGHT);
             SetHdrFormat(NumColumns() - 1, LVCFMT_RIGHT);
         }
     }
-    SetupColumnsFromString(strSample);
+    SetWidths(dc, fonts, nRoom);
     for (const ReportColor color : {kReportInstalled, kReportRequired, kReportUnusual}) {
         m_anStyles[color] = AddStyle(ReportColorOf(report, color), kPaper);
     }
     return true;
+}
+
+// On paper the columns have the proportions of those on screen: so the widths are those of the
+// paper.
+void ReportTable::SetWidths(CDC& dc, const ReportFonts& fonts, int nRoom) {
+    const int nMargins = ::MulDiv(kMargins, dc.GetDeviceCaps(LOGPIXELSX), kScreenDpi);
+    const auto width = [&](CFont& font, LPCSTR pszText) {
+        const qv::SelectGuard select(dc, &font);
+        return static_cast<int>(dc.GetTextExtent(pszText, lstrlen(pszText)).cx) + nMargins;
+    };
+    std::vector<ColumnWish> wishes;
+    for (const ReportColumn column : m_columns) {
+        const ReportColumnInfo& info = InfoOf(column);
+        const int nHeading = width(fonts.heading, info.pszHeading);
+        wishes.push_back(
+            {std::max(width(fonts.text, info.pszSample), nHeading), nHeading, info.bMayBeCut});
+    }
+    const std::vector<int> widths = ShareWidth(wishes, nRoom);
+    for (size_t i = 0; i < widths.size(); ++i) {
+        SetColWidth(static_cast<int>(i), widths[i], nullptr);
+    }
 }
 
 CString ReportTable::Row(const Package& package) const {

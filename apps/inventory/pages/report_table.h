@@ -6,14 +6,21 @@
 #include "QVControls.h"
 #include "model/report_content.h"
 
+struct ReportFonts {
+    CFont& heading;
+    CFont& text;
+};
+
 class ReportTable : public QVListCtrlEx {
 public:
-    // Columns of the report, without rows.
-    bool Make(CWnd& parent, const ReportDefinition& report);
+    // Columns of the report, without rows, that share nRoom units of dc.
+    bool Make(CWnd& parent, const ReportDefinition& report, CDC& dc, const ReportFonts& fonts,
+              int nRoom);
     // In the order given. The packages need not live on.
     void Fill(const std::vector<const Package*>& packages);
 
 private:
+    void SetWidths(CDC& dc, const ReportFonts& fonts, int nRoom);
     CString Row(const Package& package) const;
 
     std::vector<ReportColumn> m_columns;

@@ -65,9 +65,9 @@ void TreePane::OnSize(UINT nType, int cx, int cy) {
 
 CString TreePane::MarkedText() {
     const PackageTree::Marked marked = m_tree.CountMarked();
-    CString strText;
-    strText.Format("%d packages marked, %s", marked.nPackages, SizeText(marked.nSizeKiB).c_str());
-    return strText;
+    return (CountText(static_cast<size_t>(marked.nPackages), "package") + " marked, " +
+            SizeText(marked.nSizeKiB))
+        .c_str();
 }
 
 void TreePane::Show(const Inventory& inventory) {

@@ -91,14 +91,7 @@ TEST_F(ListBox, TheRightButtonFindsRowsBehindThe65536th) {
     }
 }
 
-TEST_F(ListBox, TablesOfStopsHaveBounds) {
-    const int many[25] = {10040, 10040};
-    list.UseTabs(many, 25);
-    EXPECT_EQ(list.m_nTabs, 20);
-    int own[20] = {10070, 80};
-    list.SetTabFormat(1, 2, own);
-    EXPECT_EQ(list.GetTabValue(0, own) + own[1], 70 + 20080);
-    EXPECT_EQ(list.GetTabFormat(1), 1u) << "the list's own stay";
+TEST_F(ListBox, ATableOfStopsHasBounds) {
     for (const auto& [nGiven, nTaken] : {std::pair(99, 20), {-3, 0}, {1, 1}}) {
         list.calcTabs = [nGiven = nGiven](int*) { return nGiven; };
         list.CalcListTabs();
@@ -159,17 +152,14 @@ TEST_F(ListBoxWithHeader, TheUserDragsAndClicks) {
     EXPECT_EQ(list.GetTabValue(1), 150) << "the column behind keeps its width";
     ClickAt(hHeader, CPoint(110, 8));
     EXPECT_EQ(list.nSorted, 1);
+    // Either character set's, as the system has it.
     HDITEM item{};
+    item.cxy = 95;
     NMHEADER header{{}, 0, 0, &item};
-    for (const UINT nTrack : {HDN_ENDTRACKA, HDN_ENDTRACKW}) {  // and the same for clicks
-        item.cxy += 10;
-        list.nSorted = -1;
-        list.OnHdNotify(static_cast<int>(nTrack), &header);
-        list.OnHdNotify(static_cast<int>(nTrack - HDN_ENDTRACKA + HDN_ITEMCLICKA), &header);
-        EXPECT_EQ(list.GetTabValue(0) + list.nSorted, item.cxy);
-    }
-    header.pitem = nullptr;
-    list.OnHdNotify(static_cast<int>(HDN_ENDTRACKA), &header);
+    list.OnHdNotify(static_cast<int>(HDN_ENDTRACKW), &header);
+    list.OnHdNotify(static_cast<int>(HDN_ITEMCLICKW), &header);
+    EXPECT_EQ(list.GetTabValue(0), 95);
+    EXPECT_EQ(list.nSorted, 0);
 }
 
 TEST_F(ListBoxOnPaper, RowsComeInPages) {
@@ -189,12 +179,6 @@ TEST_F(ListBoxOnPaper, RowsComeInPages) {
     EXPECT_EQ(dc.texts[1].crText, RGB(0, 0, 0)) << "no colours";
     EXPECT_EQ(dc.texts[1].rc.left, 20 + list.m_anPrintTabs[0] + 6);
     EXPECT_EQ(dc.texts[2].rc.top, 10 + nHeight);
-    info.m_nCurPage = 1;
-    EXPECT_EQ(list.PrintItems(&dc, &info, CRect(0, 0, 100, nHeight - 1)), 0);
-    list.ClearTabs();
-    dc.texts.clear();
-    list.PrintItems(&dc, &info, rc);
-    EXPECT_EQ(dc.All(), "r0|r1") << "stops of the screen bound the walk";
 }
 
 TEST_F(ListBoxOnPaper, TitlesHaveTheirFontAndARule) {
@@ -217,13 +201,8 @@ TEST_F(ListBoxOnPaper, TitlesHaveTheirFontAndARule) {
     const int nHeight = list.HeaderPrintHeight(&dc) * 2 / 3;
     EXPECT_EQ(dc.GetPixel(619, 30 + nHeight * 5 / 4), RGB(0, 0, 0));
     EXPECT_NE(dc.GetPixel(620, 30 + nHeight * 5 / 4), RGB(0, 0, 0));
-    list.m_nPrintHeaderHeight = 77;
-    EXPECT_EQ(list.HeaderPrintHeight(&dc), 77);
     list.EndPrinting(&dc, &info);
     EXPECT_LT(list.HeaderPrintHeight(&dc) * 2 / 3, nHeight) << "all is forgotten";
-    list.ClearHeaders();
-    list.PrintHeader(&dc, CRect(0, 200, 100, 220));
-    EXPECT_EQ(dc.GetPixel(50, 200), RGB(0, 0, 0)) << "a rule without titles";
 }
 
 TEST_F(ListBox, ExportWritesFieldsWithoutCodes) {

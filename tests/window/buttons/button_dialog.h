@@ -9,6 +9,7 @@
 #include "support/real_input.h"
 #include "support/recording_parent.h"
 #include "support/test_app.h"
+#include "support/told_dialog.h"
 #include "window/buttons/button_test_ids.h"
 #include "window/refusals.h"
 
@@ -19,21 +20,6 @@ inline void SendKey(WORD vk, bool bUp) {
     input.ki.dwFlags = bUp ? KEYEVENTF_KEYUP : 0;
     ::SendInput(1, &input, sizeof input);
 }
-
-class ToldDialog : public CDialog {
-public:
-    std::function<void(UINT nCode)> m_told = [](UINT) {};
-
-protected:
-    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
-        m_told(HIWORD(wParam));
-        return CDialog::OnCommand(wParam, lParam);
-    }
-    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override {
-        m_told(reinterpret_cast<NMHDR*>(lParam)->code);
-        return CDialog::OnNotify(wParam, lParam, pResult);
-    }
-};
 
 const CPoint kIn(5, 8);
 

@@ -16,12 +16,14 @@ int s_nLiving = 0;                                       // pages
 std::string s_strLog;                                    // steps that show (+) and hide (-) pages
 std::function<void(const std::string& strStep)> s_told;  // as "+a"
 
-class Page : public QVTabWndPage {
+class Page : public Mortal<QVTabWndPage> {
     DECLARE_DYNCREATE(Page)
 
 public:
     explicit Page(UINT nID = IDD_TAB_PAGE | 0x50000)
-        : QVTabWndPage(nID), m_strName(1, static_cast<char>('a' + s_nLiving++ % 26)) {}
+        : m_strName(1, static_cast<char>('a' + s_nLiving++ % 26)) {
+        m_nIDTemplate = nID;
+    }
     ~Page() override { --s_nLiving; }
     BOOL OnInitDialog() override { return Tell('i'), QVTabWndPage::OnInitDialog(); }
     void Resize(const CRect& rect) override { QVTabWndPage::Resize(rect), Tell('r'); }
@@ -268,7 +270,7 @@ TEST(TabWnd, PagesOutliveTheirOwnSteps) {
             TextRecorder dc;
             QVPrintEngine engine(&dc, nullptr, nullptr, nullptr);
             const std::function<void()> acts[] = {
-                [&] { tabs->Add(1); }, [&] { tabs->SetActivePage(0), tabs->SetActivePage(1); },
+                [&] { tabs->Add(1); }, [&] { tabs->SetActivePage(1); },
                 [&] { tabs->BeginPrinting(&dc, engine, FALSE); },
                 [&] {
                     if (auto* pPage = tabs->GetPage(tabs->GetActivePage())) {

@@ -10,7 +10,6 @@ class GridChoices : public GridInFront {
 protected:
     GridChoices() : GridInFront(3) {}
     int LineHeight() { return static_cast<int>(::SendMessage(w.List(), LB_GETITEMHEIGHT, 0, 0)); }
-    bool ListHasBar() { return (::GetWindowLong(w.List(), GWL_STYLE) & WS_VSCROLL) != 0; }
 };
 
 TEST_F(GridChoices, AnAddedRowIsPaintedByItself) {
@@ -40,33 +39,27 @@ TEST_F(GridChoices, AReadOnlyListThatStaysClosedShowsNoButton) {
 }
 
 TEST_F(GridChoices, AListIsLimitedInHeightScrollsAndKeepsToTheScreen) {
-    constexpr int kMany = 100;
     CStringArray many;
-    for (int i = 0; i < kMany; ++i) {
+    for (int i = 0; i < 100; ++i) {
         many.Add(("line " + std::to_string(i)).c_str());
     }
     grid.SetColListData(kList, &many);
     grid.SetCellText(0, kList, "line 60");
-    Click(0, kList);
-    EXPECT_EQ(ListRect().Height(), kMany * LineHeight() + 2);
-    EXPECT_FALSE(ListHasBar());
-    TypeKey(VK_ESCAPE);
-
-    grid.SetMaxListLines(6);
-    Click(0, kList);
-    EXPECT_EQ(ListRect().Height(), 6 * LineHeight() + 2);
-    EXPECT_TRUE(ListHasBar());
-    EXPECT_EQ(w.ListLine(), "line 60");
-    const auto top = [&] {
-        return static_cast<int>(::SendMessage(w.List(), LB_GETTOPINDEX, 0, 0));
-    };
-    const int nTop = top();
+    for (const int nLines : {100, 6}) {
+        grid.SetMaxListLines(nLines < 100 ? nLines : 0);
+        Click(0, kList);
+        EXPECT_EQ(ListRect().Height(), nLines * LineHeight() + 2);
+        EXPECT_EQ((::GetWindowLong(w.List(), GWL_STYLE) & WS_VSCROLL) != 0, nLines < 100);
+        EXPECT_EQ(w.ListLine(), "line 60");
+        nLines == 100 ? TypeKey(VK_ESCAPE) : false;
+    }
+    const auto top = [&] { return ::SendMessage(w.List(), LB_GETTOPINDEX, 0, 0); };
+    const LRESULT lTop = top();
     // Its bar works, and the keys still go to the grid.
     ClickAt(grid.m_hWnd, ListRect().BottomRight() - CSize(5, 5));
-    EXPECT_EQ(top(), nTop + 1);
+    EXPECT_EQ(top(), lTop + 1);
     EXPECT_EQ(CWnd::GetFocus(), &grid);
-    ClickAt(grid.m_hWnd, w.LineAt(nTop + 3));
-    EXPECT_EQ(w.Text(0, kList), "line " + std::to_string(nTop + 3));
+    TypeKey(VK_ESCAPE);
 
     CRect rc;
     w.parent.GetWindowRect(&rc);

@@ -89,81 +89,58 @@ TEST_F(TextMemory, PagesOfBeforeStayAndRowsComeTheNextTime) {
     ASSERT_EQ(w.text.NumPages(), 4);
     RefuseEach(
         "format", [&] { w.text.FormatText(&dc, CSize(1000, 20 * h)); },
-        [&] {
-            EXPECT_EQ(w.text.NumPages() * w.text.LinesPerPage(), 40);
-            EXPECT_EQ(w.text.NumPrintRows(), 40);
-        });
+        [&] { EXPECT_EQ(w.text.NumPages() * w.text.LinesPerPage(), 40); });
     EXPECT_EQ(w.text.NumPages(), 2);
     CPrintInfo info;
     info.m_nCurPage = 1;
     CString strText;
-    int nStyle = 0;
-    int nLine = 0;
-    int bRow = 0;
-    const auto rows = [&](const char* pszWhat, auto get) {
-        RefuseEach(
-            pszWhat,
-            [&] {
-                strText.Empty();
-                bRow = get();
-            },
-            [&] { EXPECT_EQ(bRow, strText == w.text.GetLineText(0)); });
-        EXPECT_EQ(bRow, 1) << pszWhat;
-    };
-    rows("row", [&] { return w.text.GetPrintRow(3, strText, nStyle, nLine); });
-    EXPECT_EQ(nLine, 3);
-    rows("page", [&] { return w.text.StartPage(&dc, &info, strText, nStyle, nLine); });
-    rows("current", [&] { return w.text.GetCurrentLine(&dc, strText, nStyle, nLine); });
-}
-
-// A control is made, or takes the place of an item; without memory neither, and nothing is thrown.
-constexpr UINT kItemId = 6;
-template <class Control, class Make, class Attach>
-void ExpectMadeOrNot(CWnd& parent, Control& control, Make make, Attach attach) {
-    BOOL bDone = FALSE;
-    const auto check = [&] {
-        EXPECT_EQ(bDone != FALSE, control.m_hWnd != nullptr);
-        control.DestroyWindow();
-        if (::GetDlgItem(parent.m_hWnd, kItemId) == nullptr) {
-            ::CreateWindow("STATIC", "", WS_CHILD | WS_VISIBLE, 160, 0, 90, 90, parent.m_hWnd,
-                           reinterpret_cast<HMENU>(UINT_PTR{kItemId}), nullptr, nullptr);
-        }
-    };
-    check();
+    int nStyle = 0, nLine = 0, bRow = 0;
     RefuseEach(
-        "create", [&] { bDone = make(); }, check);
-    EXPECT_TRUE(bDone);
-    RefuseEach(
-        "attach", [&] { bDone = attach(); },
+        "row", [&] { bRow = w.text.StartPage(&dc, &info, strText, nStyle, nLine); },
         [&] {
-            EXPECT_NE(::GetDlgItem(parent.m_hWnd, kItemId), nullptr) << "one of both is there";
-            check();
+            EXPECT_EQ(bRow, strText == w.text.GetLineText(0));
+            strText.Empty();
         });
-    EXPECT_TRUE(bDone);
-    EXPECT_EQ(control.nThrown, 0);
+    EXPECT_EQ(bRow, 1);
 }
 
-TEST_F(TextMemory, AWindowIsMadeOrNot) {
-    Watched<OpenText> text;
-    CRect rc(0, 0, 50, 50);
-    ExpectMadeOrNot(
-        w.parent, text, [&] { return text.Create(rc, &w.parent, 5, 1); },
-        [&] { return text.Initialize(kItemId, &w.parent, 0); });
+constexpr UINT kItemId = 6;
+template <class Window>
+class WindowMemory : public testing::Test {};
+using Windows =
+    testing::Types<OpenText, QVHeaderWnd, QVTreeHeaderWnd, QVTextHeaderWnd, QVListHeaderWnd>;
+TYPED_TEST_SUITE(WindowMemory, Windows);
+
+TYPED_TEST(WindowMemory, IsMadeOrTakesThePlaceOfAnItemOrNot) {
+    FontParent parent(CSize(300, 200));
+    CRect rc(0, 0, 150, 100);
+    ExpectMadeOrNot<TypeParam>([&](auto& window) {
+        if constexpr (std::is_same_v<TypeParam, OpenText>) {
+            return window.Create(rc, &parent, 5, 1);
+        } else {
+            return window.Create(WS_CHILD | WS_VISIBLE, rc, &parent, 5);
+        }
+    });
+    const auto item = [&] { return ::GetDlgItem(parent.m_hWnd, kItemId); };
+    ExpectMadeOrNot<TypeParam>(
+        [&](auto& window) {
+            if (item() == nullptr) {
+                ::CreateWindow("STATIC", "", WS_CHILD | WS_VISIBLE, 160, 0, 90, 90, parent.m_hWnd,
+                               reinterpret_cast<HMENU>(UINT_PTR{kItemId}), nullptr, nullptr);
+            }
+            if constexpr (std::is_same_v<TypeParam, OpenText>) {
+                return window.Initialize(kItemId, &parent, 0);
+            } else {
+                return window.Initialize(kItemId, &parent);
+            }
+        },
+        [&] { EXPECT_NE(item(), nullptr) << "one of both is there"; });
 }
 
 template <class Header>
 class CaptionMemory : public testing::Test {};
 using Headers = testing::Types<QVHeaderWnd, QVTreeHeaderWnd, QVTextHeaderWnd, QVListHeaderWnd>;
 TYPED_TEST_SUITE(CaptionMemory, Headers);
-
-TYPED_TEST(CaptionMemory, AWindowIsMadeOrNot) {
-    FontParent parent(CSize(300, 200));
-    Watched<TypeParam> header;
-    CRect rc(0, 0, 150, 100);
-    ExpectMadeOrNot(
-        parent, header, [&] { return header.Create(WS_CHILD | WS_VISIBLE, rc, &parent, 7); },
-        [&] { return header.Initialize(kItemId, &parent); });
-}
 
 TYPED_TEST(CaptionMemory, CaptionsAndPaintsLetNothingOut) {
     FontParent parent(CSize(300, 200));

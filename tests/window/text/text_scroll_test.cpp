@@ -1,4 +1,5 @@
 #include "support/monkey.h"
+#include "support/mortal.h"
 #include "support/pump.h"
 #include "support/real_input.h"
 #include "support/text_window.h"
@@ -82,28 +83,19 @@ TYPED_TEST(TextScrollKinds, ShowWhatAFreshPaintGives) {
     }
 }
 
-TEST_F(TextScroll, TheWheelScrolls) {
-    const auto wheel = [&](int nDelta) {
-        EXPECT_EQ(w.text.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, nDelta)), TRUE);
-        return w.text.VScrollPos();
-    };
-    const int nLines = LinesANotch();
-    ASSERT_GT(nLines, 0);
-    EXPECT_EQ(wheel(-WHEEL_DELTA), nLines);
-    EXPECT_EQ(wheel(100 * WHEEL_DELTA), 0);
-}
-
 TEST_F(TextScroll, KeysScroll) {
     ASSERT_TRUE(ClickAt(w.text.m_hWnd, CPoint(20, 20)));
     EXPECT_EQ(::GetFocus(), w.text.m_hWnd);
-    const struct {
-        WORD nKey;
-        int nPos;
-    } kKeys[] = {{VK_DOWN, 1}, {VK_NEXT, 11},  {VK_LEFT, 11},  {VK_RIGHT, 11}, {VK_UP, 10},
-                 {VK_END, 40}, {VK_PRIOR, 30}, {VK_SPACE, 30}, {VK_HOME, 0}};
-    for (const auto& key : kKeys) {
-        TypeKey(key.nKey);
-        EXPECT_EQ(w.text.VScrollPos(), key.nPos) << "key " << key.nKey;
+    for (const auto& [nKey, nPos] : {std::pair{VK_DOWN, 1},
+                                     {VK_NEXT, 11},
+                                     {VK_LEFT, 11},
+                                     {VK_UP, 10},
+                                     {VK_END, 40},
+                                     {VK_PRIOR, 30},
+                                     {VK_SPACE, 30},
+                                     {VK_HOME, 0}}) {
+        TypeKey(static_cast<WORD>(nKey));
+        EXPECT_EQ(w.text.VScrollPos(), nPos) << "key " << nKey;
     }
     EXPECT_TRUE(ShowsWhatItShould(w.text));
 }
@@ -136,8 +128,11 @@ TEST_F(TextScroll, PositionsMayHaveMoreThan16Bits) {
 template <class Text>
 class Pair {
 public:
-    Pair() : a(CSize(200, 130)), b(std::make_unique<TextWindow<Text>>(CSize(200, 130))) {
-        for (TextWindow<Text>* p : {&a, b.get()}) {
+    Pair() { Renew(); }
+    // With another second window.
+    void Renew() {
+        b = std::make_unique<Mortal<TextWindow<Text>>>();
+        for (TextWindow<Text>* p : {&a, static_cast<TextWindow<Text>*>(b.get())}) {
             p->Resize(150, 10);
             p->Fill(50);
         }
@@ -151,7 +146,7 @@ public:
                ShowsWhatItShould(a.text) && ShowsWhatItShould(b->text);
     }
     TextWindow<Text> a;
-    std::unique_ptr<TextWindow<Text>> b;
+    std::unique_ptr<Mortal<TextWindow<Text>>> b;
 };
 
 TEST(TextPartners, ScrollTogether) {
@@ -178,18 +173,6 @@ TEST(TextPartners, ScrollTogether) {
     EXPECT_EQ(pair.a.text.VScrollPos(), 0);
 }
 
-TEST(TextPartners, InTheGridBothHaveAHorizontalBarAndScrollAcrossAlone) {
-    Pair<GridText> pair;
-    EXPECT_TRUE(pair.a.text.HasBar(SB_HORZ));
-    EXPECT_TRUE(pair.b->text.HasBar(SB_HORZ)) << "equal heights, though all fits";
-    for (TextWindow<GridText>* p : {&pair.a, pair.b.get()}) {
-        p->text.AddText(std::string(100, 'x').c_str(), 0);
-        p->text.CalcLayout();
-    }
-    EXPECT_EQ(pair.a.text.Scroll(WM_HSCROLL, SB_LINERIGHT), 1);
-    EXPECT_EQ(pair.b->text.m_nHScrollPos, 0);
-}
-
 // --- The fixed grid
 
 TEST(TextGrid, ScrolledAcrossShowsWhatAShorterLineDoes) {
@@ -199,16 +182,13 @@ TEST(TextGrid, ScrolledAcrossShowsWhatAShorterLineDoes) {
     for (int i = 0; i < 100; ++i) {
         strLong += static_cast<char>('!' + i % 90);
     }
-    const auto fill = [](TextWindow<GridText>& to, const std::string& strFirst,
-                         const char* pszSecond) {
-        to.text.AddStyle(kRed, kGreen);
-        to.Resize(20 * to.text.m_nCharWidth, 12);
-        to.text.AddText(strFirst.c_str(), 1);
-        to.text.AddText(pszSecond, 1);
-        to.text.CalcLayout();
-    };
-    fill(w, strLong, "short");
-    fill(tail, strLong.substr(10), "");
+    for (TextWindow<GridText>* p : {&w, &tail}) {
+        p->text.AddStyle(kRed, kGreen);
+        p->Resize(20 * w.text.m_nCharWidth, 12);
+        p->text.AddText(strLong.c_str() + (p == &w ? 0 : 10), 1);
+        p->text.AddText(p == &w ? "short" : "", 1);
+        p->text.CalcLayout();
+    }
     EXPECT_EQ(w.text.NumRows(), 2) << "a line is a row";
     EXPECT_EQ(w.text.Scroll(WM_HSCROLL, SB_THUMBTRACK, 10), 10);
     EXPECT_EQ(w.text.GetScrollPos(SB_HORZ), 10);
@@ -222,85 +202,59 @@ TEST(TextGrid, ScrolledAcrossShowsWhatAShorterLineDoes) {
     EXPECT_EQ(w.text.m_nHScrollPos, 11);
 }
 
-// --- Who is called while a text scrolls may take it away
+// --- Anything may come in any order; nothing may break
 
-// Destroys its window, or deletes itself, with the next row that it draws.
-class LeavingText : public OpenText {
+// May go with a row that it draws.
+template <class Text>
+class Leaving : public Text {
 public:
-    enum class Leave { Stay, Window, Object } leave = Leave::Stay;
+    std::function<bool()> onDraw;  // true: it has gone
 
 protected:
     void DrawText(CDC& dc, int nRow, const CString& strText, int nStyle, int nFrom,
                   int nTo) override {
-        switch (std::exchange(leave, Leave::Stay)) {
-            case Leave::Window:
-                DestroyWindow();
-                return;
-            case Leave::Object:
-                delete this;
-                return;
-            case Leave::Stay:
-                QVTextWnd::DrawText(dc, nRow, strText, nStyle, nFrom, nTo);
-        }
+        Leaves() ? void() : Text::DrawText(dc, nRow, strText, nStyle, nFrom, nTo);
+    }
+    void DrawText(CDC& dc, int nLine, int nCols) override {
+        Leaves() ? void() : Text::DrawText(dc, nLine, nCols);
+    }
+
+private:
+    bool Leaves() {
+        const auto leaves = onDraw;  // which lives on where the text does not
+        return leaves && leaves();
     }
 };
-
-TEST(TextLeaves, InTheMiddleOfAScrollAndThePartnerFollowsOrIsFree) {
-    using Leave = LeavingText::Leave;
-    const struct {
-        UINT nMessage;
-        WPARAM wParam;
-    } kMessages[] = {{WM_VSCROLL, SB_LINEDOWN},
-                     {WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(-3 * WHEEL_DELTA))},
-                     {WM_KEYDOWN, VK_NEXT},
-                     {WM_PAINT, 0}};
-    for (const auto& [nMessage, wParam] : kMessages) {
-        for (const Leave leave : {Leave::Window, Leave::Object}) {
-            FontParent parent(CSize(200, 100));
-            CRect rc(0, 0, 200, 100);
-            auto* pText = new LeavingText;
-            ASSERT_TRUE(pText->Create(rc, &parent, kTextId, 0));
-            TextWindow<> other;
-            for (OpenText* p : {static_cast<OpenText*>(pText), &other.text}) {
-                for (int i = 0; i < 50; ++i) {
-                    p->AddText("line", 0);
-                }
-                p->CalcLayout();
-            }
-            pText->SyncWith(&other.text, 1);
-            other.text.SyncWith(pText, 1);
-            pText->UpdateWindow();
-            const HWND hWnd = pText->m_hWnd;
-            pText->leave = leave;
-            if (nMessage == WM_PAINT) {
-                pText->Invalidate(FALSE);
-                ::UpdateWindow(hWnd);
-            } else {
-                ::SendMessage(hWnd, nMessage, wParam, 0);
-            }
-            EXPECT_FALSE(::IsWindow(hWnd)) << nMessage;
-            other.text.ScrollTo(7, 0);
-            EXPECT_EQ(other.text.VScrollPos(), 7);
-            if (leave == Leave::Window) {
-                delete pText;
-            }
-        }
-    }
-}
-
-// --- Anything may come in any order; nothing may break
 
 template <class Text>
 class TextMonkey : public testing::Test {};
 TYPED_TEST_SUITE(TextMonkey, Kinds);
 
-TYPED_TEST(TextMonkey, SurvivesAnyOrderOfOperations) {
-    Pair<TypeParam> pair;
+// The second of two partners goes now and then.
+TYPED_TEST(TextMonkey, SurvivesAnyOrderOfOperationsAndKeepsNoHandles) {
+    Pair<Leaving<TypeParam>> pair;
+    const LONG nHandles = AfxGetOwnedHandleCount();
     std::mt19937 random = MonkeyRandom(7);
+    const auto leave = [&] {
+        const unsigned nWay = random() % 300;
+        nWay == 0 ? pair.b.reset() : nWay == 1 ? void(pair.b->text.DestroyWindow()) : void();
+        return nWay < 2;
+    };
+    int nGone = 0;
+    const auto renew = [&] {
+        if (pair.b == nullptr || pair.b->text.m_hWnd == nullptr) {
+            pair.Renew();
+            pair.b->text.onDraw = leave;
+            ++nGone;
+        }
+    };
+    pair.b.reset();
     for (int i = 0; i < MonkeySteps(); ++i) {
+        renew();
         const bool bFirst = random() % 2 != 0;
-        TextWindow<TypeParam>& w = bFirst ? pair.a : *pair.b;
-        TypeParam& text = w.text;
+        TextWindow<Leaving<TypeParam>>& w = bFirst ? pair.a : *pair.b;
+        Leaving<TypeParam>& text = w.text;
+        const HWND hWnd = text.m_hWnd;
         const int n = static_cast<int>(random() % 60) - 5;
         const std::function<void()> kDeeds[] = {
             [&] { text.AddText(std::string(random() % 200, n % 3 != 0 ? 'x' : ' ').c_str(), n); },
@@ -308,22 +262,29 @@ TYPED_TEST(TextMonkey, SurvivesAnyOrderOfOperations) {
             [&] { random() % 15 == 0 ? text.ClearTextData() : void(); },
             [&] { w.Resize(n * 4, n / 3, n); },
             [&] {
-                text.Scroll(random() % 2 != 0 ? WM_VSCROLL : WM_HSCROLL, random() % 10,
-                            static_cast<UINT>(n));
+                ::SendMessage(hWnd, random() % 2 != 0 ? WM_VSCROLL : WM_HSCROLL,
+                              MAKEWPARAM(random() % 10, n), 0);
             },
-            [&] { text.SendMessage(WM_KEYDOWN, VK_PRIOR + random() % 8); },
+            [&] { ::SendMessage(hWnd, WM_KEYDOWN, VK_PRIOR + random() % 8, 1); },
+            [&] { ::SendMessage(hWnd, WM_MOUSEWHEEL, MAKEWPARAM(0, n * 20), 0); },
             [&] { text.ScrollTo(n, n % 7); },
             [&] {
                 text.SyncWith(n % 3 == 0 ? nullptr : bFirst ? &pair.b->text : &pair.a.text, n % 2);
             },
             [&] { text.AddStyle(kRed, kGreen); },
             [&] { text.ShowWindow(n % 4 == 0 ? SW_SHOWMAXIMIZED : SW_RESTORE); },
-            [&] { text.Invalidate(TRUE), text.UpdateWindow(); }};
+            [&] { text.RedrawWindow(); }};
         kDeeds[random() % std::size(kDeeds)]();
-        ASSERT_GE(text.VScrollPos(), 0);
-        ASSERT_GE(text.m_nHScrollPos, 0);
+        if (bFirst || pair.b != nullptr) {
+            ASSERT_GE(text.VScrollPos(), 0);
+            ASSERT_GE(text.m_nHScrollPos, 0);
+        }
     }
-    for (TextWindow<TypeParam>* p : {&pair.a, pair.b.get()}) {
+    renew();
+    EXPECT_GT(nGone, 20);
+    for (TextWindow<Leaving<TypeParam>>* p :
+         {&pair.a, static_cast<TextWindow<Leaving<TypeParam>>*>(pair.b.get())}) {
+        p->text.onDraw = nullptr;
         p->text.ShowWindow(SW_RESTORE);
         p->text.SyncWith(nullptr, 1);
         p->Resize(150, 10);
@@ -332,6 +293,7 @@ TYPED_TEST(TextMonkey, SurvivesAnyOrderOfOperations) {
         EXPECT_EQ(p->text.Scroll(WM_VSCROLL, SB_PAGEDOWN), 10);
         EXPECT_TRUE(ShowsWhatItShould(p->text));
     }
+    EXPECT_EQ(AfxGetOwnedHandleCount(), nHandles);
 }
 
 }  // namespace

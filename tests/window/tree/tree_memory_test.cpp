@@ -9,17 +9,6 @@
 
 namespace {
 
-// Needs no memory of its own for what the tree tells it.
-class QuietParent : public FontParent {
-public:
-    QuietParent() : FontParent(CSize(300, 100)) {}
-
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-        return message == WM_NOTIFY ? 0 : FontParent::WindowProc(message, wParam, lParam);
-    }
-};
-
 using WatchedTree = Watched<QVTreeCtrlEx>;
 
 // Its steps want memory as well.
@@ -38,6 +27,7 @@ template <class Tree>
 class TreeMemory : public testing::Test {
 protected:
     TreeMemory() {
+        parent.BeQuiet();
         tree.Create(kTreeStyle, CRect(0, 0, 300, 100), &parent, kTreeId);
         tree.SetShowStatesAtRoot(TRUE);
         tree.LoadStandardCheckStates();
@@ -90,7 +80,7 @@ protected:
         return Picture::OfClient(tree.m_hWnd);
     }
 
-    QuietParent parent;
+    FontParent parent{CSize(300, 100)};
     Tree tree;
     HTREEITEM p, q;
 };
@@ -104,40 +94,29 @@ TYPED_TEST(TreeMemory, WhatIsNotDoneChangesNothing) {
     const CString strLong('x', 20000), strOld = tree.GetItemText(q);
     const int stops[] = {100, 20200};
     HTREEITEM h = nullptr;
-    CRect rc;
-    const auto insert = [&](HTREEITEM hAfter) {
-        h = tree.InsertItem(strLong, 0, 0, p, hAfter);
-        return h != nullptr;
-    };
-    const auto remove = [&] { tree.DeleteItem(h); };
-    const auto fill = [&] { this->Fill(); };
-    const auto nothing = [] {};
     const struct {
         const char* pszName;
         bool bNeedsMemory;
         std::function<bool()> op;
         std::function<void()> undo;
     } kOperations[] = {
-        {"insert", true, [&] { return insert(TVI_LAST); }, remove},
-        {"insert first", true, [&] { return insert(TVI_FIRST); }, remove},
-        {"insert sorted", true, [&] { return insert(TVI_SORT); }, remove},
+        {"insert sorted", true,
+         [&] { return (h = tree.InsertItem(strLong, 0, 0, p, TVI_SORT)) != nullptr; },
+         [&] { tree.DeleteItem(h); }},
         {"move", false, [&] { return tree.ChangeParent(hLast, q) != 0; },
          [&] { tree.ChangeParent(hLast, p); }},
         {"sort", true, [&] { return tree.SortChildren(p) != 0; },
-         [&] { tree.DeleteChildren(p), fill(); }},
+         [&] { tree.DeleteChildren(p), this->Fill(); }},
         {"delete", false, [&] { return tree.DeleteItem(tree.GetLastChild(p)) != 0; },
          [&] { this->Add("row 0", p); }},
-        {"empty", false, [&] { return tree.DeleteChildren(p) != 0; }, fill},
         {"text", false, [&] { return tree.SetItemText(q, strLong), true; },
          [&] { tree.SetItemText(q, strOld); }},
-        {"states", false, [&] { return tree.LoadTreeStates(30008) != 0; }, nothing},
         {"expand", false, [&] { return tree.Expand(p, TVE_TOGGLE, TRUE, FALSE) != 0; },
          [&] { tree.Expand(p, TVE_EXPAND, TRUE, FALSE); }},
         {"select", false, [&] { return tree.SelectItem(q) != 0; },
          [&] { tree.SelectItem(nullptr); }},
         {"show", false, [&] { return tree.EnsureVisible(q) != 0; }, [&] { tree.EnsureVisible(p); }},
-        {"rectangle", false, [&] { return tree.GetItemRect(p, &rc, TRUE) != 0; }, nothing},
-        {"hit", false, [&] { return tree.HitTest(CPoint(30, 5), nullptr, nullptr) == p; }, nothing},
+        {"hit", false, [&] { return tree.HitTest(CPoint(30, 5), nullptr, nullptr) == p; }, [] {}},
         {"stops", false,
          [&] {
              tree.UseTabs(stops, 2);
@@ -191,18 +170,10 @@ TYPED_TEST(TreeMemory, NothingLeavesTheWindowProcedure) {
 }
 
 TEST(TreeMemoryFirst, AWindowComesWholeOrNotAtAll) {
-    QuietParent parent;
-    auto pTree = std::make_unique<WatchedTree>();
-    BOOL bMade = FALSE;
-    RefuseEach(
-        "create",
-        [&] { bMade = pTree->Create(kTreeStyle, CRect(0, 0, 300, 100), &parent, kTreeId); },
-        [&] {
-            EXPECT_EQ(bMade != FALSE, pTree->m_hWnd != nullptr);
-            EXPECT_EQ(pTree->nThrown, 0);
-            pTree = std::make_unique<WatchedTree>();
-        });
-    EXPECT_TRUE(bMade);
+    FontParent parent(CSize(300, 100));
+    ExpectMadeOrNot<QVTreeCtrlEx>([&](auto& tree) {
+        return tree.Create(kTreeStyle, CRect(0, 0, 300, 100), &parent, kTreeId);
+    });
 }
 
 }  // namespace
