@@ -43,16 +43,10 @@ bool Expectation::Close() {
     return bGood;
 }
 
-void Expectation::Box(const CRect& rc) {
-    const std::string strTop = std::to_string(rc.left) + " " + std::to_string(rc.top);
-    Line("box", strTop, std::to_string(rc.right), std::to_string(rc.bottom), "");
-}
-
-void Expectation::Pages(unsigned nPages) {
+void Expectation::Layout(const CRect& rcBox, unsigned nPages, double pitch) {
+    const std::string strTop = std::to_string(rcBox.left) + " " + std::to_string(rcBox.top);
+    Line("box", strTop, std::to_string(rcBox.right), std::to_string(rcBox.bottom), "");
     Line("pages", std::to_string(nPages), "", "", "");
-}
-
-void Expectation::Pitch(double pitch) {
     Line("pitch", std::to_string(pitch), "", "", "");
 }
 
@@ -62,12 +56,6 @@ void Expectation::Line(const char* pszKind, const std::string& strList, const st
         std::fprintf(m_pFile, "%s %s %s %s %s\n", pszKind, strList.c_str(), strRow.c_str(),
                      strEdge.c_str(), strWord.c_str());
     }
-}
-
-// --- ListParent
-
-ListParent::ListParent() {
-    CreateEx(0, AfxRegisterWndClass(0), "paper", WS_POPUP, CRect(0, 0, 400, 300), nullptr, 0);
 }
 
 // --- PaperDocument
@@ -108,6 +96,7 @@ PaperDocument::PaperDocument(CDC& dc, Expectation& expected)
       m_fontNormal(dc, kNormalPoints, FW_NORMAL),
       m_fontSection(dc, kSectionPoints, FW_BOLD),
       m_engine(&dc, &m_fontHeader, &m_fontNormal, &m_fontSection) {
+    m_parent.CreateEx(0, nullptr, "paper", WS_POPUP, CRect(0, 0, 400, 300), nullptr, 0);
     for (const Section& section : kSections) {
         Add(section);
     }

@@ -25,11 +25,8 @@ public:
     // False if not all could be written.
     bool Close();
 
-    // In points from the upper left corner of the paper.
-    void Box(const CRect& rc);
-    void Pages(unsigned nPages);
-    // From one row to the next, in points.
-    void Pitch(double pitch);
+    // The margins in points from the upper left corner of the paper, and from one row to the next.
+    void Layout(const CRect& rcBox, unsigned nPages, double pitch);
     void Text(const std::string& strWord) { Line("text", "-", "-", "-", strWord); }
     void Keep(const std::string& strWord) { Line("keep", "-", "-", "-", strWord); }
     void Head(const std::string& strList, const std::string& strEdge, const std::string& strWord) {
@@ -45,13 +42,6 @@ private:
               const std::string& strEdge, const std::string& strWord);
 
     std::FILE* m_pFile;
-};
-
-// The parent of the lists, which stays hidden.
-class ListParent : public CWnd {
-public:
-    ListParent();
-    ~ListParent() override { DestroyWindow(); }
 };
 
 class PaperDocument {
@@ -87,7 +77,7 @@ private:
 
     CDC& m_dc;
     Expectation& m_expected;
-    ListParent m_parent;
+    CWnd m_parent;  // of the lists; it stays hidden
     Font m_fontHeader;
     Font m_fontNormal;
     Font m_fontSection;

@@ -31,19 +31,17 @@ public:
                GetDeviceCaps(LOGPIXELSX) == kDotsPerInch &&
                GetDeviceCaps(LOGPIXELSY) == kDotsPerInch;
     }
-    // What margins of an inch leave of the paper, in points from the paper's corner.
-    CRect BoxInPoints() const {
-        CRect rc(0, 0, ::MulDiv(GetDeviceCaps(PHYSICALWIDTH), kPointsPerInch, kDotsPerInch),
-                 ::MulDiv(GetDeviceCaps(PHYSICALHEIGHT), kPointsPerInch, kDotsPerInch));
-        rc.DeflateRect(kPointsPerInch, kPointsPerInch);
+    // What margins of an inch leave of the paper, in so many units an inch from the paper's corner.
+    CRect BoxIn(int nPerInch) const {
+        CRect rc(0, 0, ::MulDiv(GetDeviceCaps(PHYSICALWIDTH), nPerInch, kDotsPerInch),
+                 ::MulDiv(GetDeviceCaps(PHYSICALHEIGHT), nPerInch, kDotsPerInch));
+        rc.DeflateRect(nPerInch, nPerInch);
         return rc;
     }
     // The same in device units from where printing can begin.
     CRect Box() const {
-        CRect rc(0, 0, GetDeviceCaps(PHYSICALWIDTH), GetDeviceCaps(PHYSICALHEIGHT));
-        rc.DeflateRect(kDotsPerInch, kDotsPerInch);
-        rc.OffsetRect(-GetDeviceCaps(PHYSICALOFFSETX), -GetDeviceCaps(PHYSICALOFFSETY));
-        return rc;
+        return BoxIn(kDotsPerInch) -
+               CPoint(GetDeviceCaps(PHYSICALOFFSETX), GetDeviceCaps(PHYSICALOFFSETY));
     }
 };
 
@@ -61,9 +59,8 @@ bool Print(PrinterDC& dc, const char* pszOutput, Expectation& expected) {
     PaperDocument document(dc, expected);
     const CRect rcBox = dc.Box();
     const unsigned nPages = document.Paginate(rcBox);
-    expected.Box(dc.BoxInPoints());
-    expected.Pages(nPages);
-    expected.Pitch(static_cast<double>(document.LineHeight()) * kPointsPerInch / kDotsPerInch);
+    const double pitch = static_cast<double>(document.LineHeight());
+    expected.Layout(dc.BoxIn(kPointsPerInch), nPages, pitch * kPointsPerInch / kDotsPerInch);
     DOCINFO info{};
     info.cbSize = sizeof info;
     info.lpszDocName = "Paper";

@@ -1,5 +1,5 @@
 // A document for the pagination: items of every kind that print knows, with sizes that a test can
-// work out in its head, and a count of what was asked of them.
+// work out in its head.
 
 #pragma once
 
@@ -7,7 +7,6 @@
 #include "print/core/row_split.h"
 
 #include <algorithm>
-#include <string>
 #include <vector>
 
 class FakePageItems : public qv::PageItems {
@@ -23,8 +22,6 @@ public:
         unsigned nHeader = 0;
         unsigned nRowHeight = kLine;
         unsigned nChars = 0;  // of a text: its lines are as many characters long as the page wide
-        unsigned nCalcs = 0;
-        unsigned nPrintSizes = 0;
     };
 
     FakePageItems& Section() {
@@ -58,7 +55,6 @@ public:
     bool DoNotWidow(std::size_t nItem) override { return items[nItem].bDoNotWidow; }
     void CalcSize(std::size_t nItem, unsigned nWidth) override {
         Item& item = items[nItem];
-        ++item.nCalcs;
         if (item.nChars > 0) {
             item.nRows = (item.nChars + nWidth - 1) / nWidth;
             item.nMax = item.nRows * kLine;
@@ -66,8 +62,7 @@ public:
     }
     bool PrintSize(std::size_t nItem, unsigned nFirst, unsigned& nLast,
                    unsigned& nRemaining) override {
-        Item& item = items[nItem];
-        ++item.nPrintSizes;
+        const Item& item = items[nItem];
         return qv::FitRows(item.nRows, item.nHeader, item.nRowHeight, nFirst, nLast, nRemaining);
     }
 

@@ -5,7 +5,9 @@
 #include "base/text_measure.h"
 
 #include <algorithm>
+#include <string>
 #include <string_view>
+#include <vector>
 
 // Widths by byte, many of them zero; with kerning a pair may stand closer or wider, so that a text
 // may be narrower than its own start.
@@ -65,3 +67,17 @@ public:
     }
     std::size_t nBytes = 0;
 };
+
+// Texts that take long where any part of them is measured over and over again.
+inline std::vector<std::string> HugeTexts() {
+    std::string strWords;
+    std::string strLines;
+    for (int i = 0; i < 40000; ++i) {
+        strWords += "word" + std::string(i % 7, 'x') + ' ';
+        strLines += "line\n";
+    }
+    const std::string strWide(300000, 'a');
+    const std::string strNone(300000, 'z');
+    const std::string strBlanks(300000, ' ');
+    return {strWords, strLines, strWide, strBlanks, strNone + strWide, "a " + strNone + strWide};
+}

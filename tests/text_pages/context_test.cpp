@@ -127,14 +127,6 @@ TEST_F(ContextText, PartsAndWidthsAreCountedInBytes) {
                                   static_cast<UINT>(word.strWide.size()), wideWidths.data());
                 });
         }
-        if (ends[0] == 1) {  // a code of one byte
-            const UINT nCode = static_cast<BYTE>(str[0]);
-            INT nWidth = 0;
-            INT nWideWidth = 0;
-            ASSERT_TRUE(sheet.GetCharWidth(nCode, nCode, &nWidth));
-            ::GetCharWidth32W(sheet, word.strWide[0], word.strWide[0], &nWideWidth);
-            EXPECT_EQ(nWidth, nWideWidth);
-        }
     }
 }
 
@@ -159,18 +151,6 @@ TEST_F(ContextText, AShortenedTextComesBackInBytes) {
         ToPage(word.strWide.substr(0, wideParams.uiLengthDrawn), strDrawn);
         EXPECT_EQ(params.uiLengthDrawn, strDrawn.size());
     }
-}
-
-// The bytes of a symbol font are its glyphs, of no code page.
-TEST_F(ContextText, SymbolsStayWhatTheyAre) {
-    Sheet drawn(120, SYMBOL_CHARSET, "Wingdings");
-    const Sheet wanted(120, SYMBOL_CHARSET, "Wingdings");
-    if (::GetTextCharset(drawn) != SYMBOL_CHARSET) {
-        GTEST_SKIP() << "this machine has no such font";
-    }
-    drawn.TextOut(3, 4, "\xe8\x9f", 2);
-    ::TextOutA(wanted, 3, 4, "\xe8\x9f", 2);
-    EXPECT_TRUE(drawn.Pixels() == wanted.Pixels());
 }
 
 }  // namespace

@@ -11,37 +11,17 @@
 
 namespace {
 
-std::string TempFile(const std::string& strName) {
-    char szFolder[MAX_PATH];
-    ::GetTempPath(MAX_PATH, szFolder);
-    return szFolder + strName;
-}
-
-bool Exists(const std::wstring& strWide) {
-    return ::GetFileAttributesW(strWide.c_str()) != INVALID_FILE_ATTRIBUTES;
-}
-
-// File names leave out what no file may hold.
-std::string NameOf(const PageWord& word) {
-    std::wstring strName;
-    for (const wchar_t c : word.strWide) {
-        strName += c == L'"' || c == L'!' ? L'_' : c;
-    }
-    std::string str;
-    ToPage(strName + L".txt", str);
-    return str;
-}
-
 TEST(TextFiles, ExportAndLoadGiveEveryLineBack) {
     const std::vector<PageWord> words = PageWords();
+    char szFolder[MAX_PATH] = "";
+    ::GetTempPath(MAX_PATH, szFolder);
     for (const PageWord& word : words) {
         TextWindow<> w;
         for (const PageWord& line : words) {
             w.text.AddText((line.str + "\t" + word.str).c_str(), 0);
         }
-        const std::string strFile = TempFile(NameOf(word));
+        const std::string strFile = szFolder + word.str + ".txt";
         ASSERT_EQ(w.text.ExportData(strFile.c_str()), 1) << strFile;
-        EXPECT_TRUE(Exists(FromPage(strFile))) << "under its name: " << strFile;
         TextWindow<> other;
         ASSERT_EQ(other.text.LoadFile(strFile.c_str(), 0), 1);
         ASSERT_EQ(other.text.NumLines(), static_cast<int>(words.size()));
@@ -53,7 +33,7 @@ TEST(TextFiles, ExportAndLoadGiveEveryLineBack) {
         ASSERT_TRUE(list.list.ExportData(strFile.c_str(), ';'));
         ASSERT_EQ(other.text.LoadFile(strFile.c_str(), 0), 1);
         EXPECT_EQ(other.text.Text(0), word.str + ";" + word.str);
-        EXPECT_TRUE(::DeleteFileW(FromPage(strFile).c_str()));
+        EXPECT_TRUE(::DeleteFileW(FromPage(strFile).c_str())) << "under its name: " << strFile;
     }
 }
 

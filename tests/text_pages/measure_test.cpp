@@ -19,20 +19,7 @@ std::vector<PageWord> WordsAndALongOne() {
     return words;
 }
 
-TEST(TextMeasuring, ExtentsAreThoseOfTheWideText) {
-    Sheet sheet;
-    qv::FontMeasure measure;
-    measure.SetFont(sheet.Font());
-    for (const PageWord& word : WordsAndALongOne()) {
-        EXPECT_EQ(qv::TextExtent(sheet, word.str).cx, sheet.WideWidth(word.strWide)) << word.str;
-        for (int i = 0; i < 2; ++i) {
-            EXPECT_EQ(measure.Extent(word.str).cx, sheet.WideWidth(word.strWide)) << word.str;
-        }
-        EXPECT_EQ(measure.Extent(word.str).cy, qv::TextExtent(sheet, "x").cy);
-    }
-}
-
-TEST(TextMeasuring, EachByteHasTheWidthUpToTheEndOfItsCharacter) {
+TEST(TextMeasuring, ATextAndEachOfItsBytesReachAsFarAsTheWideTextDoes) {
     constexpr int kUntouched = -77;
     Sheet sheet;
     qv::FontMeasure measure;
@@ -55,6 +42,11 @@ TEST(TextMeasuring, EachByteHasTheWidthUpToTheEndOfItsCharacter) {
         }
     };
     for (const PageWord& word : WordsAndALongOne()) {
+        EXPECT_EQ(qv::TextExtent(sheet, word.str).cx, sheet.WideWidth(word.strWide)) << word.str;
+        for (int i = 0; i < 2; ++i) {
+            EXPECT_EQ(measure.Extent(word.str).cx, sheet.WideWidth(word.strWide)) << word.str;
+        }
+        EXPECT_EQ(measure.Extent(word.str).cy, qv::TextExtent(sheet, "x").cy);
         std::vector<int> widths(word.str.size() + 1, kUntouched);
         qv::TextPrefixWidths(sheet, word.str, widths.data());
         check(word, widths);

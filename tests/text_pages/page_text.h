@@ -39,6 +39,13 @@ inline std::wstring FromPage(const std::string& str) {
     return strWide;
 }
 
+/// What the wide call says of a window.
+inline std::wstring WideTextOf(HWND hWnd) {
+    wchar_t szText[1000] = L"";
+    ::GetWindowTextW(hWnd, szText, 1000);
+    return szText;
+}
+
 /// One word in both forms.
 struct PageWord {
     std::wstring strWide;

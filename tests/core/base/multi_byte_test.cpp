@@ -4,15 +4,10 @@
 #include "support/double_byte.h"
 
 #include <gtest/gtest.h>
-#include <random>
 
 namespace {
 
 using qv::MultiByte;
-
-int Sign(int n) {
-    return (n > 0) - (n < 0);
-}
 
 TEST(MultiByte, ComparesWithoutCaseByCharacter) {
     const MultiByte kBytes, kPairs = DoubleByte(), kUtf8 = MultiByte::Utf8();
@@ -69,28 +64,6 @@ TEST(MultiByte, ACharacterIsWholeOrOneByteAtTheEnd) {
     EXPECT_EQ(MultiByte().PrefixBytes("abc", 99), 3u);
 }
 
-TEST(MultiByte, SortKeysOrderAsComparisonDoes) {
-    std::mt19937 random(7);
-    for (const MultiByte& text : {MultiByte(), DoubleByte(), MultiByte::Utf8()}) {
-        for (int i = 0; i < 4000; ++i) {
-            std::string strings[2];
-            for (std::string& str : strings) {
-                for (unsigned n = random() % 5; n > 0; --n) {
-                    static constexpr unsigned char kBytes[] = {'a',  'A',  'b',  0x81, 0x83, 0x41,
-                                                               0xC3, 0xA4, 0x84, 0xB1, 0xFF, 0xE2};
-                    str += static_cast<char>(kBytes[random() % std::size(kBytes)]);
-                }
-            }
-            std::string keys[2];
-            text.AppendSortKey(strings[0].c_str(), keys[0]);
-            text.AppendSortKey(strings[1].c_str(), keys[1]);
-            ASSERT_EQ(Sign(keys[0].compare(keys[1])),
-                      text.CompareNoCase(strings[0].c_str(), strings[1].c_str()))
-                << testing::PrintToString(strings);
-        }
-    }
-}
-
 TEST(TextPool, GivesFreedBlocksOfTheSameSizeOutAgain) {
     qv::TextPool pool;
     char* psz = pool.Allocate(20);
@@ -99,31 +72,6 @@ TEST(TextPool, GivesFreedBlocksOfTheSameSizeOutAgain) {
     pool.Free(psz);
     EXPECT_EQ(pool.Allocate(19), psz);
     pool.Free(nullptr);
-}
-
-TEST(TextPool, HoldsTextsOfAnySizeApart) {
-    qv::TextPool pool;
-    std::vector<std::pair<char*, size_t>> texts;
-    std::mt19937 random(3);
-    for (int i = 0; i < 3000; ++i) {
-        if (!texts.empty() && random() % 3 == 0) {
-            const size_t n = random() % texts.size();
-            const auto [psz, nBytes] = texts[n];
-            for (size_t k = 0; k < nBytes; ++k) {
-                ASSERT_EQ(psz[k], static_cast<char>(nBytes));
-            }
-            pool.Free(psz);
-            texts[n] = texts.back();
-            texts.pop_back();
-        } else {
-            const size_t nBytes = 1 + random() % (i % 50 == 0 ? 5000 : 300);
-            char* psz = pool.Allocate(nBytes);
-            std::fill_n(psz, nBytes, static_cast<char>(nBytes));
-            texts.emplace_back(psz, nBytes);
-        }
-    }
-    pool.FreeAll();
-    EXPECT_NE(pool.Allocate(8), nullptr);
 }
 
 }  // namespace

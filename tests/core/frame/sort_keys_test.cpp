@@ -5,15 +5,6 @@
 
 namespace qv {
 
-TEST(SortKeys, NumbersAreUnsigned) {
-    const MultiByte text;
-    const SortKeys keys(text);
-    const auto key = [](int n) { return SortKeys::Number(static_cast<std::uint32_t>(n)); };
-    EXPECT_EQ(keys.Compare(key(3), key(5)), -1);
-    EXPECT_EQ(keys.Compare(key(-1), key(5)), 1);
-    EXPECT_EQ(keys.Compare(key(-1), key(-1)), 0);
-}
-
 // Before day 0 the fraction still is the time that has passed of the day.
 TEST(SortKeys, DatesOrderByTimeOnBothSidesOfDayZero) {
     const MultiByte text;

@@ -17,13 +17,6 @@ StyleTable Table(int nStyles) {
     return table;
 }
 
-TEST(StyleCodes, AreEscapeAndALetterAddedInEightBits) {
-    EXPECT_STREQ(qv::MakeStyleCodes(-1).data(), "");
-    EXPECT_STREQ(qv::MakeStyleCodes(0).data(), "\033a");
-    EXPECT_STREQ(qv::MakeStyleCodes(26).data(), "\x1B{");
-    EXPECT_STREQ(qv::MakeStyleCodes(31).data(), "\x1B\x80");
-}
-
 TEST(StyleParsing, TakesOnlyCodesOfTheTable) {
     const StyleTable table = Table(40);
     struct Case {
@@ -76,17 +69,6 @@ TEST(StylePrefix, SeparatesFieldsOnlyWhereNeeded) {
     EXPECT_STREQ(table.PrefixFor('\t', 1).data(), "\033b");
     EXPECT_STREQ(table.PrefixFor('x', 3).data(), "\t\033a") << "beyond the table: style 0";
     EXPECT_STREQ(table.PrefixFor('x', -1).data(), "");
-}
-
-TEST(ChangeStyle, OverwritesACodeInPlaceAndGivesNone) {
-    char styled[] = "\033ax";
-    EXPECT_TRUE(qv::ChangeStyle(styled, 4));
-    EXPECT_STREQ(styled, "\033ex");
-    char plain[] = "ax";
-    EXPECT_FALSE(qv::ChangeStyle(plain, 4));
-    char alone[] = "\x1B";
-    EXPECT_FALSE(qv::ChangeStyle(alone, 4));
-    EXPECT_STREQ(alone, "\x1B");
 }
 
 TEST(Wheel, AddsSmallMovementsUpToSteps) {

@@ -46,39 +46,6 @@ bool RunsOut(int nSucceeding, Action action) {
 
 }  // namespace
 
-TEST(GridModel, AColumnAddedLaterKeepsEarlierCells) {
-    GridModel model;
-    model.AddRow("lost", 0);
-    AddColumns(model, 2);
-    model.AddRow("a\tb", 0);
-    model.Cell(1, 1)->dwData = 7;
-    model.ModifyStyle(1, 1, GCS_READONLY, 0);
-    AddColumns(model, 1);
-    EXPECT_EQ(model.Text(0, 0), nullptr) << "a row without cells has none later either";
-    EXPECT_STREQ(model.Text(1, 1), "b");
-    EXPECT_EQ(model.Cell(1, 1)->dwData, 7u);
-    EXPECT_EQ(model.Cell(1, 1)->dwStyle, GCS_READONLY);
-    EXPECT_EQ(model.Cell(1, 2)->dwData, 0u);
-    EXPECT_EQ(model.Cell(1, 2)->dwStyle, 0u);
-    EXPECT_TRUE(model.CheckInvariants());
-}
-
-TEST(GridModel, TheKindOfAColumnSaysWhetherItHasButtonAndEdit) {
-    GridModel model;
-    for (const GridColType nType : {gctStatic, gctButton, gctEdit, gctEditButton, gctDropList}) {
-        EXPECT_EQ(model.AddColumn(nType, 40 + nType), nType);
-        EXPECT_EQ(model.Type(nType), nType);
-        EXPECT_EQ(model.Column(nType)->nWidth, 40 + nType);
-        EXPECT_EQ(model.UsesButton(nType), nType == 1 || nType >= 3);
-        EXPECT_EQ(model.UsesEdit(nType), nType == 2 || nType == 3);
-    }
-    for (const int nCol : {-1, 5}) {
-        EXPECT_EQ(model.Column(nCol), nullptr);
-        EXPECT_EQ(model.Type(nCol), gctStatic);
-        EXPECT_FALSE(model.UsesButton(nCol) || model.UsesEdit(nCol));
-    }
-}
-
 TEST(GridModel, ARowAddedWithoutMemoryIsNotThereOrReadsAsEmpty) {
     const std::string strRow = "a\tb\t" + std::string(300, 'x');
     std::string strWhole = strRow + '|';

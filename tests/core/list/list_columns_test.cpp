@@ -22,15 +22,11 @@ TEST(ListColumns, CountFollowsInsertionsAtTheEndAlone) {
 TEST(ListColumns, TablesIgnoreIndicesOutOfRange) {
     ListColumns columns;
     columns.SetCount(25);
-    columns.SetFormat(24, 2);
-    columns.SetFormat(25, 1);
-    columns.SetFormat(-1, 1);
+    for (const int nCol : {25, -1}) {
+        columns.SetFormat(nCol, 1);
+        EXPECT_EQ(columns.Format(nCol), 0);
+    }
     columns.SetStyle(3, 4);
-    EXPECT_EQ(columns.Format(24), 2);
-    EXPECT_EQ(columns.Format(25), 0);
-    EXPECT_EQ(columns.Format(-1), 0);
-    EXPECT_EQ(columns.Format(0), 0);
-    EXPECT_EQ(columns.Style(3), 4);
     // Entries outlast the columns that they are for.
     columns.SetCount(2);
     EXPECT_EQ(columns.Style(3), 0);

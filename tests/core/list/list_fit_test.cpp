@@ -65,11 +65,4 @@ TEST(ListFit, NothingIsTouchedOnceTheListIsGone) {
     EXPECT_EQ(columns.widths, (Widths{19, 68, 60}));
 }
 
-TEST(ListFit, ASingleColumnFollowsWindowAndWidestRow) {
-    EXPECT_EQ(SingleRowWidth(16, 100), 128);
-    EXPECT_EQ(InsertedRowWidth(16, 100), 116) << "the next fit adds the margin";
-    EXPECT_EQ(SingleColumnWidth(200, 128), 200);
-    EXPECT_EQ(SingleColumnWidth(100, 128), 128);
-}
-
 }  // namespace qv

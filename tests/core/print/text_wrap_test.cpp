@@ -110,25 +110,16 @@ TEST(TextWrap, LinesEndAtBlanksOrWhereTheyMust) {
 }
 
 std::string RandomText(std::mt19937& random, std::size_t nMost) {
-    static constexpr std::string_view kParts[] = {"a",
-                                                  "b",
-                                                  "w",
-                                                  " ",
-                                                  " ",
-                                                  "  ",
-                                                  "\t",
-                                                  "\n",
-                                                  "\xC3\xA4",
-                                                  "\xE2\x82\xAC",
-                                                  "\x83\x41",
-                                                  "\x9F",
-                                                  "\xF0\x9F\x98\x80",
-                                                  "\xFF"};
-    const std::size_t nParts = random() % nMost;
-    const unsigned nKinds = 1 + random() % std::size(kParts);  // some texts without multi-byte
+    static constexpr std::string_view kAscii = "abw  \t\n";
+    static constexpr std::string_view kOthers[] = {"\xC3\xA4", "\xE2\x82\xAC",     "\x83\x41",
+                                                   "\x9F",     "\xF0\x9F\x98\x80", "\xFF"};
+    const std::size_t nBytes = random() % nMost;
+    // Some texts have no multi-byte characters.
+    const std::size_t nKinds = 1 + random() % (kAscii.size() + std::size(kOthers));
     std::string strText;
-    while (strText.size() < nParts) {
-        strText += kParts[random() % nKinds];
+    while (strText.size() < nBytes) {
+        const std::size_t n = random() % nKinds;
+        strText += n < kAscii.size() ? kAscii.substr(n, 1) : kOthers[n - kAscii.size()];
     }
     return strText;
 }
@@ -153,15 +144,7 @@ TEST(TextWrap, AgreesWithTheRuleOnRandomTexts) {
 }
 
 TEST(TextWrap, MeasuresFewTimesWhatTheTextHolds) {
-    std::string strWords;
-    for (int i = 0; i < 40000; ++i) {
-        strWords += "word" + std::string(i % 7, 'x') + ' ';
-    }
-    const std::string strWide(300000, 'a');
-    const std::string strNone(300000, 'z');
-    const std::string strBlanks(300000, ' ');
-    for (const std::string& strText :
-         {strWords, strWide, strBlanks, strNone + strWide, "a " + strNone + strWide}) {
+    for (const std::string& strText : HugeTexts()) {
         for (const unsigned nWidth : {8u, 560u, 70000u}) {
             CountingMeasure measure;
             Lines lines;

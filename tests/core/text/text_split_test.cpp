@@ -1,6 +1,5 @@
 #include "text/core/text_split.h"
 
-#include "base/multi_byte.h"
 #include "support/fake_window.h"
 #include "support/odd_measures.h"
 #include "support/text_split_rule.h"
@@ -50,52 +49,8 @@ TEST(TextSplit, BreaksAtLineFeedsBlanksAndWords) {
     }
 }
 
-// Characters of UTF-8, each as wide as it has bytes.
-class Utf8Measure : public qv::TextMeasure {
-public:
-    qv::Size Extent(std::string_view text) override {
-        return {kChar * static_cast<int>(text.size()), 10};
-    }
-    std::size_t CharBytes(std::string_view text) const override { return m_utf8.CharBytes(text); }
-
-private:
-    const qv::MultiByte m_utf8 = qv::MultiByte::Utf8();
-};
-
-TEST(TextSplit, NoCharacterIsCutInTwoHoweverNarrowTheWindow) {
-    Utf8Measure measure;
-    qv::TextSplitter splitter(measure);
-    std::string strText;
-    for (int i = 0; i < 300; ++i) {
-        strText += i % 3 == 0 ? "\xE6\x97\xA5" : i % 7 == 0 ? " " : i % 2 == 0 ? "\xC3\xBC" : "a";
-    }
-    for (int nChars = 0; nChars < 200; ++nChars) {
-        Starts starts;
-        splitter.Split(strText, nChars * kChar, starts);
-        ASSERT_GT(starts.size(), 2u);
-        for (const int nStart : starts) {
-            const auto at = static_cast<std::size_t>(nStart);
-            ASSERT_TRUE(at == strText.size() || (strText[at] & 0xC0) != 0x80)
-                << "byte " << nStart << " at width " << nChars;
-        }
-    }
-    Starts starts;
-    splitter.Split("\xE6\x97\xA5\xE6\x97\xA5x", 2 * kChar, starts);
-    EXPECT_EQ(starts, (Starts{0, 0, 3, 6})) << "each too wide by itself, and taken whole";
-}
-
 TEST(TextSplit, MeasuresFewTimesWhatTheTextHolds) {
-    std::string strWords;
-    std::string strLines;
-    for (int i = 0; i < 40000; ++i) {
-        strWords += "word" + std::string(i % 7, 'x') + ' ';
-        strLines += "line\n";
-    }
-    const std::string strWide(300000, 'a');
-    const std::string strNone(300000, 'z');
-    const std::string strBlanks(300000, ' ');
-    for (const std::string& strText :
-         {strWords, strLines, strWide, strBlanks, strNone + strWide, "a " + strNone + strWide}) {
+    for (const std::string& strText : HugeTexts()) {
         for (const int nChars : {1, 100, 10000}) {
             CountingMeasure measure;
             Starts starts;

@@ -89,16 +89,13 @@ TEST(TextView, RowsStayMadeForTheWidthWithoutTheBar) {
     EXPECT_EQ(text.m_nNumRows, 6) << "but for a window that has its size from the system";
 }
 
-TEST(TextView, ALargerWindowShowsTheEndAndTheBarSaysSo) {
-    ShownText text;
-    text.Add(50, "ab");
+TEST(TextView, RowsFollowAWindowThatBecomesNarrowerAsItsBarComes) {
+    ShownText text(200, 10 * kRow);
+    text.view.SetExact(true);
+    text.Add(11, std::string(20, 'x'));
+    text.window.onResize = [&] { text.window.size.cx = 100; };
     text.Fit();
-    text.m_nVScrollPos = 40;
-    text.Resize(200, 13 * kRow);
-    EXPECT_EQ(text.m_nVScrollPos, 37);
-    EXPECT_EQ(text.window.ranges[SB_VERT].nPos, 37);
-    text.Resize(200, 60 * kRow);
-    EXPECT_EQ(text.m_nVScrollPos, 0);
+    EXPECT_EQ(text.m_nNumRows, 22);
 }
 
 TEST(TextView, NoBarFitsAWindowAsWideAsTheBar) {
@@ -130,8 +127,9 @@ TEST_F(TextScrolling, MovesPixelsPositionAndBar) {
         int nRow, nPos;
     } kSteps[] = {
         {SB_LINEUP, 0, 0},       {SB_LINEDOWN, 0, 1},        {SB_PAGEDOWN, 0, 11},
-        {SB_THUMBTRACK, 41, 11}, {SB_THUMBPOSITION, 30, 30}, {SB_PAGEDOWN, 0, 40},
-        {SB_LINEDOWN, 0, 40},    {SB_BOTTOM, 0, 40},         {SB_TOP, 0, 0},
+        {SB_THUMBTRACK, 41, 11}, {SB_THUMBPOSITION, 30, 30}, {SB_THUMBTRACK, 30, 30},
+        {SB_PAGEDOWN, 0, 40},    {SB_LINEDOWN, 0, 40},       {SB_BOTTOM, 0, 40},
+        {SB_TOP, 0, 0},
     };
     for (const auto& [nCode, nRow, nPos] : kSteps) {
         text.window.scrolls.clear();
@@ -181,19 +179,17 @@ TEST(TextColumns, ScrollByTheMessageAndReturnAsTheWindowGrows) {
     text.Fit();
     EXPECT_TRUE(text.HasBar(SB_HORZ));
     EXPECT_FALSE(text.HasBar(SB_VERT));
-    for (const auto& [nCode, nThumb, nPos] : {std::tuple{SB_LINELEFT, 0, 0},
-                                              {SB_LINERIGHT, 0, 1},
-                                              {SB_PAGERIGHT, 0, 21},
-                                              {SB_THUMBTRACK, 70, 70},
-                                              {SB_PAGERIGHT, 0, 80},
-                                              {SB_LINERIGHT, 0, 80},
-                                              {SB_THUMBTRACK, 81, 80},
-                                              {SB_PAGELEFT, 0, 60},
-                                              {SB_TOP, 0, 0},
-                                              {SB_BOTTOM, 0, 80}}) {
+    const struct {
+        unsigned nCode;
+        int nThumb, nPos;
+    } kSteps[] = {{SB_LINELEFT, 0, 0},     {SB_LINERIGHT, 0, 1},  {SB_PAGERIGHT, 0, 21},
+                  {SB_THUMBTRACK, 70, 70}, {SB_PAGERIGHT, 0, 80}, {SB_LINERIGHT, 0, 80},
+                  {SB_THUMBTRACK, 81, 80}, {SB_PAGELEFT, 0, 60},  {SB_TOP, 0, 0},
+                  {SB_BOTTOM, 0, 80}};
+    for (const auto& [nCode, nThumb, nPos] : kSteps) {
         const int nBefore = text.m_nHScrollPos;
         text.window.scrolls.clear();
-        EXPECT_EQ(text.view.HScroll(static_cast<unsigned>(nCode), nThumb), nPos != nBefore);
+        EXPECT_EQ(text.view.HScroll(nCode, nThumb), nPos != nBefore);
         EXPECT_EQ(text.window.ranges[SB_HORZ], (qv::ScrollRange{0, 99, 20, nPos})) << nCode;
         EXPECT_EQ(text.window.scrolls.empty() ? 0 : text.window.scrolls[0].x,
                   (nBefore - nPos) * kChar);

@@ -3,6 +3,7 @@
 
 #include <cstring>
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace {
 
@@ -155,18 +156,19 @@ protected:
 };
 
 TEST_F(TreeNavigation, CodesLeadToRelatives) {
-    EXPECT_EQ(tree.Items().GetNextItem(x, TVGN_ROOT), a);
-    EXPECT_EQ(tree.Items().GetNextItem(a, TVGN_ROOT), a);
-    EXPECT_EQ(tree.Items().GetNextItem(a, TVGN_NEXT), b);
-    EXPECT_EQ(tree.Items().GetNextItem(b, TVGN_PREVIOUS), a);
-    EXPECT_EQ(tree.Items().GetNextItem(a2, TVGN_PARENT), a);
-    EXPECT_EQ(tree.Items().GetNextItem(a, TVGN_CHILD), a1);
-    EXPECT_EQ(tree.Items().GetNextItem(nullptr, TVGN_CHILD), a);
+    for (const auto& [nCode, from, to] : {std::tuple{TVGN_ROOT, x, a},
+                                          {TVGN_NEXT, a, b},
+                                          {TVGN_PREVIOUS, b, a},
+                                          {TVGN_PARENT, a2, a},
+                                          {TVGN_CHILD, a, a1},
+                                          {TVGN_CHILD, nullptr, a},
+                                          {10u, a, nullptr}}) {
+        EXPECT_EQ(tree.Items().GetNextItem(from, nCode), to) << nCode;
+    }
     for (unsigned nCode : {TVGN_ROOT, TVGN_NEXT, TVGN_PREVIOUS, TVGN_PARENT, TVGN_NEXTVISIBLE,
                            TVGN_PREVIOUSVISIBLE, TVGN_DROPHILITE, 10u}) {
         EXPECT_EQ(tree.Items().GetNextItem(nullptr, nCode), nullptr) << nCode;
     }
-    EXPECT_EQ(tree.Items().GetNextItem(a, 10), nullptr);
     EXPECT_TRUE(tree.Items().CheckForAncestor(x, a));
     EXPECT_FALSE(tree.Items().CheckForAncestor(a, a));
     EXPECT_FALSE(tree.Items().CheckForAncestor(nullptr, a));

@@ -1,4 +1,4 @@
-// The application's services: wait cursor, settings, idle messages.
+// The application's services: wait cursor, settings, messages.
 #include "support/test_app.h"
 
 #include <gtest/gtest.h>
@@ -21,14 +21,6 @@ TEST(WaitCursor, Nests_AndGivesTheOldCursorBackAtTheEnd) {
         EXPECT_EQ(::GetCursor(), hWait) << "one is still open";
     }
     EXPECT_EQ(::GetCursor(), hBefore);
-}
-
-TEST(AppResources, TheSplitCursorsComeLastInTheChain) {
-    for (const UINT nID : {AFX_IDC_HSPLITBAR, AFX_IDC_VSPLITBAR}) {
-        EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCE(nID), RT_GROUP_CURSOR),
-                  ::GetModuleHandle("qvafx.dll"));
-        EXPECT_NE(TheTestApp().LoadCursor(nID), nullptr) << nID;
-    }
 }
 
 TEST(AppSettings, ComeBackFromTheRegistryAndFromTheIniFile) {
@@ -65,24 +57,6 @@ TEST(AppMessages, WhatIsFilledInIsNotFilledInAgain) {
     CString str;
     AfxFormatString2(str, AFX_IDP_PARSE_INT_RANGE, "%2", "9");
     EXPECT_STREQ(str, "Please enter a whole number from %2 to 9.");
-}
-
-TEST(IdleMessages, PaintsAndARestingMouseAreNone) {
-    constexpr POINT kHere = {5, 6};
-    constexpr POINT kThere = {7, 6};
-    const struct {
-        UINT nMessage;
-        POINT pt;
-        BOOL bIdle;
-    } messages[] = {{WM_PAINT, kHere, FALSE},
-                    {WM_MOUSEMOVE, kHere, TRUE},
-                    {WM_MOUSEMOVE, kHere, FALSE},
-                    {WM_MOUSEMOVE, kThere, TRUE},
-                    {WM_KEYDOWN, kThere, TRUE}};
-    for (const auto& [nMessage, pt, bIdle] : messages) {
-        MSG msg = {nullptr, nMessage, 0, 0, 0, pt};
-        EXPECT_EQ(AfxGetThread()->IsIdleMessage(&msg), bIdle);
-    }
 }
 
 }  // namespace

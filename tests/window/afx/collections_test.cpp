@@ -36,12 +36,6 @@ TEST(Array, GrowsWithNewElementsZero) {
     numbers.SetSize(1);
     numbers.SetSize(6);
     EXPECT_EQ(numbers[5], 0u) << "what was cut off does not come back";
-    CDWordArray grown;
-    grown.SetSize(0, 100);
-    grown.Add(0);
-    const DWORD* pData = grown.GetData();
-    grown.SetSize(100);
-    EXPECT_EQ(grown.GetData(), pData) << "by a hundred at a time";
 }
 
 TEST(Array, ElementsMayBeCopiesOfItsOwn) {

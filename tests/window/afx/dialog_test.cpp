@@ -6,7 +6,6 @@
 #include "window/afx/afx_test_ids.h"
 #include "window/second_module/second_module_ids.h"
 
-#include <algorithm>
 #include <functional>
 #include <gtest/gtest.h>
 #include <string>
@@ -16,17 +15,14 @@
 namespace {
 
 constexpr UINT kAct = WM_APP + 10;
-constexpr LONG kIdleRounds = 2;
 
-/// Runs m_action once its loop runs; counts what comes by.
+/// Runs m_action once its loop runs.
 class ModalDialog : public CDialog {
 public:
     explicit ModalDialog(CWnd* pParent = nullptr, UINT nID = IDD_MODAL) : CDialog(nID, pParent) {}
 
     std::function<void(ModalDialog&)> m_action;
     std::function<void(ModalDialog&)> m_init;
-    BOOL m_bSwallowKeys = FALSE;
-    LONG m_lLongestIdle = -1;  ///< highest count of idle calls in a row
 
     BOOL OnInitDialog() override {
         CDialog::OnInitDialog();
@@ -36,12 +32,6 @@ public:
         PostMessage(kAct);
         return TRUE;
     }
-    BOOL PreTranslateMessage(MSG* pMsg) override {
-        if (m_bSwallowKeys && pMsg->message == WM_KEYDOWN) {
-            return TRUE;
-        }
-        return CDialog::PreTranslateMessage(pMsg);
-    }
 
 protected:
     afx_msg LRESULT OnAct(WPARAM, LPARAM) {
@@ -50,18 +40,11 @@ protected:
         }
         return 0;
     }
-    afx_msg LRESULT OnKickIdle(WPARAM, LPARAM lCount) {
-        m_lLongestIdle = std::max(m_lLongestIdle, static_cast<LONG>(lCount));
-        return lCount < kIdleRounds;
-    }
     DECLARE_MESSAGE_MAP()
 };
 
-constexpr UINT kKickIdle = 0x036A;
-
 BEGIN_MESSAGE_MAP(ModalDialog, CDialog)
     ON_MESSAGE(kAct, &ModalDialog::OnAct)
-    ON_MESSAGE(kKickIdle, &ModalDialog::OnKickIdle)
 END_MESSAGE_MAP()
 
 TEST(ModalDialogs, GiveTheResultOfTheirEnd_AndDisableTheirOwnerMeanwhile) {
@@ -92,34 +75,6 @@ TEST(ModalDialogs, GiveTheResultOfTheirEnd_AndDisableTheirOwnerMeanwhile) {
     EXPECT_EQ(ModalDialog(nullptr, 9999).DoModal(), -1) << "no such template";
 }
 
-void CALLBACK ActLater(HWND hWnd, UINT, UINT_PTR nID, DWORD) {
-    ::KillTimer(hWnd, nID);
-    ::PostMessage(hWnd, kAct, 0, 0);
-}
-
-TEST(ModalDialogs, ShowThemselvesWhenTheQueueIsEmpty_ThenIdle) {
-    ModalDialog dlg;
-    int nActions = 0;
-    bool bShownAtFirst = true;
-    bool bShownLater = false;
-    dlg.m_action = [&](ModalDialog& d) {
-        bShownLater = d.IsWindowVisible() != FALSE;
-        bShownAtFirst &= nActions++ > 0 || bShownLater;
-        // On a busy machine the timer may come before the idle calls are through.
-        constexpr int kTries = 100;
-        if (d.m_lLongestIdle < kIdleRounds && nActions < kTries) {
-            constexpr UINT kSoon = 10;  // milliseconds
-            d.SetTimer(1, kSoon, ActLater);
-        } else {
-            d.EndDialog(1);
-        }
-    };
-    EXPECT_EQ(dlg.DoModal(), 1);
-    EXPECT_FALSE(bShownAtFirst) << "the first message was there before the first idle time";
-    EXPECT_TRUE(bShownLater);
-    EXPECT_EQ(dlg.m_lLongestIdle, kIdleRounds) << "called again while it gives TRUE, then no more";
-}
-
 /// A template in memory: a caption and nothing else.
 TEST(ModalDialogs, EndedWhileBeingMade_NeverRun) {
     const struct {
@@ -138,7 +93,7 @@ TEST(ModalDialogs, EndedWhileBeingMade_NeverRun) {
     EXPECT_EQ(dlg.DoModal(), -1) << "destroyed instead of ended";
 }
 
-TEST(ModalDialogs, KeysWalkTheItems_UnlessPreTranslateMessageTakesThem) {
+TEST(ModalDialogs, KeysWalkTheItems) {
     ModalDialog dlg;
     std::vector<int> focused;
     dlg.m_action = [&](ModalDialog& d) {
@@ -147,27 +102,10 @@ TEST(ModalDialogs, KeysWalkTheItems_UnlessPreTranslateMessageTakesThem) {
         note();
         TypeKey(VK_TAB);
         note();
-        d.m_bSwallowKeys = TRUE;
-        TypeKey(VK_TAB);
-        note();
-        d.m_bSwallowKeys = FALSE;
         TypeKey(VK_ESCAPE);
     };
     EXPECT_EQ(dlg.DoModal(), IDCANCEL);
-    EXPECT_EQ(focused, (std::vector<int>{IDC_NAME, IDOK, IDOK}));
-}
-
-TEST(ModelessDialogs, LiveBesideTheirParentUntilDestroyed) {
-    RecordingParent parent;
-    ModalDialog dlg;
-    int nActions = 0;
-    dlg.m_action = [&](ModalDialog&) { ++nActions; };
-    ASSERT_TRUE(dlg.Create(IDD_MODAL, &parent));
-    EXPECT_TRUE(parent.IsWindowEnabled());
-    PumpPending();
-    EXPECT_EQ(nActions, 1);
-    EXPECT_TRUE(dlg.DestroyWindow());
-    EXPECT_FALSE(dlg.Create(9999u, &parent));
+    EXPECT_EQ(focused, (std::vector<int>{IDC_NAME, IDOK}));
 }
 
 /// Notes its name when a message passes on its way to be dispatched.

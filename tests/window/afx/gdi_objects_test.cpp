@@ -1,6 +1,6 @@
-// Pens, brushes, fonts, bitmaps, palettes and regions: who owns the handle, and what it was made
-// of.
-#include <afxwin.h>
+// Pens, brushes, fonts, bitmaps, palettes, regions and image lists: who owns the handle, and what it
+// was made of.
+#include <afxcmn.h>
 
 #include <gtest/gtest.h>
 #include <memory>
@@ -82,12 +82,24 @@ TEST(GdiObjects, TemporaryOnesLeaveTheHandleAlone) {
     EXPECT_EQ(AfxGetOwnedHandleCount(), nOwned);
 }
 
-TEST(GdiObjects, TheHalftoneBrushIsNobodys) {
+TEST(ImageLists, OwnTheirHandlesUntilTheyGo) {
     const LONG nOwned = AfxGetOwnedHandleCount();
-    const HBRUSH hBrush = *CDC::GetHalftoneBrush();
+    CImageList list;
+    ASSERT_TRUE(list.Create(8, 8, ILC_COLOR24 | ILC_MASK, 1, 1));
+    EXPECT_EQ(AfxGetOwnedHandleCount(), nOwned + 1);
+    const HIMAGELIST hList = list.Detach();
     EXPECT_EQ(AfxGetOwnedHandleCount(), nOwned);
-    CGdiObject::DeleteTempMap();
-    EXPECT_EQ(static_cast<HBRUSH>(*CDC::GetHalftoneBrush()), hBrush);
+    EXPECT_EQ(CImageList::FromHandlePermanent(hList), nullptr);
+    {
+        CImageList owner;
+        EXPECT_FALSE(owner.Attach(nullptr));
+        EXPECT_TRUE(owner.Attach(hList));
+        EXPECT_EQ(CImageList::FromHandlePermanent(hList), &owner);
+        EXPECT_TRUE(owner.Create(8, 8, ILC_COLOR24, 1, 1)) << "in place of the other";
+        EXPECT_EQ(AfxGetOwnedHandleCount(), nOwned + 1);
+    }
+    EXPECT_EQ(AfxGetOwnedHandleCount(), nOwned);
+    EXPECT_FALSE(list.Create(9999u, 8, 1, RGB(0, 128, 128)));
 }
 
 TEST(GdiObjects, APointIsSoManyUnitsOfTheContext) {

@@ -8,7 +8,6 @@
 #include <gtest/gtest.h>
 #include <memory>
 #include <string>
-#include <vector>
 
 namespace {
 
@@ -78,7 +77,6 @@ TEST(OutOfMemory, AStringKeepsItsText) {
 /// Copying one takes memory, with the language's exception where there is none.
 using StdArray = CArray<std::string>;
 const std::string kOwnLong(kLong);
-const std::string kMuch(4000, 'x');
 
 /// "1" and a long text.
 StdArray& Two() {
@@ -127,45 +125,6 @@ TEST(OutOfMemory, AnAbsurdSizeIsAMatterOfMemory) {
     CByteArray bytes;
     EXPECT_EQ(Outcome::kMemoryException, Try([&] { bytes.SetSize(INTPTR_MAX); }));
     EXPECT_EQ(0, bytes.GetSize());
-    CString str("a");
-    EXPECT_EQ(Outcome::kMemoryException, Try([&] { str.Append(kLong, INT_MAX); }));
-    EXPECT_STREQ("a", str);
-}
-
-TEST(OutOfMemory, AMemoryFileKeepsItsBytes) {
-    RefuseInChange<CMemFile>(
-        "memory file", [](CMemFile& f) { f.Write("abc", 3); },
-        [](const CMemFile& f) {
-            auto& file = const_cast<CMemFile&>(f);
-            char szRead[5000] = "";
-            const ULONGLONG nAt = file.GetPosition();
-            file.SeekToBegin();
-            file.Read(szRead, sizeof szRead);
-            file.Seek(static_cast<LONGLONG>(nAt), CFile::begin);
-            return std::to_string(nAt) + "/" + std::to_string(file.GetLength()) + szRead;
-        },
-        [](CMemFile& f) { f.Write(kMuch.c_str(), 4000); });
-}
-
-TEST(OutOfMemory, SelectingDrawingObjects_HappensWhollyOrNotAtAll) {
-    CDC dc;
-    ASSERT_TRUE(dc.CreateCompatibleDC(nullptr));
-    CFont font;
-    ASSERT_TRUE(font.CreatePointFont(120, "Tahoma"));
-    CGdiObject::DeleteTempMap();
-    const HGDIOBJ hBefore = ::GetCurrentObject(dc.m_hDC, OBJ_FONT);
-    Outcome outcome = Outcome::kDone;
-    CFont* pOld = nullptr;
-    {
-        FailingHeap heap(0);
-        outcome = Try([&] { pOld = dc.SelectObject(&font); });
-    }
-    EXPECT_EQ(Outcome::kMemoryException, outcome);
-    EXPECT_EQ(nullptr, pOld);
-    EXPECT_EQ(hBefore, ::GetCurrentObject(dc.m_hDC, OBJ_FONT));
-    pOld = dc.SelectObject(&font);
-    EXPECT_EQ(hBefore, pOld->GetSafeHandle());
-    dc.SelectObject(pOld);
 }
 
 }  // namespace

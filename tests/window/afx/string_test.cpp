@@ -151,17 +151,4 @@ TEST(String, BuffersHaveTheRoomThatWasAskedFor) {
     EXPECT_STREQ(CString('x', -1), "");
 }
 
-TEST(String, ALockedBufferBelongsToNobodyElse) {
-    const CString other("other");
-    CString str("text");
-    LPCSTR lpszLocked = str.LockBuffer();
-    const CString copy(str);
-    EXPECT_NE(copy.GetString(), lpszLocked);
-    str = other;
-    EXPECT_NE(str.GetString(), other.GetString());
-    str.UnlockBuffer();
-    const CString shared(str);
-    EXPECT_EQ(shared.GetString(), str.GetString());
-}
-
 }  // namespace

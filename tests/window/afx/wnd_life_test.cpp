@@ -1,7 +1,6 @@
 // A window's life: creation, subclassing, objects for handles, destruction at odd moments.
 #include "support/mortal.h"
 #include "support/popup.h"
-#include "support/recording_parent.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -128,68 +127,6 @@ TEST(WndObjects, TemporaryOnes_LastUntilIdleTime) {
     EXPECT_FALSE(second.SubclassWindow(hWnd)) << "a window has one object";
     permanent.DestroyWindow();
     EXPECT_FALSE(::IsWindow(hWnd));
-}
-
-/// Counts what is typed into it.
-class CountingEdit : public CEdit {
-public:
-    int m_nChars = 0;
-
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-        m_nChars += message == WM_CHAR;
-        return CEdit::WindowProc(message, wParam, lParam);
-    }
-};
-
-TEST(Subclassing, DialogItem_IsServedUntilUnsubclassed) {
-    RecordingParent parent;
-    constexpr UINT kEdit = 77;
-    HWND hEdit = ::CreateWindowEx(0, "EDIT", "", WS_CHILD, 0, 0, 100, 20, parent.m_hWnd,
-                                  reinterpret_cast<HMENU>(UINT_PTR{kEdit}), nullptr, nullptr);
-    CountingEdit edit;
-    EXPECT_FALSE(edit.SubclassDlgItem(kEdit + 1, &parent)) << "no such item";
-    ASSERT_TRUE(edit.SubclassDlgItem(kEdit, &parent));
-    ::SendMessage(hEdit, WM_CHAR, 'a', 1);
-    EXPECT_EQ(edit.UnsubclassWindow(), hEdit);
-    EXPECT_EQ(edit.m_hWnd, nullptr);
-    ::SendMessage(hEdit, WM_CHAR, 'b', 1);
-    EXPECT_EQ(edit.m_nChars, 1);
-    CString strText;
-    parent.GetDlgItemText(kEdit, strText);
-    EXPECT_STREQ(strText, "ab");
-}
-
-/// Default() takes the parameters of the message, whatever the handler was given.
-class DefaultingWnd : public CWnd {
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-        if (message != WM_SETTEXT) {
-            return CWnd::WindowProc(message, wParam, lParam);
-        }
-        ::SendMessage(m_hWnd, WM_NULL, 0, 0);  // a message in between does not count
-        return Default();
-    }
-};
-
-TEST(DefaultProcessing, UsesTheMessageNowBeingHandled) {
-    DefaultingWnd wnd;
-    ASSERT_TRUE(MakePopup(wnd));
-    wnd.SetWindowText("by default");
-    CString strText;
-    wnd.GetWindowText(strText);
-    EXPECT_STREQ(strText, "by default");
-}
-
-TEST(WndState, ScrollPositionsBeyond16BitsComeBackWhole) {
-    CWnd wnd;
-    ASSERT_TRUE(MakePopup(wnd, WS_VSCROLL));
-    SCROLLINFO info = {sizeof info, SIF_ALL, 0, 1000000, 100, 700000, 0};
-    wnd.SetScrollInfo(SB_VERT, &info);
-    EXPECT_EQ(wnd.GetScrollPos(SB_VERT), 700000);
-    EXPECT_EQ(wnd.GetScrollLimit(SB_VERT), 1000000 - 99);
-    EXPECT_TRUE(wnd.ModifyStyle(0, WS_BORDER, SWP_FRAMECHANGED));
-    EXPECT_FALSE(wnd.ModifyStyle(0, WS_BORDER)) << "no change";
 }
 
 }  // namespace

@@ -101,12 +101,6 @@ TEST(Module, ResourcesAndClassesAreFoundAlongTheChain) {
     const HMODULE hModule = ::GetModuleHandle("CONTROLS.dll");
     EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCE(30008), RT_BITMAP), hModule);
     CString strText;
-    EXPECT_TRUE(strText.LoadString(30504));
-    EXPECT_STREQ(strText, "All Files (*.*)|*.*||");
-    EXPECT_TRUE(strText.LoadString(30505));
-    EXPECT_STREQ(strText,
-                 "A machine with the name <%s> could not be found on the network.\n\n"
-                 "Please specify a valid machine name.");
     EXPECT_FALSE(strText.LoadString(30508));
     EXPECT_NE(CRuntimeClass::FromName("QVCustCtrl"), nullptr);
     EXPECT_NE(CRuntimeClass::FromName("CWnd"), nullptr) << "the caller's own list is whole";
@@ -114,38 +108,6 @@ TEST(Module, ResourcesAndClassesAreFoundAlongTheChain) {
     EXPECT_NE(pEntry, nullptr) << "joining twice does no harm";
     EXPECT_TRUE(strText.LoadString(30502));
     EXPECT_STREQ(strText, "Select");
-}
-
-TEST(Module, CheckBoxesAreFourPicturesOnATransparentGround) {
-    CBitmap bitmap;
-    ASSERT_TRUE(bitmap.LoadBitmap(30008));
-    BITMAP info;
-    bitmap.GetBitmap(&info);
-    EXPECT_EQ(info.bmWidth, 48);
-    EXPECT_EQ(info.bmHeight, 12);
-    CDC dc;
-    dc.CreateCompatibleDC(nullptr);
-    CBitmap* pOld = dc.SelectObject(&bitmap);
-    const COLORREF grounds[] = {RGB(255, 255, 255), RGB(255, 255, 255), RGB(192, 192, 192),
-                                RGB(192, 192, 192)};
-    for (int i = 0; i < 4; ++i) {
-        EXPECT_EQ(dc.GetPixel(12 * i + 2, 2), grounds[i]);
-        EXPECT_EQ(dc.GetPixel(12 * i, 0), RGB(0, 128, 128));
-        EXPECT_EQ(dc.GetPixel(12 * i + 5, 7) == RGB(0, 0, 0), i % 2 == 1) << "the tick";
-    }
-    dc.SelectObject(pOld);
-}
-
-TEST(StyledRows, AreBuiltFieldByField) {
-    QVTreeCtrlEx tree;
-    EXPECT_EQ(tree.AddStyle(1, 2), 1) << "entry 0 is there from the start";
-    CString strRow = tree.MakeStyleText("one", 1);
-    tree.AppendStyleText(strRow, "two", 0);
-    EXPECT_STREQ(strRow, "\033bone\t\033atwo");
-    EXPECT_STREQ(tree.MakeStyleText(strRow, 9, strRow), "\033a\033bone\t\033atwo")
-        << "an unknown style writes 0; the text may stand in the result";
-    EXPECT_EQ(tree.UpdateStyle(77, 0, 0), 0);
-    EXPECT_EQ(tree.UpdateStyle(1, 5, 6), 0);
 }
 
 }  // namespace

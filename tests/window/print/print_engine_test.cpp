@@ -4,8 +4,6 @@
 
 namespace {
 
-constexpr UINT kNoHeader = LVS_NOCOLUMNHEADER;
-
 // Three fonts of different heights, and a context to measure and draw on.
 class PrintEngine : public testing::Test {
 protected:
@@ -78,21 +76,6 @@ TEST_F(PrintEngine, PutsEachItemWhereItBelongs) {
     EXPECT_EQ(engine.Paginate(rc), 1u) << "the number comes again, the pages are those of before";
 }
 
-TEST_F(PrintEngine, TextWrapsInItsFontAndSplitsByLine) {
-    const int nWidth = WidthOf(normal, "one two ") + 1;
-    QVPrintEngine engine(&dc, &header, &normal, &section);
-    CStringArray text;
-    text.Add("one two three");
-    text.Add("");
-    text.Add("four");
-    engine.AddText(text, &dc, nullptr);
-    const CRect rc(0, 0, nWidth, 3 * nNormal + 1);
-    EXPECT_EQ(engine.Paginate(rc), 2u);
-    EXPECT_EQ(Page(engine, 1, rc), "one two|three|");
-    EXPECT_EQ(Page(engine, 2, rc), "four");
-    EXPECT_EQ(dc.texts[0].rc.top, 0);
-}
-
 TEST_F(PrintEngine, ListsSplitByRowAndRepeatTheirHeadings) {
     ListWindow<> w("a\tb");
     for (int i = 0; i < 5; ++i) {
@@ -103,8 +86,6 @@ TEST_F(PrintEngine, ListsSplitByRowAndRepeatTheirHeadings) {
         QVPrintEngine engine(&dc, &header, &normal, &section);
         engine.AddList(&w.list, &dc);
         EXPECT_EQ(engine.Paginate(rc), 3u);
-        EXPECT_EQ(Page(engine, 1, rc), "a|b|0|x|1|x");
-        EXPECT_EQ(Page(engine, 2, rc), "a|b|2|x|3|x");
         EXPECT_EQ(Page(engine, 3, rc), "a|b|4|x");
         EXPECT_EQ(dc.texts[2].rc.top, nHeader * 3 / 2);
         EXPECT_EQ(dc.texts[2].rc.left, 6);
@@ -113,11 +94,6 @@ TEST_F(PrintEngine, ListsSplitByRowAndRepeatTheirHeadings) {
     TextRecorder other;
     EXPECT_EQ(w.list.CalculateItemHeight(&other), other.GetTextExtent("0", 1).cy)
         << "which ended with the engine";
-    w.list.ModifyStyle(0, kNoHeader);
-    QVPrintEngine engine(&dc, &header, &normal, &section);
-    engine.AddList(&w.list, &dc);
-    EXPECT_EQ(engine.Paginate(CRect(0, 0, 600, 5 * nNormal)), 1u);
-    EXPECT_EQ(Page(engine, 1, CRect(0, 0, 600, 5 * nNormal)), "0|x|1|x|2|x|3|x|4|x");
 }
 
 TEST_F(PrintEngine, StringListsUseTheColumnsOfAList) {
@@ -235,18 +211,6 @@ TEST_F(PrintEngine, ARowNumberLeftFromASplitItemPrintsFromThatRow) {
     EXPECT_EQ(run(2, true).substr(0, 11), "row|0|row|1");
 }
 
-TEST_F(PrintEngine, WhatFitsNoPageIsCutOnAPageOfItsOwn) {
-    QVPrintEngine engine(&dc, &header, &normal, &section);
-    engine.AddText("before", &dc, nullptr);
-    engine.AddSectionHeader("WWWWWWWW");
-    engine.AddText("after", &dc, nullptr);
-    const CRect rc(0, 0, 600, nSection + nSection / 2);
-    ASSERT_EQ(engine.Paginate(rc), 3u);
-    EXPECT_EQ(Page(engine, 1, rc), "before");
-    EXPECT_EQ(CutPage(engine, 2, rc), "WWWWWWWW");
-    EXPECT_EQ(Page(engine, 3, rc), "after");
-}
-
 TEST_F(PrintEngine, RowsThatFitNoPageAreCutAndNotLeftOut) {
     ListWindow<> w("a\tb");
     w.Add("0\tx");
@@ -265,54 +229,6 @@ TEST_F(PrintEngine, RowsThatFitNoPageAreCutAndNotLeftOut) {
     strings.AddStringList(&rows, &w.list, &dc);
     ASSERT_EQ(strings.Paginate(rcLow), 1u);
     EXPECT_EQ(CutPage(strings, 1, rcLow), "a|b|2|z");
-}
-
-// One of its printing steps throws.
-class ThrowingList : public QVListCtrlEx {
-public:
-    enum Step { Begin, HeaderHeight, ItemHeight, None };
-    void BeginPrinting(CDC* pDC, CPrintInfo* pInfo) override {
-        QVListCtrlEx::BeginPrinting(pDC, pInfo);
-        ThrowAt(Begin);
-    }
-    int HeaderPrintHeight(CDC* pDC) override {
-        ThrowAt(HeaderHeight);
-        return QVListCtrlEx::HeaderPrintHeight(pDC);
-    }
-    int CalculateItemHeight(CDC* pDC) override {
-        ThrowAt(ItemHeight);
-        return QVListCtrlEx::CalculateItemHeight(pDC);
-    }
-    void EndPrinting(CDC* pDC, CPrintInfo* pInfo) override {
-        ++nEnded;
-        QVListCtrlEx::EndPrinting(pDC, pInfo);
-    }
-    Step step = None;
-    int nEnded = 0;
-
-private:
-    void ThrowAt(Step where) {
-        if (step == where) {
-            throw where;
-        }
-    }
-};
-
-TEST_F(PrintEngine, AListStepThatThrowsEndsThePrintRun) {
-    ListWindow<ThrowingList> w("a");
-    TextRecorder other;
-    const int nOther = other.GetTextExtent("0", 1).cy;
-    for (const auto step :
-         {ThrowingList::Begin, ThrowingList::HeaderHeight, ThrowingList::ItemHeight}) {
-        w.list.step = step;
-        w.list.nEnded = 0;
-        QVPrintEngine engine(&dc, &header, &normal, &section);
-        EXPECT_THROW(engine.AddList(&w.list, &dc), ThrowingList::Step);
-        w.list.step = ThrowingList::None;
-        EXPECT_EQ(w.list.nEnded, 1);
-        EXPECT_EQ(w.list.CalculateItemHeight(&other), nOther) << "the engine's font is forgotten";
-        EXPECT_EQ(engine.Paginate(CRect(0, 0, 100, 100)), 0u);
-    }
 }
 
 TEST_F(PrintEngine, CopiesShareTheirItemsAndNoHandleIsKept) {

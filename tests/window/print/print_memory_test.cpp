@@ -1,6 +1,7 @@
 // Each allocation on the way to paper is refused in turn: nothing may be thrown, the document stays
 // as it was or says that something is missing, and lists come out of their print runs.
 #include "support/list_window.h"
+#include "support/picture.h"
 #include "window/refusals.h"
 
 #include <gtest/gtest.h>
@@ -26,18 +27,17 @@ protected:
     }
     ~PrintMemory() override { ::SelectObject(dc, hOld); }
 
-    // The pages as drawn, one behind the other.
-    std::vector<DWORD> Drawn(QVPrintEngine& engine, unsigned nPages) {
-        std::vector<DWORD> pixels;
+    // The pages as drawn.
+    std::vector<Picture> Drawn(QVPrintEngine& engine, unsigned nPages) {
+        std::vector<Picture> pages;
         for (unsigned n = 1; n <= nPages; ++n) {
-            dc.FillSolidRect(0, 0, kSize, kSize, RGB(255, 255, 255));
+            Clear();
             engine.PrintPage(&dc, rc, n);
-            std::vector<DWORD> page(kSize * kSize);
-            bitmap.GetBitmapBits(kSize * kSize * sizeof(DWORD), page.data());
-            pixels.insert(pixels.end(), page.begin(), page.end());
+            pages.push_back(Picture::Of(dc, rc.Size()));
         }
-        return pixels;
+        return pages;
     }
+    void Clear() { dc.FillSolidRect(&rc, RGB(255, 255, 255)); }
     QVPrintEngine Whole() {
         QVPrintEngine engine(&dc, &header, &normal, &header);
         engine.AddSectionHeader("section");
@@ -84,7 +84,7 @@ TEST_F(PrintMemory, WhatCannotBeAddedIsLeftOutAndTold) {
         };
         auto pWhole = fresh();
         add(*pWhole);
-        const std::vector<DWORD> whole = Drawn(*pWhole, pWhole->Paginate(rc));
+        const auto whole = Drawn(*pWhole, pWhole->Paginate(rc));
         pWhole.reset();
         auto pEngine = fresh();
         const int nRefused = RefuseEach(
@@ -124,20 +124,18 @@ TEST_F(PrintMemory, PagesAreTakenInWhenThereIsMemory) {
 TEST_F(PrintMemory, APageThatCannotBePrintedIsTold) {
     auto pEngine = std::make_unique<QVPrintEngine>(Whole());
     const unsigned nPages = pEngine->Paginate(rc);
-    const std::vector<DWORD> whole = Drawn(*pEngine, 1);
+    const Picture whole = Drawn(*pEngine, 1)[0];
     const HGDIOBJ hFont = ::GetCurrentObject(dc, OBJ_FONT);
-    dc.FillSolidRect(0, 0, kSize, kSize, RGB(255, 255, 255));
+    Clear();
     const int nRefused = RefuseEach(
         "page", [&] { pEngine->PrintPage(&dc, rc, 1); },
         [&] {
-            std::vector<DWORD> drawn(kSize * kSize);
-            bitmap.GetBitmapBits(kSize * kSize * sizeof(DWORD), drawn.data());
-            EXPECT_TRUE(!pEngine->IsComplete() || drawn == whole);
+            EXPECT_TRUE(!pEngine->IsComplete() || Picture::Of(dc, rc.Size()) == whole);
             EXPECT_EQ(::GetCurrentObject(dc, OBJ_FONT), hFont);
             pEngine.reset();
             pEngine = std::make_unique<QVPrintEngine>(Whole());
             EXPECT_EQ(pEngine->Paginate(rc), nPages);
-            dc.FillSolidRect(0, 0, kSize, kSize, RGB(255, 255, 255));
+            Clear();
         });
     EXPECT_GT(nRefused, 0);
 }
