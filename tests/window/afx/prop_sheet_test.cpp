@@ -53,27 +53,25 @@ TEST(PropertySheets, ComeUpWithThePagesThatCanBeMade) {
 }
 
 /// What a page may do to its sheet while it is asked something.
-const std::pair<const char*, void (*)(Pages& t, Pages::Page& page)> kDeeds[] = {
-    {"ends it", [](Pages& t, Pages::Page&) { t.sheet.EndDialog(7); }},
-    {"leaves it", [](Pages& t, Pages::Page& page) { t.sheet.RemovePage(&page); }},
-    {"changes it", [](Pages& t, Pages::Page&) { t.sheet.SetActivePage(2); }},
-    {"destroys itself", [](Pages&, Pages::Page& page) { page.DestroyWindow(); }},
-    {"destroys it", [](Pages& t, Pages::Page&) { t.sheet.DestroyWindow(); }},
-    {"lets messages run", [](Pages&, Pages::Page&) { PumpPending(); }},
-    {"throws", [](Pages&, Pages::Page&) { AfxThrowUserException(); }},
+void (*const kDeeds[])(Pages& t, Pages::Page& page) = {
+    [](Pages& t, Pages::Page&) { t.sheet.EndDialog(7); },
+    [](Pages& t, Pages::Page& page) { t.sheet.RemovePage(&page); },
+    [](Pages& t, Pages::Page&) { t.sheet.SetActivePage(2); },
+    [](Pages&, Pages::Page& page) { page.DestroyWindow(); },
+    [](Pages& t, Pages::Page&) { t.sheet.DestroyWindow(); },
+    [](Pages&, Pages::Page&) { PumpPending(); },
+    [](Pages&, Pages::Page&) { AfxThrowUserException(); },
 };
 
 /// One page does the deed at the first such question; the sheet is over in the end.
 void Attack(int nDeed, const std::string& question, bool bWizard) {
     Pages t;
-    if (bWizard) {
-        t.sheet.SetWizardMode();
-    }
+    bWizard ? t.sheet.SetWizardMode() : void();
     bool bDone = false;
     for (Pages::Page* pPage : {&t.b, &t.p, &t.n}) {
         pPage->m_asked = [&, pPage](const std::string& asked) {
             if (asked == question && !std::exchange(bDone, true)) {
-                kDeeds[nDeed].second(t, *pPage);
+                kDeeds[nDeed](t, *pPage);
             }
         };
     }
@@ -85,8 +83,8 @@ void Attack(int nDeed, const std::string& question, bool bWizard) {
             }
         }
     });
-    EXPECT_TRUE(t.sheet.m_hWnd == nullptr && t.owner.IsWindowEnabled())
-        << kDeeds[nDeed].first << " in " << question;
+    EXPECT_TRUE(bDone && t.sheet.m_hWnd == nullptr && t.owner.IsWindowEnabled())
+        << "deed " << nDeed << " in " << question;
 }
 
 TEST(PropertySheets, OutliveWhatAPageDoesWhileItIsAsked) {
@@ -103,28 +101,26 @@ TEST(PropertySheets, OutliveWhatAPageDoesWhileItIsAsked) {
 
 // --- Templates
 
-/// A template's font, as the tests compare it.
-std::string FontIn(const CDialogTemplate& dialogTemplate) {
-    CString strFace("none");
-    WORD nPoints = 0;
-    dialogTemplate.GetFont(strFace, nPoints);
-    return std::string(strFace) + " " + std::to_string(nPoints);
-}
-
 TEST(DialogTemplates, OfBothKindsHaveAFontThatCanBeReplaced) {
     CWnd parent;
     MakePopup(parent);
-    const std::pair<UINT, const char*> cases[] = {
-        {IDD_PAGE_BIG, "Tahoma 12"}, {IDD_PAGE_PLAIN, "Arial 10"}, {IDD_PAGE_BARE, "none 0"}};
-    for (const auto& [nID, pszFont] : cases) {
+    const auto fontIn = [](const CDialogTemplate& dialogTemplate) {
+        CString strFace("none");
+        WORD nPoints = 0;
+        dialogTemplate.GetFont(strFace, nPoints);
+        return std::string(strFace) + " " + std::to_string(nPoints);
+    };
+    for (const auto& [nID, pszFont] : {std::pair{IDD_PAGE_BIG, "Tahoma 12"},
+                                       {IDD_PAGE_PLAIN, "Arial 10"},
+                                       {IDD_PAGE_BARE, "none 0"}}) {
         CDialogTemplate loaded;
         ASSERT_TRUE(loaded.Load(MAKEINTRESOURCE(nID)));
-        EXPECT_EQ(FontIn(loaded), pszFont);
+        EXPECT_EQ(fontIn(loaded), pszFont);
         // By its address alone, a template's end is found by walking its items.
         CDialogTemplate copy(static_cast<const DLGTEMPLATE*>(loaded.m_hTemplate));
         for (LPCTSTR lpszFace : {"A", "Courier New", ""}) {
             ASSERT_TRUE(copy.SetFont(lpszFace, 9));
-            EXPECT_EQ(FontIn(copy), std::string(lpszFace) + " 9");
+            EXPECT_EQ(fontIn(copy), std::string(lpszFace) + " 9");
             CDialog dlg;
             ASSERT_TRUE(dlg.CreateIndirect(static_cast<LPCDLGTEMPLATE>(copy.m_hTemplate), &parent));
             CRect rcDlg;
@@ -137,15 +133,6 @@ TEST(DialogTemplates, OfBothKindsHaveAFontThatCanBeReplaced) {
         }
     }
     EXPECT_FALSE(CDialogTemplate().Load(MAKEINTRESOURCE(9999)));
-}
-
-TEST(DialogTemplates, OfTheSystemsMessageFontNameNone) {
-    const WORD memory[] = {1,  0xFFFF, 0, 0, 0, 0,      DS_SETFONT, 0x8000, 0,   0,   0,
-                           50, 50,     0, 0, 0, 0x7FFF, 'x',        'x',    'x', 'x', 'x'};
-    CDialogTemplate dialogTemplate(reinterpret_cast<const DLGTEMPLATE*>(memory));
-    EXPECT_EQ(FontIn(dialogTemplate), "none 0");
-    EXPECT_TRUE(dialogTemplate.SetSystemFont());
-    EXPECT_EQ(FontIn(dialogTemplate), "MS Shell Dlg 8");
 }
 
 }  // namespace

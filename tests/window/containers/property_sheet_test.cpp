@@ -19,26 +19,19 @@ TYPED_TEST_SUITE(AnySheet, Families);
 
 TYPED_TEST(AnySheet, EndsAsItsButtonsAreLabelled_UnlessAPageRefuses) {
     auto& sheet = this->sheet;
-    struct Case {
-        std::function<void()> end;
-        int nResult;
-        const char* pszAsked;
-        const char* pszRefused;
-    };
-    for (const Case& c :
-         {Case{[&] { this->Press(IDOK); }, IDOK, "b:kill b:apply b:ok", "kill"},
-          Case{[&] { TypeKey(VK_RETURN); }, IDOK, "b:kill b:apply b:ok", "apply"},
-          Case{[&] { sheet.SendMessage(PSM_PRESSBUTTON, PSBTN_OK); }, IDOK, "b:kill b:apply b:ok",
-               "apply"},
-          Case{[&] { this->Press(IDCANCEL); }, IDCANCEL, "b:query b:cancel", "query"},
-          Case{[&] { TypeKey(VK_ESCAPE); }, IDCANCEL, "b:query b:cancel", "query"},
-          Case{[&] { sheet.SendMessage(WM_SYSCOMMAND, SC_CLOSE); }, IDCANCEL, "b:query b:cancel",
-               "query"}}) {
+    const std::tuple<std::function<void()>, int, const char*> cases[] = {
+        {[&] { this->Press(IDOK); }, IDOK, "kill"},
+        {[&] { TypeKey(VK_RETURN); }, IDOK, "apply"},
+        {[&] { sheet.SendMessage(PSM_PRESSBUTTON, PSBTN_OK); }, IDOK, "apply"},
+        {[&] { this->Press(IDCANCEL); }, IDCANCEL, "query"},
+        {[&] { TypeKey(VK_ESCAPE); }, IDCANCEL, "query"},
+        {[&] { sheet.SendMessage(WM_SYSCOMMAND, SC_CLOSE); }, IDCANCEL, "query"}};
+    for (const auto& [end, nResult, pszRefused] : cases) {
         this->b.m_refused.clear();
-        EXPECT_EQ(this->Show(c.end), c.nResult);
-        EXPECT_EQ(this->Take(), c.pszAsked);
-        this->b.m_refused = {c.pszRefused};
-        EXPECT_EQ(this->Show(c.end), sheet.kStillThere) << c.pszRefused;
+        EXPECT_EQ(this->Show(end), nResult);
+        EXPECT_EQ(this->Take(), nResult == IDOK ? "b:kill b:apply b:ok" : "b:query b:cancel");
+        this->b.m_refused = {pszRefused};
+        EXPECT_EQ(this->Show(end), sheet.kStillThere) << pszRefused;
         EXPECT_TRUE(sheet.m_hWnd == nullptr && this->owner.IsWindowEnabled());
     }
 }
@@ -134,47 +127,42 @@ std::string FontOf(CWnd* pWnd) {
 }
 
 template <class Sheet>
-void ShowFonts() {
-    const std::pair<UINT, const char*> cases[] = {{IDD_PAGE_BIG, "Tahoma-16"},
-                                                  {IDD_PAGE_PLAIN, "Arial-13"},
-                                                  {IDD_PAGE_BARE, "MS Shell Dlg-11"}};
-    for (const auto& [nFirst, pszTabs] : cases) {
-        const LONG nHandles = AfxGetOwnedHandleCount();
-        {
-            ActingSheet<Sheet> sheet("Fonts");
-            QVPropertyPage first(nFirst);
-            QVPropertyPage second(IDD_PAGE_BIG);
-            CPropertyPage third(IDD_PAGE_BIG);
-            for (CPropertyPage* pPage :
-                 std::initializer_list<CPropertyPage*>{&first, &second, &third}) {
-                sheet.CPropertySheet::AddPage(pPage);
-            }
-            sheet.m_action = [&, pszTabs = pszTabs] {
-                CTabCtrl* pTabs = sheet.GetTabControl();
-                EXPECT_EQ(FontOf(pTabs), pszTabs);
-                CRect rcPages;
-                CRect rcPage;
-                pTabs->GetClientRect(rcPages);
-                pTabs->AdjustRect(FALSE, rcPages);
-                pTabs->ClientToScreen(rcPages);
-                first.GetWindowRect(rcPage);
-                EXPECT_EQ(CRect(rcPages & rcPage), rcPage) << "below the tabs in their font";
-                sheet.SetActivePage(1);
-                EXPECT_EQ(FontOf(second.GetDlgItem(IDC_PAGE_EDIT)), "Tahoma-16");
-                sheet.SetActivePage(2);
-                EXPECT_EQ(FontOf(third.GetDlgItem(IDC_PAGE_EDIT)), "MS Shell Dlg-11");
-            };
-            sheet.DoModal();
-            sheet.BuildPropPageArray();
-            EXPECT_EQ(AfxGetOwnedHandleCount(), nHandles + 1) << "built twice, one font";
-        }
-        EXPECT_EQ(AfxGetOwnedHandleCount(), nHandles);
+void ShowFonts(UINT nFirst, const char* pszTabs) {
+    ActingSheet<Sheet> sheet("Fonts");
+    QVPropertyPage first(nFirst);
+    QVPropertyPage second(IDD_PAGE_BIG);
+    CPropertyPage third(IDD_PAGE_BIG);
+    for (CPropertyPage* pPage : std::initializer_list<CPropertyPage*>{&first, &second, &third}) {
+        sheet.CPropertySheet::AddPage(pPage);
     }
+    sheet.m_action = [&] {
+        CTabCtrl* pTabs = sheet.GetTabControl();
+        EXPECT_EQ(FontOf(pTabs), pszTabs);
+        CRect rcPages;
+        CRect rcPage;
+        pTabs->GetClientRect(rcPages);
+        pTabs->AdjustRect(FALSE, rcPages);
+        pTabs->ClientToScreen(rcPages);
+        first.GetWindowRect(rcPage);
+        EXPECT_EQ(CRect(rcPages & rcPage), rcPage) << "below the tabs in their font";
+        sheet.SetActivePage(1);
+        EXPECT_EQ(FontOf(second.GetDlgItem(IDC_PAGE_EDIT)), "Tahoma-16");
+        sheet.SetActivePage(2);
+        EXPECT_EQ(FontOf(third.GetDlgItem(IDC_PAGE_EDIT)), "MS Shell Dlg-11");
+    };
+    sheet.DoModal();
+    sheet.BuildPropPageArray();
 }
 
 TEST(TabFont, IsTheFirstPages_AndPagesKeepTheirs) {
-    ShowFonts<QVPropertySheet>();
-    ShowFonts<QVPropertySheetEx>();
+    const LONG nHandles = AfxGetOwnedHandleCount();
+    for (const auto& [nFirst, pszTabs] : {std::pair{IDD_PAGE_BIG, "Tahoma-16"},
+                                          {IDD_PAGE_PLAIN, "Arial-13"},
+                                          {IDD_PAGE_BARE, "MS Shell Dlg-11"}}) {
+        ShowFonts<QVPropertySheet>(nFirst, pszTabs);
+        ShowFonts<QVPropertySheetEx>(nFirst, pszTabs);
+    }
+    EXPECT_EQ(AfxGetOwnedHandleCount(), nHandles) << "built twice, one font";
 }
 
 TEST(HeaderTitles, AreInTheLongerRecordsAlone_AndOnlyThoseThatAreThere) {
@@ -183,21 +171,19 @@ TEST(HeaderTitles, AreInTheLongerRecordsAlone_AndOnlyThoseThatAreThere) {
     QVPropertyPageEx both(IDD_PAGE_BIG, IDS_TAB, IDS_TITLE, IDS_SUBTITLE);
     CPropertyPage plain(IDD_PAGE_BIG);
     plain.m_psp.dwFlags |= PSP_USEHEADERTITLE;  // without a title
+    const auto record = [](auto sheet, CPropertyPage* pPage) {
+        sheet->CPropertySheet::AddPage(pPage);
+        sheet->BuildPropPageArray();
+        const PROPSHEETPAGE& page = *sheet->m_psh.ppsp;
+        return std::pair(page.dwSize, page.dwFlags & kTitles);
+    };
     const std::pair<CPropertyPage*, DWORD> pages[] = {
         {&subtitle, PSP_USEHEADERSUBTITLE}, {&plain, 0}, {&both, kTitles}};
     for (const auto& [pPage, dwTitles] : pages) {
-        ActingSheet<QVPropertySheetEx> longer("Longer");
-        ActingSheet<QVPropertySheet> shorter("Shorter");
-        longer.CPropertySheet::AddPage(pPage);
-        shorter.AddPage(pPage);
-        longer.BuildPropPageArray();
-        shorter.BuildPropPageArray();
-        EXPECT_EQ(longer.m_psh.ppsp->dwSize, PROPSHEETPAGE_V2_SIZE);
-        EXPECT_EQ(longer.m_psh.ppsp->dwFlags & kTitles, dwTitles);
-        EXPECT_EQ(shorter.m_psh.ppsp->dwSize, PROPSHEETPAGE_V1_SIZE);
-        EXPECT_EQ(shorter.m_psh.ppsp->dwFlags & kTitles, 0U);
-        EXPECT_TRUE(pPage != &both ||
-                    CString("Title of the header") == longer.m_psh.ppsp->pszHeaderTitle);
+        EXPECT_EQ(record(std::make_unique<ActingSheet<QVPropertySheetEx>>("Longer"), pPage),
+                  std::pair(DWORD{PROPSHEETPAGE_V2_SIZE}, dwTitles));
+        EXPECT_EQ(record(std::make_unique<ActingSheet<QVPropertySheet>>("Shorter"), pPage),
+                  std::pair(DWORD{PROPSHEETPAGE_V1_SIZE}, DWORD{0}));
     }
 }
 
@@ -219,20 +205,16 @@ TEST(SheetMemory, RefusedAnywhere_EndsTheSheetOrLetsItBe) {
 TEST(SheetMonkey, AnythingInAnyOrder) {
     std::unique_ptr<Pages> t;
     int nMade = 0;
-    PlayInAnyOrder<Pages>(
+    PlayInAnyOrder(
         t,
         [&] {
             t = std::make_unique<Pages>();
-            if (++nMade % 2 == 0) {
-                t->sheet.SetWizardMode();
-            }
+            ++nMade % 2 == 0 ? t->sheet.SetWizardMode() : void();
             EXPECT_TRUE(t->sheet.Create(&t->owner, WS_POPUP));
         },
         {[&](int n) { t->sheet.SetActivePage(n % 4); }, [&](int n) { t->sheet.RemovePage(n % 9); },
          [&](int n) { t->sheet.AddPage(n % 2 ? &t->b : &t->n); },
-         [&](int n) {
-             t->p.m_refused = {n % 2 ? "kill" : "set", "query"};
-         },
+         [&](int n) { t->p.m_refused.insert(n % 2 ? "kill" : "set"); },
          [&](int n) { t->b.m_lNext = n % 3 ? IDD_PAGE_BARE : n; },
          [&](int n) { t->sheet.SendMessage(WM_COMMAND, n % 5 ? ID_APPLY_NOW : IDCANCEL); },
          [&](int n) { t->sheet.SendMessage(PSM_PRESSBUTTON, static_cast<WPARAM>(n % 7)); },
