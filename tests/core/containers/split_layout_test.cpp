@@ -1,6 +1,8 @@
 #include "containers/core/split_layout.h"
 
+#include <array>
 #include <gtest/gtest.h>
+#include <utility>
 
 namespace qv {
 
@@ -11,6 +13,29 @@ TEST(SplitLayout, BarAndPanesLieBesideEachOther) {
     const SplitLayout down{{40, 100}, false, 4};
     EXPECT_EQ(down.Bar(30), (Rect{0, 28, 40, 32}));
     EXPECT_EQ(down.Pane(1, 30), (Rect{0, 32, 40, 100}));
+}
+
+TEST(SplitLayout, ADragEndsTwoBarWidthsFromEitherEnd) {
+    for (const auto& [nLength, nAt, nPos] :
+         {std::array{100, 3, 10}, {100, 50, 50}, {100, 99, 90}, {15, 9, 10}, {15, 10, 5}}) {
+        EXPECT_EQ((SplitLayout{{nLength, 9}, true, 5}.Dragged({nAt, 0})), nPos) << nLength;
+    }
+}
+
+TEST(SplitBar, AKeptPositionIsKeptOnce) {
+    int nPos = 40, nRatio = kKeepPosition, bTracking = 0, nStart = 0;
+    SplitBar bar(nPos, nRatio, bTracking, nStart);
+    const auto resize = [&](int nLength) {
+        bar.BeginResize(nLength);
+        bar.EndResize(nLength);
+        return std::pair(nPos, nRatio);
+    };
+    EXPECT_EQ(resize(200), std::pair(40, 20));
+    EXPECT_EQ(resize(309), std::pair(61, 20));
+    nRatio = kKeepPosition;
+    EXPECT_EQ(resize(0), std::pair(61, 50));
+    nRatio = 0x7FFFFFFF;
+    EXPECT_EQ(resize(1000).first, kFarthest);
 }
 
 }  // namespace qv
