@@ -253,6 +253,9 @@ TEST(SplitWnd, AnItemFollowsItsRatioAndTakesClicksOnItsBarAlone) {
     EXPECT_EQ(::GetCursor(), AfxGetApp()->LoadCursor(AFX_IDC_VSPLITBAR));
     EXPECT_EQ(Picture::OfClient(parent).Count(::GetSysColor(COLOR_BTNFACE), split.Place(1)),
               200 * split.Place(1).Height());
+    split.ShowWindow(SW_HIDE);
+    split.MoveWindow(0, 0, 90, 90);
+    EXPECT_FALSE(split.IsWindowVisible());
 }
 
 TEST(SplitWnd, LivesThroughAnythingMonkey) {
