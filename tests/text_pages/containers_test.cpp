@@ -34,12 +34,6 @@ class TabPage : public QVTabWndPage {
     int Create(CWnd* pParent) override { return CreateIndirect(&kTemplate.head, pParent); }
 };
 
-std::wstring WideText(CWnd& wnd) {
-    wchar_t szText[200] = L"";
-    ::GetWindowTextW(wnd.m_hWnd, szText, 200);
-    return szText;
-}
-
 std::wstring WideTab(CWnd& tabs) {
     wchar_t szTab[200] = L"";
     TCITEMW item{TCIF_TEXT, 0, 0, szTab, 200, 0, 0};
@@ -53,7 +47,7 @@ TEST(ContainersText, IsOfTheProcessesCodePage) {
         QVPropertySheetEx sheet(str.c_str());
         sheet.AddPage(&page);
         ASSERT_TRUE(sheet.Create());
-        EXPECT_EQ(strWide, WideText(sheet));
+        EXPECT_EQ(strWide, WideTextOf(sheet.m_hWnd));
         EXPECT_EQ(strWide, WideTab(*sheet.GetTabControl()));
         ::SetWindowTextW(page.GetDlgItem(1)->m_hWnd, (strWide + strWide).c_str());
         EXPECT_TRUE(page.UpdateData());

@@ -96,6 +96,7 @@ TEST(TextView, RowsFollowAWindowThatBecomesNarrowerAsItsBarComes) {
     text.window.onResize = [&] { text.window.size.cx = 100; };
     text.Fit();
     EXPECT_EQ(text.m_nNumRows, 22);
+    EXPECT_EQ(text.window.ranges[SB_VERT].nMax, 21) << "the bar knows them too";
 }
 
 TEST(TextView, NoBarFitsAWindowAsWideAsTheBar) {

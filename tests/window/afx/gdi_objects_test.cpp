@@ -1,5 +1,5 @@
-// Pens, brushes, fonts, bitmaps, palettes, regions and image lists: who owns the handle, and what it
-// was made of.
+// Pens, brushes, fonts, bitmaps, palettes, regions and image lists: who owns the handle, and what
+// it was made of.
 #include <afxcmn.h>
 
 #include <gtest/gtest.h>
