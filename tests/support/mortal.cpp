@@ -24,8 +24,16 @@ LONG CALLBACK OnFault(EXCEPTION_POINTERS* pInfo) {
 
 }  // namespace
 
+// From a range of its own, whole pages at a time: never where a heap of the system's has been, for
+// its headers read on in what they have freed.
 void* NoMansLand::Allocate(std::size_t nBytes) {
-    return ::VirtualAlloc(nullptr, nBytes, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE);
+    constexpr std::size_t kRange = std::size_t{1} << 30;
+    constexpr std::size_t kPage = 4096;
+    static char* s_pNext =
+        static_cast<char*>(::VirtualAlloc(nullptr, kRange, MEM_RESERVE, PAGE_NOACCESS));
+    char* const p = s_pNext;
+    s_pNext += (nBytes + kPage - 1) / kPage * kPage;
+    return ::VirtualAlloc(p, nBytes, MEM_COMMIT, PAGE_READWRITE);
 }
 
 void NoMansLand::Close(void* p, std::size_t nBytes) {
