@@ -14,7 +14,7 @@ BEGIN_MESSAGE_MAP(ReportDesk, CCmdTarget)
     ON_COMMAND(ID_REPORT_STANDARD, OnStandard)
     ON_COMMAND_RANGE(ID_REPORT_FIRST_NAMED, ID_REPORT_LAST_NAMED, OnNamed)
     ON_COMMAND(ID_PREFERENCES, OnPreferences)
-    ON_COMMAND(ID_REPORT_SETTINGS, OnReportSettings)
+    ON_COMMAND(ID_REPORT_SETTINGS, OnPreferences)
     ON_UPDATE_COMMAND_UI(ID_REPORT_EDIT, OnUpdateKept)
     ON_UPDATE_COMMAND_UI(ID_REPORT_DELETE, OnUpdateKept)
     ON_UPDATE_COMMAND_UI(ID_REPORT_STANDARD, OnUpdateStandard)
@@ -182,20 +182,12 @@ void ReportDesk::OnUpdateNamed(CCmdUI* pCmdUI) {
 
 // --- Preferences
 
+// The report's settings are the first page.
 void ReportDesk::OnPreferences() {
-    OpenPreferences(Preferences::kReport);
-}
-
-void ReportDesk::OnReportSettings() {
-    OpenPreferences(Preferences::kReport);
-}
-
-void ReportDesk::OpenPreferences(Preferences::Page page) {
     const auto apply = [this](const Settings& settings) {
         m_frame.Settings().Take(settings);
         m_frame.UseSettings();
     };
-    Preferences(&m_frame, page, m_frame.Settings().Values(), apply, m_frame.Pages().Titles(),
-                Names())
+    Preferences(&m_frame, m_frame.Settings().Values(), apply, m_frame.Pages().Titles(), Names())
         .DoModal();
 }

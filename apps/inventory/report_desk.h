@@ -26,7 +26,6 @@ protected:
     afx_msg void OnStandard();
     afx_msg void OnNamed(UINT nID);
     afx_msg void OnPreferences();
-    afx_msg void OnReportSettings();
     afx_msg void OnUpdateNamed(CCmdUI* pCmdUI);
     afx_msg void OnUpdateKept(CCmdUI* pCmdUI);
     afx_msg void OnUpdateStandard(CCmdUI* pCmdUI);
@@ -41,7 +40,6 @@ private:
     // The report that is on the page, if it is kept.
     const NamedReport* Shown() const;
     std::vector<std::string> Names() const;
-    void OpenPreferences(Preferences::Page page);
     void StartWith(const std::string& strOld, const std::string& strNew);
 
     MainFrame& m_frame;

@@ -21,8 +21,9 @@
 // The parent may destroy the list's window or delete the list whenever it is told something; what
 // was under way then ends, and reports failure if it reports. In some messages the platform's own
 // list does not live through it: WM_MEASUREITEM, WM_DELETEITEM, and a WM_DRAWITEM that comes while
-// it handles a key or a new selection. Without memory nothing is thrown: what was there stays, and what reports failure reports it. The protected steps may throw,
-// to whoever of the public operations called them.
+// it handles a key or a new selection. Without memory nothing is thrown: what was there stays, and
+// what reports failure reports it. The protected steps may throw, to whoever of the public
+// operations called them.
 //
 // Ownership: print fonts are the caller's; images, header and frame are the control's.
 

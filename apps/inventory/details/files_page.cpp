@@ -29,6 +29,7 @@ CString FilesPage::Read() {
     m_list.SetRedraw(FALSE);
     m_list.SetItemCountEx(0);
     m_files.clear();
+    m_sizes.clear();
     CString strProblem;
     const std::string strList = m_source.store.InfoFile(m_source.package, "list");
     if (!m_source.store.IsKnown()) {
@@ -88,8 +89,14 @@ void FilesPage::OnGetDispInfo(NMHDR* pNMHDR, LRESULT* pResult) {
     *pResult = 0;
     const auto nFile = static_cast<size_t>(item.iItem);
     if ((item.mask & LVIF_TEXT) != 0 && item.cchTextMax > 0 && nFile < m_files.size()) {
-        const CString strText =
-            item.iSubItem == kColumnFile ? Shown(m_files[nFile]) : SizeOf(m_files[nFile]);
+        CString strText;
+        if (item.iSubItem == kColumnFile) {
+            strText = Shown(m_files[nFile]);
+        } else if (const auto [it, bNew] = m_sizes.try_emplace(nFile); bNew) {
+            strText = it->second = SizeOf(m_files[nFile]);
+        } else {
+            strText = it->second;
+        }
         ::lstrcpyn(item.pszText, strText, item.cchTextMax);
     }
 }

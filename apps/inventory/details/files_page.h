@@ -5,6 +5,7 @@
 
 #include "details/details_page.h"
 
+#include <map>
 #include <vector>
 
 class FilesPage : public DetailsPage {
@@ -25,4 +26,5 @@ private:
 
     QVListCtrlEx m_list;
     std::vector<std::string> m_files;
+    std::map<size_t, CString> m_sizes;  // of those that were seen
 };

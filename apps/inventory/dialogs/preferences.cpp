@@ -153,11 +153,11 @@ UINT StartPreferences::Take(Settings& settings) {
 
 // --- The sheet
 
-Preferences::Preferences(CWnd* pParent, Page page, const Settings& settings,
+Preferences::Preferences(CWnd* pParent, const Settings& settings,
                          std::function<void(const Settings&)> apply,
                          const StartPreferences::Names& pages,
                          const StartPreferences::Names& reports)
-    : QVPropertySheet("Preferences", pParent, page),
+    : QVPropertySheet("Preferences", pParent),
       m_settings(settings),
       m_applied([this, apply = std::move(apply)] { apply(m_settings); }),
       m_report(m_settings, m_applied),

@@ -90,13 +90,10 @@ private:
 
 class Preferences : public QVPropertySheet {
 public:
-    enum Page { kReport, kColors, kStart };
-
     // apply gets each new set of settings. Titles of the application's pages and names of reports
     // are what the start can be chosen from.
-    Preferences(CWnd* pParent, Page page, const Settings& settings,
-                std::function<void(const Settings&)> apply, const StartPreferences::Names& pages,
-                const StartPreferences::Names& reports);
+    Preferences(CWnd* pParent, const Settings& settings, std::function<void(const Settings&)> apply,
+                const StartPreferences::Names& pages, const StartPreferences::Names& reports);
 
 protected:
     int OnInitDialog() override;
