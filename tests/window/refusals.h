@@ -93,6 +93,7 @@ void ExpectFullDiskIsTold(Export exportTo) {
         FAIL() << "nothing was said";
     } catch (CFileException* pException) {
         EXPECT_EQ(pException->m_cause, CFileException::diskFull);
+        EXPECT_EQ(pException->m_lOsError, ERROR_DISK_FULL);
         pException->Delete();
     }
 }

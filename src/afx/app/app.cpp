@@ -229,7 +229,7 @@ int CWinApp::DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT) {
     }
     HWND hWndTop = nullptr;
     HWND hWndOwner = AfxGetSafeOwner(nullptr, &hWndTop);
-    const int nResult = ::MessageBox(hWndOwner, lpszPrompt, AfxGetAppName(), nType);
+    const int nResult = AfxShowBox(hWndOwner, lpszPrompt, AfxGetAppName(), nType);
     if (hWndTop != nullptr) {
         ::EnableWindow(hWndTop, TRUE);
     }

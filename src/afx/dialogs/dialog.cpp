@@ -189,6 +189,7 @@ INT_PTR CDialog::RunModal(LPCDLGTEMPLATE lpDialogTemplate, HINSTANCE hInst) {
 
 // The owner is disabled meanwhile.
 void CDialog::RunModalFor(HWND hWndOwner, LPCDLGTEMPLATE lpDialogTemplate, HINSTANCE hInst) {
+    m_bDisabledOwner = ::IsWindowEnabled(hWndOwner) != FALSE;
     const AfxDisabledOwner disabled(hWndOwner);
     if (!CreateDlgIndirect(lpDialogTemplate, CWnd::FromHandle(hWndOwner), hInst)) {
         return;
@@ -206,7 +207,13 @@ void CDialog::EndDialog(int nResult) {
     if (m_nFlags & (WF_MODALLOOP | WF_CONTINUEMODAL)) {
         EndModalLoop(nResult);
     }
+    const HWND hWndOwner = ::GetWindow(m_hWnd, GW_OWNER);
+    const bool bStaysDisabled = !m_bDisabledOwner && !::IsWindowEnabled(hWndOwner);
     ::EndDialog(m_hWnd, nResult);
+    // The platform enables it even if somebody else has disabled it.
+    if (bStaysDisabled && ::IsWindow(hWndOwner)) {
+        ::EnableWindow(hWndOwner, FALSE);
+    }
 }
 
 void CDialog::PreInitDialog() {}

@@ -76,6 +76,7 @@ protected:
     LPCDLGTEMPLATE m_lpDialogTemplate = nullptr;
     void* m_lpDialogInit = nullptr;
     CWnd* m_pParentWnd = nullptr;
+    bool m_bDisabledOwner = false;  ///< for as long as it is modal
     HWND m_hWndTop = nullptr;  ///< top-level window disabled meanwhile, if it is not the parent
 
     afx_msg LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);

@@ -1,5 +1,8 @@
+#include "afx/window/wnd_state.h"
+
 #include <afxdlgs.h>
 
+// Defines short names that clash with those of the standard library's headers: after them.
 #include <mbstring.h>
 
 IMPLEMENT_DYNAMIC(CCommonDialog, CDialog)
@@ -21,7 +24,8 @@ CFileDialog::CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt, LPCTSTR lpszF
     m_ofn.lpstrFileTitle = m_szFileTitle;
     m_ofn.nMaxFileTitle = _countof(m_szFileTitle);
     m_ofn.lpstrDefExt = lpszDefExt;
-    m_ofn.Flags = dwFlags | OFN_EXPLORER | OFN_ENABLESIZING;
+    m_ofn.Flags = dwFlags | OFN_EXPLORER | OFN_ENABLESIZING | OFN_ENABLEHOOK;
+    m_ofn.lpfnHook = &CFileDialog::HookProc;
     if (lpszFileName != nullptr) {
         lstrcpyn(m_szFileName, lpszFileName, _countof(m_szFileName));
     }
@@ -41,20 +45,158 @@ CFileDialog::CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt, LPCTSTR lpszF
 
 INT_PTR CFileDialog::DoModal() {
     m_ofn.hwndOwner = PreModal();
-    HWND hWndFocus = ::GetFocus();
+    const HWND hWndFocus = ::GetFocus();
+    const BOOL bEnabled = ::IsWindowEnabled(m_ofn.hwndOwner);
+    AfxWndState& state = AfxGetWndState();
+    CWnd* const pOuter = state.pHookInit;
+    state.pHookInit = this;
     const BOOL bChosen = m_bOpenFileDialog ? ::GetOpenFileName(&m_ofn) : ::GetSaveFileName(&m_ofn);
+    state.pHookInit = pOuter;
+    // The system enables the owner always, or never where the program is about to end. A dialog
+    // that ends for that reason has chosen nothing, whatever the system says.
+    if (::IsWindow(m_ofn.hwndOwner)) {
+        ::EnableWindow(m_ofn.hwndOwner, bEnabled);
+    }
     if (::IsWindow(hWndFocus)) {
         ::SetFocus(hWndFocus);
     }
     PostModal();
-    return bChosen ? IDOK : IDCANCEL;
+    MSG msg;
+    const BOOL bEnds = ::PeekMessage(&msg, nullptr, WM_QUIT, WM_QUIT, PM_NOREMOVE);
+    return bChosen && !bEnds ? IDOK : IDCANCEL;
 }
 
+// --- The window
+
+// The procedure of a child that the system makes of its dialog for the hook's sake. The object
+// takes the child over at its first message; all later ones come through the object, as its
+// default.
+UINT_PTR CALLBACK CFileDialog::HookProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    // The system's code lies between here and whoever opened the dialog; no exception may cross it.
+    try {
+        if (message == WM_INITDIALOG) {
+            auto* pDlg = static_cast<CFileDialog*>(AfxGetWndState().pHookInit);
+            AfxGetWndState().pHookInit = nullptr;
+            return pDlg != nullptr && pDlg->SubclassWindow(hWnd) && pDlg->OnInitDialog();
+        }
+        auto* pDlg = dynamic_cast<CFileDialog*>(CWnd::FromHandlePermanent(hWnd));
+        return pDlg != nullptr ? pDlg->OnHookMessage(message, wParam, lParam) : 0;
+    } catch (...) {
+        AfxProcessCurrentException(hWnd, message, wParam, lParam);
+        if (message == WM_INITDIALOG) {
+            ::PostMessage(::GetParent(hWnd), WM_COMMAND, IDCANCEL, 0);
+        }
+        return 0;
+    }
+}
+
+// The messages of dialogs without OFN_EXPLORER; the others notify.
+UINT_PTR CFileDialog::OnHookMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    static const UINT s_nFileOK = ::RegisterWindowMessage(FILEOKSTRING);
+    static const UINT s_nShareViolation = ::RegisterWindowMessage(SHAREVISTRING);
+    static const UINT s_nSelChange = ::RegisterWindowMessage(LBSELCHSTRING);
+    if (message < kFirstRegisteredMessage || (m_ofn.Flags & OFN_EXPLORER)) {
+        return 0;
+    }
+    if (message == s_nFileOK) {
+        return static_cast<UINT_PTR>(OnFileNameOK());
+    }
+    if (message == s_nShareViolation) {
+        return OnShareViolation(reinterpret_cast<LPCTSTR>(lParam));
+    }
+    if (message == s_nSelChange) {
+        OnLBSelChangedNotify(static_cast<UINT>(wParam), LOWORD(lParam), HIWORD(lParam));
+    }
+    return 0;
+}
+
+BOOL CFileDialog::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) {
+    if (CCommonDialog::OnNotify(wParam, lParam, pResult)) {
+        return TRUE;
+    }
+    const auto& notify = *reinterpret_cast<const OFNOTIFY*>(lParam);
+    const HWND hWnd = m_hWnd;
+    switch (notify.hdr.code) {
+        case CDN_INITDONE:
+            OnInitDone();
+            return TRUE;
+        case CDN_SELCHANGE:
+            OnFileNameChange();
+            return TRUE;
+        case CDN_FOLDERCHANGE:
+            OnFolderChange();
+            return TRUE;
+        case CDN_TYPECHANGE:
+            OnTypeChange();
+            return TRUE;
+        case CDN_FILEOK:
+            *pResult = OnFileNameOK();
+            break;
+        case CDN_SHAREVIOLATION:
+            *pResult = static_cast<LRESULT>(OnShareViolation(notify.pszFile));
+            break;
+        default:
+            return FALSE;
+    }
+    // Where a dialog looks for an answer.
+    ::SetWindowLongPtr(hWnd, DWLP_MSGRESULT, *pResult);
+    return TRUE;
+}
+
+UINT CFileDialog::OnShareViolation(LPCTSTR) {
+    return OFN_SHAREWARN;
+}
+
+BOOL CFileDialog::OnFileNameOK() {
+    return FALSE;
+}
+
+void CFileDialog::OnLBSelChangedNotify(UINT, UINT, UINT) {}
+
+// A dialog without a place of its own comes up in the middle of its owner.
+void CFileDialog::OnInitDone() {
+    GetParent()->CenterWindow();
+}
+
+void CFileDialog::OnFileNameChange() {}
+void CFileDialog::OnFolderChange() {}
+void CFileDialog::OnTypeChange() {}
+
+void CFileDialog::SetControlText(int nID, LPCSTR lpsz) {
+    AfxSend(::GetParent(m_hWnd), CDM_SETCONTROLTEXT, nID, lpsz);
+}
+
+void CFileDialog::HideControl(int nID) {
+    AfxSend(::GetParent(m_hWnd), CDM_HIDECONTROL, nID);
+}
+
+void CFileDialog::SetDefExt(LPCSTR lpsz) {
+    AfxSend(::GetParent(m_hWnd), CDM_SETDEFEXT, 0, lpsz);
+}
+
+// What the open dialog says to a question for a text.
+CString CFileDialog::Ask(UINT message) const {
+    CString strText;
+    const int nBytes = AfxSend<int>(::GetParent(m_hWnd), message, _countof(m_szFileName),
+                                    strText.GetBuffer(_countof(m_szFileName)));
+    strText.ReleaseBuffer(nBytes > 0 ? -1 : 0);
+    return strText;
+}
+
+// --- What was chosen
+
 CString CFileDialog::GetPathName() const {
-    return CString(m_ofn.lpstrFile);
+    return m_hWnd != nullptr ? Ask(CDM_GETFILEPATH) : CString(m_ofn.lpstrFile);
+}
+
+CString CFileDialog::GetFolderPath() const {
+    return m_hWnd != nullptr ? Ask(CDM_GETFOLDERPATH) : CString();
 }
 
 CString CFileDialog::GetFileName() const {
+    if (m_hWnd != nullptr) {
+        return Ask(CDM_GETSPEC);
+    }
     const CString strPath(GetPathName());
     return strPath.Mid(strPath.ReverseFind('\\') + 1);
 }

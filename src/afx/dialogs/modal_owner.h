@@ -6,27 +6,22 @@
 #include <new>
 
 /// A window disabled while this lives. The owner of a modal dialog must be enabled again before
-/// the dialog is destroyed, or the system activates somebody else.
+/// the dialog is destroyed, or the system activates somebody else. One that was disabled before
+/// stays so, though the system enables the owner of each dialog that ends.
 class AfxDisabledOwner {
 public:
     explicit AfxDisabledOwner(HWND hWnd)
-        : m_hWnd(hWnd != nullptr && hWnd != ::GetDesktopWindow() && ::IsWindowEnabled(hWnd)
-                     ? hWnd
-                     : nullptr) {
-        if (m_hWnd != nullptr) {
-            ::EnableWindow(m_hWnd, FALSE);
-        }
+        : m_hWnd(hWnd != ::GetDesktopWindow() ? hWnd : nullptr),
+          m_bEnabled(::IsWindowEnabled(m_hWnd)) {
+        ::EnableWindow(m_hWnd, FALSE);
     }
-    ~AfxDisabledOwner() {
-        if (m_hWnd != nullptr) {
-            ::EnableWindow(m_hWnd, TRUE);
-        }
-    }
+    ~AfxDisabledOwner() { ::EnableWindow(m_hWnd, m_bEnabled); }
     AfxDisabledOwner(const AfxDisabledOwner&) = delete;
     AfxDisabledOwner& operator=(const AfxDisabledOwner&) = delete;
 
 private:
     HWND m_hWnd;
+    BOOL m_bEnabled;
 };
 
 /// FALSE if run threw: want of memory or another exception of the framework's, which ends here.

@@ -11,7 +11,9 @@ public:
     explicit CCommonDialog(CWnd* pParentWnd);
 };
 
-/// Opening and saving files.
+/// Opening and saving files. While the system's dialog is open, this object is a child window of
+/// it: GetParent() is the dialog that the user sees. Without OFN_ENABLEHOOK in m_ofn.Flags it has
+/// no window, and none of the virtual functions is called.
 class QVAFX_API CFileDialog : public CCommonDialog {
     DECLARE_DYNAMIC(CFileDialog)
 
@@ -27,17 +29,44 @@ public:
 
     INT_PTR DoModal() override;
 
-    CString GetPathName() const;   ///< the whole path
-    CString GetFileName() const;   ///< name and extension
-    CString GetFileExt() const;    ///< without the dot
-    CString GetFileTitle() const;  ///< the name alone
+    // What was chosen; while the dialog is open, what it shows.
+    CString GetPathName() const;    ///< the whole path
+    CString GetFileName() const;    ///< name and extension
+    CString GetFileExt() const;     ///< without the dot
+    CString GetFileTitle() const;   ///< the name alone
+    CString GetFolderPath() const;  ///< empty unless the dialog is open
     BOOL GetReadOnlyPref() const;
     /// With OFN_ALLOWMULTISELECT: one path after the other. The position ends as null.
     POSITION GetStartPosition() const;
     CString GetNextPathName(POSITION& pos) const;
 
+    // The system's controls, while the dialog is open.
+    void SetControlText(int nID, LPCSTR lpsz);
+    void HideControl(int nID);
+    void SetDefExt(LPCSTR lpsz);
+
+protected:
+    // What the user does. OnFileNameOK gives TRUE, OnShareViolation a value other than
+    // OFN_SHAREWARN, to take the decision from the system: TRUE keeps the dialog open,
+    // OFN_SHAREFALLTHROUGH takes the name, OFN_SHARENOWARN goes back without a message.
+    virtual UINT OnShareViolation(LPCTSTR lpszPathName);
+    virtual BOOL OnFileNameOK();
+    /// Of dialogs without OFN_EXPLORER.
+    virtual void OnLBSelChangedNotify(UINT nIDBox, UINT iCurSel, UINT nCode);
+    virtual void OnInitDone();  ///< all controls are where they will be
+    virtual void OnFileNameChange();
+    virtual void OnFolderChange();
+    virtual void OnTypeChange();
+
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+
+    CString m_strFilter;  ///< m_ofn.lpstrFilter points into it
+
 private:
-    CString m_strFilter;
+    static UINT_PTR CALLBACK HookProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
+    UINT_PTR OnHookMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    CString Ask(UINT message) const;
+
     TCHAR m_szFileTitle[MAX_PATH] = {};
     TCHAR m_szFileName[8 * MAX_PATH] = {};
 };

@@ -185,6 +185,15 @@ void CFile::Remove(LPCTSTR lpszFileName) {
 
 // --- CStdioFile
 
+namespace {
+
+// The platform's, of the call to a stream that has just failed.
+LONG LastStreamError() {
+    return _doserrno != 0 ? static_cast<LONG>(_doserrno) : -1;
+}
+
+}  // namespace
+
 CStdioFile::CStdioFile() = default;
 
 CStdioFile::CStdioFile(FILE* pOpenStream)
@@ -237,8 +246,9 @@ void CStdioFile::Close() {
     }
     // Closing alone does not tell of every write that failed on the way.
     const bool bFlushed = std::fflush(pStream) == 0;
+    const LONG lOsError = LastStreamError();
     if (std::fclose(pStream) != 0 || !bFlushed) {
-        AfxThrowFileException(CFileException::diskFull, -1, m_strFileName);
+        AfxThrowFileException(CFileException::diskFull, lOsError, m_strFileName);
     }
 }
 
@@ -255,7 +265,7 @@ UINT CStdioFile::Read(void* lpBuf, UINT nCount) {
     const size_t nRead = std::fread(lpBuf, 1, nCount, m_pStream);
     if (nRead < nCount && std::ferror(m_pStream)) {
         std::clearerr(m_pStream);
-        AfxThrowFileException(CFileException::genericException, -1, m_strFileName);
+        AfxThrowFileException(CFileException::genericException, LastStreamError(), m_strFileName);
     }
     return static_cast<UINT>(nRead);
 }
@@ -263,14 +273,14 @@ UINT CStdioFile::Read(void* lpBuf, UINT nCount) {
 void CStdioFile::Write(const void* lpBuf, UINT nCount) {
     if (std::fwrite(lpBuf, 1, nCount, m_pStream) != nCount) {
         std::clearerr(m_pStream);
-        AfxThrowFileException(CFileException::diskFull, -1, m_strFileName);
+        AfxThrowFileException(CFileException::diskFull, LastStreamError(), m_strFileName);
     }
 }
 
 void CStdioFile::WriteString(LPCTSTR lpsz) {
     if (std::fputs(lpsz, m_pStream) == EOF) {
         std::clearerr(m_pStream);
-        AfxThrowFileException(CFileException::diskFull, -1, m_strFileName);
+        AfxThrowFileException(CFileException::diskFull, LastStreamError(), m_strFileName);
     }
 }
 
@@ -278,7 +288,7 @@ LPTSTR CStdioFile::ReadString(LPTSTR lpsz, UINT nMax) {
     LPTSTR lpszResult = std::fgets(lpsz, static_cast<int>(nMax), m_pStream);
     if (lpszResult == nullptr && std::ferror(m_pStream)) {
         std::clearerr(m_pStream);
-        AfxThrowFileException(CFileException::genericException, -1, m_strFileName);
+        AfxThrowFileException(CFileException::genericException, LastStreamError(), m_strFileName);
     }
     return lpszResult;
 }
@@ -309,13 +319,13 @@ BOOL CStdioFile::ReadString(CString& rString) {
 
 void CStdioFile::Flush() {
     if (m_pStream != nullptr && std::fflush(m_pStream) != 0) {
-        AfxThrowFileException(CFileException::diskFull, -1, m_strFileName);
+        AfxThrowFileException(CFileException::diskFull, LastStreamError(), m_strFileName);
     }
 }
 
 ULONGLONG CStdioFile::Seek(LONGLONG lOff, UINT nFrom) {
     if (_fseeki64(m_pStream, lOff, static_cast<int>(nFrom)) != 0) {
-        AfxThrowFileException(CFileException::badSeek, -1, m_strFileName);
+        AfxThrowFileException(CFileException::badSeek, LastStreamError(), m_strFileName);
     }
     return GetPosition();
 }
@@ -323,7 +333,7 @@ ULONGLONG CStdioFile::Seek(LONGLONG lOff, UINT nFrom) {
 ULONGLONG CStdioFile::GetPosition() const {
     const auto nPosition = _ftelli64(m_pStream);
     if (nPosition < 0) {
-        AfxThrowFileException(CFileException::invalidFile, -1, m_strFileName);
+        AfxThrowFileException(CFileException::invalidFile, LastStreamError(), m_strFileName);
     }
     return static_cast<ULONGLONG>(nPosition);
 }

@@ -38,6 +38,7 @@ CWnd::~CWnd() {
     // Stand-ins and temporary objects only name a window; they do not own it.
     if (m_hWnd != nullptr && FromHandlePermanent(m_hWnd) == this) {
         DestroyWindow();
+        Detach();  // from a window that was refused, which never told its end
     }
 }
 

@@ -30,11 +30,20 @@ BOOL CWnd::PreTranslateInput(LPMSG lpMsg) {
     return (bKey || bMouse) && AfxIsDialogMessage(m_hWnd, *lpMsg);
 }
 
+int AfxShowBox(HWND hWndOwner, LPCTSTR lpszText, LPCTSTR lpszCaption, UINT nType) {
+    const HWND hWndTop = hWndOwner != nullptr ? ::GetAncestor(hWndOwner, GA_ROOT) : nullptr;
+    const BOOL bEnabled = ::IsWindowEnabled(hWndTop);
+    const int nResult = ::MessageBox(hWndOwner, lpszText, lpszCaption, nType);
+    // The system enables it always, or never where the program is about to end.
+    ::EnableWindow(hWndTop, bEnabled);
+    return nResult;
+}
+
 int CWnd::MessageBox(LPCTSTR lpszText, LPCTSTR lpszCaption, UINT nType) {
     if (lpszCaption == nullptr) {
         lpszCaption = AfxGetAppName();
     }
-    return ::MessageBox(GetSafeHwnd(), lpszText, lpszCaption, nType);
+    return AfxShowBox(GetSafeHwnd(), lpszText, lpszCaption, nType);
 }
 
 BOOL CWnd::ContinueModal() {

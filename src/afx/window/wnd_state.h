@@ -11,6 +11,7 @@ struct AfxWndState {
     CWnd* pWndInit = nullptr;       ///< waits for the next window to be created
     bool bDialogInit = false;       ///< pWndInit waits for a dialog
     HWND hWndInitParent = nullptr;  ///< pWndInit waits for a child or popup of this one
+    CWnd* pHookInit = nullptr;      ///< waits for the system's dialog to call its hook
     HHOOK hHookCreate = nullptr;    ///< installed while creations are under way
     int nHookDepth = 0;             ///< creations under way
     MSG lastSentMsg = {};           ///< the message being handled
@@ -25,6 +26,9 @@ AfxWndState& AfxGetWndState();
 /// AfxHookWindowCreate for a window that somebody else creates: the next dialog, of that parent if
 /// there is one. Others that come before it are not taken.
 void AfxHookDialogCreate(CWnd* pWnd, HWND hWndParent = nullptr);
+
+/// The system's message box. Its owner is disabled or not afterwards as it was before.
+int AfxShowBox(HWND hWndOwner, LPCTSTR lpszText, LPCTSTR lpszCaption, UINT nType);
 
 /// True in the thread that asked first, whose things are at hand without thread-local storage:
 /// this compiler calls into the thread library for that, several times a message. The first thread

@@ -71,7 +71,9 @@ TEST(ModalDialogs, GiveTheResultOfTheirEnd_AndDisableTheirOwnerMeanwhile) {
     dlg.m_action = [](ModalDialog& d) { d.SendMessage(WM_COMMAND, IDOK); };
     EXPECT_EQ(dlg.DoModal(), IDOK) << "the same object runs again";
     dlg.m_action = [](ModalDialog& d) { d.SendMessage(WM_CLOSE); };
+    parent.EnableWindow(FALSE);
     EXPECT_EQ(dlg.DoModal(), IDCANCEL);
+    EXPECT_FALSE(parent.IsWindowEnabled()) << "it was before";
     EXPECT_EQ(ModalDialog(nullptr, 9999).DoModal(), -1) << "no such template";
 }
 
