@@ -48,6 +48,9 @@ public:
     // True for a byte that begins a character of several bytes if the right ones follow it.
     bool CanLead(unsigned char byte) const;
 
+    // True where an ASCII byte is always a character of its own, so that it may be searched by byte.
+    bool KeepsAscii() const { return m_kind != Kind::DoubleByte; }
+
     // Bytes of the longest start of psz that has at most nMost bytes and splits no character.
     std::size_t PrefixBytes(const char* psz, std::size_t nMost) const;
 

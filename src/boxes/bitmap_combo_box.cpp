@@ -3,10 +3,10 @@
 #include "boxes/combo_item.h"
 #include "boxes/core/box_heights.h"
 #include "boxes/core/box_order.h"
+#include "common/process_text.h"
 #include "frame/ancestor_font.h"
 #include "frame/create_window.h"
 #include "frame/image_strip.h"
-#include "frame/process_text.h"
 #include "frame/text_out.h"
 
 namespace {

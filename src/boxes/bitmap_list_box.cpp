@@ -3,11 +3,11 @@
 #include "boxes/core/box_heights.h"
 #include "boxes/core/box_order.h"
 #include "boxes/core/box_row.h"
+#include "common/process_text.h"
 #include "frame/ancestor_font.h"
 #include "frame/create_window.h"
 #include "frame/image_strip.h"
 #include "frame/out_of_memory.h"
-#include "frame/process_text.h"
 #include "frame/saved_rows.h"
 #include "frame/text_out.h"
 

@@ -4,11 +4,11 @@
 
 #include "boxes/core/box_row.h"
 #include "boxes/core/header_tabs.h"
+#include "common/process_text.h"
 #include "frame/core/styled_text.h"
 #include "frame/core/tab_stops.h"
 #include "frame/dc_guards.h"
 #include "frame/out_of_memory.h"
-#include "frame/process_text.h"
 #include "frame/text_out.h"
 
 #include <algorithm>

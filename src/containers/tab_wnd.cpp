@@ -1,8 +1,8 @@
 #include "containers/tab_wnd.h"
 
+#include "common/process_text.h"
 #include "frame/ancestor_font.h"
 #include "frame/create_window.h"
-#include "frame/process_text.h"
 #include "frame/redraw_pause.h"
 #include "print/print_engine.h"
 

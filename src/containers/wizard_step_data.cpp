@@ -1,9 +1,9 @@
 #include "containers/wizard_step_data.h"
 
+#include "common/process_text.h"
 #include "containers/core/wizard_steps.h"
 #include "containers/wizard_page.h"
 #include "frame/out_of_memory.h"
-#include "frame/process_text.h"
 
 QVWizardStepData* QVWizardStepData::m_pWizData = nullptr;
 QVWizardStepData* QVWizardStepData::s_pYoungest = nullptr;

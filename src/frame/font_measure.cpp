@@ -1,7 +1,7 @@
 #include "frame/font_measure.h"
 
+#include "common/process_text.h"
 #include "frame/dc_guards.h"
-#include "frame/process_text.h"
 #include "frame/text_out.h"
 #include "frame/wide_text.h"
 

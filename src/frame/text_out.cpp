@@ -1,6 +1,6 @@
 #include "frame/text_out.h"
 
-#include "frame/process_text.h"
+#include "common/process_text.h"
 #include "frame/wide_text.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "frame/wide_text.h"
 
-#include "frame/process_text.h"
+#include "common/process_text.h"
 
 #include <algorithm>
 #include <new>

@@ -2,8 +2,8 @@
 
 #pragma once
 
+#include "common/process_text.h"
 #include "frame/core/styled_text.h"
-#include "frame/process_text.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -2,8 +2,8 @@
 
 #include "list/list_ctrl.h"
 
+#include "common/process_text.h"
 #include "frame/out_of_memory.h"
-#include "frame/process_text.h"
 #include "list/core/list_fit.h"
 #include "list/core/list_row.h"
 #include "list/cut_text.h"

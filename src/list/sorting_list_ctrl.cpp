@@ -1,8 +1,8 @@
 #include "list/sorting_list_ctrl.h"
 
+#include "common/process_text.h"
 #include "frame/core/styled_text.h"
 #include "frame/out_of_memory.h"
-#include "frame/process_text.h"
 #include "list/core/row_changes.h"
 #include "list/core/row_order.h"
 

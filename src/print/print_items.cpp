@@ -1,9 +1,9 @@
 #include "print/print_items.h"
 
+#include "common/process_text.h"
 #include "frame/core/paper_rows.h"
 #include "frame/core/styled_text.h"
 #include "frame/dc_guards.h"
-#include "frame/process_text.h"
 #include "frame/text_out.h"
 #include "list/cell_row.h"
 #include "list/list_ctrl.h"

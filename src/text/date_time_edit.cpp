@@ -1,8 +1,8 @@
 #include "text/date_time_edit.h"
 
 #include "common/locale_info.h"
+#include "common/process_text.h"
 #include "frame/out_of_memory.h"
-#include "frame/process_text.h"
 #include "frame/text_out.h"
 #include "text/core/date_picture.h"
 

@@ -1,7 +1,7 @@
 #include "text/speed_edit.h"
 
+#include "common/process_text.h"
 #include "frame/out_of_memory.h"
-#include "frame/process_text.h"
 #include "frame/text_out.h"
 #include "text/core/type_ahead.h"
 #include "text/edit_positions.h"

@@ -1,11 +1,11 @@
 #include "text/text_box.h"
 
+#include "common/process_text.h"
 #include "frame/ancestor_font.h"
 #include "frame/create_window.h"
 #include "frame/dc_guards.h"
 #include "frame/notify.h"
 #include "frame/paint_objects.h"
-#include "frame/process_text.h"
 #include "frame/text_out.h"
 #include "text/core/text_list.h"
 

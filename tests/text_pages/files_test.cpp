@@ -101,4 +101,33 @@ TEST(TextFiles, PrintedPagesHoldTheWords) {
     }
 }
 
+// Names that the code page cannot spell are others that lead to the same folders.
+TEST(MachineFolders, LeadToEveryFolderByTheNameGiven) {
+    class Taker : public QVFolderTaker {
+    public:
+        BOOL TakeFolder(LPCSTR pszName, int nImage) override {
+            const std::wstring strName = FromPage(pszName);
+            m_nSpelt +=
+                std::find(std::begin(kWords), std::end(kWords), strName) != std::end(kWords);
+            return nImage >= 0 && ::RemoveDirectoryW((m_strPlace + L"\\" + strName).c_str());
+        }
+        std::wstring m_strPlace;
+        size_t m_nSpelt = 0;
+    };
+    wchar_t szTemp[MAX_PATH];
+    ::GetTempPathW(MAX_PATH, szTemp);
+    QVFileFolders files;
+    for (QVMachineFolders* pFolders : {&QVMachineFolders::Network(), (QVMachineFolders*)&files}) {
+        Taker taker;
+        taker.m_strPlace = std::wstring(szTemp) + L"qv folders";
+        ASSERT_TRUE(::CreateDirectoryW(taker.m_strPlace.c_str(), nullptr));
+        for (const wchar_t* pszWord : kWords) {
+            ::CreateDirectoryW((taker.m_strPlace + L"\\" + pszWord).c_str(), nullptr);
+        }
+        pFolders->ListSubfolders(CString(taker.m_strPlace.c_str()), taker);
+        EXPECT_EQ(taker.m_nSpelt, PageWords().size());
+        EXPECT_TRUE(::RemoveDirectoryW(taker.m_strPlace.c_str())) << "all were found";
+    }
+}
+
 }  // namespace

@@ -1,8 +1,8 @@
 // Measuring and drawing in the process's code page, beside the platform's wide calls.
+#include "common/process_text.h"
 #include "drawn_text.h"
 #include "frame/font_measure.h"
 #include "frame/module_state.h"
-#include "frame/process_text.h"
 #include "frame/text_out.h"
 #include "frame/wide_text.h"
 #include "page_text.h"

@@ -1,4 +1,4 @@
-#include "frame/process_text.h"
+#include "common/process_text.h"
 
 #include <windows.h>
 

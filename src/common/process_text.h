@@ -3,10 +3,11 @@
 #pragma once
 
 #include "base/multi_byte.h"
+#include "common/common_api.h"
 
 namespace qv {
 
 // As _mbsicmp orders it. Made at the first call and kept.
-const MultiByte& ProcessText();
+QV_COMMON_API const MultiByte& ProcessText();
 
 }  // namespace qv

@@ -1,0 +1,36 @@
+#include "common/wide_path.h"
+
+#include <windows.h>
+
+namespace qv {
+
+namespace {
+
+constexpr DWORD kLongPath = MAX_PATH - 12;  // less what a folder's short name may need
+
+std::wstring Wide(std::string_view text) {
+    std::wstring strWide(text.size(), 0);
+    const int nBytes = static_cast<int>(text.size());
+    strWide.resize(static_cast<std::size_t>(
+        ::MultiByteToWideChar(CP_ACP, 0, text.data(), nBytes, strWide.data(), nBytes)));
+    return strWide;
+}
+
+}  // namespace
+
+std::wstring WidePath(std::string_view path) {
+    const std::wstring strWide = Wide(path);
+    if (strWide.size() < kLongPath || strWide.compare(0, 4, L"\\\\?\\") == 0) {
+        return strWide;
+    }
+    std::wstring strFull(::GetFullPathNameW(strWide.c_str(), 0, nullptr, nullptr), 0);
+    if (strFull.empty()) {
+        return strWide;
+    }
+    strFull.resize(::GetFullPathNameW(strWide.c_str(), static_cast<DWORD>(strFull.size()),
+                                      strFull.data(), nullptr));
+    return strFull.compare(0, 2, L"\\\\") == 0 ? L"\\\\?\\UNC" + strFull.substr(1)
+                                               : L"\\\\?\\" + strFull;
+}
+
+}  // namespace qv
