@@ -482,6 +482,55 @@ LRESULT QVTreeCtrlEx::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
                              [&] { return CWnd::WindowProc(message, wParam, lParam); });
 }
 
+// --- On a window of the platform's tree class
+
+void QVTreeCtrlEx::PreSubclassWindow() {
+    char szClass[sizeof(WC_TREEVIEW) + 1];
+    m_bPlatformTree = ::GetClassName(m_hWnd, szClass, sizeof(szClass)) != 0 &&
+                      ::lstrcmpi(szClass, WC_TREEVIEW) == 0;
+    CWnd::PreSubclassWindow();
+    if (m_bPlatformTree) {
+        DropPlatformTips();
+    }
+}
+
+void QVTreeCtrlEx::DropPlatformTips() {
+    const auto hTips = reinterpret_cast<HWND>(::SendMessage(m_hWnd, TVM_GETTOOLTIPS, 0, 0));
+    if (hTips != nullptr) {
+        ::SendMessage(m_hWnd, TVM_SETTOOLTIPS, 0, 0);
+        ::DestroyWindow(hTips);
+    }
+}
+
+// The platform's class would tell the parent of focus, keys and clicks, search by typing, wait for
+// a drag, and hide the bars of a tree that is empty to it. It gets what makes and ends the window,
+// and the font, which the tree may take from it.
+LRESULT QVTreeCtrlEx::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (!m_bPlatformTree) {
+        return CWnd::DefWindowProc(message, wParam, lParam);
+    }
+    switch (message) {
+        case WM_NCCREATE:
+        case WM_DESTROY:
+        case WM_NCDESTROY:
+        case WM_GETFONT:
+        case TVM_GETTOOLTIPS:
+        case TVM_SETTOOLTIPS:
+            return CWnd::DefWindowProc(message, wParam, lParam);
+        case WM_CREATE: {
+            const LRESULT lResult = CWnd::DefWindowProc(message, wParam, lParam);
+            DropPlatformTips();
+            return lResult;
+        }
+        case WM_SETFONT:
+            CWnd::DefWindowProc(message, wParam, lParam);
+            View().Resize();
+            return 0;
+        default:
+            return ::DefWindowProc(m_hWnd, message, wParam, lParam);
+    }
+}
+
 void QVTreeCtrlEx::OnSize(UINT, int, int) {
     Default();
     View().Resize();

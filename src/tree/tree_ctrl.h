@@ -6,6 +6,10 @@
 // point at records of its own, state image 0 is a real picture, and a parent hears of a check mark
 // by the selection codes with itemOld.hItem equal to itemNew.hItem.
 //
+// A dialog item of the platform's class, "SysTreeView32", may be taken over as any other: that
+// class is asked for its font, and for nothing else. None of its bars, tips and notifications come
+// up.
+//
 // Ownership: the control owns its items and its standard check images; image lists handed to
 // SetImageList stay the caller's and must outlive the control's window. Item data are the caller's.
 // A deleted handle points at zeroed memory until an insertion uses it again.
@@ -238,6 +242,8 @@ protected:
     int ItemHeight();
 
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void PreSubclassWindow() override;
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     void DrawDottedLine(CDC& dc, int x1, int y1, int x2, int y2);
     void OutputFormattedText(CDC& dc, const CRect& rect, const CString& strText, BOOL bSelected);
 
@@ -297,6 +303,9 @@ private:
     void ToggleCheck(HTREEITEM hItem);
     void DrawFocusFrame(bool bFocus);
 
+    void DropPlatformTips();
+
     const std::type_info* m_pKeepsSteps = nullptr;
+    bool m_bPlatformTree = false;  // the window is of the platform's class
     std::unique_ptr<Core> m_pCore;
 };

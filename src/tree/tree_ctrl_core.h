@@ -2,9 +2,9 @@
 
 #pragma once
 
+#include "common/process_text.h"
 #include "frame/alive.h"
 #include "frame/font_measure.h"
-#include "frame/process_text.h"
 #include "frame/rectangles.h"
 #include "frame/wnd_port.h"
 #include "tree/core/tree_view.h"
