@@ -391,6 +391,50 @@ public:
     }
 };
 
+// --- Dialogs
+
+template <class Base>
+class Asking : public Base {
+public:
+    void LooksAtItself(CWnd&) {
+        EXPECT_TRUE(this->m_bCheckEnabled && !this->m_btnCheck.m_hWnd && !this->m_nCheck);
+    }
+};
+
+class Waiting : public QVWaitDlg {
+public:
+    void LooksAtItself(CWnd& parent) {
+        ASSERT_TRUE(Display(&parent, FALSE));
+        m_nPos = m_nRange / 2;
+        UpdateProgressBar();
+        ProcessWinMessages();
+        OnCancel();
+        EXPECT_TRUE(m_bCancelled && m_pOwner == &parent && m_bOwnerEnabled && !m_bCapture);
+        EXPECT_EQ(m_wndProgress.GetPos(), 50);
+    }
+};
+
+class Browsing : public QVBrowseMachineDlg, public QVMachineFolders {
+public:
+    void LooksAtItself(CWnd&) {
+        SetMachineName("M");
+        SetMachineFolders(this);
+        ASSERT_TRUE(Create(30006u, nullptr));
+        const HTREEITEM hShare = m_wndTree.GetChildItem(m_hMachineItem);
+        BuildNode(hShare, "\\\\M\\only");
+        EXPECT_FALSE(IsNodeReset(hShare));
+        ResetNode(hShare);
+        m_wndTree.SelectItem(hShare);
+        UpdateButtons();
+        EXPECT_TRUE(IsNodeReset(hShare) && m_btnOK.IsWindowEnabled() && UpdateData());
+        EXPECT_EQ(m_strItemPath, "\\\\M\\only");
+    }
+    void ListShares(LPCSTR, QVFolderTaker& taker) override { taker.TakeFolder("only", 0); }
+    void ListSubfolders(LPCSTR psz, QVFolderTaker& taker) override { ListShares(psz, taker); }
+    BOOL MachineAnswers(LPCSTR) override { return TRUE; }
+    int GetImage(LPCSTR) override { return 0; }
+};
+
 // --- Print
 
 class Item : public QVPrintEngineData {
@@ -408,6 +452,42 @@ public:
     void Print(CDC*, CRect&, unsigned, unsigned) override {}
 };
 
+// --- Dialogs
+
+class Folders : public QVBrowseDlg {
+public:
+    void LooksAtItself(CWnd&) {
+        EXPECT_TRUE(m_hWndParent == nullptr && m_nBrowseFlags == 1 && m_nFolderLocation == 18);
+    }
+};
+
+class OneFile : public QVFileDialogEx {
+public:
+    OneFile() : QVFileDialogEx(TRUE) {}
+    void LooksAtItself(CWnd&) {
+        EXPECT_STREQ(m_strFilter + m_strOkButtonText + m_strDlgTitle, "All Files (*.*)");
+        EXPECT_STREQ(m_strFilter.GetString() + 16, "*.*");
+    }
+};
+
+class Machine : public QVFindInstallationDlg {
+public:
+    void LooksAtItself(CWnd& parent) {
+        SetInstallationMachine("m");
+        EXPECT_TRUE(Create(30004, &parent) && m_btnOK.IsWindowEnabled());
+    }
+};
+
+class TextDlg : public QVTextDlg {
+public:
+    void LooksAtItself(CWnd& parent) {
+        ASSERT_TRUE(Create(30005u, &parent));
+        EXPECT_TRUE(m_wndText.m_hWnd && m_btnClose.m_hWnd && m_wndMessage.m_hWnd);
+        EXPECT_TRUE((m_strFilePath + m_strMessage + m_strTitle).IsEmpty() && !IsTextLoaded());
+        QVStatus(1001, "from outside").SetCause(QVStatus::FromSystem(ERROR_ACCESS_DENIED));
+    }
+};
+
 // --- All of them
 
 template <class Control>
@@ -421,11 +501,14 @@ protected:
 
     Parent m_parent;
 };
-using Derived = testing::Types<
-    Tree, Grid, Text, Box, SpeedEdit, DateEdit, List, ListBox, BitmapCombo, ColorCombo,
-    Captioned<QVHeaderWnd>, Captioned<QVListHeaderWnd>, Captioned<QVTreeHeaderWnd>,
-    Captioned<QVTextHeaderWnd>, TabbedPages, Splitter, PropSheet<QVPropertySheet, QVPropertyPage>,
-    PropSheet<QVPropertySheetEx, QVPropertyPageEx>, Panel, WizardPage, Tool, Macros, Mark, Item>;
+using Derived =
+    testing::Types<Tree, Grid, Text, Box, SpeedEdit, DateEdit, List, ListBox, BitmapCombo,
+                   ColorCombo, Captioned<QVHeaderWnd>, Captioned<QVListHeaderWnd>,
+                   Captioned<QVTreeHeaderWnd>, Captioned<QVTextHeaderWnd>, TabbedPages, Splitter,
+                   PropSheet<QVPropertySheet, QVPropertyPage>,
+                   PropSheet<QVPropertySheetEx, QVPropertyPageEx>, Panel, WizardPage, Tool, Macros,
+                   Mark, Asking<QVMsgBox>, Asking<QVMsgPromptDlg>, Waiting, TextDlg, Folders,
+                   OneFile, Machine, Browsing, Item>;
 TYPED_TEST_SUITE(Outside, Derived);
 
 TYPED_TEST(Outside, ReachesWhatIsItsOwn) {

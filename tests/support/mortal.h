@@ -15,6 +15,7 @@ public:
 template <class Base>
 class Mortal : public Base {
 public:
+    using Base::Base;
     static void* operator new(std::size_t nBytes) { return NoMansLand::Allocate(nBytes); }
     static void operator delete(void* p, std::size_t nBytes) { NoMansLand::Close(p, nBytes); }
 };

@@ -1,6 +1,7 @@
 // Sheets and pages that write down what they are asked, and do in their loop what a test wants.
 #pragma once
 
+#include "support/acting_dialog.h"
 #include "support/popup.h"
 #include "support/pump.h"
 #include "support/real_input.h"
@@ -61,35 +62,15 @@ private:
     std::string& m_diary;
 };
 
-/// Base: a sheet class. m_action runs once a modal sheet is there, and ends with it.
+/// Base: a sheet class.
 template <class Base>
-class ActingSheet : public Base {
+class ActingSheet : public ActingDialog<Base> {
 public:
-    using Base::Base;
+    using ActingDialog<Base>::ActingDialog;
     using Base::BuildPropPageArray;
 
-    static constexpr int kStillThere = 4711;  ///< the result of a sheet that did not end itself
-    std::function<void()> m_action = [] {};
-
-    BOOL OnInitDialog() override {
-        this->PostMessage(kAct);
-        return Base::OnInitDialog();
-    }
-
 protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-        if (message != kAct || this->IsModeless()) {
-            return Base::WindowProc(message, wParam, lParam);
-        }
-        m_action();
-        if (this->m_hWnd != nullptr && this->ContinueModal()) {
-            this->EndDialog(kStillThere);
-        }
-        return 0;
-    }
-
-private:
-    static constexpr UINT kAct = WM_APP + 21;
+    bool IsModal() override { return !this->IsModeless(); }
 };
 
 /// A sheet with three pages: b of a big font, p of a plain one, n of none.

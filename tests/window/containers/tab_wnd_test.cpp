@@ -177,7 +177,7 @@ TEST(TabWnd, APageThatCannotBeMadeLeavesAllAsItWas) {
     const auto check = [&] { EXPECT_EQ(s_nLiving, w.tabs->NumPages()); };
     EXPECT_GT(RefuseEach(
                   "page", [&] { w.tabs->Add(1); }, check),
-              5);
+              4);
     EXPECT_GT(RefuseEach(
                   "window", [&] { w.Make(2); }, check),
               5);

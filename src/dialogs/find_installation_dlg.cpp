@@ -1,0 +1,75 @@
+#include "dialogs/find_installation_dlg.h"
+
+#include "dialogs/ask_parts.h"
+#include "dialogs/browse_dlg.h"
+#include "dialogs/dialog_ids.h"
+
+#include <shlobj.h>
+
+BEGIN_MESSAGE_MAP(QVFindInstallationDlg, CDialog)
+    ON_BN_CLICKED(QV_IDC_INSTALLATION_BROWSE, &QVFindInstallationDlg::OnBrowse)
+    ON_EN_CHANGE(QV_IDC_INSTALLATION_MACHINE, &QVFindInstallationDlg::UpdateControls)
+END_MESSAGE_MAP()
+
+QVFindInstallationDlg::QVFindInstallationDlg(CWnd* pParent)
+    : CDialog(QV_IDD_FIND_INSTALLATION, pParent) {}
+
+void QVFindInstallationDlg::SetInstallationMachine(LPCSTR pszMachine) {
+    qv::MemorySuffices([&] { m_strInstallationMachine = pszMachine; });
+}
+
+void QVFindInstallationDlg::DoDataExchange(CDataExchange* pDX) {
+    CDialog::DoDataExchange(pDX);
+    DDX_Control(pDX, IDOK, m_btnOK);
+    DDX_Text(pDX, QV_IDC_INSTALLATION_MACHINE, m_strInstallationMachine);
+    if (pDX->m_bSaveAndValidate) {
+        CheckMachine(pDX);
+    } else {
+        UpdateControls();
+    }
+}
+
+// Who is asked, and whoever runs while the message shows, may take the dialog away. Then nothing of
+// it is touched any more, and the exchange ends all the same.
+void QVFindInstallationDlg::CheckMachine(CDataExchange* pDX) {
+    const qv::WindowWatch watch(m_alive, m_hWnd);
+    const CString strMachine(m_strInstallationMachine);
+    QVMachineFolders& folders = m_pFolders != nullptr ? *m_pFolders : QVMachineFolders::Network();
+    const BOOL bAnswers = folders.MachineAnswers("\\\\" + strMachine);
+    if (bAnswers && watch) {
+        return;
+    }
+    if (watch) {
+        CString strMessage;
+        strMessage.Format(QV_IDS_NO_MACHINE, static_cast<LPCSTR>(strMachine));
+        AfxMessageBox(strMessage, MB_ICONEXCLAMATION);
+    }
+    if (watch) {
+        pDX->PrepareEditCtrl(QV_IDC_INSTALLATION_MACHINE);
+    }
+    pDX->Fail();
+}
+
+CString QVFindInstallationDlg::TypedMachine() const {
+    CString strMachine;
+    GetDlgItemText(QV_IDC_INSTALLATION_MACHINE, strMachine);
+    strMachine.TrimLeft();
+    strMachine.TrimRight();
+    return strMachine;
+}
+
+void QVFindInstallationDlg::OnBrowse() {
+    const qv::WindowWatch watch(m_alive, m_hWnd);
+    QVBrowseDlg dlg(this);
+    dlg.SetPromptString(QV_IDS_BROWSE_INSTALLATION);
+    dlg.SetFolderLocation(CSIDL_NETWORK);
+    dlg.SetBrowseComputers();
+    dlg.SetItemPath(TypedMachine());
+    if (dlg.DoModal() == IDOK && watch) {
+        SetDlgItemText(QV_IDC_INSTALLATION_MACHINE, dlg.GetItemPath());
+    }
+}
+
+void QVFindInstallationDlg::UpdateControls() {
+    m_btnOK.EnableWindow(!TypedMachine().IsEmpty());
+}
