@@ -3,6 +3,7 @@
 
 #include "base/multi_byte.h"
 #include "bench.h"
+#include "common/core/path.h"
 #include "grid/core/grid_model.h"
 #include "print/core/text_wrap.h"
 #include "support/fake_page_items.h"
@@ -11,6 +12,7 @@
 #include "text/core/type_ahead.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <malloc.h>
 #include <memory>
 #include <random>
@@ -379,13 +381,65 @@ void MeasureTypeAhead() {
         }
     };
     const bench::Pair pair =
-        bench::MedianPair([&] { return bench::Time(ours); }, [&] { return bench::Time(theirs); });
+        bench::FastestPair([&] { return bench::Time(ours); }, [&] { return bench::Time(theirs); });
     if (nOurSum != nTheirSum) {
         std::printf("type-ahead and lower_bound find different names\n");
         std::exit(1);
     }
     bench::Figure("edits/speed-find-1m", pair.ours / static_cast<double>(typed.size()) * 1e9, "ns");
     bench::Ratio("edits/speed-find-1m", pair.ours, pair.theirs);
+}
+
+// Paths of five folders and a name are put together and taken apart, beside the standard library's.
+void MeasurePaths() {
+    constexpr std::size_t kParts = 6;
+    const std::vector<std::string> names = RandomTexts(1000);
+    std::mt19937 random(17);
+    std::vector<std::array<const std::string*, kParts>> paths(kMillion);
+    for (auto& path : paths) {
+        for (const std::string*& pName : path) {
+            pName = &names[random() % names.size()];
+        }
+    }
+    const qv::MultiByte text = qv::MultiByte::Utf8();
+    const qv::PathText rules(text, '/');
+    std::size_t nOurBytes = 0;
+    std::size_t nTheirBytes = 0;
+    const auto ours = [&] {
+        nOurBytes = 0;
+        for (const auto& path : paths) {
+            std::string strPath = "/";
+            for (const std::string* pName : path) {
+                rules.Append(strPath, *pName);
+            }
+            std::size_t nPos = 0;
+            for (auto part = rules.Next(strPath, nPos); !part.empty();
+                 part = rules.Next(strPath, nPos)) {
+                nOurBytes += part.size();
+            }
+        }
+    };
+    const auto theirs = [&] {
+        nTheirBytes = 0;
+        for (const auto& path : paths) {
+            std::filesystem::path made = "/";
+            for (const std::string* pName : path) {
+                made /= *pName;
+            }
+            for (const auto& part : made.relative_path()) {
+                nTheirBytes += part.native().size();
+            }
+        }
+    };
+    const bench::Pair pair =
+        bench::FastestPair([&] { return bench::Time(ours); }, [&] { return bench::Time(theirs); });
+    if (nOurBytes != nTheirBytes) {
+        std::printf("both find different components\n");
+        std::exit(1);
+    }
+    bench::Figure("common/path-1m", pair.ours * 1e3, "ms");
+    bench::Figure("std-common/path-1m", pair.theirs * 1e3, "ms");
+    bench::Ratio("common/path-1m", pair.ours, pair.theirs);
 }
 
 }  // namespace
@@ -448,5 +502,6 @@ int main(int argc, char** argv) {
     MeasurePrint();
     MeasureText(log);
     MeasureTypeAhead();
+    MeasurePaths();
     return 0;
 }

@@ -1,5 +1,5 @@
 // The controls in real windows: window_bench [tree | list | grid | text | boxes | buttons |
-// containers]; all without an argument.
+// containers | common | dialogs]; all without an argument.
 
 #include "window_bench.h"
 
@@ -40,6 +40,12 @@ int main(int argc, char** argv) {
     }
     if (asked("containers")) {
         MeasureContainers();
+    }
+    if (asked("common")) {
+        MeasureCommon();
+    }
+    if (asked("dialogs")) {
+        MeasureDialogs();
     }
     return 0;
 }

@@ -45,3 +45,5 @@ void MeasureText();
 void MeasureListBox();
 void MeasureCombo();
 void MeasureContainers();
+void MeasureCommon();
+void MeasureDialogs();
