@@ -55,8 +55,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t nSi
         strText += kWords[input.Byte() % std::size(kWords)];
     }
     std::vector<Package> packages;
-    DatabaseError error;
-    if (ParsePackages(strText, packages, error)) {
+    Problem problem;
+    if (ParsePackages(strText, packages, problem)) {
         Inventory inventory;
         inventory.SetPackages(std::move(packages));
         for (const Section& section : inventory.Sections()) {

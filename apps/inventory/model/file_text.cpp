@@ -1,23 +1,60 @@
 #include "model/file_text.h"
 
-#include <cstdio>
-#include <memory>
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+
+namespace {
+
+// Of the call into the C library that has just failed.
+unsigned long PlatformError() {
+#ifdef _WIN32
+    return _doserrno;
+#else
+    return static_cast<unsigned long>(errno);
+#endif
+}
+
+}  // namespace
+
+FilePieces::FilePieces(const std::string& strPath)
+    : m_strPath(strPath), m_file(std::fopen(strPath.c_str(), "rb"), std::fclose), m_piece(kPiece) {
+    if (m_file == nullptr) {
+        Fail("the file cannot be opened");
+    } else if (std::fseek(m_file.get(), 0, SEEK_END) == 0) {
+        m_nSize = static_cast<std::uint64_t>(std::max(std::ftell(m_file.get()), 0L));
+        std::rewind(m_file.get());
+    }
+}
+
+void FilePieces::Fail(const char* pszMessage) {
+    m_problem = {pszMessage, m_strPath, 0, PlatformError()};
+}
+
+std::string_view FilePieces::Next() {
+    if (m_file == nullptr) {
+        return {};
+    }
+    const size_t nRead = std::fread(m_piece.data(), 1, m_piece.size(), m_file.get());
+    if (nRead == 0 && std::ferror(m_file.get()) != 0) {
+        Fail("the file cannot be read");
+    }
+    return {m_piece.data(), nRead};
+}
 
 FileText ReadFileText(const std::string& strPath, std::size_t nMost) {
-    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(strPath.c_str(), "rb"),
-                                                               std::fclose);
-    std::string strText;
-    bool bRead = file != nullptr;
-    if (bRead) {
-        char buffer[65536];
-        while (const size_t nRead = std::fread(buffer, 1, sizeof(buffer), file.get())) {
-            if (nRead > nMost - strText.size()) {
-                return {"", strPath + " is too large to be shown: it has more than " +
-                                std::to_string(nMost) + " bytes"};
-            }
-            strText.append(buffer, nRead);
+    FilePieces pieces(strPath);
+    FileText text;
+    for (std::string_view piece; !(piece = pieces.Next()).empty();) {
+        if (piece.size() > nMost - text.strText.size()) {
+            return {"",
+                    {"too large to be shown: it has more than " + std::to_string(nMost) + " bytes",
+                     strPath, 0, 0}};
         }
-        bRead = std::ferror(file.get()) == 0;
+        text.strText += piece;
     }
-    return bRead ? FileText{std::move(strText), ""} : FileText{"", strPath + " cannot be read"};
+    if (!pieces.Trouble().strMessage.empty()) {
+        return {"", pieces.Trouble()};
+    }
+    return text;
 }

@@ -2,8 +2,8 @@
 
 #include "model/file_text.h"
 
+#include <algorithm>
 #include <charconv>
-#include <limits>
 
 namespace {
 
@@ -30,31 +30,35 @@ void AppendList(std::string_view value, std::vector<std::string>& list) {
 
 class Parser {
 public:
-    Parser(std::vector<Package>& packages, DatabaseError& error)
-        : m_packages(packages), m_error(error) {}
+    Parser(std::vector<Package>& packages, Problem& problem)
+        : m_packages(packages), m_problem(problem) {}
 
-    bool Parse(std::string_view text) {
-        while (!text.empty()) {
+    // Takes the lines of a text that grows: the text so far, then more of the same, and with bAll
+    // what is behind its last line break as well.
+    bool Parse(std::string_view text, bool bAll) {
+        while (m_nRead < text.size()) {
+            const size_t nEnd = text.find('\n', m_nRead);
+            const bool bCut = nEnd == std::string_view::npos;
+            if (bCut && !bAll && text.size() - m_nRead <= kLongestLine) {
+                return true;
+            }
             ++m_nLine;
-            const size_t nEnd = text.find('\n');
-            const std::string_view line = text.substr(0, nEnd);
-            if (!TakeLine(line)) {
+            if (!TakeLine(text, text.substr(m_nRead, bCut ? nEnd : nEnd - m_nRead))) {
                 return false;
             }
-            text.remove_prefix(nEnd == std::string_view::npos ? text.size() : nEnd + 1);
-            m_pEnd = text.data();
+            m_nRead = bCut ? text.size() : nEnd + 1;
         }
-        return EndStanza();
+        return !bAll || EndStanza(text);
     }
 
 private:
     bool Fail(const char* pszMessage) {
-        m_error = {pszMessage, m_nLine};
+        m_problem = {pszMessage, "", m_nLine};
         m_packages.clear();
         return false;
     }
 
-    bool TakeLine(std::string_view line) {
+    bool TakeLine(std::string_view text, std::string_view line) {
         if (line.size() > kLongestLine) {
             return Fail("the line is longer than a megabyte");
         }
@@ -62,7 +66,7 @@ private:
             return Fail("there is a zero byte");
         }
         if (Trimmed(line).empty()) {
-            return EndStanza();
+            return EndStanza(text);
         }
         if (line[0] == ' ' || line[0] == '\t') {
             return m_bInStanza || Fail("the line continues nothing");
@@ -74,7 +78,7 @@ private:
         }
         if (!m_bInStanza) {
             m_bInStanza = true;
-            m_pStart = line.data();
+            m_nStart = m_nRead;
         }
         return TakeField(line.substr(0, nColon), Trimmed(line.substr(nColon + 1)));
     }
@@ -104,9 +108,9 @@ private:
                 m_package.strState = value;  // the state is fine, but more is wanted or broken
             }
         } else if (name == "Installed-Size") {
-            const auto [pEnd, problem] =
+            const auto [pEnd, outcome] =
                 std::from_chars(value.data(), value.data() + value.size(), m_package.nSizeKiB);
-            if (problem != std::errc() || pEnd != value.data() + value.size() ||
+            if (outcome != std::errc() || pEnd != value.data() + value.size() ||
                 m_package.nSizeKiB < 0) {
                 return Fail("the size is no number");
             }
@@ -114,7 +118,7 @@ private:
         return true;
     }
 
-    bool EndStanza() {
+    bool EndStanza(std::string_view text) {
         if (!m_bInStanza) {
             return true;
         }
@@ -124,7 +128,8 @@ private:
         if (m_package.strSection.empty()) {
             m_package.strSection = "(none)";
         }
-        m_package.pStanza = std::make_shared<const std::string>(m_pStart, m_pEnd);
+        m_package.pStanza =
+            std::make_shared<const std::string>(text.substr(m_nStart, m_nRead - m_nStart));
         m_packages.push_back(std::move(m_package));
         m_package = {};
         m_bInStanza = false;
@@ -132,33 +137,47 @@ private:
     }
 
     std::vector<Package>& m_packages;
-    DatabaseError& m_error;
+    Problem& m_problem;
     Package m_package;
     bool m_bInStanza = false;
-    const char* m_pStart = nullptr;  // of the stanza
-    const char* m_pEnd = nullptr;    // of the line before
+    size_t m_nRead = 0;   // where the line begins that is next
+    size_t m_nStart = 0;  // where the stanza does
     size_t m_nLine = 0;
 };
 
 }  // namespace
 
-bool ParsePackages(std::string_view text, std::vector<Package>& packages, DatabaseError& error) {
+bool ParsePackages(std::string_view text, std::vector<Package>& packages, Problem& problem) {
     packages.clear();
-    return Parser(packages, error).Parse(text);
+    return Parser(packages, problem).Parse(text, true);
 }
 
-bool ReadPackages(const std::string& strPath, std::vector<Package>& packages,
-                  DatabaseError& error) {
+bool ReadPackages(const std::string& strPath, std::vector<Package>& packages, Problem& problem,
+                  const ReadStep& step) {
     packages.clear();
-    const FileText file = ReadFileText(strPath, std::numeric_limits<size_t>::max());
-    if (!file.strProblem.empty()) {
-        error = {file.strProblem, 0};
+    FilePieces pieces(strPath);
+    std::string strText;
+    Parser parser(packages, problem);
+    const auto fail = [&](const Problem& why) {
+        packages.clear();
+        problem = why;
         return false;
-    }
-    if (!ParsePackages(file.strText, packages, error)) {
-        error.strMessage =
-            strPath + ", line " + std::to_string(error.nLine) + ": " + error.strMessage;
-        return false;
+    };
+    for (bool bMore = true; bMore;) {
+        const std::string_view piece = pieces.Next();
+        strText += piece;
+        bMore = !piece.empty();
+        if (!pieces.Trouble().strMessage.empty()) {
+            return fail(pieces.Trouble());
+        }
+        if (bMore && step &&
+            !step(strText.size(), std::max<std::uint64_t>(pieces.Size(), strText.size()))) {
+            return fail({});
+        }
+        if (!parser.Parse(strText, !bMore)) {
+            problem.strFile = strPath;
+            return false;
+        }
     }
     return true;
 }

@@ -10,6 +10,7 @@ struct PackageFilter {
     std::string strArchitecture;  // empty: any
     std::time_t tSince = 0;       // installed then or later; 0: any, also without a date
 
+    bool operator==(const PackageFilter&) const = default;
     bool IsOpen() const;
     bool Shows(const Package& package) const;
 };

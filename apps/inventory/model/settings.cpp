@@ -116,4 +116,9 @@ Settings::Settings()
             "Packages at the start",
             SettingKind::Choice,
             "as they were left",
-            {"as they were left", "all of them"}}}) {}
+            {"as they were left", "all of them"}},
+           {"reports.replace",
+            "A report of that name",
+            SettingKind::Choice,
+            "ask",
+            {"ask", "replace it"}}}) {}

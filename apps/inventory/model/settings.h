@@ -62,7 +62,8 @@ enum SettingIndex {
     kSettingColorUnusual,
     kSettingStartPage,    // its title; empty: the first one
     kSettingStartReport,  // its name; empty: the standard one
-    kSettingStartFilter
+    kSettingStartFilter,
+    kSettingReplace  // 0: a report takes the place of another only if the user says so
 };
 
 class Settings : public KeyedValues {
