@@ -1,10 +1,13 @@
 #include "main_frame.h"
 
+#include "errors.h"
+#include "opening.h"
 #include "resource.h"
 #include "sources/code_page.h"
 #include "sources/install_dates.h"
 #include "sources/registry_source.h"
 #include "sources/settings_file.h"
+#include "work.h"
 
 #include <algorithm>
 
@@ -17,7 +20,11 @@ constexpr char kPackageDatabase[] = "Z:\\var\\lib\\dpkg\\status";
 BEGIN_MESSAGE_MAP(MainFrame, CFrameWnd)
     ON_WM_CREATE()
     ON_WM_SETFOCUS()
+    ON_WM_CLOSE()
+    ON_WM_QUERYENDSESSION()
     ON_COMMAND(ID_RELOAD, OnReload)
+    ON_COMMAND(ID_OPEN_DATABASE, OnOpenDatabase)
+    ON_COMMAND(ID_OPEN_MACHINE, OnOpenMachine)
     ON_COMMAND(ID_PACKAGES_PREVIEW, OnPreview)
     ON_COMMAND(ID_PACKAGES_PRINT, OnPrint)
     ON_UPDATE_COMMAND_UI(ID_INDICATOR_MESSAGE, OnUpdateMessage)
@@ -49,12 +56,10 @@ int MainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct) {
 
 void MainFrame::LoadSettings(const CString& strPath, bool bInteractive) {
     const CString strFile = strPath.IsEmpty() ? UsersSettingsPath() : strPath;
-    const CString strProblem = m_settings.Load(strFile);
-    if (!strProblem.IsEmpty() && bInteractive) {
-        AfxMessageBox(strProblem, MB_ICONEXCLAMATION);
-    }
-    const class Settings& settings = m_settings.Values();
     const CString strFolder = strFile.Left(strFile.ReverseFind('\\') + 1);
+    KeepErrorsIn(strFolder + "inventory.log");
+    TellOrKeep(m_settings.Load(strFile), bInteractive);
+    const class Settings& settings = m_settings.Values();
     UseSettings();
     m_packages.Tree().UseIndentedColumns(settings.Choice(kSettingTreeColumns) == 0);
     m_packages.UseFolder(strFolder);
@@ -73,6 +78,10 @@ void MainFrame::UseSettings() {
 }
 
 BOOL MainFrame::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
+    // Commands that were posted before work began come while it is dispatching.
+    if (nCode == CN_COMMAND && Work::IsRunning()) {
+        return TRUE;
+    }
     return CFrameWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo) ||
            m_desk.OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
 }
@@ -81,41 +90,106 @@ void MainFrame::OnSetFocus(CWnd*) {
     m_pages.SetFocus();
 }
 
-BOOL MainFrame::Open(const CString& strPath, bool bInteractive) {
-    m_strPath = strPath;
-    std::vector<Package> packages;
-    DatabaseError error;
-    CFileStatus status;
-    bool bRead = true;
-    CString strFolder;
-    if (!strPath.IsEmpty() || CFile::GetStatus(kPackageDatabase, status)) {
-        const CString strFile = strPath.IsEmpty() ? CString(kPackageDatabase) : strPath;
-        bRead = ReadPackages(static_cast<LPCTSTR>(strFile), packages, error);
-        ReadInstallDates(strFile, packages);
-        ToProcessCodePage(packages);
-        strFolder = ".\\";
-        if (const int nEnd = std::max(strFile.ReverseFind('\\'), strFile.ReverseFind('/'));
-            nEnd >= 0) {
-            strFolder = strFile.Left(nEnd + 1);
-        }
-        m_settings.ShowDatabase(strFile);
-    } else {
-        packages = ReadUninstallEntries();
-        m_settings.ShowDatabase("the registry's uninstall entries");
+void MainFrame::OnClose() {
+    if (!Work::ClosesLater()) {
+        CFrameWnd::OnClose();
     }
-    m_strProblem = error.strMessage.c_str();
+}
+
+// Work is left before the session is over: nothing half done stays behind.
+BOOL MainFrame::OnQueryEndSession() {
+    Work::Cancel();
+    return CFrameWnd::OnQueryEndSession();
+}
+
+BOOL MainFrame::Open(const CString& strPath, bool bInteractive) {
+    Inventory inventory;
+    Problem problem;
+    CFileStatus status;
+    CString strFile;
+    bool bRead = true;
+    if (!m_bShown) {
+        m_strPath = strPath;  // also what was cancelled can be read again
+    }
+    if (!strPath.IsEmpty() || CFile::GetStatus(kPackageDatabase, status)) {
+        strFile = strPath.IsEmpty() ? CString(kPackageDatabase) : strPath;
+        const Failure pLeft = Work::Run("Reading the packages...", [&](Work& work) {
+            std::vector<Package> packages;
+            bRead = ReadPackages(static_cast<LPCTSTR>(strFile), packages, problem,
+                                 [&](std::uint64_t nDone, std::uint64_t nAll) {
+                                     work.Step(nDone, nAll);
+                                     return true;
+                                 });
+            ReadInstallDates(strFile, packages);
+            ToProcessCodePage(packages);
+            if (bRead || !m_bShown) {
+                work.Say("Showing the packages...");
+                inventory.SetPackages(std::move(packages));
+                m_packages.Prepare(inventory, work);
+            }
+        });
+        if (pLeft != nullptr) {
+            m_pages.Active().Say("Reading the packages was cancelled.");
+            return FALSE;
+        }
+    } else {
+        inventory.SetPackages(ReadUninstallEntries());
+    }
+    if (!bRead) {
+        TellOrKeep(Failed(kErrorOpenInventory, ProblemReason(problem)), bInteractive);
+        if (m_bShown) {
+            return FALSE;
+        }
+    }
+    m_strPath = strPath;
+    m_strProblem = ProblemText(problem).c_str();
+    ShowInventory(std::move(inventory), strFile);
+    return bRead;
+}
+
+// An empty file: the packages come from the registry.
+void MainFrame::ShowInventory(Inventory inventory, const CString& strFile) {
+    const CWaitCursor wait;
+    m_bShown = true;
+    CString strFolder;
+    if (!strFile.IsEmpty()) {
+        const int nEnd = std::max(strFile.ReverseFind('\\'), strFile.ReverseFind('/'));
+        strFolder = nEnd >= 0 ? strFile.Left(nEnd + 1) : CString(".\\");
+    }
+    m_settings.ShowDatabase(strFile.IsEmpty() ? "the registry's uninstall entries" : strFile);
     m_packages.UseDatabase(strFolder);
-    m_inventory.SetPackages(std::move(packages));
+    m_inventory = std::move(inventory);
     m_pages.SetInventory(m_inventory);
     m_desk.SetInventory(m_inventory);
-    if (!bRead && bInteractive) {
-        AfxMessageBox(m_strProblem, MB_ICONEXCLAMATION);
-    }
-    return bRead;
 }
 
 void MainFrame::OnReload() {
     Open(m_strPath, true);
+}
+
+void MainFrame::OnOpenDatabase() {
+    const CString strFile = AskForDatabase(*this);
+    if (!strFile.IsEmpty()) {
+        OpenAnother(strFile);
+    }
+}
+
+void MainFrame::OnOpenMachine() {
+    if (!AskForMachinesFolder(*this, *m_pMachines, m_strMachine, m_strMachinesFolder)) {
+        return;
+    }
+    const CString strFile = DatabaseIn(m_strMachinesFolder);
+    if (strFile.IsEmpty()) {
+        Tell(Failed(kErrorNoInventory, nullptr, m_strMachinesFolder), this);
+    } else {
+        OpenAnother(strFile);
+    }
+}
+
+void MainFrame::OpenAnother(const CString& strFile) {
+    if (Open(strFile, true)) {
+        m_pages.ShowPage(m_packages);
+    }
 }
 
 void MainFrame::OnPreview() {

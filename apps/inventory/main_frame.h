@@ -15,7 +15,8 @@
 
 class MainFrame : public CFrameWnd {
 public:
-    // An empty path: this machine's own inventory.
+    // An empty path: this machine's own inventory. If it cannot be read, or the user cancels, what
+    // is shown stays.
     BOOL Open(const CString& strPath, bool bInteractive);
     PackagesPage& Packages() { return m_packages; }
     ReportPage& Report() { return m_report; }
@@ -26,6 +27,8 @@ public:
     void LoadSettings(const CString& strPath, bool bInteractive);
     // The settings have changed.
     void UseSettings();
+    // How other machines are looked at; the network's own way at first.
+    void UseMachines(QVMachineFolders& folders) { m_pMachines = &folders; }
     PageHost& Pages() { return m_pages; }
     ReportDesk& Desk() { return m_desk; }
     CString StatusText(int nPane) { return m_statusBar.GetPaneText(nPane); }
@@ -36,7 +39,11 @@ protected:
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg void OnClose();
+    afx_msg BOOL OnQueryEndSession();
     afx_msg void OnReload();
+    afx_msg void OnOpenDatabase();
+    afx_msg void OnOpenMachine();
     afx_msg void OnPreview();
     afx_msg void OnPrint();
     afx_msg void OnUpdateMessage(CCmdUI* pCmdUI);
@@ -44,8 +51,15 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    void ShowInventory(Inventory inventory, const CString& strFile);
+    void OpenAnother(const CString& strFile);
+
+    bool m_bShown = false;  // an inventory, be it none for want of a file that can be read
     CString m_strPath;
     CString m_strProblem;
+    CString m_strMachine;         // that was looked at last
+    CString m_strMachinesFolder;  // on it
+    QVMachineFolders* m_pMachines = &QVMachineFolders::Network();
     Inventory m_inventory;
     CStatusBar m_statusBar;
     PackagesPage m_packages;

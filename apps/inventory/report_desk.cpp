@@ -10,12 +10,15 @@
 BEGIN_MESSAGE_MAP(ReportDesk, CCmdTarget)
     ON_COMMAND(ID_REPORT_NEW, OnNew)
     ON_COMMAND(ID_REPORT_EDIT, OnEdit)
+    ON_COMMAND(ID_REPORT_SAVE_AS, OnSaveAs)
+    ON_COMMAND(ID_REPORT_RENAME, OnRename)
     ON_COMMAND(ID_REPORT_DELETE, OnDelete)
     ON_COMMAND(ID_REPORT_STANDARD, OnStandard)
     ON_COMMAND_RANGE(ID_REPORT_FIRST_NAMED, ID_REPORT_LAST_NAMED, OnNamed)
     ON_COMMAND(ID_PREFERENCES, OnPreferences)
     ON_COMMAND(ID_REPORT_SETTINGS, OnPreferences)
     ON_UPDATE_COMMAND_UI(ID_REPORT_EDIT, OnUpdateKept)
+    ON_UPDATE_COMMAND_UI(ID_REPORT_RENAME, OnUpdateKept)
     ON_UPDATE_COMMAND_UI(ID_REPORT_DELETE, OnUpdateKept)
     ON_UPDATE_COMMAND_UI(ID_REPORT_STANDARD, OnUpdateStandard)
     ON_UPDATE_COMMAND_UI_RANGE(ID_REPORT_FIRST_NAMED, ID_REPORT_LAST_NAMED, OnUpdateNamed)
@@ -42,10 +45,7 @@ CMenu* MenuWith(CMenu& menu, UINT nID) {
 
 void ReportDesk::Open(const CString& strFolder, bool bInteractive) {
     m_files.UseFolder(strFolder);
-    const CString strProblem = m_files.Load(m_reports);
-    if (!strProblem.IsEmpty() && bInteractive) {
-        AfxMessageBox(strProblem, MB_ICONEXCLAMATION);
-    }
+    TellOrKeep(m_files.Load(m_reports), bInteractive);
     const Settings& settings = m_frame.Settings().Values();
     const NamedReport* pReport = m_reports.Find(settings.Value(kSettingStartReport));
     m_frame.Report().ShowReport(pReport != nullptr ? pReport->definition
@@ -104,7 +104,10 @@ void ReportDesk::SetUp(const ReportDefinition& report, const std::string& strOld
     if (m_pInventory == nullptr) {
         return;
     }
-    ReportWizard wizard(&m_frame, *m_pInventory, m_reports, report, strOld);
+    ReportWizard wizard(&m_frame, *m_pInventory, report,
+                        [&](CWnd& parent, const std::string& strName) {
+                            return MayTakeName(parent, strName, strOld);
+                        });
     if (wizard.DoModal() != ID_WIZFINISH) {
         return;
     }
@@ -117,17 +120,96 @@ void ReportDesk::SetUp(const ReportDefinition& report, const std::string& strOld
 
 void ReportDesk::Keep(const ReportDefinition& report, const std::string& strOld) {
     const NamedReports::Change change = m_reports.Keep(report, strOld);
-    if (!m_files.Write(report, change.nWrite)) {
-        AfxMessageBox(
-            "The report cannot be written to its file: it is there until the program "
-            "ends.",
-            MB_ICONEXCLAMATION);
+    if (Failure pFailure = m_files.Write(report, change.nWrite)) {
+        Tell(std::move(pFailure));
     } else if (change.nGone != 0) {
-        m_files.Delete(change.nGone);
+        Tell(m_files.Delete(change.nGone));
     }
     StartWith(strOld, report.strName);
     ShowNames();
 }
+
+// --- Names
+
+bool ReportDesk::MayTakeName(CWnd& parent, const std::string& strName, const std::string& strOld) {
+    CString strText;
+    if (!m_reports.CanKeep(strName, strOld)) {
+        strText.Format("No more than %u reports can be kept: delete one, or take its name.",
+                       static_cast<unsigned>(NamedReports::kMost));
+        AfxMessageBox(strText, MB_ICONINFORMATION);
+        return false;
+    }
+    Settings settings = m_frame.Settings().Values();
+    if (strName == strOld || !m_reports.Has(strName) || settings.Choice(kSettingReplace) != 0) {
+        return true;
+    }
+    strText.Format("There is a report \"%s\" already. Is this one to take its place?",
+                   MenuText(strName).GetString());
+    QVMsgBox box(&parent);
+    box.SetTitle("Inventory");
+    box.SetPrompt(strText);
+    box.SetCheckString("&Do not ask again");
+    const bool bReplace = box.DoModal() == IDYES;
+    // Only a Yes is remembered: a No for ever would leave no way to replace a report.
+    if (bReplace && box.CheckState() != 0) {
+        settings.Set(kSettingReplace, settings.All()[kSettingReplace].choices.back());
+        m_frame.Settings().Take(settings);
+    }
+    return bReplace;
+}
+
+bool ReportDesk::AskName(LPCSTR pszTitle, ReportDefinition& report, const std::string& strOld) {
+    QVMsgPromptDlg prompt(&m_frame);
+    prompt.SetTitle(pszTitle);
+    prompt.SetPrompt("Name of the report:");
+    prompt.SetDataLen(kLongestReportName);
+    prompt.SetValue(report.strName.c_str());
+    while (prompt.DoModal() == IDOK) {
+        CString strName = prompt.GetValue();
+        strName.TrimLeft();
+        strName.TrimRight();
+        report.strName = strName;
+        const ReportProblem problem = ProblemOf(report);
+        if (problem.field == ReportField::None) {
+            if (MayTakeName(m_frame, report.strName, strOld)) {
+                return true;
+            }
+            continue;
+        }
+        AfxMessageBox(problem.strMessage.c_str(), MB_ICONINFORMATION);
+        if (problem.field != ReportField::Name) {
+            break;
+        }
+    }
+    return false;
+}
+
+// What is shown, with what was ticked beside it.
+void ReportDesk::OnSaveAs() {
+    ReportDefinition report = m_frame.Report().Shown();
+    if (report.strName.empty()) {
+        report.strName = m_reports.FreeName();
+    }
+    if (AskName("Save the report", report, "")) {
+        Keep(report, "");
+        Show(report);
+    }
+}
+
+void ReportDesk::OnRename() {
+    const NamedReport* pReport = Shown();
+    if (pReport == nullptr) {
+        return;
+    }
+    ReportDefinition report = pReport->definition;
+    const std::string strOld = report.strName;
+    if (AskName("Rename the report", report, strOld) && report.strName != strOld) {
+        Keep(report, strOld);
+        Show(report);
+    }
+}
+
+// --- What goes
 
 void ReportDesk::OnDelete() {
     const NamedReport* pReport = Shown();
@@ -140,7 +222,7 @@ void ReportDesk::OnDelete() {
     if (AfxMessageBox(strText, MB_YESNO | MB_ICONQUESTION) != IDYES) {
         return;
     }
-    m_files.Delete(m_reports.Remove(strName));
+    Tell(m_files.Delete(m_reports.Remove(strName)));
     StartWith(strName, "");
     m_frame.Report().ShowReport(StandardReport(m_frame.Settings().Values()));
     ShowNames();

@@ -22,6 +22,8 @@ public:
 protected:
     afx_msg void OnNew();
     afx_msg void OnEdit();
+    afx_msg void OnSaveAs();
+    afx_msg void OnRename();
     afx_msg void OnDelete();
     afx_msg void OnStandard();
     afx_msg void OnNamed(UINT nID);
@@ -34,6 +36,11 @@ protected:
 private:
     void SetUp(const ReportDefinition& report, const std::string& strOld);
     void Keep(const ReportDefinition& report, const std::string& strOld);
+    // Asks for the name of a report, which takes the place of strOld or stands beside all others.
+    // False: the user does not want to, or it cannot be kept, which is said.
+    bool AskName(LPCSTR pszTitle, ReportDefinition& report, const std::string& strOld);
+    // The same for a name that is given. Asks before another report goes.
+    bool MayTakeName(CWnd& parent, const std::string& strName, const std::string& strOld);
     // Names in the menu, on the page and in the button; the report itself comes to the front.
     void Show(const ReportDefinition& report);
     void ShowNames();

@@ -118,22 +118,18 @@ void DetailsWnd::OnUpdatePrint(CCmdUI* pCmdUI) {
 void DetailsWnd::OnPrint(UINT nID) {
     PrinterChoice printer(this);
     CDC dc;
-    if (printer.Ask(USHRT_MAX, dc) &&
-        !Print(dc, nID == ID_DETAILS_PRINT_ACTIVE, &printer, nullptr)) {
-        AfxMessageBox("The printer did not take the details.", MB_ICONEXCLAMATION);
+    if (printer.Ask(USHRT_MAX, dc)) {
+        Tell(Print(dc, nID == ID_DETAILS_PRINT_ACTIVE, &printer, nullptr), this);
     }
 }
 
-bool DetailsWnd::PrintToFile(LPCSTR pszOutput, bool bActiveOnly) {
+Failure DetailsWnd::PrintToFile(LPCSTR pszOutput, bool bActiveOnly) {
     CDC dc;
-    if (!OpenDefaultPrinter(this, dc)) {
-        m_owner.Say("There is no printer to print on.");
-        return false;
-    }
-    return Print(dc, bActiveOnly, nullptr, pszOutput);
+    Failure pFailure = OpenDefaultPrinter(this, dc);
+    return pFailure != nullptr ? std::move(pFailure) : Print(dc, bActiveOnly, nullptr, pszOutput);
 }
 
-bool DetailsWnd::Print(CDC& dc, bool bActiveOnly, PrinterChoice* pPrinter, LPCSTR pszOutput) {
+Failure DetailsWnd::Print(CDC& dc, bool bActiveOnly, PrinterChoice* pPrinter, LPCSTR pszOutput) {
     const CWaitCursor wait;
     TakeNext();
     CFont fontNormal;
@@ -153,20 +149,20 @@ bool DetailsWnd::Print(CDC& dc, bool bActiveOnly, PrinterChoice* pPrinter, LPCST
     const unsigned nFirst = pPrinter != nullptr ? pPrinter->FirstPage() : 1;
     const unsigned nLast = std::min(pPrinter != nullptr ? pPrinter->LastPage() : nPages, nPages);
     const int nLine = dc.GetDeviceCaps(LOGPIXELSY) / 4;
-    const bool bPrinted =
-        engine.IsComplete() &&
-        PrintJob(dc, "Details", nFirst, nLast, pszOutput, [&](unsigned nPage) {
-            engine.PrintPage(&dc, rc, nPage);
-            const qv::SelectGuard select(dc, &fontNormal);
-            CString strFooter;
-            strFooter.Format("%s, page %u of %u", Shows().c_str(), nPage, nPages);
-            CRect rcFooter(rc.left, rc.bottom + nLine, rc.right, rc.bottom + 2 * nLine);
-            dc.DrawText(strFooter, &rcFooter, DT_SINGLELINE | DT_NOPREFIX | DT_CENTER);
-        });
-    CString strSaid("The printer did not take the details.");
-    if (bPrinted) {
-        strSaid = ("Details printed: " + CountText(nLast - nFirst + 1, "page")).c_str();
-    }
-    m_owner.Say(strSaid);
-    return bPrinted;
+    const auto printPage = [&](unsigned nPage) {
+        engine.PrintPage(&dc, rc, nPage);
+        const qv::SelectGuard select(dc, &fontNormal);
+        CString strFooter;
+        strFooter.Format("%s, page %u of %u", Shows().c_str(), nPage, nPages);
+        CRect rcFooter(rc.left, rc.bottom + nLine, rc.right, rc.bottom + 2 * nLine);
+        dc.DrawText(strFooter, &rcFooter, DT_SINGLELINE | DT_NOPREFIX | DT_CENTER);
+    };
+    Failure pFailure = Work::Run("Printing the details...", [&](Work& work) {
+        if (!engine.IsComplete()) {
+            throw Failed(kErrorPrint, std::make_unique<QVStatus>(QVStatus::outOfMemory)).release();
+        }
+        PrintJob(work, dc, "Details", nFirst, nLast, pszOutput, printPage);
+    });
+    m_owner.Say("Details: " + PrintedText(pFailure, nLast - nFirst + 1));
+    return pFailure;
 }

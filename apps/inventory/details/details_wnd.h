@@ -4,6 +4,7 @@
 #pragma once
 
 #include "details/details_page.h"
+#include "errors.h"
 #include "pages/browser_owner.h"
 
 class DetailsWnd : public QVTabWnd {
@@ -21,9 +22,9 @@ public:
     // Enter, somewhere in the details.
     void GoToTarget();
 
-    // On the default printer, without a question. pszOutput: a file that the job goes to. False,
-    // with the reason said, if it fails.
-    bool PrintToFile(LPCSTR pszOutput, bool bActiveOnly);
+    // On the default printer, without a question. pszOutput: a file that the job goes to. Null,
+    // here as below, where all went well.
+    Failure PrintToFile(LPCSTR pszOutput, bool bActiveOnly);
 
 protected:
     void AddTabPages() override;
@@ -43,7 +44,7 @@ private:
     void TakeNext();
     DetailsPage* Active();
     // pPrinter, unless null, says which pages.
-    bool Print(CDC& dc, bool bActiveOnly, class PrinterChoice* pPrinter, LPCSTR pszOutput);
+    Failure Print(CDC& dc, bool bActiveOnly, class PrinterChoice* pPrinter, LPCSTR pszOutput);
 
     BrowserOwner& m_owner;
     DetailsSource m_source;

@@ -1,5 +1,6 @@
 #include "details/files_page.h"
 
+#include "errors.h"
 #include "model/file_text.h"
 #include "model/stanza.h"
 #include "sources/code_page.h"
@@ -39,7 +40,10 @@ CString FilesPage::Read() {
                           m_source.package.strName.c_str());
     } else {
         const FileText text = ReadFileText(strList);
-        strProblem = text.strProblem.c_str();
+        if (!text.WasRead()) {
+            strProblem = ProblemText(text.problem).c_str();
+            Keep(Failed(kErrorReadPackageFile, ProblemReason(text.problem)));
+        }
         for (const std::string_view line : Lines(text.strText)) {
             // "/." is how a list begins.
             if (!line.empty() && line != "/.") {

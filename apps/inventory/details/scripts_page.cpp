@@ -1,5 +1,6 @@
 #include "details/scripts_page.h"
 
+#include "errors.h"
 #include "model/file_text.h"
 #include "model/stanza.h"
 
@@ -61,8 +62,9 @@ CString ScriptsPage::Read() {
     }
     ForEachScript([this](const CString& strHeading, const FileText& text) {
         m_text.AddText(strHeading, m_nHeading);
-        if (!text.strProblem.empty()) {
-            m_text.AddText(text.strProblem.c_str(), m_nTrouble);
+        if (!text.WasRead()) {
+            m_text.AddText(ProblemText(text.problem).c_str(), m_nTrouble);
+            Keep(Failed(kErrorReadPackageFile, ProblemReason(text.problem)));
         }
         for (const std::string_view line : Lines(text.strText)) {
             const bool bComment = line.substr(0, line.find_first_not_of(" \t") + 1).ends_with('#');
@@ -83,8 +85,8 @@ void ScriptsPage::Print(CDC& dc, QVPrintEngine& engine) {
         engine.AddBreak();
         engine.AddHeader(strHeading, &dc);
         CStringArray lines;
-        if (!text.strProblem.empty()) {
-            lines.Add(text.strProblem.c_str());
+        if (!text.WasRead()) {
+            lines.Add(ProblemText(text.problem).c_str());
         }
         for (const std::string_view line : Lines(text.strText)) {
             lines.Add(ShownLine(line));

@@ -1,6 +1,6 @@
 #include "dialogs/export_dialog.h"
 
-#include <afxdlgs.h>
+#include "QVControls.h"
 
 BEGIN_MESSAGE_MAP(ExportDialog, CDialog)
     ON_COMMAND(IDC_EXPORT_BROWSE, OnBrowse)
@@ -25,8 +25,11 @@ void ExportDialog::DoDataExchange(CDataExchange* pDX) {
 }
 
 void ExportDialog::OnBrowse() {
-    CFileDialog dialog(FALSE, "txt", nullptr, OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
-                       "Text files|*.txt|All files|*.*||", this);
+    CString strPath;
+    GetDlgItemText(IDC_EXPORT_PATH, strPath);
+    QVFileDialogEx dialog(FALSE, "txt", strPath, OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
+                          "Text files|*.txt|All files|*.*||", this);
+    dialog.SetDlgTitle(IDS_LIST_FILE);
     if (dialog.DoModal() == IDOK) {
         SetDlgItemText(IDC_EXPORT_PATH, dialog.GetPathName());
     }

@@ -62,6 +62,7 @@ void ReportPreferences::Offer() {
     m_paper.SetTextList(strPapers);
     m_paper.Initialize(IDC_REPORT_PAPER, this);
     m_paper.SetWindowText(m_settings.Value(kSettingPaper).c_str());
+    Tick(*this, IDC_REPORT_ASK, m_settings.Choice(kSettingReplace) == 0);
     UINT nID = IDC_REPORT_FIRST_MARGIN;
     for (const double margin : ReadMargins(m_settings.Value(kSettingMargins))) {
         SetDlgItemText(static_cast<int>(nID++), MarginText(margin).c_str());
@@ -85,6 +86,8 @@ UINT ReportPreferences::Take(Settings& settings) {
     CString strPackages;
     m_packages.GetItemString(m_packages.GetCurSel(), strPackages);
     settings.Set(kSettingPackages, std::string(strPackages));
+    const size_t nReplace = IsTicked(*this, IDC_REPORT_ASK) ? 0 : 1;
+    settings.Set(kSettingReplace, std::string(settings.All()[kSettingReplace].choices[nReplace]));
     return 0;
 }
 

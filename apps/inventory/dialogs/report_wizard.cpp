@@ -1,12 +1,11 @@
 #include "dialogs/report_wizard.h"
 
-ReportWizard::ReportWizard(CWnd* pParent, const Inventory& inventory, const NamedReports& reports,
-                           const ReportDefinition& report, const std::string& strOld)
+ReportWizard::ReportWizard(CWnd* pParent, const Inventory& inventory,
+                           const ReportDefinition& report, MayTakeName mayTakeName)
     : QVWizard("Report", pParent, 0, nullptr, nullptr, nullptr),
       m_inventory(inventory),
-      m_reports(reports),
       m_atFirst(report),
-      m_strOld(strOld),
+      m_mayTakeName(std::move(mayTakeName)),
       m_report(report),
       m_what(*this),
       m_columns(*this),
@@ -40,36 +39,18 @@ void ReportWizard::FitWay() {
     m_order.SetPrevPageID(bColumns ? 0 : IDD_REPORT_WHAT);
 }
 
-ReportProblem ReportWizard::ProblemOfName() const {
-    CString strText;
-    if (!m_reports.CanKeep(m_report.strName, m_strOld)) {
-        strText.Format("No more than %u reports can be kept: delete one, or take its name.",
-                       static_cast<unsigned>(NamedReports::kMost));
-        AfxMessageBox(strText, MB_ICONINFORMATION);
-        return {ReportField::Name, ""};
-    }
-    if (m_report.strName != m_strOld && m_reports.Has(m_report.strName)) {
-        strText.Format("There is a report \"%s\" already. Is this one to take its place?",
-                       m_report.strName.c_str());
-        if (AfxMessageBox(strText, MB_YESNO | MB_ICONQUESTION) != IDYES) {
-            return {ReportField::Name, ""};
-        }
-    }
-    return {ReportField::None, ""};
-}
-
 bool ReportWizard::CanFinish(ReportStep& step) {
-    ReportProblem problem = ProblemOf(m_report);
-    if (problem.field == ReportField::None) {
-        problem = ProblemOfName();
-    } else {
+    const ReportProblem problem = ProblemOf(m_report);
+    if (problem.field != ReportField::None) {
         AfxMessageBox(problem.strMessage.c_str(), MB_ICONINFORMATION);
+        GoTo(step, problem.field);
+        return false;
     }
-    if (problem.field == ReportField::None) {
-        return true;
+    if (!m_mayTakeName(*this, m_report.strName)) {
+        GoTo(step, ReportField::Name);
+        return false;
     }
-    GoTo(step, problem.field);
-    return false;
+    return true;
 }
 
 void ReportWizard::GoTo(ReportStep& from, ReportField field) {

@@ -4,14 +4,17 @@
 #pragma once
 
 #include "dialogs/report_steps.h"
-#include "model/named_reports.h"
+
+#include <functional>
 
 class ReportWizard : public QVWizard, private ReportStepOwner {
 public:
-    // Begins with a report, which has a name; strOld: that of the kept report which it is to
-    // replace, empty for none.
-    ReportWizard(CWnd* pParent, const Inventory& inventory, const NamedReports& reports,
-                 const ReportDefinition& report, const std::string& strOld);
+    // Says why not, above a window, where a report cannot be kept under a name.
+    using MayTakeName = std::function<bool(CWnd&, const std::string&)>;
+
+    // Begins with a report, which has a name.
+    ReportWizard(CWnd* pParent, const Inventory& inventory, const ReportDefinition& report,
+                 MayTakeName mayTakeName);
 
     // What was made, once the wizard has finished.
     const ReportDefinition& Result() const { return m_report; }
@@ -29,12 +32,10 @@ private:
     ReportField TakeWanted() override;
 
     void GoTo(ReportStep& from, ReportField field);
-    ReportProblem ProblemOfName() const;
 
     const Inventory& m_inventory;
-    const NamedReports& m_reports;
     const ReportDefinition m_atFirst;
-    const std::string m_strOld;
+    const MayTakeName m_mayTakeName;
     ReportDefinition m_report;
     ReportField m_wanted = ReportField::None;  // where the focus goes in the step that comes up
     WhatStep m_what;

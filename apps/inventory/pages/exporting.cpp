@@ -1,49 +1,52 @@
 #include "pages/exporting.h"
 
 #include "dialogs/export_dialog.h"
+#include "sources/new_file.h"
 
 namespace {
 
-// Empty: it is written.
-CString ProblemOf(LPCSTR pszPath, char chSeparator,
-                  const std::function<BOOL(LPCSTR, char)>& write) {
-    const CWaitCursor wait;
-    CString strProblem;
-    try {
-        if (!write(pszPath, chSeparator)) {
-            strProblem.Format("%s cannot be opened for writing.", pszPath);
+Failure WriteList(LPCSTR pszPath, char chSeparator, const Exporter::Write& write) {
+    return Work::Run("Writing the list...", [&](Work& work) {
+        NewFile file(pszPath);
+        ::SetLastError(NO_ERROR);
+        try {
+            if (!write(file.Path(), chSeparator, work) || !file.PutInPlace()) {
+                Failure pReason = SystemReason(::GetLastError(), pszPath);
+                throw Failed(kErrorExport, std::move(pReason), pszPath).release();
+            }
+        } catch (CFileException* pException) {
+            pException->m_strFileName = pszPath;  // not the one beside it
+            throw Failed(kErrorExport, FileReason(pException), pszPath).release();
         }
-    } catch (CFileException* pException) {
-        char szReason[256];
-        pException->GetErrorMessage(szReason, sizeof(szReason));
-        pException->Delete();
-        ::DeleteFile(pszPath);
-        strProblem.Format("The list could not be written to %s: %s", pszPath, szReason);
-    }
-    return strProblem;
+    });
 }
 
 }  // namespace
 
-bool Exporter::Run(CWnd& parent, LPCSTR pszName, const std::function<BOOL(LPCSTR, char)>& write) {
-    ExportDialog dialog(&parent);
+bool Exporter::Run(Page& page, LPCSTR pszName, const Write& write) {
+    ExportDialog dialog(&page);
     dialog.m_strPath = m_strPath;
     if (m_pSettings != nullptr) {
         dialog.m_nSeparator = m_pSettings->Choice(kSettingSeparator);
         const CString strFolder = m_pSettings->Value(kSettingExportFolder).c_str();
         if (m_strPath.IsEmpty() && !strFolder.IsEmpty()) {
             const CString strName = m_pSettings->Value(kSettingExportName).c_str();
-            dialog.m_strPath = strFolder + "\\" + (pszName != nullptr ? CString(pszName) : strName);
+            QVPath path(strFolder);
+            path.Append(pszName != nullptr ? pszName : static_cast<LPCSTR>(strName));
+            dialog.m_strPath = path.GetPath();
         }
     }
     if (dialog.DoModal() != IDOK) {
         return false;
     }
-    const CString strProblem = ProblemOf(dialog.m_strPath, dialog.Separator(), write);
-    if (!strProblem.IsEmpty()) {
-        AfxMessageBox(strProblem, MB_ICONEXCLAMATION);
-        return false;
+    Failure pFailure = WriteList(dialog.m_strPath, dialog.Separator(), write);
+    const bool bWritten = pFailure == nullptr;
+    if (bWritten) {
+        m_strPath = dialog.m_strPath;
     }
-    m_strPath = dialog.m_strPath;
-    return true;
+    if (WasCancelled(pFailure)) {
+        page.Say("Writing the list was cancelled.");
+    }
+    Tell(std::move(pFailure), &page);
+    return bWritten;
 }

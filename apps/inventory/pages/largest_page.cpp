@@ -104,7 +104,8 @@ CString LargestPage::MarkedText() {
 }
 
 void LargestPage::OnExport() {
-    const auto write = [this](LPCSTR pszPath, char chSeparator) {
+    // A few rows: too short to be cancelled.
+    const auto write = [this](LPCSTR pszPath, char chSeparator, Work&) {
         return m_list.ExportData(pszPath, chSeparator);
     };
     if (m_exporter.Run(*this, "largest.txt", write)) {
@@ -118,31 +119,27 @@ void LargestPage::OnExport() {
 void LargestPage::OnPrint() {
     PrinterChoice printer(this);
     CDC dc;
-    if (printer.Ask(USHRT_MAX, dc) && !Print(dc, &printer, nullptr)) {
-        AfxMessageBox(m_strMessage, MB_ICONEXCLAMATION);
+    if (printer.Ask(USHRT_MAX, dc)) {
+        Tell(Print(dc, &printer, nullptr), this);
     }
 }
 
-bool LargestPage::PrintToFile(LPCSTR pszOutput) {
+Failure LargestPage::PrintToFile(LPCSTR pszOutput) {
     CDC dc;
-    if (!OpenDefaultPrinter(this, dc)) {
-        m_strMessage = "There is no printer to print on.";
-        return false;
-    }
-    return Print(dc, nullptr, pszOutput);
+    Failure pFailure = OpenDefaultPrinter(this, dc);
+    return pFailure != nullptr ? std::move(pFailure) : Print(dc, nullptr, pszOutput);
 }
 
-bool LargestPage::Print(CDC& dc, PrinterChoice* pPrinter, LPCSTR pszOutput) {
+Failure LargestPage::Print(CDC& dc, PrinterChoice* pPrinter, LPCSTR pszOutput) {
     const CWaitCursor wait;
     PrintRun run(m_list, dc);
     const unsigned nFirst = pPrinter != nullptr ? pPrinter->FirstPage() : 1;
     const unsigned nLast =
         std::min(pPrinter != nullptr ? pPrinter->LastPage() : run.Pages(), run.Pages());
-    if (!PrintJob(dc, "Largest packages", nFirst, nLast, pszOutput,
-                  [&](unsigned nPage) { run.PrintPage(nPage); })) {
-        m_strMessage = "The printer did not take the list.";
-        return false;
-    }
-    m_strMessage = (CountText(nLast - nFirst + 1, "page") + " printed").c_str();
-    return true;
+    Failure pFailure = Work::Run("Printing the list...", [&](Work& work) {
+        PrintJob(work, dc, "Largest packages", nFirst, nLast, pszOutput,
+                 [&](unsigned nPage) { run.PrintPage(nPage); });
+    });
+    m_strMessage = PrintedText(pFailure, nLast - nFirst + 1);
+    return pFailure;
 }

@@ -16,9 +16,9 @@ public:
     LargestList& List() { return m_list; }
     // What the export dialog starts with.
     void UseSettings(const Settings& settings) { m_exporter.UseSettings(settings); }
-    // On the default printer, without a question. pszOutput: a file that the job goes to. False,
-    // with the reason in the page's message, if it fails.
-    bool PrintToFile(LPCSTR pszOutput);
+    // On the default printer, without a question. pszOutput: a file that the job goes to. Null,
+    // here as below, where all went well.
+    Failure PrintToFile(LPCSTR pszOutput);
 
 protected:
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
@@ -31,7 +31,7 @@ protected:
 
 private:
     // pPrinter, unless null, says which pages.
-    bool Print(CDC& dc, class PrinterChoice* pPrinter, LPCSTR pszOutput);
+    Failure Print(CDC& dc, class PrinterChoice* pPrinter, LPCSTR pszOutput);
 
     LargestList m_list;
     Exporter m_exporter;

@@ -2,8 +2,9 @@
 
 #include "pages/printing.h"
 #include "resource.h"
+#include "sources/new_file.h"
 
-#include <afxdlgs.h>
+#include <algorithm>
 
 namespace {
 
@@ -12,6 +13,8 @@ constexpr char kRightLog[] = "Z:\\var\\log\\apt\\history.log";
 constexpr UINT_PTR kFollowTimer = 1;
 constexpr UINT kFollowPeriod = 1000;  // milliseconds
 constexpr int kGap = 4;
+constexpr int kButtonWidth = 170;
+constexpr int kButtonHeight = 22;
 constexpr int kPrintPoints = 7;
 constexpr double kMarginInch = 0.8;
 
@@ -22,6 +25,7 @@ BEGIN_MESSAGE_MAP(LogPage, Page)
     ON_WM_SIZE()
     ON_WM_TIMER()
     ON_COMMAND(ID_LOG_OPEN, OnOpen)
+    ON_COMMAND(ID_LOG_APPLICATION, OnApplication)
     ON_COMMAND(ID_LOG_COPY, OnCopy)
     ON_COMMAND(ID_LOG_EXPORT, OnExport)
     ON_COMMAND(ID_LOG_PRINT, OnPrint)
@@ -36,9 +40,15 @@ int LogPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     constexpr DWORD kStyle = WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN;
     if (Page::OnCreate(lpCreateStruct) == -1 ||
         !m_left.Create(kStyle, rcNone, this, IDC_LOG_LEFT) ||
-        !m_right.Create(kStyle, rcNone, this, IDC_LOG_RIGHT)) {
+        !m_right.Create(kStyle, rcNone, this, IDC_LOG_RIGHT) ||
+        !m_btnOpen.Create("Open a log...", WS_CHILD | WS_VISIBLE | WS_TABSTOP, rcNone, this,
+                          ID_LOG_OPEN) ||
+        !m_btnApplication.Create("The application's own log", WS_CHILD | WS_VISIBLE | WS_TABSTOP,
+                                 rcNone, this, ID_LOG_APPLICATION)) {
         return -1;
     }
+    m_btnOpen.SetFont(&m_font);
+    m_btnApplication.SetFont(&m_font);
     Pair();
     return 0;
 }
@@ -52,12 +62,13 @@ void LogPage::Pair() {
 void LogPage::OnShown() {
     if (!m_bOpened) {
         m_bOpened = true;
+        // Not every machine has these: the captions say so.
         m_left.Open(kLeftLog);
         m_right.Open(kRightLog);
     }
 }
 
-bool LogPage::Open(const CString& strPath) {
+Failure LogPage::Open(const CString& strPath) {
     return m_left.Open(strPath);
 }
 
@@ -69,10 +80,18 @@ void LogPage::OnSize(UINT nType, int cx, int cy) {
 void LogPage::LayOut() {
     CRect rc;
     GetClientRect(&rc);
+    // Room for the words in any size of the system's fonts.
+    const int nDpi = CClientDC(this).GetDeviceCaps(LOGPIXELSX);
+    const int nButton = ::MulDiv(kButtonWidth, nDpi, 96);
+    const int nHigh = ::MulDiv(kButtonHeight, nDpi, 96);
+    m_btnOpen.MoveWindow(kGap, kGap, nButton, nHigh);
+    m_btnApplication.MoveWindow(nButton + 2 * kGap, kGap, nButton, nHigh);
+    const int nTop = nHigh + 2 * kGap;
+    const int nHeight = std::max(rc.Height() - nTop, 0);
     const int nLeft = m_bBoth ? rc.Width() / 2 : rc.Width();
     m_right.ShowWindow(m_bBoth ? SW_SHOW : SW_HIDE);
-    m_left.MoveWindow(0, 0, nLeft - (m_bBoth ? kGap : 0), rc.Height());
-    m_right.MoveWindow(nLeft, 0, rc.Width() - nLeft, rc.Height());
+    m_left.MoveWindow(0, nTop, nLeft - (m_bBoth ? kGap : 0), nHeight);
+    m_right.MoveWindow(nLeft, nTop, rc.Width() - nLeft, nHeight);
 }
 
 CString LogPage::MarkedText() {
@@ -85,10 +104,23 @@ CString LogPage::MarkedText() {
 // --- Commands
 
 void LogPage::OnOpen() {
-    CFileDialog dialog(TRUE, "log", nullptr, OFN_HIDEREADONLY | OFN_FILEMUSTEXIST,
-                       "Logs|*.log;*.txt|All files|*.*||", this);
-    if (dialog.DoModal() == IDOK && !Open(dialog.GetPathName())) {
-        m_strMessage.Format("%s cannot be read", static_cast<LPCTSTR>(dialog.GetPathName()));
+    QVFileDialogEx dialog(TRUE, "log", nullptr, OFN_HIDEREADONLY | OFN_FILEMUSTEXIST,
+                          "Logs|*.log;*.txt|All files|*.*||", this);
+    dialog.SetDlgTitle(IDS_OPEN_LOG);
+    dialog.SetOkButtonText(IDS_SHOW);
+    if (dialog.DoModal() == IDOK) {
+        Tell(Open(dialog.GetPathName()), this);
+    }
+}
+
+void LogPage::OnApplication() {
+    // No error yet, no log.
+    CFileStatus status;
+    if (CFile::GetStatus(ErrorLogPath(), status)) {
+        Tell(Open(ErrorLogPath()), this);
+        m_left.ShowEnd();
+    } else {
+        m_strMessage = "No error has been kept in the application's log.";
     }
 }
 
@@ -98,26 +130,26 @@ void LogPage::OnCopy() {
         m_left.GetTextWnd().NumLines());
 }
 
-bool LogPage::Export(LPCSTR pszPath) {
+Failure LogPage::Export(LPCSTR pszPath) {
+    NewFile file(pszPath);
+    ::SetLastError(NO_ERROR);
     try {
-        if (m_left.GetTextWnd().ExportData(pszPath)) {
+        if (m_left.GetTextWnd().ExportData(file.Path()) && file.PutInPlace()) {
             m_strMessage.Format("%d lines written to %s", m_left.GetTextWnd().NumLines(), pszPath);
-            return true;
+            return nullptr;
         }
-        m_strMessage.Format("%s cannot be opened for writing", pszPath);
+        return Failed(kErrorExportLog, SystemReason(::GetLastError(), pszPath), pszPath);
     } catch (CFileException* pException) {
-        pException->Delete();
-        ::DeleteFile(pszPath);  // half a log would look like a whole one
-        m_strMessage.Format("The log could not be written to %s", pszPath);
+        return Failed(kErrorExportLog, FileReason(pException), pszPath);
     }
-    return false;
 }
 
 void LogPage::OnExport() {
-    CFileDialog dialog(FALSE, "txt", nullptr, OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
-                       "Text files|*.txt|All files|*.*||", this);
-    if (dialog.DoModal() == IDOK && !Export(dialog.GetPathName())) {
-        AfxMessageBox(m_strMessage, MB_ICONEXCLAMATION);
+    QVFileDialogEx dialog(FALSE, "txt", nullptr, OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
+                          "Text files|*.txt|All files|*.*||", this);
+    dialog.SetDlgTitle(IDS_EXPORT_LOG);
+    if (dialog.DoModal() == IDOK) {
+        Tell(Export(dialog.GetPathName()), this);
     }
 }
 
@@ -156,22 +188,18 @@ void LogPage::OnPrint() {
     PrinterChoice printer(this);
     CDC dc;
     constexpr unsigned kMostPages = 9999;
-    if (printer.Ask(kMostPages, dc) &&
-        !Print(dc, printer.FirstPage(), printer.LastPage(), nullptr)) {
-        AfxMessageBox(m_strMessage, MB_ICONEXCLAMATION);
+    if (printer.Ask(kMostPages, dc)) {
+        Tell(Print(dc, printer.FirstPage(), printer.LastPage(), nullptr), this);
     }
 }
 
-bool LogPage::PrintToFile(LPCSTR pszOutput, unsigned nFirst, unsigned nLast) {
+Failure LogPage::PrintToFile(LPCSTR pszOutput, unsigned nFirst, unsigned nLast) {
     CDC dc;
-    if (!OpenDefaultPrinter(this, dc)) {
-        m_strMessage = "There is no printer to print on.";
-        return false;
-    }
-    return Print(dc, nFirst, nLast, pszOutput);
+    Failure pFailure = OpenDefaultPrinter(this, dc);
+    return pFailure != nullptr ? std::move(pFailure) : Print(dc, nFirst, nLast, pszOutput);
 }
 
-bool LogPage::Print(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutput) {
+Failure LogPage::Print(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutput) {
     const CWaitCursor wait;
     CFont font;
     MakePrintFont(font, dc, kPrintPoints, FW_NORMAL);
@@ -189,21 +217,24 @@ bool LogPage::Print(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutput) 
     QVTextWnd& left = m_left.GetTextWnd();
     left.FormatText(&dc, rcLeft.Size());
     const auto nPages = static_cast<unsigned>(left.NumPages());
-    const bool bPrinted =
-        PrintJob(dc, "Log", nFirst, std::min(nLast, nPages), pszOutput, [&](unsigned nPage) {
-            // A page of a printer begins with the device's own font.
-            const qv::SelectGuard selectForPage(dc, &font);
-            PrintColumn(dc, nPage, left, rcLeft);
-            if (m_bBoth) {
-                PrintColumn(dc, nPage, m_right.GetTextWnd(), rcRight);
-            }
-            CString strFooter;
-            strFooter.Format("Page %u of %u", nPage, nPages);
-            CRect rcFooter(rc.left, rc.bottom, rc.right, rc.bottom + nGap);
-            dc.DrawText(strFooter, &rcFooter, DT_SINGLELINE | DT_CENTER | DT_BOTTOM);
-        });
-    m_strMessage = bPrinted ? "The log was printed." : "The printer did not take the log.";
-    return bPrinted;
+    const auto printPage = [&](unsigned nPage) {
+        // A page of a printer begins with the device's own font.
+        const qv::SelectGuard selectForPage(dc, &font);
+        PrintColumn(dc, nPage, left, rcLeft);
+        if (m_bBoth) {
+            PrintColumn(dc, nPage, m_right.GetTextWnd(), rcRight);
+        }
+        CString strFooter;
+        strFooter.Format("Page %u of %u", nPage, nPages);
+        CRect rcFooter(rc.left, rc.bottom, rc.right, rc.bottom + nGap);
+        dc.DrawText(strFooter, &rcFooter, DT_SINGLELINE | DT_CENTER | DT_BOTTOM);
+    };
+    nLast = std::min(nLast, nPages);
+    Failure pFailure = Work::Run("Printing the log...", [&](Work& work) {
+        PrintJob(work, dc, "Log", nFirst, nLast, pszOutput, printPage);
+    });
+    m_strMessage = PrintedText(pFailure, nLast - nFirst + 1);
+    return pFailure;
 }
 
 void LogPage::PrintColumn(CDC& dc, unsigned nPage, QVTextWnd& text, const CRect& rc) {

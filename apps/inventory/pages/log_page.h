@@ -1,4 +1,5 @@
-// LogPage: the package manager's own logs, two side by side that scroll together.
+// LogPage: the package manager's own logs, two side by side that scroll together. In the place of
+// the left one comes any other, as that of the application's own errors.
 
 #pragma once
 
@@ -15,18 +16,20 @@ public:
 
     LogView& Left() { return m_left; }
     LogView& Right() { return m_right; }
-    // Prints both level, side by side, on pages nFirst to nLast.
-    bool Print(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutput);
-    bool PrintToFile(LPCSTR pszOutput, unsigned nFirst, unsigned nLast);
+    // Prints both level, side by side, on pages nFirst to nLast. Null, here as below, where all
+    // went well.
+    Failure Print(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutput);
+    Failure PrintToFile(LPCSTR pszOutput, unsigned nFirst, unsigned nLast);
     // Another file on the left.
-    bool Open(const CString& strPath);
-    bool Export(LPCSTR pszPath);
+    Failure Open(const CString& strPath);
+    Failure Export(LPCSTR pszPath);
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnTimer(UINT_PTR nTimer);
     afx_msg void OnOpen();
+    afx_msg void OnApplication();
     afx_msg void OnCopy();
     afx_msg void OnExport();
     afx_msg void OnPrint();
@@ -41,6 +44,8 @@ private:
     void Pair();
     void PrintColumn(CDC& dc, unsigned nPage, QVTextWnd& text, const CRect& rc);
 
+    CButton m_btnOpen;
+    CButton m_btnApplication;
     LogView m_left;
     LogView m_right;
     bool m_bBoth = true;

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-bool LogView::Open(const CString& strPath) {
+Failure LogView::Open(const CString& strPath) {
     m_strPath = strPath;
     m_nRead = 0;
     QVTextWnd& text = GetTextWnd();
@@ -14,27 +14,26 @@ bool LogView::Open(const CString& strPath) {
     }
     const CWaitCursor wait;
     text.ClearTextData();
-    const int nLines = AddLines(true);
+    Failure pReason;
+    AddLines(true, pReason);
     text.CalcLayout();
-    SetHeaderText(nLines >= 0 ? strPath : strPath + " - cannot be read");
-    return nLines >= 0;
+    SetHeaderText(pReason == nullptr ? strPath : strPath + " - cannot be read");
+    return pReason != nullptr ? Failed(kErrorOpenLog, std::move(pReason)) : nullptr;
 }
 
 int LogView::StyleOf(const CString& strLine) const {
     const auto has = [&](LPCSTR psz) { return strLine.Find(psz) >= 0; };
-    if (has(" error") || has("Error:") || has("failed")) {
+    const bool bOwn = strLine.Left(4) == "=== " && has(" Error ");
+    if (bOwn || has(" error") || has("Error:") || has("failed")) {
         return m_nTrouble;
     }
     return has(" remove ") || has(" purge ") || has("Remove:") || has("Purge:") ? m_nRemoval : 0;
 }
 
-int LogView::AddLines(bool bAll) {
+int LogView::AddLines(bool bAll, Failure& pReason) {
     int nLines = 0;
     try {
-        CFile file;
-        if (!file.Open(m_strPath, CFile::modeRead | CFile::shareDenyNone)) {
-            return -1;
-        }
+        CFile file(m_strPath, CFile::modeRead | CFile::shareDenyNone);
         const ULONGLONG nLength = file.GetLength();
         std::string bytes(static_cast<size_t>(nLength - std::min(nLength, m_nRead)), '\0');
         file.Seek(static_cast<LONGLONG>(m_nRead), CFile::begin);
@@ -56,7 +55,7 @@ int LogView::AddLines(bool bAll) {
         }
         m_nRead += std::min(nStart, bytes.size());
     } catch (CFileException* pException) {
-        pException->Delete();
+        pReason = FileReason(pException);
         return -1;
     }
     return nLines;
@@ -68,10 +67,11 @@ bool LogView::ReadMore() {
         return false;
     }
     if (static_cast<ULONGLONG>(status.m_size) < m_nRead) {
-        return Open(m_strPath);
+        return Open(m_strPath) == nullptr;
     }
     const bool bAtEnd = AtEnd();
-    if (static_cast<ULONGLONG>(status.m_size) == m_nRead || AddLines(false) <= 0) {
+    Failure pReason;  // looked for again in a moment
+    if (static_cast<ULONGLONG>(status.m_size) == m_nRead || AddLines(false, pReason) <= 0) {
         return false;
     }
     GetTextWnd().CalcLayout();

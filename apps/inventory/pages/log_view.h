@@ -3,12 +3,12 @@
 
 #pragma once
 
-#include "QVControls.h"
+#include "errors.h"
 
 class LogView : public QVTextHeaderWnd {
 public:
-    // Shows a file from its start; the caption says if it cannot be read.
-    bool Open(const CString& strPath);
+    // Shows a file from its start. Null: it could be read; else the caption says so as well.
+    Failure Open(const CString& strPath);
     // Adds what the file has grown by. True if there was a whole line more. A file that has shrunk
     // is shown anew.
     bool ReadMore();
@@ -19,8 +19,9 @@ public:
 
 private:
     int StyleOf(const CString& strLine) const;
-    // Adds whole lines from where reading stopped; with bAll also a last line without end.
-    int AddLines(bool bAll);
+    // Adds whole lines from where reading stopped; with bAll also a last line without end. How
+    // many; -1 and a reason if the file could not be read.
+    int AddLines(bool bAll, Failure& pReason);
 
     CString m_strPath;
     ULONGLONG m_nRead = 0;  // bytes of the file that are shown

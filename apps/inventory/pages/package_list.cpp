@@ -59,27 +59,46 @@ void PackageList::UseImageColumn(bool bOwn) {
 }
 
 void PackageList::Show(const Inventory& inventory, const PackageFilter& filter) {
-    const bool bFirst = m_pInventory == nullptr;
-    m_pInventory = &inventory;
-    m_filter = filter;
-    if (bFirst) {
+    if (std::exchange(m_bPrepared, false) && filter == m_filter) {
+        m_pInventory = &inventory;  // it may have moved
+    } else {
+        Refill(inventory, filter, nullptr);
+    }
+}
+
+void PackageList::Prepare(const Inventory& inventory, const PackageFilter& filter, Work& work) {
+    Refill(inventory, filter, &work);
+    m_bPrepared = true;
+}
+
+void PackageList::Refill(const Inventory& inventory, const PackageFilter& filter, Work* pWork) {
+    if (m_pInventory == nullptr) {
         m_bAscending = TRUE;
     }
+    m_pInventory = &inventory;
+    m_filter = filter;
     SetRedraw(FALSE);
-    SaveSelections();
+    if (!std::exchange(m_bSaved, true)) {
+        SaveSelections();
+    }
     m_packages.clear();  // what they point at may be gone already
     DeleteAllItems();
-    Fill();
+    Fill(pWork);
     SetRedraw(TRUE);
     Invalidate(FALSE);
 }
 
-void PackageList::Fill() {
+void PackageList::Fill(Work* pWork) {
     if (m_pInventory == nullptr) {
         return;
     }
+    const size_t nAll = m_pInventory->CountPackages();
+    size_t nDone = 0;
     for (const Section& section : m_pInventory->Sections()) {
         for (const Package& package : section.packages) {
+            if (pWork != nullptr) {
+                pWork->Step(nDone++, nAll);
+            }
             if (!m_filter.Shows(package)) {
                 continue;
             }
@@ -92,6 +111,7 @@ void PackageList::Fill() {
     }
     ReSort();
     RestoreSelections();
+    m_bSaved = false;
 }
 
 CString PackageList::Row(const Package& package) const {
@@ -165,4 +185,43 @@ PackageList::Selected PackageList::CountSelected() {
         }
     }
     return selected;
+}
+
+// --- Export
+
+BOOL PackageList::Export(LPCSTR pszPath, char chSeparator, Work& work) {
+    struct Told {
+        Work*& pWork;
+        ~Told() { pWork = nullptr; }
+    };
+    BOOL bWritten = FALSE;
+    {
+        const Told told{m_pExport = &work};
+        bWritten = ExportData(pszPath, chSeparator);
+    }
+    if (m_pLeft != nullptr) {
+        throw m_pLeft.release();
+    }
+    return bWritten;
+}
+
+// ExportData asks for each cell in turn, and for nothing else on the way. What the work throws does
+// not pass a window procedure: it waits until the other cells, empty ones now, were asked for.
+LRESULT PackageList::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == LVM_GETITEMTEXT && m_pExport != nullptr) {
+        const auto& item = *reinterpret_cast<const LVITEM*>(lParam);
+        if (item.iSubItem == 0 && m_pLeft == nullptr) {
+            Work* const pExport = std::exchange(m_pExport, nullptr);
+            try {
+                pExport->Step(wParam, static_cast<std::uint64_t>(GetItemCount()));
+            } catch (QVStatus* pStatus) {
+                m_pLeft.reset(pStatus);
+            }
+            m_pExport = pExport;
+        }
+        if (m_pLeft != nullptr) {
+            return 0;
+        }
+    }
+    return QVSortingListCtrl::WindowProc(message, wParam, lParam);
 }

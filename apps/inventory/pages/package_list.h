@@ -6,6 +6,7 @@
 #include "QVControls.h"
 #include "model/package_filter.h"
 #include "model/package_ids.h"
+#include "work.h"
 
 #include <string>
 #include <vector>
@@ -20,6 +21,12 @@ public:
     // was selected is selected again if it is still there. The inventory must outlive what is shown
     // of it.
     void Show(const Inventory& inventory, const PackageFilter& filter);
+    // Fills it with a step of the work for each package; Show, which is to follow, finds that done.
+    // What the work throws leaves the list half filled.
+    void Prepare(const Inventory& inventory, const PackageFilter& filter, Work& work);
+
+    // ExportData with a step of the work for each row.
+    BOOL Export(LPCSTR pszPath, char chSeparator, Work& work);
 
     // Of the texts of each kind of package.
     void UseColors(COLORREF crInstalled, COLORREF crRequired, COLORREF crTrouble);
@@ -42,14 +49,22 @@ public:
     int SummaryColumn() const { return NumColumns() - 1; }
     void SortBy(int nCol) { SortOnHeader(nCol); }
 
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
 private:
     void MakeColumns();
-    void Fill();
+    void Refill(const Inventory& inventory, const PackageFilter& filter, Work* pWork);
+    void Fill(Work* pWork = nullptr);
     CString Row(const Package& package) const;
 
     void SelectAlone(int nItem);
 
     const Inventory* m_pInventory = nullptr;
+    bool m_bPrepared = false;
+    bool m_bSaved = false;      // what was selected, before a filling that was left
+    Work* m_pExport = nullptr;  // null as well while it is being told
+    Failure m_pLeft;            // the export was
     PackageFilter m_filter;
     bool m_bImageColumn = false;
     int m_nTrouble = 0;  // styles

@@ -4,6 +4,23 @@
 #include "resource.h"
 #include "sources/settings_file.h"
 
+namespace {
+
+// Neither is worth a question at the start or at the end: the log has it.
+void Load(const CString& strPath, KeyedValues& values) {
+    if (Failure pReason = LoadSettings(strPath, values)) {
+        Keep(Failed(kErrorReadSettings, std::move(pReason)));
+    }
+}
+
+void Save(const CString& strPath, const KeyedValues& values) {
+    if (Failure pReason = SaveSettings(strPath, values)) {
+        Keep(Failed(kErrorWriteSettings, std::move(pReason)));
+    }
+}
+
+}  // namespace
+
 BEGIN_MESSAGE_MAP(PackagesPage, Page)
     ON_WM_CREATE()
     ON_WM_DESTROY()
@@ -89,8 +106,8 @@ CString PackagesPage::MarkedText() {
 }
 
 void PackagesPage::OnExport() {
-    const auto write = [this](LPCSTR pszPath, char chSeparator) {
-        return List().ExportData(pszPath, chSeparator);
+    const auto write = [this](LPCSTR pszPath, char chSeparator, Work& work) {
+        return List().Export(pszPath, chSeparator, work);
     };
     if (m_exporter.Run(*this, nullptr, write)) {
         m_strMessage.Format("%d rows written to %s", List().GetItemCount(),
@@ -110,6 +127,16 @@ void PackagesPage::SetInventory(const Inventory& inventory) {
     m_browser.TreeFrame().Show(inventory);
     m_bar.SetInventory(inventory);
     Refill();
+}
+
+void PackagesPage::Prepare(const Inventory& inventory, Work& work) {
+    try {
+        List().Prepare(inventory, m_bar.Filter(), work);
+    } catch (...) {
+        static const Inventory none;
+        List().Show(m_pInventory != nullptr ? *m_pInventory : none, m_bar.Filter());
+        throw;
+    }
 }
 
 void PackagesPage::OnFilterChanged() {
@@ -185,20 +212,20 @@ void PackagesPage::UseFolder(const CString& strFolder) {
     m_strFilterFile = strFolder + "filter.txt";
     m_strLayoutFile = strFolder + "layout.txt";
     FilterValues filter;
-    LoadSettings(m_strFilterFile, filter);  // damaged: all packages show, and the file is set aside
+    Load(m_strFilterFile, filter);  // damaged: all packages show, and the file is set aside
     m_bar.SetFilter(filter.Filter());
     LayoutValues layout;
-    LoadSettings(m_strLayoutFile, layout);
+    Load(m_strLayoutFile, layout);
     m_browser.SetLayout(layout.Layout());
 }
 
 void PackagesPage::KeepLayout() {
-    SaveSettings(m_strLayoutFile, LayoutValues(m_browser.Layout()));
+    Save(m_strLayoutFile, LayoutValues(m_browser.Layout()));
 }
 
 void PackagesPage::OnDestroy() {
     if (!m_strFilterFile.IsEmpty()) {
-        SaveSettings(m_strFilterFile, FilterValues(m_bar.Filter()));
+        Save(m_strFilterFile, FilterValues(m_bar.Filter()));
         KeepLayout();
     }
     Page::OnDestroy();

@@ -14,6 +14,9 @@ class PackagesPage : public Page, private PackageBarOwner, private BrowserOwner 
 public:
     LPCSTR Title() const override { return "Packages"; }
     void SetInventory(const Inventory& inventory) override;
+    // Does the long part of that before, with a step of the work for each package. Where the work
+    // is left, what was shown before is shown again.
+    void Prepare(const Inventory& inventory, Work& work);
     // Where the focus was last.
     CWnd& Control() override;
     CString MarkedText() override;

@@ -21,6 +21,8 @@ public:
     // The next package behind the selection whose name contains the text. False if there is none.
     virtual bool FindNext(const CString& /*strText*/) { return false; }
     CString Message() const { return m_strMessage; }
+    // In the status bar, until there is something else to say.
+    void Say(const CString& strMessage) { m_strMessage = strMessage; }
     virtual CString MarkedText() { return ""; }
 
 protected:

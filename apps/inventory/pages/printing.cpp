@@ -1,5 +1,8 @@
 #include "pages/printing.h"
 
+#include "model/inventory.h"
+#include "sources/disk_file.h"
+
 #include <algorithm>
 
 PrinterChoice::PrinterChoice(CWnd* pParent)
@@ -18,8 +21,9 @@ bool PrinterChoice::Ask(unsigned nPages, CDC& dc) {
     if (DoModal() != IDOK) {
         return false;
     }
+    ::SetLastError(NO_ERROR);
     if (!dc.Attach(GetPrinterDC())) {
-        AfxMessageBox("There is no printer to print on.", MB_ICONEXCLAMATION);
+        Tell(Failed(kErrorNoPrinter, SystemReason(::GetLastError(), nullptr)), this);
         return false;
     }
     dc.m_bPrinting = TRUE;
@@ -45,38 +49,85 @@ unsigned PrinterChoice::LastPage() const {
     return PrintRange() ? static_cast<unsigned>(GetToPage()) : ~0u;
 }
 
-bool OpenDefaultPrinter(CWnd* pParent, CDC& dc, int nPaper) {
+Failure OpenDefaultPrinter(CWnd* pParent, CDC& dc, int nPaper) {
     PrinterChoice printer(pParent);
     if (!printer.GetDefaults()) {
-        return false;
+        return Failed(kErrorNoPrinter);
     }
     printer.UsePaper(nPaper);
+    ::SetLastError(NO_ERROR);
     if (!dc.Attach(printer.CreatePrinterDC())) {
-        return false;
+        return Failed(kErrorNoPrinter, SystemReason(::GetLastError(), nullptr));
     }
     dc.m_bPrinting = TRUE;
-    return true;
+    return nullptr;
 }
 
-bool PrintJob(CDC& dc, LPCSTR pszName, unsigned nFirst, unsigned nLast, LPCSTR pszOutput,
-              const std::function<void(unsigned)>& printPage) {
-    DOCINFO doc{};
-    doc.cbSize = sizeof(doc);
-    doc.lpszDocName = pszName;
-    doc.lpszOutput = pszOutput;
-    bool bDone = dc.StartDoc(&doc) > 0;
-    for (unsigned nPage = nFirst; bDone && nPage <= nLast; ++nPage) {
-        bDone = dc.StartPage() > 0;
-        if (bDone) {
-            printPage(nPage);
-            bDone = dc.EndPage() > 0;
+namespace {
+
+// From the start of a document to its end; taken back if it does not come to that.
+class Document {
+public:
+    Document(CDC& dc, LPCSTR pszName, LPCSTR pszOutput) : m_dc(dc), m_pszOutput(pszOutput) {
+        DOCINFO doc{};
+        doc.cbSize = sizeof(doc);
+        doc.lpszDocName = pszName;
+        doc.lpszOutput = pszOutput;
+        m_bOpen = m_dc.StartDoc(&doc) > 0;
+    }
+    ~Document() {
+        if (m_bOpen) {
+            m_dc.AbortDoc();
+            if (m_pszOutput != nullptr) {
+                RemovePart(m_pszOutput);
+            }
         }
     }
-    if (bDone) {
-        return dc.EndDoc() > 0;
+    Document(const Document&) = delete;
+    Document& operator=(const Document&) = delete;
+
+    bool IsOpen() const { return m_bOpen; }
+    bool End() {
+        m_bOpen = m_dc.EndDoc() <= 0;
+        return !m_bOpen;
     }
-    dc.AbortDoc();
-    return false;
+
+private:
+    CDC& m_dc;
+    const LPCSTR m_pszOutput;
+    bool m_bOpen = false;
+};
+
+}  // namespace
+
+void PrintJob(Work& work, CDC& dc, LPCSTR pszName, unsigned nFirst, unsigned nLast,
+              LPCSTR pszOutput, const std::function<void(unsigned)>& printPage) {
+    const auto check = [&](bool bTaken, LPCSTR pszWhat) {
+        if (!bTaken) {
+            throw Failed(kErrorPrint,
+                         Reason(pszWhat, pszName, SystemReason(::GetLastError(), pszOutput)))
+                .release();
+        }
+    };
+    ::SetLastError(NO_ERROR);
+    Document document(dc, pszName, pszOutput);
+    check(document.IsOpen(), "The printer does not begin a document.");
+    for (unsigned nPage = nFirst; nPage <= nLast; ++nPage) {
+        work.Step(nPage - nFirst, nLast - nFirst + 1);
+        ::SetLastError(NO_ERROR);
+        check(dc.StartPage() > 0, "The printer does not begin a page.");
+        printPage(nPage);
+        check(dc.EndPage() > 0, "The printer does not take a page.");
+    }
+    ::SetLastError(NO_ERROR);
+    check(document.End(), "The printer does not end the document.");
+}
+
+CString PrintedText(const Failure& pFailure, unsigned nPages) {
+    if (pFailure == nullptr) {
+        return (CountText(nPages, "page") + " printed").c_str();
+    }
+    return WasCancelled(pFailure) ? "Printing was cancelled." : pFailure->Text();
 }
 
 void MakePrintFont(CFont& font, CDC& dc, int nPoints, int nWeight, LPCSTR pszFace) {

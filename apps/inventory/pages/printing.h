@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "work.h"
+
 #include <afxdlgs.h>
 #include <afxwin.h>
 
@@ -23,13 +25,17 @@ public:
     unsigned LastPage() const;
 };
 
-// The default printer without a question; false if there is none.
-bool OpenDefaultPrinter(CWnd* pParent, CDC& dc, int nPaper = 0);
+// The default printer without a question. Null: it is open.
+Failure OpenDefaultPrinter(CWnd* pParent, CDC& dc, int nPaper = 0);
 
-// Prints pages nFirst to nLast. pszOutput: a file that the job goes to, null for the printer's own
-// port. False if the printer does not take it; nothing is printed then.
-bool PrintJob(CDC& dc, LPCSTR pszName, unsigned nFirst, unsigned nLast, LPCSTR pszOutput,
-              const std::function<void(unsigned)>& printPage);
+// Prints pages nFirst to nLast, a step of the work each. pszOutput: a file that the job goes to,
+// null for the printer's own port. Leaves the work by a status if the printer does not take it:
+// where it is left nothing is printed, the job is taken back, and its file is gone.
+void PrintJob(Work& work, CDC& dc, LPCSTR pszName, unsigned nFirst, unsigned nLast,
+              LPCSTR pszOutput, const std::function<void(unsigned)>& printPage);
+
+// What to say of a job in the status bar: how many pages it was, or why it was none.
+CString PrintedText(const Failure& pFailure, unsigned nPages);
 
 // A font by its size in points on a device.
 void MakePrintFont(CFont& font, CDC& dc, int nPoints, int nWeight, LPCSTR pszFace = "Tahoma");

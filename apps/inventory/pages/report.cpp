@@ -21,7 +21,7 @@ CString WithThousands(size_t n) {
 
 }  // namespace
 
-Report::Report(const Inventory& inventory, const ReportDefinition& definition,
+Report::Report(Work& work, const Inventory& inventory, const ReportDefinition& definition,
                const Settings& settings, CWnd& parent, QVListCtrlEx& list, CDC& dc)
     : m_definition(definition), m_settings(settings), m_content(inventory, definition) {
     MeasurePaper(dc);
@@ -37,12 +37,12 @@ Report::Report(const Inventory& inventory, const ReportDefinition& definition,
         m_pEngine->AddText("No package is what the report asks for.", &dc, nullptr);
     } else if (m_definition.tables == ReportTables::One) {
         m_pEngine->AddSectionHeader(m_content.all.strName.c_str());
-        AddTable(m_content.all, parent, dc);
+        AddTable(work, m_content.all, parent, dc);
     }
     if (m_definition.tables == ReportTables::BySection ||
         m_definition.totals == ReportTotals::BySection) {
         for (const ReportGroup& section : m_content.sections) {
-            AddSection(section, parent, dc);
+            AddSection(work, section, parent, dc);
         }
     }
     if (m_definition.totals == ReportTotals::Overall) {
@@ -115,11 +115,11 @@ void Report::AddIntroduction(CDC& dc) {
     m_pEngine->AddText(strText, &dc, nullptr);
 }
 
-void Report::AddSection(const ReportGroup& section, CWnd& parent, CDC& dc) {
+void Report::AddSection(Work& work, const ReportGroup& section, CWnd& parent, CDC& dc) {
     m_pEngine->AddBreak();
     m_pEngine->AddSectionHeader(section.strName.c_str());
     if (m_definition.tables == ReportTables::BySection) {
-        AddTable(section, parent, dc);
+        AddTable(work, section, parent, dc);
     }
     if (m_definition.totals == ReportTotals::BySection) {
         m_pEngine->AddBreak();
@@ -128,14 +128,14 @@ void Report::AddSection(const ReportGroup& section, CWnd& parent, CDC& dc) {
     }
 }
 
-void Report::AddTable(const ReportGroup& group, CWnd& parent, CDC& dc) {
+void Report::AddTable(Work& work, const ReportGroup& group, CWnd& parent, CDC& dc) {
     ReportTable& table = m_tables.emplace_back();
     const ReportFonts fonts{m_fontHeader, m_fontNormal};
     if (!table.Make(parent, m_definition, dc, fonts, m_rcText.Width())) {
         m_bTables = false;
         return;
     }
-    table.Fill(group.packages);
+    table.Fill(group.packages, [&] { work.Step(m_nRows++, m_content.all.packages.size()); });
     m_pEngine->AddList(&table, &dc);
 }
 

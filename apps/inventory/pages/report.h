@@ -10,15 +10,16 @@
 #include "model/report_content.h"
 #include "model/settings.h"
 #include "pages/report_table.h"
+#include "work.h"
 
 #include <list>
 
 class Report {
 public:
     // The settings tell paper, margins and the footer. The parent bears the report's lists; list is
-    // printed as it stands.
-    Report(const Inventory& inventory, const ReportDefinition& definition, const Settings& settings,
-           CWnd& parent, QVListCtrlEx& list, CDC& dc);
+    // printed as it stands. A step of the work for each row.
+    Report(Work& work, const Inventory& inventory, const ReportDefinition& definition,
+           const Settings& settings, CWnd& parent, QVListCtrlEx& list, CDC& dc);
 
     unsigned Pages() const { return m_nPages; }
     // False if memory did not suffice for all of it.
@@ -36,8 +37,8 @@ private:
     void MeasurePaper(CDC& dc);
     void MakeFonts(CDC& dc);
     void AddIntroduction(CDC& dc);
-    void AddSection(const ReportGroup& section, CWnd& parent, CDC& dc);
-    void AddTable(const ReportGroup& group, CWnd& parent, CDC& dc);
+    void AddSection(Work& work, const ReportGroup& section, CWnd& parent, CDC& dc);
+    void AddTable(Work& work, const ReportGroup& group, CWnd& parent, CDC& dc);
     void AddTotals(const ReportGroup& group, CDC& dc);
     void AddSectionTotals(CWnd& parent, CDC& dc);
 
@@ -58,5 +59,6 @@ private:
     QVListCtrlEx m_totals;  // the columns of the sections' totals
     CStringArray m_totalRows;
     std::unique_ptr<QVPrintEngine> m_pEngine;
+    size_t m_nRows = 0;  // of tables, so far
     unsigned m_nPages = 0;
 };

@@ -29,6 +29,8 @@ constexpr Choice kButtonTexts[] = {{ID_REPORT_PREVIOUS, "Previous page"},
                                    {ID_REPORT_FIT, "Fit"},
                                    {ID_REPORT_NEW, "New report..."},
                                    {ID_REPORT_EDIT, "Edit report..."},
+                                   {ID_REPORT_SAVE_AS, "Save report as..."},
+                                   {ID_REPORT_RENAME, "Rename report..."},
                                    {ID_REPORT_DELETE, "Delete report"},
                                    {ID_REPORT_SETTINGS, "Settings..."},
                                    {ID_REPORT_PRINT, "Print..."}};
@@ -123,7 +125,7 @@ void ReportPage::ShowNames(const std::vector<std::string>& names) {
         nShown = strName == m_shown.strName ? nRow : nShown;
     }
     m_choice.SetCurSel(nShown);
-    for (const UINT nID : {ID_REPORT_EDIT, ID_REPORT_DELETE}) {
+    for (const UINT nID : {ID_REPORT_EDIT, ID_REPORT_RENAME, ID_REPORT_DELETE}) {
         GetDlgItem(static_cast<int>(nID))->EnableWindow(nShown != 0);
     }
     TickOptions();
@@ -141,6 +143,8 @@ BOOL ReportPage::OnCommand(WPARAM wParam, LPARAM lParam) {
     switch (LOWORD(wParam)) {
         case ID_REPORT_NEW:
         case ID_REPORT_EDIT:
+        case ID_REPORT_SAVE_AS:
+        case ID_REPORT_RENAME:
         case ID_REPORT_DELETE:
         case ID_REPORT_SETTINGS:
             if (lParam != 0 && HIWORD(wParam) == BN_CLICKED) {
@@ -203,8 +207,8 @@ void ReportPage::OpenDevice() {
     m_dcDevice.CreateCompatibleDC(nullptr);
 }
 
-std::unique_ptr<Report> ReportPage::Compose(CDC& dc) {
-    return std::make_unique<Report>(*m_pInventory, m_shown, m_settings.Values(), *this,
+std::unique_ptr<Report> ReportPage::Compose(Work& work, CDC& dc) {
+    return std::make_unique<Report>(work, *m_pInventory, m_shown, m_settings.Values(), *this,
                                     m_packages.List(), dc);
 }
 
@@ -216,9 +220,11 @@ void ReportPage::MakeReport() {
     m_preview.SetReport(nullptr, nullptr);
     m_pReport.reset();
     OpenDevice();
-    m_pReport = Compose(m_dcDevice);
+    const Failure pLeft = Work::Run("Laying out the report...",
+                                    [&](Work& work) { m_pReport = Compose(work, m_dcDevice); });
     m_preview.SetReport(m_pReport.get(), &m_dcDevice);
-    m_strMessage.Empty();
+    m_strMessage =
+        pLeft == nullptr ? "" : "The report was not laid out: there is no preview of it.";
 }
 
 CString ReportPage::MarkedText() {
@@ -315,44 +321,37 @@ void ReportPage::OnPrint() {
     PrinterChoice printer(this);
     printer.UsePaper(PaperNumber());
     CDC dc;
-    if (printer.Ask(Pages(), dc) && !Print(dc, printer.FirstPage(), printer.LastPage(), nullptr)) {
-        AfxMessageBox(m_strMessage, MB_ICONEXCLAMATION);
+    if (printer.Ask(Pages(), dc)) {
+        Tell(Print(dc, printer.FirstPage(), printer.LastPage(), nullptr), this);
     }
 }
 
-bool ReportPage::PrintToFile(LPCSTR pszOutput) {
+Failure ReportPage::PrintToFile(LPCSTR pszOutput) {
     CDC dc;
-    if (!OpenDefaultPrinter(this, dc, PaperNumber())) {
-        m_strMessage = "There is no printer to print on.";
-        return false;
-    }
-    return Print(dc, 1, ~0u, pszOutput);
+    Failure pFailure = OpenDefaultPrinter(this, dc, PaperNumber());
+    return pFailure != nullptr ? std::move(pFailure) : Print(dc, 1, ~0u, pszOutput);
 }
 
-bool ReportPage::Print(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutput) {
+Failure ReportPage::Print(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutput) {
     const CWaitCursor wait;
     // The lists can be in one print run at a time: the preview begins another one afterwards.
     m_preview.SetReport(nullptr, nullptr);
     m_pReport.reset();
-    const bool bPrinted = PrintPages(dc, nFirst, nLast, pszOutput);
-    const CString strMessage = m_strMessage;
-    MakeReport();
-    m_strMessage = strMessage;
-    return bPrinted;
-}
-
-bool ReportPage::PrintPages(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutput) {
-    const std::unique_ptr<Report> pReport = Compose(dc);
-    nLast = std::min(nLast, pReport->Pages());
-    if (!PrintJob(dc, "Inventory", nFirst, nLast, pszOutput,
-                  [&](unsigned nPage) { pReport->PrintPage(dc, nPage); })) {
-        m_strMessage = "The printer did not take the report.";
-        return false;
+    unsigned nPages = 0;
+    Failure pFailure = Work::Run("Laying out the report...", [&](Work& work) {
+        const std::unique_ptr<Report> pReport = Compose(work, dc);
+        work.Say("Printing the report...");
+        nLast = std::min(nLast, pReport->Pages());
+        nPages = nLast - nFirst + 1;
+        PrintJob(work, dc, "Inventory", nFirst, nLast, pszOutput,
+                 [&](unsigned nPage) { pReport->PrintPage(dc, nPage); });
+        if (!pReport->IsComplete()) {  // parts are missing on paper
+            throw Failed(kErrorPrint, std::make_unique<QVStatus>(QVStatus::outOfMemory)).release();
+        }
+    });
+    if (IsWindowVisible()) {
+        MakeReport();
     }
-    if (!pReport->IsComplete()) {
-        m_strMessage = "There was not enough memory: parts of the report are missing.";
-        return false;
-    }
-    m_strMessage = (CountText(nLast - nFirst + 1, "page") + " printed").c_str();
-    return true;
+    m_strMessage = PrintedText(pFailure, nPages);
+    return pFailure;
 }

@@ -37,10 +37,10 @@ public:
 
     unsigned Pages() const { return m_pReport != nullptr ? m_pReport->Pages() : 0; }
     // Prints pages nFirst to nLast on a printer's context. pszOutput: a file that the job goes to,
-    // null for the printer's own port. False, with the reason in the page's message, if it fails.
-    bool Print(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutput);
+    // null for the printer's own port. Null: it is printed. The page's message says so, or why not.
+    Failure Print(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutput);
     // The whole report on the default printer, without a question.
-    bool PrintToFile(LPCSTR pszOutput);
+    Failure PrintToFile(LPCSTR pszOutput);
 
     // Asks which printer, and prints.
     afx_msg void OnPrint();
@@ -63,15 +63,14 @@ protected:
 
 private:
     static constexpr int kOptions = 4;
-    static constexpr int kButtons = 10;
+    static constexpr int kButtons = 12;
 
     bool HasOption(UINT nID) const;
     void TickOptions();
-    bool PrintPages(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutput);
     int PaperNumber() const;
     void OpenDevice();
     void MakeReport();
-    std::unique_ptr<Report> Compose(CDC& dc);
+    std::unique_ptr<Report> Compose(Work& work, CDC& dc);
 
     PackagesPage& m_packages;
     SettingsPage& m_settings;

@@ -74,9 +74,11 @@ CString ReportTable::Row(const Package& package) const {
     return strRow;
 }
 
-void ReportTable::Fill(const std::vector<const Package*>& packages) {
+void ReportTable::Fill(const std::vector<const Package*>& packages,
+                       const std::function<void()>& step) {
     SetRedraw(FALSE);
     for (const Package* pPackage : packages) {
+        step();
         InsertBitmapString(0, -1, Row(*pPackage));
     }
 }

@@ -6,6 +6,8 @@
 #include "QVControls.h"
 #include "model/report_content.h"
 
+#include <functional>
+
 struct ReportFonts {
     CFont& heading;
     CFont& text;
@@ -16,8 +18,8 @@ public:
     // Columns of the report, without rows, that share nRoom units of dc.
     bool Make(CWnd& parent, const ReportDefinition& report, CDC& dc, const ReportFonts& fonts,
               int nRoom);
-    // In the order given. The packages need not live on.
-    void Fill(const std::vector<const Package*>& packages);
+    // In the order given, and calls step before each. The packages need not live on.
+    void Fill(const std::vector<const Package*>& packages, const std::function<void()>& step);
 
 private:
     void SetWidths(CDC& dc, const ReportFonts& fonts, int nRoom);

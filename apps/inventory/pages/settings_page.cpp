@@ -13,6 +13,7 @@ constexpr int kChoiceColumn = 2;
 constexpr int kFolderColumn = 3;
 constexpr int kLeastWidth = 140;
 constexpr int kListLines = 8;
+constexpr UINT kTellNow = WM_APP + 1;  // to itself: pages may be changing over just now
 
 int ColumnOf(SettingKind kind) {
     return kind == SettingKind::Text     ? kTextColumn
@@ -27,6 +28,7 @@ BEGIN_MESSAGE_MAP(SettingsPage, Page)
     ON_WM_SIZE()
     ON_WM_SHOWWINDOW()
     ON_WM_DESTROY()
+    ON_MESSAGE(kTellNow, OnTellNow)
 END_MESSAGE_MAP()
 
 int SettingsPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
@@ -52,21 +54,22 @@ void SettingsPage::OnSize(UINT nType, int cx, int cy) {
 void SettingsPage::OnShowWindow(BOOL bShow, UINT nStatus) {
     Page::OnShowWindow(bShow, nStatus);
     if (!bShow) {
-        Keep();
+        KeepCells();
     }
 }
 
 void SettingsPage::OnDestroy() {
-    Keep();
+    KeepCells();
+    Keep(m_pUntold);
     Page::OnDestroy();
 }
 
-CString SettingsPage::Load(const CString& strPath) {
+Failure SettingsPage::Load(const CString& strPath) {
     m_strPath = strPath;
-    m_strMessage = LoadSettings(strPath, m_settings);
+    Failure pReason = LoadSettings(strPath, m_settings);
     m_strSaved = m_settings.Format();
     Fill();
-    return m_strMessage;
+    return pReason != nullptr ? Failed(kErrorReadSettings, std::move(pReason)) : nullptr;
 }
 
 void SettingsPage::ShowDatabase(const CString& strPath) {
@@ -103,7 +106,7 @@ void SettingsPage::Fill() {
     m_grid.SetRedraw(TRUE);
 }
 
-void SettingsPage::Keep() {
+void SettingsPage::TakeCells() {
     if (m_grid.m_hWnd == nullptr || m_strPath.IsEmpty() || m_grid.NumRows() < kSettingsInGrid) {
         return;
     }
@@ -112,6 +115,10 @@ void SettingsPage::Keep() {
         m_grid.GetCellText(n, ColumnOf(m_settings.All()[n].kind), strValue);
         m_settings.Set(n, static_cast<LPCSTR>(strValue));
     }
+}
+
+void SettingsPage::KeepCells() {
+    TakeCells();
     Write();
 }
 
@@ -122,16 +129,23 @@ void SettingsPage::Take(const Settings& settings) {
 
 void SettingsPage::Write() {
     const std::string text = m_settings.Format();
-    if (text == m_strSaved) {
+    if (text == m_strSaved || m_strPath.IsEmpty()) {
         return;
     }
-    if (SaveSettings(m_strPath, m_settings)) {
-        m_strSaved = text;
-        m_strMessage.Format("Settings kept in %s", static_cast<LPCTSTR>(m_strPath));
-    } else {
+    if (Failure pReason = SaveSettings(m_strPath, m_settings)) {
         m_strMessage.Format("The settings cannot be written to %s",
                             static_cast<LPCTSTR>(m_strPath));
+        m_pUntold = Failed(kErrorWriteSettings, std::move(pReason));
+        PostMessage(kTellNow);
+    } else {
+        m_strSaved = text;
+        m_strMessage.Format("Settings kept in %s", static_cast<LPCTSTR>(m_strPath));
     }
+}
+
+LRESULT SettingsPage::OnTellNow(WPARAM, LPARAM) {
+    Tell(std::move(m_pUntold));
+    return 0;
 }
 
 // --- What the grid tells
@@ -147,7 +161,7 @@ BOOL SettingsPage::OnCommand(WPARAM wParam, LPARAM lParam) {
             OnButton();
             break;
         case kChosen:
-            Keep();
+            KeepCells();
             break;
         default:
             break;
@@ -177,17 +191,15 @@ void SettingsPage::Choose(int nRow) {
 }
 
 void SettingsPage::Browse(int nRow) {
-    char szFolder[MAX_PATH] = "";
-    BROWSEINFO info{};
-    info.hwndOwner = m_hWnd;
-    info.pszDisplayName = szFolder;
-    info.lpszTitle = "Folder for exports";
-    info.ulFlags = BIF_RETURNONLYFSDIRS | BIF_NEWDIALOGSTYLE;
-    if (LPITEMIDLIST pidl = ::SHBrowseForFolder(&info)) {
-        if (::SHGetPathFromIDList(pidl, szFolder)) {
-            m_grid.SetCellText(nRow, kFolderColumn, szFolder);
-            Keep();
-        }
-        ::CoTaskMemFree(pidl);
+    CString strFolder;
+    m_grid.GetCellText(nRow, kFolderColumn, strFolder);
+    QVBrowseDlg dialog(this);
+    dialog.SetFolderLocation(CSIDL_DESKTOP);
+    dialog.SetBrowseFlags(BIF_RETURNONLYFSDIRS | BIF_NEWDIALOGSTYLE);
+    dialog.SetPromptString(m_settings.All()[nRow].pszName);
+    dialog.SetItemPath(strFolder);
+    if (dialog.DoModal() == IDOK) {
+        m_grid.SetCellText(nRow, kFolderColumn, dialog.GetItemPath());
+        KeepCells();
     }
 }

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "QVControls.h"
+#include "errors.h"
 #include "model/settings.h"
 #include "pages/page.h"
 
@@ -13,14 +13,16 @@ public:
     void SetInventory(const Inventory& /*inventory*/) override {}
     CWnd& Control() override { return m_grid; }
 
-    // Reads the settings and shows them. The message says what was wrong, or is empty.
-    CString Load(const CString& strPath);
+    // Reads the settings and shows them. Null: nothing was wrong.
+    Failure Load(const CString& strPath);
     void ShowDatabase(const CString& strPath);
+    const CString& Database() const { return m_strDatabase; }
     const Settings& Values() const { return m_settings; }
     QVGridCtrl& Grid() { return m_grid; }
     // Takes what stands in the cells, also what is being typed, and writes it if it is new.
-    void Keep();
-    // Takes settings that were made elsewhere, as in the report's dialog, and writes them.
+    void KeepCells();
+    // Takes settings that were made elsewhere, as in the report's dialog, and writes them. If they
+    // cannot be written, this and KeepCells tell it once they are through.
     void Take(const Settings& settings);
 
 protected:
@@ -29,15 +31,18 @@ protected:
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);
     afx_msg void OnDestroy();
+    afx_msg LRESULT OnTellNow(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
     void Fill();
+    void TakeCells();
     void Write();
     void OnButton();
     void Choose(int nRow);
     void Browse(int nRow);
 
+    Failure m_pUntold;
     QVGridCtrl m_grid;
     CStringArray m_choices;  // of the list that is up
     Settings m_settings;

@@ -12,7 +12,7 @@ CString ReportFiles::PathOf(int nFile) const {
     return strPath;
 }
 
-CString ReportFiles::Load(NamedReports& reports) const {
+Failure ReportFiles::Load(NamedReports& reports) const {
     std::set<int> files;
     WIN32_FIND_DATA found;
     const HANDLE hFind = ::FindFirstFile(m_strFolder + "\\report-*.txt", &found);
@@ -25,28 +25,34 @@ CString ReportFiles::Load(NamedReports& reports) const {
         } while (::FindNextFile(hFind, &found));
         ::FindClose(hFind);
     }
-    CString strFirst;
+    Failure pFirst;
     for (const int nFile : files) {
         ReportValues values;
-        const CString strMessage = LoadSettings(PathOf(nFile), values, "the report is left out");
-        if (strFirst.IsEmpty()) {
-            strFirst = strMessage;
+        Failure pReason = LoadSettings(PathOf(nFile), values, "the report is left out");
+        if (pReason == nullptr && !reports.Add(values.Definition(), nFile)) {
+            CString strText;
+            strText.Format("There are more than %u reports; the others are left alone.",
+                           static_cast<unsigned>(NamedReports::kMost));
+            pReason = Reason(strText, m_strFolder);
         }
-        if (strMessage.IsEmpty() && !reports.Add(values.Definition(), nFile) &&
-            strFirst.IsEmpty()) {
-            strFirst.Format("There are more than %u reports in %s; the others are left alone.",
-                            static_cast<unsigned>(NamedReports::kMost),
-                            static_cast<LPCTSTR>(m_strFolder));
+        if (pFirst == nullptr && pReason != nullptr) {
+            pFirst = Failed(kErrorReadReport, std::move(pReason));
         }
     }
-    return strFirst;
+    return pFirst;
 }
 
-bool ReportFiles::Write(const ReportDefinition& report, int nFile) const {
+Failure ReportFiles::Write(const ReportDefinition& report, int nFile) const {
     ::CreateDirectory(m_strFolder, nullptr);
-    return SaveSettings(PathOf(nFile), ReportValues(report));
+    Failure pReason = SaveSettings(PathOf(nFile), ReportValues(report));
+    return pReason != nullptr ? Failed(kErrorWriteReport, std::move(pReason)) : nullptr;
 }
 
-void ReportFiles::Delete(int nFile) const {
-    ::DeleteFile(PathOf(nFile));
+Failure ReportFiles::Delete(int nFile) const {
+    // One that could not be written has no file.
+    if (::DeleteFile(PathOf(nFile)) || ::GetLastError() == ERROR_FILE_NOT_FOUND ||
+        ::GetLastError() == ERROR_PATH_NOT_FOUND) {
+        return nullptr;
+    }
+    return Failed(kErrorDeleteReport, SystemReason(::GetLastError(), PathOf(nFile)));
 }

@@ -3,18 +3,18 @@
 
 #pragma once
 
+#include "errors.h"
 #include "model/named_reports.h"
-
-#include <afxwin.h>
 
 class ReportFiles {
 public:
     void UseFolder(const CString& strFolder) { m_strFolder = strFolder; }
-    // Damaged files are set aside as those of settings are. The message tells of the first of them,
-    // or of too many; empty: nothing to say.
-    CString Load(NamedReports& reports) const;
-    bool Write(const ReportDefinition& report, int nFile) const;
-    void Delete(int nFile) const;
+    // Damaged files are set aside as those of settings are. What is told is the first of them, or
+    // that there are too many; null: nothing to say.
+    Failure Load(NamedReports& reports) const;
+    // Both: null where all went well.
+    Failure Write(const ReportDefinition& report, int nFile) const;
+    Failure Delete(int nFile) const;
 
 private:
     CString PathOf(int nFile) const;

@@ -1,22 +1,21 @@
 #include "sources/settings_file.h"
 
+#include "sources/new_file.h"
+
 #include <shlobj.h>
 #include <string>
 
 namespace {
 
-bool ReadWhole(const CString& strPath, std::string& text) {
+// Null: it was read.
+Failure ReadWhole(const CString& strPath, std::string& text) {
     try {
-        CFile file;
-        if (!file.Open(strPath, CFile::modeRead | CFile::shareDenyWrite)) {
-            return false;
-        }
+        CFile file(strPath, CFile::modeRead | CFile::shareDenyWrite);
         text.resize(static_cast<size_t>(file.GetLength()));
         text.resize(file.Read(text.data(), static_cast<UINT>(text.size())));
-        return true;
+        return nullptr;
     } catch (CFileException* pException) {
-        pException->Delete();
-        return false;
+        return FileReason(pException);
     }
 }
 
@@ -43,44 +42,44 @@ CString UsersSettingsPath() {
     return strFolder + "\\settings.txt";
 }
 
-CString LoadSettings(const CString& strPath, KeyedValues& settings, LPCSTR pszOutcome) {
+Failure LoadSettings(const CString& strPath, KeyedValues& settings, LPCSTR pszOutcome) {
     settings.Reset();
     CFileStatus status;
-    std::string text;
-    CString strMessage;
     if (!CFile::GetStatus(strPath, status)) {
-        return strMessage;
+        return nullptr;
     }
-    if (!ReadWhole(strPath, text)) {
-        strMessage.Format("%s cannot be read; %s.", static_cast<LPCTSTR>(strPath), pszOutcome);
-        return strMessage;
+    std::string text;
+    CString strText;
+    if (Failure pReason = ReadWhole(strPath, text)) {
+        strText.Format("The file cannot be read; %s.", pszOutcome);
+        return Reason(strText, strPath, std::move(pReason));
     }
     size_t nLine = 0;
-    if (!settings.Parse(text, nLine)) {
-        const CString strAside = NameToSetAside(strPath);
-        const bool bMoved = ::MoveFile(strPath, strAside) != FALSE;
-        strMessage.Format("%s is damaged at line %u; %s%s, and %s.", static_cast<LPCTSTR>(strPath),
-                          static_cast<unsigned>(nLine),
-                          bMoved ? "the file is kept as " : "the file could not be kept as ",
-                          static_cast<LPCTSTR>(strAside), pszOutcome);
+    if (settings.Parse(text, nLine)) {
+        return nullptr;
     }
-    return strMessage;
+    const CString strAside = NameToSetAside(strPath);
+    Failure pReason;
+    if (!::MoveFile(strPath, strAside)) {
+        pReason = SystemReason(::GetLastError(), strPath);
+    }
+    strText.Format("The file is damaged; it %s as %s, and %s.",
+                   pReason == nullptr ? "is kept" : "could not be kept",
+                   static_cast<LPCTSTR>(strAside), pszOutcome);
+    const Problem problem{"", static_cast<LPCSTR>(strPath), nLine, 0};
+    return Reason(strText, ProblemPlace(problem).c_str(), std::move(pReason));
 }
 
-bool SaveSettings(const CString& strPath, const KeyedValues& settings) {
-    const CString strNew = strPath + ".new";
+Failure SaveSettings(const CString& strPath, const KeyedValues& settings) {
     const std::string text = settings.Format();
+    NewFile place(strPath);
     try {
-        CFile file;
-        if (!file.Open(strNew, CFile::modeCreate | CFile::modeWrite)) {
-            return false;
-        }
+        CFile file(place.Path(), CFile::modeCreate | CFile::modeWrite);
         file.Write(text.data(), static_cast<UINT>(text.size()));
         file.Close();
     } catch (CFileException* pException) {
-        pException->Delete();
-        ::DeleteFile(strNew);
-        return false;
+        pException->m_strFileName = strPath;  // not the one beside it
+        return FileReason(pException);
     }
-    return ::MoveFileEx(strNew, strPath, MOVEFILE_REPLACE_EXISTING) != FALSE;
+    return place.PutInPlace() ? nullptr : SystemReason(::GetLastError(), strPath);
 }

@@ -55,13 +55,16 @@ bool Walk::Run() {
     Tree().SetFocus();
     return SectionsTree() && OpenBranch() && SectionNarrows() && Marks() && AbsoluteColumns() &&
            Find() && Vetoes() && AllPackages() && Packages() && FindPackage() && ImageColumn() &&
-           Export() && Refresh() && DragBars() && DetailsTabs() && GoToDependency() &&
-           NothingToShow() && KeysAround() && DetailsOnPaper() && LayoutKept() && FilterSection() &&
-           FilterDate() && FilterOpens() && Jump() && ToolTip() && ReportMenu() &&
-           LargestPackages() && LargestOnPaper() && TypeSettings() && ChooseSetting() &&
-           SettingsKept() && ReportPages() && Zoom() && ReportSettings() && PreferencesDropped() &&
-           Paper() && NewReport() && FinishEarly() && CancelWizard() && RunFromBar() &&
-           EditReport() && DeleteReport() && Logs() && FollowLog() && LogOnPaper();
+           Export() && Refresh() && CancelLoad() && CancelExport() && DragBars() && DetailsTabs() &&
+           GoToDependency() && NothingToShow() && KeysAround() && DetailsOnPaper() &&
+           LayoutKept() && FilterSection() && FilterDate() && FilterOpens() && Jump() &&
+           ToolTip() && ReportMenu() && LargestPackages() && LargestOnPaper() && CancelPrint() &&
+           TypeSettings() && ChooseSetting() && ChooseFolder() && SettingsKept() && ReportPages() &&
+           Zoom() && ReportSettings() && PreferencesDropped() && Paper() && NewReport() &&
+           FinishEarly() && CancelWizard() && RunFromBar() && EditReport() && DeleteReport() &&
+           SaveReportAs() && AskAgain() && RenameReport() && Logs() && FollowLog() &&
+           LogOnPaper() && DamagedDatabase() && LockedFile() && FullDisk() && ErrorsInLog() &&
+           OpenDatabase() && OpenMachine();
 }
 
 bool Walk::Station(const char* pszName) {

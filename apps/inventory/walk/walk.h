@@ -59,9 +59,23 @@ private:
     bool Logs();
     bool FollowLog();
     bool LogOnPaper();
+    // What fails, and how the user learns of it
+    bool DamagedDatabase();
+    bool LockedFile();
+    bool FullDisk();
+    bool ErrorsInLog();
+    // The report of an error: that it has these words; a picture, and it is closed.
+    bool ReadReport(CWnd& dialog, const char* pszStation, std::initializer_list<const char*> words);
+    // Another database, of another machine
+    bool OpenDatabase();
+    bool OpenMachine();
+    bool NameMachine();
+    bool ChooseFolderOf(CWnd& dialog);
+    bool ShowSettings();
     // The settings
     bool TypeSettings();
     bool ChooseSetting();
+    bool ChooseFolder();
     bool SettingsKept();
     // The report
     bool ReportPages();
@@ -89,6 +103,17 @@ private:
     bool RunFromBar();
     bool EditReport();
     bool DeleteReport();
+    // Its names
+    bool SaveReportAs();
+    bool AskAgain();
+    bool RenameReport();
+    // Long work
+    bool CancelLoad();
+    bool CancelExport();
+    bool CancelPrint();
+    // Does something slowly, and cancels it in the wait dialog.
+    bool CancelWork(const char* pszStation, DWORD nSlow, const std::function<void()>& cause,
+                    const std::function<bool()>& meanwhile);
 
     PackageTree& Tree() { return m_frame.Packages().Tree(); }
     PackageBrowser& Browser() { return m_frame.Packages().Browser(); }

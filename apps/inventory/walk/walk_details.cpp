@@ -142,8 +142,8 @@ bool Walk::DetailsOnPaper() {
     if (!List().GoTo(kPackage)) {
         return true;
     }
-    if (!Details().PrintToFile(strFile, false)) {
-        std::printf("walk: not printed: %s\n", static_cast<LPCTSTR>(m_frame.Packages().Message()));
+    if (const Failure pFailure = Details().PrintToFile(strFile, false)) {
+        std::printf("walk: not printed: %s\n", pFailure->Text());
         return true;
     }
     CFileStatus status;

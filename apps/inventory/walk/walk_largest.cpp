@@ -40,8 +40,8 @@ bool Walk::LargestPackages() {
 
 bool Walk::LargestOnPaper() {
     const CString strFile = m_strFolder + "\\largest.ps";
-    if (!m_frame.Largest().PrintToFile(strFile)) {
-        std::printf("walk: not printed: %s\n", static_cast<LPCTSTR>(m_frame.Largest().Message()));
+    if (const Failure pFailure = m_frame.Largest().PrintToFile(strFile)) {
+        std::printf("walk: not printed: %s\n", pFailure->Text());
         return true;
     }
     CFileStatus status;

@@ -47,7 +47,7 @@ bool Walk::FollowLog() {
     append(0, 100);
     QVTextWnd& left = m_frame.Log().Left().GetTextWnd();
     if (!Happened("a file of its own opens",
-                  m_frame.Log().Open(strFile) && left.NumLines() == 100)) {
+                  m_frame.Log().Open(strFile) == nullptr && left.NumLines() == 100)) {
         return false;
     }
     m_frame.PostMessage(WM_COMMAND, ID_LOG_FOLLOW);
@@ -73,13 +73,13 @@ bool Walk::LogOnPaper() {
     constexpr unsigned kPages = 4;
     LogPage& log = m_frame.Log();
     const CString strExport = m_strFolder + "\\log.txt";
-    if (!Happened("the log is exported", log.Export(strExport)) ||
-        !Happened("the log opens again", log.Open("Z:\\var\\log\\dpkg.log"))) {
+    if (!Happened("the log is exported", log.Export(strExport) == nullptr) ||
+        !Happened("the log opens again", log.Open("Z:\\var\\log\\dpkg.log") == nullptr)) {
         return false;
     }
     const CString strFile = m_strFolder + "\\log.ps";
-    if (!log.PrintToFile(strFile, 1, kPages)) {
-        std::printf("walk: not printed: %s\n", static_cast<LPCTSTR>(log.Message()));
+    if (const Failure pFailure = log.PrintToFile(strFile, 1, kPages)) {
+        std::printf("walk: not printed: %s\n", pFailure->Text());
         return true;
     }
     CFileStatus status;

@@ -34,8 +34,8 @@ bool Walk::Paper() {
         return false;
     }
     const CString strFile = m_strFolder + "\\report.ps";
-    if (!m_frame.Report().PrintToFile(strFile)) {
-        std::printf("walk: not printed: %s\n", static_cast<LPCTSTR>(m_frame.Report().Message()));
+    if (const Failure pFailure = m_frame.Report().PrintToFile(strFile)) {
+        std::printf("walk: not printed: %s\n", pFailure->Text());
         return true;
     }
     CFileStatus status;

@@ -7,6 +7,8 @@ namespace {
 constexpr int kPageSettings = 2;
 constexpr int kTextColumn = 1;
 constexpr int kChoiceColumn = 2;
+constexpr int kFolderColumn = 3;
+constexpr int kInButton = 10;  // pixels from the end of the last column
 
 // The middle of a cell on the screen; rows of the grid are as high as its font and three pixels.
 CPoint PointOfCell(QVGridCtrl& grid, int nRow, int nCol) {
@@ -25,10 +27,15 @@ CPoint PointOfCell(QVGridCtrl& grid, int nRow, int nCol) {
 
 }  // namespace
 
-bool Walk::TypeSettings() {
+bool Walk::ShowSettings() {
     ClickTab(kPageSettings);
+    return Expect("the settings come up",
+                  [this] { return m_frame.Settings().Grid().IsWindowVisible() != FALSE; });
+}
+
+bool Walk::TypeSettings() {
     QVGridCtrl& grid = m_frame.Settings().Grid();
-    if (!Expect("the settings come up", [&] { return grid.IsWindowVisible() != FALSE; })) {
+    if (!ShowSettings()) {
         return false;
     }
     Click(PointOfCell(grid, kSettingExportName, kTextColumn));
@@ -68,11 +75,44 @@ bool Walk::ChooseSetting() {
                   [&] { return m_frame.Settings().Values().Choice(kSettingSeparator) == 1; });
 }
 
+// The folder browser begins with the folder of the walk, or as near to it as the shell can find;
+// the next one up is chosen.
+bool Walk::ChooseFolder() {
+    SettingsPage& page = m_frame.Settings();
+    QVGridCtrl& grid = page.Grid();
+    grid.SetCellText(kSettingExportFolder, kFolderColumn, m_strFolder);
+    CPoint pt = PointOfCell(grid, kSettingExportFolder, kFolderColumn);
+    Click(pt);
+    if (!Expect("a click in the folder's cell opens it",
+                [&] { return grid.CurrentRow() == kSettingExportFolder; })) {
+        return false;
+    }
+    LetClickPass();
+    CRect rc;
+    grid.GetClientRect(&rc);
+    grid.ClientToScreen(&rc);
+    pt.x = rc.right - kInButton;
+    return InDialog(
+               "Browse for Folder", [&] { Click(pt); },
+               [this](CWnd&) {
+                   HandleMessages();
+                   const bool bGood = Station("settings-3-folder-browser");
+                   Press(VK_LEFT);
+                   HandleMessages();
+                   Press(VK_RETURN);
+                   return bGood;
+               }) &&
+           Expect("another folder is taken", [&] {
+               const CString strFolder(page.Values().Value(kSettingExportFolder).c_str());
+               return strFolder != m_strFolder && QVFileSystem().IsFolder(QVPath(strFolder));
+           });
+}
+
 bool Walk::SettingsKept() {
     ClickTab(0);
     return Expect("leaving the page keeps the settings in their file", [this] {
         Settings settings;
-        return LoadSettings(m_strFolder + "\\settings.txt", settings).IsEmpty() &&
+        return LoadSettings(m_strFolder + "\\settings.txt", settings) == nullptr &&
                settings.Value(kSettingExportName) == "all of it" &&
                settings.Choice(kSettingSeparator) == 1;
     });

@@ -46,7 +46,7 @@ bool Walk::NewReport() {
                              m_frame.Report().Pages() > 0;
                   }) &&
            Station("wizard-8-result") &&
-           (!m_frame.Report().PrintToFile(m_strFolder + "\\wizard.ps") ||
+           (m_frame.Report().PrintToFile(m_strFolder + "\\wizard.ps") != nullptr ||
             m_frame.Report().Pages() > 0);
 }
 
