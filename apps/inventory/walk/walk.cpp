@@ -10,16 +10,25 @@ const char* s_pszWanted = "";
 
 constexpr UINT_PTR kFirstTimer = 100;
 constexpr UINT kLookAgain = 50;  // milliseconds
+constexpr int kMostLooks = 1200;
 
 struct Awaited {
     CString strTitle;
     std::function<bool(CWnd&)> act;
+    int nLooks = 0;
 };
 std::map<UINT_PTR, Awaited> s_awaited;  // by timer
 
 void CALLBACK LookForDialog(HWND hWnd, UINT, UINT_PTR nTimer, DWORD) {
     const HWND hDialog = ::FindWindow("#32770", s_awaited[nTimer].strTitle);
     if (hDialog == nullptr || !::IsWindowVisible(hDialog) || !::IsChild(hDialog, ::GetFocus())) {
+        // Another dialog in its place would wait for an answer for ever.
+        if (++s_awaited[nTimer].nLooks > kMostLooks) {
+            std::printf("walk: this dialog did not come: %s\n",
+                        s_awaited[nTimer].strTitle.GetString());
+            std::fflush(stdout);
+            ::ExitProcess(1);
+        }
         return;
     }
     ::KillTimer(hWnd, nTimer);
