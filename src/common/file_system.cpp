@@ -20,31 +20,13 @@ std::wstring Wide(const QVPath& path) {
     return qv::WidePath({strPath.GetString(), static_cast<std::size_t>(strPath.GetLength())});
 }
 
-// The text in the process's code page; empty if that lacks a character.
-CString Narrow(const std::wstring& strWide) {
-    const bool bAll = ::GetACP() == CP_UTF8;
-    BOOL bLost = FALSE;
-    const int nWide = static_cast<int>(strWide.size());
-    const int nBytes =
-        ::WideCharToMultiByte(CP_ACP, 0, strWide.c_str(), nWide, nullptr, 0, nullptr, nullptr);
-    CString strText;
-    ::WideCharToMultiByte(CP_ACP, bAll ? 0 : WC_NO_BEST_FIT_CHARS, strWide.c_str(), nWide,
-                          strText.GetBuffer(nBytes), nBytes, nullptr, bAll ? nullptr : &bLost);
-    strText.ReleaseBuffer(bLost ? 0 : nBytes);
-    return strText;
-}
-
-// Its short name where the process's code page cannot spell it.
 CString TempFolder() {
     wchar_t szFolder[MAX_PATH + 1];
     const DWORD nFolder = ::GetTempPathW(MAX_PATH + 1, szFolder);
     if (nFolder == 0 || nFolder > MAX_PATH) {
         CFileException::ThrowOsError(nFolder == 0 ? ::GetLastError() : ERROR_BAD_PATHNAME);
     }
-    CString strFolder = Narrow(szFolder);
-    if (strFolder.IsEmpty() && ::GetShortPathNameW(szFolder, szFolder, MAX_PATH) != 0) {
-        strFolder = Narrow(szFolder);
-    }
+    CString strFolder = qv::NarrowPath(szFolder);
     if (strFolder.IsEmpty()) {
         CFileException::ThrowOsError(ERROR_BAD_PATHNAME);
     }

@@ -1,7 +1,5 @@
 #include "common/wide_path.h"
 
-#include <windows.h>
-
 namespace qv {
 
 namespace {
@@ -16,7 +14,30 @@ std::wstring Wide(std::string_view text) {
     return strWide;
 }
 
+// Empty if the code page lacks a character.
+CString Narrow(const wchar_t* pszWide) {
+    const bool bAll = ::GetACP() == CP_UTF8;
+    BOOL bLost = FALSE;
+    const int nWide = static_cast<int>(wcslen(pszWide));
+    const int nBytes =
+        ::WideCharToMultiByte(CP_ACP, 0, pszWide, nWide, nullptr, 0, nullptr, nullptr);
+    CString strText;
+    ::WideCharToMultiByte(CP_ACP, bAll ? 0 : WC_NO_BEST_FIT_CHARS, pszWide, nWide,
+                          strText.GetBuffer(nBytes), nBytes, nullptr, bAll ? nullptr : &bLost);
+    strText.ReleaseBuffer(bLost ? 0 : nBytes);
+    return strText;
+}
+
 }  // namespace
+
+CString NarrowPath(const wchar_t* pszPath) {
+    CString strPath = Narrow(pszPath);
+    wchar_t szShort[MAX_PATH];
+    if (strPath.IsEmpty() && ::GetShortPathNameW(pszPath, szShort, MAX_PATH) - 1 < MAX_PATH - 1) {
+        strPath = Narrow(szShort);
+    }
+    return strPath;
+}
 
 std::wstring WidePath(std::string_view path) {
     const std::wstring strWide = Wide(path);

@@ -1,4 +1,4 @@
-// What the message box and the prompt share: texts that callers set, and the check box below.
+// What the dialogs share: texts that callers set. And of message box and prompt, the check box.
 
 #pragma once
 
@@ -11,6 +11,10 @@ namespace qv {
 // Without memory the text stays what it was.
 inline void StoreText(CString& strText, const CString& strNew) {
     MemorySuffices([&] { strText = strNew; });
+}
+
+inline void StoreText(CString& strText, LPCSTR pszNew) {
+    MemorySuffices([&] { strText = pszNew; });
 }
 
 // A string that does not load is an empty one.

@@ -1,22 +1,17 @@
 #include "dialogs/browse_dlg.h"
 
+#include "common/wide_path.h"
 #include "dialogs/ask_parts.h"
 #include "dialogs/shell_objects.h"
-#include "frame/wide_text.h"
 
 #include <shlobj.h>
 
 namespace {
 
-// What the process's code page cannot spell goes by its short name, which leads there as well.
-CString TextOfPath(const wchar_t* pszPath) {
-    CString strPath(pszPath);
-    wchar_t szShort[MAX_PATH];
-    if (qv::WideText(static_cast<LPCSTR>(strPath)).View() != pszPath &&
-        ::GetShortPathNameW(pszPath, szShort, MAX_PATH) - 1 < MAX_PATH - 1) {
-        strPath = szShort;
-    }
-    return strPath;
+// What has no name in the process's code page comes with other characters in place of some.
+CString PathText(const wchar_t* pszPath) {
+    const CString strPath = qv::NarrowPath(pszPath);
+    return strPath.IsEmpty() ? CString(pszPath) : strPath;
 }
 
 // What the shortcut at that path points to; false if there is none.
@@ -36,7 +31,7 @@ bool Resolve(const wchar_t* pszPath, CString& strTarget) {
         FAILED(link->GetPath(szTarget, MAX_PATH, nullptr, SLGP_UNCPRIORITY)) || szTarget[0] == 0) {
         return false;
     }
-    strTarget = TextOfPath(szTarget);
+    strTarget = PathText(szTarget);
     return true;
 }
 
@@ -56,7 +51,7 @@ void QVBrowseDlg::SetBrowsePrinters() {
 }
 
 void QVBrowseDlg::SetPromptString(LPCSTR pszPrompt) {
-    qv::MemorySuffices([&] { m_strPrompt = pszPrompt; });
+    qv::StoreText(m_strPrompt, pszPrompt);
 }
 
 void QVBrowseDlg::SetPromptString(UINT nStringID) {
@@ -64,7 +59,7 @@ void QVBrowseDlg::SetPromptString(UINT nStringID) {
 }
 
 void QVBrowseDlg::SetItemPath(LPCSTR pszPath) {
-    qv::MemorySuffices([&] { m_strItemPath = pszPath; });
+    qv::StoreText(m_strItemPath, pszPath);
 }
 
 int CALLBACK QVBrowseDlg::BrowseNotify(HWND hWnd, UINT nMsg, LPARAM, LPARAM lpData) {
@@ -124,7 +119,7 @@ void QVBrowseDlg::SetPathFromIDList(LPCITEMIDLIST pidl) {
         szPath[0] = 0;
     }
     qv::MemorySuffices([&] {
-        m_strItemPath = TextOfPath(szPath);
+        m_strItemPath = PathText(szPath);
         Resolve(szPath, m_strItemPath);
     });
 }

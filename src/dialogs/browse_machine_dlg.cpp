@@ -141,12 +141,12 @@ QVBrowseMachineDlg::~QVBrowseMachineDlg() {
 }
 
 void QVBrowseMachineDlg::SetMachineName(LPCSTR pszName) {
-    qv::MemorySuffices([&] { m_strMachineName = pszName; });
+    qv::StoreText(m_strMachineName, pszName);
     m_strItemPath.Empty();
 }
 
 void QVBrowseMachineDlg::SetPromptString(LPCSTR pszPrompt) {
-    qv::MemorySuffices([&] { m_strPrompt = pszPrompt; });
+    qv::StoreText(m_strPrompt, pszPrompt);
 }
 
 void QVBrowseMachineDlg::SetPromptString(UINT nStringID) {
@@ -154,7 +154,7 @@ void QVBrowseMachineDlg::SetPromptString(UINT nStringID) {
 }
 
 void QVBrowseMachineDlg::SetItemPath(LPCSTR pszPath) {
-    qv::MemorySuffices([&] { m_strItemPath = pszPath; });
+    qv::StoreText(m_strItemPath, pszPath);
 }
 
 void QVBrowseMachineDlg::SetMachineFolders(QVMachineFolders* pFolders) {

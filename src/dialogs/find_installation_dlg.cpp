@@ -15,7 +15,7 @@ QVFindInstallationDlg::QVFindInstallationDlg(CWnd* pParent)
     : CDialog(QV_IDD_FIND_INSTALLATION, pParent) {}
 
 void QVFindInstallationDlg::SetInstallationMachine(LPCSTR pszMachine) {
-    qv::MemorySuffices([&] { m_strInstallationMachine = pszMachine; });
+    qv::StoreText(m_strInstallationMachine, pszMachine);
 }
 
 void QVFindInstallationDlg::DoDataExchange(CDataExchange* pDX) {

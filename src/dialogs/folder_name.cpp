@@ -4,7 +4,7 @@
 
 namespace qv {
 
-std::wstring WidePath(LPCSTR pszPath) {
+std::wstring ShellPath(LPCSTR pszPath) {
     const WideText path(pszPath != nullptr ? pszPath : "");
     return path.View().size() < kMostPath ? std::wstring(path.View()) : std::wstring();
 }

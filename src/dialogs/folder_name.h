@@ -12,8 +12,8 @@ namespace qv {
 // Characters of a path that the shell takes, with the terminator.
 constexpr size_t kMostPath = MAX_PATH;
 
-// Empty for a path that is too long.
-std::wstring WidePath(LPCSTR pszPath);
+// In wide characters; empty for a path that is too long for the shell.
+std::wstring ShellPath(LPCSTR pszPath);
 
 // strFolder and a name in it.
 std::wstring PathIn(std::wstring strFolder, const std::wstring& strName);

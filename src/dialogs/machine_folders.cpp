@@ -30,7 +30,7 @@ void QVFileFolders::ListShares(LPCSTR pszMachine, QVFolderTaker& taker) {
 }
 
 void QVFileFolders::ListSubfolders(LPCSTR pszPath, QVFolderTaker& taker) {
-    const std::wstring strFolder = qv::WidePath(pszPath);
+    const std::wstring strFolder = qv::ShellPath(pszPath);
     if (strFolder.empty()) {
         return;
     }
@@ -53,7 +53,7 @@ void QVFileFolders::ListSubfolders(LPCSTR pszPath, QVFolderTaker& taker) {
 }
 
 BOOL QVFileFolders::MachineAnswers(LPCSTR pszMachine) {
-    const std::wstring strMachine = qv::WidePath(pszMachine);
+    const std::wstring strMachine = qv::ShellPath(pszMachine);
     return !strMachine.empty() &&
            ::GetFileAttributesW(strMachine.c_str()) != INVALID_FILE_ATTRIBUTES;
 }

@@ -96,7 +96,7 @@ std::wstring NameOf(const STRRET& name, const ITEMIDLIST& item) {
 }  // namespace
 
 void QVNetworkFolders::ListShares(LPCSTR pszMachine, QVFolderTaker& taker) {
-    std::wstring strMachine = qv::WidePath(pszMachine);
+    std::wstring strMachine = qv::ShellPath(pszMachine);
     NETRESOURCEW machine{};
     machine.lpRemoteName = strMachine.data();
     HANDLE hEnum = nullptr;
@@ -122,7 +122,7 @@ void QVNetworkFolders::ListShares(LPCSTR pszMachine, QVFolderTaker& taker) {
 
 void QVNetworkFolders::ListSubfolders(LPCSTR pszPath, QVFolderTaker& taker) {
     const qv::ComScope com;
-    const std::wstring strPath = qv::WidePath(pszPath);
+    const std::wstring strPath = qv::ShellPath(pszPath);
     IMalloc* pMalloc = nullptr;
     if (strPath.empty() || FAILED(::SHGetMalloc(&pMalloc))) {
         return;
@@ -147,9 +147,9 @@ void QVNetworkFolders::ListSubfolders(LPCSTR pszPath, QVFolderTaker& taker) {
 
 BOOL QVNetworkFolders::MachineAnswers(LPCSTR pszMachine) {
     int nImage;
-    return AskShell(qv::WidePath(pszMachine), nImage);
+    return AskShell(qv::ShellPath(pszMachine), nImage);
 }
 
 int QVNetworkFolders::GetImage(LPCSTR pszPath) {
-    return ImageOf(qv::WidePath(pszPath));
+    return ImageOf(qv::ShellPath(pszPath));
 }

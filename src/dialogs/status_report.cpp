@@ -85,15 +85,9 @@ void ShowBox(const char* pszText, CWnd* pParent) {
     }
     CString strCaption;
     qv::MemorySuffices([&] { strCaption.LoadString(kBoxCaption); });
-    const HWND hParent = pParent->m_hWnd;
-    const BOOL bEnabled = ::IsWindowEnabled(hParent);
     // Without a caption the box has the application's name.
     pParent->MessageBox(pszText, strCaption.IsEmpty() ? nullptr : strCaption.GetString(),
                         MB_ICONSTOP);
-    // The platform leaves it disabled where the program is about to end.
-    if (::IsWindow(hParent)) {
-        ::EnableWindow(hParent, bEnabled);
-    }
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 #include "dialogs/text_dlg.h"
 
+#include "dialogs/ask_parts.h"
 #include "dialogs/dialog_ids.h"
-#include "frame/out_of_memory.h"
 
 namespace {
 
@@ -29,23 +29,23 @@ QVTextDlg::~QVTextDlg() {
 }
 
 void QVTextDlg::SetFilePath(const CString& strPath) {
-    qv::MemorySuffices([&] { m_strFilePath = strPath; });
+    qv::StoreText(m_strFilePath, strPath);
 }
 
 void QVTextDlg::SetMessage(const CString& strMessage) {
-    qv::MemorySuffices([&] { m_strMessage = strMessage; });
+    qv::StoreText(m_strMessage, strMessage);
 }
 
 void QVTextDlg::SetMessage(UINT nStringID) {
-    qv::MemorySuffices([&] { m_strMessage.LoadString(nStringID); });
+    qv::StoreText(m_strMessage, nStringID);
 }
 
 void QVTextDlg::SetTitle(const char* pszTitle) {
-    qv::MemorySuffices([&] { m_strTitle = pszTitle; });
+    qv::StoreText(m_strTitle, pszTitle);
 }
 
 void QVTextDlg::SetTitle(UINT nStringID) {
-    qv::MemorySuffices([&] { m_strTitle.LoadString(nStringID); });
+    qv::StoreText(m_strTitle, nStringID);
 }
 
 void QVTextDlg::DoDataExchange(CDataExchange* pDX) {
