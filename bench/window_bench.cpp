@@ -1,5 +1,5 @@
 // The controls in real windows: window_bench [tree | list | grid | text | boxes | buttons |
-// containers | common | dialogs]; all without an argument.
+// containers | common | dialogs | activex]; all without an argument.
 
 #include "window_bench.h"
 
@@ -46,6 +46,9 @@ int main(int argc, char** argv) {
     }
     if (asked("dialogs")) {
         MeasureDialogs();
+    }
+    if (asked("activex")) {
+        MeasureActiveX();
     }
     return 0;
 }

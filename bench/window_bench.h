@@ -47,3 +47,4 @@ void MeasureCombo();
 void MeasureContainers();
 void MeasureCommon();
 void MeasureDialogs();
+void MeasureActiveX();

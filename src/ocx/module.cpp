@@ -1,0 +1,7 @@
+#include "ocx/qvocx.h"
+
+HRESULT QVRegisterControls() {
+    return E_NOTIMPL;
+}
+
+void QVRevokeControls() {}
