@@ -1,10 +1,12 @@
 #include "support/test_app.h"
 
+#include <afxdisp.h>
+
 #include <gtest/gtest.h>
 
 int TestApp::DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt) {
     m_prompts.emplace_back(lpszPrompt);
-    return m_bShowsBoxes ? CWinApp::DoMessageBox(lpszPrompt, nType, nIDPrompt) : IDOK;
+    return m_bShowsBoxes ? CWinApp::DoMessageBox(lpszPrompt, nType, nIDPrompt) : m_nAnswer;
 }
 
 LRESULT TestApp::ProcessWndProcException(CException* e, const MSG* pMsg) {
@@ -31,6 +33,8 @@ int RunTests(int argc, char** argv) {
     if (!AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), SW_SHOWNORMAL)) {
         return 1;
     }
+    AfxOleInit();
+    AfxEnableControlContainer();
     const int nResult = RUN_ALL_TESTS();
     AfxWinTerm();
     return nResult;

@@ -13,6 +13,7 @@ public:
     TestApp() : CWinApp("Window tests") {}
 
     std::vector<std::string> m_prompts;         ///< texts of message boxes
+    int m_nAnswer = IDOK;                       ///< to each of them
     bool m_bShowsBoxes = false;                 ///< real ones, which want an answer
     std::vector<std::string> m_exceptions;      ///< messages of exceptions that left a handler
     std::function<void(CException*)> m_report;  ///< runs before an exception is written down

@@ -1,5 +1,6 @@
 #include "afx/app/app.h"
 
+#include "afx/ole/ole_init.h"
 #include "afx/window/wnd_state.h"
 
 #include <afxcmn.h>
@@ -24,6 +25,9 @@ CWinApp::CWinApp(LPCTSTR lpszAppName) : m_strAppName(lpszAppName) {
 }
 
 CWinApp::~CWinApp() {
+    ::GlobalFree(m_hDevMode);
+    ::GlobalFree(m_hDevNames);
+    delete m_pDocManager;
     AFX_MODULE_STATE* pState = AfxGetModuleState();
     if (pState->m_pCurrentWinApp == this) {
         pState->m_pCurrentWinApp = nullptr;
@@ -105,6 +109,7 @@ void AfxWinTerm() {
     CGdiObject::DeleteTempMap();
     CMenu::DeleteTempMap();
     CImageList::DeleteTempMap();
+    AfxOleTerm();
 }
 
 int AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow) {
@@ -151,6 +156,9 @@ int CWinApp::Run() {
 }
 
 BOOL CWinApp::OnIdle(LONG lCount) {
+    if (lCount == 0 && m_pDocManager != nullptr) {
+        m_pDocManager->OnIdle();
+    }
     return CWinThread::OnIdle(lCount);
 }
 

@@ -3,6 +3,10 @@
 
 #include "afx/window/wnd.h"
 
+#include <afxcoll.h>
+
+class CPrintDialog;
+
 /// A thread with a message pump. The application object is the main thread's.
 class QVAFX_API CWinThread : public CCmdTarget {
     DECLARE_DYNAMIC(CWinThread)
@@ -47,6 +51,10 @@ private:
     UINT m_nLastMouseMsg = 0;
 };
 
+class CDocManager;
+class CDocTemplate;
+class CDocument;
+
 /// The application. A program has one global object of a class derived from this.
 class QVAFX_API CWinApp : public CWinThread {
     DECLARE_DYNAMIC(CWinApp)
@@ -70,6 +78,22 @@ public:
     int Run() override;
     BOOL OnIdle(LONG lCount) override;
 
+    // Documents
+    CDocManager* m_pDocManager = nullptr;  ///< owned; made by the first AddDocTemplate
+    /// The template belongs to the application from then on.
+    void AddDocTemplate(CDocTemplate* pTemplate);
+    POSITION GetFirstDocTemplatePosition() const;
+    CDocTemplate* GetNextDocTemplate(POSITION& pos) const;
+    /// Null on failure, of which the user has been told, and without templates.
+    virtual CDocument* OpenDocumentFile(LPCTSTR lpszFileName);
+    virtual void AddToRecentFileList(LPCTSTR lpszPathName);  ///< no such list is kept here
+    virtual BOOL SaveAllModified();
+    void CloseAllDocuments(BOOL bEndSession);
+    int GetOpenDocumentCount();
+    /// Asks for a file name; see CDocManager.
+    BOOL DoPromptFileName(CString& fileName, UINT nIDSTitle, DWORD lFlags, BOOL bOpenFileDialog,
+                          CDocTemplate* pTemplate);
+
     HICON LoadIcon(LPCTSTR lpszResourceName) const;
     HICON LoadIcon(UINT nIDResource) const;
     HICON LoadStandardIcon(LPCTSTR lpszIconName) const;
@@ -89,6 +113,16 @@ public:
     BOOL GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* ppData, UINT* pBytes);
     BOOL WriteProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE pData, UINT nBytes);
 
+    // The printer for all jobs: the default one until the user or the program chooses another.
+    UINT m_nNumPreviewPages = 0;  ///< side by side when a preview was closed last
+    /// FALSE if there is no printer. The handles in pPrintDlg stay the application's.
+    BOOL GetPrinterDeviceDefaults(struct tagPDA* pPrintDlg);
+    /// Takes both handles over; two null ones mean the default printer.
+    void SelectPrinter(HANDLE hDevNames, HANDLE hDevMode, BOOL bFreeOld = TRUE);
+    BOOL CreatePrinterDC(CDC& dc);
+    /// Shows the dialog with the application's printer, and keeps the one that comes back.
+    INT_PTR DoPrintDialog(CPrintDialog* pPD);
+
     virtual int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt);
     /// 1 shows the wait cursor, -1 takes one call back, 0 shows it again if calls are open.
     virtual void DoWaitCursor(int nCode);
@@ -99,13 +133,19 @@ protected:
     void SetRegistryKey(LPCTSTR lpszRegistryKey);
     void SetRegistryKey(UINT nIDRegistryKey);
 
+    // For ID_FILE_NEW and ID_FILE_OPEN, in the map of an application that wants them.
+    afx_msg void OnFileNew();
+    afx_msg void OnFileOpen();
     afx_msg void OnAppExit();
+    afx_msg void OnFilePrintSetup();
     /// For ID_HELP, as F1 sends it: asks from the window that has the focus up to the main window
     /// who gives help (WM_COMMANDHELP).
     afx_msg void OnHelp();
 
     int m_nWaitCursorCount = 0;
     HCURSOR m_hcurWaitCursorRestore = nullptr;
+    HGLOBAL m_hDevMode = nullptr;  ///< of the printer; null: not asked for yet
+    HGLOBAL m_hDevNames = nullptr;
 
     DECLARE_MESSAGE_MAP()
 

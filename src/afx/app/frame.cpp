@@ -12,6 +12,9 @@ BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
     ON_WM_CREATE()
     ON_WM_CLOSE()
     ON_WM_DESTROY()
+    ON_WM_ACTIVATE()
+    ON_WM_QUERYENDSESSION()
+    ON_WM_ENDSESSION()
     ON_WM_SIZE()
     ON_WM_ERASEBKGND()
     ON_WM_SETFOCUS()
@@ -25,6 +28,7 @@ const CRect CFrameWnd::rectDefault(CW_USEDEFAULT, CW_USEDEFAULT, 0, 0);
 CFrameWnd::CFrameWnd() = default;
 
 CFrameWnd::~CFrameWnd() {
+    m_bBeingDeleted = true;
     if (m_hWnd != nullptr) {
         DestroyWindow();
     }
@@ -35,14 +39,18 @@ BOOL CFrameWnd::IsFrameWnd() const {
 }
 
 void CFrameWnd::PostNcDestroy() {
-    delete this;
+    if (!m_bBeingDeleted) {
+        delete this;
+    }
 }
 
 BOOL CFrameWnd::PreCreateWindow(CREATESTRUCT& cs) {
     if (cs.lpszClass == nullptr) {
         cs.lpszClass = AFX_WNDCLASS_FRAME;
     }
-    cs.style &= ~FWS_ADDTOTITLE;
+    if (cs.style & FWS_ADDTOTITLE) {
+        cs.style |= FWS_PREFIXTITLE;
+    }
     return CWnd::PreCreateWindow(cs);
 }
 
@@ -111,7 +119,9 @@ BOOL CFrameWnd::LoadAccelTable(LPCTSTR lpszResourceName) {
 }
 
 HACCEL CFrameWnd::GetDefaultAccelerator() {
-    return m_hAccelTable;
+    CDocument* pDoc = GetActiveDocument();
+    HACCEL hAccel = pDoc != nullptr ? pDoc->GetDefaultAccelerator() : nullptr;
+    return hAccel != nullptr ? hAccel : m_hAccelTable;
 }
 
 int CFrameWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
@@ -129,68 +139,8 @@ int CFrameWnd::OnCreateHelper(LPCREATESTRUCT lpcs, CCreateContext* pContext) {
     return 0;
 }
 
-BOOL CFrameWnd::OnCreateClient(LPCREATESTRUCT, CCreateContext* pContext) {
-    if (pContext == nullptr || pContext->m_pNewViewClass == nullptr) {
-        return TRUE;
-    }
-    // The client window deletes itself, as views do.
-    auto* pView = dynamic_cast<CWnd*>(pContext->m_pNewViewClass->CreateObject());
-    if (pView == nullptr || !pView->Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE | WS_BORDER,
-                                           CRect(0, 0, 0, 0), this, AFX_IDW_PANE_FIRST, pContext)) {
-        return FALSE;
-    }
-    SetActiveClient(pView);
-    return TRUE;
-}
-
-void CFrameWnd::InitialUpdateFrame(CDocument*, BOOL bMakeVisible) {
-    if (m_pActiveClient == nullptr) {
-        m_pActiveClient = GetDescendantWindow(AFX_IDW_PANE_FIRST, TRUE);
-    }
-    if (bMakeVisible) {
-        SendMessageToDescendants(WM_INITIALUPDATE, 0, 0, TRUE, TRUE);
-        ActivateFrame(-1);
-    }
-    OnUpdateFrameTitle(TRUE);
-}
-
-void CFrameWnd::ActivateFrame(int nCmdShow) {
-    if (nCmdShow == -1) {
-        nCmdShow = IsIconic() ? SW_RESTORE : IsWindowVisible() ? -1 : SW_SHOWNORMAL;
-    }
-    if (nCmdShow != -1) {
-        ShowWindow(nCmdShow);
-    }
-    BringWindowToTop();
-}
-
 CFrameWnd* CFrameWnd::GetActiveFrame() {
     return this;
-}
-
-void CFrameWnd::OnUpdateFrameTitle(BOOL) {
-    CString strNow;
-    GetWindowText(strNow);
-    if (strNow != m_strTitle) {
-        SetWindowText(m_strTitle);
-    }
-}
-
-// Closing
-
-void CFrameWnd::OnClose() {
-    CWinThread* pThread = AfxGetThread();
-    if (pThread != nullptr && pThread->m_pMainWnd == this) {
-        // The application's other windows would look odd without it while it goes away.
-        ShowOwnedPopups(FALSE);
-    }
-    DestroyWindow();
-}
-
-void CFrameWnd::OnDestroy() {
-    m_pActiveClient = nullptr;
-    m_hAccelTable = nullptr;  // loaded accelerators are the system's to free
-    CWnd::OnDestroy();
 }
 
 // Layout
@@ -215,7 +165,9 @@ BOOL CFrameWnd::OnEraseBkgnd(CDC*) {
 }
 
 void CFrameWnd::OnSetFocus(CWnd* pOldWnd) {
-    if (m_pActiveClient != nullptr && ::IsWindow(m_pActiveClient->m_hWnd)) {
+    if (m_pViewActive != nullptr) {
+        m_pViewActive->SetFocus();
+    } else if (m_pActiveClient != nullptr && ::IsWindow(m_pActiveClient->m_hWnd)) {
         m_pActiveClient->SetFocus();
     } else {
         CWnd::OnSetFocus(pOldWnd);
@@ -225,14 +177,18 @@ void CFrameWnd::OnSetFocus(CWnd* pOldWnd) {
 // Commands
 
 BOOL CFrameWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
+    // Each may destroy the frame and yet let the command go on.
+    const HWND hWnd = m_hWnd;
     CWnd* pClient = m_pActiveClient;
-    if (pClient == nullptr) {
+    if (m_pViewActive != nullptr) {
+        pClient = m_pViewActive;
+    } else if (pClient == nullptr) {
         pClient = FromHandlePermanent(::GetDlgItem(m_hWnd, AFX_IDW_PANE_FIRST));
     }
     if (pClient != nullptr && pClient->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) {
         return TRUE;
     }
-    if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) {
+    if (FromHandlePermanent(hWnd) == this && CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) {
         return TRUE;
     }
     CWinApp* pApp = AfxGetApp();

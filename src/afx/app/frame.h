@@ -4,11 +4,13 @@
 #include "afx/window/wnd.h"
 
 #include <afxcoll.h>
+#include <afxres.h>
 
 class CControlBar;
 class CDocument;
 class CDocTemplate;
 class CView;
+struct CPrintPreviewState;
 
 /// What a frame hands down to the window that it creates inside.
 struct CCreateContext {
@@ -19,10 +21,12 @@ struct CCreateContext {
     CFrameWnd* m_pCurrentFrame = nullptr;
 };
 
-#define FWS_ADDTOTITLE 0x00008000L
+// Styles of frames
+#define FWS_ADDTOTITLE 0x00008000L   // the title names the document
+#define FWS_PREFIXTITLE 0x00004000L  // the document's name comes first
 
-/// Commands go to the active view (or, without one, the client window), the frame, the application.
-/// A frame is made with new and deletes itself with its window.
+/// Commands go to the active view and its document (or, without one, the client window), the frame,
+/// the application. A frame is made with new and deletes itself with its window.
 class QVAFX_API CFrameWnd : public CWnd {
     DECLARE_DYNCREATE(CFrameWnd)
 
@@ -46,13 +50,25 @@ public:
     virtual HACCEL GetDefaultAccelerator();
 
     BOOL m_bAutoMenuEnable = TRUE;  ///< disable menu items whose command nobody handles
+    int m_nWindow = 0;              ///< 1 and on among several frames of one document, else 0
 
     virtual CFrameWnd* GetActiveFrame();
+    /// Null if none is active.
+    CView* GetActiveView() const { return m_pViewActive; }
+    /// Tells the view of before, and then, with bNotify, the new one. If one of them names another
+    /// view meanwhile, that counts.
+    void SetActiveView(CView* pViewNew, BOOL bNotify = TRUE);
+    /// The active view's.
+    virtual CDocument* GetActiveDocument();
+    /// Makes the window of the context's view class, which may be any window's. Null on failure.
+    CWnd* CreateView(CCreateContext* pContext, UINT nID = AFX_IDW_PANE_FIRST);
     /// The client window that gets commands first. A frame without views may name any window.
     CWnd* GetActiveClient() const { return m_pActiveClient; }
     void SetActiveClient(CWnd* pWnd) { m_pActiveClient = pWnd; }
 
     virtual void RecalcLayout(BOOL bNotify = TRUE);
+    /// Before the frame shows first. The first pane's view becomes the active one, unless another
+    /// is. With bMakeVisible all views get their initial update, and the frame shows.
     void InitialUpdateFrame(CDocument* pDoc, BOOL bMakeVisible);
     virtual void ActivateFrame(int nCmdShow = -1);
     virtual CWnd* GetMessageBar();
@@ -66,6 +82,10 @@ public:
     CString GetTitle() const { return m_strTitle; }
 
     virtual void OnUpdateFrameTitle(BOOL bAddToTitle);
+    void UpdateFrameTitleForDocument(LPCTSTR lpszDocName);
+    /// Print preview begins or ends: bars and views make room or come back.
+    virtual void OnSetPreviewMode(BOOL bPreview, CPrintPreviewState* pState);
+    BOOL(CALLBACK* m_lpfnCloseProc)(CFrameWnd* pFrameWnd) = nullptr;  ///< asked before OnClose
     virtual BOOL OnCreateClient(LPCREATESTRUCT lpcs, CCreateContext* pContext);
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     BOOL PreTranslateMessage(MSG* pMsg) override;
@@ -77,8 +97,13 @@ protected:
     int OnCreateHelper(LPCREATESTRUCT lpcs, CCreateContext* pContext);
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    /// Asks the active document. The last frame of a document closes it; the main window closes all
+    /// documents. Does nothing while somebody is being asked already.
     afx_msg void OnClose();
     afx_msg void OnDestroy();
+    afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
+    afx_msg BOOL OnQueryEndSession();
+    afx_msg void OnEndSession(BOOL bEnding);
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
@@ -92,11 +117,17 @@ protected:
     UINT m_nIDLastMessage = 0;
     CString m_strTitle;
     CWnd* m_pActiveClient = nullptr;
+    CView* m_pViewActive = nullptr;
 
     DECLARE_MESSAGE_MAP()
 
 private:
     friend class CControlBar;
+    BOOL MayClose();
+    void Close();
+
+    bool m_bAskingToClose = false;
+    bool m_bBeingDeleted = false;
     CPtrList m_listControlBars;            ///< not owned
     CCreateContext* m_pContext = nullptr;  ///< while being created
 };

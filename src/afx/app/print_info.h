@@ -17,6 +17,8 @@ struct QVAFX_API CPrintInfo {
 
     CPrintDialog* m_pPD;
     BOOL m_bDocObject = FALSE;
+    DWORD m_dwFlags = 0;     ///< of a job for a document object
+    UINT m_nOffsetPage = 0;  ///< pages of other documents before this one's, in such a job
     BOOL m_bPreview = FALSE;
     BOOL m_bDirect = FALSE;           ///< without a dialog
     BOOL m_bContinuePrinting = TRUE;  ///< set to FALSE to end the job before its last page
@@ -34,4 +36,5 @@ struct QVAFX_API CPrintInfo {
     // The part to print: all of the document unless the dialog says otherwise.
     UINT GetFromPage() const;
     UINT GetToPage() const;
+    UINT GetOffsetPage() const { return m_nOffsetPage; }
 };

@@ -143,9 +143,9 @@ void CStatusBar::OnSize(UINT nType, int cx, int cy) {
 }
 
 LRESULT CStatusBar::OnSetText(WPARAM, LPARAM lParam) {
-    // The bar's own text is that of the message pane.
-    const int nPane = CommandToIndex(ID_SEPARATOR);
-    return nPane >= 0 ? SetPaneText(nPane, reinterpret_cast<LPCTSTR>(lParam)) : Default();
+    // The bar's own text is that of the message pane; where there is none, of the first.
+    const int nPane = std::max(CommandToIndex(ID_SEPARATOR), 0);
+    return SetPaneText(nPane, reinterpret_cast<LPCTSTR>(lParam));
 }
 
 CSize CStatusBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz) {

@@ -1,4 +1,5 @@
 // Data exchange: one value, one control, either way.
+#include "afx/ole/wnd_control.h"
 #include "afx/window/wnd_state.h"
 
 #include <afxcmn.h>
@@ -188,7 +189,9 @@ void CheckRange(CDataExchange* pDX, Number value, Number minVal, Number maxVal) 
 }  // namespace
 
 void DDX_Control(CDataExchange* pDX, int nIDC, CWnd& rControl) {
-    if (rControl.m_hWnd == nullptr && !rControl.SubclassWindow(pDX->PrepareCtrl(nIDC))) {
+    if (rControl.m_hWnd == nullptr && rControl.m_pCtrlSite == nullptr &&
+        !AfxTakeWindowlessControl(rControl, pDX->m_pDlgWnd, static_cast<UINT>(nIDC)) &&
+        !rControl.SubclassWindow(pDX->PrepareCtrl(nIDC))) {
         AfxThrowNotSupportedException();
     }
 }

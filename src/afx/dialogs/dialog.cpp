@@ -1,6 +1,8 @@
 #include "afx/dialogs/dialog.h"
 
 #include "afx/dialogs/modal_owner.h"
+#include "afx/ole/control_container.h"
+#include "afx/ole/occ_dialog.h"
 #include "afx/window/wnd_state.h"
 
 #include <afxdlgs.h>
@@ -81,6 +83,13 @@ CDialog::~CDialog() {
     if (m_hWnd != nullptr) {
         DestroyWindow();
     }
+    delete m_pOccDialogInfo;
+}
+
+BOOL CDialog::SetOccDialogInfo(_AFX_OCC_DIALOG_INFO* pOccDialogInfo) {
+    delete m_pOccDialogInfo;
+    m_pOccDialogInfo = pOccDialogInfo;
+    return TRUE;
 }
 
 BOOL CDialog::Create(UINT nIDTemplate, CWnd* pParentWnd) {
@@ -142,13 +151,46 @@ BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWn
                                 HINSTANCE hInst) {
     m_nModalResult = -1;
     m_nFlags |= WF_CONTINUEMODAL;  // so that OnInitDialog may end it
+    m_bControlsFailed = false;
+    auto pControls = AfxSplitDialogTemplate(lpDialogTemplate);
+    if (pControls != nullptr) {
+        lpDialogTemplate = pControls->Template();
+    }
+    SetOccDialogInfo(pControls.release());
     AfxHookWindowCreate(this);
     HWND hWnd =
         ::CreateDialogIndirect(hInst, lpDialogTemplate, pParentWnd->GetSafeHwnd(), AfxDialogProc);
     if (!AfxUnhookWindowCreate()) {
         PostNcDestroy();
     }
+    if (CWnd::FromHandlePermanent(hWnd) == this && m_bControlsFailed) {
+        ::DestroyWindow(hWnd);
+        return FALSE;
+    }
     return hWnd != nullptr;
+}
+
+bool CDialog::MakeControls() {
+    if (m_pOccDialogInfo == nullptr) {
+        return true;
+    }
+    const HWND hWnd = m_hWnd;
+    const void* const pInit =
+        m_lpDialogInit != nullptr ? m_lpDialogInit : AfxFindDlgInit(m_lpszTemplateName);
+    bool bMade = false;
+    try {
+        bMade = AfxCreateDlgControls(*this, *m_pOccDialogInfo, pInit) != FALSE;
+    } catch (...) {
+        AfxProcessCurrentException(hWnd, WM_INITDIALOG);
+    }
+    if (!bMade && CWnd::FromHandlePermanent(hWnd) == this) {
+        if (m_pCtrlCont != nullptr) {
+            m_pCtrlCont->EndAllControls();
+        }
+        m_bControlsFailed = !IsKindOf(RUNTIME_CLASS(CPropertyPage));
+        bMade = !m_bControlsFailed;
+    }
+    return bMade;
 }
 
 HWND CDialog::PreModal() {
@@ -221,7 +263,9 @@ void CDialog::PreInitDialog() {}
 void CDialog::OnSetFont(CFont*) {}
 
 BOOL CDialog::OnInitDialog() {
-    if (!UpdateData(FALSE)) {
+    const BOOL bFilled = m_lpDialogInit != nullptr ? ExecuteDlgInit(m_lpDialogInit)
+                                                   : ExecuteDlgInit(m_lpszTemplateName);
+    if (!bFilled || !UpdateData(FALSE)) {
         EndDialog(-1);
         return FALSE;
     }
@@ -240,6 +284,9 @@ void CDialog::OnCancel() {
 
 LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM) {
     PreInitDialog();
+    if (!MakeControls()) {
+        return FALSE;  // whoever made the dialog takes it away
+    }
     CRect rcBefore;
     GetWindowRect(rcBefore);
     const LRESULT bDefaultFocus = Default();  // calls OnInitDialog by way of the dialog procedure

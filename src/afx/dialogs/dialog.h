@@ -18,11 +18,19 @@ public:
     /// window has no such control.
     HWND PrepareCtrl(int nIDC);
     HWND PrepareEditCtrl(int nIDC);
+    /// The same for an ActiveX control.
+    COleControlSite* PrepareOleCtrl(int nIDC);
     /// Ends the pass by an exception, after putting the focus where the bad value stands.
     void Fail();
 };
 
 /// A dialog, modal (DoModal) or not (Create). Templates are looked up along the resource chain.
+///
+/// Items of class "{class id}" are ActiveX controls, once AfxEnableControlContainer was called.
+/// They are there when OnInitDialog is called, with the state that DLGINIT data has for them. A
+/// dialog of which one cannot be made is not made: DoModal gives -1, Create FALSE, and what was
+/// made of it is gone; OnInitDialog is not called. A page of a property sheet comes up without its
+/// controls.
 class QVAFX_API CDialog : public CWnd {
     DECLARE_DYNAMIC(CDialog)
 
@@ -60,6 +68,7 @@ public:
     virtual void OnSetFont(CFont* pFont);
     BOOL PreTranslateMessage(MSG* pMsg) override;
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
+    BOOL SetOccDialogInfo(_AFX_OCC_DIALOG_INFO* pOccDialogInfo) override;
 
 protected:
     virtual void OnOK();
@@ -75,6 +84,7 @@ protected:
     HGLOBAL m_hDialogTemplate = nullptr;
     LPCDLGTEMPLATE m_lpDialogTemplate = nullptr;
     void* m_lpDialogInit = nullptr;
+    _AFX_OCC_DIALOG_INFO* m_pOccDialogInfo = nullptr;  ///< owned; null without ActiveX controls
     CWnd* m_pParentWnd = nullptr;
     bool m_bDisabledOwner = false;  ///< for as long as it is modal
     HWND m_hWndTop = nullptr;  ///< top-level window disabled meanwhile, if it is not the parent
@@ -86,7 +96,10 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    bool MakeControls();
+
     CString m_strTemplateName;  ///< owns a name given as text
+    bool m_bControlsFailed = false;
     INT_PTR RunModal(LPCDLGTEMPLATE lpDialogTemplate, HINSTANCE hInst);
     void RunModalFor(HWND hWndOwner, LPCDLGTEMPLATE lpDialogTemplate, HINSTANCE hInst);
 };

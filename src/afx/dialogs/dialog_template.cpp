@@ -1,118 +1,11 @@
 #include "afx/dialogs/dialog_template.h"
 
+#include "afx/dialogs/template_view.h"
+
 #include <algorithm>
 #include <cstring>
 
 namespace {
-
-constexpr WORD kOrdinal = 0xFFFF;      // a number follows instead of a text
-constexpr WORD kMessageFont = 0x7FFF;  // stands for the system's message font, without a name
-constexpr DWORD kItemAlignment = 4;
-
-/// The start of a DIALOGEX template.
-#pragma pack(push, 1)
-struct ExtendedHead {
-    WORD nVersion;
-    WORD nSignature;  // kOrdinal, which no style of a DIALOG template begins with
-    DWORD dwHelpID;
-    DWORD dwExStyle;
-    DWORD dwStyle;
-    WORD nItems;
-    short x;
-    short y;
-    short cx;
-    short cy;
-};
-struct ExtendedItem {
-    DWORD dwHelpID;
-    DWORD dwExStyle;
-    DWORD dwStyle;
-    short x;
-    short y;
-    short cx;
-    short cy;
-    DWORD nID;
-};
-/// What stands before the name of a DIALOGEX template's font.
-struct ExtendedFontHead {
-    WORD nPoints = 0;
-    WORD nWeight = FW_NORMAL;
-    BYTE bItalic = FALSE;
-    BYTE nCharSet = DEFAULT_CHARSET;
-};
-#pragma pack(pop)
-
-const BYTE* Aligned(const BYTE* pStart, const BYTE* p) {
-    const auto nOffset = static_cast<size_t>(p - pStart);
-    return pStart + (nOffset + kItemAlignment - 1) / kItemAlignment * kItemAlignment;
-}
-
-/// Where the parts of a template lie.
-class TemplateView {
-public:
-    explicit TemplateView(const DLGTEMPLATE* pTemplate)
-        : m_pStart(reinterpret_cast<const BYTE*>(pTemplate)),
-          m_bExtended(Extended().nSignature == kOrdinal) {}
-
-    DWORD Style() const { return m_bExtended ? Extended().dwStyle : Plain().style; }
-    int Items() const { return m_bExtended ? Extended().nItems : Plain().cdit; }
-    SIZE Units() const {
-        return m_bExtended ? SIZE{Extended().cx, Extended().cy} : SIZE{Plain().cx, Plain().cy};
-    }
-    /// Without a name of its own, the font is none that a template could hand on.
-    bool HasFont() const { return HasFontPart() && Word(FontPart()) != kMessageFont; }
-
-    bool HasFontPart() const { return (Style() & DS_SETFONT) != 0; }
-    const BYTE* FontPart() const {
-        const BYTE* p = m_pStart + (m_bExtended ? sizeof(ExtendedHead) : sizeof(DLGTEMPLATE));
-        p = BehindText(p);     // menu
-        p = BehindText(p);     // class
-        return BehindText(p);  // caption
-    }
-    const BYTE* Face() const { return FontPart() + FontHeadBytes(); }
-    const BYTE* BehindFont() const {
-        if (!HasFontPart()) {
-            return FontPart();
-        }
-        return HasFont() ? BehindText(Face()) : FontPart() + sizeof(WORD);
-    }
-    size_t FontHeadBytes() const {
-        return m_bExtended ? sizeof(ExtendedFontHead) : sizeof(WORD);  // the points alone
-    }
-    const BYTE* FirstItem() const { return Aligned(m_pStart, BehindFont()); }
-    const BYTE* End() const {
-        const BYTE* p = BehindFont();
-        for (int i = 0; i < Items(); ++i) {
-            p = Aligned(m_pStart, p);
-            p += m_bExtended ? sizeof(ExtendedItem) : sizeof(DLGITEMTEMPLATE);
-            p = BehindText(p);  // class
-            p = BehindText(p);  // text
-            p += sizeof(WORD) + Word(p);
-        }
-        return p;
-    }
-    bool IsExtended() const { return m_bExtended; }
-
-    static WORD Word(const BYTE* p) { return *reinterpret_cast<const WORD*>(p); }
-
-private:
-    const DLGTEMPLATE& Plain() const { return *reinterpret_cast<const DLGTEMPLATE*>(m_pStart); }
-    const ExtendedHead& Extended() const {
-        return *reinterpret_cast<const ExtendedHead*>(m_pStart);
-    }
-    static const BYTE* BehindText(const BYTE* p) {
-        if (Word(p) == kOrdinal) {
-            return p + 2 * sizeof(WORD);
-        }
-        while (Word(p) != 0) {
-            p += sizeof(WORD);
-        }
-        return p + sizeof(WORD);
-    }
-
-    const BYTE* m_pStart;
-    bool m_bExtended;
-};
 
 /// A template's memory, locked while this lives.
 class LockedTemplate {
@@ -135,14 +28,14 @@ private:
 
 /// The units of a dialog in its template's font: the average width of a letter, and the height of a
 /// line.
-SIZE UnitsOfFont(const TemplateView& view, LPCTSTR lpszFace, WORD nPoints) {
+SIZE UnitsOfFont(const AfxTemplateView& view, LPCTSTR lpszFace, WORD nPoints) {
     constexpr int kTenths = 10;  // of a point
     LOGFONT log = {};
     log.lfHeight = kTenths * nPoints;
     log.lfCharSet = DEFAULT_CHARSET;
     lstrcpyn(log.lfFaceName, lpszFace, LF_FACESIZE);
     if (view.IsExtended()) {
-        const auto& head = *reinterpret_cast<const ExtendedFontHead*>(view.FontPart());
+        const auto& head = *reinterpret_cast<const AfxExtendedFontHead*>(view.FontPart());
         log.lfWeight = head.nWeight;
         log.lfItalic = head.bItalic;
         log.lfCharSet = head.nCharSet;
@@ -166,7 +59,7 @@ SIZE UnitsOfFont(const TemplateView& view, LPCTSTR lpszFace, WORD nPoints) {
 /// memory.
 HGLOBAL CopyWithFont(const DLGTEMPLATE* pTemplate, DWORD dwOldBytes, LPCTSTR lpszFace, WORD nPoints,
                      DWORD& dwNewBytes) {
-    const TemplateView view(pTemplate);
+    const AfxTemplateView view(pTemplate);
     const auto* pStart = reinterpret_cast<const BYTE*>(pTemplate);
     const BYTE* pFont = view.FontPart();
     const BYTE* pItems = view.FirstItem();
@@ -178,8 +71,8 @@ HGLOBAL CopyWithFont(const DLGTEMPLATE* pTemplate, DWORD dwOldBytes, LPCTSTR lps
     const auto nFaceBytes = static_cast<DWORD>((::lstrlenW(szFace) + 1) * sizeof(WCHAR));
     const auto dwFontAt = static_cast<DWORD>(pFont - pStart);
     const DWORD dwFaceAt = dwFontAt + static_cast<DWORD>(view.FontHeadBytes());
-    const DWORD dwItemsAt = (dwFaceAt + nFaceBytes + kItemAlignment - 1) / kItemAlignment *
-                            kItemAlignment;  // counted from the template's start
+    const DWORD dwItemsAt = (dwFaceAt + nFaceBytes + kAfxItemAlignment - 1) / kAfxItemAlignment *
+                            kAfxItemAlignment;  // counted from the template's start
 
     const HGLOBAL hNew = ::GlobalAlloc(GPTR, dwItemsAt + dwItemBytes);
     if (hNew == nullptr) {
@@ -188,12 +81,12 @@ HGLOBAL CopyWithFont(const DLGTEMPLATE* pTemplate, DWORD dwOldBytes, LPCTSTR lps
     auto* const pNew = static_cast<BYTE*>(hNew);
     std::memcpy(pNew, pStart, dwFontAt);
     if (view.IsExtended()) {
-        ExtendedFontHead head;
+        AfxExtendedFontHead head;
         if (view.HasFont()) {
             std::memcpy(&head, pFont, sizeof head);
         }
         std::memcpy(pNew + dwFontAt, &head, sizeof head);
-        reinterpret_cast<ExtendedHead*>(pNew)->dwStyle |= DS_SETFONT;
+        reinterpret_cast<AfxExtendedHead*>(pNew)->dwStyle |= DS_SETFONT;
     } else {
         reinterpret_cast<DLGTEMPLATE*>(pNew)->style |= DS_SETFONT;
     }
@@ -245,7 +138,7 @@ BOOL CDialogTemplate::Load(LPCTSTR lpDialogTemplateID) {
 
 BOOL CDialogTemplate::Attach(LPCDLGTEMPLATE pTemplate) {
     const auto* pStart = reinterpret_cast<const BYTE*>(pTemplate);
-    return Copy(pStart, static_cast<DWORD>(TemplateView(pTemplate).End() - pStart));
+    return Copy(pStart, static_cast<DWORD>(AfxTemplateView(pTemplate).End() - pStart));
 }
 
 HGLOBAL CDialogTemplate::Detach() {
@@ -257,7 +150,7 @@ HGLOBAL CDialogTemplate::Detach() {
 
 BOOL CDialogTemplate::HasFont() const {
     const LockedTemplate locked(m_hTemplate);
-    return locked.Get() != nullptr && TemplateView(locked.Get()).HasFont();
+    return locked.Get() != nullptr && AfxTemplateView(locked.Get()).HasFont();
 }
 
 BOOL CDialogTemplate::GetFont(CString& strFaceName, WORD& nFontSize) const {
@@ -266,7 +159,7 @@ BOOL CDialogTemplate::GetFont(CString& strFaceName, WORD& nFontSize) const {
 }
 
 BOOL CDialogTemplate::GetFont(const DLGTEMPLATE* pTemplate, CString& strFaceName, WORD& nFontSize) {
-    const TemplateView view(pTemplate);
+    const AfxTemplateView view(pTemplate);
     if (!view.HasFont()) {
         return FALSE;
     }
@@ -277,7 +170,7 @@ BOOL CDialogTemplate::GetFont(const DLGTEMPLATE* pTemplate, CString& strFaceName
     const int nUnits = std::min<int>(::lstrlenW(pWide), LF_FACESIZE - 1);
     ::WideCharToMultiByte(CP_ACP, 0, pWide, nUnits, szFace, kMostBytes - 1, nullptr, nullptr);
     strFaceName = szFace;
-    nFontSize = TemplateView::Word(view.FontPart());
+    nFontSize = AfxTemplateView::Word(view.FontPart());
     return TRUE;
 }
 
@@ -304,7 +197,7 @@ BOOL CDialogTemplate::SetSystemFont(WORD nFontSize) {
 
 void CDialogTemplate::GetSizeInDialogUnits(SIZE* pSize) const {
     const LockedTemplate locked(m_hTemplate);
-    *pSize = locked.Get() != nullptr ? TemplateView(locked.Get()).Units() : SIZE{};
+    *pSize = locked.Get() != nullptr ? AfxTemplateView(locked.Get()).Units() : SIZE{};
 }
 
 void CDialogTemplate::GetSizeInPixels(SIZE* pSize) const {
@@ -317,7 +210,7 @@ void CDialogTemplate::GetSizeInPixels(SIZE* pSize) const {
     SIZE units{LOWORD(nSystem), HIWORD(nSystem)};
     if (GetFont(strFace, nPoints)) {
         const LockedTemplate locked(m_hTemplate);
-        units = UnitsOfFont(TemplateView(locked.Get()), strFace, nPoints);
+        units = UnitsOfFont(AfxTemplateView(locked.Get()), strFace, nPoints);
     }
     pSize->cx = ::MulDiv(pSize->cx, units.cx, kUnitsAcross);
     pSize->cy = ::MulDiv(pSize->cy, units.cy, kUnitsDown);

@@ -1,6 +1,7 @@
 // Pages of property sheets: what the platform tells them, and their templates.
 #include "afx/dialogs/modal_owner.h"
 #include "afx/dialogs/prop_sheet_count.h"
+#include "afx/ole/occ_dialog.h"
 #include "afx/window/wnd_state.h"
 
 #include <afxdlgs.h>
@@ -60,6 +61,11 @@ void CPropertyPage::Construct(LPCTSTR lpszTemplateName, UINT nIDCaption) {
 // --- The template
 
 LPCDLGTEMPLATE CPropertyPage::InitDialogInfo(LPCDLGTEMPLATE pTemplate) {
+    auto pControls = AfxSplitDialogTemplate(pTemplate);
+    if (pControls != nullptr) {
+        pTemplate = pControls->Template();
+    }
+    SetOccDialogInfo(pControls.release());
     return pTemplate;
 }
 

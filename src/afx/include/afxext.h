@@ -34,6 +34,7 @@
 #define SBPS_STRETCH 0x08000000
 
 class CStatusBarCtrl;
+class CView;
 
 /// A window that takes a strip off its frame's client area and is kept up to date at idle time.
 class QVAFX_API CControlBar : public CWnd {
@@ -68,6 +69,42 @@ protected:
     CFrameWnd* m_pDockSite = nullptr;
 
     DECLARE_MESSAGE_MAP()
+};
+
+/// A bar whose controls come from a dialog template. What they tell goes to the frame, and their
+/// state comes from its command updates.
+class QVAFX_API CDialogBar : public CControlBar {
+    DECLARE_DYNAMIC(CDialogBar)
+
+public:
+    CDialogBar() = default;
+    ~CDialogBar() override;
+
+    using CWnd::Create;
+    /// nStyle: CBRS_ styles; the template is a child window's.
+    virtual BOOL Create(CWnd* pParentWnd, LPCTSTR lpszTemplateName, UINT nStyle, UINT nID);
+    virtual BOOL Create(CWnd* pParentWnd, UINT nIDTemplate, UINT nStyle, UINT nID);
+
+    CSize m_sizeDefault = CSize(0, 0);  ///< the template's
+
+    CSize CalcFixedLayout(BOOL bStretch, BOOL bHorz) override;
+    void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) override;
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+
+protected:
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+};
+
+/// How a frame looked before print preview, which keeps this until it ends.
+struct CPrintPreviewState {
+    UINT nIDMainPane = AFX_IDW_PANE_FIRST;  ///< the window that makes room
+    HMENU hMenu = nullptr;
+    DWORD dwStates = 0;  ///< bars to show again, by their numbers from AFX_IDW_CONTROLBAR_FIRST on
+    CView* pViewActiveOld = nullptr;
+    HACCEL hAccelTable = nullptr;
+    /// Called when the frame is closed: ends the preview, and gives FALSE to keep the frame.
+    BOOL(CALLBACK* lpfnCloseProc)(CFrameWnd* pFrameWnd) = nullptr;
 };
 
 /// Panes of text along the lower edge of a frame. The pane of ID_SEPARATOR shows messages; others

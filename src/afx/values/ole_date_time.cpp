@@ -1,4 +1,4 @@
-#include <afxdisp.h>
+#include "afx/values/ole_date_time.h"
 #include <afxres.h>
 
 #include <cmath>

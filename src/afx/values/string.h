@@ -125,6 +125,10 @@ QVAFX_API CString operator+(char ch, const CString& string);
 QVAFX_API CString operator+(const CString& string, LPCSTR lpsz);
 QVAFX_API CString operator+(LPCSTR lpsz, const CString& string);
 
+/// The part of that number, from 0 on, between separators. FALSE, and empty, if there is none.
+QVAFX_API BOOL AfxExtractSubString(CString& rString, LPCSTR lpszFullString, int iSubString,
+                                   char chSep = '\n');
+
 inline bool operator==(const CString& s1, const CString& s2) {
     return s1.Compare(s2) == 0;
 }

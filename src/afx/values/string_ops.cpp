@@ -7,6 +7,7 @@
 #include <afxdll_.h>
 
 #include <algorithm>
+#include <cstring>
 #include <mbctype.h>
 #include <mbstring.h>
 
@@ -349,4 +350,20 @@ BSTR CString::AllocSysString() const {
     }
     ::MultiByteToWideChar(CP_ACP, 0, m_pchData, GetLength(), bstr, nWide);
     return bstr;
+}
+
+BOOL AfxExtractSubString(CString& rString, LPCSTR lpszFullString, int iSubString, char chSep) {
+    rString.Empty();
+    LPCSTR pszPart = lpszFullString;
+    for (int nPart = 0; pszPart != nullptr && nPart < iSubString; ++nPart) {
+        const LPCSTR pszEnd = std::strchr(pszPart, chSep);
+        pszPart = pszEnd != nullptr ? pszEnd + 1 : nullptr;
+    }
+    if (pszPart == nullptr) {
+        return FALSE;
+    }
+    const LPCSTR pszEnd = std::strchr(pszPart, chSep);
+    rString = CString(pszPart, pszEnd != nullptr ? static_cast<int>(pszEnd - pszPart)
+                                                 : static_cast<int>(std::strlen(pszPart)));
+    return TRUE;
 }

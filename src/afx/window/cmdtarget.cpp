@@ -103,6 +103,9 @@ const AFX_MSGMAP_ENTRY* AfxFindCommandEntry(const AFX_MSGMAP* pMap, UINT nMsg, U
 }
 
 BOOL CCmdTarget::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
+    if (static_cast<UINT>(nCode) == CN_EVENT) {
+        return OnEvent(nID, static_cast<AFX_EVENT*>(pExtra), pHandlerInfo);
+    }
     const bool bPlainUpdate = static_cast<UINT>(nCode) == CN_UPDATE_COMMAND_UI;
     UINT nMsg = bPlainUpdate ? 0 : HIWORD(nCode);
     if (nMsg == 0) {

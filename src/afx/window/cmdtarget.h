@@ -3,6 +3,8 @@
 
 #include <afx.h>
 
+struct AFX_EVENT;
+struct AFX_EVENTSINKMAP;
 class CCmdTarget;
 class CCmdUI;
 class CMenu;
@@ -12,6 +14,7 @@ class CWnd;
 // message that it came with (WM_NOTIFY, a reflected message); zero stands for WM_COMMAND.
 #define CN_COMMAND 0
 #define CN_UPDATE_COMMAND_UI ((UINT)(-1))
+#define CN_EVENT ((UINT)(-2))  // of a control: afx/ole/event_sink.h
 
 /// What a map entry's call gets and gives. A message entry reads the parameters; a command entry
 /// reads the identifier and the extra pointers. Clearing bHandled lets the search or routing go on.
@@ -81,6 +84,13 @@ public:
 protected:
     static const AFX_MSGMAP* GetThisMessageMap();
     virtual const AFX_MSGMAP* GetMessageMap() const;
+    static const AFX_EVENTSINKMAP* GetThisEventSinkMap();
+    virtual const AFX_EVENTSINKMAP* GetEventSinkMap() const;
+
+    /// Calls the handler of a control's event, if the event sink map has one. Gives TRUE if the
+    /// event was handled or refused, or, with pHandlerInfo, if there is a handler. Nothing is
+    /// thrown.
+    BOOL OnEvent(UINT idCtrl, AFX_EVENT* pEvent, AFX_CMDHANDLERINFO* pHandlerInfo);
 };
 
 /// The state of one user interface element that stands for a command, while it is brought up to

@@ -1,6 +1,8 @@
 // What CWnd adds nothing to: one call of the system for each operation.
 #include "afx/window/wnd.h"
 
+#include "afx/ole/control_site.h"
+#include "afx/ole/wnd_control.h"
 #include "afx/window/wnd_state.h"
 
 #include <afxwin.h>
@@ -71,20 +73,38 @@ void CWnd::SetOwner(CWnd* pOwnerWnd) {
 // Text and font
 
 void CWnd::SetWindowText(LPCTSTR lpszString) {
+    if (m_pCtrlSite != nullptr) {
+        m_pCtrlSite->SetWindowText(lpszString);
+        return;
+    }
     ::SetWindowText(m_hWnd, lpszString);
 }
 
 int CWnd::GetWindowText(LPTSTR lpszStringBuf, int nMaxCount) const {
+    if (m_pCtrlSite != nullptr) {
+        CString strText;
+        m_pCtrlSite->GetWindowText(strText);
+        return AfxCopyWhole(lpszStringBuf, strText, nMaxCount);
+    }
     return ::GetWindowText(m_hWnd, lpszStringBuf, nMaxCount);
 }
 
 void CWnd::GetWindowText(CString& rString) const {
+    if (m_pCtrlSite != nullptr) {
+        m_pCtrlSite->GetWindowText(rString);
+        return;
+    }
     const int nLength = ::GetWindowTextLength(m_hWnd);
     ::GetWindowText(m_hWnd, rString.GetBuffer(nLength), nLength + 1);
     rString.ReleaseBuffer();
 }
 
 int CWnd::GetWindowTextLength() const {
+    if (m_pCtrlSite != nullptr) {
+        CString strText;
+        m_pCtrlSite->GetWindowText(strText);
+        return strText.GetLength();
+    }
     return ::GetWindowTextLength(m_hWnd);
 }
 
@@ -291,6 +311,9 @@ void CWnd::ValidateRgn(CRgn* pRgn) {
 }
 
 BOOL CWnd::ShowWindow(int nCmdShow) {
+    if (m_pCtrlSite != nullptr) {
+        return m_pCtrlSite->ShowWindow(nCmdShow);
+    }
     return ::ShowWindow(m_hWnd, nCmdShow);
 }
 
@@ -330,6 +353,9 @@ BOOL CWnd::IsWindowEnabled() const {
 }
 
 BOOL CWnd::EnableWindow(BOOL bEnable) {
+    if (m_pCtrlSite != nullptr) {
+        return m_pCtrlSite->EnableWindow(bEnable);
+    }
     return ::EnableWindow(m_hWnd, bEnable);
 }
 
@@ -362,6 +388,9 @@ CWnd* CWnd::GetFocus() {
 }
 
 CWnd* CWnd::SetFocus() {
+    if (m_pCtrlSite != nullptr) {
+        return m_pCtrlSite->SetFocus();
+    }
     return FromHandle(::SetFocus(m_hWnd));
 }
 

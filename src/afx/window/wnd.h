@@ -7,13 +7,19 @@
 #include <afxdll_.h>
 #include <atltypes.h>
 
+#include <oaidl.h>
+
 class CDataExchange;
+class CFile;
 class CFont;
 class CFrameWnd;
 class CListBox;
+class COleControlContainer;
+class COleControlSite;
 class CScrollBar;
 class CWnd;
 struct CCreateContext;
+struct _AFX_OCC_DIALOG_INFO;
 
 /// What a new window gets when no class name is given, by kind.
 #define AFX_WNDCLASS_CHILD "QvAfxWnd"
@@ -283,6 +289,10 @@ public:
     // Data exchange and commands
     /// FALSE fills the controls from the object, TRUE the other way. FALSE if a value was rejected.
     BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
+    /// Fills lists and combo boxes from the DLGINIT data of a dialog, by name or in memory. TRUE if
+    /// there is none; FALSE if a text cannot be added.
+    BOOL ExecuteDlgInit(LPCTSTR lpszResourceName);
+    BOOL ExecuteDlgInit(LPVOID lpResource);
     void UpdateDialogControls(CCmdTarget* pTarget, BOOL bDisableIfNoHndler);
     /// Moves the focus among the items of a dialog-like parent.
     virtual BOOL PreTranslateMessage(MSG* pMsg);
@@ -300,6 +310,57 @@ public:
     BOOL SendChildNotifyLastMsg(LRESULT* pResult = nullptr);
 
     void OnFinalRelease() override;
+
+    // ActiveX controls, once AfxEnableControlContainer was called
+    COleControlContainer* m_pCtrlCont = nullptr;  ///< of the controls in this window
+    COleControlSite* m_pCtrlSite = nullptr;       ///< of the control that this object wraps
+
+    /// Makes a control, whose window this object subclasses; it becomes a child of pParentWnd under
+    /// nID. Class: a ProgID, or a class id in braces. lpszWindowName: its Caption or Text, null for
+    /// as it is. Of the styles, WS_VISIBLE, WS_DISABLED, WS_BORDER, WS_GROUP and WS_TABSTOP count.
+    /// pPersist: its saved state, at the file's position, as a stream or with bStorage as a
+    /// compound file. A null psize, or -1 in it, takes the control's own size. FALSE, and nothing
+    /// left behind, if the control fails at any step. Controls without a window have m_hWnd null.
+    virtual BOOL CreateControl(LPCTSTR lpszClass, LPCTSTR lpszWindowName, DWORD dwStyle,
+                               const RECT& rect, CWnd* pParentWnd, UINT nID,
+                               CFile* pPersist = nullptr, BOOL bStorage = FALSE,
+                               BSTR bstrLicKey = nullptr);
+    virtual BOOL CreateControl(REFCLSID clsid, LPCTSTR lpszWindowName, DWORD dwStyle,
+                               const RECT& rect, CWnd* pParentWnd, UINT nID,
+                               CFile* pPersist = nullptr, BOOL bStorage = FALSE,
+                               BSTR bstrLicKey = nullptr);
+    BOOL CreateControl(LPCTSTR lpszClass, LPCTSTR lpszWindowName, DWORD dwStyle, const POINT* ppt,
+                       const SIZE* psize, CWnd* pParentWnd, UINT nID, CFile* pPersist = nullptr,
+                       BOOL bStorage = FALSE, BSTR bstrLicKey = nullptr);
+    BOOL CreateControl(REFCLSID clsid, LPCTSTR lpszWindowName, DWORD dwStyle, const POINT* ppt,
+                       const SIZE* psize, CWnd* pParentWnd, UINT nID, CFile* pPersist = nullptr,
+                       BOOL bStorage = FALSE, BSTR bstrLicKey = nullptr);
+    /// The control's own, without a reference for the caller; null without a control.
+    LPUNKNOWN GetControlUnknown();
+
+    // The control's members, as those of a COleDispatchDriver; without a control nothing happens,
+    // and results stay as they were.
+    void InvokeHelper(DISPID dwDispID, WORD wFlags, VARTYPE vtRet, void* pvRet,
+                      const BYTE* pbParamInfo, ...);
+    void InvokeHelperV(DISPID dwDispID, WORD wFlags, VARTYPE vtRet, void* pvRet,
+                       const BYTE* pbParamInfo, va_list argList);
+    void GetProperty(DISPID dwDispID, VARTYPE vtProp, void* pvProp) const;
+    void SetProperty(DISPID dwDispID, VARTYPE vtProp, ...);
+    void SetPropertyV(DISPID dwDispID, VARTYPE vtProp, va_list argList);
+
+    /// What a control in this window asks about it: DISPID_AMBIENT_BACKCOLOR and the like. FALSE:
+    /// no such property. The base answers from the window's font and colours.
+    virtual BOOL OnAmbientProperty(COleControlSite* pSite, DISPID dispid, VARIANT* pvar);
+    /// For containers and sites of derived classes, made with new. Null and TRUE: of the
+    /// framework's; FALSE: no control here.
+    virtual BOOL CreateControlContainer(COleControlContainer** ppContainer);
+    virtual BOOL CreateControlSite(COleControlContainer* pContainer, COleControlSite** ppSite,
+                                   UINT nID, REFCLSID clsid);
+    /// FALSE if this window cannot have controls.
+    BOOL InitControlContainer();
+    /// A dialog's ActiveX controls, which were taken out of its template; it owns them from then
+    /// on. FALSE from windows that are no dialogs.
+    virtual BOOL SetOccDialogInfo(_AFX_OCC_DIALOG_INFO* pOccDialogInfo);
 
     UINT m_nFlags = 0;
 

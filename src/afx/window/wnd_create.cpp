@@ -1,6 +1,7 @@
 // Window classes, creation, and how an object and a window find each other.
 #include "afx/window/wnd.h"
 
+#include "afx/ole/wnd_control.h"
 #include "afx/window/wide_input.h"
 #include "afx/window/wnd_state.h"
 
@@ -216,7 +217,7 @@ BOOL CWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, 
 void CWnd::PreSubclassWindow() {}
 
 BOOL CWnd::SubclassWindow(HWND hWnd) {
-    if (!Attach(hWnd)) {
+    if (!AfxTakeControl(this, hWnd) || !Attach(hWnd)) {
         return FALSE;
     }
     PreSubclassWindow();
@@ -241,6 +242,9 @@ HWND CWnd::UnsubclassWindow() {
 }
 
 BOOL CWnd::DestroyWindow() {
+    if (m_pCtrlSite != nullptr) {
+        return AfxDestroyControl(this);
+    }
     if (m_hWnd == nullptr) {
         return FALSE;
     }
@@ -274,6 +278,8 @@ void CWnd::OnNcDestroy() {
     AfxEndWideInput(m_hWnd);
     m_pfnSuper = m_pfnSuperDirect = m_pfnSuperReplaced = nullptr;
     Detach();
+    AfxLeaveControl(this);
+    AfxEndControlContainer(this);
     PostNcDestroy();
 }
 

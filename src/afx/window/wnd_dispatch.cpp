@@ -1,6 +1,7 @@
 // The way of a message: window procedure, message map, reflection to the control it is about.
 #include "afx/window/wnd.h"
 
+#include "afx/ole/wnd_control.h"
 #include "afx/window/wide_input.h"
 #include "afx/window/wnd_state.h"
 
@@ -40,6 +41,9 @@ LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM l
         AfxGetWndState().hLastPopup = reinterpret_cast<HMENU>(wParam);
     }
     try {
+        if (pWnd->m_pCtrlSite != nullptr) {
+            return AfxCallControlWndProc(pWnd, nMsg, wParam, lParam);
+        }
         return AfxWndAccess::WindowProc(pWnd, nMsg, wParam, lParam);
     } catch (...) {
         const LRESULT lResult = AfxProcessCurrentException(hWnd, nMsg, wParam, lParam);
@@ -99,8 +103,10 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
         pResult = &lUnused;
     }
     if (message == WM_COMMAND) {
+        // A handler that lets the command go on may have destroyed the window.
+        const HWND hWnd = m_hWnd;
         if (!OnCommand(wParam, lParam)) {
-            return FALSE;
+            return FromHandlePermanent(hWnd) != this;
         }
         *pResult = 1;
         return TRUE;
@@ -201,6 +207,14 @@ BOOL CWnd::OnNotify(WPARAM, LPARAM lParam, LRESULT* pResult) {
 
 BOOL CWnd::ReflectLastMsg(HWND hWndChild, LRESULT* pResult) {
     CWnd* pWnd = FromHandlePermanent(hWndChild);
+    if (pWnd == nullptr) {
+        return FALSE;
+    }
+    if (pWnd->m_pCtrlSite != nullptr &&
+        AfxReflectToControl(pWnd, AfxGetWndState().lastSentMsg, pResult)) {
+        return TRUE;
+    }
+    pWnd = FromHandlePermanent(hWndChild);  // the control may have ended itself
     return pWnd != nullptr && pWnd->SendChildNotifyLastMsg(pResult);
 }
 

@@ -1,6 +1,8 @@
 // A window's children by number, and the update of those that stand for commands.
 #include "afx/window/wnd.h"
 
+#include "afx/ole/control_site.h"
+#include "afx/ole/wnd_control.h"
 #include "afx/window/wnd_state.h"
 
 #include <afxwin.h>
@@ -14,7 +16,11 @@ HWND HandleOf(const CWnd* pWnd) {
 }  // namespace
 
 CWnd* CWnd::GetDlgItem(int nID) const {
-    return FromHandle(::GetDlgItem(m_hWnd, nID));
+    const HWND hWnd = ::GetDlgItem(m_hWnd, nID);
+    if (hWnd == nullptr && m_pCtrlCont != nullptr) {
+        return AfxWindowlessControl(this, static_cast<UINT>(nID));
+    }
+    return FromHandle(hWnd);
 }
 
 void CWnd::GetDlgItem(int nID, HWND* phWnd) const {
@@ -26,6 +32,9 @@ int CWnd::GetDlgCtrlID() const {
 }
 
 int CWnd::SetDlgCtrlID(int nID) {
+    if (m_pCtrlSite != nullptr) {
+        m_pCtrlSite->m_nID = static_cast<UINT>(nID);
+    }
     return static_cast<int>(::SetWindowLongPtr(m_hWnd, GWLP_ID, nID));
 }
 

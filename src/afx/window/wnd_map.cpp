@@ -2,6 +2,7 @@
 #include "afx/window/wnd.h"
 
 #include "afx/drawing/handle_map.h"
+#include "afx/ole/wnd_control.h"
 #include "afx/window/wnd_state.h"
 
 #include <afxwin.h>
@@ -40,6 +41,8 @@ CWnd::~CWnd() {
         DestroyWindow();
         Detach();  // from a window that was refused, which never told its end
     }
+    AfxLeaveControl(this);  // one without a window
+    AfxEndControlContainer(this);
 }
 
 HWND CWnd::GetSafeHwnd() const {

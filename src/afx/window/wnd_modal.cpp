@@ -1,14 +1,15 @@
 // Messages before they are dispatched, and loops of a window's own.
 #include "afx/window/wnd.h"
 
+#include "afx/ole/wnd_control.h"
 #include "afx/window/wide_input.h"
 #include "afx/window/wnd_state.h"
 
 #include <afxpriv.h>
 #include <afxwin.h>
 
-BOOL CWnd::PreTranslateMessage(MSG*) {
-    return FALSE;
+BOOL CWnd::PreTranslateMessage(MSG* pMsg) {
+    return (m_pCtrlSite != nullptr || m_pCtrlCont != nullptr) && AfxPreTranslateControl(this, pMsg);
 }
 
 BOOL CWnd::WalkPreTranslateTree(HWND hWndStop, MSG* pMsg) {
@@ -25,6 +26,14 @@ BOOL CWnd::WalkPreTranslateTree(HWND hWndStop, MSG* pMsg) {
 }
 
 BOOL CWnd::PreTranslateInput(LPMSG lpMsg) {
+    if (m_pCtrlCont != nullptr) {
+        if (AfxControlClicked(this, *lpMsg)) {
+            return TRUE;
+        }
+        if (m_pCtrlCont != nullptr && AfxControlWantsKey(this, *lpMsg)) {
+            return FALSE;  // it gets the message as it is
+        }
+    }
     const bool bKey = lpMsg->message >= WM_KEYFIRST && lpMsg->message <= WM_KEYLAST;
     const bool bMouse = lpMsg->message >= WM_MOUSEFIRST && lpMsg->message <= WM_MOUSELAST;
     return (bKey || bMouse) && AfxIsDialogMessage(m_hWnd, *lpMsg);

@@ -48,6 +48,7 @@ struct AfxWndAccess {
         pWnd->m_pfnSuperReplaced = pfnReplaced;
         pWnd->m_pfnSuperDirect = pfnDirect;
     }
+    static void PostNcDestroy(CWnd* pWnd) { pWnd->PostNcDestroy(); }
     static void OnNcDestroy(CWnd* pWnd) { pWnd->CWnd::OnNcDestroy(); }
     /// Fills in the names that the application did not give.
     static void NameApp(CWinApp* pApp, HINSTANCE hInstance);

@@ -1,0 +1,34 @@
+// The application's document templates, and what it does with all of them.
+#pragma once
+
+#include "afx/documents/doc_template.h"
+
+class QVAFX_API CDocManager : public CObject {
+    DECLARE_DYNAMIC(CDocManager)
+
+public:
+    CDocManager();
+    ~CDocManager() override;
+
+    virtual void AddDocTemplate(CDocTemplate* pTemplate);
+    virtual POSITION GetFirstDocTemplatePosition() const;
+    virtual CDocTemplate* GetNextDocTemplate(POSITION& pos) const;
+
+    virtual BOOL SaveAllModified();
+    virtual void CloseAllDocuments(BOOL bEndSession);
+    virtual int GetOpenDocumentCount();
+    /// The template that suits the file best opens it; a document that is open already comes to the
+    /// front. Null on failure, of which the user has been told.
+    virtual CDocument* OpenDocumentFile(LPCTSTR lpszFileName);
+    /// Asks for a file. pTemplate: whose kind of files to list, null for all. FALSE if the user
+    /// gave it up.
+    virtual BOOL DoPromptFileName(CString& fileName, UINT nIDSTitle, DWORD lFlags,
+                                  BOOL bOpenFileDialog, CDocTemplate* pTemplate);
+    /// A new document of the first template.
+    virtual void OnFileNew();
+    virtual void OnFileOpen();
+    virtual void OnIdle();
+
+protected:
+    CPtrList m_templateList;
+};

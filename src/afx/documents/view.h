@@ -1,0 +1,79 @@
+// CView: a window that shows a document, and what it prints.
+#pragma once
+
+#include "afx/window/wnd.h"
+
+class CDocument;
+class CPreviewView;
+class CView;
+struct CPrintInfo;
+struct CPrintPreviewState;
+
+#define AFX_WS_DEFAULT_VIEW (WS_CHILD | WS_VISIBLE | WS_BORDER)
+
+/// A view belongs to the document of the context that it is created with, and deletes itself with
+/// its window.
+class QVAFX_API CView : public CWnd {
+    DECLARE_DYNAMIC(CView)
+
+public:
+    ~CView() override;
+
+    CDocument* GetDocument() const { return m_pDocument; }
+
+    virtual BOOL IsSelected(const CObject* pDocItem) const;
+    /// Before OnDraw and before each page. Without a known last page, printing ends behind the
+    /// first one.
+    virtual void OnPrepareDC(CDC* pDC, CPrintInfo* pInfo = nullptr);
+    /// Once the view has its document, before it shows first. Calls OnUpdate.
+    virtual void OnInitialUpdate();
+
+    /// The view's own handlers, then its document's.
+    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
+
+protected:
+    CView();
+
+    /// The frame's active view changes, or the frame becomes active: both views are the same then.
+    virtual void OnActivateView(BOOL bActivate, CView* pActivateView, CView* pDeactiveView);
+    virtual void OnActivateFrame(UINT nState, CFrameWnd* pFrameWnd);
+    /// The document changed. pSender: the view that changed it, or null.
+    virtual void OnUpdate(CView* pSender, LPARAM lHint, CObject* pHint);
+    virtual void OnDraw(CDC* pDC) = 0;
+
+    // Printing, in the order of the calls
+    /// FALSE ends the job before it begins. A derived class that prints calls DoPreparePrinting.
+    virtual BOOL OnPreparePrinting(CPrintInfo* pInfo);
+    virtual void OnBeginPrinting(CDC* pDC, CPrintInfo* pInfo);
+    virtual void OnPrint(CDC* pDC, CPrintInfo* pInfo);
+    virtual void OnEndPrinting(CDC* pDC, CPrintInfo* pInfo);
+    virtual void OnEndPrintPreview(CDC* pDC, CPrintInfo* pInfo, POINT point, CPreviewView* pView);
+    BOOL DoPreparePrinting(CPrintInfo* pInfo);
+    /// pPrintView draws, often this view itself. The preview takes pState, made with new, over and
+    /// gives TRUE, also where it ends at once; FALSE leaves pState to the caller.
+    BOOL DoPrintPreview(UINT nIDResource, CView* pPrintView, CRuntimeClass* pPreviewViewClass,
+                        CPrintPreviewState* pState);
+    afx_msg void OnFilePrint();
+    afx_msg void OnFilePrintPreview();
+
+    /// A border asked for is a sunken edge.
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    void PostNcDestroy() override;
+
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnDestroy();
+    afx_msg void OnPaint();
+    afx_msg int OnMouseActivate(CWnd* pDesktopWnd, UINT nHitTest, UINT message);
+    afx_msg LRESULT OnInitialUpdateMessage(WPARAM wParam, LPARAM lParam);
+    DECLARE_MESSAGE_MAP()
+
+    CDocument* m_pDocument = nullptr;
+
+private:
+    friend class AfxPrintJob;
+    friend class CDocument;
+    friend class CFrameWnd;
+    friend class CPreviewView;
+
+    bool m_bBeingDeleted = false;
+};

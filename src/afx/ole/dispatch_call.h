@@ -1,0 +1,12 @@
+// How a program's call becomes one of IDispatch.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdarg>
+#include <oaidl.h>
+
+/// What COleDispatchDriver::InvokeHelperV does, for whoever has the object without a driver. A
+/// reference is held for as long as the call lasts.
+void InvokeDispatch(LPDISPATCH pDispatch, DISPID dwDispID, WORD wFlags, VARTYPE vtRet, void* pvRet,
+                    const BYTE* pbParamInfo, va_list argList);
