@@ -17,10 +17,12 @@
 #define QVOCX_API __declspec(dllimport)
 #endif
 
-/// Makes the three classes known in this process as far as the machine has none of its own under
-/// the same ids. S_OK: at least one of ours is known now; S_FALSE: all three are the machine's;
-/// else why it failed, with nothing left behind. Calls nest. COM must be initialised in the calling
-/// thread, which has to be a single-threaded apartment, as the framework's AfxOleInit leaves it.
+/// Makes the three classes known to the calling thread's apartment as far as nobody else has them:
+/// a server in the registry that is not this file wins, whether it works or not, and so does one
+/// that a manifest or another module of this process has made known. S_OK: at least one of ours is
+/// known now; S_FALSE: all three are others'; else why it failed, with nothing left behind
+/// (RPC_E_CHANGED_MODE: the thread is no single-threaded apartment, as AfxOleInit makes one;
+/// CO_E_NOTINITIALIZED: it is none). Calls nest. The module stays in the process from then on.
 QVOCX_API HRESULT QVRegisterControls();
 
 /// Takes the last QVRegisterControls back. Controls that are there live on.
