@@ -2,6 +2,11 @@
 
 #pragma once
 
+#include "activex/flex_grid.h"
+#include "activex/flex_grid_ctrl.h"
+#include "activex/fp_text.h"
+#include "activex/ole_objects.h"
+#include "activex/tab.h"
 #include "boxes/bitmap_combo_box.h"
 #include "boxes/bitmap_list_box.h"
 #include "boxes/color_combo_box.h"
@@ -22,6 +27,8 @@
 #include "containers/property_page.h"
 #include "containers/property_sheet.h"
 #include "containers/split_wnd.h"
+#include "containers/tab_view.h"
+#include "containers/tab_view_page.h"
 #include "containers/tab_wnd.h"
 #include "containers/tab_wnd_page.h"
 #include "containers/text_header_wnd.h"
@@ -30,6 +37,7 @@
 #include "containers/wizard_page.h"
 #include "containers/wizard_step_data.h"
 #include "containers/wizard_step_wnd.h"
+#include "dialogs/about_box.h"
 #include "dialogs/browse_dlg.h"
 #include "dialogs/browse_machine_dlg.h"
 #include "dialogs/file_dialog_ex.h"

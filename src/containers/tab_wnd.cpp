@@ -1,6 +1,7 @@
 #include "containers/tab_wnd.h"
 
 #include "common/process_text.h"
+#include "containers/page_steps.h"
 #include "frame/ancestor_font.h"
 #include "frame/create_window.h"
 #include "frame/redraw_pause.h"
@@ -13,22 +14,6 @@ IMPLEMENT_DYNCREATE(QVTabWnd, QVCustCtrl)
 namespace {
 
 constexpr UINT kTabCtrlId = 100;
-
-// Dialogs take the focus as they are made, and a page is not shown then.
-class FocusKept {
-public:
-    FocusKept() : m_hFocus(::GetFocus()) {}
-    ~FocusKept() {
-        if (::GetFocus() != m_hFocus && (m_hFocus == nullptr || ::IsWindow(m_hFocus))) {
-            ::SetFocus(m_hFocus);
-        }
-    }
-    FocusKept(const FocusKept&) = delete;
-    FocusKept& operator=(const FocusKept&) = delete;
-
-private:
-    const HWND m_hFocus;
-};
 
 CRect PlaceIn(const CWnd& wndParent, const CWnd* pWnd) {
     CRect rc;
@@ -111,7 +96,7 @@ QVTabWnd::~QVTabWnd() {
     DestroyWindow();
     for (INT_PTR n = 0; n < m_Pages.GetSize(); ++n) {
         if (m_Pages[n] != nullptr) {
-            m_Pages[n]->Discard();
+            m_Pages[n]->m_life.Discard();
         }
     }
 }
@@ -213,18 +198,16 @@ QVTabWndPage* QVTabWnd::AddPage(UINT nTitleID, CRuntimeClass* pClass) {
 }
 
 QVTabWndPage* QVTabWnd::AddPage(const char* pszTitle, CRuntimeClass* pClass) {
-    CObject* pObject = pClass != nullptr ? pClass->CreateObject() : nullptr;
-    auto* pPage = DYNAMIC_DOWNCAST(QVTabWndPage, pObject);
+    auto* pPage = qv::NewPage<QVTabWndPage>(pClass);
     if (pPage == nullptr) {
-        delete pObject;
         return nullptr;
     }
-    const qv::AliveWatch page(pPage->m_alive);
+    const qv::AliveWatch page(pPage->m_life.Token());
     if (AddPage(pszTitle, pPage) != nullptr) {
         return pPage;
     }
     if (page) {
-        pPage->Discard();
+        pPage->m_life.Discard();
     }
     return nullptr;
 }
@@ -235,8 +218,8 @@ QVTabWndPage* QVTabWnd::AddPage(const char* pszTitle, QVTabWndPage* pPage) {
         return nullptr;
     }
     const qv::WindowWatch watch(m_alive, m_TabCtrl.m_hWnd);
-    const QVTabWndPage::InUse inUse(*pPage);
-    const bool bMade = MakePage(*pPage);
+    const qv::PageLife::InUse inUse(pPage->m_life);
+    const bool bMade = qv::MakePage(*pPage, pPage->m_life, m_TabCtrl);
     if (!inUse) {
         return nullptr;
     }
@@ -245,10 +228,10 @@ QVTabWndPage* QVTabWnd::AddPage(const char* pszTitle, QVTabWndPage* pPage) {
         return nullptr;
     }
     const auto nPage = static_cast<int>(m_Pages.GetSize());
-    if (!Keep(pszTitle, *pPage)) {
+    if (!qv::KeepPage(m_Pages, m_astrTitles, *pPage, pszTitle)) {
         pPage->DestroyWindow();
         if (inUse) {
-            pPage->Discard();
+            pPage->m_life.Discard();
         }
         return nullptr;
     }
@@ -258,37 +241,7 @@ QVTabWndPage* QVTabWnd::AddPage(const char* pszTitle, QVTabWndPage* pPage) {
             SwitchTabs(0);
         }
     }
-    return inUse && !pPage->m_bDiscarded ? pPage : nullptr;
-}
-
-// True if the page has a window, hidden, afterwards. Page and tab window may be gone.
-bool QVTabWnd::MakePage(QVTabWndPage& page) {
-    const QVTabWndPage::InUse inUse(page);
-    int bMade = 0;
-    {
-        const FocusKept focus;
-        bMade = page.Create(&m_TabCtrl);
-    }
-    if (!bMade || !inUse || page.m_hWnd == nullptr) {
-        return false;
-    }
-    page.ModifyStyleEx(0, WS_EX_CONTROLPARENT);
-    page.ShowWindow(SW_HIDE);
-    return inUse && page.m_hWnd != nullptr;
-}
-
-bool QVTabWnd::Keep(const char* pszTitle, QVTabWndPage& page) {
-    const INT_PTR nPage = m_Pages.GetSize();
-    if (qv::MemorySuffices([&] {
-            m_Pages.Add(&page);
-            m_astrTitles.Add(pszTitle);
-        })) {
-        return true;
-    }
-    if (m_Pages.GetSize() > nPage) {
-        m_Pages.RemoveAt(nPage);
-    }
-    return false;
+    return inUse && !pPage->m_life.Discarded() ? pPage : nullptr;
 }
 
 bool QVTabWnd::InsertTab(int nPage) {
@@ -313,10 +266,10 @@ void QVTabWnd::RemovePages() {
             if (pPage == nullptr) {
                 continue;
             }
-            const QVTabWndPage::InUse inUse(*pPage);
+            const qv::PageLife::InUse inUse(pPage->m_life);
             pPage->DestroyWindow();
             if (inUse) {
-                pPage->Discard();
+                pPage->m_life.Discard();
             }
             if (!watch) {
                 return;
@@ -402,12 +355,12 @@ void QVTabWnd::SwitchTabs(int nPage) {
 void QVTabWnd::ShowInstead(int nPage) {
     const qv::WindowWatch watch(m_alive, m_TabCtrl.m_hWnd);
     QVTabWndPage* const pNew = GetPage(nPage);
-    const QVTabWndPage::InUse inUse(*pNew);
+    const qv::PageLife::InUse inUse(pNew->m_life);
     const unsigned nSwitch = m_nSwitches;
     pNew->ShowPage();
     QVTabWndPage* const pOld = watch ? GetPage(m_nActivePage) : nullptr;
     if (pOld != nullptr && pOld != pNew && nSwitch == m_nSwitches) {
-        const QVTabWndPage::InUse oldInUse(*pOld);
+        const qv::PageLife::InUse oldInUse(pOld->m_life);
         pOld->HidePage();
     }
     if (!watch) {
@@ -429,7 +382,7 @@ void QVTabWnd::HideActive() {
         if (pPage == nullptr) {
             break;
         }
-        const QVTabWndPage::InUse inUse(*pPage);
+        const qv::PageLife::InUse inUse(pPage->m_life);
         pPage->HidePage();
         if (!watch || nSwitch != m_nSwitches) {
             return;
@@ -480,7 +433,7 @@ void QVTabWnd::Resize(QVTabWndPage& page) {
     CRect rc;
     m_TabCtrl.GetClientRect(&rc);
     m_TabCtrl.AdjustRect(FALSE, &rc);
-    const QVTabWndPage::InUse inUse(page);
+    const qv::PageLife::InUse inUse(page.m_life);
     page.Resize(rc);
 }
 
@@ -501,7 +454,7 @@ void QVTabWnd::BeginPrinting(CDC* pDC, QVPrintEngine& engine, int bActiveOnly) {
 
 void QVTabWnd::PrintPage(CDC* pDC, QVPrintEngine& engine, int nPage) {
     if (QVTabWndPage* pPage = GetPage(nPage)) {
-        const QVTabWndPage::InUse inUse(*pPage);
+        const qv::PageLife::InUse inUse(pPage->m_life);
         engine.AddSectionHeader(m_astrTitles[nPage]);
         pPage->BeginPrinting(pDC, engine);
     }

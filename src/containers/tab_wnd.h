@@ -100,8 +100,6 @@ protected:
 private:
     bool MakeTabs();
     bool MakeTabCtrl();
-    bool MakePage(QVTabWndPage& page);
-    bool Keep(const char* pszTitle, QVTabWndPage& page);
     bool InsertTab(int nPage);
     void ShowInstead(int nPage);
     void HideActive();

@@ -8,7 +8,7 @@
 
 #pragma once
 
-#include "frame/alive.h"
+#include "containers/page_life.h"
 #include "frame/qv_api.h"
 
 #include <afxwin.h>
@@ -62,28 +62,6 @@ private:
     using CDialog::Create;
     friend class QVTabWnd;
 
-    // Keeps the object while one of its functions runs.
-    class InUse {
-    public:
-        explicit InUse(QVTabWndPage& page) : m_page(page), m_watch(page.m_alive) {
-            ++page.m_nInUse;
-        }
-        ~InUse();
-        InUse(const InUse&) = delete;
-        InUse& operator=(const InUse&) = delete;
-        // False if somebody deleted it nevertheless.
-        explicit operator bool() const { return m_watch.ObjectAlive(); }
-
-    private:
-        QVTabWndPage& m_page;
-        const qv::AliveWatch m_watch;
-    };
-
-    // Deletes the object, at once or as soon as none of its functions runs.
-    void Discard();
-
-    qv::AliveToken m_alive;
-    int m_nInUse = 0;
-    bool m_bDiscarded = false;
+    qv::PageLife m_life{*this};
     HWND m_hWndFocus = nullptr;  // of the control that had the focus last
 };

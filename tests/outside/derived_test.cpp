@@ -2,6 +2,7 @@
 // to it that every inline function of the headers links.
 #include <QVControls.h>
 #include <gtest/gtest.h>
+#include <memory>
 
 namespace {
 
@@ -295,6 +296,23 @@ public:
     }
 };
 
+class TabbedView : public QVTabView {
+public:
+    TabbedView() : QVTabView(7) {}
+    void LooksAtItself(CWnd& parent) {
+        class Page : public QVTabViewPage {
+        public:
+            Page() : QVTabViewPage(5) { m_bNeedsUpdate = TRUE; }
+            bool IsAlone() { return m_nIDTemplate == 5 && m_bNeedsUpdate && !GetTabView(); }
+        };
+        CWindowDC dc(&parent);
+        EXPECT_TRUE(Page().IsAlone() && FindStringTwips(dc, "two\nlines") > 0);
+        EXPECT_EQ(m_Pages.GetSize() + m_astrTitles.GetSize() + OnHandleCommand(1), 0);
+        EXPECT_TRUE(m_nTabCtrlID == 7 && !m_TabCtrl.m_hWnd && GetActivePage() == -1);
+        InitializeTabCtrl(), AddTabPages(), UpdateAllPages(1, nullptr);
+    }
+};
+
 // --- Split windows
 
 class Splitter : public QVSplitWnd {
@@ -488,6 +506,41 @@ public:
     }
 };
 
+class About : public QVAboutBox {
+public:
+    About() : QVAboutBox(UINT{30008}, 0, nullptr) { m_bExtended = 0; }
+    void LooksAtItself(CWnd&) {
+        EXPECT_FALSE(m_bShowDatabase || m_wndIcon.m_hWnd || m_wndDatabaseType.m_hWnd ||
+                     m_wndDatabaseLocation.m_hWnd || m_wndDatabaseName.m_hWnd);
+        EXPECT_TRUE(m_strTitle.IsEmpty() && m_strDatabaseType.IsEmpty() && m_nIconID == 0);
+    }
+};
+
+// --- Automation
+
+class FlexGrid : public QVFlexGridCtrl {
+public:
+    int GetCellToolTip(int nRow, int nCol, char* pszText) override {
+        return QVFlexGridCtrl::GetCellToolTip(nRow, nCol, pszText) + kToolTipRoom;
+    }
+    void LooksAtItself(CWnd& parent) {
+        EXPECT_TRUE(m_pToolTip == nullptr && GetCellToolTip(0, 0, nullptr) > 80);
+        EXPECT_FALSE(Create(nullptr, WS_CHILD, kRect, &parent, 1)) << "no such control here";
+        EXPECT_EQ(GetFont().GetBold() + GetPicture().GetType() + GetRows(), 0);
+    }
+};
+
+template <class Wrapper>
+class Wrapped : public Wrapper {
+public:
+    void LooksAtItself(CWnd&) {
+        const std::unique_ptr<CObject> pMade(RUNTIME_CLASS(Wrapper)->CreateObject());
+        EXPECT_TRUE(pMade->IsKindOf(RUNTIME_CLASS(CWnd)) &&
+                    this->GetFont().m_lpDispatch == nullptr);
+        EXPECT_FALSE(IsEqualGUID(this->GetClsid(), CLSID_NULL));
+    }
+};
+
 // --- All of them
 
 template <class Control>
@@ -504,11 +557,12 @@ protected:
 using Derived =
     testing::Types<Tree, Grid, Text, Box, SpeedEdit, DateEdit, List, ListBox, BitmapCombo,
                    ColorCombo, Captioned<QVHeaderWnd>, Captioned<QVListHeaderWnd>,
-                   Captioned<QVTreeHeaderWnd>, Captioned<QVTextHeaderWnd>, TabbedPages, Splitter,
-                   PropSheet<QVPropertySheet, QVPropertyPage>,
+                   Captioned<QVTreeHeaderWnd>, Captioned<QVTextHeaderWnd>, TabbedPages, TabbedView,
+                   Splitter, PropSheet<QVPropertySheet, QVPropertyPage>,
                    PropSheet<QVPropertySheetEx, QVPropertyPageEx>, Panel, WizardPage, Tool, Macros,
                    Mark, Asking<QVMsgBox>, Asking<QVMsgPromptDlg>, Waiting, TextDlg, Folders,
-                   OneFile, Machine, Browsing, Item>;
+                   OneFile, Machine, Browsing, Item, About, FlexGrid, Wrapped<CTab>,
+                   Wrapped<CfpText>>;
 TYPED_TEST_SUITE(Outside, Derived);
 
 TYPED_TEST(Outside, ReachesWhatIsItsOwn) {

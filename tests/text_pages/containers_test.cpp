@@ -1,6 +1,7 @@
 // Property sheets and tab windows: captions, tabs and fields mean what the process's code page
 // says.
 #include "QVControls.h"
+#include "ocx/qvocx.h"
 #include "page_text.h"
 
 #include <gtest/gtest.h>
@@ -34,6 +35,21 @@ class TabPage : public QVTabWndPage {
     int Create(CWnd* pParent) override { return CreateIndirect(&kTemplate.head, pParent); }
 };
 
+class ViewPage : public QVTabViewPage {
+    DECLARE_DYNCREATE(ViewPage)
+    int Create(CWnd* pParent) override { return CreateIndirect(&kTemplate.head, pParent); }
+};
+IMPLEMENT_DYNCREATE(ViewPage, QVTabViewPage)
+
+class TabView : public QVTabView {
+    DECLARE_DYNCREATE(TabView)
+public:
+    static inline CString s_strTitle;
+    void AddTabPages() override { AddPage(s_strTitle, RUNTIME_CLASS(ViewPage)); }
+    int Width(CDC& dc) { return FindStringTwips(dc, s_strTitle + "\n" + s_strTitle + "i"); }
+};
+IMPLEMENT_DYNCREATE(TabView, QVTabView)
+
 std::wstring WideTab(CWnd& tabs) {
     wchar_t szTab[200] = L"";
     TCITEMW item{TCIF_TEXT, 0, 0, szTab, 200, 0, 0};
@@ -58,6 +74,28 @@ TEST(ContainersText, IsOfTheProcessesCodePage) {
         EXPECT_EQ(strWide, WideTab(tabs.GetTabCtrl()));
         EXPECT_EQ(tabs.FindPageWithTitle(str.c_str()), 0);
     }
+}
+
+TEST(ContainersText, OfTabViewsIsMeasuredAndShownInTheCodePage) {
+    ASSERT_HRESULT_SUCCEEDED(QVRegisterControls());
+    for (const auto& [strWide, str] : PageWords()) {
+        TabView::s_strTitle = str.c_str();
+        CCreateContext context;
+        context.m_pNewViewClass = RUNTIME_CLASS(TabView);
+        auto* pFrame = new CFrameWnd;
+        ASSERT_TRUE(pFrame->Create(nullptr, "", WS_OVERLAPPEDWINDOW, CRect(0, 0, 300, 200), nullptr,
+                                   nullptr, 0, &context));
+        pFrame->InitialUpdateFrame(nullptr, TRUE);
+        auto* pView = static_cast<TabView*>(pFrame->GetActiveView());
+        EXPECT_EQ(str, std::string(pView->GetTabCtrl().GetTabCaption()));
+        CWindowDC dc(pView);
+        const std::wstring strLine = strWide + L"i";
+        SIZE size = {};
+        ::GetTextExtentPoint32W(dc.m_hDC, strLine.c_str(), static_cast<int>(strLine.size()), &size);
+        EXPECT_EQ(pView->Width(dc), size.cx);
+        pFrame->DestroyWindow();
+    }
+    QVRevokeControls();
 }
 
 }  // namespace

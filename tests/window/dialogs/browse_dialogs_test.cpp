@@ -5,6 +5,8 @@
 #include "support/temp_file.h"
 #include "support/test_app.h"
 
+#include <afxdisp.h>
+
 #include <shlobj.h>
 #include <tuple>
 
@@ -58,6 +60,7 @@ private:
 };
 
 TEST_F(BrowseDialogs, FoldersAreChosenByKeys_AlsoBehindShortcuts) {
+    AfxOleTerm();  // in a program without
     ::CoInitialize(nullptr);
     IShellLinkA* pLink = nullptr;
     IPersistFile* pFile = nullptr;
@@ -86,6 +89,7 @@ TEST_F(BrowseDialogs, FoldersAreChosenByKeys_AlsoBehindShortcuts) {
     ::DeleteFile("C:\\windows\\temp\\qv.lnk");
     EXPECT_EQ(::CoInitializeEx(nullptr, COINIT_MULTITHREADED), S_OK) << "COM is as it was";
     ::CoUninitialize();
+    AfxOleInit();
 }
 
 class Folders : public QVBrowseDlg {

@@ -1,0 +1,355 @@
+#include "containers/tab_view.h"
+
+#include "activex/control_answers.h"
+#include "containers/page_steps.h"
+#include "frame/core/twips.h"
+#include "frame/create_window.h"
+#include "frame/dc_guards.h"
+#include "frame/text_out.h"
+
+#include <afxpriv.h>
+
+#include <algorithm>
+#include <olectl.h>
+
+IMPLEMENT_DYNCREATE(QVTabView, CView)
+
+BEGIN_MESSAGE_MAP(QVTabView, CView)
+    ON_WM_SIZE()
+    ON_WM_ERASEBKGND()
+    ON_WM_SETFOCUS()
+END_MESSAGE_MAP()
+
+// Behind the number 0, by which OnCmdMsg names the control whatever its own is.
+BEGIN_EVENTSINK_MAP(QVTabView, CView)
+    ON_EVENT(QVTabView, 0, 7, &QVTabView::OnTabPageActivate, VTS_PI2 VTS_PI2)
+    ON_EVENT(QVTabView, 0, 8, &QVTabView::OnTabPageShown, VTS_PI2 VTS_PI2)
+    ON_EVENT(QVTabView, 0, DISPID_KEYDOWN, &QVTabView::OnKeyDownControl, VTS_PI2 VTS_I2)
+END_EVENTSINK_MAP()
+
+namespace {
+
+constexpr int kTabMargin = 4;  // pixels beside the widest title
+
+}  // namespace
+
+QVTabView::QVTabView(UINT nTabCtrlID) : m_nTabCtrlID(nTabCtrlID) {}
+
+QVTabView::~QVTabView() {
+    for (INT_PTR n = 0; n < m_Pages.GetSize(); ++n) {
+        m_Pages[n]->m_life.Discard();
+    }
+}
+
+// --- Creation
+
+void QVTabView::OnInitialUpdate() {
+    const qv::PageLife::InUse inUse(m_life);
+    const qv::WindowWatch watch(m_life.Token(), m_hWnd);
+    CView::OnInitialUpdate();
+    if (!watch || m_TabCtrl.m_hWnd != nullptr) {
+        return;
+    }
+    CRect rc;
+    GetClientRect(&rc);
+    BOOL bMade = FALSE;
+    qv::ControlAnswers([&] {
+        bMade = qv::CreateWhole(m_TabCtrl, [&] {
+            return m_TabCtrl.Create(nullptr, "", WS_CHILD | WS_VISIBLE, rc, this, m_nTabCtrlID);
+        });
+    });
+    if (!bMade || !watch) {
+        return;
+    }
+    // The control leaves the pixels of its pages alone, and lets the keyboard through to them.
+    m_TabCtrl.ModifyStyle(0, WS_CLIPCHILDREN);
+    m_TabCtrl.ModifyStyleEx(0, WS_EX_CONTROLPARENT);
+    qv::ControlAnswers([&] { InitializeTabCtrl(); });
+    if (watch) {
+        qv::ControlAnswers([&] { AddTabPages(); });
+    }
+    if (watch && m_Pages.GetSize() > 0) {
+        MakeTabHeight();
+        if (watch) {
+            MakeTabs();
+        }
+    }
+    // The frame comes up at the size that the view has already, of which no message tells.
+    if (watch) {
+        GetClientRect(&rc);
+        LayOut(rc.Width(), rc.Height());
+    }
+}
+
+void QVTabView::InitializeTabCtrl() {
+    constexpr long kLeft = 3;        // Orientation
+    constexpr long kHorizontal = 1;  // TextOrientation
+    struct Color {
+        void (CTab::*pfnSet)(long);
+        int nSystemColor;
+    };
+    static constexpr Color kColors[] = {{&CTab::SetBackColor, COLOR_BTNFACE},
+                                        {&CTab::SetThreeDShadowColor, COLOR_BTNSHADOW},
+                                        {&CTab::SetThreeDInnerDark, COLOR_BTNSHADOW},
+                                        {&CTab::SetThreeDInnerLight, COLOR_3DLIGHT},
+                                        {&CTab::SetThreeDOuterDark, COLOR_3DDKSHADOW},
+                                        {&CTab::SetThreeDOuterLight, COLOR_BTNHIGHLIGHT},
+                                        {&CTab::SetThreeDHighlightColor, COLOR_BTNHIGHLIGHT},
+                                        {&CTab::SetGrayAreaColor, COLOR_BTNFACE},
+                                        {&CTab::SetForeColor, COLOR_WINDOWTEXT}};
+    const qv::WindowWatch watch(m_life.Token(), m_TabCtrl.m_hWnd);
+    // Each by itself: a control that lacks one of them still gets the others.
+    const auto set = [&](auto action) {
+        if (watch) {
+            qv::ControlAnswers(action);
+        }
+    };
+    set([&] { m_TabCtrl.SetTabCount(0); });
+    set([&] { m_TabCtrl.SetTabsPerRow(0); });
+    set([&] { m_TabCtrl.SetActiveTabBold(FALSE); });
+    set([&] { m_TabCtrl.SetWordWrap(TRUE); });
+    set([&] { m_TabCtrl.SetOrientation(kLeft); });
+    set([&] { m_TabCtrl.SetTextOrientation(kHorizontal); });
+    for (const Color& color : kColors) {
+        set([&] {
+            (m_TabCtrl.*color.pfnSet)(static_cast<long>(::GetSysColor(color.nSystemColor)));
+        });
+    }
+}
+
+void QVTabView::AddTabPages() {}
+
+void QVTabView::MakeTabHeight() {
+    const auto hasWindow = [&](int n) {
+        return GetPage(n) != nullptr && GetPage(n)->m_hWnd != nullptr;
+    };
+    const int nPage = hasWindow(0) ? 0 : 1;
+    CFont* const pFont = hasWindow(nPage) ? GetPage(nPage)->GetFont() : nullptr;
+    qv::ControlAnswers([&] {
+        CWindowDC dc(&m_TabCtrl);
+        const qv::SelectGuard font(dc, pFont);
+        int nLargest = 0;
+        for (INT_PTR n = 0; n < m_astrTitles.GetSize(); ++n) {
+            nLargest = std::max(nLargest, FindStringTwips(dc, m_astrTitles[n]));
+        }
+        const int nDpi = dc.GetDeviceCaps(LOGPIXELSX);
+        m_TabCtrl.SetTabHeight(
+            static_cast<long>((nLargest + kTabMargin) * LONGLONG{qv::kTwipsPerInch} /
+                              (nDpi > 0 ? nDpi : qv::kUsualPixelsPerInch)));
+    });
+}
+
+// The way of old through a text, from each line feed on by its offset in the last part alone, comes
+// to the same with one line feed; from the second feed on it never ends.
+int QVTabView::FindStringTwips(CDC& dc, const char* pszText) {
+    std::string_view text(pszText != nullptr ? pszText : "");
+    int nWidest = 0;
+    while (!text.empty()) {
+        const size_t nEnd = std::min(text.find('\n'), text.size());
+        nWidest = std::max(nWidest, static_cast<int>(qv::TextExtent(dc, text.substr(0, nEnd)).cx));
+        text.remove_prefix(std::min(nEnd + 1, text.size()));
+    }
+    return nWidest;
+}
+
+void QVTabView::MakeTabs() {
+    const qv::WindowWatch watch(m_life.Token(), m_TabCtrl.m_hWnd);
+    const auto nTabs = static_cast<short>(std::min<INT_PTR>(m_astrTitles.GetSize(), SHRT_MAX));
+    qv::ControlAnswers([&] { m_TabCtrl.SetTabCount(nTabs); });
+    for (short nTab = 0; watch && nTab < nTabs; ++nTab) {
+        qv::ControlAnswers([&] {
+            m_TabCtrl.SetTab(nTab);
+            if (watch) {
+                m_TabCtrl.SetTabCaption(m_astrTitles[nTab]);
+            }
+        });
+    }
+}
+
+// --- Pages
+
+QVTabViewPage* QVTabView::AddPage(UINT nTitleID, CRuntimeClass* pClass) {
+    CString strTitle;
+    return qv::MemorySuffices([&] { strTitle.LoadString(nTitleID); })
+               ? AddPage(static_cast<LPCSTR>(strTitle), pClass)
+               : nullptr;
+}
+
+QVTabViewPage* QVTabView::AddPage(const char* pszTitle, CRuntimeClass* pClass) {
+    const qv::WindowWatch watch(m_life.Token(), m_TabCtrl.m_hWnd);
+    auto* const pPage = watch ? qv::NewPage<QVTabViewPage>(pClass) : nullptr;
+    if (pPage == nullptr) {
+        return nullptr;
+    }
+    const qv::PageLife::InUse inUse(pPage->m_life);
+    if (qv::MakePage(*pPage, pPage->m_life, m_TabCtrl) && watch &&
+        qv::KeepPage(m_Pages, m_astrTitles, *pPage, pszTitle)) {
+        return pPage;
+    }
+    if (inUse) {
+        pPage->DestroyWindow();
+    }
+    if (inUse) {
+        pPage->m_life.Discard();
+    }
+    return nullptr;
+}
+
+QVTabViewPage* QVTabView::GetPage(int nPage) const {
+    return nPage >= 0 && nPage < m_Pages.GetSize() ? m_Pages[nPage] : nullptr;
+}
+
+int QVTabView::GetActivePage() {
+    int nPage = -1;
+    if (m_TabCtrl.m_hWnd != nullptr) {
+        qv::ControlAnswers([&] { nPage = m_TabCtrl.GetActiveTab(); });
+    }
+    return nPage;
+}
+
+void QVTabView::SetActivePage(short nPage) {
+    qv::ControlAnswers([&] { m_TabCtrl.SetActiveTab(nPage); });
+}
+
+// Does something with a page, if there is one, which lives for as long as that takes.
+template <class Step>
+void QVTabView::InPage(int nPage, Step step) {
+    if (QVTabViewPage* const pPage = GetPage(nPage)) {
+        const qv::PageLife::InUse inUse(pPage->m_life);
+        step(*pPage);
+    }
+}
+
+void QVTabView::UpdateAllPages(int nHint, void* pHint) {
+    const qv::WindowWatch watch(m_life.Token(), m_hWnd);
+    const int nActive = GetActivePage();
+    for (int n = 0; watch && n < m_Pages.GetSize(); ++n) {
+        InPage(n, [&](QVTabViewPage& page) { page.UpdatePage(nHint, pHint, n == nActive); });
+    }
+}
+
+void QVTabView::GetMessageString(UINT nID, CString& strMessage) {
+    InPage(GetActivePage(), [&](QVTabViewPage& page) { page.GetMessageString(nID, strMessage); });
+}
+
+int QVTabView::OnHandleCommand(UINT nID) {
+    int bHandled = 0;
+    InPage(GetActivePage(), [&](QVTabViewPage& page) { bHandled = page.HandleCommand(nID, TRUE); });
+    return bHandled;
+}
+
+void QVTabView::OnUpdateCommand(CCmdUI* pCmdUI) {
+    InPage(GetActivePage(), [&](QVTabViewPage& page) {
+        const qv::AliveWatch alive(page.m_life.Token());
+        pCmdUI->Enable(page.HandleCommand(pCmdUI->m_nID, FALSE));
+        if (alive && !page.m_life.Discarded()) {
+            page.UpdateCommand(pCmdUI);
+        }
+    });
+}
+
+// --- What the control tells
+
+BOOL QVTabView::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
+    const bool bOfControl = nCode == static_cast<int>(CN_EVENT) && nID == m_nTabCtrlID;
+    return CView::OnCmdMsg(bOfControl ? 0 : nID, nCode, pExtra, pHandlerInfo);
+}
+
+// A control that told of the active tab once more would have its page shown and then hidden: it is
+// relied on not to.
+void QVTabView::OnTabPageActivate(short* pnTab, short* pnCancel) {
+    const qv::WindowWatch watch(m_life.Token(), m_hWnd);
+    const int nCur = GetActivePage();
+    if (pnTab != nullptr && pnCancel != nullptr && *pnCancel == 0 && GetPage(*pnTab) != nullptr) {
+        InPage(*pnTab, [](QVTabViewPage& page) { page.ShowPage(); });
+        if (watch) {
+            InPage(nCur, [](QVTabViewPage& page) { page.HidePage(); });
+        }
+        return;
+    }
+    for (INT_PTR n = 0; watch && n < m_Pages.GetSize(); ++n) {
+        InPage(nCur, [](QVTabViewPage& page) { page.ShowPage(); });
+    }
+}
+
+void QVTabView::OnTabPageShown(short* pnTab, short* pnCancel) {
+    if (pnTab != nullptr && pnCancel != nullptr && *pnCancel == 0) {
+        InPage(*pnTab, [](QVTabViewPage& page) { page.ShowPage(); });
+    }
+}
+
+void QVTabView::OnKeyDownControl(short* pnKeyCode, short) {
+    if (pnKeyCode != nullptr && *pnKeyCode == VK_TAB) {
+        InPage(GetActivePage(), [](QVTabViewPage& page) { page.SetPageFocus(); });
+    }
+}
+
+// --- Layout and focus
+
+void QVTabView::OnSize(UINT nType, int cx, int cy) {
+    CView::OnSize(nType, cx, cy);
+    if ((nType == SIZE_RESTORED || nType == SIZE_MAXIMIZED) && (GetStyle() & WS_VISIBLE) != 0) {
+        LayOut(cx, cy);
+    }
+}
+
+void QVTabView::LayOut(int cx, int cy) {
+    const qv::WindowWatch watch(m_life.Token(), m_TabCtrl.m_hWnd);
+    if (!watch) {
+        return;
+    }
+    m_TabCtrl.MoveWindow(0, 0, cx, cy, FALSE);
+    CRect rc;
+    if (!watch || !qv::ControlAnswers([&] { rc = PageArea(); })) {
+        return;
+    }
+    for (int n = 0; watch && n < m_Pages.GetSize(); ++n) {
+        InPage(n, [&](QVTabViewPage& page) { page.Resize(rc); });
+    }
+    if (watch) {
+        m_TabCtrl.Invalidate(FALSE);  // it was moved without a repaint
+    }
+}
+
+// In pixels of the tab control.
+CRect QVTabView::PageArea() {
+    const CClientDC dc(this);
+    const int nTwipsX = qv::TwipsPerPixel(dc.GetDeviceCaps(LOGPIXELSX));
+    const int nTwipsY = qv::TwipsPerPixel(dc.GetDeviceCaps(LOGPIXELSY));
+    const CPoint ptTopLeft(m_TabCtrl.GetClientLeft() / nTwipsX, m_TabCtrl.GetClientTop() / nTwipsY);
+    const CSize size(m_TabCtrl.GetClientWidth() / nTwipsX, m_TabCtrl.GetClientHeight() / nTwipsY);
+    return CRect(ptTopLeft, size);
+}
+
+void QVTabView::OnActivateView(BOOL bActivate, CView* pActivateView, CView* pDeactiveView) {
+    // Asked before the framework's part, in which the preview may go.
+    const bool bAfterPreview = bActivate && pDeactiveView != nullptr &&
+                               pDeactiveView->IsKindOf(RUNTIME_CLASS(CPreviewView));
+    const qv::WindowWatch watch(m_life.Token(), m_hWnd);
+    CView::OnActivateView(bActivate, pActivateView, pDeactiveView);
+    if (watch && bAfterPreview) {
+        CRect rc;
+        GetClientRect(&rc);
+        SendMessage(WM_SIZE, SIZE_RESTORED, MAKELPARAM(rc.Width(), rc.Height()));
+    }
+}
+
+void QVTabView::OnDraw(CDC*) {}
+
+BOOL QVTabView::OnEraseBkgnd(CDC*) {
+    return TRUE;
+}
+
+void QVTabView::OnSetFocus(CWnd*) {
+    InPage(GetActivePage(), [](QVTabViewPage& page) { page.SetPageFocus(); });
+}
+
+void QVTabView::PostNcDestroy() {
+    m_life.Discard();
+}
+
+LRESULT QVTabView::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    const qv::PageLife::InUse inUse(m_life);
+    return qv::HandleQuietly(m_hWnd, message,
+                             [&] { return CView::WindowProc(message, wParam, lParam); });
+}
