@@ -23,6 +23,9 @@ constexpr std::pair<ErrorCode, LPCSTR> kSentences[] = {
     {kErrorPrint, "The pages could not be printed."},
     {kErrorNoPrinter, "There is no printer to print on."},
     {kErrorReadPackageFile, "A file of the package could not be read."},
+    {kErrorSnapshot, "The snapshot could not be written."},
+    {kErrorCompare, "The inventory could not be compared."},
+    {kErrorControls, "The controls that show comparisons could not be registered."},
     {kErrorKeepError, "An error could not be kept in the application's log."},
 };
 

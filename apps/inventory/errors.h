@@ -32,6 +32,9 @@ enum ErrorCode : DWORD {
     kErrorNoPrinter = 1012,
     kErrorReadPackageFile = 1013,
     kErrorKeepError = 1014,
+    kErrorSnapshot = 1015,
+    kErrorCompare = 1016,
+    kErrorControls = 1017,
     // Of a cause that the platform has no number for.
     kErrorCause = 1099
 };

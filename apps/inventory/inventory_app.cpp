@@ -1,8 +1,13 @@
 #include "inventory_app.h"
 
+#include "compare/comparison_document.h"
+#include "compare/comparison_frame.h"
+#include "compare/comparison_view.h"
 #include "main_frame.h"
 #include "resource.h"
 #include "walk/walk.h"
+
+#include <ocx/qvocx.h>
 
 namespace {
 
@@ -13,11 +18,21 @@ InventoryApp theApp;
 }  // namespace
 
 BEGIN_MESSAGE_MAP(InventoryApp, CWinApp)
+    ON_COMMAND(ID_APP_ABOUT, OnAbout)
     ON_COMMAND(ID_APP_EXIT, OnAppExit)
     ON_THREAD_MESSAGE(kWalk, OnWalk)
 END_MESSAGE_MAP()
 
 BOOL InventoryApp::InitInstance() {
+    if (!AfxOleInit()) {
+        return FALSE;
+    }
+    AfxEnableControlContainer();
+    const HRESULT hrControls = QVRegisterControls();
+    m_pComparisons =
+        new CSingleDocTemplate(IDR_COMPARISON, RUNTIME_CLASS(ComparisonDocument),
+                               RUNTIME_CLASS(ComparisonFrame), RUNTIME_CLASS(ComparisonView));
+    AddDocTemplate(m_pComparisons);
     CString strFile;
     for (int i = 1; i < __argc; ++i) {
         if (CString(__argv[i]) == "/walk" && i + 1 < __argc) {
@@ -35,11 +50,32 @@ BOOL InventoryApp::InitInstance() {
     m_pFrame->ShowWindow(bWalks ? SW_SHOWNORMAL : m_nCmdShow);
     m_pFrame->UpdateWindow();
     m_pFrame->LoadSettings(bWalks ? m_strWalkFolder + "\\settings.txt" : CString(), !bWalks);
+    if (FAILED(hrControls)) {
+        Keep(Failed(kErrorControls, SystemReason(static_cast<DWORD>(hrControls), nullptr)));
+    }
     m_pFrame->Open(strFile, !bWalks);
     if (bWalks) {
         PostThreadMessage(kWalk, 0, 0);
     }
     return TRUE;
+}
+
+void InventoryApp::OnAbout() {
+    QVAboutBox about(TRUE, CWnd::GetActiveWindow());
+    about.m_strTitle = "About Inventory";
+    about.m_strProductName = "Inventory: what is installed on a machine";
+    about.m_nIconID = IDR_MAINFRAME;
+    const CString& strFile = m_pFrame->ShownFile();
+    if (strFile.IsEmpty()) {
+        char szMachine[MAX_COMPUTERNAME_LENGTH + 1] = "";
+        DWORD nLength = sizeof(szMachine);
+        ::GetComputerName(szMachine, &nLength);
+        about.SetDatabaseInfo("Registry", szMachine, "Uninstall entries");
+    } else {
+        const QVPath path(strFile);
+        about.SetDatabaseInfo("Debian package database", path.GetParent(), path.GetName());
+    }
+    about.DoModal();
 }
 
 void InventoryApp::OnWalk(WPARAM, LPARAM) {
@@ -48,6 +84,7 @@ void InventoryApp::OnWalk(WPARAM, LPARAM) {
 }
 
 int InventoryApp::ExitInstance() {
+    QVRevokeControls();
     const int nResult = CWinApp::ExitInstance();
     return m_nExitCode != 0 ? m_nExitCode : nResult;
 }

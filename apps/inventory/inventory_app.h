@@ -6,6 +6,7 @@
 
 #include <afxwin.h>
 
+class CSingleDocTemplate;
 class MainFrame;
 
 class InventoryApp : public CWinApp {
@@ -14,11 +15,15 @@ public:
     BOOL InitInstance() override;
     int ExitInstance() override;
 
+    CSingleDocTemplate& Comparisons() { return *m_pComparisons; }
+
 private:
+    afx_msg void OnAbout();
     afx_msg void OnWalk(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     MainFrame* m_pFrame = nullptr;
+    CSingleDocTemplate* m_pComparisons = nullptr;  // the framework's
     CString m_strWalkFolder;
     int m_nExitCode = 0;
 };

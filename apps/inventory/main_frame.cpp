@@ -1,12 +1,12 @@
 #include "main_frame.h"
 
 #include "errors.h"
+#include "inventory_app.h"
 #include "opening.h"
 #include "resource.h"
-#include "sources/code_page.h"
-#include "sources/install_dates.h"
 #include "sources/registry_source.h"
 #include "sources/settings_file.h"
+#include "sources/snapshot_file.h"
 #include "work.h"
 
 #include <algorithm>
@@ -25,6 +25,8 @@ BEGIN_MESSAGE_MAP(MainFrame, CFrameWnd)
     ON_COMMAND(ID_RELOAD, OnReload)
     ON_COMMAND(ID_OPEN_DATABASE, OnOpenDatabase)
     ON_COMMAND(ID_OPEN_MACHINE, OnOpenMachine)
+    ON_COMMAND(ID_SAVE_SNAPSHOT, OnSaveSnapshot)
+    ON_COMMAND(ID_COMPARE, OnCompare)
     ON_COMMAND(ID_PACKAGES_PREVIEW, OnPreview)
     ON_COMMAND(ID_PACKAGES_PRINT, OnPrint)
     ON_UPDATE_COMMAND_UI(ID_INDICATOR_MESSAGE, OnUpdateMessage)
@@ -91,7 +93,7 @@ void MainFrame::OnSetFocus(CWnd*) {
 }
 
 void MainFrame::OnClose() {
-    if (!Work::ClosesLater()) {
+    if (!Work::ClosesLater(*this)) {
         CFrameWnd::OnClose();
     }
 }
@@ -103,7 +105,7 @@ BOOL MainFrame::OnQueryEndSession() {
 }
 
 BOOL MainFrame::Open(const CString& strPath, bool bInteractive) {
-    Inventory inventory;
+    const auto pInventory = std::make_shared<Inventory>();
     Problem problem;
     CFileStatus status;
     CString strFile;
@@ -115,17 +117,11 @@ BOOL MainFrame::Open(const CString& strPath, bool bInteractive) {
         strFile = strPath.IsEmpty() ? CString(kPackageDatabase) : strPath;
         const Failure pLeft = Work::Run("Reading the packages...", [&](Work& work) {
             std::vector<Package> packages;
-            bRead = ReadPackages(static_cast<LPCTSTR>(strFile), packages, problem,
-                                 [&](std::uint64_t nDone, std::uint64_t nAll) {
-                                     work.Step(nDone, nAll);
-                                     return true;
-                                 });
-            ReadInstallDates(strFile, packages);
-            ToProcessCodePage(packages);
+            bRead = ReadDatabase(work, strFile, packages, problem);
             if (bRead || !m_bShown) {
                 work.Say("Showing the packages...");
-                inventory.SetPackages(std::move(packages));
-                m_packages.Prepare(inventory, work);
+                pInventory->SetPackages(std::move(packages));
+                m_packages.Prepare(*pInventory, work);
             }
         });
         if (pLeft != nullptr) {
@@ -133,7 +129,7 @@ BOOL MainFrame::Open(const CString& strPath, bool bInteractive) {
             return FALSE;
         }
     } else {
-        inventory.SetPackages(ReadUninstallEntries());
+        pInventory->SetPackages(ReadUninstallEntries());
     }
     if (!bRead) {
         TellOrKeep(Failed(kErrorOpenInventory, ProblemReason(problem)), bInteractive);
@@ -143,12 +139,12 @@ BOOL MainFrame::Open(const CString& strPath, bool bInteractive) {
     }
     m_strPath = strPath;
     m_strProblem = ProblemText(problem).c_str();
-    ShowInventory(std::move(inventory), strFile);
+    ShowInventory(pInventory, strFile);
     return bRead;
 }
 
 // An empty file: the packages come from the registry.
-void MainFrame::ShowInventory(Inventory inventory, const CString& strFile) {
+void MainFrame::ShowInventory(std::shared_ptr<const Inventory> pInventory, const CString& strFile) {
     const CWaitCursor wait;
     m_bShown = true;
     CString strFolder;
@@ -158,9 +154,10 @@ void MainFrame::ShowInventory(Inventory inventory, const CString& strFile) {
     }
     m_settings.ShowDatabase(strFile.IsEmpty() ? "the registry's uninstall entries" : strFile);
     m_packages.UseDatabase(strFolder);
-    m_inventory = std::move(inventory);
-    m_pages.SetInventory(m_inventory);
-    m_desk.SetInventory(m_inventory);
+    m_pInventory = std::move(pInventory);
+    m_strFile = strFile;
+    m_pages.SetInventory(*m_pInventory);
+    m_desk.SetInventory(*m_pInventory);
 }
 
 void MainFrame::OnReload() {
@@ -192,6 +189,47 @@ void MainFrame::OpenAnother(const CString& strFile) {
     }
 }
 
+void MainFrame::OnSaveSnapshot() {
+    const CString strFile = AskForSnapshot(*this);
+    if (strFile.IsEmpty()) {
+        return;
+    }
+    Failure pFailure = WriteSnapshot(strFile, *m_pInventory);
+    if (pFailure == nullptr) {
+        m_pages.Active().Say(
+            (CountText(m_pInventory->CountPackages(), "package") + " written to ").c_str() +
+            strFile);
+    } else if (WasCancelled(pFailure)) {
+        m_pages.Active().Say("Writing the snapshot was cancelled.");
+    }
+    Tell(std::move(pFailure), this);
+}
+
+void MainFrame::OnCompare() {
+    const CString strFile = AskForDatabaseBefore(*this, m_strFile);
+    if (!strFile.IsEmpty()) {
+        Compare(strFile);
+    }
+}
+
+BOOL MainFrame::Compare(const CString& strFile) {
+    CDocument* pDocument =
+        static_cast<InventoryApp*>(AfxGetApp())->Comparisons().OpenDocumentFile(strFile);
+    if (pDocument == nullptr) {
+        return FALSE;
+    }
+    POSITION pos = pDocument->GetFirstViewPosition();
+    pDocument->GetNextView(pos)->GetParentFrame()->ActivateFrame();
+    return TRUE;
+}
+
+void MainFrame::ShowPackage(const CString& strName) {
+    m_pages.ShowPage(m_packages);
+    m_packages.GoTo(strName);
+    ActivateFrame();
+    SetForegroundWindow();
+}
+
 void MainFrame::OnPreview() {
     m_pages.ShowPage(m_report);
 }
@@ -206,8 +244,8 @@ void MainFrame::OnUpdateMessage(CCmdUI* pCmdUI) {
         strText = m_pages.Active().Message();
     }
     if (strText.IsEmpty()) {
-        strText = (CountText(m_inventory.CountPackages(), "package") + " in " +
-                   CountText(m_inventory.Sections().size(), "section"))
+        strText = (CountText(m_pInventory->CountPackages(), "package") + " in " +
+                   CountText(m_pInventory->Sections().size(), "section"))
                       .c_str();
     }
     pCmdUI->Enable();

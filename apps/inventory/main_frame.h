@@ -13,11 +13,22 @@
 
 #include <afxext.h>
 
+#include <memory>
+
 class MainFrame : public CFrameWnd {
 public:
     // An empty path: this machine's own inventory. If it cannot be read, or the user cancels, what
     // is shown stays.
     BOOL Open(const CString& strPath, bool bInteractive);
+    // What is shown; it lives on for whoever holds it when another inventory takes its place.
+    const std::shared_ptr<const Inventory>& Shown() const { return m_pInventory; }
+    // The file it comes from; empty: the registry.
+    const CString& ShownFile() const { return m_strFile; }
+    // Opens a frame with what is different from a status file, or shows that in the frame that is
+    // there. False if it cannot be read, which is said, or the user cancels.
+    BOOL Compare(const CString& strFile);
+    // Brings the window to the front with a package of that name in the list.
+    void ShowPackage(const CString& strName);
     PackagesPage& Packages() { return m_packages; }
     ReportPage& Report() { return m_report; }
     SettingsPage& Settings() { return m_settings; }
@@ -44,6 +55,8 @@ protected:
     afx_msg void OnReload();
     afx_msg void OnOpenDatabase();
     afx_msg void OnOpenMachine();
+    afx_msg void OnSaveSnapshot();
+    afx_msg void OnCompare();
     afx_msg void OnPreview();
     afx_msg void OnPrint();
     afx_msg void OnUpdateMessage(CCmdUI* pCmdUI);
@@ -51,7 +64,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    void ShowInventory(Inventory inventory, const CString& strFile);
+    void ShowInventory(std::shared_ptr<const Inventory> pInventory, const CString& strFile);
     void OpenAnother(const CString& strFile);
 
     bool m_bShown = false;  // an inventory, be it none for want of a file that can be read
@@ -60,7 +73,8 @@ private:
     CString m_strMachine;         // that was looked at last
     CString m_strMachinesFolder;  // on it
     QVMachineFolders* m_pMachines = &QVMachineFolders::Network();
-    Inventory m_inventory;
+    std::shared_ptr<const Inventory> m_pInventory = std::make_shared<Inventory>();
+    CString m_strFile;
     CStatusBar m_statusBar;
     PackagesPage m_packages;
     SettingsPage m_settings;

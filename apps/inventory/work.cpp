@@ -13,7 +13,7 @@ constexpr DWORD kRange = 1000;
 }  // namespace
 
 Work* Work::s_pRunning = nullptr;
-bool Work::s_bCloses = false;
+HWND Work::s_hCloses = nullptr;
 bool Work::s_bShown = false;
 DWORD Work::s_nDelay = 0;
 
@@ -42,8 +42,8 @@ Work::Work(LPCSTR pszMessage) : m_nNext(::GetTickCount64() + kPatience) {
 Work::~Work() {
     m_dlg.Remove();
     s_pRunning = nullptr;
-    if (std::exchange(s_bCloses, false)) {
-        AfxGetMainWnd()->PostMessage(WM_CLOSE);
+    if (const HWND hCloses = std::exchange(s_hCloses, nullptr)) {
+        ::PostMessage(hCloses, WM_CLOSE, 0, 0);
     }
 }
 
@@ -71,10 +71,15 @@ void Work::Say(LPCSTR pszMessage) {
     m_dlg.SetWaitMessage(pszMessage);
 }
 
-bool Work::ClosesLater() {
-    s_bCloses = IsRunning();
+bool Work::ClosesLater(CWnd& wnd) {
+    if (!IsRunning()) {
+        return false;
+    }
+    if (s_hCloses == nullptr || &wnd == AfxGetMainWnd()) {
+        s_hCloses = wnd.m_hWnd;
+    }
     Cancel();
-    return IsRunning();
+    return true;
 }
 
 void Work::Cancel() {

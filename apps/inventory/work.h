@@ -32,9 +32,9 @@ public:
     static bool IsRunning() { return s_pRunning != nullptr; }
     // As the user does by the button.
     static void Cancel();
-    // The main window is to close: false if it can. Work that is running is cancelled, and the
-    // window gets WM_CLOSE again behind it.
-    static bool ClosesLater();
+    // A window is to close: false if it can. Work that is running is cancelled, and the window, or
+    // the main one if both are to, gets WM_CLOSE again behind it.
+    static bool ClosesLater(CWnd& wnd);
 
     // For the walk, on machines of any speed: each step takes that long. 0: as long as it takes.
     static void SlowDown(DWORD nMilliseconds) { s_nDelay = nMilliseconds; }
@@ -49,7 +49,7 @@ private:
     ~Work();
 
     static Work* s_pRunning;
-    static bool s_bCloses;
+    static HWND s_hCloses;
     static bool s_bShown;
     static DWORD s_nDelay;
 

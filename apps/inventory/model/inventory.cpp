@@ -30,10 +30,10 @@ std::string CountText(size_t n, const char* pszWhat) {
     return std::to_string(n) + " " + pszWhat + (n == 1 ? "" : "s");
 }
 
-std::string SizeText(long nKiB) {
+std::string SizeText(long long nKiB) {
     char szText[32];
     if (nKiB < 1024) {
-        std::snprintf(szText, sizeof(szText), "%ld KiB", nKiB);
+        std::snprintf(szText, sizeof(szText), "%lld KiB", nKiB);
     } else if (nKiB < 1024 * 1024) {
         std::snprintf(szText, sizeof(szText), "%.1f MiB", static_cast<double>(nKiB) / 1024);
     } else {

@@ -43,6 +43,6 @@ private:
 // "1 package", "2 packages".
 std::string CountText(size_t n, const char* pszWhat);
 // "12 KiB", "3.4 MiB", "1.2 GiB".
-std::string SizeText(long nKiB);
+std::string SizeText(long long nKiB);
 // Local day and minute; empty for 0.
 std::string DateText(std::time_t t);

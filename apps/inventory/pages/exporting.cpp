@@ -1,27 +1,7 @@
 #include "pages/exporting.h"
 
 #include "dialogs/export_dialog.h"
-#include "sources/new_file.h"
-
-namespace {
-
-Failure WriteList(LPCSTR pszPath, char chSeparator, const Exporter::Write& write) {
-    return Work::Run("Writing the list...", [&](Work& work) {
-        NewFile file(pszPath);
-        ::SetLastError(NO_ERROR);
-        try {
-            if (!write(file.Path(), chSeparator, work) || !file.PutInPlace()) {
-                Failure pReason = SystemReason(::GetLastError(), pszPath);
-                throw Failed(kErrorExport, std::move(pReason), pszPath).release();
-            }
-        } catch (CFileException* pException) {
-            pException->m_strFileName = pszPath;  // not the one beside it
-            throw Failed(kErrorExport, FileReason(pException), pszPath).release();
-        }
-    });
-}
-
-}  // namespace
+#include "sources/whole_file.h"
 
 bool Exporter::Run(Page& page, LPCSTR pszName, const Write& write) {
     ExportDialog dialog(&page);
@@ -39,7 +19,9 @@ bool Exporter::Run(Page& page, LPCSTR pszName, const Write& write) {
     if (dialog.DoModal() != IDOK) {
         return false;
     }
-    Failure pFailure = WriteList(dialog.m_strPath, dialog.Separator(), write);
+    Failure pFailure = WriteWholeFile(
+        "Writing the list...", kErrorExport, dialog.m_strPath,
+        [&](LPCSTR pszPath, Work& work) { return write(pszPath, dialog.Separator(), work); });
     const bool bWritten = pFailure == nullptr;
     if (bWritten) {
         m_strPath = dialog.m_strPath;

@@ -22,6 +22,8 @@ public:
     CString MarkedText() override;
     bool FindNext(const CString& strText) override;
 
+    // Selects the package of that name in the list, behind another filter if it must be.
+    void GoTo(const CString& strName) { OnGoTo(strName); }
     PackageBrowser& Browser() { return m_browser; }
     PackageTree& Tree() { return m_browser.Tree(); }
     PackageList& List() { return m_browser.List(); }

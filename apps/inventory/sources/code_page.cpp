@@ -4,16 +4,16 @@
 
 namespace {
 
-void Convert(std::string& str) {
-    if (std::all_of(str.begin(), str.end(),
-                    [](char ch) { return static_cast<signed char>(ch) >= 0; })) {
+void Convert(std::string& str, UINT nFrom, UINT nTo) {
+    if (nFrom == nTo || std::all_of(str.begin(), str.end(),
+                                    [](char ch) { return static_cast<signed char>(ch) >= 0; })) {
         return;
     }
     const int nBytes = static_cast<int>(str.size());
     std::wstring strWide(str.size(), L'\0');
-    const int nWide = ::MultiByteToWideChar(CP_UTF8, 0, str.data(), nBytes, strWide.data(), nBytes);
+    const int nWide = ::MultiByteToWideChar(nFrom, 0, str.data(), nBytes, strWide.data(), nBytes);
     std::string strOut(static_cast<size_t>(nWide) * 4, '\0');
-    const int nOut = ::WideCharToMultiByte(CP_ACP, 0, strWide.data(), nWide, strOut.data(),
+    const int nOut = ::WideCharToMultiByte(nTo, 0, strWide.data(), nWide, strOut.data(),
                                            static_cast<int>(strOut.size()), nullptr, nullptr);
     strOut.resize(static_cast<size_t>(nOut));
     str = strOut;
@@ -22,9 +22,12 @@ void Convert(std::string& str) {
 }  // namespace
 
 std::string InProcessCodePage(std::string text) {
-    if (::GetACP() != CP_UTF8) {
-        Convert(text);
-    }
+    Convert(text, CP_UTF8, ::GetACP());
+    return text;
+}
+
+std::string InUtf8(std::string text) {
+    Convert(text, ::GetACP(), CP_UTF8);
     return text;
 }
 
@@ -35,10 +38,12 @@ void ToProcessCodePage(std::vector<Package>& packages) {
     for (Package& package : packages) {
         for (std::string* pText : {&package.strName, &package.strSection, &package.strVersion,
                                    &package.strState, &package.strSummary}) {
-            Convert(*pText);
+            Convert(*pText, CP_UTF8, ::GetACP());
         }
         for (std::vector<std::string>* pNames : {&package.dependencies, &package.provides}) {
-            std::for_each(pNames->begin(), pNames->end(), Convert);
+            for (std::string& strName : *pNames) {
+                Convert(strName, CP_UTF8, ::GetACP());
+            }
         }
     }
 }

@@ -11,4 +11,5 @@
 
 // Characters that the code page has not become question marks.
 std::string InProcessCodePage(std::string text);
+std::string InUtf8(std::string text);
 void ToProcessCodePage(std::vector<Package>& packages);

@@ -62,6 +62,15 @@ void CALLBACK AnswerFind(HWND hWnd, UINT, UINT_PTR nTimer, DWORD) {
 bool Walk::Run() {
     m_frame.SetForegroundWindow();
     Tree().SetFocus();
+    const char* const pszOnly = std::getenv("QV_WALK_ONLY");
+    return pszOnly != nullptr && CString(pszOnly) == "comparisons" ? AllComparisons() : All();
+}
+
+bool Walk::AllComparisons() {
+    return SaveSnapshot() && About() && Comparisons();
+}
+
+bool Walk::All() {
     return SectionsTree() && OpenBranch() && SectionNarrows() && Marks() && AbsoluteColumns() &&
            Find() && Vetoes() && AllPackages() && Packages() && FindPackage() && ImageColumn() &&
            Export() && Refresh() && CancelLoad() && CancelExport() && DragBars() && DetailsTabs() &&
@@ -73,14 +82,15 @@ bool Walk::Run() {
            FinishEarly() && CancelWizard() && RunFromBar() && EditReport() && DeleteReport() &&
            SaveReportAs() && AskAgain() && RenameReport() && Logs() && FollowLog() &&
            LogOnPaper() && DamagedDatabase() && LockedFile() && FullDisk() && ErrorsInLog() &&
-           OpenDatabase() && OpenMachine();
+           OpenDatabase() && OpenMachine() && AllComparisons();
 }
 
-bool Walk::Station(const char* pszName) {
+bool Walk::Station(const char* pszName, CWnd* pWnd) {
     WaitFor([this] { return !Details().IsWaiting(); });
-    m_frame.UpdateWindow();
+    CWnd& wnd = pWnd != nullptr ? *pWnd : m_frame;
+    wnd.UpdateWindow();
     const CString strFile = m_strFolder + "\\" + pszName + ".bmp";
-    const bool bSaved = SavePicture(m_frame, strFile);
+    const bool bSaved = SavePicture(wnd, strFile);
     std::printf("walk: %s%s\n", pszName, bSaved ? "" : ": the picture could not be written");
     std::fflush(stdout);
     return bSaved;
@@ -88,9 +98,11 @@ bool Walk::Station(const char* pszName) {
 
 bool Walk::Happened(const char* pszWhat, bool bHappened) {
     if (!bHappened) {
-        std::printf("walk: this did not happen: %s\n", pszWhat);
+        char szFocus[64] = "no window";
+        ::GetClassName(::GetFocus(), szFocus, sizeof(szFocus));
+        std::printf("walk: this did not happen: %s (the focus is in: %s)\n", pszWhat, szFocus);
         std::fflush(stdout);
-        SavePicture(m_frame, m_strFolder + "\\failed.bmp");
+        SavePicture(*CWnd::GetDesktopWindow(), m_strFolder + "\\failed.bmp");
     }
     return bHappened;
 }

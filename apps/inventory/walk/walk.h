@@ -14,10 +14,13 @@
 class Walk {
 public:
     Walk(MainFrame& frame, const CString& strFolder) : m_frame(frame), m_strFolder(strFolder) {}
-    // False, with the reason on standard output, as soon as something does not happen.
+    // False, with the reason on standard output, as soon as something does not happen. With the
+    // environment's QV_WALK_ONLY=comparisons only the last part, for whoever works on that.
     bool Run();
 
 private:
+    bool All();
+    bool AllComparisons();
     // The tree
     bool SectionsTree();
     bool OpenBranch();
@@ -107,6 +110,17 @@ private:
     bool SaveReportAs();
     bool AskAgain();
     bool RenameReport();
+    // What is different from an earlier database, and the about box
+    bool Comparisons();
+    bool SaveSnapshot();
+    bool CompareWithEarlier();
+    bool ComparisonPages();
+    bool ComparisonCells(class ChangedGrid& grid);
+    bool ComparisonPreview();
+    bool ShowInInventory();
+    bool CompareWithSame();
+    bool CloseComparison();
+    bool About();
     // Long work
     bool CancelLoad();
     bool CancelExport();
@@ -143,7 +157,8 @@ private:
         cause();
         return Expect(pszTitle, [&] { return bActed; }) && bGood;
     }
-    bool Station(const char* pszName);
+    // A picture of a window; null: the main one.
+    bool Station(const char* pszName, CWnd* pWnd = nullptr);
     bool Happened(const char* pszWhat, bool bHappened);
     template <class Condition>
     bool Expect(const char* pszWhat, Condition condition) {

@@ -1,0 +1,77 @@
+#include "compare/changed_page.h"
+
+#include "compare/difference_colors.h"
+#include "resource.h"
+
+namespace {
+
+constexpr PaperColumn kPaperColumns[] = {{"Package", "a-package-with-a-long-name~", false, true},
+                                         {"Architecture", "amd64~"},
+                                         {"Before", "1:14.0.6-12+deb12u1~", false, true},
+                                         {"Now", "1:14.0.6-12+deb12u1~", false, true},
+                                         {"Size", "+999.9 MiB~", true},
+                                         {"Change", "newer, larger, state", false, true}};
+
+}  // namespace
+
+IMPLEMENT_DYNCREATE(ChangedPage, QVTabViewPage)
+
+ChangedPage::ChangedPage() : ComparisonPage(IDD_COMPARE_GRID) {}
+
+int ChangedPage::Create(CWnd* pParent) {
+    return ComparisonPage::Create(pParent) && m_grid.GetSafeHwnd() != nullptr;
+}
+
+BOOL ChangedPage::OnInitDialog() {
+    ComparisonPage::OnInitDialog();
+    m_grid.Make(this, IDC_COMPARE_GRID);
+    return FALSE;
+}
+
+void ChangedPage::LayOut(CSize size) {
+    ComparisonPage::LayOut(size);
+    m_grid.Fit();
+}
+
+void ChangedPage::Show(const ComparisonDocument& document) {
+    m_grid.Show(document.Differences().Changed());
+}
+
+void ChangedPage::Clear() {
+    static const std::vector<Difference> none;
+    m_grid.Show(none);
+}
+
+CString ChangedPage::Message() {
+    return CountMessage(Document().Differences().Changed(), "changed");
+}
+
+const Package* ChangedPage::ShownPackage() {
+    const int nRow = m_grid.Row();
+    const auto& changed = Document().Differences().Changed();
+    return nRow >= 0 && nRow < static_cast<int>(changed.size())
+               ? changed[static_cast<size_t>(nRow)].pAfter
+               : nullptr;
+}
+
+// A heading for each section, where the grid merges cells.
+std::unique_ptr<PaperTable> ChangedPage::Table() {
+    auto pTable = std::make_unique<PaperTable>();
+    pTable->strTitle = "Packages that are changed";
+    pTable->strText = Message() + ": " + Document().NameBefore() + " and " + Document().NameNow();
+    pTable->columns.assign(std::begin(kPaperColumns), std::end(kPaperColumns));
+    for (const Difference& difference : Document().Differences().Changed()) {
+        const CString strSection = ChangedGrid::CellText(difference, 0);
+        if (pTable->groups.empty() || pTable->groups.back().strTitle != strSection) {
+            pTable->groups.emplace_back().strTitle = strSection;
+        }
+        CString strRow;
+        for (int nCol = 1; nCol < ChangedGrid::kColumns; ++nCol) {
+            strRow += (nCol > 1 ? "\t" : "") +
+                      QVStyledRows::MakeStyleCodes(ChangedGrid::CellStyle(difference, nCol)) +
+                      ChangedGrid::CellText(difference, nCol);
+        }
+        pTable->groups.back().rows.Add(strRow);
+    }
+    return pTable;
+}

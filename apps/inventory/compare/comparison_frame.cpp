@@ -1,0 +1,55 @@
+#include "compare/comparison_frame.h"
+
+#include "compare/comparison_view.h"
+#include "resource.h"
+#include "work.h"
+
+#include <algorithm>
+
+IMPLEMENT_DYNCREATE(ComparisonFrame, CFrameWnd)
+
+BEGIN_MESSAGE_MAP(ComparisonFrame, CFrameWnd)
+    ON_WM_CREATE()
+    ON_WM_CLOSE()
+END_MESSAGE_MAP()
+
+BOOL ComparisonFrame::PreCreateWindow(CREATESTRUCT& cs) {
+    const CClientDC dc(nullptr);
+    const int nDpi = dc.GetDeviceCaps(LOGPIXELSX);
+    cs.cx = std::min(::MulDiv(960, nDpi, 96), ::GetSystemMetrics(SM_CXSCREEN));
+    cs.cy = std::min(::MulDiv(600, nDpi, 96), ::GetSystemMetrics(SM_CYSCREEN));
+    return CFrameWnd::PreCreateWindow(cs);
+}
+
+int ComparisonFrame::OnCreate(LPCREATESTRUCT lpCreateStruct) {
+    static constexpr UINT kIndicators[] = {ID_INDICATOR_MESSAGE};
+    if (CFrameWnd::OnCreate(lpCreateStruct) == -1 || !m_statusBar.Create(this) ||
+        !m_statusBar.SetIndicators(kIndicators, static_cast<int>(std::size(kIndicators)))) {
+        return -1;
+    }
+    m_statusBar.SetPaneStyle(0, SBPS_STRETCH);
+    return 0;
+}
+
+void ComparisonFrame::OnClose() {
+    if (!Work::ClosesLater(*this)) {
+        CFrameWnd::OnClose();
+    }
+}
+
+BOOL ComparisonFrame::OnCmdMsg(UINT nID, int nCode, void* pExtra,
+                               AFX_CMDHANDLERINFO* pHandlerInfo) {
+    if (nCode == CN_COMMAND && Work::IsRunning()) {
+        return TRUE;
+    }
+    return CFrameWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+}
+
+void ComparisonFrame::GetMessageString(UINT nID, CString& rMessage) const {
+    if (auto* pView = dynamic_cast<ComparisonView*>(GetActiveView())) {
+        pView->GetMessageString(nID, rMessage);
+    }
+    if (rMessage.IsEmpty()) {
+        CFrameWnd::GetMessageString(nID, rMessage);
+    }
+}

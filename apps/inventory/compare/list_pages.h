@@ -1,0 +1,81 @@
+// Pages of a comparison that are lists: the summary, what is new and what is gone.
+
+#pragma once
+
+#include "compare/comparison_page.h"
+
+class SummaryPage : public ComparisonPage {
+    DECLARE_DYNCREATE(SummaryPage)
+
+public:
+    SummaryPage();
+    CWnd& Control() override { return m_list; }
+    size_t Rows() override;
+    int Row() override { return -1; }
+    void GoTo(int) override {}
+    CString Message() override;
+    std::unique_ptr<PaperTable> Table() override;
+
+protected:
+    BOOL OnInitDialog() override;
+    void Show(const ComparisonDocument& document) override;
+    void Clear() override { m_list.DeleteAllItems(); }
+    CString SelectedText() override;
+    bool HasSelection() override { return m_list.GetSelectedCount() > 0; }
+    const Package* ShownPackage() override { return nullptr; }
+
+private:
+    QVListCtrlEx m_list;
+};
+
+// Packages that only one of the two has.
+class DifferencePage : public ComparisonPage {
+public:
+    CWnd& Control() override { return m_list; }
+    size_t Rows() override;
+    int Row() override;
+    void GoTo(int nRow) override;
+    CString Message() override;
+    std::unique_ptr<PaperTable> Table() override;
+    QVSortingListCtrl& List() { return m_list; }
+
+protected:
+    DifferencePage(const char* pszWhat, int nStyle);
+    virtual const std::vector<Difference>& Differences() = 0;
+    BOOL OnInitDialog() override;
+    void Show(const ComparisonDocument& document) override;
+    void Clear() override { m_list.DeleteAllItems(); }
+    CString SelectedText() override;
+    bool HasSelection() override { return m_list.GetSelectedCount() > 0; }
+    const Package* ShownPackage() override;
+    void LayOut(CSize size) override;
+
+private:
+    CString RowText(int nItem);
+
+    const char* m_pszWhat;
+    const int m_nStyle;
+    QVSortingListCtrl m_list;  // item data: the number of the difference
+};
+
+class NewPage : public DifferencePage {
+    DECLARE_DYNCREATE(NewPage)
+
+public:
+    NewPage();
+
+protected:
+    const std::vector<Difference>& Differences() override { return Document().Differences().New(); }
+};
+
+class GonePage : public DifferencePage {
+    DECLARE_DYNCREATE(GonePage)
+
+public:
+    GonePage();
+
+protected:
+    const std::vector<Difference>& Differences() override {
+        return Document().Differences().Gone();
+    }
+};

@@ -1,0 +1,341 @@
+#include "walk/walk.h"
+
+#include "afx/documents/print_output.h"
+#include "compare/changed_page.h"
+#include "compare/comparison_frame.h"
+#include "compare/comparison_view.h"
+#include "compare/list_pages.h"
+#include "inventory_app.h"
+#include "model/package_database.h"
+#include "resource.h"
+
+#include <afxpriv.h>
+
+#include <fstream>
+
+namespace {
+
+constexpr char kSnapshotTitle[] = "Save a snapshot of the packages";
+constexpr char kCompareTitle[] = "Compare with an earlier package database";
+constexpr int kVersionId = 30111;  // in the about box
+
+// What the snapshot says, but for every so many packages, as an earlier day may have been.
+constexpr size_t kLeftOut = 40;
+constexpr size_t kRenamed = 55;
+constexpr size_t kOlder = 9;
+constexpr size_t kNewer = 70;
+constexpr size_t kSmaller = 16;
+
+std::vector<Package> Read(const CString& strFile) {
+    std::vector<Package> packages;
+    Problem problem;
+    ReadPackages(static_cast<LPCSTR>(strFile), packages, problem);
+    return packages;
+}
+
+void Replace(std::string& strEntry, const std::string& strField, const std::string& strValue) {
+    const size_t nStart = strEntry.find("\n" + strField + ": ");
+    if (nStart != std::string::npos) {
+        const size_t nValue = nStart + strField.size() + 3;
+        strEntry.replace(nValue, strEntry.find('\n', nValue) - nValue, strValue);
+    }
+}
+
+void WriteEarlier(const CString& strFile, const std::vector<Package>& packages) {
+    std::ofstream file(strFile, std::ios::binary);
+    for (size_t i = 1; i <= packages.size(); ++i) {
+        const Package& package = packages[i - 1];
+        std::string strEntry = "\n" + *package.pStanza;
+        if (i % kLeftOut == 0) {
+            continue;
+        }
+        if (i % kRenamed == 0) {
+            Replace(strEntry, "Package", package.strName + "-of-old");
+        }
+        if (i % kOlder == 0) {
+            Replace(strEntry, "Version", package.strVersion + "~");
+        }
+        if (i % kNewer == 0) {
+            Replace(strEntry, "Version", "99:" + package.strVersion);
+        }
+        if (i % kSmaller == 0) {
+            Replace(strEntry, "Installed-Size", std::to_string(package.nSizeKiB / 2));
+        }
+        file << strEntry;
+    }
+}
+
+ComparisonView* View() {
+    const auto& comparisons = static_cast<InventoryApp*>(AfxGetApp())->Comparisons();
+    POSITION pos = comparisons.GetFirstDocPosition();
+    CDocument* const pDocument = pos != nullptr ? comparisons.GetNextDoc(pos) : nullptr;
+    POSITION posView = pDocument != nullptr ? pDocument->GetFirstViewPosition() : nullptr;
+    return posView != nullptr ? dynamic_cast<ComparisonView*>(pDocument->GetNextView(posView))
+                              : nullptr;
+}
+
+ComparisonFrame& Frame() {
+    return static_cast<ComparisonFrame&>(*View()->GetParentFrame());
+}
+
+bool IsActive(int nPage) {
+    return View()->GetActivePage() == nPage && View()->Page(nPage)->IsWindowVisible();
+}
+
+bool InPreview() {
+    return dynamic_cast<CPreviewView*>(Frame().GetActiveView()) != nullptr;
+}
+
+CWnd& PreviewButton(UINT nID) {
+    return *Frame().GetDlgItem(AFX_IDW_PREVIEW_BAR)->GetDlgItem(static_cast<int>(nID));
+}
+
+// Where the strip itself says that a tab is.
+CPoint PointOfTab(short nTab) {
+    CTab& tabs = View()->GetTabCtrl();
+    CRect rc;
+    tabs.GetWindowRect(&rc);
+    const CClientDC dc(&tabs);
+    const int nTwips = 1440 / dc.GetDeviceCaps(LOGPIXELSX);
+    const int nRight = rc.left + tabs.GetClientLeft() / nTwips;
+    CPoint pt((rc.left + nRight) / 2, rc.top);
+    if (nRight - rc.left < 8) {  // at the other side
+        pt.x = rc.right - 8;
+    }
+    for (; pt.y < rc.bottom; pt.y += 4) {
+        SendMouse(pt, {MOUSEEVENTF_MOVE});
+        HandleMessages();
+        if (tabs.GetMouseOverTab() == nTab) {
+            break;
+        }
+    }
+    return pt + CSize(0, 6);
+}
+
+CPoint PointOfCell(ChangedGrid& grid, int nRow, int nCol) {
+    const CClientDC dc(&grid);
+    const int nTwips = 1440 / dc.GetDeviceCaps(LOGPIXELSX);
+    CPoint pt(grid.GetColPos(nCol) / nTwips + 8, grid.GetRowPos(nRow) / nTwips + 8);
+    grid.ClientToScreen(&pt);
+    return pt;
+}
+
+bool TipShows() {
+    for (HWND hTip = nullptr;
+         (hTip = ::FindWindowEx(nullptr, hTip, TOOLTIPS_CLASS, nullptr)) != nullptr;) {
+        if (::IsWindowVisible(hTip)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+CString ClipboardText() {
+    CString strText;
+    if (::OpenClipboard(nullptr)) {
+        if (const HANDLE hText = ::GetClipboardData(CF_TEXT)) {
+            strText = static_cast<LPCSTR>(::GlobalLock(hText));
+            ::GlobalUnlock(hText);
+        }
+        ::CloseClipboard();
+    }
+    return strText;
+}
+
+}  // namespace
+
+bool Walk::Comparisons() {
+    const std::vector<Package> packages = Read(m_strFolder + "\\snapshot-status");
+    if (packages.size() < 2 * kNewer) {
+        std::printf("walk: too few packages to compare\n");
+        return true;
+    }
+    WriteEarlier(m_strFolder + "\\earlier-status", packages);
+    return CompareWithEarlier() && ComparisonPages() && ComparisonPreview() && ShowInInventory() &&
+           CompareWithSame() && CloseComparison();
+}
+
+bool Walk::SaveSnapshot() {
+    const CString strFile = m_strFolder + "\\snapshot-status";
+    return InDialog(
+               kSnapshotTitle,
+               [] {
+                   Press('I', VK_MENU);
+                   Press('S');
+               },
+               [&](CWnd&) {
+                   ::SetWindowText(::GetFocus(), strFile);
+                   const bool bGood = Station("compare-1-save-snapshot");
+                   Press(VK_RETURN);
+                   return bGood;
+               }) &&
+           Expect("all packages are in the snapshot", [&] {
+               return !Work::IsRunning() &&
+                      Read(strFile).size() == m_frame.Shown()->CountPackages();
+           });
+}
+
+bool Walk::CompareWithEarlier() {
+    const CString strFile = m_strFolder + "\\earlier-status";
+    return InDialog(
+               kCompareTitle,
+               [] {
+                   Press('I', VK_MENU);
+                   Press('C');
+               },
+               [&](CWnd&) {
+                   ::SetWindowText(::GetFocus(), strFile);
+                   const bool bGood = Station("compare-2-file-dialog");
+                   Press(VK_RETURN);
+                   return bGood;
+               }) &&
+           Expect("a frame of its own shows the comparison",
+                  [&] { return View() != nullptr && Frame().IsWindowVisible(); }) &&
+           Expect("with its first page", [] { return IsActive(ComparisonView::kSummary); }) &&
+           Happened("and the main window stays", m_frame.IsWindowVisible() != FALSE) &&
+           Station("compare-3-summary", &Frame());
+}
+
+bool Walk::ComparisonPages() {
+    Click(PointOfTab(ComparisonView::kNew));
+    if (!Expect("a click on a tab shows its page", [] { return IsActive(ComparisonView::kNew); }) ||
+        !Station("compare-4-new", &Frame())) {
+        return false;
+    }
+    Press(VK_DOWN);
+    if (!Expect("a key in the strip shows the next page",
+                [] { return IsActive(ComparisonView::kGone); }) ||
+        !Station("compare-5-gone", &Frame())) {
+        return false;
+    }
+    Press('4', VK_CONTROL);
+    if (!Expect("an accelerator shows what has changed", [] {
+            return IsActive(ComparisonView::kChanged) &&
+                   ::GetFocus() == View()->Active()->Control().m_hWnd;
+        })) {
+        return false;
+    }
+    auto& grid = static_cast<ChangedGrid&>(View()->Active()->Control());
+    Press(VK_F3);
+    return Expect("the next difference is the second row", [&] { return grid.Row() == 1; }) &&
+           Station("compare-6-changed", &Frame()) && ComparisonCells(grid);
+}
+
+bool Walk::ComparisonCells(ChangedGrid& grid) {
+    constexpr int kNow = 4;
+    const auto& changed = View()->Active()->Rows();
+    int nRow = 1;
+    while (nRow < static_cast<int>(changed) && grid.GetTextMatrix(nRow, 6).Find("newer") < 0) {
+        ++nRow;
+    }
+    const CPoint pt = PointOfCell(grid, nRow, kNow);
+    const CClientDC dcScreen(nullptr);
+    if (!Expect("a newer version is green",
+                [&] { return dcScreen.GetPixel(pt - CSize(5, 5)) == RGB(224, 246, 224); })) {
+        return false;
+    }
+    SendMouse(pt - CSize(3, 0), {MOUSEEVENTF_MOVE});
+    HandleMessages();
+    SendMouse(pt, {MOUSEEVENTF_MOVE});
+    if (!Expect("a cell says what has changed", TipShows) ||
+        !Station("compare-7-tool-tip", &Frame())) {
+        return false;
+    }
+    Click(pt);
+    if (!Expect("a click picks the cell", [&] { return grid.GetRow() == nRow; })) {
+        return false;
+    }
+    Press('C', VK_CONTROL);
+    return Expect("a key copies it",
+                  [&] { return ClipboardText() == grid.GetTextMatrix(nRow, kNow) + "\r\n"; });
+}
+
+bool Walk::ComparisonPreview() {
+    Press('F', VK_MENU);
+    Press('V');
+    if (!Expect("the page shows as it will be printed", InPreview) ||
+        !Station("compare-8-preview", &Frame())) {
+        return false;
+    }
+    ClickOn(PreviewButton(AFX_ID_PREVIEW_NUMPAGE));
+    HandleMessages();
+    if (!Station("compare-9-two-pages", &Frame())) {
+        return false;
+    }
+    ClickOn(PreviewButton(AFX_ID_PREVIEW_ZOOMIN));
+    HandleMessages();
+    if (!Station("compare-10-zoomed", &Frame())) {
+        return false;
+    }
+    const CString strFile = m_strFolder + "\\comparison.ps";
+    {
+        const AfxPrintOutput output(strFile);
+        if (!InDialog(
+                "Print", [] { ClickOn(PreviewButton(AFX_ID_PREVIEW_PRINT)); },
+                [](CWnd&) {
+                    Press(VK_RETURN);
+                    return true;
+                })) {
+            return false;
+        }
+    }
+    CFileStatus status;
+    return Expect("it is printed from there, and the pages are back",
+                  [&] {
+                      return !InPreview() && CFile::GetStatus(strFile, status) &&
+                             IsActive(ComparisonView::kChanged);
+                  }) &&
+           Station("compare-11-printed", &Frame());
+}
+
+bool Walk::ShowInInventory() {
+    const Difference& difference =
+        static_cast<ComparisonDocument*>(View()->GetDocument())->Differences().Changed()[0];
+    View()->Active()->GoTo(0);
+    Press('I', VK_CONTROL);
+    const auto shown = [&] {
+        const Package* pPackage = List().PackageOf(List().GetSelectedItem());
+        return pPackage != nullptr && pPackage->strName == difference.pAfter->strName;
+    };
+    return Expect("the package is shown in the main window", shown) &&
+           Expect("which comes to the front",
+                  [this] { return ::GetForegroundWindow() == m_frame.m_hWnd; });
+}
+
+// Into the frame that is there: nothing is different from the snapshot.
+bool Walk::CompareWithSame() {
+    ComparisonFrame* const pFrame = &Frame();
+    return Happened("a snapshot is compared", m_frame.Compare(m_strFolder + "\\snapshot-status")) &&
+           Happened("in the frame that is there", &Frame() == pFrame) &&
+           Expect("and nothing is different",
+                  [] { return View()->Page(ComparisonView::kChanged)->Rows() == 0; }) &&
+           Station("compare-12-same", pFrame);
+}
+
+bool Walk::CloseComparison() {
+    Frame().ActivateFrame();
+    View()->Active()->SetPageFocus();
+    Press('W', VK_CONTROL);
+    return Expect("the comparison closes", [] { return View() == nullptr; }) &&
+           Happened("and the main window does not", m_frame.IsWindowVisible() != FALSE) &&
+           // One that is open closes with the main window.
+           Happened("another one opens", m_frame.Compare(m_strFolder + "\\earlier-status"));
+}
+
+bool Walk::About() {
+    return InDialog(
+        "About Inventory",
+        [this] {
+            m_frame.SetForegroundWindow();
+            Press('H', VK_MENU);
+            Press('A');
+        },
+        [this](CWnd& dialog) {
+            CString strVersion;
+            dialog.GetDlgItemText(kVersionId, strVersion);
+            const bool bGood = Happened("the about box has a version", !strVersion.IsEmpty()) &&
+                               Station("about-1-box");
+            Press(VK_RETURN);
+            return bGood;
+        });
+}
