@@ -1,18 +1,21 @@
 #include "afx/app/app.h"
 
+#include "afx/app/recent_files.h"
 #include "afx/ole/ole_init.h"
 #include "afx/window/wnd_state.h"
 
-#include <afxcmn.h>
 #include <afxpriv.h>
 #include <afxwin.h>
 
 #include <algorithm>
+#include <mutex>
 
 IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
 
 BEGIN_MESSAGE_MAP(CWinApp, CWinThread)
     ON_COMMAND(ID_APP_EXIT, &CWinApp::OnAppExit)
+    ON_COMMAND_EX_RANGE(ID_FILE_MRU_FIRST, ID_FILE_MRU_LAST, &CWinApp::OnOpenRecentFile)
+    ON_UPDATE_COMMAND_UI(ID_FILE_MRU_FILE1, &CWinApp::OnUpdateRecentFileMenu)
 END_MESSAGE_MAP()
 
 CWinApp::CWinApp(LPCTSTR lpszAppName) : m_strAppName(lpszAppName) {
@@ -28,6 +31,11 @@ CWinApp::~CWinApp() {
     ::GlobalFree(m_hDevMode);
     ::GlobalFree(m_hDevNames);
     delete m_pDocManager;
+    delete m_pRecentFileList;
+    if (m_atomApp != 0) {
+        ::GlobalDeleteAtom(m_atomApp);
+        ::GlobalDeleteAtom(m_atomSystemTopic);
+    }
     AFX_MODULE_STATE* pState = AfxGetModuleState();
     if (pState->m_pCurrentWinApp == this) {
         pState->m_pCurrentWinApp = nullptr;
@@ -44,9 +52,9 @@ LPCTSTR AfxGetAppName() {
 }
 
 void AfxWndAccess::NameApp(CWinApp* pApp, HINSTANCE hInstance) {
-    TCHAR szPath[MAX_PATH] = {};
-    ::GetModuleFileName(hInstance, szPath, _countof(szPath));
-    CString strPath(szPath);
+    WCHAR szPath[MAX_PATH] = {};  // wide: in UTF-8 that many characters are more bytes
+    ::GetModuleFileNameW(hInstance, szPath, _countof(szPath));
+    const CString strPath(szPath);
     CString strName(strPath.Mid(strPath.ReverseFind('\\') + 1));
     const int nDot = strName.ReverseFind('.');
     if (nDot >= 0) {
@@ -87,6 +95,7 @@ BOOL AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPTSTR lpCmdLine, int nCmdShow) 
     AfxSetResourceHandle(hInstance);
     AfxGetModuleState()->m_hCurrentInstanceHandle = hInstance;
     JoinResourceChain();
+    AfxFilterMessages(true);
     INITCOMMONCONTROLSEX controls = {sizeof controls,
                                      ICC_WIN95_CLASSES | ICC_DATE_CLASSES | ICC_COOL_CLASSES};
     ::InitCommonControlsEx(&controls);
@@ -104,35 +113,29 @@ BOOL AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPTSTR lpCmdLine, int nCmdShow) 
 }
 
 void AfxWinTerm() {
-    CWnd::DeleteTempMap();
-    CDC::DeleteTempMap();
-    CGdiObject::DeleteTempMap();
-    CMenu::DeleteTempMap();
-    CImageList::DeleteTempMap();
+    AfxFilterMessages(false);
+    AfxDeleteTempMaps();
     AfxOleTerm();
 }
 
 int AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow) {
     int nResult = -1;
-    if (AfxWinInit(hInstance, hPrevInstance, lpCmdLine, nCmdShow)) {
-        CWinThread* pThread = AfxGetThread();
+    try {
         CWinApp* pApp = AfxGetApp();
-        if (pApp == nullptr || pApp->InitApplication()) {
-            if (pThread->InitInstance()) {
-                nResult = pThread->Run();
-            } else {
-                if (pThread->m_pMainWnd != nullptr) {
-                    pThread->m_pMainWnd->DestroyWindow();
-                }
-                nResult = pThread->ExitInstance();
-            }
+        if (AfxWinInit(hInstance, hPrevInstance, lpCmdLine, nCmdShow) &&
+            (pApp == nullptr || pApp->InitApplication())) {
+            nResult = AfxRunThread(*AfxGetThread());
         }
+    } catch (...) {
+        AfxProcessCurrentException(nullptr, WM_NULL);
     }
     AfxWinTerm();
     return nResult;
 }
 
 void AfxPostQuitMessage(int nExitCode) {
+    AfxGetWndState().bQuits = true;
+    AfxGetWndState().nExitCode = nExitCode;
     ::PostQuitMessage(nExitCode);
 }
 
@@ -145,6 +148,7 @@ BOOL CWinApp::InitInstance() {
 }
 
 int CWinApp::ExitInstance() {
+    SaveStdProfileSettings();
     return CWinThread::ExitInstance();
 }
 
@@ -165,14 +169,6 @@ BOOL CWinApp::OnIdle(LONG lCount) {
 void CWinApp::OnAppExit() {
     if (m_pMainWnd != nullptr) {
         m_pMainWnd->SendMessage(WM_CLOSE);
-    }
-}
-
-void CWinApp::OnHelp() {
-    for (HWND hWnd = ::GetFocus(); hWnd != nullptr; hWnd = ::GetParent(hWnd)) {
-        if (::SendMessage(hWnd, WM_COMMANDHELP, 0, 0) != 0) {
-            return;
-        }
     }
 }
 
@@ -213,6 +209,8 @@ HCURSOR CWinApp::LoadOEMCursor(UINT nIDCursor) const {
 // The wait cursor and message boxes
 
 void CWinApp::DoWaitCursor(int nCode) {
+    static std::mutex mutex;  // any thread may wait for something
+    const std::lock_guard<std::mutex> lock(mutex);
     const HCURSOR hWait = ::LoadCursor(nullptr, IDC_WAIT);
     const bool bWasWaiting = m_nWaitCursorCount > 0;
     m_nWaitCursorCount = std::max(m_nWaitCursorCount + nCode, 0);

@@ -7,27 +7,52 @@
 
 class CPrintDialog;
 
-/// A thread with a message pump. The application object is the main thread's.
+/// What a worker thread does; its result is the thread's exit code.
+typedef UINT(AFX_CDECL* AFX_THREADPROC)(LPVOID);
+
+/// A thread of the program: a worker with a function of its own, or one with windows, whose class
+/// is derived from this and replaces InitInstance. The application object is the main thread's.
+///
+/// Objects that stand for handles belong to their thread: another one hands the handle over, and
+/// makes an object of its own by FromHandle or Attach. Strings, arrays and other values may be
+/// used by any thread, each object by one at a time.
 class QVAFX_API CWinThread : public CCmdTarget {
     DECLARE_DYNAMIC(CWinThread)
 
 public:
     CWinThread();
+    /// For a worker; CreateThread starts it.
+    CWinThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam);
     ~CWinThread() override;
+
+    /// Starts the thread, and comes back when it is set up. nStackSize 0: as the program's.
+    BOOL CreateThread(DWORD dwCreateFlags = 0, UINT nStackSize = 0,
+                      LPSECURITY_ATTRIBUTES lpSecurityAttrs = nullptr);
+    operator HANDLE() const;
+    int GetThreadPriority();
+    BOOL SetThreadPriority(int nPriority);
+    DWORD SuspendThread();
+    DWORD ResumeThread();
 
     CWnd* m_pMainWnd = nullptr;    ///< closing it ends the application
     CWnd* m_pActiveWnd = nullptr;  ///< main window of an in-place container, usually null
-    BOOL m_bAutoDelete = TRUE;
+    BOOL m_bAutoDelete = TRUE;     ///< deleted when the thread ends
     HANDLE m_hThread = nullptr;
     DWORD m_nThreadID = 0;
+    LPVOID m_pThreadParams = nullptr;
+    AFX_THREADPROC m_pfnThreadProc = nullptr;
+#ifndef QVAFX_STRICT
     MSG m_msgCur = {};
+#endif
 
     virtual CWnd* GetMainWnd();
     BOOL PostThreadMessage(UINT message, WPARAM wParam, LPARAM lParam);
 
+    /// FALSE ends the thread. A worker that has a function comes without.
     virtual BOOL InitInstance();
     virtual int ExitInstance();
     virtual int Run();
+    virtual void Delete();  ///< with m_bAutoDelete, of the object
     virtual BOOL PreTranslateMessage(MSG* pMsg);
     /// Takes one message off the queue, waiting for it, and dispatches it. FALSE for WM_QUIT.
     virtual BOOL PumpMessage();
@@ -51,9 +76,42 @@ private:
     UINT m_nLastMouseMsg = 0;
 };
 
+// In a thread of its own. Null if that cannot be had. With CREATE_SUSPENDED, members may be set
+// before ResumeThread.
+QVAFX_API CWinThread* AfxBeginThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam,
+                                     int nPriority = THREAD_PRIORITY_NORMAL, UINT nStackSize = 0,
+                                     DWORD dwCreateFlags = 0,
+                                     LPSECURITY_ATTRIBUTES lpSecurityAttrs = nullptr);
+QVAFX_API CWinThread* AfxBeginThread(CRuntimeClass* pThreadClass,
+                                     int nPriority = THREAD_PRIORITY_NORMAL, UINT nStackSize = 0,
+                                     DWORD dwCreateFlags = 0,
+                                     LPSECURITY_ATTRIBUTES lpSecurityAttrs = nullptr);
+/// Ends the thread that calls it, from within. Objects on its stack are not destroyed.
+[[noreturn]] QVAFX_API void AfxEndThread(UINT nExitCode, BOOL bDelete = TRUE);
+
+class CCommandLineInfo;
 class CDocManager;
 class CDocTemplate;
 class CDocument;
+class CRecentFileList;
+
+// CWinApp::m_dwRestartManagerSupportFlags
+#define AFX_RESTART_MANAGER_SUPPORT_RESTART 0x01
+#define AFX_RESTART_MANAGER_SUPPORT_RECOVERY 0x02
+#define AFX_RESTART_MANAGER_AUTOSAVE_AT_RESTART 0x04
+#define AFX_RESTART_MANAGER_AUTOSAVE_AT_INTERVAL 0x08
+#define AFX_RESTART_MANAGER_REOPEN_PREVIOUS_FILES 0x10
+#define AFX_RESTART_MANAGER_RESTORE_AUTOSAVED_FILES 0x20
+#define AFX_RESTART_MANAGER_SUPPORT_NO_AUTOSAVE                                   \
+    (AFX_RESTART_MANAGER_SUPPORT_RESTART | AFX_RESTART_MANAGER_SUPPORT_RECOVERY | \
+     AFX_RESTART_MANAGER_REOPEN_PREVIOUS_FILES)
+#define AFX_RESTART_MANAGER_SUPPORT_ALL_ASPECTS 0x3F
+
+#define _AFX_MRU_COUNT 4
+#define _AFX_MRU_MAX_COUNT 16
+
+/// Which program shows the help.
+enum AFX_HELP_TYPE { afxWinHelp = 0, afxHTMLHelp = 1 };
 
 /// The application. A program has one global object of a class derived from this.
 class QVAFX_API CWinApp : public CWinThread {
@@ -86,13 +144,27 @@ public:
     CDocTemplate* GetNextDocTemplate(POSITION& pos) const;
     /// Null on failure, of which the user has been told, and without templates.
     virtual CDocument* OpenDocumentFile(LPCTSTR lpszFileName);
-    virtual void AddToRecentFileList(LPCTSTR lpszPathName);  ///< no such list is kept here
+    virtual CDocument* OpenDocumentFile(LPCTSTR lpszFileName, BOOL bAddToMRU);
+    CRecentFileList* m_pRecentFileList = nullptr;  ///< owned; by LoadStdProfileSettings
+    virtual void AddToRecentFileList(LPCTSTR lpszPathName);
     virtual BOOL SaveAllModified();
     void CloseAllDocuments(BOOL bEndSession);
     int GetOpenDocumentCount();
     /// Asks for a file name; see CDocManager.
     BOOL DoPromptFileName(CString& fileName, UINT nIDSTitle, DWORD lFlags, BOOL bOpenFileDialog,
                           CDocTemplate* pTemplate);
+
+    // How the program begins
+    void ParseCommandLine(CCommandLineInfo& rCmdInfo);
+    /// FALSE if the program is to end: it has done what it was asked for, or cannot.
+    BOOL ProcessShellCommand(CCommandLineInfo& rCmdInfo);
+    /// A command of another program: [open("file")], [print("file")] or
+    /// [printto("file","printer","driver","port")]. FALSE for any other.
+    virtual BOOL OnDDECommand(LPTSTR lpszCommand);
+    ATOM m_atomApp = 0;  ///< the name that such programs know this one by; see EnableShellOpen
+    ATOM m_atomSystemTopic = 0;
+    /// Hides the main window, before its documents close.
+    void HideApplication();
 
     HICON LoadIcon(LPCTSTR lpszResourceName) const;
     HICON LoadIcon(UINT nIDResource) const;
@@ -123,24 +195,71 @@ public:
     /// Shows the dialog with the application's printer, and keeps the one that comes back.
     INT_PTR DoPrintDialog(CPrintDialog* pPD);
 
+    // Help
+    AFX_HELP_TYPE m_eHelpType = afxWinHelp;
+    /// Help comes from a compiled HTML file, named as the program, from then on.
+    void EnableHtmlHelp();
+    AFX_HELP_TYPE GetHelpMode() const { return m_eHelpType; }
+    void SetHelpMode(AFX_HELP_TYPE eHelpType);
+    virtual void WinHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
+    virtual void HtmlHelp(DWORD_PTR dwData, UINT nCmd = 0x000F);
+    /// nCmd: a HELP_ number, for either kind of help.
+    void WinHelpInternal(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
+
+    // The taskbar and the restart manager
+    LPCTSTR m_pszAppID = nullptr;
+    DWORD m_dwRestartManagerSupportFlags = 0;  ///< kept; nothing is registered by it
+    /// The name under which the taskbar groups the program's windows.
+    void SetAppID(LPCTSTR lpcszAppID);
+    /// Kept: children of the main window have no tabs in the taskbar either way.
+    BOOL EnableTaskbarInteraction(BOOL bEnable = TRUE);
+    BOOL IsTaskbarInteractionEnabled() const { return m_bTaskbarInteraction; }
+
     virtual int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt);
     /// 1 shows the wait cursor, -1 takes one call back, 0 shows it again if calls are open.
     virtual void DoWaitCursor(int nCode);
     void EnableModeless(BOOL bEnable);
     BOOL IsWaitCursor() const { return m_nWaitCursorCount > 0; }
 
+    // For the map of an application that wants them: ID_FILE_NEW, ID_FILE_OPEN,
+    // ID_FILE_PRINT_SETUP.
+    afx_msg void OnFileNew();
+    afx_msg void OnFileOpen();
+    afx_msg void OnFilePrintSetup();
+    /// For ID_HELP, as F1 sends it: asks from the window that has the focus up to the main window
+    /// who gives help (WM_COMMANDHELP). Where nobody does, ID_DEFAULT_HELP goes to the main window.
+    afx_msg void OnHelp();
+    /// For ID_CONTEXT_HELP: the next click asks the window below it what it is about
+    /// (WM_HELPHITTEST), and from there up who gives help about that (WM_COMMANDHELP). Escape, or
+    /// another program in front, ends it.
+    afx_msg void OnContextHelp();
+    // For ID_HELP_INDEX, ID_HELP_FINDER (and ID_DEFAULT_HELP), ID_HELP_USING.
+    afx_msg void OnHelpIndex();
+    afx_msg void OnHelpFinder();
+    afx_msg void OnHelpUsing();
+
 protected:
     void SetRegistryKey(LPCTSTR lpszRegistryKey);
     void SetRegistryKey(UINT nIDRegistryKey);
+    /// Reads the list of recent files and the preview's pages, which ExitInstance writes back.
+    void LoadStdProfileSettings(UINT nMaxMRU = _AFX_MRU_COUNT);
+    void SaveStdProfileSettings();
+    /// Lets the shell open documents in a program that runs already, by messages (DDE). Before
+    /// RegisterShellFileTypes, which tells the shell.
+    void EnableShellOpen();
+    void RegisterShellFileTypes(BOOL bCompat = FALSE);
+    void UnregisterShellFileTypes();
+    /// Colours of dialogs and of message boxes of old. What a dialog's own OnCtlColor gives counts.
+    void SetDialogBkColor(COLORREF clrCtlBk = RGB(192, 192, 192),
+                          COLORREF clrCtlText = RGB(0, 0, 0));
+    BOOL Enable3dControls() { return TRUE; }  ///< all controls are
+    BOOL Enable3dControlsStatic() { return TRUE; }
 
-    // For ID_FILE_NEW and ID_FILE_OPEN, in the map of an application that wants them.
-    afx_msg void OnFileNew();
-    afx_msg void OnFileOpen();
     afx_msg void OnAppExit();
-    afx_msg void OnFilePrintSetup();
-    /// For ID_HELP, as F1 sends it: asks from the window that has the focus up to the main window
-    /// who gives help (WM_COMMANDHELP).
-    afx_msg void OnHelp();
+    /// Of SetDialogBkColor, with the context's colours; null for what has its own.
+    HBRUSH DialogBrush(HDC hDC, UINT nCtlColor);
+    afx_msg void OnUpdateRecentFileMenu(CCmdUI* pCmdUI);
+    afx_msg BOOL OnOpenRecentFile(UINT nID);
 
     int m_nWaitCursorCount = 0;
     HCURSOR m_hcurWaitCursorRestore = nullptr;
@@ -150,7 +269,17 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    static constexpr int kAlreadyUp = -1;
+
     HKEY OpenSection(LPCTSTR lpszSection);
+    void PrintFile(const CCommandLineInfo& info);
+
+    int m_nShowWhenAsked = kAlreadyUp;  ///< while the program waits for a message with a file
+    BOOL m_bTaskbarInteraction = TRUE;
+    CString m_strAppID;
+    CBrush m_brDialog;  ///< of SetDialogBkColor
+    COLORREF m_clrDialog = 0;
+    COLORREF m_clrDialogText = 0;
 
     CString m_strAppName;
     CString m_strExeName;
@@ -159,7 +288,12 @@ private:
     CString m_strHelpFilePath;
 
     friend struct AfxWndAccess;
+    friend class CDialog;
 };
+
+/// TRUE once the control's module is there.
+QVAFX_API BOOL AfxInitRichEdit();
+QVAFX_API BOOL AfxInitRichEdit2();
 
 QVAFX_API CWinApp* AfxGetApp();
 QVAFX_API CWinThread* AfxGetThread();

@@ -22,7 +22,22 @@ CDocument* CWinApp::OpenDocumentFile(LPCTSTR lpszFileName) {
     return m_pDocManager != nullptr ? m_pDocManager->OpenDocumentFile(lpszFileName) : nullptr;
 }
 
-void CWinApp::AddToRecentFileList(LPCTSTR) {}
+CDocument* CWinApp::OpenDocumentFile(LPCTSTR lpszFileName, BOOL bAddToMRU) {
+    return m_pDocManager != nullptr ? m_pDocManager->OpenDocumentFile(lpszFileName, bAddToMRU)
+                                    : nullptr;
+}
+
+void CWinApp::RegisterShellFileTypes(BOOL bCompat) {
+    if (m_pDocManager != nullptr) {
+        m_pDocManager->RegisterShellFileTypes(bCompat);
+    }
+}
+
+void CWinApp::UnregisterShellFileTypes() {
+    if (m_pDocManager != nullptr) {
+        m_pDocManager->UnregisterShellFileTypes();
+    }
+}
 
 BOOL CWinApp::SaveAllModified() {
     return m_pDocManager == nullptr || m_pDocManager->SaveAllModified();

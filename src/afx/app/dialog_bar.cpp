@@ -4,8 +4,9 @@
 
 IMPLEMENT_DYNAMIC(CDialogBar, CControlBar)
 
-static INT_PTR CALLBACK DialogBarProc(HWND, UINT message, WPARAM, LPARAM) {
-    return message == WM_INITDIALOG;
+/// The focus stays where it was.
+static INT_PTR CALLBACK DialogBarProc(HWND, UINT, WPARAM, LPARAM) {
+    return FALSE;
 }
 
 CDialogBar::~CDialogBar() {
@@ -30,6 +31,7 @@ BOOL CDialogBar::Create(CWnd* pParentWnd, LPCTSTR lpszTemplateName, UINT nStyle,
         return FALSE;
     }
     SetDlgCtrlID(static_cast<int>(nID));
+    EnableToolTips((m_dwStyle & CBRS_TOOLTIPS) != 0);
     CRect rc;
     GetWindowRect(rc);
     m_sizeDefault = rc.Size();
@@ -40,8 +42,10 @@ BOOL CDialogBar::Create(CWnd* pParentWnd, LPCTSTR lpszTemplateName, UINT nStyle,
 
 CSize CDialogBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz) {
     const CSize stretched = CControlBar::CalcFixedLayout(bStretch, bHorz);
-    return CSize(stretched.cx != 0 ? stretched.cx : m_sizeDefault.cx,
-                 stretched.cy != 0 ? stretched.cy : m_sizeDefault.cy);
+    const CRect rcInsets = CalcInsets(bHorz);
+    return CSize(
+        stretched.cx != 0 ? stretched.cx : m_sizeDefault.cx + rcInsets.left + rcInsets.right,
+        stretched.cy != 0 ? stretched.cy : m_sizeDefault.cy + rcInsets.top + rcInsets.bottom);
 }
 
 void CDialogBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {

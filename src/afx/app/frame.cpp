@@ -6,6 +6,8 @@
 #include <afxpriv.h>
 #include <afxwin.h>
 
+#include <dde.h>
+
 IMPLEMENT_DYNCREATE(CFrameWnd, CWnd)
 
 BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
@@ -20,7 +22,25 @@ BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
     ON_WM_SETFOCUS()
     ON_WM_INITMENUPOPUP()
     ON_WM_MENUSELECT()
+    ON_WM_DROPFILES()
     ON_MESSAGE(WM_SETMESSAGESTRING, &CFrameWnd::OnSetMessageString)
+    ON_MESSAGE(WM_IDLEUPDATECMDUI, &CFrameWnd::OnIdleUpdateCmdUI)
+    ON_MESSAGE(WM_DDE_INITIATE, &CFrameWnd::OnDDEInitiate)
+    ON_MESSAGE(WM_DDE_EXECUTE, &CFrameWnd::OnDDEExecute)
+    ON_MESSAGE(WM_DDE_TERMINATE, &CFrameWnd::OnDDETerminate)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_CAPS, &CFrameWnd::OnUpdateKeyIndicator)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_NUM, &CFrameWnd::OnUpdateKeyIndicator)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_SCRL, &CFrameWnd::OnUpdateKeyIndicator)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_KANA, &CFrameWnd::OnUpdateKeyIndicator)
+    ON_MESSAGE(WM_POPMESSAGESTRING, &CFrameWnd::OnPopMessageString)
+    ON_NOTIFY_EX_RANGE(TTN_NEEDTEXTA, 0, 0xFFFF, &CFrameWnd::OnToolTipText)
+    ON_NOTIFY_EX_RANGE(TTN_NEEDTEXTW, 0, 0xFFFF, &CFrameWnd::OnToolTipText)
+    ON_COMMAND_EX(ID_VIEW_TOOLBAR, &CFrameWnd::OnBarCheck)
+    ON_COMMAND_EX(ID_VIEW_STATUS_BAR, &CFrameWnd::OnBarCheck)
+    ON_COMMAND_EX(ID_VIEW_REBAR, &CFrameWnd::OnBarCheck)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_TOOLBAR, &CFrameWnd::OnUpdateControlBarMenu)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_STATUS_BAR, &CFrameWnd::OnUpdateControlBarMenu)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_REBAR, &CFrameWnd::OnUpdateControlBarMenu)
 END_MESSAGE_MAP()
 
 const CRect CFrameWnd::rectDefault(CW_USEDEFAULT, CW_USEDEFAULT, 0, 0);
@@ -81,28 +101,32 @@ BOOL CFrameWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwSt
     return TRUE;
 }
 
+void CFrameWnd::LoadTitle(UINT nIDResource) {
+    CString strTexts;
+    strTexts.LoadString(nIDResource);
+    AfxExtractSubString(m_strTitle, strTexts, 0);
+}
+
+LPCTSTR CFrameWnd::GetIconWndClass(DWORD, UINT nIDResource) {
+    const LPCTSTR lpszResource = MAKEINTRESOURCE(nIDResource);
+    HINSTANCE hInst = AfxFindResourceHandle(lpszResource, RT_GROUP_ICON);
+    const HICON hIcon = ::LoadIcon(hInst, lpszResource);
+    if (hIcon == nullptr) {
+        return nullptr;
+    }
+    return AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW),
+                               reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1), hIcon);
+}
+
 BOOL CFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentWnd,
                           CCreateContext* pContext) {
     m_nIDHelp = nIDResource;
-    CString strTitle;
-    if (strTitle.LoadString(nIDResource)) {
-        const int nEnd = strTitle.Find('\n');
-        if (nEnd >= 0) {
-            strTitle = strTitle.Left(nEnd);
-        }
-    }
+    LoadTitle(nIDResource);
     const LPCTSTR lpszResource = MAKEINTRESOURCE(nIDResource);
     HINSTANCE hInstMenu = AfxFindResourceHandle(lpszResource, RT_MENU);
     const bool bMenu = ::FindResource(hInstMenu, lpszResource, RT_MENU) != nullptr;
-    HINSTANCE hInstIcon = AfxFindResourceHandle(lpszResource, RT_GROUP_ICON);
-    HICON hIcon = ::LoadIcon(hInstIcon, lpszResource);
-    LPCTSTR lpszClass = nullptr;
-    if (hIcon != nullptr) {
-        lpszClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW),
-                                        reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1), hIcon);
-    }
-    if (!Create(lpszClass, strTitle, dwDefaultStyle, rectDefault, pParentWnd,
-                bMenu ? lpszResource : nullptr, 0, pContext)) {
+    if (!Create(GetIconWndClass(dwDefaultStyle, nIDResource), CString(m_strTitle), dwDefaultStyle,
+                rectDefault, pParentWnd, bMenu ? lpszResource : nullptr, 0, pContext)) {
         return FALSE;
     }
     LoadAccelTable(lpszResource);
@@ -127,6 +151,9 @@ HACCEL CFrameWnd::GetDefaultAccelerator() {
 int CFrameWnd::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     CCreateContext* pContext = m_pContext;
     m_pContext = nullptr;
+    if (!(GetStyle() & WS_CHILD)) {
+        m_hMenuDefault = ::GetMenu(m_hWnd);
+    }
     return OnCreateHelper(lpCreateStruct, pContext);
 }
 
@@ -157,11 +184,12 @@ void CFrameWnd::OnSize(UINT nType, int cx, int cy) {
 }
 
 BOOL CFrameWnd::OnEraseBkgnd(CDC*) {
-    // The client window covers everything; erasing below it would only flicker.
-    if (::GetDlgItem(m_hWnd, AFX_IDW_PANE_FIRST) != nullptr) {
-        return TRUE;
-    }
-    return static_cast<BOOL>(Default());
+    // The client window covers everything; erasing below it would only flicker. So it would while
+    // a preview takes its place.
+    const HWND hPane = ::GetDlgItem(m_hWnd, AFX_IDW_PANE_FIRST);
+    const bool bCovered =
+        hPane != nullptr && (::GetWindowLongPtr(hPane, GWL_STYLE) & WS_VISIBLE) != 0;
+    return bCovered || m_lpfnCloseProc != nullptr || static_cast<BOOL>(Default());
 }
 
 void CFrameWnd::OnSetFocus(CWnd* pOldWnd) {
@@ -208,10 +236,15 @@ BOOL CFrameWnd::PreTranslateMessage(MSG* pMsg) {
 
 /// One menu's items, each asked for its state.
 static void UpdateMenu(CFrameWnd* pFrame, CMenu* pMenu) {
+    const HWND hFrame = pFrame->m_hWnd;
+    // A handler may close the frame, and the menu goes with it.
+    const auto stands = [&] {
+        return CWnd::FromHandlePermanent(hFrame) == pFrame && ::IsMenu(pMenu->m_hMenu);
+    };
     CCmdUI state;
     state.m_pMenu = pMenu;
     state.m_nIndexMax = pMenu->GetMenuItemCount();
-    for (state.m_nIndex = 0; state.m_nIndex < state.m_nIndexMax; ++state.m_nIndex) {
+    for (state.m_nIndex = 0; stands() && state.m_nIndex < state.m_nIndexMax; ++state.m_nIndex) {
         state.m_nID = pMenu->GetMenuItemID(static_cast<int>(state.m_nIndex));
         if (state.m_nID == 0) {
             continue;  // separator
@@ -296,27 +329,32 @@ LRESULT CFrameWnd::OnSetMessageString(WPARAM wParam, LPARAM lParam) {
 void CFrameWnd::OnMenuSelect(UINT nItemID, UINT nFlags, HMENU) {
     const bool bClosed = nFlags == 0xFFFF;
     const bool bNoCommand =
-        nItemID == 0 ||
-        (nFlags & (MF_SEPARATOR | MF_POPUP | MF_MENUBREAK | MF_MENUBARBREAK | MF_SYSMENU));
-    const UINT nID = bClosed ? AFX_IDS_IDLEMESSAGE : bNoCommand ? 0 : nItemID;
+        nItemID == 0 || (nFlags & (MF_SEPARATOR | MF_POPUP | MF_MENUBREAK | MF_MENUBARBREAK));
+    // What the window's own menu does has its texts by the system's numbers, which go by sixteens.
+    const bool bSystem = nItemID >= SC_SIZE && nItemID < 0xF1F0;
+    const UINT nID = bClosed                 ? AFX_IDS_IDLEMESSAGE
+                     : bNoCommand            ? 0
+                     : bSystem               ? AFX_IDS_SCFIRST + (nItemID - SC_SIZE) / 16
+                     : (nFlags & MF_SYSMENU) ? 0
+                                             : nItemID;
     if (nID != m_nIDTracking) {
         SendMessage(WM_SETMESSAGESTRING, nID);
     }
 }
 
-CControlBar* CFrameWnd::GetControlBar(UINT nID) {
-    for (POSITION pos = m_listControlBars.GetHeadPosition(); pos != nullptr;) {
-        auto* pBar = static_cast<CControlBar*>(m_listControlBars.GetNext(pos));
-        if (static_cast<UINT>(pBar->GetDlgCtrlID()) == nID) {
-            return pBar;
-        }
+BOOL CFrameWnd::OnBarCheck(UINT nID) {
+    CControlBar* pBar = GetControlBar(nID);
+    if (pBar == nullptr) {
+        return FALSE;
     }
-    return nullptr;
+    ShowControlBar(pBar, !pBar->IsVisible(), FALSE);
+    return TRUE;
 }
 
-void CFrameWnd::ShowControlBar(CControlBar* pBar, BOOL bShow, BOOL bDelay) {
-    pBar->ShowWindow(bShow ? SW_SHOWNA : SW_HIDE);
-    if (!bDelay) {
-        RecalcLayout();
+void CFrameWnd::OnUpdateControlBarMenu(CCmdUI* pCmdUI) {
+    if (const CControlBar* pBar = GetControlBar(pCmdUI->m_nID)) {
+        pCmdUI->SetCheck(pBar->IsVisible());
+    } else {
+        pCmdUI->ContinueRouting();
     }
 }

@@ -1,7 +1,7 @@
 // A frame and its views: which one is active, the document's title, activation, closing.
 #include "afx/app/frame.h"
 
-#include "afx/window/wnd_state.h"
+#include "afx/objects/create_object.h"
 
 #include <afxpriv.h>
 #include <afxwin.h>
@@ -20,10 +20,8 @@ BOOL CFrameWnd::OnCreateClient(LPCREATESTRUCT, CCreateContext* pContext) {
 }
 
 CWnd* CFrameWnd::CreateView(CCreateContext* pContext, UINT nID) {
-    CObject* pObject = pContext->m_pNewViewClass->CreateObject();
-    auto* pWnd = DYNAMIC_DOWNCAST(CWnd, pObject);
+    auto* pWnd = AfxCreateOf<CWnd>(pContext->m_pNewViewClass);
     if (pWnd == nullptr) {
-        delete pObject;
         return nullptr;
     }
     // A view that fails deletes itself, unless its window was never tried for want of memory.
@@ -81,8 +79,8 @@ void CFrameWnd::InitialUpdateFrame(CDocument* pDoc, BOOL bMakeVisible) {
     }
     if (bMakeVisible) {
         SendMessageToDescendants(WM_INITIALUPDATE, 0, 0, TRUE, TRUE);
-        if (bStands() && m_pViewActive != nullptr) {
-            m_pViewActive->OnActivateFrame(WA_INACTIVE, this);
+        if (bStands()) {
+            TellViewOfFrame(WA_INACTIVE);
         }
         if (!bStands()) {
             return;
@@ -95,8 +93,8 @@ void CFrameWnd::InitialUpdateFrame(CDocument* pDoc, BOOL bMakeVisible) {
             pApp->m_nCmdShow = -1;
         }
         ActivateFrame(nCmdShow);
-        if (bStands() && m_pViewActive != nullptr) {
-            m_pViewActive->OnActivateView(TRUE, m_pViewActive, m_pViewActive);
+        if (bStands()) {
+            TellViewActive(TRUE);
         }
         if (!bStands()) {
             return;
@@ -121,17 +119,27 @@ void CFrameWnd::ActivateFrame(int nCmdShow) {
     ::BringWindowToTop(hWnd);
 }
 
+void CFrameWnd::TellViewActive(BOOL bActivate) {
+    if (m_pViewActive != nullptr) {
+        m_pViewActive->OnActivateView(bActivate, m_pViewActive, m_pViewActive);
+    }
+}
+
+void CFrameWnd::TellViewOfFrame(UINT nState) {
+    if (m_pViewActive != nullptr) {
+        m_pViewActive->OnActivateFrame(nState, this);
+    }
+}
+
 void CFrameWnd::OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized) {
     const HWND hFrame = m_hWnd;
     CWnd::OnActivate(nState, pWndOther, bMinimized);
-    const auto pView = [&] {
-        return FromHandlePermanent(hFrame) == this ? m_pViewActive : nullptr;
-    };
-    if (pView() != nullptr && nState != WA_INACTIVE && !bMinimized) {
-        pView()->OnActivateView(TRUE, pView(), pView());
+    const auto bStands = [&] { return FromHandlePermanent(hFrame) == this; };
+    if (bStands() && nState != WA_INACTIVE && !bMinimized) {
+        TellViewActive(TRUE);
     }
-    if (pView() != nullptr) {
-        pView()->OnActivateFrame(nState, this);
+    if (bStands()) {
+        TellViewOfFrame(nState);
     }
 }
 
@@ -146,25 +154,32 @@ void CFrameWnd::OnUpdateFrameTitle(BOOL bAddToTitle) {
         bAddToTitle && pDoc != nullptr ? static_cast<LPCTSTR>(pDoc->GetTitle()) : nullptr);
 }
 
-void CFrameWnd::UpdateFrameTitleForDocument(LPCTSTR lpszDocName) {
-    CString strTitle(m_strTitle);
-    if (lpszDocName != nullptr) {
-        CString strDoc(lpszDocName);
-        if (m_nWindow > 0) {
-            CString strNumber;
-            strNumber.Format(":%d", m_nWindow);
-            strDoc += strNumber;
-        }
-        const bool bBoth = !strDoc.IsEmpty() && !m_strTitle.IsEmpty();
-        const CString strBetween(bBoth ? " - " : "");
-        strTitle = (GetStyle() & FWS_PREFIXTITLE) ? strDoc + strBetween + m_strTitle
-                                                  : m_strTitle + strBetween + strDoc;
+CString CFrameWnd::NumberedName(LPCTSTR lpszDocName) const {
+    CString strDoc(lpszDocName);
+    if (m_nWindow > 0) {
+        strDoc.AppendFormat(":%d", m_nWindow);
     }
+    return strDoc;
+}
+
+void CFrameWnd::ShowTitle(const CString& strTitle) {
     CString strNow;
     GetWindowText(strNow);
     if (strNow != strTitle) {
         SetWindowText(strTitle);  // no flicker where it is the same
     }
+}
+
+void CFrameWnd::UpdateFrameTitleForDocument(LPCTSTR lpszDocName) {
+    CString strTitle(m_strTitle);
+    if (lpszDocName != nullptr) {
+        const CString strDoc(NumberedName(lpszDocName));
+        const bool bBoth = !strDoc.IsEmpty() && !m_strTitle.IsEmpty();
+        const CString strBetween(bBoth ? " - " : "");
+        strTitle = (GetStyle() & FWS_PREFIXTITLE) ? strDoc + strBetween + m_strTitle
+                                                  : m_strTitle + strBetween + strDoc;
+    }
+    ShowTitle(strTitle);
 }
 
 // Closing
@@ -192,7 +207,6 @@ void CFrameWnd::OnClose() {
     if (m_bAskingToClose) {
         return;
     }
-    const HWND hFrame = m_hWnd;
     struct Asking {
         CFrameWnd* const pFrame;
         const HWND hFrame;
@@ -202,7 +216,7 @@ void CFrameWnd::OnClose() {
                 pFrame->m_bAskingToClose = false;
             }
         }
-    } asking{this, hFrame};
+    } asking{this, m_hWnd};
     m_bAskingToClose = true;
     if (MayClose() && asking.Stands()) {
         Close();
@@ -233,6 +247,10 @@ void CFrameWnd::Close() {
 void CFrameWnd::OnDestroy() {
     if (m_lpfnCloseProc != nullptr) {
         m_lpfnCloseProc(this);  // while all windows are there
+    }
+    // The window destroys the menu that it has; another one is somebody else's.
+    if (::IsMenu(m_hMenuDefault) && ::GetMenu(m_hWnd) != m_hMenuDefault) {
+        ::SetMenu(m_hWnd, m_hMenuDefault);
     }
     m_pViewActive = nullptr;
     m_pActiveClient = nullptr;

@@ -148,16 +148,18 @@ void AfxSetResourceHandle(HINSTANCE hInstResource) {
     AfxGetModuleState()->m_hCurrentResourceHandle = hInstResource;
 }
 
-HINSTANCE AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType) {
+/// The first module of the chain that has it; the application where none has.
+template <class Has>
+static HINSTANCE FindInModules(Has has) {
     const HINSTANCE hApp = AfxGetResourceHandle();
-    if (::FindResource(hApp, lpszName, lpszType) != nullptr) {
+    if (has(hApp)) {
         return hApp;
     }
     for (const BOOL bSystem : {FALSE, TRUE}) {
         for (CDynLinkLibrary* pDll = AfxGetModuleState()->m_libraryList.m_pHead; pDll != nullptr;
              pDll = pDll->m_pNextDLL) {
             if (pDll->m_bSystem == bSystem && pDll->m_hResource != nullptr &&
-                ::FindResource(pDll->m_hResource, lpszName, lpszType) != nullptr) {
+                has(pDll->m_hResource)) {
                 return pDll->m_hResource;
             }
         }
@@ -165,11 +167,23 @@ HINSTANCE AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType) {
     return hApp;
 }
 
+HINSTANCE AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType) {
+    return FindInModules(
+        [=](HINSTANCE hModule) { return ::FindResource(hModule, lpszName, lpszType) != nullptr; });
+}
+
+HINSTANCE AfxFindStringResourceHandle(UINT nID) {
+    // Strings lie in tables of sixteen, which are the resources: one that a module has says nothing
+    // of the others.
+    return FindInModules([=](HINSTANCE hModule) {
+        LPCWSTR pText = nullptr;
+        return ::LoadStringW(hModule, nID, reinterpret_cast<LPWSTR>(&pText), 0) > 0;
+    });
+}
+
 int AfxLoadString(UINT nIDS, LPTSTR lpszBuf, UINT nMaxBuf) {
-    // Strings lie in tables of sixteen, which are the resources.
-    const LPCTSTR lpszTable = MAKEINTRESOURCE((nIDS >> 4) + 1);
-    const int nLength = ::LoadString(AfxFindResourceHandle(lpszTable, RT_STRING), nIDS, lpszBuf,
-                                     static_cast<int>(nMaxBuf));
+    const int nLength =
+        ::LoadString(AfxFindStringResourceHandle(nIDS), nIDS, lpszBuf, static_cast<int>(nMaxBuf));
     if (nLength == 0 && nMaxBuf > 0) {
         lpszBuf[0] = 0;
     }
@@ -182,7 +196,7 @@ void AfxAssertFailedLine(LPCSTR lpszFileName, int nLine) {
     ::DebugBreak();
 }
 
-void AfxTrace(LPCTSTR lpszFormat, ...) {
+void AfxTraceText(LPCTSTR lpszFormat, ...) {
     char szText[512];
     va_list args;
     va_start(args, lpszFormat);

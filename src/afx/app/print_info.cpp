@@ -1,11 +1,11 @@
 #include "afx/app/print_info.h"
 
+#include "afx/app/last_page.h"
+
 #include <afxdlgs.h>
 #include <afxext.h>
 
 namespace {
-
-constexpr UINT kLastPossiblePage = 0xFFFF;
 
 /// The same text for all jobs, which share its memory.
 const CString& PageDescription() {
@@ -19,7 +19,7 @@ CPrintInfo::CPrintInfo()
     : m_pPD(new CPrintDialog(FALSE, PD_ALLPAGES | PD_USEDEVMODECOPIES | PD_NOSELECTION)),
       m_strPageDesc(PageDescription()) {
     SetMinPage(1);
-    SetMaxPage(kLastPossiblePage);
+    SetMaxPage(kAfxUnknownLastPage);
 }
 
 CPrintInfo::~CPrintInfo() {

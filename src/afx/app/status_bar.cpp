@@ -1,3 +1,4 @@
+#include "afx/drawing/select_guard.h"
 #include "afx/values/wide_text.h"
 #include "afx/window/wnd_state.h"
 
@@ -52,15 +53,20 @@ CStatusBarCtrl& CStatusBar::GetStatusBarCtrl() const {
     return *static_cast<CStatusBarCtrl*>(static_cast<CWnd*>(const_cast<CStatusBar*>(this)));
 }
 
-int CStatusBar::TextWidth(LPCTSTR lpszText) {
-    HDC hDC = ::GetDC(m_hWnd);
-    HFONT hFont = AfxSend<HFONT>(m_hWnd, WM_GETFONT);
-    HGDIOBJ hOldFont = hFont != nullptr ? ::SelectObject(hDC, hFont) : nullptr;
-    const SIZE size = AfxTextExtent(hDC, lpszText, lstrlen(lpszText));
-    if (hOldFont != nullptr) {
-        ::SelectObject(hDC, hOldFont);
+/// Calls measure with a context that has the bar's font.
+template <class Measure>
+static void MeasureIn(HWND hWnd, Measure measure) {
+    const HDC hDC = ::GetDC(hWnd);
+    {
+        const AfxSelectGuard select(hDC, AfxSend<HFONT>(hWnd, WM_GETFONT));
+        measure(hDC);
     }
-    ::ReleaseDC(m_hWnd, hDC);
+    ::ReleaseDC(hWnd, hDC);
+}
+
+int CStatusBar::TextWidth(LPCTSTR lpszText) {
+    SIZE size = {};
+    MeasureIn(m_hWnd, [&](HDC hDC) { size = AfxTextExtent(hDC, lpszText, lstrlen(lpszText)); });
     return size.cx;
 }
 
@@ -151,14 +157,7 @@ LRESULT CStatusBar::OnSetText(WPARAM, LPARAM lParam) {
 CSize CStatusBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz) {
     CSize size = CControlBar::CalcFixedLayout(bStretch, bHorz);
     TEXTMETRIC tm = {};
-    HDC hDC = ::GetDC(m_hWnd);
-    HFONT hFont = AfxSend<HFONT>(m_hWnd, WM_GETFONT);
-    HGDIOBJ hOldFont = hFont != nullptr ? ::SelectObject(hDC, hFont) : nullptr;
-    ::GetTextMetrics(hDC, &tm);
-    if (hOldFont != nullptr) {
-        ::SelectObject(hDC, hOldFont);
-    }
-    ::ReleaseDC(m_hWnd, hDC);
+    MeasureIn(m_hWnd, [&](HDC hDC) { ::GetTextMetrics(hDC, &tm); });
     int nBorders[3] = {};
     AfxSend(m_hWnd, SB_GETBORDERS, 0, nBorders);
     size.cy = tm.tmHeight - tm.tmInternalLeading + nBorders[1] * 2 +
@@ -268,23 +267,6 @@ private:
     }
 };
 
-/// The lock keys' panes are the framework's own commands.
-bool LockKeyOf(UINT nID, int& nKey) {
-    switch (nID) {
-        case ID_INDICATOR_CAPS:
-            nKey = VK_CAPITAL;
-            return true;
-        case ID_INDICATOR_NUM:
-            nKey = VK_NUMLOCK;
-            return true;
-        case ID_INDICATOR_SCRL:
-            nKey = VK_SCROLL;
-            return true;
-        default:
-            return false;
-    }
-}
-
 }  // namespace
 
 void CStatusBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
@@ -296,13 +278,6 @@ void CStatusBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) {
         // The bar's own map first, for bars derived from this one.
         if (state.m_nID == 0 ||
             OnCmdMsg(state.m_nID, static_cast<int>(CN_UPDATE_COMMAND_UI), &state, nullptr)) {
-            continue;
-        }
-        int nKey = 0;
-        if (LockKeyOf(state.m_nID, nKey) &&
-            !pTarget->OnCmdMsg(state.m_nID, static_cast<int>(CN_UPDATE_COMMAND_UI), &state,
-                               nullptr)) {
-            state.Enable((::GetKeyState(nKey) & 1) != 0);
             continue;
         }
         state.DoUpdate(pTarget, FALSE);

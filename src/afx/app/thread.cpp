@@ -1,7 +1,6 @@
 #include "afx/window/wide_input.h"
 #include "afx/window/wnd_state.h"
 
-#include <afxcmn.h>
 #include <afxpriv.h>
 #include <afxwin.h>
 
@@ -12,14 +11,6 @@ END_MESSAGE_MAP()
 
 // Timers that blink the caret while the system runs a modal loop.
 static constexpr UINT kSystemTimerMessage = 0x0118;
-
-CWinThread::CWinThread() = default;
-CWinThread::~CWinThread() {
-    AfxWndState& state = AfxGetWndState();
-    if (state.pThread == this) {
-        state.pThread = nullptr;
-    }
-}
 
 CWinThread* AfxGetThread() {
     if (CWinThread* pThread = AfxGetWndState().pThread) {
@@ -42,6 +33,29 @@ BOOL CWinThread::PostThreadMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     return ::PostThreadMessage(m_nThreadID, message, wParam, lParam);
 }
 
+int AfxExitInstance(CWinThread& thread) {
+    try {
+        return thread.ExitInstance();
+    } catch (...) {
+        AfxProcessCurrentException(nullptr, WM_NULL);
+        return -1;
+    }
+}
+
+int AfxRunThread(CWinThread& thread) {
+    try {
+        if (thread.InitInstance()) {
+            return thread.Run();
+        }
+    } catch (...) {
+        AfxProcessCurrentException(nullptr, WM_NULL);
+    }
+    if (thread.m_pMainWnd != nullptr && thread.m_pMainWnd != AfxGetWndState().pMainStandIn) {
+        thread.m_pMainWnd->DestroyWindow();
+    }
+    return AfxExitInstance(thread);
+}
+
 BOOL CWinThread::InitInstance() {
     return FALSE;
 }
@@ -56,6 +70,11 @@ int CWinThread::Run() {
     for (;;) {
         MSG msg;
         if (bIdle && !::PeekMessage(&msg, nullptr, 0, 0, PM_NOREMOVE)) {
+            // A loop of the platform's may have taken the message, as that of a menu does.
+            if (AfxGetWndState().bQuits) {
+                ::PostQuitMessage(AfxGetWndState().nExitCode);
+                continue;
+            }
             try {
                 bIdle = OnIdle(lIdleCount++);
             } catch (...) {
@@ -65,7 +84,8 @@ int CWinThread::Run() {
             continue;
         }
         if (!PumpMessage()) {
-            return ExitInstance();
+            AfxGetWndState().bQuits = false;
+            return AfxExitInstance(*this);
         }
         if (IsIdleMessage(&m_msgCur)) {
             bIdle = TRUE;
@@ -131,7 +151,8 @@ BOOL CWinThread::DispatchThreadMessageMap(MSG* pMsg) {
 /// Brings what hangs on a top-level window up to date.
 static void UpdateCommandUI(HWND hWnd) {
     CWnd* pWnd = CWnd::FromHandlePermanent(hWnd);
-    if (pWnd == nullptr || !::IsWindowVisible(hWnd)) {
+    if (pWnd == nullptr || !::IsWindowVisible(hWnd) ||
+        ::GetWindowThreadProcessId(hWnd, nullptr) != ::GetCurrentThreadId()) {
         return;
     }
     AfxCallWndProc(pWnd, hWnd, WM_IDLEUPDATECMDUI, TRUE, 0);
@@ -161,11 +182,7 @@ BOOL CWinThread::OnIdle(LONG lCount) {
         return TRUE;
     }
     // Objects that FromHandle made up for handles are good until now.
-    CWnd::DeleteTempMap();
-    CDC::DeleteTempMap();
-    CGdiObject::DeleteTempMap();
-    CMenu::DeleteTempMap();
-    CImageList::DeleteTempMap();
+    AfxDeleteTempMaps();
     return FALSE;
 }
 
@@ -198,6 +215,29 @@ LRESULT CWinThread::ProcessWndProcException(CException* e, const MSG* pMsg) {
                 e->ReportError(MB_ICONSTOP);
             }
             return 0;
+    }
+}
+
+static LRESULT CALLBACK FilterMessage(int code, WPARAM wParam, LPARAM lParam) {
+    CWinThread* pThread = AfxGetThread();
+    auto* pMsg = reinterpret_cast<LPMSG>(lParam);
+    try {
+        if (code >= 0 && pThread != nullptr && pThread->ProcessMessageFilter(code, pMsg)) {
+            return 1;
+        }
+    } catch (...) {
+        AfxProcessCurrentException(*pMsg);
+    }
+    return ::CallNextHookEx(AfxGetWndState().hHookFilter, code, wParam, lParam);
+}
+
+void AfxFilterMessages(bool bFilter) {
+    HHOOK& hHook = AfxGetWndState().hHookFilter;
+    if (bFilter && hHook == nullptr) {
+        hHook = ::SetWindowsHookEx(WH_MSGFILTER, FilterMessage, nullptr, ::GetCurrentThreadId());
+    } else if (!bFilter && hHook != nullptr) {
+        ::UnhookWindowsHookEx(hHook);
+        hHook = nullptr;
     }
 }
 

@@ -46,6 +46,9 @@ public:
     HBITMAP GetBitmap() const;
     HCURSOR SetCursor(HCURSOR hCursor);
     HCURSOR GetCursor();
+    BOOL GetIdealSize(LPSIZE psize) const;
+    BOOL GetTextMargin(RECT* pmargin) const;
+    BOOL SetTextMargin(RECT* pmargin);
 
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
 
@@ -97,6 +100,7 @@ public:
     int SetItemHeight(int nIndex, UINT cyItemHeight);
     int GetItemHeight(int nIndex) const;
     int FindStringExact(int nIndexStart, LPCTSTR lpszFind) const;
+    DWORD GetListBoxInfo() const;  ///< items of a column
     int GetCaretIndex() const;
     int SetCaretIndex(int nIndex, BOOL bScroll = TRUE);
 
@@ -160,6 +164,11 @@ public:
     BOOL GetExtendedUI() const;
     void GetDroppedControlRect(LPRECT lprect) const;
     BOOL GetDroppedState() const;
+    BOOL GetComboBoxInfo(PCOMBOBOXINFO pcbi) const;
+    int GetMinVisible() const;
+    BOOL SetMinVisibleItems(int iMinVisible);
+    /// A hint for as long as nothing is entered.
+    BOOL SetCueBanner(LPCWSTR lpszText);
 
     void ShowDropDown(BOOL bShowIt = TRUE);
     int AddString(LPCTSTR lpszString);
@@ -228,6 +237,11 @@ public:
     void SetTabStops();
     BOOL SetTabStops(const int& cxEachStop);
     BOOL SetReadOnly(BOOL bReadOnly = TRUE);
+    /// A hint for as long as nothing is entered.
+    BOOL SetCueBanner(LPCWSTR lpszText, BOOL fDrawIfFocused = FALSE);
+    BOOL ShowBalloonTip(PEDITBALLOONTIP pEditBalloonTip);
+    BOOL ShowBalloonTip(LPCWSTR lpszTitle, LPCWSTR lpszText, INT ttiIcon = TTI_NONE);
+    BOOL HideBalloonTip();
     BOOL Undo();
     void Clear();
     void Copy();

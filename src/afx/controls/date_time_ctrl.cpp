@@ -1,39 +1,10 @@
 // Date and time picker.
+#include "afx/controls/time_bounds.h"
 #include "afx/window/wnd_state.h"
 
 #include <afxdtctl.h>
 
 IMPLEMENT_DYNAMIC(CDateTimeCtrl, CWnd)
-
-namespace {
-
-/// Both ends of a range in another type of time.
-template <class Time>
-DWORD GetRangeAs(const CDateTimeCtrl& ctrl, Time* pMin, Time* pMax) {
-    SYSTEMTIME first{};
-    SYSTEMTIME last{};
-    const DWORD dwResult = ctrl.GetRange(&first, &last);
-    if (pMin != nullptr && (dwResult & GDTR_MIN)) {
-        *pMin = Time(first);
-    }
-    if (pMax != nullptr && (dwResult & GDTR_MAX)) {
-        *pMax = Time(last);
-    }
-    return dwResult;
-}
-
-template <class Time>
-BOOL SetRangeAs(CDateTimeCtrl& ctrl, const Time* pMin, const Time* pMax) {
-    SYSTEMTIME first{};
-    SYSTEMTIME last{};
-    if ((pMin != nullptr && !pMin->GetAsSystemTime(first)) ||
-        (pMax != nullptr && !pMax->GetAsSystemTime(last))) {
-        return FALSE;
-    }
-    return ctrl.SetRange(pMin != nullptr ? &first : nullptr, pMax != nullptr ? &last : nullptr);
-}
-
-}  // namespace
 
 BOOL CDateTimeCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
     return CWnd::Create(DATETIMEPICK_CLASS, nullptr, dwStyle, rect, pParentWnd, nID);
@@ -94,31 +65,23 @@ BOOL CDateTimeCtrl::SetFormat(LPCTSTR pstrFormat) {
 }
 
 DWORD CDateTimeCtrl::GetRange(LPSYSTEMTIME pMinRange, LPSYSTEMTIME pMaxRange) const {
-    SYSTEMTIME range[2] = {};
-    const DWORD dwResult = AfxSend<DWORD>(m_hWnd, DTM_GETRANGE, 0, range);
-    if (pMinRange != nullptr && (dwResult & GDTR_MIN)) {
-        *pMinRange = range[0];
-    }
-    if (pMaxRange != nullptr && (dwResult & GDTR_MAX)) {
-        *pMaxRange = range[1];
-    }
-    return dwResult;
+    return AfxGetTimeBounds(m_hWnd, DTM_GETRANGE, pMinRange, pMaxRange);
 }
 
 DWORD CDateTimeCtrl::GetRange(CTime* pMinRange, CTime* pMaxRange) const {
-    return GetRangeAs(*this, pMinRange, pMaxRange);
+    return AfxGetTimeBounds(*this, pMinRange, pMaxRange);
 }
 
 DWORD CDateTimeCtrl::GetRange(COleDateTime* pMinRange, COleDateTime* pMaxRange) const {
-    return GetRangeAs(*this, pMinRange, pMaxRange);
+    return AfxGetTimeBounds(*this, pMinRange, pMaxRange);
 }
 
 BOOL CDateTimeCtrl::SetRange(const CTime* pMinRange, const CTime* pMaxRange) {
-    return SetRangeAs(*this, pMinRange, pMaxRange);
+    return AfxSetTimeBounds(*this, pMinRange, pMaxRange);
 }
 
 BOOL CDateTimeCtrl::SetRange(const COleDateTime* pMinRange, const COleDateTime* pMaxRange) {
-    return SetRangeAs(*this, pMinRange, pMaxRange);
+    return AfxSetTimeBounds(*this, pMinRange, pMaxRange);
 }
 
 BOOL CDateTimeCtrl::SetRange(const LPSYSTEMTIME pMinRange, const LPSYSTEMTIME pMaxRange) {

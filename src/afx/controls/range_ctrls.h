@@ -45,6 +45,12 @@ public:
     int OffsetPos(int nPos);
     int SetStep(int nStep);
     int StepIt();
+    int GetStep() const;
+    int GetState() const;      ///< PBST_ constants
+    int SetState(int iState);  ///< gives the state before
+    BOOL SetMarquee(BOOL fMarqueeMode, int nInterval);
+    COLORREF GetBarColor() const;
+    COLORREF GetBkColor() const;
     COLORREF SetBarColor(COLORREF clrBar);
     COLORREF SetBkColor(COLORREF clrNew);
 };
@@ -79,6 +85,12 @@ public:
     void SetTicFreq(int nFreq);
     CWnd* GetBuddy(BOOL fLocation = TRUE) const;
     CWnd* SetBuddy(CWnd* pWndBuddy, BOOL fLocation = TRUE);
+    CToolTipCtrl* GetToolTips() const;
+    void SetToolTips(CToolTipCtrl* pWndTip);
+    int SetTipSide(int nLocation);  ///< TBTS_ constants; gives the one before
+    int GetThumbLength() const;
+    void SetThumbLength(int nLength);
+    DWORD* GetTicArray() const;  ///< the control's own
     void ClearSel(BOOL bRedraw = FALSE);
     void ClearTics(BOOL bRedraw = FALSE);
     void VerifyPos();

@@ -17,9 +17,11 @@ int CToolTipCtrl::GetToolCount() const {
     return AfxSend<int>(m_hWnd, TTM_GETTOOLCOUNT);
 }
 
-BOOL CToolTipCtrl::GetToolInfo(TOOLINFO& ToolInfo, CWnd* pWnd, UINT_PTR nIDTool) const {
+BOOL CToolTipCtrl::GetToolInfo(CToolInfo& ToolInfo, CWnd* pWnd, UINT_PTR nIDTool) const {
     FillInToolInfo(ToolInfo, pWnd, nIDTool);
-    return AfxSend<BOOL>(m_hWnd, TTM_GETTOOLINFO, 0, &ToolInfo);
+    ToolInfo.szText[0] = '\0';
+    ToolInfo.lpszText = ToolInfo.szText;
+    return AfxSend<BOOL>(m_hWnd, TTM_GETTOOLINFO, 0, static_cast<TOOLINFO*>(&ToolInfo));
 }
 
 void CToolTipCtrl::SetToolInfo(LPTOOLINFO lpToolInfo) {

@@ -3,6 +3,12 @@
 
 #include <afxwin.h>
 
+/// A tool with room for its text, cut at its end.
+class CToolInfo : public TOOLINFO {
+public:
+    TCHAR szText[256];
+};
+
 class QVAFX_API CToolTipCtrl : public CWnd {
     DECLARE_DYNAMIC(CToolTipCtrl)
 
@@ -12,7 +18,7 @@ public:
     virtual BOOL Create(CWnd* pParentWnd, DWORD dwStyle = 0);
 
     int GetToolCount() const;
-    BOOL GetToolInfo(TOOLINFO& ToolInfo, CWnd* pWnd, UINT_PTR nIDTool = 0) const;
+    BOOL GetToolInfo(CToolInfo& ToolInfo, CWnd* pWnd, UINT_PTR nIDTool = 0) const;
     void SetToolInfo(LPTOOLINFO lpToolInfo);
     void SetToolRect(CWnd* pWnd, UINT_PTR nIDTool, LPCRECT lpRect);
     void GetText(CString& str, CWnd* pWnd, UINT_PTR nIDTool = 0) const;

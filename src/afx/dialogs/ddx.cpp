@@ -1,5 +1,7 @@
 // Data exchange: one value, one control, either way.
+#include "afx/dialogs/ddx_steps.h"
 #include "afx/ole/wnd_control.h"
+#include "afx/values/wide_text.h"
 #include "afx/window/wnd_state.h"
 
 #include <afxcmn.h>
@@ -81,9 +83,13 @@ BOOL CWnd::UpdateData(BOOL bSaveAndValidate) {
 
 void CWnd::DoDataExchange(CDataExchange*) {}
 
-namespace {
+[[noreturn]] void AfxRejectValue(CDataExchange* pDX, UINT nIDPrompt) {
+    AfxMessageBox(nIDPrompt, MB_ICONEXCLAMATION, nIDPrompt);
+    pDX->Fail();
+    std::abort();  // Fail throws
+}
 
-CString TextOf(HWND hWnd) {
+CString AfxItemText(HWND hWnd) {
     CString strText;
     const int nLength = ::GetWindowTextLength(hWnd);
     ::GetWindowText(hWnd, strText.GetBuffer(nLength), nLength + 1);
@@ -91,18 +97,13 @@ CString TextOf(HWND hWnd) {
     return strText;
 }
 
-/// Leaves a control alone that shows the text already: no flicker, no lost selection.
-void ShowText(HWND hWnd, LPCTSTR lpszText) {
-    if (TextOf(hWnd) != lpszText) {
+void AfxShowItemText(HWND hWnd, LPCTSTR lpszText) {
+    if (AfxItemText(hWnd) != lpszText) {
         ::SetWindowText(hWnd, lpszText);
     }
 }
 
-[[noreturn]] void Reject(CDataExchange* pDX, UINT nIDPrompt) {
-    AfxMessageBox(nIDPrompt, MB_ICONEXCLAMATION, nIDPrompt);
-    pDX->Fail();
-    std::abort();  // Fail throws
-}
+namespace {
 
 bool OnlyBlanksFollow(const char* p) {
     while (isspace(static_cast<unsigned char>(*p))) {
@@ -111,17 +112,26 @@ bool OnlyBlanksFollow(const char* p) {
     return *p == '\0';
 }
 
-/// The whole text as a number in the bounds, or false.
+/// The whole text as a number that the type has, or false.
 template <typename Integer>
-bool ParseInteger(LPCTSTR lpszText, Integer& value, long long nMin, long long nMax) {
+bool ParseInteger(LPCTSTR lpszText, Integer& value) {
     char* pEnd = nullptr;
     errno = 0;
-    const long long nValue = std::strtoll(lpszText, &pEnd, 10);
-    if (pEnd == lpszText || errno == ERANGE || !OnlyBlanksFollow(pEnd) || nValue < nMin ||
-        nValue > nMax) {
+    bool bFits = true;
+    Integer parsed = 0;
+    if constexpr (std::is_same_v<Integer, ULONGLONG>) {
+        parsed = std::strtoull(lpszText, &pEnd, 10);
+        bFits = std::strchr(lpszText, '-') == nullptr;  // it would wrap around
+    } else {
+        const long long nValue = std::strtoll(lpszText, &pEnd, 10);
+        bFits = nValue >= std::numeric_limits<Integer>::min() &&
+                nValue <= std::numeric_limits<Integer>::max();
+        parsed = static_cast<Integer>(nValue);
+    }
+    if (pEnd == lpszText || errno == ERANGE || !OnlyBlanksFollow(pEnd) || !bFits) {
         return false;
     }
-    value = static_cast<Integer>(nValue);
+    value = parsed;
     return true;
 }
 
@@ -129,33 +139,32 @@ template <typename Integer>
 void ExchangeInteger(CDataExchange* pDX, int nIDC, Integer& value, UINT nIDPrompt) {
     HWND hWnd = pDX->PrepareEditCtrl(nIDC);
     if (pDX->m_bSaveAndValidate) {
-        if (!ParseInteger(TextOf(hWnd), value, std::numeric_limits<Integer>::min(),
-                          std::numeric_limits<Integer>::max())) {
-            Reject(pDX, nIDPrompt);
+        if (!ParseInteger(AfxItemText(hWnd), value)) {
+            AfxRejectValue(pDX, nIDPrompt);
         }
         return;
     }
     CString strText;
     strText.Format("%s", std::to_string(value).c_str());
-    ShowText(hWnd, strText);
+    AfxShowItemText(hWnd, strText);
 }
 
 void ExchangeReal(CDataExchange* pDX, int nIDC, double& value, int nDigits) {
     HWND hWnd = pDX->PrepareEditCtrl(nIDC);
     if (pDX->m_bSaveAndValidate) {
-        const CString strText = TextOf(hWnd);
+        const CString strText = AfxItemText(hWnd);
         const char* pText = strText;
         char* pEnd = nullptr;
         const double parsed = std::strtod(pText, &pEnd);
         if (pEnd == pText || !OnlyBlanksFollow(pEnd) || !std::isfinite(parsed)) {
-            Reject(pDX, AFX_IDP_PARSE_REAL);
+            AfxRejectValue(pDX, AFX_IDP_PARSE_REAL);
         }
         value = parsed;
         return;
     }
     CString strText;
     strText.Format("%.*g", nDigits, value);
-    ShowText(hWnd, strText);
+    AfxShowItemText(hWnd, strText);
 }
 
 [[noreturn]] void RejectRange(CDataExchange* pDX, LPCTSTR lpszMin, LPCTSTR lpszMax,
@@ -220,12 +229,29 @@ void DDX_Text(CDataExchange* pDX, int nIDC, DWORD& value) {
     ExchangeInteger(pDX, nIDC, value, AFX_IDP_PARSE_UINT);
 }
 
+void DDX_Text(CDataExchange* pDX, int nIDC, LONGLONG& value) {
+    ExchangeInteger(pDX, nIDC, value, AFX_IDP_PARSE_INT);
+}
+
+void DDX_Text(CDataExchange* pDX, int nIDC, ULONGLONG& value) {
+    ExchangeInteger(pDX, nIDC, value, AFX_IDP_PARSE_UINT);
+}
+
+void DDX_Text(CDataExchange* pDX, int nIDC, LPTSTR value, int nMaxLen) {
+    HWND hWnd = pDX->PrepareEditCtrl(nIDC);
+    if (pDX->m_bSaveAndValidate) {
+        AfxCopyChars(value, AfxItemText(hWnd), nMaxLen);
+    } else {
+        AfxShowItemText(hWnd, value);
+    }
+}
+
 void DDX_Text(CDataExchange* pDX, int nIDC, CString& value) {
     HWND hWnd = pDX->PrepareEditCtrl(nIDC);
     if (pDX->m_bSaveAndValidate) {
-        value = TextOf(hWnd);
+        value = AfxItemText(hWnd);
     } else {
-        ShowText(hWnd, value);
+        AfxShowItemText(hWnd, value);
     }
 }
 
@@ -298,7 +324,7 @@ void ExchangeListString(CDataExchange* pDX, int nIDC, CString& value, bool bExac
 void ExchangeComboString(CDataExchange* pDX, int nIDC, CString& value, bool bExact) {
     HWND hWnd = pDX->PrepareCtrl(nIDC);
     if (pDX->m_bSaveAndValidate) {
-        value = TextOf(hWnd);
+        value = AfxItemText(hWnd);
         return;
     }
     const int nFound = AfxSend<int>(hWnd, bExact ? CB_FINDSTRINGEXACT : CB_SELECTSTRING, -1,
@@ -407,4 +433,20 @@ void DDV_MinMaxFloat(CDataExchange* pDX, float const& value, float minVal, float
 
 void DDV_MinMaxDouble(CDataExchange* pDX, double const& value, double minVal, double maxVal) {
     CheckRange(pDX, value, minVal, maxVal);
+}
+
+void DDV_MinMaxLongLong(CDataExchange* pDX, LONGLONG value, LONGLONG minVal, LONGLONG maxVal) {
+    CheckRange(pDX, value, minVal, maxVal);
+}
+
+void DDV_MinMaxULongLong(CDataExchange* pDX, ULONGLONG value, ULONGLONG minVal, ULONGLONG maxVal) {
+    CheckRange(pDX, value, minVal, maxVal);
+}
+
+void DDV_MinMaxSlider(CDataExchange* pDX, DWORD value, DWORD minVal, DWORD maxVal) {
+    CheckRange(pDX, value, minVal, maxVal);
+    if (!pDX->m_bSaveAndValidate && pDX->m_hWndLastControl != nullptr) {
+        AfxSend(pDX->m_hWndLastControl, TBM_SETRANGEMIN, FALSE, minVal);
+        AfxSend(pDX->m_hWndLastControl, TBM_SETRANGEMAX, TRUE, maxVal);
+    }
 }

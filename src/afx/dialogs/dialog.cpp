@@ -92,6 +92,15 @@ BOOL CDialog::SetOccDialogInfo(_AFX_OCC_DIALOG_INFO* pOccDialogInfo) {
     return TRUE;
 }
 
+LPCDLGTEMPLATE CDialog::TakeControlsOut(LPCDLGTEMPLATE pTemplate) {
+    auto pControls = AfxSplitDialogTemplate(pTemplate);
+    if (pControls != nullptr) {
+        pTemplate = pControls->Template();
+    }
+    SetOccDialogInfo(pControls.release());
+    return pTemplate;
+}
+
 BOOL CDialog::Create(UINT nIDTemplate, CWnd* pParentWnd) {
     return Create(MAKEINTRESOURCE(nIDTemplate), pParentWnd);
 }
@@ -152,11 +161,7 @@ BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWn
     m_nModalResult = -1;
     m_nFlags |= WF_CONTINUEMODAL;  // so that OnInitDialog may end it
     m_bControlsFailed = false;
-    auto pControls = AfxSplitDialogTemplate(lpDialogTemplate);
-    if (pControls != nullptr) {
-        lpDialogTemplate = pControls->Template();
-    }
-    SetOccDialogInfo(pControls.release());
+    lpDialogTemplate = TakeControlsOut(lpDialogTemplate);
     AfxHookWindowCreate(this);
     HWND hWnd =
         ::CreateDialogIndirect(hInst, lpDialogTemplate, pParentWnd->GetSafeHwnd(), AfxDialogProc);
@@ -309,7 +314,14 @@ LRESULT CDialog::HandleSetFont(WPARAM wParam, LPARAM) {
 }
 
 HBRUSH CDialog::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor) {
-    return CWnd::OnCtlColor(pDC, pWnd, nCtlColor);
+    LRESULT lResult = 0;
+    if (pWnd != nullptr && pWnd->SendChildNotifyLastMsg(&lResult)) {
+        return reinterpret_cast<HBRUSH>(lResult);
+    }
+    CWinApp* pApp = AfxGetApp();
+    const HBRUSH hBrush =
+        pApp != nullptr ? pApp->DialogBrush(pDC->GetSafeHdc(), nCtlColor) : nullptr;
+    return hBrush != nullptr ? hBrush : reinterpret_cast<HBRUSH>(Default());
 }
 
 BOOL CDialog::PreTranslateMessage(MSG* pMsg) {

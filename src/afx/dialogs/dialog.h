@@ -96,6 +96,9 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    friend class CPropertyPage;
+    /// The template without its ActiveX controls, which are this dialog's from then on.
+    LPCDLGTEMPLATE TakeControlsOut(LPCDLGTEMPLATE pTemplate);
     bool MakeControls();
 
     CString m_strTemplateName;  ///< owns a name given as text

@@ -1,6 +1,7 @@
 #include "afx/dialogs/dialog_template.h"
 
 #include "afx/dialogs/template_view.h"
+#include "afx/drawing/select_guard.h"
 
 #include <algorithm>
 #include <cstring>
@@ -43,14 +44,15 @@ SIZE UnitsOfFont(const AfxTemplateView& view, LPCTSTR lpszFace, WORD nPoints) {
     CFont font;
     font.CreatePointFontIndirect(&log);
     const HDC hDC = ::GetDC(nullptr);
-    const HGDIOBJ hOld = ::SelectObject(hDC, font.m_hObject);
     constexpr char kLetters[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
     constexpr int kCount = sizeof kLetters - 1;
     TEXTMETRIC metric = {};
     SIZE size = {};
-    ::GetTextMetrics(hDC, &metric);
-    ::GetTextExtentPoint32(hDC, kLetters, kCount, &size);
-    ::SelectObject(hDC, hOld);
+    {
+        const AfxSelectGuard select(hDC, font.m_hObject);
+        ::GetTextMetrics(hDC, &metric);
+        ::GetTextExtentPoint32(hDC, kLetters, kCount, &size);
+    }
     ::ReleaseDC(nullptr, hDC);
     return {(size.cx / (kCount / 2) + 1) / 2, metric.tmHeight};
 }

@@ -2,18 +2,15 @@
 
 #include <afxdlgs.h>
 
+#include <algorithm>
+
 // Defines short names that clash with those of the standard library's headers: after them.
 #include <mbstring.h>
 
-IMPLEMENT_DYNAMIC(CCommonDialog, CDialog)
 IMPLEMENT_DYNAMIC(CFileDialog, CCommonDialog)
 
-CCommonDialog::CCommonDialog(CWnd* pParentWnd) {
-    m_pParentWnd = pParentWnd;
-}
-
 CFileDialog::CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt, LPCTSTR lpszFileName,
-                         DWORD dwFlags, LPCTSTR lpszFilter, CWnd* pParentWnd)
+                         DWORD dwFlags, LPCTSTR lpszFilter, CWnd* pParentWnd, DWORD, BOOL)
     : CCommonDialog(pParentWnd),
       m_ofn(),
       m_bOpenFileDialog(bOpenFileDialog),
@@ -43,27 +40,25 @@ CFileDialog::CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt, LPCTSTR lpszF
     }
 }
 
+/// Names of several files take more room than one path; a program may have brought its own.
+void CFileDialog::MakeRoomForMany() {
+    constexpr DWORD kRoom = 0x40000;
+    if ((m_ofn.Flags & OFN_ALLOWMULTISELECT) && m_ofn.lpstrFile == m_szFileName) {
+        m_manyNames.assign(kRoom, '\0');
+        std::copy_n(m_szFileName, _countof(m_szFileName), m_manyNames.begin());
+        m_ofn.lpstrFile = m_manyNames.data();
+        m_ofn.nMaxFile = kRoom;
+    }
+}
+
 INT_PTR CFileDialog::DoModal() {
+    MakeRoomForMany();
     m_ofn.hwndOwner = PreModal();
-    const HWND hWndFocus = ::GetFocus();
-    const BOOL bEnabled = ::IsWindowEnabled(m_ofn.hwndOwner);
-    AfxWndState& state = AfxGetWndState();
-    CWnd* const pOuter = state.pHookInit;
-    state.pHookInit = this;
-    const BOOL bChosen = m_bOpenFileDialog ? ::GetOpenFileName(&m_ofn) : ::GetSaveFileName(&m_ofn);
-    state.pHookInit = pOuter;
-    // The system enables the owner always, or never where the program is about to end. A dialog
-    // that ends for that reason has chosen nothing, whatever the system says.
-    if (::IsWindow(m_ofn.hwndOwner)) {
-        ::EnableWindow(m_ofn.hwndOwner, bEnabled);
-    }
-    if (::IsWindow(hWndFocus)) {
-        ::SetFocus(hWndFocus);
-    }
-    PostModal();
-    MSG msg;
-    const BOOL bEnds = ::PeekMessage(&msg, nullptr, WM_QUIT, WM_QUIT, PM_NOREMOVE);
-    return bChosen && !bEnds ? IDOK : IDCANCEL;
+    return RunSystemDialog(m_ofn.hwndOwner, [](CCommonDialog* pDlg) {
+        auto* pThis = static_cast<CFileDialog*>(pDlg);
+        return pThis->m_bOpenFileDialog ? ::GetOpenFileName(&pThis->m_ofn)
+                                        : ::GetSaveFileName(&pThis->m_ofn);
+    });
 }
 
 // --- The window
@@ -72,20 +67,15 @@ INT_PTR CFileDialog::DoModal() {
 // takes the child over at its first message; all later ones come through the object, as its
 // default.
 UINT_PTR CALLBACK CFileDialog::HookProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_INITDIALOG) {
+        return SystemDialogHook(hWnd, message, wParam, lParam);
+    }
     // The system's code lies between here and whoever opened the dialog; no exception may cross it.
     try {
-        if (message == WM_INITDIALOG) {
-            auto* pDlg = static_cast<CFileDialog*>(AfxGetWndState().pHookInit);
-            AfxGetWndState().pHookInit = nullptr;
-            return pDlg != nullptr && pDlg->SubclassWindow(hWnd) && pDlg->OnInitDialog();
-        }
         auto* pDlg = dynamic_cast<CFileDialog*>(CWnd::FromHandlePermanent(hWnd));
         return pDlg != nullptr ? pDlg->OnHookMessage(message, wParam, lParam) : 0;
     } catch (...) {
         AfxProcessCurrentException(hWnd, message, wParam, lParam);
-        if (message == WM_INITDIALOG) {
-            ::PostMessage(::GetParent(hWnd), WM_COMMAND, IDCANCEL, 0);
-        }
         return 0;
     }
 }
@@ -177,8 +167,9 @@ void CFileDialog::SetDefExt(LPCSTR lpsz) {
 // What the open dialog says to a question for a text.
 CString CFileDialog::Ask(UINT message) const {
     CString strText;
-    const int nBytes = AfxSend<int>(::GetParent(m_hWnd), message, _countof(m_szFileName),
-                                    strText.GetBuffer(_countof(m_szFileName)));
+    const DWORD nRoom = std::max(m_ofn.nMaxFile, DWORD{_countof(m_szFileName)});
+    const int nBytes = AfxSend<int>(::GetParent(m_hWnd), message, nRoom,
+                                    strText.GetBuffer(static_cast<int>(nRoom)));
     strText.ReleaseBuffer(nBytes > 0 ? -1 : 0);
     return strText;
 }

@@ -1,40 +1,8 @@
+#include "afx/dialogs/printer_names.h"
+
 #include <afxdlgs.h>
 
 IMPLEMENT_DYNAMIC(CPrintDialog, CCommonDialog)
-
-namespace {
-
-/// A global block, locked while this lives. Empty for a null handle.
-template <class T>
-class LockedGlobal {
-public:
-    explicit LockedGlobal(HGLOBAL hGlobal)
-        : m_hGlobal(hGlobal),
-          m_pData(hGlobal != nullptr ? static_cast<T*>(::GlobalLock(hGlobal)) : nullptr) {}
-    ~LockedGlobal() {
-        if (m_pData != nullptr) {
-            ::GlobalUnlock(m_hGlobal);
-        }
-    }
-    LockedGlobal(const LockedGlobal&) = delete;
-    LockedGlobal& operator=(const LockedGlobal&) = delete;
-    T* Get() const { return m_pData; }
-
-private:
-    HGLOBAL m_hGlobal;
-    T* m_pData;
-};
-
-/// One of the names, which the structure gives as distances from its start.
-CString NameAt(HGLOBAL hDevNames, WORD DEVNAMES::*pOffset) {
-    const LockedGlobal<DEVNAMES> names(hDevNames);
-    if (names.Get() == nullptr) {
-        return CString();
-    }
-    return CString(reinterpret_cast<LPCSTR>(names.Get()) + names.Get()->*pOffset);
-}
-
-}  // namespace
 
 CPrintDialog::CPrintDialog(BOOL bPrintSetupOnly, DWORD dwFlags, CWnd* pParentWnd)
     : CCommonDialog(pParentWnd), m_pd(m_pdActual), m_pdActual() {
@@ -59,7 +27,7 @@ BOOL CPrintDialog::GetDefaults() {
 
 int CPrintDialog::GetCopies() const {
     if (m_pd.Flags & PD_USEDEVMODECOPIES) {
-        const LockedGlobal<DEVMODE> mode(m_pd.hDevMode);
+        const AfxLockedGlobal<DEVMODE> mode(m_pd.hDevMode);
         return mode.Get() != nullptr && (mode.Get()->dmFields & DM_COPIES) ? mode.Get()->dmCopies
                                                                            : 1;
     }
@@ -86,13 +54,13 @@ int CPrintDialog::GetToPage() const {
 }
 
 CString CPrintDialog::GetDeviceName() const {
-    return NameAt(m_pd.hDevNames, &DEVNAMES::wDeviceOffset);
+    return AfxNameAt(m_pd.hDevNames, &DEVNAMES::wDeviceOffset);
 }
 CString CPrintDialog::GetDriverName() const {
-    return NameAt(m_pd.hDevNames, &DEVNAMES::wDriverOffset);
+    return AfxNameAt(m_pd.hDevNames, &DEVNAMES::wDriverOffset);
 }
 CString CPrintDialog::GetPortName() const {
-    return NameAt(m_pd.hDevNames, &DEVNAMES::wOutputOffset);
+    return AfxNameAt(m_pd.hDevNames, &DEVNAMES::wOutputOffset);
 }
 
 LPDEVMODE CPrintDialog::GetDevMode() const {
@@ -103,7 +71,7 @@ HDC CPrintDialog::CreatePrinterDC() {
     if (m_pd.hDevNames == nullptr) {
         return nullptr;
     }
-    const LockedGlobal<DEVMODE> mode(m_pd.hDevMode);
+    const AfxLockedGlobal<DEVMODE> mode(m_pd.hDevMode);
     m_pd.hDC = ::CreateDC(GetDriverName(), GetDeviceName(), GetPortName(), mode.Get());
     return m_pd.hDC;
 }

@@ -1,7 +1,6 @@
 // Pages of property sheets: what the platform tells them, and their templates.
 #include "afx/dialogs/modal_owner.h"
 #include "afx/dialogs/prop_sheet_count.h"
-#include "afx/ole/occ_dialog.h"
 #include "afx/window/wnd_state.h"
 
 #include <afxdlgs.h>
@@ -61,12 +60,7 @@ void CPropertyPage::Construct(LPCTSTR lpszTemplateName, UINT nIDCaption) {
 // --- The template
 
 LPCDLGTEMPLATE CPropertyPage::InitDialogInfo(LPCDLGTEMPLATE pTemplate) {
-    auto pControls = AfxSplitDialogTemplate(pTemplate);
-    if (pControls != nullptr) {
-        pTemplate = pControls->Template();
-    }
-    SetOccDialogInfo(pControls.release());
-    return pTemplate;
+    return TakeControlsOut(pTemplate);
 }
 
 static LPCDLGTEMPLATE TemplateOf(const PROPSHEETPAGE& psp) {

@@ -2,6 +2,7 @@
 
 #include "afx/dialogs/modal_owner.h"
 #include "afx/dialogs/prop_sheet_count.h"
+#include "afx/dialogs/template_view.h"
 #include "afx/window/wnd_state.h"
 
 #include <afxdlgs.h>
@@ -235,16 +236,9 @@ int CALLBACK CPropertySheet::SheetCallback(HWND, UINT message, LPARAM lParam) {
     if (message != PSCB_PRECREATE || pSheet == nullptr || pSheet->m_dwStyle == 0) {
         return 0;
     }
-    struct Head {  // of a DIALOGEX template
-        WORD nVersion;
-        WORD nSignature;
-        DWORD dwHelpID;
-        DWORD dwExStyle;
-        DWORD dwStyle;
-    };
-    auto& head = *reinterpret_cast<Head*>(lParam);
+    auto& head = *reinterpret_cast<AfxExtendedHead*>(lParam);
     constexpr DWORD kTemplates = DS_SETFONT | DS_FIXEDSYS;  // what the layout rests on
-    if (head.nSignature == 0xFFFF) {
+    if (head.nSignature == kAfxOrdinal) {
         head.dwStyle = (head.dwStyle & kTemplates) | pSheet->m_dwStyle;
         head.dwExStyle = pSheet->m_dwExStyle;
     } else {
@@ -439,6 +433,31 @@ void CPropertySheet::OnSysCommand(UINT nID, LPARAM) {
     Default();
 }
 
+namespace {
+// Messages behind which another page may show, or other buttons.
+bool MayLoseFocus(UINT message) {
+    return message == WM_COMMAND || message == WM_NOTIFY || message == WM_KICKIDLE ||
+           message == PSM_SETCURSEL || message == PSM_SETWIZBUTTONS || message == PSM_PRESSBUTTON;
+}
+
+// A page without a control that takes the focus leaves it nowhere, and no key would arrive.
+void FocusDefaultButton(HWND hWndSheet) {
+    const HWND hWndFocus = ::GetFocus();
+    if (::GetActiveWindow() != hWndSheet || (hWndFocus != nullptr && hWndFocus != hWndSheet)) {
+        return;
+    }
+    const LRESULT lDefault = ::SendMessage(hWndSheet, DM_GETDEFID, 0, 0);
+    HWND hWndButton =
+        HIWORD(lDefault) == DC_HASDEFID ? ::GetDlgItem(hWndSheet, LOWORD(lDefault)) : nullptr;
+    if (!::IsWindowVisible(hWndButton) || !::IsWindowEnabled(hWndButton)) {
+        hWndButton = ::GetNextDlgTabItem(hWndSheet, nullptr, FALSE);
+    }
+    if (hWndButton != nullptr) {
+        ::SetFocus(hWndButton);
+    }
+}
+}  // namespace
+
 LRESULT CPropertySheet::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     const HWND hWnd = m_hWnd;
     LRESULT lResult = 0;
@@ -455,6 +474,8 @@ LRESULT CPropertySheet::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
         DestroyWindow();
     } else if (bMayEnd && m_bModeless && CurrentPageWindow() == nullptr) {
         DestroyWindow();
+    } else if (m_nHandled == 0 && MayLoseFocus(message)) {
+        FocusDefaultButton(hWnd);
     }
     return lResult;
 }

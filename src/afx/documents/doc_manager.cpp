@@ -1,7 +1,8 @@
 #include "afx/documents/doc_manager.h"
 
+#include "afx/documents/new_type_dialog.h"
+
 #include <afxdlgs.h>
-#include <afxpriv.h>
 #include <afxwin.h>
 
 IMPLEMENT_DYNAMIC(CDocManager, CObject)
@@ -69,13 +70,29 @@ static void BringToFront(CDocument* pDoc) {
     POSITION pos = pDoc->GetFirstViewPosition();
     CView* pView = pDoc->GetNextView(pos);
     CFrameWnd* pFrame = pView != nullptr ? pView->GetParentFrame() : nullptr;
-    if (pFrame != nullptr) {
+    if (pFrame == nullptr) {
+        return;
+    }
+    const HWND hFrame = pFrame->m_hWnd;
+    const HWND hView = pView->m_hWnd;
+    // A frame in the main window brings that to the front as well.
+    CFrameWnd* pTop = pFrame->GetTopLevelFrame();
+    if (pTop != pFrame) {
+        pTop->ActivateFrame();
+    }
+    if (CWnd::FromHandlePermanent(hFrame) == pFrame) {
         pFrame->ActivateFrame();
+    }
+    if (CWnd::FromHandlePermanent(hFrame) == pFrame && CWnd::FromHandlePermanent(hView) == pView) {
         pFrame->SetActiveView(pView);
     }
 }
 
 CDocument* CDocManager::OpenDocumentFile(LPCTSTR lpszFileName) {
+    return OpenDocumentFile(lpszFileName, TRUE);
+}
+
+CDocument* CDocManager::OpenDocumentFile(LPCTSTR lpszFileName, BOOL bAddToMRU) {
     CDocTemplate* pBest = nullptr;
     CDocTemplate::Confidence best = CDocTemplate::noAttempt;
     for (POSITION pos = GetFirstDocTemplatePosition(); pos != nullptr;) {
@@ -95,7 +112,7 @@ CDocument* CDocManager::OpenDocumentFile(LPCTSTR lpszFileName) {
         AfxMessageBox(AFX_IDP_FAILED_TO_OPEN_DOC);
         return nullptr;
     }
-    return pBest->OpenDocumentFile(lpszFileName);
+    return pBest->OpenDocumentFile(lpszFileName, bAddToMRU, TRUE);
 }
 
 namespace {
@@ -146,8 +163,26 @@ BOOL CDocManager::DoPromptFileName(CString& fileName, UINT nIDSTitle, DWORD lFla
 }
 
 void CDocManager::OnFileNew() {
-    POSITION pos = GetFirstDocTemplatePosition();
-    if (CDocTemplate* pTemplate = GetNextDocTemplate(pos)) {
+    // Kinds without a name for this are not offered.
+    CPtrList offered;
+    for (POSITION pos = GetFirstDocTemplatePosition(); pos != nullptr;) {
+        CDocTemplate* pTemplate = GetNextDocTemplate(pos);
+        CString strName;
+        if (pTemplate->GetDocString(strName, CDocTemplate::fileNewName) && !strName.IsEmpty()) {
+            offered.AddTail(pTemplate);
+        }
+    }
+    POSITION posFirst = GetFirstDocTemplatePosition();
+    CDocTemplate* pTemplate = !offered.IsEmpty() ? static_cast<CDocTemplate*>(offered.GetHead())
+                                                 : GetNextDocTemplate(posFirst);
+    if (offered.GetCount() > 1) {
+        AfxNewTypeDialog dlg(offered);
+        if (dlg.DoModal() != IDOK) {
+            return;
+        }
+        pTemplate = dlg.GetTemplate();
+    }
+    if (pTemplate != nullptr) {
         pTemplate->OpenDocumentFile(nullptr);
     } else {
         AfxMessageBox(AFX_IDP_FAILED_TO_CREATE_DOC);

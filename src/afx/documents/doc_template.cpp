@@ -1,10 +1,11 @@
 #include "afx/documents/doc_template.h"
 
-#include "afx/values/wide_text.h"
+#include "afx/objects/create_object.h"
+#include "afx/objects/file_path.h"
 
-#include <afxpriv.h>
 #include <afxwin.h>
 
+#include <memory>
 #include <vector>
 
 IMPLEMENT_DYNAMIC(CDocTemplate, CCmdTarget)
@@ -33,17 +34,7 @@ void CDocTemplate::RemoveDocument(CDocument* pDoc) {
 }
 
 BOOL CDocTemplate::GetDocString(CString& rString, DocStringIndex index) const {
-    rString.Empty();
-    int nStart = 0;
-    for (int nPart = 0; nPart < index; ++nPart) {
-        nStart = m_strDocStrings.Find('\n', nStart) + 1;
-        if (nStart == 0) {
-            return FALSE;
-        }
-    }
-    const int nEnd = m_strDocStrings.Find('\n', nStart);
-    rString = nEnd < 0 ? m_strDocStrings.Mid(nStart) : m_strDocStrings.Mid(nStart, nEnd - nStart);
-    return !m_strDocStrings.IsEmpty();
+    return AfxExtractSubString(rString, m_strDocStrings, index) && !m_strDocStrings.IsEmpty();
 }
 
 static std::vector<CDocument*> DocumentsOf(const CDocTemplate& docTemplate) {
@@ -56,17 +47,11 @@ static std::vector<CDocument*> DocumentsOf(const CDocTemplate& docTemplate) {
     });
 }
 
-static CString WholePath(LPCTSTR lpszPath) {
-    char szPath[MAX_PATH] = "";
-    const DWORD nLength = ::GetFullPathName(lpszPath, _countof(szPath), szPath, nullptr);
-    return nLength > 0 && nLength < _countof(szPath) ? szPath : lpszPath;
-}
-
 CDocTemplate::Confidence CDocTemplate::MatchDocType(LPCTSTR lpszPathName, CDocument*& rpDocMatch) {
     rpDocMatch = nullptr;
-    const CString strPath(WholePath(lpszPathName));
+    const CString strPath(AfxWholePath(lpszPathName));
     for (CDocument* pDoc : DocumentsOf(*this)) {
-        if (::lstrcmpi(pDoc->GetPathName(), strPath) == 0) {
+        if (AfxSamePath(pDoc->GetPathName(), strPath)) {
             rpDocMatch = pDoc;
             return yesAlreadyOpen;
         }
@@ -74,21 +59,18 @@ CDocTemplate::Confidence CDocTemplate::MatchDocType(LPCTSTR lpszPathName, CDocum
     CString strExt;
     const int nDot = strPath.ReverseFind('.');
     if (GetDocString(strExt, filterExt) && !strExt.IsEmpty() && nDot >= 0 &&
-        ::lstrcmpi(strPath.Mid(nDot), strExt) == 0) {
+        AfxSamePath(strPath.Mid(nDot), strExt)) {
         return yesAttemptNative;
     }
     return yesAttemptForeign;
 }
 
 CDocument* CDocTemplate::CreateNewDocument() {
-    CObject* pObject = m_pDocClass != nullptr ? m_pDocClass->CreateObject() : nullptr;
-    auto* pDocument = DYNAMIC_DOWNCAST(CDocument, pObject);
-    if (pDocument == nullptr) {
-        delete pObject;
-        return nullptr;
+    std::unique_ptr<CDocument> pDocument(AfxCreateOf<CDocument>(m_pDocClass));
+    if (pDocument != nullptr) {
+        AddDocument(pDocument.get());
     }
-    AddDocument(pDocument);
-    return pDocument;
+    return pDocument.release();
 }
 
 CFrameWnd* CDocTemplate::CreateNewFrame(CDocument* pDoc, CFrameWnd* pOther) {
@@ -98,10 +80,8 @@ CFrameWnd* CDocTemplate::CreateNewFrame(CDocument* pDoc, CFrameWnd* pOther) {
     context.m_pNewViewClass = m_pViewClass;
     context.m_pNewDocTemplate = this;
 
-    CObject* pObject = m_pFrameClass != nullptr ? m_pFrameClass->CreateObject() : nullptr;
-    auto* pFrame = DYNAMIC_DOWNCAST(CFrameWnd, pObject);
+    auto* pFrame = AfxCreateOf<CFrameWnd>(m_pFrameClass);
     if (pFrame == nullptr) {
-        delete pObject;
         return nullptr;
     }
     // A frame that fails deletes itself, unless its window was never tried for want of memory.
@@ -114,6 +94,52 @@ CFrameWnd* CDocTemplate::CreateNewFrame(CDocument* pDoc, CFrameWnd* pOther) {
         delete pFrame;
         throw;
     }
+}
+
+CFrameWnd* CDocTemplate::MakeDocument(CDocument*& rpDocument) {
+    rpDocument = CreateNewDocument();
+    if (rpDocument == nullptr) {
+        return nullptr;
+    }
+    // A frame that fails takes its view along, and must not take the document.
+    const BOOL bAutoDelete = rpDocument->m_bAutoDelete;
+    const AfxLifeWatch watch(rpDocument->m_life);
+    const auto dropDocument = [&] {
+        if (watch) {
+            delete rpDocument;
+        }
+        rpDocument = nullptr;
+    };
+    rpDocument->m_bAutoDelete = FALSE;
+    CFrameWnd* pFrame = nullptr;
+    try {
+        pFrame = CreateNewFrame(rpDocument, nullptr);
+    } catch (...) {
+        dropDocument();
+        throw;
+    }
+    if (pFrame == nullptr) {
+        dropDocument();
+    } else if (watch) {
+        rpDocument->m_bAutoDelete = bAutoDelete;
+    }
+    return pFrame;
+}
+
+void CDocTemplate::ShowNewFrame(CFrameWnd* pFrame, CDocument* pDocument, BOOL bMakeVisible) {
+    CWinThread* pThread = AfxGetThread();
+    if (pThread != nullptr && pThread->m_pMainWnd == nullptr) {
+        pThread->m_pMainWnd = pFrame;
+    }
+    InitialUpdateFrame(pFrame, pDocument, bMakeVisible);
+}
+
+CString CDocTemplate::DefaultName() const {
+    CString strName;
+    if (!GetDocString(strName, docName) || strName.IsEmpty()) {
+        strName.LoadString(AFX_IDS_UNTITLED);
+    }
+    return strName;
 }
 
 void CDocTemplate::InitialUpdateFrame(CFrameWnd* pFrame, CDocument* pDoc, BOOL bMakeVisible) {

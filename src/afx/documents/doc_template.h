@@ -38,6 +38,7 @@ public:
     virtual void AddDocument(CDocument* pDoc);
     virtual void RemoveDocument(CDocument* pDoc);
 
+    UINT GetResourceID() const { return m_nIDResource; }
     /// FALSE if the string has no such part.
     virtual BOOL GetDocString(CString& rString, DocStringIndex index) const;
     /// How well the template suits a file; by the open documents and the extension.
@@ -53,12 +54,23 @@ public:
     /// Opens the file, or with a null name makes a new document. Null on failure, of which the user
     /// has been told.
     virtual CDocument* OpenDocumentFile(LPCTSTR lpszPathName, BOOL bMakeVisible = TRUE) = 0;
+    /// bAddToMRU: whether the file comes into the list of recent ones.
+    virtual CDocument* OpenDocumentFile(LPCTSTR lpszPathName, BOOL bAddToMRU,
+                                        BOOL bMakeVisible) = 0;
     virtual void SetDefaultTitle(CDocument* pDocument) = 0;
     virtual void OnIdle();
 
 protected:
     CDocTemplate(UINT nIDResource, CRuntimeClass* pDocClass, CRuntimeClass* pFrameClass,
                  CRuntimeClass* pViewClass);
+
+    /// A new document with its frame, both null if they cannot be made. Nothing is left behind by
+    /// what fails or throws.
+    CFrameWnd* MakeDocument(CDocument*& rpDocument);
+    /// Makes the frame the main window if there is none, and shows it.
+    void ShowNewFrame(CFrameWnd* pFrame, CDocument* pDocument, BOOL bMakeVisible);
+    /// The document's name of this kind, "Untitled" where the texts have none.
+    CString DefaultName() const;
 
     UINT m_nIDResource;  ///< of menu, accelerators, icon and string of the frame
     CRuntimeClass* m_pDocClass;
@@ -82,12 +94,13 @@ public:
     POSITION GetFirstDocPosition() const override;
     CDocument* GetNextDoc(POSITION& rPos) const override;
     CDocument* OpenDocumentFile(LPCTSTR lpszPathName, BOOL bMakeVisible = TRUE) override;
+    CDocument* OpenDocumentFile(LPCTSTR lpszPathName, BOOL bAddToMRU, BOOL bMakeVisible) override;
     void SetDefaultTitle(CDocument* pDocument) override;
 
 protected:
     CDocument* m_pOnlyDoc = nullptr;
 
 private:
-    CFrameWnd* MakeDocument();
-    BOOL Fill(LPCTSTR lpszPathName, BOOL bMakeVisible, bool bCreated);
+    BOOL Fill(LPCTSTR lpszPathName, BOOL bAddToMRU, BOOL bMakeVisible, bool bCreated);
+    void GiveBack(BOOL bWasModified);
 };

@@ -1,8 +1,7 @@
 #include "afx/documents/document.h"
 
-#include "afx/window/wnd_state.h"
+#include "afx/objects/file_path.h"
 
-#include <afxpriv.h>
 #include <afxwin.h>
 
 #include <algorithm>
@@ -48,13 +47,10 @@ void CDocument::SetTitle(LPCTSTR lpszTitle) {
 }
 
 void CDocument::SetPathName(LPCTSTR lpszPathName, BOOL bAddToMRU) {
-    char szPath[MAX_PATH] = "";
-    LPTSTR lpszName = nullptr;
-    const DWORD nLength = ::GetFullPathName(lpszPathName, _countof(szPath), szPath, &lpszName);
-    const bool bWhole = nLength > 0 && nLength < _countof(szPath);
-    m_strPathName = bWhole ? szPath : lpszPathName;
+    CString strName;
+    m_strPathName = AfxWholePath(lpszPathName, &strName);
     m_bEmbedded = FALSE;
-    SetTitle(bWhole && lpszName != nullptr ? CString(lpszName) : m_strPathName);
+    SetTitle(strName.IsEmpty() ? m_strPathName : strName);
     if (bAddToMRU && AfxGetApp() != nullptr) {
         AfxGetApp()->AddToRecentFileList(m_strPathName);
     }
@@ -177,58 +173,6 @@ BOOL CDocument::OnNewDocument() {
     return TRUE;
 }
 
-CFile* CDocument::GetFile(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError) {
-    auto* pFile = AfxNeedMemory([] { return new CFile; });
-    if (!pFile->Open(lpszFileName, nOpenFlags, pError)) {
-        delete pFile;
-        return nullptr;
-    }
-    return pFile;
-}
-
-void CDocument::ReleaseFile(CFile* pFile, BOOL bAbort) {
-    if (bAbort) {
-        pFile->Abort();
-    } else {
-        pFile->Close();
-    }
-    delete pFile;
-}
-
-BOOL CDocument::OnOpenDocument(LPCTSTR lpszPathName) {
-    CFileException error;
-    CFile* pFile = GetFile(lpszPathName, CFile::modeRead | CFile::shareDenyWrite, &error);
-    if (pFile == nullptr) {
-        ReportSaveLoadException(lpszPathName, &error, FALSE, AFX_IDP_FAILED_TO_OPEN_DOC);
-        return FALSE;
-    }
-    ReleaseFile(pFile, FALSE);
-    DeleteContents();
-    SetModifiedFlag(FALSE);
-    return TRUE;
-}
-
-BOOL CDocument::OnSaveDocument(LPCTSTR lpszPathName) {
-    CNotSupportedException notSupported(FALSE);
-    ReportSaveLoadException(lpszPathName, &notSupported, TRUE, AFX_IDP_FAILED_TO_SAVE_DOC);
-    return FALSE;
-}
-
-void CDocument::ReportSaveLoadException(LPCTSTR, CException* e, BOOL, UINT nIDPDefault) {
-    // A user exception means that the user was told already.
-    if (e != nullptr && e->IsKindOf(RUNTIME_CLASS(CUserException))) {
-        return;
-    }
-    CString strPrompt;
-    strPrompt.LoadString(nIDPDefault);
-    char szCause[MAX_PATH + 100] = "";
-    if (e != nullptr && e->GetErrorMessage(szCause, _countof(szCause)) && szCause[0] != '\0') {
-        strPrompt += strPrompt.IsEmpty() ? "" : "\n\n";
-        strPrompt += szCause;
-    }
-    AfxMessageBox(strPrompt, MB_ICONEXCLAMATION, nIDPDefault);
-}
-
 bool CDocument::IsOnlyFrame(const CFrameWnd* pFrame) {
     bool bOthers = false;
     ForEachFrame([&](const CFrameWnd* pOther) { bOthers |= pOther != pFrame; });
@@ -269,6 +213,8 @@ void CDocument::OnCloseDocument() {
         CDocument& document;
         const AfxLifeWatch& watch;
         const BOOL bAutoDelete;
+        Closing(CDocument& doc, const AfxLifeWatch& life, BOOL bDelete)
+            : document(doc), watch(life), bAutoDelete(bDelete) {}
         ~Closing() {
             if (watch) {
                 document.m_bClosing = false;
@@ -308,7 +254,7 @@ void CDocument::OnCloseDocument() {
 BOOL CDocument::AskForPath(CString& strPath, BOOL bReplace) {
     if (strPath.IsEmpty() && bReplace) {
         strPath = m_strTitle;
-        const int nBad = strPath.FindOneOf("\\/:*?\"<>|");
+        const int nBad = strPath.FindOneOf(kAfxNotInFileNames);
         if (nBad >= 0) {
             strPath = strPath.Left(nBad);
         }

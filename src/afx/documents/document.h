@@ -12,8 +12,8 @@ class CFileException;
 class CFrameWnd;
 class CView;
 
-/// A document lives as long as its last view, unless m_bAutoDelete is FALSE. There are no archives
-/// here: a derived class reads in OnOpenDocument and writes in OnSaveDocument.
+/// A document lives as long as its last view, unless m_bAutoDelete is FALSE. A derived class reads
+/// and writes in Serialize; or, without an archive, in OnOpenDocument and OnSaveDocument.
 class QVAFX_API CDocument : public CCmdTarget {
     DECLARE_DYNAMIC(CDocument)
 
@@ -52,16 +52,19 @@ public:
     virtual void OnChangedViewList();
     virtual void DeleteContents();
     virtual BOOL OnNewDocument();
-    /// FALSE if the file cannot be opened; the user is told then. Empties the document and reads
-    /// nothing: a derived class calls it first.
+    /// Empties the document and reads it by Serialize, unless the file is empty. FALSE if that
+    /// fails, of which the user is told; the document is empty then. A file that cannot be opened
+    /// leaves it as it is.
     virtual BOOL OnOpenDocument(LPCTSTR lpszPathName);
-    /// Tells the user that saving is not supported, gives FALSE and leaves the file alone.
+    /// Writes by Serialize. FALSE if that fails, of which the user is told; the file is then what
+    /// it was before.
     virtual BOOL OnSaveDocument(LPCTSTR lpszPathName);
     /// Destroys all frames that show the document, and then, with m_bAutoDelete, the document.
     virtual void OnCloseDocument();
     virtual void ReportSaveLoadException(LPCTSTR lpszPathName, CException* e, BOOL bSaving,
                                          UINT nIDPDefault);
-    /// Null if it cannot be opened; the cause is in pError then.
+    /// Null if it cannot be opened; the cause is in pError then. A file to write comes into place
+    /// when it is released.
     virtual CFile* GetFile(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError);
     /// Closes and deletes what GetFile gave.
     virtual void ReleaseFile(CFile* pFile, BOOL bAbort);
@@ -99,12 +102,16 @@ protected:
 private:
     friend class CDocTemplate;
     friend class CFrameWnd;
+    friend class CMultiDocTemplate;
+    friend class CSingleDocTemplate;
 
     template <class Action>
     void ForEachFrame(Action action);
     bool IsOnlyFrame(const CFrameWnd* pFrame);
+    BOOL SerializeFile(LPCTSTR lpszPathName, BOOL bSaving);
     BOOL AskForPath(CString& strPath, BOOL bReplace);
 
     AfxLife m_life;
     bool m_bClosing = false;
+    bool m_bEmptied = false;  ///< by OnOpenDocument
 };

@@ -1,11 +1,12 @@
 // A preview's window: sheets at their scale, scroll bars, the bar's commands, keys and mouse.
+#include "afx/app/last_page.h"
 #include "afx/documents/preview_job.h"
+#include "afx/drawing/select_guard.h"
 
 #include <afxpriv.h>
 
 namespace {
 
-constexpr UINT kUnknownLastPage = 0xFFFF;
 constexpr int kLine = 40;  // pixels that an arrow scrolls
 constexpr int kShadow = 3;
 constexpr int kThousandths = 1000;
@@ -71,7 +72,7 @@ void CPreviewView::LayOut() {
         m_ptScroll.y = std::clamp<LONG>(m_ptScroll.y, 0, total.cy - rc.Height());
         if (m_nZoomState == ZOOM_OUT) {
             // The bar turns pages.
-            const bool bKnown = m_nCurrentPage != 0 && info.GetMaxPage() != kUnknownLastPage;
+            const bool bKnown = m_nCurrentPage != 0 && info.GetMaxPage() != kAfxUnknownLastPage;
             SetBar(SB_HORZ, 0, 0, 1, 0);
             SetBar(SB_VERT, bKnown ? info.GetMinPage() : 0, bKnown ? info.GetMaxPage() : 0,
                    SheetsShown(), m_nCurrentPage);
@@ -114,10 +115,9 @@ void CPreviewView::OnDraw(CDC* pDC) {
         Paint(*pDC);
         return;
     }
-    CBitmap* pOld = dcMemory.SelectObject(&bitmap);
+    const AfxSelectGuard select(dcMemory.m_hDC, bitmap.m_hObject);
     Paint(dcMemory);
     pDC->BitBlt(0, 0, rc.Width(), rc.Height(), &dcMemory, 0, 0, SRCCOPY);
-    dcMemory.SelectObject(pOld);
 }
 
 void CPreviewView::Paint(CDC& dc) const {
@@ -141,9 +141,14 @@ void CPreviewView::Paint(CDC& dc) const {
 
 // Commands
 
+/// Null where it went, with a frame that goes, before this does.
+CDialogBar* CPreviewView::Bar() const {
+    return FromHandlePermanent(m_hWndToolBar) == m_pToolBar ? m_pToolBar : nullptr;
+}
+
 void CPreviewView::UpdateBar() {
-    if (m_pToolBar != nullptr) {
-        m_pToolBar->SendMessage(WM_IDLEUPDATECMDUI, TRUE);
+    if (CDialogBar* pBar = Bar()) {
+        pBar->SendMessage(WM_IDLEUPDATECMDUI, TRUE);
     }
 }
 
@@ -351,8 +356,8 @@ void CPreviewView::OnKeyDown(UINT nChar, UINT, UINT) {
             SetCurrentPage(0, TRUE);
             break;
         case VK_END:
-            if (m_pJob != nullptr && m_pJob->info.GetMaxPage() != kUnknownLastPage) {
-                SetCurrentPage(kUnknownLastPage, TRUE);
+            if (m_pJob != nullptr && m_pJob->info.GetMaxPage() != kAfxUnknownLastPage) {
+                SetCurrentPage(kAfxUnknownLastPage, TRUE);
             }
             break;
         case VK_UP:
@@ -372,8 +377,8 @@ void CPreviewView::OnKeyDown(UINT nChar, UINT, UINT) {
             OnZoomOut();
             break;
         case VK_TAB:
-            if (m_pToolBar != nullptr) {
-                ::SetFocus(::GetNextDlgTabItem(m_pToolBar->m_hWnd, nullptr, FALSE));
+            if (const CDialogBar* pBar = Bar()) {
+                ::SetFocus(::GetNextDlgTabItem(pBar->m_hWnd, nullptr, FALSE));
             }
             break;
         case VK_ESCAPE:
@@ -395,7 +400,7 @@ void CPreviewView::OnSysChar(UINT nChar, UINT nRepCnt, UINT nFlags) {
 bool CPreviewView::PressButton(UINT nChar) {
     const TCHAR szMark[] = {'&', static_cast<TCHAR>(std::tolower(static_cast<int>(nChar & 0xFF))),
                             '\0'};
-    for (HWND hWnd = ::GetTopWindow(m_pToolBar->GetSafeHwnd()); hWnd != nullptr;
+    for (HWND hWnd = ::GetTopWindow(Bar()->GetSafeHwnd()); hWnd != nullptr;
          hWnd = ::GetWindow(hWnd, GW_HWNDNEXT)) {
         CString strText;
         FromHandle(hWnd)->GetWindowText(strText);
@@ -408,16 +413,24 @@ bool CPreviewView::PressButton(UINT nChar) {
     return false;
 }
 
-void CPreviewView::OnLButtonDown(UINT, CPoint point) {
+/// -1 where there is none.
+int CPreviewView::SheetAt(CPoint point) const {
     for (int i = 0; i < static_cast<int>(SheetsShown()); ++i) {
-        const CRect rc = SheetRect(i);
-        const UINT nPage = m_pShown->pages[i].Number();
-        if (nPage != 0 && rc.PtInRect(point)) {
-            SetZoomState(m_nZoomState == ZOOM_IN ? ZOOM_OUT : m_nZoomState + 1, nPage,
-                         CPoint(::MulDiv(point.x - rc.left, kThousandths, rc.Width()),
-                                ::MulDiv(point.y - rc.top, kThousandths, rc.Height())));
-            return;
+        if (m_pShown->pages[i].Number() != 0 && SheetRect(i).PtInRect(point)) {
+            return i;
         }
+    }
+    return -1;
+}
+
+void CPreviewView::OnLButtonDown(UINT, CPoint point) {
+    const int nSheet = SheetAt(point);
+    if (nSheet >= 0) {
+        const CRect rc = SheetRect(nSheet);
+        SetZoomState(m_nZoomState == ZOOM_IN ? ZOOM_OUT : m_nZoomState + 1,
+                     m_pShown->pages[nSheet].Number(),
+                     CPoint(::MulDiv(point.x - rc.left, kThousandths, rc.Width()),
+                            ::MulDiv(point.y - rc.top, kThousandths, rc.Height())));
     }
 }
 
@@ -425,13 +438,10 @@ BOOL CPreviewView::OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message) {
     CPoint pt;
     ::GetCursorPos(&pt);
     ScreenToClient(&pt);
-    for (int i = 0; nHitTest == HTCLIENT && i < static_cast<int>(SheetsShown()); ++i) {
-        if (m_pShown->pages[i].Number() != 0 && SheetRect(i).PtInRect(pt)) {
-            const LPCTSTR lpszCursor = MAKEINTRESOURCE(AFX_IDC_MAGNIFY);
-            ::SetCursor(
-                ::LoadCursor(AfxFindResourceHandle(lpszCursor, RT_GROUP_CURSOR), lpszCursor));
-            return TRUE;
-        }
+    if (nHitTest == HTCLIENT && SheetAt(pt) >= 0) {
+        const LPCTSTR lpszCursor = MAKEINTRESOURCE(AFX_IDC_MAGNIFY);
+        ::SetCursor(::LoadCursor(AfxFindResourceHandle(lpszCursor, RT_GROUP_CURSOR), lpszCursor));
+        return TRUE;
     }
     return CView::OnSetCursor(pWnd, nHitTest, message);
 }

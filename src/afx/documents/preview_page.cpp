@@ -112,7 +112,8 @@ void AfxPreviewPage::Play(HDC hDC, const RECT& rc) const {
         return;
     }
     const int nSaved = ::SaveDC(hDC);
-    ::IntersectClipRect(hDC, rc.left, rc.top, rc.right, rc.bottom);
+    // The printer's last pixels fall on the one behind the area, by rounding.
+    ::IntersectClipRect(hDC, rc.left, rc.top, rc.right + 1, rc.bottom + 1);
     ::PlayEnhMetaFile(hDC, m_hDrawing, &rc);
     ::RestoreDC(hDC, nSaved);
 }

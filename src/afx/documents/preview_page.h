@@ -53,7 +53,8 @@ public:
     AfxPreviewPage(UINT nPage, HENHMETAFILE hDrawing);
 
     UINT Number() const { return m_nPage; }  ///< 0: no page
-    /// rc: the printable area on hDC, in pixels; nothing is drawn outside.
+    /// rc: the printable area on hDC, in pixels; nothing is drawn outside, but for the edge of a
+    /// pixel that the last ones on paper fall on.
     void Play(HDC hDC, const RECT& rc) const;
 
 private:

@@ -76,7 +76,6 @@ bool CPreviewView::OpenJob(CView* pPrintView) {
     return true;
 }
 
-/// The view may throw here.
 /// Gives what the view's OnEndPrinting throws.
 std::exception_ptr CPreviewView::EndPrinting() {
     const auto pJob = m_pJob;
@@ -251,6 +250,17 @@ void CPreviewView::OnDestroy() {
     }
 }
 
+/// Takes the place of the view. From here on the frame has to be given back.
+void CPreviewView::EnterFrame() {
+    const AfxLifeWatch life(m_life);
+    m_bInFrame = true;
+    GetParentFrame()->OnSetPreviewMode(TRUE, m_pPreviewState);
+    if (life) {
+        SetDlgCtrlID(AFX_IDW_PANE_FIRST);
+        Bar() != nullptr ? Bar()->ShowWindow(SW_SHOWNA) : FALSE;
+    }
+}
+
 /// The frame as it was.
 void CPreviewView::LeaveFrame() {
     const std::unique_ptr<CPrintPreviewState> pState(std::exchange(m_pPreviewState, nullptr));
@@ -261,16 +271,23 @@ void CPreviewView::LeaveFrame() {
     const HWND hFrame = pFrame->m_hWnd;
     const auto bFrameStands = [&] { return FromHandlePermanent(hFrame) == pFrame; };
     const HWND hOld = m_hWndActiveOld;
-    if (CDialogBar* pBar = std::exchange(m_pToolBar, nullptr)) {
+    if (CDialogBar* pBar = Bar()) {
+        m_pToolBar = nullptr;
         pBar->DestroyWindow();
+    }
+    if (!m_bInFrame) {
+        return;
     }
     pFrame->OnSetPreviewMode(FALSE, pState.get());
     CView* pOld = pState->pViewActiveOld;
+    // The views that come back are told of it at their size.
+    if (bFrameStands()) {
+        pFrame->RecalcLayout();
+    }
     if (bFrameStands()) {
         pFrame->SetActiveView(FromHandlePermanent(hOld) == pOld ? pOld : nullptr);
     }
     if (bFrameStands()) {
-        pFrame->RecalcLayout();
         pFrame->SetMessageText(AFX_IDS_IDLEMESSAGE);
     }
 }

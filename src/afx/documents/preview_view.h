@@ -89,12 +89,15 @@ private:
     Drawn DrawPages(UINT nFirst);
     UINT SheetsShown() const { return m_nZoomState == ZOOM_OUT ? m_nPages : 1; }
     std::exception_ptr EndPrinting();
+    void EnterFrame();
     void LeaveFrame();
+    CDialogBar* Bar() const;
     void UpdateBar();
 
     void Paint(CDC& dc) const;
     CSize FullSize() const;
     CRect SheetRect(int nSheet) const;
+    int SheetAt(CPoint point) const;
     CPoint Middle() const;
     void LayOut();
     void SetBar(int nBar, UINT nMin, UINT nMax, UINT nPage, UINT nPos);
@@ -106,6 +109,7 @@ private:
 
     std::shared_ptr<AfxPreviewJob> m_pJob;  ///< outlives this while its view draws
     std::unique_ptr<Shown> m_pShown;
+    HWND m_hWndToolBar = nullptr;
     HWND m_hWndPrintView = nullptr;
     HWND m_hWndOrigView = nullptr;
     HWND m_hWndActiveOld = nullptr;
@@ -113,6 +117,7 @@ private:
     int m_nWheel = 0;       ///< turned and not used
     bool m_bBegun = false;  ///< OnBeginPrinting was called, and OnEndPrinting not yet
     bool m_bClosing = false;
+    bool m_bInFrame = false;  ///< in its view's place
     bool m_bLayingOut = false;
     AfxLife m_life;
 };

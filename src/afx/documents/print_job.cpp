@@ -1,5 +1,6 @@
 #include "afx/documents/print_job.h"
 
+#include "afx/app/last_page.h"
 #include "afx/documents/print_ids.h"
 #include "afx/documents/view.h"
 
@@ -121,7 +122,6 @@ bool AfxPrintJob::BeginDocument(const CString& strTitle, const CString& strOutpu
 }
 
 bool AfxPrintJob::PrintPages() {
-    constexpr UINT kUnknownLastPage = 0xFFFF;
     // What a view finds out in OnBeginPrinting counts, unless the user chose pages.
     const bool bRange = m_info.m_pPD->PrintRange();
     const UINT nFirst = std::max(bRange ? m_info.GetFromPage() : 0, m_info.GetMinPage());
@@ -136,7 +136,7 @@ bool AfxPrintJob::PrintPages() {
         if (!m_info.m_bContinuePrinting) {
             break;
         }
-        if (!PrintPage(nPage, nLast == kUnknownLastPage ? 0 : nLast)) {
+        if (!PrintPage(nPage, nLast == kAfxUnknownLastPage ? 0 : nLast)) {
             return false;
         }
     }

@@ -1,6 +1,5 @@
 #include "afx/documents/doc_template.h"
 
-#include <afxpriv.h>
 #include <afxwin.h>
 
 IMPLEMENT_DYNAMIC(CSingleDocTemplate, CDocTemplate)
@@ -41,39 +40,12 @@ CDocument* CSingleDocTemplate::GetNextDoc(POSITION& rPos) const {
 }
 
 void CSingleDocTemplate::SetDefaultTitle(CDocument* pDocument) {
-    CString strName;
-    if (!GetDocString(strName, docName) || strName.IsEmpty()) {
-        strName.LoadString(AFX_IDS_UNTITLED);
-    }
-    pDocument->SetTitle(strName);
+    pDocument->SetTitle(DefaultName());
 }
 
-/// A document with its frame, or null. Nothing is left behind by what fails or throws.
-CFrameWnd* CSingleDocTemplate::MakeDocument() {
-    CDocument* pDocument = CreateNewDocument();
-    if (pDocument == nullptr) {
-        return nullptr;
-    }
-    // A frame that fails takes its view along, and must not take the document.
-    const BOOL bAutoDelete = pDocument->m_bAutoDelete;
-    pDocument->m_bAutoDelete = FALSE;
-    CFrameWnd* pFrame = nullptr;
-    try {
-        pFrame = CreateNewFrame(pDocument, nullptr);
-    } catch (...) {
-        delete m_pOnlyDoc;
-        throw;
-    }
-    if (pFrame == nullptr) {
-        delete m_pOnlyDoc;
-    } else if (m_pOnlyDoc != nullptr) {
-        m_pOnlyDoc->m_bAutoDelete = bAutoDelete;
-    }
-    return pFrame;
-}
-
-/// New or read from the file. What the document was stays where the file cannot be opened.
-BOOL CSingleDocTemplate::Fill(LPCTSTR lpszPathName, BOOL bMakeVisible, bool bCreated) {
+/// New or read from the file.
+BOOL CSingleDocTemplate::Fill(LPCTSTR lpszPathName, BOOL bAddToMRU, BOOL bMakeVisible,
+                              bool bCreated) {
     if (lpszPathName == nullptr) {
         SetDefaultTitle(m_pOnlyDoc);
         if (!bMakeVisible) {
@@ -84,32 +56,49 @@ BOOL CSingleDocTemplate::Fill(LPCTSTR lpszPathName, BOOL bMakeVisible, bool bCre
     const CWaitCursor wait;
     const BOOL bWasModified = m_pOnlyDoc->IsModified();
     m_pOnlyDoc->SetModifiedFlag(FALSE);
-    const BOOL bOpened = m_pOnlyDoc->OnOpenDocument(lpszPathName);
-    if (m_pOnlyDoc == nullptr) {
-        return FALSE;
+    m_pOnlyDoc->m_bEmptied = false;
+    const auto giveBack = [&] {
+        if (m_pOnlyDoc != nullptr && !bCreated) {
+            GiveBack(bWasModified);
+        }
+    };
+    BOOL bOpened = FALSE;
+    try {
+        bOpened = m_pOnlyDoc->OnOpenDocument(lpszPathName);
+    } catch (...) {
+        giveBack();
+        throw;
     }
-    if (bOpened) {
-        m_pOnlyDoc->SetPathName(lpszPathName);
+    if (m_pOnlyDoc != nullptr && bOpened) {
+        m_pOnlyDoc->SetPathName(lpszPathName, bAddToMRU);
         return TRUE;
     }
-    if (bCreated) {
-        return FALSE;
-    }
-    // A document that says it is changed now was touched by the attempt.
-    if (m_pOnlyDoc->IsModified()) {
+    giveBack();
+    return FALSE;
+}
+
+/// What the document was stays where the file cannot be opened; one that the attempt touched is new
+/// and empty. It says so by being changed now, or has emptied itself.
+void CSingleDocTemplate::GiveBack(BOOL bWasModified) {
+    if (m_pOnlyDoc->IsModified() || m_pOnlyDoc->m_bEmptied) {
         SetDefaultTitle(m_pOnlyDoc);
         m_pOnlyDoc->OnNewDocument();
     } else {
         m_pOnlyDoc->SetModifiedFlag(bWasModified);
     }
-    return FALSE;
 }
 
 CDocument* CSingleDocTemplate::OpenDocumentFile(LPCTSTR lpszPathName, BOOL bMakeVisible) {
+    return OpenDocumentFile(lpszPathName, TRUE, bMakeVisible);
+}
+
+CDocument* CSingleDocTemplate::OpenDocumentFile(LPCTSTR lpszPathName, BOOL bAddToMRU,
+                                                BOOL bMakeVisible) {
     const bool bCreated = m_pOnlyDoc == nullptr;
     CFrameWnd* pFrame = nullptr;
     if (bCreated) {
-        pFrame = MakeDocument();
+        CDocument* pDocument = nullptr;
+        pFrame = MakeDocument(pDocument);
         if (pFrame == nullptr) {
             AfxMessageBox(AFX_IDP_FAILED_TO_CREATE_DOC);
             return nullptr;
@@ -128,7 +117,7 @@ CDocument* CSingleDocTemplate::OpenDocumentFile(LPCTSTR lpszPathName, BOOL bMake
     };
     BOOL bFilled = FALSE;
     try {
-        bFilled = m_pOnlyDoc != nullptr && Fill(lpszPathName, bMakeVisible, bCreated);
+        bFilled = m_pOnlyDoc != nullptr && Fill(lpszPathName, bAddToMRU, bMakeVisible, bCreated);
     } catch (...) {
         if (bCreated && bFrameStands()) {
             pFrame->DestroyWindow();
@@ -141,12 +130,9 @@ CDocument* CSingleDocTemplate::OpenDocumentFile(LPCTSTR lpszPathName, BOOL bMake
         }
         return nullptr;
     }
-    CWinThread* pThread = AfxGetThread();
     if (bFrameStands()) {
-        if (bCreated && pThread != nullptr && pThread->m_pMainWnd == nullptr) {
-            pThread->m_pMainWnd = pFrame;
-        }
-        InitialUpdateFrame(pFrame, m_pOnlyDoc, bMakeVisible);
+        bCreated ? ShowNewFrame(pFrame, m_pOnlyDoc, bMakeVisible)
+                 : InitialUpdateFrame(pFrame, m_pOnlyDoc, bMakeVisible);
     }
     return m_pOnlyDoc;
 }

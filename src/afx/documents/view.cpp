@@ -1,5 +1,6 @@
 #include "afx/documents/view.h"
 
+#include "afx/app/last_page.h"
 #include "afx/app/print_info.h"
 
 #include <afxpriv.h>
@@ -13,6 +14,12 @@ BEGIN_MESSAGE_MAP(CView, CWnd)
     ON_WM_PAINT()
     ON_WM_MOUSEACTIVATE()
     ON_MESSAGE(WM_INITIALUPDATE, &CView::OnInitialUpdateMessage)
+    ON_UPDATE_COMMAND_UI(ID_WINDOW_SPLIT, &CView::OnUpdateSplitCmd)
+    ON_COMMAND_EX(ID_WINDOW_SPLIT, &CView::OnSplitCmd)
+    ON_UPDATE_COMMAND_UI(ID_NEXT_PANE, &CView::OnUpdateNextPaneMenu)
+    ON_UPDATE_COMMAND_UI(ID_PREV_PANE, &CView::OnUpdateNextPaneMenu)
+    ON_COMMAND_EX(ID_NEXT_PANE, &CView::OnNextPaneCmd)
+    ON_COMMAND_EX(ID_PREV_PANE, &CView::OnNextPaneCmd)
 END_MESSAGE_MAP()
 
 CView::CView() = default;
@@ -99,8 +106,7 @@ void CView::OnPaint() {
 }
 
 void CView::OnPrepareDC(CDC*, CPrintInfo* pInfo) {
-    constexpr UINT kUnknownLastPage = 0xFFFF;
-    if (pInfo != nullptr && pInfo->GetMaxPage() == kUnknownLastPage) {
+    if (pInfo != nullptr && pInfo->GetMaxPage() == kAfxUnknownLastPage) {
         pInfo->m_bContinuePrinting = pInfo->m_nCurPage == 1;
     }
 }

@@ -1,9 +1,9 @@
 // How a view prints.
 #include "afx/documents/view.h"
 
-#include "afx/documents/print_ids.h"
 #include "afx/documents/print_job.h"
 #include "afx/documents/print_output.h"
+#include "afx/objects/file_path.h"
 
 #include <afxdlgs.h>
 #include <afxext.h>
@@ -65,15 +65,27 @@ bool AskForPrinter(CWinApp& app, HWND hWndFrame, CPrintInfo& info) {
         pd.Flags |= PD_NOPAGENUMS;
     }
     const bool bBeside = hWndFrame != AfxGetMainWnd()->GetSafeHwnd();
+    // The dialog makes a range of its own where the document has none.
+    const UINT nMinPage = info.GetMinPage();
+    const UINT nMaxPage = info.GetMaxPage();
     INT_PTR nResult = IDCANCEL;
     {
         const AfxDisabledOwner frame(bBeside ? hWndFrame : nullptr);
         nResult = app.DoPrintDialog(info.m_pPD);
     }
+    info.SetMinPage(nMinPage);
+    info.SetMaxPage(nMaxPage);
     if (bBeside) {
         ::SetActiveWindow(hWndFrame);
     }
     return nResult == IDOK;
+}
+
+/// A printer whose port is this one writes files too: the system asks for their names, or, where it
+/// does not, makes one of this name.
+bool GoesToFile(const CPrintDialog& printer) {
+    return (printer.m_pd.Flags & PD_PRINTTOFILE) != 0 ||
+           printer.GetPortName().CompareNoCase("FILE:") == 0;
 }
 
 /// The file for a job that is to go to one. False if the user has none to give.
@@ -86,7 +98,7 @@ bool AskForOutput(CWnd* pParent, const CString& strTitle, CString& strPath) {
     strFilter.LoadString(AFX_IDS_PRINTFILTER);
     strCaption.LoadString(AFX_IDS_PRINTCAPTION);
     // A title that makes no file name makes none to begin with.
-    if (strTitle.FindOneOf("\\/:*?\"<>|") < 0) {
+    if (strTitle.FindOneOf(kAfxNotInFileNames) < 0) {
         AfxFormatString1(strName, AFX_IDS_PRINTDEFAULT, strTitle);
     }
     CFileDialog dlg(FALSE, strExtension, strName, OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT, strFilter,
@@ -139,7 +151,7 @@ void CView::OnFilePrint() {
         pFrame->GetWindowText(strTitle);
     }
     CString strOutput = AfxPrintOutput::Path();
-    if (strOutput.IsEmpty() && (info.m_pPD->m_pd.Flags & PD_PRINTTOFILE) != 0 &&
+    if (strOutput.IsEmpty() && GoesToFile(*info.m_pPD) &&
         !AskForOutput(this, strTitle, strOutput)) {
         return;
     }

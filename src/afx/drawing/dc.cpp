@@ -3,6 +3,7 @@
 
 #include "afx/drawing/handle_map.h"
 #include "afx/drawing/owned_handles.h"
+#include "afx/drawing/thread_map.h"
 
 #include <afxwin.h>
 
@@ -12,14 +13,14 @@ IMPLEMENT_DYNAMIC(CClientDC, CDC)
 IMPLEMENT_DYNAMIC(CWindowDC, CDC)
 
 struct AfxDcMap {
-    using Map = CHandleMap<CDC, HDC>;
-    static Map& Get() {
-        static thread_local Map map([](CDC& dc, HDC hDC) {
-            dc.m_hDC = dc.m_hAttribDC = hDC;
-            dc.m_bTemporary = true;
-        });
-        return map;
+    static void Put(CDC& dc, HDC hDC) {
+        dc.m_hDC = dc.m_hAttribDC = hDC;
+        dc.m_bTemporary = true;
     }
+    struct Map : CHandleMap<CDC, HDC> {
+        Map() : CHandleMap(&Put) {}
+    };
+    static Map& Get() { return AfxThreadMap<Map>(); }
 };
 
 namespace {
@@ -41,7 +42,9 @@ CDC::~CDC() {
     if (m_hDC != nullptr && !m_bTemporary) {
         ::DeleteDC(Detach());
     }
-    AfxDcMap::Get().RemovePermanent(this);  // with the output context taken away it is still there
+    if (m_mapLink.handle != nullptr) {
+        AfxDcMap::Get().RemovePermanent(this);  // the output context was taken away
+    }
 }
 
 HDC CDC::GetSafeHdc() const {
@@ -78,6 +81,7 @@ HDC CDC::Detach() {
     }
     m_hDC = nullptr;
     m_hAttribDC = nullptr;
+    m_pfnAbort = nullptr;
     return hDC;
 }
 
@@ -108,6 +112,10 @@ BOOL CDC::CreateIC(LPCTSTR lpszDriverName, LPCTSTR lpszDeviceName, LPCTSTR lpszO
 
 BOOL CDC::CreateCompatibleDC(CDC* pDC) {
     return Attach(::CreateCompatibleDC(HandleOrNull(pDC)));
+}
+
+BOOL CDC::ResetDC(const DEVMODE* lpDevMode) {
+    return m_hAttribDC != nullptr && ::ResetDC(m_hAttribDC, lpDevMode) != nullptr;
 }
 
 BOOL CDC::DeleteDC() {
@@ -198,6 +206,12 @@ int CDC::SelectObject(CRgn* p) {
 CGdiObject* CDC::SelectObject(CGdiObject* p) {
     return CGdiObject::FromHandle(SelectInto(*this, ObjectOf(p)));
 }
+#ifndef QVAFX_STRICT
+HGDIOBJ CDC::SelectObject(HGDIOBJ hObject) {
+    return ::GetObjectType(hObject) == OBJ_BITMAP ? ::SelectObject(m_hDC, hObject)
+                                                  : SelectInto(*this, hObject);
+}
+#endif
 CPen* CDC::GetCurrentPen() const {
     return CPen::FromHandle(static_cast<HPEN>(::GetCurrentObject(m_hAttribDC, OBJ_PEN)));
 }
@@ -213,6 +227,12 @@ CBitmap* CDC::GetCurrentBitmap() const {
 CPalette* CDC::SelectPalette(CPalette* p, BOOL bForceBackground) {
     return CPalette::FromHandle(
         ::SelectPalette(m_hDC, static_cast<HPALETTE>(ObjectOf(p)), bForceBackground));
+}
+CPalette* CDC::GetCurrentPalette() const {
+    return CPalette::FromHandle(static_cast<HPALETTE>(::GetCurrentObject(m_hAttribDC, OBJ_PAL)));
+}
+void CDC::UpdateColors() {
+    ::UpdateColors(m_hDC);
 }
 UINT CDC::RealizePalette() {
     return ::RealizePalette(m_hDC);
@@ -278,6 +298,24 @@ int CDC::GetMapMode() const {
 UINT CDC::GetTextAlign() const {
     return ::GetTextAlign(m_hAttribDC);
 }
+COLORREF CDC::GetDCBrushColor() const {
+    return ::GetDCBrushColor(m_hAttribDC);
+}
+COLORREF CDC::GetDCPenColor() const {
+    return ::GetDCPenColor(m_hAttribDC);
+}
+DWORD CDC::GetLayout() const {
+    return ::GetLayout(m_hAttribDC);
+}
+int CDC::GetGraphicsMode() const {
+    return ::GetGraphicsMode(m_hAttribDC);
+}
+BOOL CDC::GetWorldTransform(XFORM& rXform) const {
+    return ::GetWorldTransform(m_hAttribDC, &rXform);
+}
+BOOL CDC::GetColorAdjustment(LPCOLORADJUSTMENT p) const {
+    return ::GetColorAdjustment(m_hAttribDC, p);
+}
 int CDC::GetTextCharacterExtra() const {
     return ::GetTextCharacterExtra(m_hAttribDC);
 }
@@ -308,6 +346,45 @@ UINT CDC::SetTextAlign(UINT n) {
 }
 int CDC::SetTextCharacterExtra(int n) {
     AFX_SET_IN_BOTH(::SetTextCharacterExtra(m_hDC, n), ::SetTextCharacterExtra(m_hAttribDC, n));
+}
+
+int CDC::SetTextJustification(int nExtra, int nCount) {
+    AFX_SET_IN_BOTH(::SetTextJustification(m_hDC, nExtra, nCount),
+                    ::SetTextJustification(m_hAttribDC, nExtra, nCount));
+}
+DWORD CDC::SetMapperFlags(DWORD dw) {
+    AFX_SET_IN_BOTH(::SetMapperFlags(m_hDC, dw), ::SetMapperFlags(m_hAttribDC, dw));
+}
+COLORREF CDC::SetDCBrushColor(COLORREF cr) {
+    AFX_SET_IN_BOTH(::SetDCBrushColor(m_hDC, cr), ::SetDCBrushColor(m_hAttribDC, cr));
+}
+COLORREF CDC::SetDCPenColor(COLORREF cr) {
+    AFX_SET_IN_BOTH(::SetDCPenColor(m_hDC, cr), ::SetDCPenColor(m_hAttribDC, cr));
+}
+DWORD CDC::SetLayout(DWORD dw) {
+    AFX_SET_IN_BOTH(::SetLayout(m_hDC, dw), ::SetLayout(m_hAttribDC, dw));
+}
+BOOL CDC::SetColorAdjustment(const COLORADJUSTMENT* p) {
+    AFX_SET_IN_BOTH(::SetColorAdjustment(m_hDC, p), ::SetColorAdjustment(m_hAttribDC, p));
+}
+int CDC::SetGraphicsMode(int n) {
+    AFX_SET_IN_BOTH(::SetGraphicsMode(m_hDC, n), ::SetGraphicsMode(m_hAttribDC, n));
+}
+BOOL CDC::SetWorldTransform(const XFORM& x) {
+    AFX_SET_IN_BOTH(::SetWorldTransform(m_hDC, &x), ::SetWorldTransform(m_hAttribDC, &x));
+}
+BOOL CDC::ModifyWorldTransform(const XFORM& x, DWORD iMode) {
+    AFX_SET_IN_BOTH(::ModifyWorldTransform(m_hDC, &x, iMode),
+                    ::ModifyWorldTransform(m_hAttribDC, &x, iMode));
+}
+int CDC::SetArcDirection(int n) {
+    AFX_SET_IN_BOTH(::SetArcDirection(m_hDC, n), ::SetArcDirection(m_hAttribDC, n));
+}
+UINT CDC::GetBoundsRect(LPRECT p, UINT flags) {
+    return ::GetBoundsRect(m_hAttribDC, p, flags);
+}
+UINT CDC::SetBoundsRect(LPCRECT p, UINT flags) {
+    return ::SetBoundsRect(m_hDC, p, flags);
 }
 
 // --- Coordinates
@@ -364,6 +441,69 @@ CSize CDC::GetWindowExt() const {
 }
 CSize CDC::SetWindowExt(int cx, int cy) {
     return SetInBoth<SIZE>(*this, ::SetWindowExtEx, cx, cy);
+}
+
+namespace {
+
+template <class Call>
+CSize ScaleInBoth(const CDC& dc, Call call, int xNum, int xDenom, int yNum, int yDenom) {
+    SIZE size{};
+    if (dc.m_hDC != nullptr) {
+        call(dc.m_hDC, xNum, xDenom, yNum, yDenom, &size);
+    }
+    if (dc.m_hAttribDC != nullptr && dc.m_hAttribDC != dc.m_hDC) {
+        call(dc.m_hAttribDC, xNum, xDenom, yNum, yDenom, &size);
+    }
+    return size;
+}
+
+constexpr int kHimetricAnInch = 2540;
+
+/// A mode in which a logical unit has a length of its own.
+bool HasFixedScale(int nMapMode) {
+    return nMapMode >= MM_LOMETRIC && nMapMode <= MM_TWIPS;
+}
+
+}  // namespace
+
+CSize CDC::ScaleViewportExt(int xNum, int xDenom, int yNum, int yDenom) {
+    return ScaleInBoth(*this, ::ScaleViewportExtEx, xNum, xDenom, yNum, yDenom);
+}
+CSize CDC::ScaleWindowExt(int xNum, int xDenom, int yNum, int yDenom) {
+    return ScaleInBoth(*this, ::ScaleWindowExtEx, xNum, xDenom, yNum, yDenom);
+}
+
+// In a mode of fixed scale the device's own idea of a length counts, which may differ from its
+// pixels an inch.
+void CDC::DPtoHIMETRIC(LPSIZE p) const {
+    const int nMapMode = GetMapMode();
+    if (HasFixedScale(nMapMode)) {
+        ::SetMapMode(m_hAttribDC, MM_HIMETRIC);
+        DPtoLP(p);
+        ::SetMapMode(m_hAttribDC, nMapMode);
+        return;
+    }
+    p->cx = ::MulDiv(p->cx, kHimetricAnInch, GetDeviceCaps(LOGPIXELSX));
+    p->cy = ::MulDiv(p->cy, kHimetricAnInch, GetDeviceCaps(LOGPIXELSY));
+}
+void CDC::HIMETRICtoDP(LPSIZE p) const {
+    const int nMapMode = GetMapMode();
+    if (HasFixedScale(nMapMode)) {
+        ::SetMapMode(m_hAttribDC, MM_HIMETRIC);
+        LPtoDP(p);
+        ::SetMapMode(m_hAttribDC, nMapMode);
+        return;
+    }
+    p->cx = ::MulDiv(p->cx, GetDeviceCaps(LOGPIXELSX), kHimetricAnInch);
+    p->cy = ::MulDiv(p->cy, GetDeviceCaps(LOGPIXELSY), kHimetricAnInch);
+}
+void CDC::LPtoHIMETRIC(LPSIZE p) const {
+    LPtoDP(p);
+    DPtoHIMETRIC(p);
+}
+void CDC::HIMETRICtoLP(LPSIZE p) const {
+    HIMETRICtoDP(p);
+    DPtoLP(p);
 }
 
 void CDC::DPtoLP(LPPOINT p, int nCount) const {

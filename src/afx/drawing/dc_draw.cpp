@@ -396,7 +396,14 @@ int CDC::AbortDoc() {
     return ::AbortDoc(m_hDC);
 }
 int CDC::SetAbortProc(BOOL(CALLBACK* lpfn)(HDC, int)) {
-    return ::SetAbortProc(m_hDC, lpfn);
+    const int nResult = ::SetAbortProc(m_hDC, lpfn);
+    if (nResult > 0) {
+        m_pfnAbort = lpfn;
+    }
+    return nResult;
+}
+BOOL CDC::QueryAbort() const {
+    return m_pfnAbort == nullptr || m_pfnAbort(m_hDC, 0);
 }
 int CDC::Escape(int nEscape, int nCount, LPCSTR lpszInData, LPVOID lpOutData) {
     return ::Escape(m_hDC, nEscape, nCount, lpszInData, lpOutData);

@@ -5,9 +5,11 @@
 #include <afx.h>
 #include <atltypes.h>
 
+#ifndef QVAFX_STRICT
 /// Handles of drawing objects, device contexts and image lists that objects own at this moment in
 /// the whole process. The system gives no such number everywhere; leaks show in this one.
 QVAFX_API LONG AfxGetOwnedHandleCount();
+#endif
 
 class QVAFX_API CGdiObject : public CObject {
     DECLARE_DYNCREATE(CGdiObject)
@@ -49,6 +51,8 @@ class QVAFX_API CPen : public CGdiObject {
 public:
     CPen() = default;
     CPen(int nPenStyle, int nWidth, COLORREF crColor);
+    CPen(int nPenStyle, int nWidth, const LOGBRUSH* pLogBrush, int nStyleCount = 0,
+         const DWORD* lpStyle = nullptr);
     operator HPEN() const { return static_cast<HPEN>(m_hObject); }
     static CPen* FromHandle(HPEN hPen);
     BOOL CreatePen(int nPenStyle, int nWidth, COLORREF crColor);
@@ -56,6 +60,7 @@ public:
                    const DWORD* lpStyle = nullptr);
     BOOL CreatePenIndirect(LPLOGPEN lpLogPen);
     int GetLogPen(LOGPEN* pLogPen) { return GetObject(sizeof(LOGPEN), pLogPen); }
+    int GetExtLogPen(EXTLOGPEN* pLogPen) { return GetObject(sizeof(EXTLOGPEN), pLogPen); }
 };
 
 class CBitmap;
@@ -73,6 +78,9 @@ public:
     BOOL CreateHatchBrush(int nIndex, COLORREF crColor);
     BOOL CreateBrushIndirect(const LOGBRUSH* lpLogBrush);
     BOOL CreatePatternBrush(CBitmap* pBitmap);
+    /// From a packed bitmap without a file header. nUsage: DIB_PAL_COLORS or DIB_RGB_COLORS.
+    BOOL CreateDIBPatternBrush(HGLOBAL hPackedDIB, UINT nUsage);
+    BOOL CreateDIBPatternBrush(const void* lpPackedDIB, UINT nUsage);
     BOOL CreateSysColorBrush(int nIndex);
     int GetLogBrush(LOGBRUSH* pLogBrush) { return GetObject(sizeof(LOGBRUSH), pLogBrush); }
 };
@@ -110,6 +118,7 @@ public:
     BOOL CreateBitmap(int nWidth, int nHeight, UINT nPlanes, UINT nBitcount, const void* lpBits);
     BOOL CreateBitmapIndirect(LPBITMAP lpBitmap);
     BOOL CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight);
+    BOOL CreateDiscardableBitmap(CDC* pDC, int nWidth, int nHeight);
     int GetBitmap(BITMAP* pBitMap) { return GetObject(sizeof(BITMAP), pBitMap); }
     DWORD SetBitmapBits(DWORD dwCount, const void* lpBits);
     DWORD GetBitmapBits(DWORD dwCount, LPVOID lpBits) const;
@@ -124,7 +133,13 @@ public:
     operator HPALETTE() const { return static_cast<HPALETTE>(m_hObject); }
     static CPalette* FromHandle(HPALETTE hPalette);
     BOOL CreatePalette(LPLOGPALETTE lpLogPalette);
+    BOOL CreateHalftonePalette(CDC* pDC);
     int GetEntryCount();
+    UINT GetPaletteEntries(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpEntries) const;
+    UINT SetPaletteEntries(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpEntries);
+    void AnimatePalette(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpEntries);
+    UINT GetNearestPaletteIndex(COLORREF crColor) const;
+    BOOL ResizePalette(UINT nNumEntries);
 };
 
 class QVAFX_API CRgn : public CGdiObject {
@@ -135,12 +150,17 @@ public:
     static CRgn* FromHandle(HRGN hRgn);
     BOOL CreateRectRgn(int x1, int y1, int x2, int y2);
     BOOL CreateRectRgnIndirect(LPCRECT lpRect);
+    BOOL CreateEllipticRgn(int x1, int y1, int x2, int y2);
     BOOL CreateEllipticRgnIndirect(LPCRECT lpRect);
     BOOL CreatePolygonRgn(LPPOINT lpPoints, int nCount, int nMode);
+    BOOL CreatePolyPolygonRgn(LPPOINT lpPoints, LPINT lpPolyCounts, int nCount, int nPolyFillMode);
+    BOOL CreateFromPath(CDC* pDC);
+    BOOL CreateFromData(const XFORM* lpXForm, int nCount, const RGNDATA* pRgnData);
     BOOL CreateRoundRectRgn(int x1, int y1, int x2, int y2, int x3, int y3);
-    int CombineRgn(const CRgn* pRgn1, const CRgn* pRgn2, int nCombineMode);
-    int CopyRgn(const CRgn* pRgnSrc) { return CombineRgn(pRgnSrc, nullptr, RGN_COPY); }
-    BOOL EqualRgn(const CRgn* pRgn) const;
+    int CombineRgn(CRgn* pRgn1, CRgn* pRgn2, int nCombineMode);
+    int CopyRgn(CRgn* pRgnSrc) { return CombineRgn(pRgnSrc, nullptr, RGN_COPY); }
+    BOOL EqualRgn(CRgn* pRgn) const;
+    int GetRegionData(LPRGNDATA lpRgnData, int nDataSize) const;
     int OffsetRgn(int x, int y);
     int OffsetRgn(POINT point) { return OffsetRgn(point.x, point.y); }
     int GetRgnBox(LPRECT lpRect) const;
@@ -148,4 +168,5 @@ public:
     BOOL PtInRegion(POINT point) const { return PtInRegion(point.x, point.y); }
     BOOL RectInRegion(LPCRECT lpRect) const;
     void SetRectRgn(LPCRECT lpRect);
+    void SetRectRgn(int x1, int y1, int x2, int y2);
 };

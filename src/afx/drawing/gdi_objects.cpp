@@ -2,6 +2,7 @@
 
 #include "afx/drawing/handle_map.h"
 #include "afx/drawing/owned_handles.h"
+#include "afx/drawing/thread_map.h"
 
 #include <afxwin.h>
 
@@ -40,14 +41,14 @@ void AfxCountOwnedHandle(int nChange) {
 /// The map of one thread. Temporary objects are plain CGdiObjects: pens, brushes and so on add
 /// nothing to it, so one serves as any of them.
 struct AfxGdiMap {
-    using Map = CHandleMap<CGdiObject, HGDIOBJ>;
-    static Map& Get() {
-        static thread_local Map map([](CGdiObject& object, HGDIOBJ hObject) {
-            object.m_hObject = hObject;
-            object.m_bTemporary = true;
-        });
-        return map;
+    static void Put(CGdiObject& object, HGDIOBJ hObject) {
+        object.m_hObject = hObject;
+        object.m_bTemporary = true;
     }
+    struct Map : CHandleMap<CGdiObject, HGDIOBJ> {
+        Map() : CHandleMap(&Put) {}
+    };
+    static Map& Get() { return AfxThreadMap<Map>(); }
 };
 
 CGdiObject::CGdiObject() = default;
@@ -139,6 +140,13 @@ CPen::CPen(int nPenStyle, int nWidth, COLORREF crColor) {
     }
 }
 
+CPen::CPen(int nPenStyle, int nWidth, const LOGBRUSH* pLogBrush, int nStyleCount,
+           const DWORD* lpStyle) {
+    if (!CreatePen(nPenStyle, nWidth, pLogBrush, nStyleCount, lpStyle)) {
+        AfxThrowResourceException();
+    }
+}
+
 BOOL CPen::CreatePen(int nPenStyle, int nWidth, COLORREF crColor) {
     return Attach(::CreatePen(nPenStyle, nWidth, crColor));
 }
@@ -182,6 +190,18 @@ BOOL CBrush::CreateBrushIndirect(const LOGBRUSH* lpLogBrush) {
 }
 BOOL CBrush::CreatePatternBrush(CBitmap* pBitmap) {
     return Attach(::CreatePatternBrush(HandleOf<HBITMAP>(pBitmap)));
+}
+BOOL CBrush::CreateDIBPatternBrush(HGLOBAL hPackedDIB, UINT nUsage) {
+    const void* const pDIB = ::GlobalLock(hPackedDIB);
+    if (pDIB == nullptr) {
+        return FALSE;
+    }
+    const BOOL bMade = CreateDIBPatternBrush(pDIB, nUsage);
+    ::GlobalUnlock(hPackedDIB);
+    return bMade;
+}
+BOOL CBrush::CreateDIBPatternBrush(const void* lpPackedDIB, UINT nUsage) {
+    return Attach(::CreateDIBPatternBrushPt(lpPackedDIB, nUsage));
 }
 BOOL CBrush::CreateSysColorBrush(int nIndex) {
     return Attach(::GetSysColorBrush(nIndex));
@@ -256,6 +276,10 @@ BOOL CBitmap::CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight) {
     return Attach(::CreateCompatibleBitmap(pDC->GetSafeHdc(), nWidth, nHeight));
 }
 
+BOOL CBitmap::CreateDiscardableBitmap(CDC* pDC, int nWidth, int nHeight) {
+    return Attach(::CreateDiscardableBitmap(pDC->GetSafeHdc(), nWidth, nHeight));
+}
+
 DWORD CBitmap::SetBitmapBits(DWORD dwCount, const void* lpBits) {
     return static_cast<DWORD>(::SetBitmapBits(*this, dwCount, lpBits));
 }
@@ -288,11 +312,45 @@ int CPalette::GetEntryCount() {
     return nEntries;
 }
 
+BOOL CPalette::CreateHalftonePalette(CDC* pDC) {
+    return Attach(::CreateHalftonePalette(pDC->GetSafeHdc()));
+}
+UINT CPalette::GetPaletteEntries(UINT nStart, UINT nCount, LPPALETTEENTRY p) const {
+    return ::GetPaletteEntries(*this, nStart, nCount, p);
+}
+UINT CPalette::SetPaletteEntries(UINT nStart, UINT nCount, LPPALETTEENTRY p) {
+    return ::SetPaletteEntries(*this, nStart, nCount, p);
+}
+void CPalette::AnimatePalette(UINT nStart, UINT nCount, LPPALETTEENTRY p) {
+    ::AnimatePalette(*this, nStart, nCount, p);
+}
+UINT CPalette::GetNearestPaletteIndex(COLORREF crColor) const {
+    return ::GetNearestPaletteIndex(*this, crColor);
+}
+BOOL CPalette::ResizePalette(UINT nNumEntries) {
+    return ::ResizePalette(*this, nNumEntries);
+}
+
 BOOL CRgn::CreateRectRgn(int x1, int y1, int x2, int y2) {
     return Attach(::CreateRectRgn(x1, y1, x2, y2));
 }
 BOOL CRgn::CreateRectRgnIndirect(LPCRECT lpRect) {
     return Attach(::CreateRectRgnIndirect(lpRect));
+}
+BOOL CRgn::CreateEllipticRgn(int x1, int y1, int x2, int y2) {
+    return Attach(::CreateEllipticRgn(x1, y1, x2, y2));
+}
+BOOL CRgn::CreatePolyPolygonRgn(LPPOINT lpPoints, LPINT lpPolyCounts, int nCount, int nMode) {
+    return Attach(::CreatePolyPolygonRgn(lpPoints, lpPolyCounts, nCount, nMode));
+}
+BOOL CRgn::CreateFromPath(CDC* pDC) {
+    return Attach(::PathToRegion(pDC->GetSafeHdc()));
+}
+BOOL CRgn::CreateFromData(const XFORM* lpXForm, int nCount, const RGNDATA* pRgnData) {
+    return Attach(::ExtCreateRegion(lpXForm, static_cast<DWORD>(nCount), pRgnData));
+}
+int CRgn::GetRegionData(LPRGNDATA lpRgnData, int nDataSize) const {
+    return static_cast<int>(::GetRegionData(*this, static_cast<DWORD>(nDataSize), lpRgnData));
 }
 BOOL CRgn::CreateEllipticRgnIndirect(LPCRECT lpRect) {
     return Attach(::CreateEllipticRgnIndirect(lpRect));
@@ -303,10 +361,10 @@ BOOL CRgn::CreatePolygonRgn(LPPOINT lpPoints, int nCount, int nMode) {
 BOOL CRgn::CreateRoundRectRgn(int x1, int y1, int x2, int y2, int x3, int y3) {
     return Attach(::CreateRoundRectRgn(x1, y1, x2, y2, x3, y3));
 }
-int CRgn::CombineRgn(const CRgn* pRgn1, const CRgn* pRgn2, int nCombineMode) {
+int CRgn::CombineRgn(CRgn* pRgn1, CRgn* pRgn2, int nCombineMode) {
     return ::CombineRgn(*this, HandleOf<HRGN>(pRgn1), HandleOf<HRGN>(pRgn2), nCombineMode);
 }
-BOOL CRgn::EqualRgn(const CRgn* pRgn) const {
+BOOL CRgn::EqualRgn(CRgn* pRgn) const {
     return ::EqualRgn(*this, HandleOf<HRGN>(pRgn));
 }
 int CRgn::OffsetRgn(int x, int y) {
@@ -322,5 +380,8 @@ BOOL CRgn::RectInRegion(LPCRECT lpRect) const {
     return ::RectInRegion(*this, lpRect);
 }
 void CRgn::SetRectRgn(LPCRECT r) {
-    ::SetRectRgn(*this, r->left, r->top, r->right, r->bottom);
+    SetRectRgn(r->left, r->top, r->right, r->bottom);
+}
+void CRgn::SetRectRgn(int x1, int y1, int x2, int y2) {
+    ::SetRectRgn(*this, x1, y1, x2, y2);
 }

@@ -2,20 +2,21 @@
 
 #include "afx/drawing/handle_map.h"
 #include "afx/drawing/owned_handles.h"
+#include "afx/drawing/thread_map.h"
 
 #include <afxcmn.h>
 
 IMPLEMENT_DYNCREATE(CImageList, CObject)
 
 struct AfxImageListMap {
-    using Map = CHandleMap<CImageList, HIMAGELIST>;
-    static Map& Get() {
-        static thread_local Map map([](CImageList& list, HIMAGELIST hImageList) {
-            list.m_hImageList = hImageList;
-            list.m_bTemporary = true;
-        });
-        return map;
+    static void Put(CImageList& list, HIMAGELIST hImageList) {
+        list.m_hImageList = hImageList;
+        list.m_bTemporary = true;
     }
+    struct Map : CHandleMap<CImageList, HIMAGELIST> {
+        Map() : CHandleMap(&Put) {}
+    };
+    static Map& Get() { return AfxThreadMap<Map>(); }
 };
 
 namespace {
@@ -24,6 +25,8 @@ namespace {
 [[gnu::noipa]] HIMAGELIST HandleOrNull(const CImageList* pList) {
     return pList != nullptr ? pList->m_hImageList : nullptr;
 }
+
+constexpr int kMostPaletteBits = 8;  // of a pixel
 
 HBITMAP BitmapOf(CBitmap* pBitmap) {
     return pBitmap != nullptr ? static_cast<HBITMAP>(pBitmap->GetSafeHandle()) : nullptr;
@@ -97,8 +100,23 @@ BOOL CImageList::Create(UINT nBitmapID, int cx, int nGrow, COLORREF crMask) {
 BOOL CImageList::Create(LPCTSTR lpszBitmapID, int cx, int nGrow, COLORREF crMask) {
     const HINSTANCE hInst = AfxFindResourceHandle(lpszBitmapID, RT_BITMAP);
     // As a section of its own depth the bitmap keeps its colours, whatever a list has by default.
-    return Attach(::ImageList_LoadImage(hInst, lpszBitmapID, cx, nGrow, crMask, IMAGE_BITMAP,
-                                        LR_CREATEDIBSECTION));
+    const auto hBitmap = static_cast<HBITMAP>(
+        ::LoadImage(hInst, lpszBitmapID, IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION));
+    BITMAP bitmap = {};
+    ::GetObject(hBitmap, sizeof(bitmap), &bitmap);
+    if (bitmap.bmBitsPixel > kMostPaletteBits || crMask == CLR_NONE || cx <= 0) {
+        ::DeleteObject(hBitmap);
+        return Attach(::ImageList_LoadImage(hInst, lpszBitmapID, cx, nGrow, crMask, IMAGE_BITMAP,
+                                            LR_CREATEDIBSECTION));
+    }
+    // But a list of few colours draws them as the nearest of a palette that is not the bitmap's.
+    const BOOL bMade = bitmap.bmHeight != 0 && Create(cx, bitmap.bmHeight, ILC_COLOR24 | ILC_MASK,
+                                                      static_cast<int>(bitmap.bmWidth) / cx, nGrow);
+    if (bMade) {
+        ::ImageList_AddMasked(m_hImageList, hBitmap, crMask);
+    }
+    ::DeleteObject(hBitmap);
+    return bMade;
 }
 BOOL CImageList::Create(CImageList& list1, int nImage1, CImageList& list2, int nImage2, int dx,
                         int dy) {
@@ -157,4 +175,61 @@ BOOL CImageList::SetOverlayImage(int nImage, int nOverlay) {
 }
 BOOL CImageList::Copy(int iDst, int iSrc, UINT uFlags) {
     return ::ImageList_Copy(m_hImageList, iDst, m_hImageList, iSrc, uFlags);
+}
+BOOL CImageList::Copy(int iDst, CImageList* pSrc, int iSrc, UINT uFlags) {
+    return ::ImageList_Copy(m_hImageList, iDst, HandleOrNull(pSrc), iSrc, uFlags);
+}
+BOOL CImageList::DrawIndirect(IMAGELISTDRAWPARAMS* p) {
+    IMAGELISTDRAWPARAMS params = *p;
+    params.cbSize = sizeof params;
+    params.himl = m_hImageList;
+    return ::ImageList_DrawIndirect(&params);
+}
+BOOL CImageList::DrawIndirect(CDC* pDC, int nImage, POINT pt, SIZE sz, POINT ptOrigin, UINT fStyle,
+                              DWORD dwRop, COLORREF rgbBack, COLORREF rgbFore) {
+    IMAGELISTDRAWPARAMS params{};
+    params.i = nImage;
+    params.hdcDst = pDC->GetSafeHdc();
+    params.x = pt.x;
+    params.y = pt.y;
+    params.cx = sz.cx;
+    params.cy = sz.cy;
+    params.xBitmap = ptOrigin.x;
+    params.yBitmap = ptOrigin.y;
+    params.rgbBk = rgbBack;
+    params.rgbFg = rgbFore;
+    params.fStyle = fStyle;
+    params.dwRop = dwRop;
+    return DrawIndirect(&params);
+}
+
+// Dragging. Null stands for the screen.
+
+static HWND WindowOf(CWnd* pWnd) {
+    return pWnd != nullptr ? pWnd->m_hWnd : nullptr;
+}
+
+BOOL CImageList::BeginDrag(int nImage, CPoint ptHotSpot) {
+    return ::ImageList_BeginDrag(m_hImageList, nImage, ptHotSpot.x, ptHotSpot.y);
+}
+void CImageList::EndDrag() {
+    ::ImageList_EndDrag();
+}
+BOOL CImageList::DragEnter(CWnd* pWndLock, CPoint point) {
+    return ::ImageList_DragEnter(WindowOf(pWndLock), point.x, point.y);
+}
+BOOL CImageList::DragMove(CPoint pt) {
+    return ::ImageList_DragMove(pt.x, pt.y);
+}
+BOOL CImageList::DragLeave(CWnd* pWndLock) {
+    return ::ImageList_DragLeave(WindowOf(pWndLock));
+}
+BOOL CImageList::DragShowNolock(BOOL bShow) {
+    return ::ImageList_DragShowNolock(bShow);
+}
+BOOL CImageList::SetDragCursorImage(int nDrag, CPoint ptHotSpot) {
+    return ::ImageList_SetDragCursorImage(m_hImageList, nDrag, ptHotSpot.x, ptHotSpot.y);
+}
+CImageList* CImageList::GetDragImage(LPPOINT lpPoint, LPPOINT lpPointHotSpot) {
+    return FromHandle(::ImageList_GetDragImage(lpPoint, lpPointHotSpot));
 }

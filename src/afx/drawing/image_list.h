@@ -3,6 +3,9 @@
 
 #include "afx/drawing/gdi.h"
 
+class CDC;
+class CWnd;
+
 class QVAFX_API CImageList : public CObject {
     DECLARE_DYNCREATE(CImageList)
 
@@ -43,8 +46,25 @@ public:
     BOOL Draw(CDC* pDC, int nImage, POINT pt, UINT nStyle);
     BOOL DrawEx(CDC* pDC, int nImage, POINT pt, SIZE sz, COLORREF clrBk, COLORREF clrFg,
                 UINT nStyle);
+    BOOL DrawIndirect(IMAGELISTDRAWPARAMS* pimldp);
+    BOOL DrawIndirect(CDC* pDC, int nImage, POINT pt, SIZE sz, POINT ptOrigin,
+                      UINT fStyle = ILD_NORMAL, DWORD dwRop = SRCCOPY,
+                      COLORREF rgbBack = CLR_DEFAULT, COLORREF rgbFore = CLR_DEFAULT);
     BOOL SetOverlayImage(int nImage, int nOverlay);
     BOOL Copy(int iDst, int iSrc, UINT uFlags = ILCF_MOVE);
+    BOOL Copy(int iDst, CImageList* pSrc, int iSrc, UINT uFlags = ILCF_MOVE);
+
+    // One image follows the pointer: begun by a list, shown and moved over a window, and ended.
+    BOOL BeginDrag(int nImage, CPoint ptHotSpot);
+    static void EndDrag();
+    /// Points are from the upper left corner of the window, its frame included.
+    static BOOL DragEnter(CWnd* pWndLock, CPoint point);
+    static BOOL DragMove(CPoint pt);
+    static BOOL DragLeave(CWnd* pWndLock);
+    static BOOL DragShowNolock(BOOL bShow);
+    BOOL SetDragCursorImage(int nDrag, CPoint ptHotSpot);
+    /// The list of the image that is dragged, or null.
+    static CImageList* GetDragImage(LPPOINT lpPoint, LPPOINT lpPointHotSpot);
 
 private:
     friend struct AfxImageListMap;

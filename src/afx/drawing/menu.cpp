@@ -1,20 +1,21 @@
 #include "afx/drawing/menu.h"
 
 #include "afx/drawing/handle_map.h"
+#include "afx/drawing/thread_map.h"
 
 #include <afxwin.h>
 
 IMPLEMENT_DYNCREATE(CMenu, CObject)
 
 struct AfxMenuMap {
-    using Map = CHandleMap<CMenu, HMENU>;
-    static Map& Get() {
-        static thread_local Map map([](CMenu& menu, HMENU hMenu) {
-            menu.m_hMenu = hMenu;
-            menu.m_bTemporary = true;
-        });
-        return map;
+    static void Put(CMenu& menu, HMENU hMenu) {
+        menu.m_hMenu = hMenu;
+        menu.m_bTemporary = true;
     }
+    struct Map : CHandleMap<CMenu, HMENU> {
+        Map() : CHandleMap(&Put) {}
+    };
+    static Map& Get() { return AfxThreadMap<Map>(); }
 };
 
 namespace {
@@ -88,6 +89,38 @@ BOOL CMenu::LoadMenuIndirect(const void* lpMenuTemplate) {
 BOOL CMenu::TrackPopupMenu(UINT nFlags, int x, int y, CWnd* pWnd, LPCRECT lpRect) {
     return ::TrackPopupMenu(m_hMenu, nFlags, x, y, 0, pWnd->GetSafeHwnd(), lpRect);
 }
+BOOL CMenu::TrackPopupMenuEx(UINT fuFlags, int x, int y, CWnd* pWnd, LPTPMPARAMS lptpm) {
+    return ::TrackPopupMenuEx(m_hMenu, fuFlags, x, y, pWnd->GetSafeHwnd(), lptpm);
+}
+BOOL CMenu::AppendMenu(UINT nFlags, UINT_PTR nID, const CBitmap* pBmp) {
+    return AppendMenu(nFlags | MF_BITMAP, nID, reinterpret_cast<LPCTSTR>(BitmapOf(pBmp)));
+}
+BOOL CMenu::InsertMenu(UINT nPosition, UINT nFlags, UINT_PTR nID, const CBitmap* pBmp) {
+    return InsertMenu(nPosition, nFlags | MF_BITMAP, nID,
+                      reinterpret_cast<LPCTSTR>(BitmapOf(pBmp)));
+}
+BOOL CMenu::ModifyMenu(UINT nPosition, UINT nFlags, UINT_PTR nID, const CBitmap* pBmp) {
+    return ModifyMenu(nPosition, nFlags | MF_BITMAP, nID,
+                      reinterpret_cast<LPCTSTR>(BitmapOf(pBmp)));
+}
+BOOL CMenu::InsertMenuItem(UINT uItem, LPMENUITEMINFO p, BOOL fByPos) {
+    return ::InsertMenuItem(m_hMenu, uItem, fByPos, p);
+}
+BOOL CMenu::SetMenuContextHelpId(DWORD dwContextHelpId) {
+    return ::SetMenuContextHelpId(m_hMenu, dwContextHelpId);
+}
+DWORD CMenu::GetMenuContextHelpId() const {
+    return ::GetMenuContextHelpId(m_hMenu);
+}
+BOOL CMenu::GetMenuInfo(LPMENUINFO p) const {
+    p->cbSize = sizeof *p;
+    return ::GetMenuInfo(m_hMenu, p);
+}
+BOOL CMenu::SetMenuInfo(LPCMENUINFO p) {
+    MENUINFO info = *p;
+    info.cbSize = sizeof info;
+    return ::SetMenuInfo(m_hMenu, &info);
+}
 BOOL CMenu::DeleteMenu(UINT nPosition, UINT nFlags) {
     return ::DeleteMenu(m_hMenu, nPosition, nFlags);
 }
@@ -118,8 +151,8 @@ BOOL CMenu::SetDefaultItem(UINT uItem, BOOL fByPos) {
 UINT CMenu::GetDefaultItem(UINT gmdiFlags, BOOL fByPos) {
     return ::GetMenuDefaultItem(m_hMenu, static_cast<UINT>(fByPos), gmdiFlags);
 }
-int CMenu::GetMenuItemCount() const {
-    return ::GetMenuItemCount(m_hMenu);
+UINT CMenu::GetMenuItemCount() const {
+    return static_cast<UINT>(::GetMenuItemCount(m_hMenu));
 }
 UINT CMenu::GetMenuItemID(int nPos) const {
     return ::GetMenuItemID(m_hMenu, nPos);

@@ -15,6 +15,8 @@ public:
     HMENU m_hMenu = nullptr;
 
     operator HMENU() const { return m_hMenu; }
+    BOOL operator==(const CMenu& menu) const { return menu.m_hMenu == m_hMenu; }
+    BOOL operator!=(const CMenu& menu) const { return menu.m_hMenu != m_hMenu; }
     HMENU GetSafeHmenu() const;  ///< null also for a null pointer
     static CMenu* FromHandle(HMENU hMenu);
     static CMenu* FromHandlePermanent(HMENU hMenu);
@@ -30,19 +32,24 @@ public:
     BOOL DestroyMenu();
 
     BOOL TrackPopupMenu(UINT nFlags, int x, int y, CWnd* pWnd, LPCRECT lpRect = nullptr);
+    BOOL TrackPopupMenuEx(UINT fuFlags, int x, int y, CWnd* pWnd, LPTPMPARAMS lptpm);
     BOOL DeleteMenu(UINT nPosition, UINT nFlags);
     BOOL AppendMenu(UINT nFlags, UINT_PTR nIDNewItem = 0, LPCTSTR lpszNewItem = nullptr);
     BOOL InsertMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem = 0,
                     LPCTSTR lpszNewItem = nullptr);
     BOOL ModifyMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem = 0,
                     LPCTSTR lpszNewItem = nullptr);
+    BOOL AppendMenu(UINT nFlags, UINT_PTR nIDNewItem, const CBitmap* pBmp);
+    BOOL InsertMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem, const CBitmap* pBmp);
+    BOOL ModifyMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem, const CBitmap* pBmp);
+    BOOL InsertMenuItem(UINT uItem, LPMENUITEMINFO lpMenuItemInfo, BOOL fByPos = FALSE);
     BOOL RemoveMenu(UINT nPosition, UINT nFlags);
     UINT CheckMenuItem(UINT nIDCheckItem, UINT nCheck);
     BOOL CheckMenuRadioItem(UINT nIDFirst, UINT nIDLast, UINT nIDItem, UINT nFlags);
     UINT EnableMenuItem(UINT nIDEnableItem, UINT nEnable);
     BOOL SetDefaultItem(UINT uItem, BOOL fByPos = FALSE);
     UINT GetDefaultItem(UINT gmdiFlags, BOOL fByPos = FALSE);
-    int GetMenuItemCount() const;
+    UINT GetMenuItemCount() const;  ///< -1 if there is no menu
     UINT GetMenuItemID(int nPos) const;
     UINT GetMenuState(UINT nID, UINT nFlags) const;
     int GetMenuString(UINT nIDItem, LPTSTR lpString, int nMaxCount, UINT nFlags) const;
@@ -52,6 +59,10 @@ public:
     BOOL SetMenuItemBitmaps(UINT nPosition, UINT nFlags, const CBitmap* pBmpUnchecked,
                             const CBitmap* pBmpChecked);
     CMenu* GetSubMenu(int nPos) const;
+    BOOL SetMenuContextHelpId(DWORD dwContextHelpId);
+    DWORD GetMenuContextHelpId() const;
+    BOOL GetMenuInfo(LPMENUINFO lpcmi) const;
+    BOOL SetMenuInfo(LPCMENUINFO lpcmi);
 
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
     virtual void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct);

@@ -3,7 +3,12 @@
 // the user and ends the pass.
 #pragma once
 
+#define __AFXDD_H__
+
 #include "afx/dialogs/dialog.h"
+
+class COleCurrency;
+class COleDateTime;
 
 QVAFX_API void DDX_Control(CDataExchange* pDX, int nIDC, CWnd& rControl);
 
@@ -14,6 +19,11 @@ QVAFX_API void DDX_Text(CDataExchange* pDX, int nIDC, UINT& value);
 QVAFX_API void DDX_Text(CDataExchange* pDX, int nIDC, long& value);
 QVAFX_API void DDX_Text(CDataExchange* pDX, int nIDC, DWORD& value);
 QVAFX_API void DDX_Text(CDataExchange* pDX, int nIDC, CString& value);
+QVAFX_API void DDX_Text(CDataExchange* pDX, int nIDC, LPTSTR value, int nMaxLen);
+QVAFX_API void DDX_Text(CDataExchange* pDX, int nIDC, LONGLONG& value);
+QVAFX_API void DDX_Text(CDataExchange* pDX, int nIDC, ULONGLONG& value);
+QVAFX_API void DDX_Text(CDataExchange* pDX, int nIDC, COleDateTime& value);
+QVAFX_API void DDX_Text(CDataExchange* pDX, int nIDC, COleCurrency& value);
 QVAFX_API void DDX_Text(CDataExchange* pDX, int nIDC, float& value);
 QVAFX_API void DDX_Text(CDataExchange* pDX, int nIDC, double& value);
 
@@ -29,6 +39,13 @@ QVAFX_API void DDX_CBIndex(CDataExchange* pDX, int nIDC, int& index);
 QVAFX_API void DDX_Scroll(CDataExchange* pDX, int nIDC, int& value);
 QVAFX_API void DDX_Slider(CDataExchange* pDX, int nIDC, int& value);
 
+QVAFX_API void DDX_IPAddress(CDataExchange* pDX, int nIDC, DWORD& value);
+QVAFX_API void DDX_DateTimeCtrl(CDataExchange* pDX, int nIDC, CTime& value);
+QVAFX_API void DDX_DateTimeCtrl(CDataExchange* pDX, int nIDC, COleDateTime& value);
+QVAFX_API void DDX_DateTimeCtrl(CDataExchange* pDX, int nIDC, CString& value);
+QVAFX_API void DDX_MonthCalCtrl(CDataExchange* pDX, int nIDC, CTime& value);
+QVAFX_API void DDX_MonthCalCtrl(CDataExchange* pDX, int nIDC, COleDateTime& value);
+
 QVAFX_API void DDV_MaxChars(CDataExchange* pDX, CString const& value, int nChars);
 QVAFX_API void DDV_MinMaxByte(CDataExchange* pDX, BYTE value, BYTE minVal, BYTE maxVal);
 QVAFX_API void DDV_MinMaxShort(CDataExchange* pDX, short value, short minVal, short maxVal);
@@ -39,3 +56,17 @@ QVAFX_API void DDV_MinMaxDWord(CDataExchange* pDX, DWORD value, DWORD minVal, DW
 QVAFX_API void DDV_MinMaxFloat(CDataExchange* pDX, float const& value, float minVal, float maxVal);
 QVAFX_API void DDV_MinMaxDouble(CDataExchange* pDX, double const& value, double minVal,
                                 double maxVal);
+QVAFX_API void DDV_MinMaxLongLong(CDataExchange* pDX, LONGLONG value, LONGLONG minVal,
+                                  LONGLONG maxVal);
+QVAFX_API void DDV_MinMaxULongLong(CDataExchange* pDX, ULONGLONG value, ULONGLONG minVal,
+                                   ULONGLONG maxVal);
+// These give the control the bounds as well. A null pointer leaves that end open.
+QVAFX_API void DDV_MinMaxSlider(CDataExchange* pDX, DWORD value, DWORD minVal, DWORD maxVal);
+QVAFX_API void DDV_MinMaxDateTime(CDataExchange* pDX, CTime& refValue, const CTime* pMinRange,
+                                  const CTime* pMaxRange);
+QVAFX_API void DDV_MinMaxDateTime(CDataExchange* pDX, COleDateTime& refValue,
+                                  const COleDateTime* pMinRange, const COleDateTime* pMaxRange);
+QVAFX_API void DDV_MinMaxMonth(CDataExchange* pDX, CTime& refValue, const CTime* pMinRange,
+                               const CTime* pMaxRange);
+QVAFX_API void DDV_MinMaxMonth(CDataExchange* pDX, COleDateTime& refValue,
+                               const COleDateTime* pMinRange, const COleDateTime* pMaxRange);

@@ -1,14 +1,29 @@
 // The system's common dialogs, and property sheets.
 #pragma once
 
+#define __AFXDLGS_H__
+
 #include <afxcmn.h>
 #include <afxwin.h>
+
+#include <vector>
 
 class QVAFX_API CCommonDialog : public CDialog {
     DECLARE_DYNAMIC(CCommonDialog)
 
 public:
     explicit CCommonDialog(CWnd* pParentWnd);
+
+protected:
+    // The system's dialog does what is to be done then.
+    void OnOK() override;
+    void OnCancel() override;
+
+    /// Shows the system's dialog, whose hook is SystemDialogHook and makes this object the
+    /// dialog's. IDOK if it gave TRUE.
+    INT_PTR RunSystemDialog(HWND hWndOwner, BOOL (*pfnShow)(CCommonDialog*));
+    static UINT_PTR CALLBACK SystemDialogHook(HWND hWnd, UINT message, WPARAM wParam,
+                                              LPARAM lParam);
 };
 
 /// Opening and saving files. While the system's dialog is open, this object is a child window of
@@ -19,11 +34,15 @@ class QVAFX_API CFileDialog : public CCommonDialog {
 
 public:
     /// lpszFilter: pairs of description and pattern, each ended by a bar, one more bar at the end.
+    /// The last two do not count: the dialog is always the one that hooks work in.
     explicit CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt = nullptr,
                          LPCTSTR lpszFileName = nullptr,
                          DWORD dwFlags = OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
-                         LPCTSTR lpszFilter = nullptr, CWnd* pParentWnd = nullptr);
+                         LPCTSTR lpszFilter = nullptr, CWnd* pParentWnd = nullptr, DWORD dwSize = 0,
+                         BOOL bVistaStyle = TRUE);
 
+    OPENFILENAME& GetOFN() { return m_ofn; }
+    const OPENFILENAME& GetOFN() const { return m_ofn; }
     OPENFILENAME m_ofn;  ///< may be changed before DoModal
     BOOL m_bOpenFileDialog;
 
@@ -66,9 +85,11 @@ private:
     static UINT_PTR CALLBACK HookProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
     UINT_PTR OnHookMessage(UINT message, WPARAM wParam, LPARAM lParam);
     CString Ask(UINT message) const;
+    void MakeRoomForMany();
 
-    TCHAR m_szFileTitle[MAX_PATH] = {};
+    TCHAR m_szFileTitle[3 * MAX_PATH] = {};  // MAX_PATH characters in UTF-8
     TCHAR m_szFileName[8 * MAX_PATH] = {};
+    std::vector<TCHAR> m_manyNames;  ///< in place of that, while several files may be chosen
 };
 
 /// Choosing a printer and what to print on it, or asking for the default printer. Whoever uses it
@@ -111,4 +132,7 @@ private:
     PRINTDLG m_pdActual;
 };
 
+#include "afx/dialogs/choose_dialogs.h"
+#include "afx/dialogs/find_replace_dialog.h"
+#include "afx/dialogs/page_setup_dialog.h"
 #include "afx/dialogs/prop_sheet.h"

@@ -2,6 +2,8 @@
 // resources are found.
 #pragma once
 
+#define __AFXDLL_H__
+
 #include <afx.h>
 
 #include <new>
@@ -58,10 +60,12 @@ public:
     explicit CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL bSystem = FALSE);
     ~CDynLinkLibrary() override;
 
+#ifndef QVAFX_STRICT
     /// Made with new under the loader's lock, where no exception may pass: null without memory.
     static void* operator new(size_t nBytes) noexcept;
     static void* operator new(size_t nBytes, const std::nothrow_t&) noexcept;
     static void operator delete(void* p) noexcept;
+#endif
 
     HMODULE m_hModule;
     HMODULE m_hResource;
@@ -107,5 +111,9 @@ QVAFX_API void AfxSetResourceHandle(HINSTANCE hInstResource);
 /// The module that holds a resource: the application, then the extension modules, the latest to
 /// join first, then system ones. The application's handle if none does.
 QVAFX_API HINSTANCE AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType);
+#ifndef QVAFX_STRICT
+/// The same for one string of the tables, which is not there where it is empty.
+QVAFX_API HINSTANCE AfxFindStringResourceHandle(UINT nID);
+#endif
 /// Gives the length of the string copied, 0 if there is none. nMaxBuf in bytes.
 QVAFX_API int AfxLoadString(UINT nIDS, LPTSTR lpszBuf, UINT nMaxBuf = 256);

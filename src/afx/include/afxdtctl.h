@@ -1,8 +1,12 @@
-// CDateTimeCtrl, the date and time picker.
+// CDateTimeCtrl, the date and time picker, and CMonthCalCtrl.
 #pragma once
+
+#define __AFXDTCTL_H__
 
 #include <afxcmn.h>
 #include <afxdisp.h>
+
+#include "afx/controls/month_cal_ctrl.h"
 
 class QVAFX_API CDateTimeCtrl : public CWnd {
     DECLARE_DYNAMIC(CDateTimeCtrl)

@@ -1,29 +1,20 @@
 // Control bars, which are windows along the edges of a frame, and the state of a print job.
 #pragma once
 
+#define __AFXEXT_H__
+
+#include "afx/app/control_bar.h"
 #include "afx/app/print_info.h"
+#include "afx/app/re_bar.h"
+#include "afx/app/splitter.h"
+#include "afx/app/tool_bar.h"
+#include "afx/documents/edit_view.h"
+#include "afx/documents/form_view.h"
+#include "afx/drawing/meta_file_dc.h"
+#include "afx/drawing/rect_tracker.h"
 
 #include <afxdlgs.h>
 #include <afxwin.h>
-
-#define CBRS_ALIGN_LEFT 0x1000L
-#define CBRS_ALIGN_TOP 0x2000L
-#define CBRS_ALIGN_RIGHT 0x4000L
-#define CBRS_ALIGN_BOTTOM 0x8000L
-#define CBRS_ALIGN_ANY 0xF000L
-#define CBRS_BORDER_LEFT 0x0100L
-#define CBRS_BORDER_TOP 0x0200L
-#define CBRS_BORDER_RIGHT 0x0400L
-#define CBRS_BORDER_BOTTOM 0x0800L
-#define CBRS_BORDER_ANY 0x0F00L
-#define CBRS_TOOLTIPS 0x0010L
-#define CBRS_FLYBY 0x0020L
-#define CBRS_ALL 0xFFFFL
-#define CBRS_NOALIGN 0x00000000L
-#define CBRS_LEFT (CBRS_ALIGN_LEFT | CBRS_BORDER_RIGHT)
-#define CBRS_TOP (CBRS_ALIGN_TOP | CBRS_BORDER_BOTTOM)
-#define CBRS_RIGHT (CBRS_ALIGN_RIGHT | CBRS_BORDER_LEFT)
-#define CBRS_BOTTOM (CBRS_ALIGN_BOTTOM | CBRS_BORDER_TOP)
 
 // Styles of a status bar's panes
 #define SBPS_NORMAL 0x0000
@@ -35,41 +26,6 @@
 
 class CStatusBarCtrl;
 class CView;
-
-/// A window that takes a strip off its frame's client area and is kept up to date at idle time.
-class QVAFX_API CControlBar : public CWnd {
-    DECLARE_DYNAMIC(CControlBar)
-
-public:
-    ~CControlBar() override;
-
-    BOOL m_bAutoDelete = FALSE;
-
-    int GetCount() const { return m_nCount; }
-    DWORD GetBarStyle() const { return m_dwStyle; }
-    void SetBarStyle(DWORD dwStyle) { m_dwStyle = dwStyle; }
-    BOOL IsVisible() const;
-    CFrameWnd* GetDockingFrame() const;
-
-    /// The size along the edge that the bar lies at.
-    virtual CSize CalcFixedLayout(BOOL bStretch, BOOL bHorz);
-    virtual void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) = 0;
-
-protected:
-    CControlBar() = default;
-    void PostNcDestroy() override;
-    void JoinFrame(CFrameWnd* pFrame);
-
-    afx_msg LRESULT OnSizeParent(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnInitialUpdate(WPARAM wParam, LPARAM lParam);
-
-    DWORD m_dwStyle = CBRS_TOP;
-    int m_nCount = 0;
-    CFrameWnd* m_pDockSite = nullptr;
-
-    DECLARE_MESSAGE_MAP()
-};
 
 /// A bar whose controls come from a dialog template. What they tell goes to the frame, and their
 /// state comes from its command updates.

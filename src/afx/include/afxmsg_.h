@@ -2,6 +2,8 @@
 // handler; a handler whose signature differs from the published one does not compile.
 #pragma once
 
+#define __AFXMSG_H__
+
 #include "afx/window/cmdtarget.h"
 
 // Reflected messages come back to the child under their number plus this.
@@ -34,6 +36,18 @@ inline LRESULT AfxMsgResult(int nResult) {
 inline LRESULT AfxMsgResult(UINT nResult) {
     return static_cast<LRESULT>(nResult);
 }
+
+// Timers came with 32 bits once, and programs from then have them so.
+template <class Target, class Base>
+void AfxCallTimer(Target* pTarget, void (Base::*pfn)(UINT_PTR), WPARAM wParam) {
+    (pTarget->*pfn)(wParam);
+}
+#if defined(_WIN64) && !defined(QVAFX_STRICT)
+template <class Target, class Base>
+void AfxCallTimer(Target* pTarget, void (Base::*pfn)(UINT), WPARAM wParam) {
+    (pTarget->*pfn)(static_cast<UINT>(wParam));
+}
+#endif
 
 // Parameters as arguments. They read the names that AFX_ENTRY_ declares.
 #define AFX_WP_ call.wParam
@@ -85,7 +99,7 @@ inline LRESULT AfxMsgResult(UINT nResult) {
     AFX_ENTRY_(message, code, id, lastId, nullptr,                      \
                call.bHandled = AFX_PMF_(fn, BOOL, params)(__VA_ARGS__); \
                return 0;)
-#define ON_COMMAND(id, memberFxn) AFX_COMMAND_(CN_COMMAND, id, id, memberFxn, ())
+#define ON_COMMAND(id, memberFxn) AFX_COMMAND_(CN_COMMAND, id, id, memberFxn, (), )
 #define ON_COMMAND_RANGE(id, idLast, memberFxn) \
     AFX_COMMAND_(CN_COMMAND, id, idLast, memberFxn, (UINT), call.nID)
 #define ON_COMMAND_EX(id, memberFxn) \
@@ -104,7 +118,7 @@ inline LRESULT AfxMsgResult(UINT nResult) {
     AFX_UPDATE_(WM_REFLECT_BASE + WM_COMMAND, 0, 0xFFFF, memberFxn)
 
 // Control codes
-#define ON_CONTROL(wNotifyCode, id, memberFxn) AFX_COMMAND_(wNotifyCode, id, id, memberFxn, ())
+#define ON_CONTROL(wNotifyCode, id, memberFxn) AFX_COMMAND_(wNotifyCode, id, id, memberFxn, (), )
 #define ON_CONTROL_RANGE(wNotifyCode, id, idLast, memberFxn) \
     AFX_COMMAND_(wNotifyCode, id, idLast, memberFxn, (UINT), call.nID)
 #define ON_CONTROL_REFLECT(wNotifyCode, memberFxn)                            \
@@ -112,7 +126,7 @@ inline LRESULT AfxMsgResult(UINT nResult) {
                AFX_PMF_(memberFxn, void, ())();                               \
                return 0;)
 #define ON_CONTROL_REFLECT_EX(wNotifyCode, memberFxn) \
-    AFX_COMMAND_EX_(WM_REFLECT_BASE + WM_COMMAND, wNotifyCode, 0, 0xFFFF, memberFxn, ())
+    AFX_COMMAND_EX_(WM_REFLECT_BASE + WM_COMMAND, wNotifyCode, 0, 0xFFFF, memberFxn, (), )
 
 // Notifications
 #define AFX_NOTIFY_(message, code, id, lastId, fn, params, ...)                             \
@@ -153,12 +167,12 @@ inline LRESULT AfxMsgResult(UINT nResult) {
 // Window messages
 #define ON_WM_CREATE() \
     AFX_RESULT_(WM_CREATE, &ThisClass::OnCreate, int, (LPCREATESTRUCT), AFX_LPAS_(LPCREATESTRUCT))
-#define ON_WM_DESTROY() AFX_VOID_(WM_DESTROY, &ThisClass::OnDestroy, ())
-#define ON_WM_NCDESTROY() AFX_VOID_(WM_NCDESTROY, &ThisClass::OnNcDestroy, ())
+#define ON_WM_DESTROY() AFX_VOID_(WM_DESTROY, &ThisClass::OnDestroy, (), )
+#define ON_WM_NCDESTROY() AFX_VOID_(WM_NCDESTROY, &ThisClass::OnNcDestroy, (), )
 #define ON_WM_NCCREATE()                                                     \
     AFX_RESULT_(WM_NCCREATE, &ThisClass::OnNcCreate, BOOL, (LPCREATESTRUCT), \
                 AFX_LPAS_(LPCREATESTRUCT))
-#define ON_WM_CLOSE() AFX_VOID_(WM_CLOSE, &ThisClass::OnClose, ())
+#define ON_WM_CLOSE() AFX_VOID_(WM_CLOSE, &ThisClass::OnClose, (), )
 #define ON_WM_MOVE() AFX_VOID_(WM_MOVE, &ThisClass::OnMove, (int, int), AFX_LPX_, AFX_LPY_)
 #define ON_WM_SIZE()                                                                     \
     AFX_VOID_(WM_SIZE, &ThisClass::OnSize, (UINT, int, int), static_cast<UINT>(AFX_WP_), \
@@ -175,37 +189,41 @@ inline LRESULT AfxMsgResult(UINT nResult) {
 #define ON_WM_ACTIVATEAPP()                                             \
     AFX_VOID_(WM_ACTIVATEAPP, &ThisClass::OnActivateApp, (BOOL, DWORD), \
               static_cast<BOOL>(AFX_WP_), static_cast<DWORD>(AFX_LP_))
-#define ON_WM_CHILDACTIVATE() AFX_VOID_(WM_CHILDACTIVATE, &ThisClass::OnChildActivate, ())
+#define ON_WM_CHILDACTIVATE() AFX_VOID_(WM_CHILDACTIVATE, &ThisClass::OnChildActivate, (), )
+#define ON_WM_MDIACTIVATE()                                                                       \
+    AFX_VOID_(WM_MDIACTIVATE, &ThisClass::OnMDIActivate, (BOOL, CWnd*, CWnd*),                    \
+              reinterpret_cast<HWND>(AFX_LP_) == static_cast<CWnd*>(pTarget)->m_hWnd, AFX_LPWND_, \
+              AFX_WPWND_)
 #define ON_WM_SETFOCUS() AFX_VOID_(WM_SETFOCUS, &ThisClass::OnSetFocus, (CWnd*), AFX_WPWND_)
 #define ON_WM_KILLFOCUS() AFX_VOID_(WM_KILLFOCUS, &ThisClass::OnKillFocus, (CWnd*), AFX_WPWND_)
 #define ON_WM_ENABLE() \
     AFX_VOID_(WM_ENABLE, &ThisClass::OnEnable, (BOOL), static_cast<BOOL>(AFX_WP_))
-#define ON_WM_PAINT() AFX_VOID_(WM_PAINT, &ThisClass::OnPaint, ())
+#define ON_WM_PAINT() AFX_VOID_(WM_PAINT, &ThisClass::OnPaint, (), )
 #define ON_WM_ERASEBKGND() \
     AFX_RESULT_(WM_ERASEBKGND, &ThisClass::OnEraseBkgnd, BOOL, (CDC*), AFX_WPDC_)
 #define ON_WM_SHOWWINDOW()                                                                       \
     AFX_VOID_(WM_SHOWWINDOW, &ThisClass::OnShowWindow, (BOOL, UINT), static_cast<BOOL>(AFX_WP_), \
               static_cast<UINT>(AFX_LP_))
-#define ON_WM_CANCELMODE() AFX_VOID_(WM_CANCELMODE, &ThisClass::OnCancelMode, ())
+#define ON_WM_CANCELMODE() AFX_VOID_(WM_CANCELMODE, &ThisClass::OnCancelMode, (), )
 #define ON_WM_QUERYENDSESSION() \
-    AFX_RESULT_(WM_QUERYENDSESSION, &ThisClass::OnQueryEndSession, BOOL, ())
+    AFX_RESULT_(WM_QUERYENDSESSION, &ThisClass::OnQueryEndSession, BOOL, (), )
 #define ON_WM_ENDSESSION() \
     AFX_VOID_(WM_ENDSESSION, &ThisClass::OnEndSession, (BOOL), static_cast<BOOL>(AFX_WP_))
-#define ON_WM_QUERYOPEN() AFX_RESULT_(WM_QUERYOPEN, &ThisClass::OnQueryOpen, BOOL, ())
+#define ON_WM_QUERYOPEN() AFX_RESULT_(WM_QUERYOPEN, &ThisClass::OnQueryOpen, BOOL, (), )
 #define ON_WM_QUERYDRAGICON() \
-    AFX_RESULT_(WM_QUERYDRAGICON, &ThisClass::OnQueryDragIcon, HCURSOR, ())
-#define ON_WM_SYSCOLORCHANGE() AFX_VOID_(WM_SYSCOLORCHANGE, &ThisClass::OnSysColorChange, ())
+    AFX_RESULT_(WM_QUERYDRAGICON, &ThisClass::OnQueryDragIcon, HCURSOR, (), )
+#define ON_WM_SYSCOLORCHANGE() AFX_VOID_(WM_SYSCOLORCHANGE, &ThisClass::OnSysColorChange, (), )
 #define ON_WM_SETTINGCHANGE()                                                 \
     AFX_VOID_(WM_SETTINGCHANGE, &ThisClass::OnSettingChange, (UINT, LPCTSTR), \
               static_cast<UINT>(AFX_WP_), AFX_LPAS_(LPCTSTR))
-#define ON_WM_FONTCHANGE() AFX_VOID_(WM_FONTCHANGE, &ThisClass::OnFontChange, ())
-#define ON_WM_TIMECHANGE() AFX_VOID_(WM_TIMECHANGE, &ThisClass::OnTimeChange, ())
+#define ON_WM_FONTCHANGE() AFX_VOID_(WM_FONTCHANGE, &ThisClass::OnFontChange, (), )
+#define ON_WM_TIMECHANGE() AFX_VOID_(WM_TIMECHANGE, &ThisClass::OnTimeChange, (), )
 #define ON_WM_DEVMODECHANGE() \
     AFX_VOID_(WM_DEVMODECHANGE, &ThisClass::OnDevModeChange, (LPTSTR), AFX_LPAS_(LPTSTR))
 #define ON_WM_DISPLAYCHANGE()                                                  \
     AFX_VOID_(WM_DISPLAYCHANGE, &ThisClass::OnDisplayChange, (UINT, int, int), \
               static_cast<UINT>(AFX_WP_), AFX_LPLO_, AFX_LPHI_)
-#define ON_WM_THEMECHANGED() AFX_RESULT_(WM_THEMECHANGED, &ThisClass::OnThemeChanged, LRESULT, ())
+#define ON_WM_THEMECHANGED() AFX_RESULT_(WM_THEMECHANGED, &ThisClass::OnThemeChanged, LRESULT, (), )
 #define ON_WM_SETCURSOR()                                                                     \
     AFX_RESULT_(WM_SETCURSOR, &ThisClass::OnSetCursor, BOOL, (CWnd*, UINT, UINT), AFX_WPWND_, \
                 static_cast<UINT>(AFX_LPX_), AFX_LPHI_)
@@ -235,7 +253,7 @@ inline LRESULT AfxMsgResult(UINT nResult) {
 #define ON_WM_COPYDATA()                                                                         \
     AFX_RESULT_(WM_COPYDATA, &ThisClass::OnCopyData, BOOL, (CWnd*, COPYDATASTRUCT*), AFX_WPWND_, \
                 AFX_LPAS_(COPYDATASTRUCT*))
-#define ON_WM_DRAWCLIPBOARD() AFX_VOID_(WM_DRAWCLIPBOARD, &ThisClass::OnDrawClipboard, ())
+#define ON_WM_DRAWCLIPBOARD() AFX_VOID_(WM_DRAWCLIPBOARD, &ThisClass::OnDrawClipboard, (), )
 #define ON_WM_CHANGECBCHAIN()                                                               \
     AFX_VOID_(WM_CHANGECBCHAIN, &ThisClass::OnChangeCbChain, (HWND, HWND), AFX_WPAS_(HWND), \
               AFX_LPAS_(HWND))
@@ -274,7 +292,7 @@ inline LRESULT AfxMsgResult(UINT nResult) {
               static_cast<BOOL>(AFX_WP_), AFX_LPAS_(NCCALCSIZE_PARAMS*))
 #define ON_WM_NCHITTEST() \
     AFX_RESULT_(WM_NCHITTEST, &ThisClass::OnNcHitTest, LRESULT, (CPoint), AFX_LPPOINT_)
-#define ON_WM_NCPAINT() AFX_VOID_(WM_NCPAINT, &ThisClass::OnNcPaint, ())
+#define ON_WM_NCPAINT() AFX_VOID_(WM_NCPAINT, &ThisClass::OnNcPaint, (), )
 #define ON_WM_NCACTIVATE() \
     AFX_RESULT_(WM_NCACTIVATE, &ThisClass::OnNcActivate, BOOL, (BOOL), static_cast<BOOL>(AFX_WP_))
 #define ON_WM_NCMOUSEMOVE()                                              \
@@ -309,7 +327,7 @@ inline LRESULT AfxMsgResult(UINT nResult) {
               static_cast<UINT>(AFX_WP_), AFX_LPPOINT_)
 
 // Keyboard
-#define ON_WM_GETDLGCODE() AFX_RESULT_(WM_GETDLGCODE, &ThisClass::OnGetDlgCode, UINT, ())
+#define ON_WM_GETDLGCODE() AFX_RESULT_(WM_GETDLGCODE, &ThisClass::OnGetDlgCode, UINT, (), )
 #define ON_WM_KEYDOWN()                                                                          \
     AFX_VOID_(WM_KEYDOWN, &ThisClass::OnKeyDown, (UINT, UINT, UINT), static_cast<UINT>(AFX_WP_), \
               AFX_LPLO_, AFX_LPHI_)
@@ -339,7 +357,10 @@ inline LRESULT AfxMsgResult(UINT nResult) {
 #define ON_WM_SYSCOMMAND()                                                                         \
     AFX_VOID_(WM_SYSCOMMAND, &ThisClass::OnSysCommand, (UINT, LPARAM), static_cast<UINT>(AFX_WP_), \
               AFX_LP_)
-#define ON_WM_TIMER() AFX_VOID_(WM_TIMER, &ThisClass::OnTimer, (UINT_PTR), AFX_WP_)
+#define ON_WM_TIMER()                                                                        \
+    AFX_ENTRY_(WM_TIMER, 0, 0, 0, nullptr,                                                   \
+               AfxCallTimer(static_cast<ThisClass*>(pTarget), &ThisClass::OnTimer, AFX_WP_); \
+               return 0;)
 #define ON_WM_HSCROLL()                                                                           \
     AFX_VOID_(WM_HSCROLL, &ThisClass::OnHScroll, (UINT, UINT, CScrollBar*), AFX_WPLO_, AFX_WPHI_, \
               AFX_LPBAR_)
@@ -413,13 +434,95 @@ inline LRESULT AfxMsgResult(UINT nResult) {
 #define ON_WM_MOUSEHOVER()                                                                         \
     AFX_VOID_(WM_MOUSEHOVER, &ThisClass::OnMouseHover, (UINT, CPoint), static_cast<UINT>(AFX_WP_), \
               AFX_LPPOINT_)
-#define ON_WM_MOUSELEAVE() AFX_VOID_(WM_MOUSELEAVE, &ThisClass::OnMouseLeave, ())
+#define ON_WM_MOUSELEAVE() AFX_VOID_(WM_MOUSELEAVE, &ThisClass::OnMouseLeave, (), )
 #define ON_WM_CAPTURECHANGED() \
     AFX_VOID_(WM_CAPTURECHANGED, &ThisClass::OnCaptureChanged, (CWnd*), AFX_LPWND_)
 
+// Clipboard, devices, the session, and what menus tell besides
+#define ON_WM_CLIPBOARDUPDATE() AFX_VOID_(WM_CLIPBOARDUPDATE, &ThisClass::OnClipboardUpdate, (), )
+#define ON_WM_DESTROYCLIPBOARD() \
+    AFX_VOID_(WM_DESTROYCLIPBOARD, &ThisClass::OnDestroyClipboard, (), )
+#define ON_WM_RENDERFORMAT() \
+    AFX_VOID_(WM_RENDERFORMAT, &ThisClass::OnRenderFormat, (UINT), static_cast<UINT>(AFX_WP_))
+#define ON_WM_RENDERALLFORMATS() \
+    AFX_VOID_(WM_RENDERALLFORMATS, &ThisClass::OnRenderAllFormats, (), )
+#define ON_WM_PAINTCLIPBOARD()                                                               \
+    AFX_VOID_(WM_PAINTCLIPBOARD, &ThisClass::OnPaintClipboard, (CWnd*, HGLOBAL), AFX_WPWND_, \
+              AFX_LPAS_(HGLOBAL))
+#define ON_WM_SIZECLIPBOARD()                                                              \
+    AFX_VOID_(WM_SIZECLIPBOARD, &ThisClass::OnSizeClipboard, (CWnd*, HGLOBAL), AFX_WPWND_, \
+              AFX_LPAS_(HGLOBAL))
+#define ON_WM_ASKCBFORMATNAME()                                                  \
+    AFX_VOID_(WM_ASKCBFORMATNAME, &ThisClass::OnAskCbFormatName, (UINT, LPTSTR), \
+              static_cast<UINT>(AFX_WP_), AFX_LPAS_(LPTSTR))
+#define ON_WM_HSCROLLCLIPBOARD()                                                        \
+    AFX_VOID_(WM_HSCROLLCLIPBOARD, &ThisClass::OnHScrollClipboard, (CWnd*, UINT, UINT), \
+              AFX_WPWND_, AFX_LPLO_, AFX_LPHI_)
+#define ON_WM_VSCROLLCLIPBOARD()                                                        \
+    AFX_VOID_(WM_VSCROLLCLIPBOARD, &ThisClass::OnVScrollClipboard, (CWnd*, UINT, UINT), \
+              AFX_WPWND_, AFX_LPLO_, AFX_LPHI_)
+#define ON_WM_COMPACTING() \
+    AFX_VOID_(WM_COMPACTING, &ThisClass::OnCompacting, (UINT), static_cast<UINT>(AFX_WP_))
+#define ON_WM_SPOOLERSTATUS()                                              \
+    AFX_VOID_(WM_SPOOLERSTATUS, &ThisClass::OnSpoolerStatus, (UINT, UINT), \
+              static_cast<UINT>(AFX_WP_), AFX_LPLO_)
+#define ON_WM_ICONERASEBKGND() \
+    AFX_VOID_(WM_ICONERASEBKGND, &ThisClass::OnIconEraseBkgnd, (CDC*), AFX_WPDC_)
+#define ON_WM_DEVICECHANGE()                                                          \
+    AFX_RESULT_(WM_DEVICECHANGE, &ThisClass::OnDeviceChange, BOOL, (UINT, DWORD_PTR), \
+                static_cast<UINT>(AFX_WP_), static_cast<DWORD_PTR>(AFX_LP_))
+#define ON_WM_POWERBROADCAST()                                                         \
+    AFX_RESULT_(WM_POWERBROADCAST, &ThisClass::OnPowerBroadcast, UINT, (UINT, LPARAM), \
+                static_cast<UINT>(AFX_WP_), AFX_LP_)
+#define ON_WM_SESSION_CHANGE()                                                 \
+    AFX_VOID_(WM_WTSSESSION_CHANGE, &ThisClass::OnSessionChange, (UINT, UINT), \
+              static_cast<UINT>(AFX_WP_), static_cast<UINT>(AFX_LP_))
+#define ON_WM_USERCHANGED() AFX_VOID_(WM_USERCHANGED, &ThisClass::OnUserChanged, (), )
+#define ON_WM_WININICHANGE() \
+    AFX_VOID_(WM_WININICHANGE, &ThisClass::OnWinIniChange, (LPCTSTR), AFX_LPAS_(LPCTSTR))
+#define ON_WM_INPUTLANGCHANGE()                                                \
+    AFX_VOID_(WM_INPUTLANGCHANGE, &ThisClass::OnInputLangChange, (UINT, UINT), \
+              static_cast<UINT>(AFX_WP_), static_cast<UINT>(AFX_LP_))
+#define ON_WM_INPUTLANGCHANGEREQUEST()                                                       \
+    AFX_VOID_(WM_INPUTLANGCHANGEREQUEST, &ThisClass::OnInputLangChangeRequest, (UINT, UINT), \
+              static_cast<UINT>(AFX_WP_), static_cast<UINT>(AFX_LP_))
+#define ON_WM_HOTKEY()                                                                         \
+    AFX_VOID_(WM_HOTKEY, &ThisClass::OnHotKey, (UINT, UINT, UINT), static_cast<UINT>(AFX_WP_), \
+              AFX_LPLO_, AFX_LPHI_)
+#define ON_WM_INPUT()                                              \
+    AFX_VOID_(WM_INPUT, &ThisClass::OnRawInput, (UINT, HRAWINPUT), \
+              GET_RAWINPUT_CODE_WPARAM(AFX_WP_), AFX_LPAS_(HRAWINPUT))
+#define ON_WM_NCMOUSEHOVER()                                               \
+    AFX_VOID_(WM_NCMOUSEHOVER, &ThisClass::OnNcMouseHover, (UINT, CPoint), \
+              static_cast<UINT>(AFX_WP_), AFX_LPPOINT_)
+#define ON_WM_NCMOUSELEAVE() AFX_VOID_(WM_NCMOUSELEAVE, &ThisClass::OnNcMouseLeave, (), )
+#define ON_WM_NEXTMENU()                                                  \
+    AFX_VOID_(WM_NEXTMENU, &ThisClass::OnNextMenu, (UINT, LPMDINEXTMENU), \
+              static_cast<UINT>(AFX_WP_), AFX_LPAS_(LPMDINEXTMENU))
+#define ON_WM_UNINITMENUPOPUP()                                                               \
+    AFX_VOID_(WM_UNINITMENUPOPUP, &ThisClass::OnUnInitMenuPopup, (CMenu*, UINT), AFX_WPMENU_, \
+              AFX_LPHI_)
+#define ON_WM_MENURBUTTONUP()                                                \
+    AFX_VOID_(WM_MENURBUTTONUP, &ThisClass::OnMenuRButtonUp, (UINT, CMenu*), \
+              static_cast<UINT>(AFX_WP_), AFX_LPMENU_)
+#define ON_WM_MENUDRAG()                                                   \
+    AFX_RESULT_(WM_MENUDRAG, &ThisClass::OnMenuDrag, UINT, (UINT, CMenu*), \
+                static_cast<UINT>(AFX_WP_), AFX_LPMENU_)
+#define ON_WM_MENUGETOBJECT()                                                              \
+    AFX_RESULT_(WM_MENUGETOBJECT, &ThisClass::OnMenuGetObject, UINT, (MENUGETOBJECTINFO*), \
+                AFX_LPAS_(MENUGETOBJECTINFO*))
+#define ON_WM_MENUCOMMAND()                                              \
+    AFX_VOID_(WM_MENUCOMMAND, &ThisClass::OnMenuCommand, (UINT, CMenu*), \
+              static_cast<UINT>(AFX_WP_), AFX_LPMENU_)
+#define ON_WM_QUERYUISTATE() AFX_RESULT_(WM_QUERYUISTATE, &ThisClass::OnQueryUIState, UINT, (), )
+#define ON_WM_CHANGEUISTATE() \
+    AFX_VOID_(WM_CHANGEUISTATE, &ThisClass::OnChangeUIState, (UINT, UINT), AFX_WPLO_, AFX_WPHI_)
+#define ON_WM_UPDATEUISTATE() \
+    AFX_VOID_(WM_UPDATEUISTATE, &ThisClass::OnUpdateUIState, (UINT, UINT), AFX_WPLO_, AFX_WPHI_)
+
 // Palettes
 #define ON_WM_QUERYNEWPALETTE() \
-    AFX_RESULT_(WM_QUERYNEWPALETTE, &ThisClass::OnQueryNewPalette, BOOL, ())
+    AFX_RESULT_(WM_QUERYNEWPALETTE, &ThisClass::OnQueryNewPalette, BOOL, (), )
 #define ON_WM_PALETTECHANGED() \
     AFX_VOID_(WM_PALETTECHANGED, &ThisClass::OnPaletteChanged, (CWnd*), AFX_WPWND_)
 #define ON_WM_PALETTEISCHANGING() \
@@ -492,3 +595,8 @@ inline LRESULT AfxMsgResult(UINT nResult) {
 #define ON_STN_DBLCLK(id, memberFxn) ON_CONTROL(STN_DBLCLK, id, memberFxn)
 #define ON_STN_ENABLE(id, memberFxn) ON_CONTROL(STN_ENABLE, id, memberFxn)
 #define ON_STN_DISABLE(id, memberFxn) ON_CONTROL(STN_DISABLE, id, memberFxn)
+#define ON_CLBN_CHKCHANGE(id, memberFxn) ON_CONTROL(CLBN_CHKCHANGE, id, memberFxn)
+#define ON_BN_PAINT(id, memberFxn) ON_CONTROL(BN_PAINT, id, memberFxn)
+#define ON_BN_HILITE(id, memberFxn) ON_CONTROL(BN_HILITE, id, memberFxn)
+#define ON_BN_UNHILITE(id, memberFxn) ON_CONTROL(BN_UNHILITE, id, memberFxn)
+#define ON_BN_DISABLE(id, memberFxn) ON_CONTROL(BN_DISABLE, id, memberFxn)

@@ -1,6 +1,8 @@
 // Points, sizes and rectangles.
 #pragma once
 
+#define __ATLTYPES_H__
+
 #include "afx/values/api.h"
 
 class CPoint;
@@ -11,18 +13,22 @@ public:
     CSize() : SIZE{0, 0} {}
     CSize(int initCX, int initCY) : SIZE{initCX, initCY} {}
     CSize(SIZE initSize) : SIZE(initSize) {}
-    explicit CSize(POINT initPt) : SIZE{initPt.x, initPt.y} {}
+    CSize(POINT initPt) : SIZE{initPt.x, initPt.y} {}
     explicit CSize(DWORD dwSize)
         : SIZE{static_cast<short>(LOWORD(dwSize)), static_cast<short>(HIWORD(dwSize))} {}
 
-    void SetSize(int CX, int CY) { *this = CSize(CX, CY); }
-    bool operator==(SIZE size) const { return cx == size.cx && cy == size.cy; }
-    bool operator!=(SIZE size) const { return !(*this == size); }
+    void SetSize(int newCX, int newCY) { *this = CSize(newCX, newCY); }
+    BOOL operator==(SIZE size) const { return cx == size.cx && cy == size.cy; }
+    BOOL operator!=(SIZE size) const { return !(*this == size); }
     void operator+=(SIZE size) { cx += size.cx, cy += size.cy; }
     void operator-=(SIZE size) { cx -= size.cx, cy -= size.cy; }
     CSize operator+(SIZE size) const { return CSize(cx + size.cx, cy + size.cy); }
     CSize operator-(SIZE size) const { return CSize(cx - size.cx, cy - size.cy); }
     CSize operator-() const { return CSize(-cx, -cy); }
+    CPoint operator+(POINT point) const;
+    CPoint operator-(POINT point) const;
+    CRect operator+(const RECT* lpRect) const;
+    CRect operator-(const RECT* lpRect) const;
 };
 
 class CPoint : public POINT {
@@ -30,7 +36,7 @@ public:
     CPoint() : POINT{0, 0} {}
     CPoint(int initX, int initY) : POINT{initX, initY} {}
     CPoint(POINT initPt) : POINT(initPt) {}
-    explicit CPoint(SIZE initSize) : POINT{initSize.cx, initSize.cy} {}
+    CPoint(SIZE initSize) : POINT{initSize.cx, initSize.cy} {}
     explicit CPoint(LPARAM dwPoint)
         : POINT{static_cast<short>(LOWORD(dwPoint)), static_cast<short>(HIWORD(dwPoint))} {}
 
@@ -38,8 +44,8 @@ public:
     void Offset(int xOffset, int yOffset) { x += xOffset, y += yOffset; }
     void Offset(POINT point) { Offset(point.x, point.y); }
     void Offset(SIZE size) { Offset(size.cx, size.cy); }
-    bool operator==(POINT point) const { return x == point.x && y == point.y; }
-    bool operator!=(POINT point) const { return !(*this == point); }
+    BOOL operator==(POINT point) const { return x == point.x && y == point.y; }
+    BOOL operator!=(POINT point) const { return !(*this == point); }
     void operator+=(SIZE size) { Offset(size); }
     void operator-=(SIZE size) { Offset(-size.cx, -size.cy); }
     void operator+=(POINT point) { Offset(point); }
@@ -49,6 +55,8 @@ public:
     CPoint operator+(POINT point) const { return CPoint(x + point.x, y + point.y); }
     CSize operator-(POINT point) const { return CSize(x - point.x, y - point.y); }
     CPoint operator-() const { return CPoint(-x, -y); }
+    CRect operator+(const RECT* lpRect) const;
+    CRect operator-(const RECT* lpRect) const;
 };
 
 class CRect : public RECT {
@@ -78,6 +86,8 @@ public:
     void SetRect(int x1, int y1, int x2, int y2) { *this = CRect(x1, y1, x2, y2); }
     void SetRect(POINT topLeft, POINT bottomRight) { *this = CRect(topLeft, bottomRight); }
     void SetRectEmpty() { *this = CRect(); }
+    void SwapLeftRight() { OffsetEdges(left, right); }
+    static void SwapLeftRight(LPRECT lpRect) { OffsetEdges(lpRect->left, lpRect->right); }
     void CopyRect(LPCRECT lpSrcRect) { *this = CRect(lpSrcRect); }
     BOOL EqualRect(LPCRECT lpRect) const { return ::EqualRect(this, lpRect); }
 
@@ -108,18 +118,22 @@ public:
     BOOL UnionRect(LPCRECT r1, LPCRECT r2) { return ::UnionRect(this, r1, r2); }
     BOOL SubtractRect(LPCRECT r1, LPCRECT r2) { return ::SubtractRect(this, r1, r2); }
 
-    bool operator==(const RECT& rect) const { return EqualRect(&rect); }
-    bool operator!=(const RECT& rect) const { return !EqualRect(&rect); }
+    BOOL operator==(const RECT& rect) const { return EqualRect(&rect); }
+    BOOL operator!=(const RECT& rect) const { return !EqualRect(&rect); }
     void operator+=(POINT point) { OffsetRect(point); }
     void operator+=(SIZE size) { OffsetRect(size); }
     void operator-=(POINT point) { OffsetRect(-point.x, -point.y); }
     void operator-=(SIZE size) { OffsetRect(-size.cx, -size.cy); }
+    void operator+=(LPCRECT lpRect) { InflateRect(lpRect); }
+    void operator-=(LPCRECT lpRect) { DeflateRect(lpRect); }
     void operator&=(const RECT& rect) { ::IntersectRect(this, this, &rect); }
     void operator|=(const RECT& rect) { ::UnionRect(this, this, &rect); }
     CRect operator+(POINT point) const { return Moved(point.x, point.y); }
     CRect operator-(POINT point) const { return Moved(-point.x, -point.y); }
     CRect operator+(SIZE size) const { return Moved(size.cx, size.cy); }
     CRect operator-(SIZE size) const { return Moved(-size.cx, -size.cy); }
+    CRect operator+(LPCRECT lpRect) const { return Inflated(lpRect, 1); }
+    CRect operator-(LPCRECT lpRect) const { return Inflated(lpRect, -1); }
     CRect operator&(const RECT& rect) const {
         CRect r(*this);
         r &= rect;
@@ -142,9 +156,33 @@ private:
         n1 = n2;
         n2 = n;
     }
+    CRect Inflated(LPCRECT r, int nSign) const {
+        return CRect(left - nSign * r->left, top - nSign * r->top, right + nSign * r->right,
+                     bottom + nSign * r->bottom);
+    }
     CRect Moved(int x, int y) const {
         CRect r(*this);
         r.OffsetRect(x, y);
         return r;
     }
 };
+
+inline CPoint CSize::operator+(POINT point) const {
+    return CPoint(cx + point.x, cy + point.y);
+}
+inline CPoint CSize::operator-(POINT point) const {
+    return CPoint(cx - point.x, cy - point.y);
+}
+// A rectangle moved by a size or a point.
+inline CRect CSize::operator+(const RECT* lpRect) const {
+    return CRect(lpRect) + *this;
+}
+inline CRect CSize::operator-(const RECT* lpRect) const {
+    return CRect(lpRect) - *this;
+}
+inline CRect CPoint::operator+(const RECT* lpRect) const {
+    return CRect(lpRect) + *this;
+}
+inline CRect CPoint::operator-(const RECT* lpRect) const {
+    return CRect(lpRect) - *this;
+}

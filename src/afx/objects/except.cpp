@@ -1,5 +1,7 @@
 #include "afx/objects/except.h"
 
+#include "afx/values/wide_text.h"
+
 #include <afxwin.h>
 
 #include <cstdio>
@@ -133,28 +135,33 @@ void CFileException::ThrowOsError(LONG lOsError, LPCTSTR lpszFileName) {
 
 BOOL CFileException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext) {
     static constexpr LPCSTR kMessages[] = {"No error occurred",
-                                           "An unknown error occurred while accessing %s",
-                                           "%s was not found",
-                                           "%s contains an incorrect path",
+                                           "An unknown error occurred while accessing %.*s",
+                                           "%.*s was not found",
+                                           "%.*s contains an incorrect path",
                                            "Too many files are open",
-                                           "Access to %s was denied",
-                                           "The handle of %s is invalid",
-                                           "%s is the current directory and cannot be removed",
-                                           "The directory of %s is full",
-                                           "Seek failed on %s",
-                                           "A hardware error was reported while accessing %s",
-                                           "A sharing violation occurred while accessing %s",
-                                           "A locking violation occurred while accessing %s",
-                                           "The disk was full while accessing %s",
-                                           "The end of %s was passed"};
+                                           "Access to %.*s was denied",
+                                           "The handle of %.*s is invalid",
+                                           "%.*s is the current directory and cannot be removed",
+                                           "The directory of %.*s is full",
+                                           "Seek failed on %.*s",
+                                           "A hardware error was reported while accessing %.*s",
+                                           "A sharing violation occurred while accessing %.*s",
+                                           "A locking violation occurred while accessing %.*s",
+                                           "The disk was full while accessing %.*s",
+                                           "The end of %.*s was passed"};
     const int nMessages = static_cast<int>(std::size(kMessages));
     const int nMessage = m_cause >= 0 && m_cause < nMessages ? m_cause : genericException;
     GiveMessage("", lpszError, nMaxError, pnHelpContext);
     if (lpszError == nullptr || nMaxError == 0) {
         return FALSE;
     }
-    std::snprintf(lpszError, nMaxError, kMessages[nMessage],
-                  m_strFileName.IsEmpty() ? "a file" : static_cast<LPCTSTR>(m_strFileName));
+    // A name that finds no room loses characters, not the message its end.
+    constexpr int kPlaceholder = 4;
+    const LPCTSTR lpszName = m_strFileName.IsEmpty() ? "a file" : m_strFileName.GetString();
+    const int nRoom =
+        static_cast<int>(nMaxError) - 1 - (lstrlen(kMessages[nMessage]) - kPlaceholder);
+    std::snprintf(lpszError, nMaxError, kMessages[nMessage], AfxWholeBytes(lpszName, nRoom),
+                  lpszName);
     return TRUE;
 }
 

@@ -1,16 +1,59 @@
 #include "afx/objects/file.h"
 
+#include "afx/objects/file_path.h"
+
 #include <afx.h>
+#include <afxtempl.h>
 
 #include <algorithm>
 #include <climits>
 #include <cstdlib>
 #include <fcntl.h>
 #include <io.h>
+#include <string>
 
 IMPLEMENT_DYNAMIC(CFile, CObject)
 IMPLEMENT_DYNAMIC(CStdioFile, CFile)
 IMPLEMENT_DYNAMIC(CMemFile, CFile)
+
+namespace {
+
+/// For the wide calls: what they give fits its buffer by characters, of which a code page's bytes
+/// may be several.
+std::wstring Wide(LPCTSTR lpszPath) {
+    std::wstring strWide;
+    const int nBytes = lpszPath != nullptr ? lstrlen(lpszPath) : 0;
+    if (nBytes > 0) {
+        strWide.resize(static_cast<size_t>(nBytes));  // no character has more units than bytes
+        strWide.resize(static_cast<size_t>(
+            ::MultiByteToWideChar(CP_ACP, 0, lpszPath, nBytes, strWide.data(), nBytes)));
+    }
+    return strWide;
+}
+
+}  // namespace
+
+CString AfxWholePath(LPCTSTR lpszPath, CString* pstrName) {
+    return AfxNeedMemory([&]() -> CString {
+        const std::wstring strPath = Wide(lpszPath);
+        const DWORD nRoom = ::GetFullPathNameW(strPath.c_str(), 0, nullptr, nullptr);
+        std::wstring strWhole(nRoom, L'\0');
+        LPWSTR pName = nullptr;
+        const DWORD nLength = ::GetFullPathNameW(strPath.c_str(), nRoom, strWhole.data(), &pName);
+        const bool bWhole = nLength > 0 && nLength < nRoom;
+        if (pstrName != nullptr) {
+            *pstrName = bWhole ? pName : nullptr;
+        }
+        return bWhole ? CString(strWhole.c_str()) : CString(lpszPath);
+    });
+}
+
+bool AfxSamePath(LPCTSTR lpszOne, LPCTSTR lpszOther) {
+    return AfxNeedMemory([&] {
+        return ::CompareStringOrdinal(Wide(lpszOne).c_str(), -1, Wide(lpszOther).c_str(), -1,
+                                      TRUE) == CSTR_EQUAL;
+    });
+}
 
 // --- CFile
 
@@ -36,10 +79,21 @@ void CFile::ThrowLastError() const {
     AfxThrowFileException(CFileException::OsErrorToException(lOsError), lOsError, m_strFileName);
 }
 
+const HANDLE CFile::hFileNull = INVALID_HANDLE_VALUE;
+
+namespace {
+
+DWORD SystemFlags(UINT nOpenFlags) {
+    return ((nOpenFlags & CFile::osNoBuffer) != 0 ? FILE_FLAG_NO_BUFFERING : 0) |
+           ((nOpenFlags & CFile::osWriteThrough) != 0 ? FILE_FLAG_WRITE_THROUGH : 0) |
+           ((nOpenFlags & CFile::osRandomAccess) != 0 ? FILE_FLAG_RANDOM_ACCESS : 0) |
+           ((nOpenFlags & CFile::osSequentialScan) != 0 ? FILE_FLAG_SEQUENTIAL_SCAN : 0);
+}
+
+}  // namespace
+
 BOOL CFile::Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError) {
-    char szFullPath[MAX_PATH];
-    const DWORD nPath = ::GetFullPathName(lpszFileName, MAX_PATH, szFullPath, nullptr);
-    m_strFileName = nPath > 0 && nPath < MAX_PATH ? szFullPath : lpszFileName;
+    m_strFileName = AfxWholePath(lpszFileName);
 
     static constexpr DWORD kAccess[] = {GENERIC_READ, GENERIC_WRITE, GENERIC_READ | GENERIC_WRITE,
                                         GENERIC_READ};
@@ -51,7 +105,7 @@ BOOL CFile::Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError) 
     SECURITY_ATTRIBUTES security{sizeof(security), nullptr, (nOpenFlags & modeNoInherit) == 0};
     m_hFile = ::CreateFile(lpszFileName, kAccess[nOpenFlags & 3],
                            kShare[std::min((nOpenFlags & 0x70u) >> 4, 4u)], &security, dwCreate,
-                           FILE_ATTRIBUTE_NORMAL, nullptr);
+                           FILE_ATTRIBUTE_NORMAL | SystemFlags(nOpenFlags), nullptr);
     if (m_hFile == INVALID_HANDLE_VALUE) {
         if (pError != nullptr) {
             pError->m_lOsError = static_cast<LONG>(::GetLastError());
@@ -165,9 +219,9 @@ BOOL CFile::GetStatus(LPCTSTR lpszFileName, CFileStatus& rStatus) {
     rStatus.m_atime = CTime(data.ftLastAccessTime);
     rStatus.m_size = static_cast<ULONGLONG>(data.nFileSizeHigh) << 32 | data.nFileSizeLow;
     rStatus.m_attribute = static_cast<BYTE>(data.dwFileAttributes & ~FILE_ATTRIBUTE_NORMAL);
-    if (::GetFullPathName(lpszFileName, MAX_PATH, rStatus.m_szFullName, nullptr) >= MAX_PATH) {
-        rStatus.m_szFullName[0] = 0;
-    }
+    const CString strWhole = AfxWholePath(lpszFileName);
+    const bool bFits = strWhole.GetLength() < static_cast<int>(_countof(rStatus.m_szFullName));
+    lstrcpy(rStatus.m_szFullName, bFits ? static_cast<LPCTSTR>(strWhole) : "");
     return TRUE;
 }
 
@@ -351,6 +405,10 @@ void CStdioFile::SetLength(ULONGLONG dwNewLen) {
 // --- CMemFile
 
 CMemFile::CMemFile(UINT nGrowBytes) : m_nGrowBytes(nGrowBytes) {}
+
+CMemFile::CMemFile(BYTE* lpBuffer, UINT nBufferSize, UINT nGrowBytes) : CMemFile(nGrowBytes) {
+    Attach(lpBuffer, nBufferSize, nGrowBytes);
+}
 
 CMemFile::~CMemFile() {
     CMemFile::Close();

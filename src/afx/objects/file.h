@@ -12,7 +12,7 @@ struct CFileStatus {
     CTime m_atime;
     ULONGLONG m_size = 0;
     BYTE m_attribute = 0;
-    char m_szFullName[MAX_PATH] = {};
+    char m_szFullName[3 * MAX_PATH] = {};  ///< MAX_PATH characters in UTF-8
 };
 
 class QVAFX_API CFile : public CObject {
@@ -32,7 +32,12 @@ public:
         modeCreate = 0x1000,
         modeNoTruncate = 0x2000,
         typeText = 0x4000,
-        typeBinary = 0x8000
+        typeBinary = 0x8000,
+        // For the system's reading ahead and its cache.
+        osNoBuffer = 0x10000,  ///< positions and counts in sectors then
+        osWriteThrough = 0x20000,
+        osRandomAccess = 0x40000,
+        osSequentialScan = 0x80000
     };
     enum Attribute {
         normal = 0x00,
@@ -51,6 +56,8 @@ public:
     ~CFile() override;
 
     HANDLE m_hFile = INVALID_HANDLE_VALUE;
+    static const HANDLE hFileNull;
+    operator HANDLE() const { return m_hFile; }
 
     /// FALSE on failure, with the cause in pError if one is given; nothing is thrown.
     virtual BOOL Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError = nullptr);
@@ -68,9 +75,17 @@ public:
     virtual CString GetFilePath() const { return m_strFileName; }
     virtual CString GetFileName() const;
     virtual CString GetFileTitle() const;
+    virtual void SetFilePath(LPCTSTR lpszNewName) { m_strFileName = lpszNewName; }
     BOOL GetStatus(CFileStatus& rStatus) const;
+    /// A second handle to the file, with the same position; made with new.
+    virtual CFile* Duplicate() const;
+    /// Nobody else reads or writes these bytes until they are unlocked.
+    virtual void LockRange(ULONGLONG dwPos, ULONGLONG dwCount);
+    virtual void UnlockRange(ULONGLONG dwPos, ULONGLONG dwCount);
 
     static BOOL GetStatus(LPCTSTR lpszFileName, CFileStatus& rStatus);
+    /// Attributes, and the times that are not 0.
+    static void SetStatus(LPCTSTR lpszFileName, const CFileStatus& status);
     static void Rename(LPCTSTR lpszOldName, LPCTSTR lpszNewName);
     static void Remove(LPCTSTR lpszFileName);
 
@@ -109,6 +124,10 @@ public:
     ULONGLONG GetPosition() const override;
     ULONGLONG GetLength() const override;
     void SetLength(ULONGLONG dwNewLen) override;
+    // Not supported.
+    CFile* Duplicate() const override;
+    void LockRange(ULONGLONG dwPos, ULONGLONG dwCount) override;
+    void UnlockRange(ULONGLONG dwPos, ULONGLONG dwCount) override;
 };
 
 /// A file in memory that grows as it is written.
@@ -117,6 +136,8 @@ class QVAFX_API CMemFile : public CFile {
 
 public:
     explicit CMemFile(UINT nGrowBytes = 1024);
+    /// With a block to begin with, as Attach takes it.
+    CMemFile(BYTE* lpBuffer, UINT nBufferSize, UINT nGrowBytes = 0);
     ~CMemFile() override;
 
     /// Works on a block of the caller's, who frees it. With nGrowBytes it counts as empty and must
@@ -134,6 +155,10 @@ public:
     ULONGLONG GetPosition() const override { return m_nPosition; }
     ULONGLONG GetLength() const override { return m_nFileSize; }
     void SetLength(ULONGLONG dwNewLen) override;
+    // Not supported.
+    CFile* Duplicate() const override;
+    void LockRange(ULONGLONG dwPos, ULONGLONG dwCount) override;
+    void UnlockRange(ULONGLONG dwPos, ULONGLONG dwCount) override;
 
 private:
     void Grow(size_t nSize);

@@ -18,7 +18,18 @@ CRuntimeClass* CObject::GetRuntimeClass() const {
     return &classCObject;
 }
 
+BOOL CObject::IsSerializable() const {
+    return GetRuntimeClass()->m_wSchema != 0xFFFF;
+}
+
+void CObject::Serialize(CArchive&) {}
+
 void CObject::AssertValid() const {}
+
+void CObject::Dump(CDumpContext& dc) const {
+    dc << "a " << GetRuntimeClass()->m_lpszClassName << " at " << static_cast<const void*>(this)
+       << "\n";
+}
 
 BOOL CObject::IsKindOf(const CRuntimeClass* pClass) const {
     return GetRuntimeClass()->IsDerivedFrom(pClass);

@@ -3,6 +3,8 @@
 
 #include "afx/values/api.h"
 
+class CArchive;
+class CDumpContext;
 class CObject;
 
 /// One record a class. The base is reached through a function, because its record may lie in
@@ -22,7 +24,17 @@ struct QVAFX_API CRuntimeClass {
     /// Looks a class up in the application and all extension modules. Null if there is none.
     static CRuntimeClass* FromName(LPCSTR lpszClassName);
     static CObject* CreateObject(LPCSTR lpszClassName);
+
+    /// Name and schema, as they stand in an archive.
+    void Store(CArchive& ar) const;
+    /// Null if no class of the name is there; the archive's schema then goes to pwSchemaNum as
+    /// well.
+    static CRuntimeClass* Load(CArchive& ar, UINT* pwSchemaNum);
 };
+
+/// With a class's schema number: objects of other schemas may be loaded as well, whose Serialize
+/// asks the archive for the number.
+#define VERSIONABLE_SCHEMA 0x80000000
 
 /// Enters a record into the list of the process, from which AfxInitExtensionModule takes those of
 /// an extension module. A record that is still there when its module goes, goes with it.
@@ -42,7 +54,12 @@ public:
     virtual ~CObject();
 
     BOOL IsKindOf(const CRuntimeClass* pClass) const;
+    BOOL IsSerializable() const;
+    /// Writes the object's values into the archive, or reads them, in the same order.
+    virtual void Serialize(CArchive& ar);
     virtual void AssertValid() const;
+    /// For people who look for faults: the class's name and what a derived class adds.
+    virtual void Dump(CDumpContext& dc) const;
 
     static CRuntimeClass* GetThisClass();
     static CRuntimeClass classCObject;
@@ -90,6 +107,22 @@ public:                                     \
         return new class_name;                           \
     }                                                    \
     AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, 0xFFFF, &class_name::CreateObject)
+
+/// For classes of which archives hold objects. Loads an object by ar >> pointer.
+#define DECLARE_SERIAL(class_name)                                                    \
+    DECLARE_DYNCREATE(class_name)                                                     \
+    friend CArchive& operator>>(CArchive& ar, class_name*& pOb) {                     \
+        pOb = static_cast<class_name*>(AfxReadObject(ar, RUNTIME_CLASS(class_name))); \
+        return ar;                                                                    \
+    }
+#define IMPLEMENT_SERIAL(class_name, base_class_name, wSchema) \
+    CObject* class_name::CreateObject() {                      \
+        return new class_name;                                 \
+    }                                                          \
+    AFX_IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, wSchema, &class_name::CreateObject)
+
+/// What CArchive::ReadObject gives.
+QVAFX_API CObject* AfxReadObject(CArchive& ar, const CRuntimeClass* pClass);
 
 /// An object's place in a CHandleMap. It lies in the object itself, so that entering one needs no
 /// memory and cannot fail.

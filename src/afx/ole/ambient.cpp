@@ -1,7 +1,6 @@
 // What a window's controls are told about it: the ambient properties.
 #include "afx/ole/control_container.h"
 #include "afx/ole/control_site.h"
-#include "afx/values/wide_text.h"
 #include "afx/window/wnd_state.h"
 
 #include <afxwin.h>
@@ -59,13 +58,11 @@ LPFONTDISP COleControlContainer::CreateOleFont() const {
     }
     LOGFONTW log = {};
     ::GetObjectW(hFont, sizeof log, &log);
-    const HDC hDC = ::GetDC(nullptr);
-    const int nDpi = ::GetDeviceCaps(hDC, LOGPIXELSY);
-    ::ReleaseDC(nullptr, hDC);
     FONTDESC desc = {};
     desc.cbSizeofstruct = sizeof desc;
     desc.lpstrName = log.lfFaceName;
-    desc.cySize.int64 = ::MulDiv(abs(log.lfHeight), kPointsPerInch * kUnitsPerPoint, nDpi);
+    desc.cySize.int64 =
+        ::MulDiv(abs(log.lfHeight), kPointsPerInch * kUnitsPerPoint, AfxScreenDpi().cy);
     desc.sWeight = static_cast<SHORT>(log.lfWeight);
     desc.sCharset = log.lfCharSet;
     desc.fItalic = log.lfItalic;

@@ -54,6 +54,23 @@ private:
     Interface* m_p = nullptr;
 };
 
+/// COM in use in this thread for as long as it lives, if the thread lets it.
+class AfxComInUse {
+public:
+    AfxComInUse()
+        : m_bInUse(SUCCEEDED(::CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {}
+    ~AfxComInUse() {
+        if (m_bInUse) {
+            ::CoUninitialize();
+        }
+    }
+    AfxComInUse(const AfxComInUse&) = delete;
+    AfxComInUse& operator=(const AfxComInUse&) = delete;
+
+private:
+    bool m_bInUse;
+};
+
 /// Counts references. The maker has the first one.
 template <class... Interfaces>
 class AfxComObject : public Interfaces... {

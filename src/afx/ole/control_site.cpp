@@ -13,13 +13,6 @@ namespace {
 
 constexpr int kHimetricPerInch = 2540;
 
-SIZE ScreenDpi() {
-    const HDC hDC = ::GetDC(nullptr);
-    const SIZE dpi{::GetDeviceCaps(hDC, LOGPIXELSX), ::GetDeviceCaps(hDC, LOGPIXELSY)};
-    ::ReleaseDC(nullptr, hDC);
-    return dpi;
-}
-
 /// Wraps a control for which the program has no object.
 class OwnWindow : public CWnd {
 protected:
@@ -28,14 +21,21 @@ protected:
 
 }  // namespace
 
+SIZE AfxScreenDpi() {
+    const HDC hDC = ::GetDC(nullptr);
+    const SIZE dpi{::GetDeviceCaps(hDC, LOGPIXELSX), ::GetDeviceCaps(hDC, LOGPIXELSY)};
+    ::ReleaseDC(nullptr, hDC);
+    return dpi;
+}
+
 SIZE AfxToHimetric(SIZE pixels) {
-    const SIZE dpi = ScreenDpi();
+    const SIZE dpi = AfxScreenDpi();
     return {::MulDiv(pixels.cx, kHimetricPerInch, dpi.cx),
             ::MulDiv(pixels.cy, kHimetricPerInch, dpi.cy)};
 }
 
 SIZE AfxFromHimetric(SIZE himetric) {
-    const SIZE dpi = ScreenDpi();
+    const SIZE dpi = AfxScreenDpi();
     return {::MulDiv(himetric.cx, dpi.cx, kHimetricPerInch),
             ::MulDiv(himetric.cy, dpi.cy, kHimetricPerInch)};
 }
@@ -80,8 +80,12 @@ HRESULT COleControlSite::CreateControl(CWnd* pWndCtrl, REFCLSID clsid, LPCTSTR l
         m_rect = CRect(ppt != nullptr ? *ppt : POINT{}, size);
         SetExtent(size);
         ConnectSinks();
-        ApplyStyle(lpszWindowName);
+        ApplyStyle();
         hr = Activate();
+        if (SUCCEEDED(hr) && lpszWindowName != nullptr) {
+            SetWindowText(lpszWindowName);  // which may take its window
+            hr = m_pObject ? hr : E_ABORT;
+        }
     }
     m_bCreating = false;
     return hr;
@@ -120,10 +124,7 @@ HRESULT COleControlSite::SetExtent(SIZE size) {
     return pObject ? pObject->SetExtent(DVASPECT_CONTENT, &himetric) : E_UNEXPECTED;
 }
 
-void COleControlSite::ApplyStyle(LPCTSTR lpszWindowName) {
-    if (lpszWindowName != nullptr) {
-        SetWindowText(lpszWindowName);
-    }
+void COleControlSite::ApplyStyle() {
     if (m_dwStyle & WS_DISABLED) {
         SafeSetProperty(DISPID_ENABLED, VT_BOOL, FALSE);
     }
@@ -357,73 +358,60 @@ void COleControlSite::InvokeHelper(DISPID dwDispID, WORD wFlags, VARTYPE vtRet, 
                                    const BYTE* pbParamInfo, ...) {
     va_list argList;
     va_start(argList, pbParamInfo);
-    try {
-        InvokeHelperV(dwDispID, wFlags, vtRet, pvRet, pbParamInfo, argList);
-    } catch (...) {
-        va_end(argList);
-        throw;
-    }
-    va_end(argList);
+    const AfxListEnd end{argList};
+    InvokeHelperV(dwDispID, wFlags, vtRet, pvRet, pbParamInfo, argList);
 }
 
 // A call holds a reference while it lasts: the control may come to its end in it.
-COleDispatchDriver COleControlSite::Driver() const {
+LPDISPATCH COleControlSite::Members() const {
     if (!m_pDispatch) {
         AfxThrowOleException(DISP_E_MEMBERNOTFOUND);
     }
-    return COleDispatchDriver(m_pDispatch.Get(), FALSE);
+    return m_pDispatch.Get();
 }
 
 void COleControlSite::InvokeHelperV(DISPID dwDispID, WORD wFlags, VARTYPE vtRet, void* pvRet,
                                     const BYTE* pbParamInfo, va_list argList) {
-    if (!m_pDispatch) {
-        AfxThrowOleException(DISP_E_MEMBERNOTFOUND);
-    }
-    // Straight to the object: programs ask for properties by the million.
-    InvokeDispatch(m_pDispatch.Get(), dwDispID, wFlags, vtRet, pvRet, pbParamInfo, argList);
+    // Without a driver: programs ask for properties by the million.
+    InvokeDispatch(Members(), dwDispID, wFlags, vtRet, pvRet, pbParamInfo, argList);
 }
 
 void COleControlSite::GetProperty(DISPID dwDispID, VARTYPE vtProp, void* pvProp) const {
-    Driver().GetProperty(dwDispID, vtProp, pvProp);
+    COleDispatchDriver(Members(), FALSE).GetProperty(dwDispID, vtProp, pvProp);
 }
 
 void COleControlSite::SetPropertyV(DISPID dwDispID, VARTYPE vtProp, va_list argList) {
-    Driver().SetPropertyV(dwDispID, vtProp, argList);
+    COleDispatchDriver(Members(), FALSE).SetPropertyV(dwDispID, vtProp, argList);
 }
 
 void COleControlSite::SetProperty(DISPID dwDispID, VARTYPE vtProp, ...) {
     va_list argList;
     va_start(argList, vtProp);
-    try {
-        SetPropertyV(dwDispID, vtProp, argList);
-    } catch (...) {
-        va_end(argList);
-        throw;
-    }
-    va_end(argList);
+    const AfxListEnd end{argList};
+    SetPropertyV(dwDispID, vtProp, argList);
 }
 
 BOOL COleControlSite::SafeSetProperty(DISPID dwDispID, VARTYPE vtProp, ...) {
     va_list argList;
     va_start(argList, vtProp);
-    BOOL bDone = FALSE;
+    const AfxListEnd end{argList};
     try {
         SetPropertyV(dwDispID, vtProp, argList);
-        bDone = TRUE;
+        return TRUE;
     } catch (CException* e) {
         e->Delete();
     } catch (const std::bad_alloc&) {
     }
-    va_end(argList);
-    return bDone;
+    return FALSE;
 }
 
 // --- What stands for its window
 
 void COleControlSite::SetWindowText(LPCTSTR lpszString) {
     const AfxHold<COleControlSite> hold(this);
-    if (!SafeSetProperty(DISPID_CAPTION, VT_BSTR, lpszString)) {
-        SafeSetProperty(DISPID_TEXT, VT_BSTR, lpszString);
+    if (!SafeSetProperty(DISPID_CAPTION, VT_BSTR, lpszString) &&
+        !SafeSetProperty(DISPID_TEXT, VT_BSTR, lpszString) && m_hWnd != nullptr) {
+        ::SetWindowText(m_hWnd, lpszString);
     }
 }
 
@@ -437,6 +425,9 @@ void COleControlSite::GetWindowText(CString& str) const {
         }
     }
     str.Empty();
+    const int nLength = ::GetWindowTextLength(m_hWnd);
+    ::GetWindowText(m_hWnd, str.GetBuffer(nLength), nLength + 1);
+    str.ReleaseBuffer();
 }
 
 BOOL COleControlSite::EnableWindow(BOOL bEnable) {

@@ -15,7 +15,6 @@
 
 class AfxSiteInterfaces;
 class COleControlContainer;
-class COleDispatchDriver;
 struct AFX_EVENT;
 
 class QVAFX_API COleControlSite : public CCmdTarget {
@@ -56,7 +55,8 @@ public:
     /// FALSE instead of an exception.
     virtual BOOL SafeSetProperty(DISPID dwDispID, VARTYPE vtProp, ...);
 
-    // Its window, or what stands for it. The text is the Caption or the Text property.
+    // Its window, or what stands for it. The text is the stock Caption or Text property, or
+    // of a control that has neither its window's.
     virtual void SetWindowText(LPCTSTR lpszString);
     virtual void GetWindowText(CString& str) const;
     virtual BOOL EnableWindow(BOOL bEnable);
@@ -74,11 +74,6 @@ public:
     DWORD GetDefBtnCode() const;  ///< DLGC_DEFPUSHBUTTON, DLGC_UNDEFPUSHBUTTON or 0
 
     // Implementation only from now on
-
-    LPDISPATCH Dispatch() const { return m_pDispatch.Get(); }
-    IOleControl* Control() const { return m_pControl.Get(); }
-    /// What the control calls: IOleClientSite and the rest. It outlives this object.
-    AfxSiteInterfaces* Interfaces() const { return m_pInterfaces; }
 
     void AttachWindow();                ///< takes the control's window, if it has one by now
     void DetachWindow();                ///< the control takes its window away
@@ -114,20 +109,19 @@ protected:
     virtual BOOL GetEventIID(IID* piid);
 
 private:
-    HRESULT CreateObject(REFCLSID clsid, BSTR bstrLicKey);
-    COleDispatchDriver Driver() const;
+    LPDISPATCH Members() const;
     HRESULT SetExtent(SIZE size);
     bool TakesSize(SIZE size);
     CRect WindowRect() const;
-    void ApplyStyle(LPCTSTR lpszWindowName);
+    void ApplyStyle();
     void ConnectSinks();
     void DisconnectSinks();
     HRESULT Activate();
     void EndObject();
     void DropOwnWindow();
 
-    LONG m_nHolds = 0;  ///< the last one ends a site whose control is gone
-    AfxSiteInterfaces* m_pInterfaces;
+    LONG m_nHolds = 0;                 ///< the last one ends a site whose control is gone
+    AfxSiteInterfaces* m_pInterfaces;  ///< what the control calls; it outlives this object
     AfxComPtr<IDispatch> m_pDispatch;
     AfxComPtr<IOleControl> m_pControl;
     AfxComPtr<IStorage> m_pStorage;  ///< what a control that works on one keeps
@@ -152,6 +146,8 @@ private:
     Held* m_pHeld;
 };
 
+/// Dots an inch of the screen.
+SIZE AfxScreenDpi();
 /// Pixels of the screen in units of 0.01 mm, and back.
 SIZE AfxToHimetric(SIZE pixels);
 SIZE AfxFromHimetric(SIZE himetric);

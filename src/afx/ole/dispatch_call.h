@@ -1,4 +1,4 @@
-// How a program's call becomes one of IDispatch.
+// How a program's call becomes one of IDispatch. Internal to the framework.
 #pragma once
 
 #include <windows.h>
@@ -10,3 +10,9 @@
 /// reference is held for as long as the call lasts.
 void InvokeDispatch(LPDISPATCH pDispatch, DISPID dwDispID, WORD wFlags, VARTYPE vtRet, void* pvRet,
                     const BYTE* pbParamInfo, va_list argList);
+
+/// Ends a list of arguments whatever is thrown.
+struct AfxListEnd {
+    va_list& list;
+    ~AfxListEnd() { va_end(list); }
+};

@@ -1,5 +1,6 @@
 #include "afx/ole/dispatch_driver.h"
 
+#include "afx/ole/com_pointer.h"
 #include "afx/ole/dispatch_call.h"
 
 #include <afxwin.h>
@@ -98,9 +99,6 @@ void CallParams::Make(UINT nParams) {
 }
 
 void CallParams::Read(const BYTE* pbParamInfo, va_list argList) {
-    if (pbParamInfo == nullptr) {
-        return;
-    }
     Make(static_cast<UINT>(std::strlen(reinterpret_cast<const char*>(pbParamInfo))));
     Arguments arguments;
     va_copy(arguments.list, argList);
@@ -189,38 +187,26 @@ void CallParams::ReadOne(BYTE chParam, VARIANTARG& arg, Note& note, Arguments& a
     arg.vt = vt;
 }
 
-/// Ends a list of arguments whatever is thrown.
-struct ListEnd {
-    va_list& list;
-    ~ListEnd() { va_end(list); }
-};
-
-/// Keeps the object alive while it is asked, whatever becomes of the driver meanwhile.
-class ObjectHold {
-public:
-    explicit ObjectHold(LPDISPATCH pDispatch) : m_pDispatch(pDispatch) { pDispatch->AddRef(); }
-    ~ObjectHold() { m_pDispatch->Release(); }
-    ObjectHold(const ObjectHold&) = delete;
-    ObjectHold& operator=(const ObjectHold&) = delete;
-
-private:
-    LPDISPATCH m_pDispatch;
-};
-
 /// What an object tells about its failure; the texts go with it.
 struct ToldFailure : EXCEPINFO {
     ToldFailure() : EXCEPINFO() {}
+    // One by one: a list of them would be written and read again in every call that succeeds.
     ~ToldFailure() {
-        for (const BSTR bstr : {bstrSource, bstrDescription, bstrHelpFile}) {
-            if (bstr != nullptr) {
-                ::SysFreeString(bstr);
-            }
-        }
+        Free(bstrSource);
+        Free(bstrDescription);
+        Free(bstrHelpFile);
     }
     ToldFailure(const ToldFailure&) = delete;
     ToldFailure& operator=(const ToldFailure&) = delete;
 
     [[noreturn]] void Throw();
+
+private:
+    static void Free(BSTR bstr) {
+        if (bstr != nullptr) {
+            ::SysFreeString(bstr);
+        }
+    }
 };
 
 void ToldFailure::Throw() {
@@ -322,19 +308,14 @@ void Result::GiveAs(VARTYPE vtRet, void* pvRet) {
 
 }  // namespace
 
-void InvokeDispatch(LPDISPATCH pDispatch, DISPID dwDispID, WORD wFlags, VARTYPE vtRet, void* pvRet,
-                    const BYTE* pbParamInfo, va_list argList) {
-    CallParams params;
-    params.Read(pbParamInfo, argList);
-    if ((wFlags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0) {
-        params.NameValue();
-    }
-    const ObjectHold hold(pDispatch);
+static void Call(LPDISPATCH pDispatch, DISPID dwDispID, WORD wFlags, VARTYPE vtRet, void* pvRet,
+                 DISPPARAMS* pParams) {
+    const AfxComPtr<IDispatch> stay(pDispatch);  // whatever becomes of the driver meanwhile
     Result result;
     ToldFailure failure;
     UINT nArgument = 0;
     const HRESULT hResult =
-        pDispatch->Invoke(dwDispID, IID_NULL, LOCALE_USER_DEFAULT, wFlags, params.Get(),
+        pDispatch->Invoke(dwDispID, IID_NULL, LOCALE_USER_DEFAULT, wFlags, pParams,
                           vtRet != VT_EMPTY ? &result : nullptr, &failure, &nArgument);
     if (hResult == DISP_E_EXCEPTION) {
         failure.Throw();
@@ -345,6 +326,29 @@ void InvokeDispatch(LPDISPATCH pDispatch, DISPID dwDispID, WORD wFlags, VARTYPE 
     if (vtRet != VT_EMPTY && pvRet != nullptr) {
         result.GiveAs(vtRet, pvRet);
     }
+}
+
+// Apart, so that a property without parameters does not pay for them: programs ask for those by the
+// million.
+[[gnu::noinline]] static void CallWithParams(LPDISPATCH pDispatch, DISPID dwDispID, WORD wFlags,
+                                             VARTYPE vtRet, void* pvRet, const BYTE* pbParamInfo,
+                                             va_list argList) {
+    CallParams params;
+    params.Read(pbParamInfo, argList);
+    if ((wFlags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0) {
+        params.NameValue();
+    }
+    Call(pDispatch, dwDispID, wFlags, vtRet, pvRet, params.Get());
+}
+
+void InvokeDispatch(LPDISPATCH pDispatch, DISPID dwDispID, WORD wFlags, VARTYPE vtRet, void* pvRet,
+                    const BYTE* pbParamInfo, va_list argList) {
+    if (pbParamInfo != nullptr) {
+        CallWithParams(pDispatch, dwDispID, wFlags, vtRet, pvRet, pbParamInfo, argList);
+        return;
+    }
+    DISPPARAMS none = {};
+    Call(pDispatch, dwDispID, wFlags, vtRet, pvRet, &none);
 }
 
 COleDispatchDriver::COleDispatchDriver(LPDISPATCH lpDispatch, BOOL bAutoRelease)
@@ -412,25 +416,27 @@ void COleDispatchDriver::ReleaseDispatch() {
 }
 
 void COleDispatchDriver::InvokeHelperV(DISPID dwDispID, WORD wFlags, VARTYPE vtRet, void* pvRet,
-                                       const BYTE* pbParamInfo, va_list argList) const {
+                                       const BYTE* pbParamInfo, va_list argList) {
     if (m_lpDispatch != nullptr) {
         InvokeDispatch(m_lpDispatch, dwDispID, wFlags, vtRet, pvRet, pbParamInfo, argList);
     }
 }
 
 void COleDispatchDriver::InvokeHelper(DISPID dwDispID, WORD wFlags, VARTYPE vtRet, void* pvRet,
-                                      const BYTE* pbParamInfo, ...) const {
+                                      const BYTE* pbParamInfo, ...) {
     va_list argList;
     va_start(argList, pbParamInfo);
-    const ListEnd end{argList};
+    const AfxListEnd end{argList};
     InvokeHelperV(dwDispID, wFlags, vtRet, pvRet, pbParamInfo, argList);
 }
 
 void COleDispatchDriver::GetProperty(DISPID dwDispID, VARTYPE vtProp, void* pvProp) const {
-    InvokeHelper(dwDispID, DISPATCH_PROPERTYGET, vtProp, pvProp, nullptr);
+    // Only a call that may change the object is not for a const one.
+    const_cast<COleDispatchDriver*>(this)->InvokeHelper(dwDispID, DISPATCH_PROPERTYGET, vtProp,
+                                                        pvProp, nullptr);
 }
 
-void COleDispatchDriver::SetPropertyV(DISPID dwDispID, VARTYPE vtProp, va_list argList) const {
+void COleDispatchDriver::SetPropertyV(DISPID dwDispID, VARTYPE vtProp, va_list argList) {
     const VARTYPE vtPlain = static_cast<VARTYPE>(vtProp & ~VT_BYREF);
     const int nType = vtProp == VT_BSTR ? AFX_VT_TEXT : vtPlain;
     const BYTE abInfo[] = {
@@ -438,9 +444,9 @@ void COleDispatchDriver::SetPropertyV(DISPID dwDispID, VARTYPE vtProp, va_list a
     InvokeHelperV(dwDispID, DISPATCH_PROPERTYPUT, VT_EMPTY, nullptr, abInfo, argList);
 }
 
-void COleDispatchDriver::SetProperty(DISPID dwDispID, VARTYPE vtProp, ...) const {
+void COleDispatchDriver::SetProperty(DISPID dwDispID, VARTYPE vtProp, ...) {
     va_list argList;
     va_start(argList, vtProp);
-    const ListEnd end{argList};
+    const AfxListEnd end{argList};
     SetPropertyV(dwDispID, vtProp, argList);
 }

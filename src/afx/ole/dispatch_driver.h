@@ -38,12 +38,12 @@ public:
     /// Throws a COleDispatchException if the object tells what is wrong, else a COleException.
     /// Without an object nothing happens, and the result stays as it was.
     void InvokeHelper(DISPID dwDispID, WORD wFlags, VARTYPE vtRet, void* pvRet,
-                      const BYTE* pbParamInfo, ...) const;
+                      const BYTE* pbParamInfo, ...);
     void InvokeHelperV(DISPID dwDispID, WORD wFlags, VARTYPE vtRet, void* pvRet,
-                       const BYTE* pbParamInfo, va_list argList) const;
+                       const BYTE* pbParamInfo, va_list argList);
     /// vtProp: VT_I4 and its like, what a parameter of that type is written as; a text is an
     /// LPCTSTR.
-    void SetProperty(DISPID dwDispID, VARTYPE vtProp, ...) const;
-    void SetPropertyV(DISPID dwDispID, VARTYPE vtProp, va_list argList) const;
+    void SetProperty(DISPID dwDispID, VARTYPE vtProp, ...);
+    void SetPropertyV(DISPID dwDispID, VARTYPE vtProp, va_list argList);
     void GetProperty(DISPID dwDispID, VARTYPE vtProp, void* pvProp) const;
 };

@@ -144,24 +144,6 @@ AFX_EVENT_PARAM_(LPUNKNOWN*, ch == (VT_UNKNOWN | AFX_VT_BYREF), value.Get().ppun
 AFX_EVENT_PARAM_(VARIANT*, ch == (VT_VARIANT | AFX_VT_BYREF), value.Get().pvarVal)
 AFX_EVENT_PARAM_(BYTE*, ch == (VT_UI1 | AFX_VT_BYREF), value.Get().pbVal)
 
-/// The parameters of a handler, behind the control's number if it asks for that.
-template <typename... A>
-struct AfxEventParams {
-    static constexpr bool Fit(const char* pszTypes) {
-        if constexpr (sizeof...(A) == 0) {
-            return pszTypes == nullptr || *pszTypes == 0;
-        } else {
-            bool bFit = pszTypes != nullptr;
-            auto one = [&](bool (*pfnFits)(int)) {
-                bFit = bFit && *pszTypes != 0 && pfnFits(*pszTypes);
-                pszTypes += bFit ? 1 : 0;
-            };
-            (one(&AfxEventParam<A>::Fits), ...);
-            return bFit && *pszTypes == 0;
-        }
-    }
-};
-
 /// Takes an event's arguments, which come last one first. Gives what the control is told.
 QVAFX_API HRESULT AfxTakeEventValues(AFX_EVENT& event, const char* pszTypes, AfxEventValue* pValues,
                                      UINT nValues);
@@ -179,7 +161,19 @@ BOOL AfxHandledBy(Call call) {
 /// A handler whose parameters, behind the control's number if it takes that, are A.
 template <typename... A>
 struct AfxEventHandler {
-    static constexpr bool Fits(const char* pszTypes) { return AfxEventParams<A...>::Fit(pszTypes); }
+    static constexpr bool Fits(const char* pszTypes) {
+        if constexpr (sizeof...(A) == 0) {
+            return pszTypes == nullptr || *pszTypes == 0;
+        } else {
+            bool bFit = pszTypes != nullptr;
+            auto one = [&](bool (*pfnFits)(int)) {
+                bFit = bFit && *pszTypes != 0 && pfnFits(*pszTypes);
+                pszTypes += bFit ? 1 : 0;
+            };
+            (one(&AfxEventParam<A>::Fits), ...);
+            return bFit && *pszTypes == 0;
+        }
+    }
 
     template <typename Handle>
     static BOOL Call(const char* pszTypes, AFX_EVENT& event, Handle handle) {

@@ -17,41 +17,38 @@ COleControlSite* CDataExchange::PrepareOleCtrl(int nIDC) {
     return pSite;
 }
 
-template <typename Value>
-static void Exchange(CDataExchange* pDX, int nIDC, DISPID dispid, VARTYPE vt, Value& value) {
+/// argument: the value as a call takes it.
+template <typename Argument>
+static void Exchange(CDataExchange* pDX, int nIDC, DISPID dispid, VARTYPE vt, void* pValue,
+                     Argument argument) {
     COleControlSite* const pSite = pDX->PrepareOleCtrl(nIDC);
     if (pDX->m_bSaveAndValidate) {
-        pSite->GetProperty(dispid, vt, &value);
+        pSite->GetProperty(dispid, vt, pValue);
     } else {
-        pSite->SetProperty(dispid, vt, value);
+        pSite->SetProperty(dispid, vt, argument);
     }
 }
 
 void DDX_OCText(CDataExchange* pDX, int nIDC, DISPID dispid, CString& value) {
-    COleControlSite* const pSite = pDX->PrepareOleCtrl(nIDC);
-    if (pDX->m_bSaveAndValidate) {
-        pSite->GetProperty(dispid, VT_BSTR, &value);
-    } else {
-        pSite->SetProperty(dispid, VT_BSTR, value.GetString());
-    }
+    Exchange(pDX, nIDC, dispid, VT_BSTR, &value, value.GetString());
 }
 
 void DDX_OCBool(CDataExchange* pDX, int nIDC, DISPID dispid, BOOL& value) {
-    Exchange(pDX, nIDC, dispid, VT_BOOL, value);
+    Exchange(pDX, nIDC, dispid, VT_BOOL, &value, value);
 }
 
 void DDX_OCInt(CDataExchange* pDX, int nIDC, DISPID dispid, int& value) {
-    Exchange(pDX, nIDC, dispid, VT_I4, value);
+    Exchange(pDX, nIDC, dispid, VT_I4, &value, value);
 }
 
 void DDX_OCInt(CDataExchange* pDX, int nIDC, DISPID dispid, long& value) {
-    Exchange(pDX, nIDC, dispid, VT_I4, value);
+    Exchange(pDX, nIDC, dispid, VT_I4, &value, value);
 }
 
 void DDX_OCColor(CDataExchange* pDX, int nIDC, DISPID dispid, OLE_COLOR& value) {
-    Exchange(pDX, nIDC, dispid, VT_I4, value);
+    Exchange(pDX, nIDC, dispid, VT_I4, &value, value);
 }
 
 void DDX_OCFloat(CDataExchange* pDX, int nIDC, DISPID dispid, double& value) {
-    Exchange(pDX, nIDC, dispid, VT_R8, value);
+    Exchange(pDX, nIDC, dispid, VT_R8, &value, value);
 }

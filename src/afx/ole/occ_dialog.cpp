@@ -14,16 +14,8 @@
 namespace {
 
 CString TextOf(const BYTE* pText) {
-    CString strText;
-    const auto* const pWide = reinterpret_cast<LPCWSTR>(pText);
-    if (AfxTemplateView::Word(pText) != kAfxOrdinal) {
-        const int nBytes =
-            ::WideCharToMultiByte(CP_ACP, 0, pWide, -1, nullptr, 0, nullptr, nullptr);
-        ::WideCharToMultiByte(CP_ACP, 0, pWide, -1, strText.GetBuffer(nBytes), nBytes, nullptr,
-                              nullptr);
-        strText.ReleaseBuffer();
-    }
-    return strText;
+    return AfxTemplateView::Word(pText) != kAfxOrdinal ? CString(reinterpret_cast<LPCWSTR>(pText))
+                                                       : CString();
 }
 
 bool IsControl(const AfxTemplateView& view, const BYTE* pItem) {
@@ -54,10 +46,11 @@ _AFX_OCC_DIALOG_INFO::Item ReadItem(const AfxTemplateView& view, const BYTE* pIt
 
 /// The item's saved state, and the licence key that goes with it.
 struct SavedState {
-    std::vector<OLECHAR> licence;
+    COleVariant licence;  ///< empty: none
     const BYTE* pData = nullptr;
     DWORD dwBytes = 0;
 
+    BSTR Licence() const { return licence.vt == VT_BSTR ? licence.bstrVal : nullptr; }
     bool IsCompoundFile() const {
         constexpr BYTE kSignature[] = {0xD0, 0xCF, 0x11, 0xE0, 0xA1, 0xB1, 0x1A, 0xE1};
         return dwBytes >= sizeof kSignature &&
@@ -78,8 +71,10 @@ void ReadState(const AfxDlgInitRecord& record, SavedState& state) {
         return;
     }
     const BYTE* const pKey = record.Data() + sizeof dwKey;
-    state.licence.resize(dwKey);
-    std::memcpy(state.licence.data(), pKey, dwKey * sizeof(OLECHAR));
+    if (dwKey > 0) {
+        state.licence.bstrVal = ::SysAllocStringLen(reinterpret_cast<const OLECHAR*>(pKey), dwKey);
+        state.licence.vt = VT_BSTR;
+    }
     state.pData = pKey + dwKey * sizeof(WCHAR);
     state.dwBytes = dwRest - dwKey * static_cast<DWORD>(sizeof(WCHAR));
 }
@@ -95,21 +90,6 @@ SavedState FindState(const void* pDlgInit, UINT nID) {
     return state;
 }
 
-/// A key as the interfaces of OLE take it; null where there is none.
-class OwnedKey {
-public:
-    explicit OwnedKey(const std::vector<OLECHAR>& key)
-        : m_bstr(key.empty() ? nullptr
-                             : ::SysAllocStringLen(key.data(), static_cast<UINT>(key.size()))) {}
-    ~OwnedKey() { ::SysFreeString(m_bstr); }
-    OwnedKey(const OwnedKey&) = delete;
-    OwnedKey& operator=(const OwnedKey&) = delete;
-    BSTR Get() const { return m_bstr; }
-
-private:
-    BSTR m_bstr;
-};
-
 COleControlSite* MakeControl(CWnd& dlg, const _AFX_OCC_DIALOG_INFO::Item& item,
                              const void* pDlgInit) {
     const SavedState state = FindState(pDlgInit, item.nID);
@@ -119,13 +99,12 @@ COleControlSite* MakeControl(CWnd& dlg, const _AFX_OCC_DIALOG_INFO::Item& item,
         file.Attach(const_cast<BYTE*>(state.pData), state.dwBytes);
         pPersist = &file;
     }
-    const OwnedKey key(state.licence);
     CRect rect = item.rcUnits;
     ::MapDialogRect(dlg.m_hWnd, rect);
     COleControlSite* pSite = nullptr;
     dlg.m_pCtrlCont->CreateControl(
         nullptr, item.clsid, item.strText.IsEmpty() ? nullptr : item.strText.GetString(),
-        item.dwStyle, rect, item.nID, pPersist, state.IsCompoundFile(), key.Get(), &pSite);
+        item.dwStyle, rect, item.nID, pPersist, state.IsCompoundFile(), state.Licence(), &pSite);
     return pSite;
 }
 

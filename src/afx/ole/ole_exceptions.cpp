@@ -1,10 +1,11 @@
 #include "afx/ole/ole_exceptions.h"
 
-#include "afx/values/wide_text.h"
+#include "afx/ole/wnd_control.h"
 
 #include <afxwin.h>
 
-#include <cstring>
+#include <algorithm>
+#include <climits>
 #include <memory>
 #include <new>
 
@@ -20,17 +21,7 @@ BOOL GiveText(const CString& strText, LPTSTR lpszError, UINT nMaxError) {
     if (lpszError == nullptr || nMaxError == 0) {
         return FALSE;
     }
-    const int nRoom = static_cast<int>(nMaxError) - 1;
-    int nBytes = 0;
-    while (nBytes < strText.GetLength()) {
-        const int nChar = AfxCharBytes(strText.GetString() + nBytes, strText.GetLength() - nBytes);
-        if (nBytes + nChar > nRoom) {
-            break;
-        }
-        nBytes += nChar;
-    }
-    std::memcpy(lpszError, strText.GetString(), static_cast<size_t>(nBytes));
-    lpszError[nBytes] = 0;
+    AfxCopyWhole(lpszError, strText, static_cast<int>(std::min<UINT>(nMaxError, INT_MAX)));
     return TRUE;
 }
 

@@ -3,6 +3,7 @@
 
 #include "afx/ole/control_container.h"
 #include "afx/ole/control_site.h"
+#include "afx/ole/dispatch_call.h"
 #include "afx/values/wide_text.h"
 #include "afx/window/wnd_state.h"
 
@@ -114,13 +115,8 @@ void CWnd::InvokeHelper(DISPID dwDispID, WORD wFlags, VARTYPE vtRet, void* pvRet
                         const BYTE* pbParamInfo, ...) {
     va_list argList;
     va_start(argList, pbParamInfo);
-    try {
-        InvokeHelperV(dwDispID, wFlags, vtRet, pvRet, pbParamInfo, argList);
-    } catch (...) {
-        va_end(argList);
-        throw;
-    }
-    va_end(argList);
+    const AfxListEnd end{argList};
+    InvokeHelperV(dwDispID, wFlags, vtRet, pvRet, pbParamInfo, argList);
 }
 
 void CWnd::InvokeHelperV(DISPID dwDispID, WORD wFlags, VARTYPE vtRet, void* pvRet,
@@ -145,13 +141,8 @@ void CWnd::SetPropertyV(DISPID dwDispID, VARTYPE vtProp, va_list argList) {
 void CWnd::SetProperty(DISPID dwDispID, VARTYPE vtProp, ...) {
     va_list argList;
     va_start(argList, vtProp);
-    try {
-        SetPropertyV(dwDispID, vtProp, argList);
-    } catch (...) {
-        va_end(argList);
-        throw;
-    }
-    va_end(argList);
+    const AfxListEnd end{argList};
+    SetPropertyV(dwDispID, vtProp, argList);
 }
 
 // --- Its window

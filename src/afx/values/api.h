@@ -1,15 +1,46 @@
 // The platform's headers and the words that every header of the framework uses.
 #pragma once
 
-#ifdef UNICODE
-#error "The framework stand-in is built for 8-bit multi-byte text."
+#if defined(UNICODE) || defined(_UNICODE)
+#error \
+    "The framework stand-in takes 8-bit text: build with _MBCS and without UNICODE and _UNICODE, and let the program's manifest say activeCodePage UTF-8."
+#endif
+
+#if __cplusplus < 201703L
+#error "QVControls and the framework stand-in need C++17 or later: build with -std=c++17."
+#endif
+
+// The modules were built without them, and their classes have members of the standard library.
+#if defined(_GLIBCXX_DEBUG) || (defined(_GLIBCXX_USE_CXX11_ABI) && !_GLIBCXX_USE_CXX11_ABI)
+#error \
+    "_GLIBCXX_DEBUG and _GLIBCXX_USE_CXX11_ABI=0 change the layout of classes that QVControls shares with the program: build without them. _GLIBCXX_ASSERTIONS changes none."
+#endif
+
+// With QVAFX_STRICT, for compiling alone, the headers have what the published reference has,
+// declared as it is there, and nothing that programs have here beyond it.
+
+// Windows 7 is the oldest system that the modules run on.
+#ifndef WINVER
+#define WINVER 0x0601
+#endif
+#ifndef _WIN32_WINNT
+#define _WIN32_WINNT 0x0601
+#endif
+#ifndef _WIN32_IE
+#define _WIN32_IE 0x0700
 #endif
 
 #ifndef STRICT
 #define STRICT
 #endif
+// Numbers of the system's bitmaps come with this.
+#ifndef OEMRESOURCE
+#define OEMRESOURCE
+#endif
 #include <windows.h>
+#ifndef QVAFX_STRICT
 #include <windowsx.h>
+#endif
 
 #include <commctrl.h>
 #include <commdlg.h>
@@ -19,6 +50,7 @@
 #include <cstring>
 #include <shellapi.h>
 #include <tchar.h>
+#include <type_traits>
 #include <winspool.h>
 
 // Message crackers of the SDK that would rewrite members of the same name.
@@ -31,50 +63,49 @@
 #undef CopyRgn
 #undef GetCurrentTime
 
+// What those were, for callers of the platform's names.
+inline HWND GetNextWindow(HWND hWnd, UINT nDirection) {
+    return ::GetWindow(hWnd, nDirection);
+}
+inline DWORD GetCurrentTime() {
+    return ::GetTickCount();
+}
+#ifndef QVAFX_STRICT
+inline HWND GetFirstChild(HWND hWnd) {
+    return ::GetTopWindow(hWnd);
+}
+inline HWND GetNextSibling(HWND hWnd) {
+    return ::GetWindow(hWnd, GW_HWNDNEXT);
+}
+inline HWND GetPrevSibling(HWND hWnd) {
+    return ::GetWindow(hWnd, GW_HWNDPREV);
+}
+inline WNDPROC SubclassWindow(HWND hWnd, WNDPROC pfnWndProc) {
+    return reinterpret_cast<WNDPROC>(
+        ::SetWindowLongPtr(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(pfnWndProc)));
+}
+inline int CopyRgn(HRGN hrgnDst, HRGN hrgnSrc) {
+    return ::CombineRgn(hrgnDst, hrgnSrc, nullptr, RGN_COPY);
+}
+#endif
+
+// What the platform's headers define elsewhere as macros. Functions leave the names alone that
+// others have in their scopes.
+#if !defined(min) && !defined(max)
+template <class First, class Second>
+constexpr std::common_type_t<First, Second> min(const First& first, const Second& second) {
+    return first < second ? first : second;
+}
+template <class First, class Second>
+constexpr std::common_type_t<First, Second> max(const First& first, const Second& second) {
+    return first < second ? second : first;
+}
+#endif
+
 #ifdef QVAFX_BUILD
 #define QVAFX_API __declspec(dllexport)
 #else
 #define QVAFX_API __declspec(dllimport)
 #endif
 
-// For extension modules: their own classes go out, everybody else's come in.
-#ifdef _AFXEXT
-#define AFX_EXT_CLASS __declspec(dllexport)
-#define AFX_EXT_API __declspec(dllexport)
-#define AFX_EXT_DATA __declspec(dllexport)
-#else
-#define AFX_EXT_CLASS __declspec(dllimport)
-#define AFX_EXT_API __declspec(dllimport)
-#define AFX_EXT_DATA __declspec(dllimport)
-#endif
-
-#define afx_msg
-#define AFXAPI
-#define AFX_CDECL
-
-#ifdef NDEBUG
-#define ASSERT(f) ((void)0)
-#define VERIFY(f) ((void)(f))
-#else
-/// Reports a failed assertion on the debugger's output and standard error, and breaks.
-QVAFX_API void AfxAssertFailedLine(LPCSTR lpszFileName, int nLine);
-#define ASSERT(f) ((f) ? (void)0 : AfxAssertFailedLine(__FILE__, __LINE__))
-#define VERIFY(f) ASSERT(f)
-#endif
-#define ASSERT_VALID(pOb) ASSERT((pOb) != nullptr)
-#define ASSERT_KINDOF(class_name, object) ASSERT((object)->IsKindOf(RUNTIME_CLASS(class_name)))
-
-/// Formatted text to the debugger; nothing in a release build.
-QVAFX_API void AfxTrace(LPCTSTR lpszFormat, ...);
-#ifdef NDEBUG
-#define TRACE(...) ((void)0)
-#else
-#define TRACE(...) AfxTrace(__VA_ARGS__)
-#endif
-#define TRACE0(sz) TRACE(sz)
-#define TRACE1(sz, p1) TRACE(sz, p1)
-#define TRACE2(sz, p1, p2) TRACE(sz, p1, p2)
-
-#ifndef DEBUG_NEW
-#define DEBUG_NEW new
-#endif
+#include "afx/values/words.h"

@@ -315,3 +315,35 @@ COleDateTimeSpan COleDateTime::operator-(const COleDateTime& date) const {
     }
     return span;
 }
+
+namespace {
+
+/// Status and value; a status that is none makes the value invalid.
+template <class Status>
+void Read(CArchive& ar, Status& status, double& value) {
+    LONG nStatus = 0;
+    ar >> nStatus >> value;
+    status = nStatus == 0   ? Status(0)
+             : nStatus == 2 ? Status(2)  // null
+                            : Status(1);
+}
+
+}  // namespace
+
+CArchive& operator<<(CArchive& ar, const COleDateTime& dateSrc) {
+    return ar << static_cast<LONG>(dateSrc.m_status) << dateSrc.m_dt;
+}
+
+CArchive& operator>>(CArchive& ar, COleDateTime& dateSrc) {
+    Read(ar, dateSrc.m_status, dateSrc.m_dt);
+    return ar;
+}
+
+CArchive& operator<<(CArchive& ar, const COleDateTimeSpan& dateSpanSrc) {
+    return ar << static_cast<LONG>(dateSpanSrc.m_status) << dateSpanSrc.m_span;
+}
+
+CArchive& operator>>(CArchive& ar, COleDateTimeSpan& dateSpanSrc) {
+    Read(ar, dateSpanSrc.m_status, dateSpanSrc.m_span);
+    return ar;
+}

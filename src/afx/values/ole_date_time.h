@@ -144,3 +144,8 @@ private:
     bool Split(UDATE& udate) const;
     double Days() const;  ///< the value on an even scale, which arithmetic needs
 };
+
+QVAFX_API CArchive& operator<<(CArchive& ar, const COleDateTime& dateSrc);
+QVAFX_API CArchive& operator>>(CArchive& ar, COleDateTime& dateSrc);
+QVAFX_API CArchive& operator<<(CArchive& ar, const COleDateTimeSpan& dateSpanSrc);
+QVAFX_API CArchive& operator>>(CArchive& ar, COleDateTimeSpan& dateSpanSrc);

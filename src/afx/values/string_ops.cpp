@@ -298,33 +298,8 @@ void CString::FormatV(LPCSTR lpszFormat, va_list argList) {
     *this = strNew;
 }
 
-void CString::Format(LPCSTR lpszFormat, ...) {
-    va_list args;
-    va_start(args, lpszFormat);
-    FormatV(lpszFormat, args);
-    va_end(args);
-}
-
-void CString::Format(UINT nFormatID, ...) {
-    CString strFormat;
-    strFormat.LoadString(nFormatID);
-    va_list args;
-    va_start(args, nFormatID);
-    FormatV(strFormat, args);
-    va_end(args);
-}
-
-void CString::AppendFormat(LPCSTR lpszFormat, ...) {
-    CString strTail;
-    va_list args;
-    va_start(args, lpszFormat);
-    strTail.FormatV(lpszFormat, args);
-    va_end(args);
-    *this += strTail;
-}
-
 BOOL CString::LoadString(UINT nID) {
-    return LoadString(AfxFindResourceHandle(MAKEINTRESOURCE((nID >> 4) + 1), RT_STRING), nID);
+    return LoadString(AfxFindStringResourceHandle(nID), nID);
 }
 
 BOOL CString::LoadString(HINSTANCE hInstance, UINT nID) {
@@ -340,30 +315,4 @@ BOOL CString::LoadString(HINSTANCE hInstance, UINT nID) {
     }
     std::swap(m_pchData, strNew.m_pchData);
     return nBytes > 0;
-}
-
-BSTR CString::AllocSysString() const {
-    const int nWide = ::MultiByteToWideChar(CP_ACP, 0, m_pchData, GetLength(), nullptr, 0);
-    BSTR bstr = ::SysAllocStringLen(nullptr, static_cast<UINT>(nWide));
-    if (bstr == nullptr) {
-        AfxThrowMemoryException();
-    }
-    ::MultiByteToWideChar(CP_ACP, 0, m_pchData, GetLength(), bstr, nWide);
-    return bstr;
-}
-
-BOOL AfxExtractSubString(CString& rString, LPCSTR lpszFullString, int iSubString, char chSep) {
-    rString.Empty();
-    LPCSTR pszPart = lpszFullString;
-    for (int nPart = 0; pszPart != nullptr && nPart < iSubString; ++nPart) {
-        const LPCSTR pszEnd = std::strchr(pszPart, chSep);
-        pszPart = pszEnd != nullptr ? pszEnd + 1 : nullptr;
-    }
-    if (pszPart == nullptr) {
-        return FALSE;
-    }
-    const LPCSTR pszEnd = std::strchr(pszPart, chSep);
-    rString = CString(pszPart, pszEnd != nullptr ? static_cast<int>(pszEnd - pszPart)
-                                                 : static_cast<int>(std::strlen(pszPart)));
-    return TRUE;
 }

@@ -39,10 +39,10 @@ struct tm* CTime::GetLocalTm(struct tm* ptm) const {
     return ptm;
 }
 
-BOOL CTime::GetAsSystemTime(SYSTEMTIME& st) const {
+bool CTime::GetAsSystemTime(SYSTEMTIME& st) const {
     struct tm local;
     if (GetLocalTm(&local) == nullptr) {
-        return FALSE;
+        return false;
     }
     st = {};
     st.wYear = static_cast<WORD>(local.tm_year + 1900);
@@ -52,7 +52,7 @@ BOOL CTime::GetAsSystemTime(SYSTEMTIME& st) const {
     st.wHour = static_cast<WORD>(local.tm_hour);
     st.wMinute = static_cast<WORD>(local.tm_min);
     st.wSecond = static_cast<WORD>(local.tm_sec);
-    return TRUE;
+    return true;
 }
 
 namespace {
@@ -87,12 +87,61 @@ int CTime::GetDayOfWeek() const {
     return LocalOrNothing(*this).tm_wday + 1;
 }
 
-CString CTime::Format(LPCTSTR pszFormat) const {
+namespace {
+
+CString FormatTm(const struct tm* pTm, LPCTSTR pszFormat) {
     char szText[256];
+    const bool bDone = pTm != nullptr && std::strftime(szText, sizeof(szText), pszFormat, pTm) != 0;
+    return bDone ? szText : "";
+}
+
+}  // namespace
+
+CString CTime::Format(LPCTSTR pszFormat) const {
     struct tm local;
-    if (GetLocalTm(&local) == nullptr ||
-        std::strftime(szText, sizeof(szText), pszFormat, &local) == 0) {
-        return CString();
+    return FormatTm(GetLocalTm(&local), pszFormat);
+}
+
+struct tm* CTime::GetGmtTm(struct tm* ptm) const {
+    const struct tm* pGmt = _gmtime64(&m_time);
+    if (pGmt == nullptr) {
+        return nullptr;
     }
-    return szText;
+    *ptm = *pGmt;
+    return ptm;
+}
+
+CString CTime::FormatGmt(LPCTSTR pszFormat) const {
+    struct tm gmt;
+    return FormatTm(GetGmtTm(&gmt), pszFormat);
+}
+
+CString CTimeSpan::Format(LPCTSTR pszFormat) const {
+    CString strText;
+    for (LPCTSTR p = pszFormat; p != nullptr && *p != 0; ++p) {
+        if (*p != '%') {
+            strText += *p;
+            continue;
+        }
+        switch (*++p) {
+            case 'D':
+                strText.AppendFormat("%lld", GetDays());
+                break;
+            case 'H':
+                strText.AppendFormat("%02ld", GetHours());
+                break;
+            case 'M':
+                strText.AppendFormat("%02ld", GetMinutes());
+                break;
+            case 'S':
+                strText.AppendFormat("%02ld", GetSeconds());
+                break;
+            case '%':
+                strText += '%';
+                break;
+            default:
+                return CString();  // no such code
+        }
+    }
+    return strText;
 }

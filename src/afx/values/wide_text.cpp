@@ -39,6 +39,24 @@ int AfxCharBytes(LPCSTR lpsz, int nBytes) {
     return nWhole <= nBytes && std::all_of(lpsz + 1, lpsz + nWhole, IsTail) ? nWhole : 1;
 }
 
+int AfxWholeBytes(LPCSTR lpsz, int nRoom) {
+    const int nBytes = static_cast<int>(std::strlen(lpsz));
+    int nWhole = 0;
+    for (int nNext = 0; nNext <= nRoom && nWhole < nBytes;) {
+        nNext = nWhole + AfxCharBytes(lpsz + nWhole, nBytes - nWhole);
+        nWhole = nNext <= nRoom ? nNext : nWhole;
+    }
+    return nWhole;
+}
+
+void AfxCopyChars(LPSTR pTo, LPCSTR pFrom, int nRoom) {
+    if (nRoom > 0) {
+        const int nBytes = pFrom != nullptr ? AfxWholeBytes(pFrom, nRoom - 1) : 0;
+        std::copy_n(pFrom, nBytes, pTo);
+        pTo[nBytes] = 0;
+    }
+}
+
 AfxWideText::AfxWideText(HDC hDC, LPCSTR lpsz, int nBytes)
     : m_lpsz(lpsz),
       m_nBytes(lpsz != nullptr && nBytes == -1 ? static_cast<int>(std::strlen(lpsz)) : nBytes) {

@@ -10,6 +10,11 @@
 /// Bytes of the character at the start of a text of nBytes bytes, in the process's code page: 1 to
 /// 4, and 1 for what is no whole character. 0 for an empty text.
 int AfxCharBytes(LPCSTR lpsz, int nBytes);
+/// Bytes of the whole characters at the start of a terminated text that find room in nRoom bytes.
+int AfxWholeBytes(LPCSTR lpsz, int nRoom);
+
+/// Copies what has room of a text, whole characters, and the terminator. Null is an empty text.
+void AfxCopyChars(LPSTR pTo, LPCSTR pFrom, int nRoom);
 
 /// A text of the process's code page as UTF-16, zero-terminated.
 class AfxWideText {

@@ -47,8 +47,10 @@ struct AFX_MSGMAP {
     const AFX_MSGMAP_ENTRY* lpEntries;
 };
 
+#ifndef QVAFX_STRICT
 /// A module with message maps is about to go; found entries are looked up anew.
 QVAFX_API void AfxForgetMessageMaps();
+#endif
 
 /// Filled by OnCmdMsg instead of calling the handler, when a caller only asks whether there is one.
 struct AFX_CMDHANDLERINFO {

@@ -74,9 +74,13 @@ BOOL CCmdUI::DoUpdate(CCmdTarget* pTarget, BOOL bDisableIfNoHndler) {
         return TRUE;
     }
     m_bEnableChanged = FALSE;
+    const auto* pWnd = DYNAMIC_DOWNCAST(CWnd, pTarget);
+    const HWND hWnd = pWnd->GetSafeHwnd();
     const BOOL bResult =
         pTarget->OnCmdMsg(m_nID, static_cast<int>(CN_UPDATE_COMMAND_UI), this, nullptr);
-    if (bDisableIfNoHndler && !m_bEnableChanged) {
+    // A handler may destroy the window that it was asked through.
+    const bool bGone = hWnd != nullptr && CWnd::FromHandlePermanent(hWnd) != pWnd;
+    if (bDisableIfNoHndler && !m_bEnableChanged && !bGone) {
         AFX_CMDHANDLERINFO info;
         Enable(pTarget->OnCmdMsg(m_nID, CN_COMMAND, this, &info));
     }

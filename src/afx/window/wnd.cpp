@@ -488,3 +488,20 @@ CWnd* CWnd::WindowFromPoint(POINT point) {
 BOOL CWnd::IsFrameWnd() const {
     return FALSE;
 }
+
+INT_PTR CWnd::OnToolHitTest(CPoint point, TOOLINFO* pTI) const {
+    HWND hWndChild = ::ChildWindowFromPointEx(m_hWnd, point, CWP_SKIPINVISIBLE);
+    if (hWndChild == nullptr || hWndChild == m_hWnd) {
+        return -1;
+    }
+    const INT_PTR nHit = LOWORD(::GetDlgCtrlID(hWndChild));
+    if (pTI != nullptr && pTI->cbSize >= TTTOOLINFO_V1_SIZE) {
+        pTI->hwnd = m_hWnd;
+        pTI->uId = reinterpret_cast<UINT_PTR>(hWndChild);
+        pTI->uFlags |= TTF_IDISHWND;
+        pTI->lpszText = LPSTR_TEXTCALLBACK;
+        ::GetWindowRect(hWndChild, &pTI->rect);
+        ::MapWindowPoints(nullptr, m_hWnd, reinterpret_cast<LPPOINT>(&pTI->rect), 2);
+    }
+    return nHit;
+}

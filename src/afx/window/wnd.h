@@ -33,6 +33,10 @@ struct _AFX_OCC_DIALOG_INFO;
 #define WF_MODALLOOP 0x0008  // a modal loop of this window is running
 #define WF_CONTINUEMODAL 0x0010
 
+// OnToolHitTest, in TOOLINFO::uFlags
+#define TTF_NOTBUTTON 0x80000000L  // it is shown while a mouse button is down, too
+#define TTF_ALWAYSTIP 0x40000000L  // as well as in a window that is not active
+
 // RunModalLoop
 #define MLF_NOIDLEMSG 0x0001   // no WM_ENTERIDLE to the owner
 #define MLF_NOKICKIDLE 0x0002  // no WM_KICKIDLE to the window
@@ -67,6 +71,7 @@ public:
     HWND m_hWnd = nullptr;
     operator HWND() const { return m_hWnd; }
     BOOL operator==(const CWnd& wnd) const { return wnd.m_hWnd == m_hWnd; }
+    BOOL operator!=(const CWnd& wnd) const { return wnd.m_hWnd != m_hWnd; }
 
     CWnd();
     explicit CWnd(HWND hWnd) : m_hWnd(hWnd) {}
@@ -309,7 +314,22 @@ public:
     static BOOL ReflectLastMsg(HWND hWndChild, LRESULT* pResult = nullptr);
     BOOL SendChildNotifyLastMsg(LRESULT* pResult = nullptr);
 
+    /// What tooltips and the message line tell about a point of the client area: a command or
+    /// control number, with its rectangle in pTI unless that is null, or -1. Knows the children.
+    virtual INT_PTR OnToolHitTest(CPoint point, TOOLINFO* pTI) const;
+    /// What OnToolHitTest tells has a tooltip from now on. Its text is asked for by TTN_NEEDTEXT,
+    /// which frames answer with the string of the number. Gives bEnable.
+    BOOL EnableToolTips(BOOL bEnable = TRUE);
+    /// Hides it until the mouse comes to something else. bKeys: and the message line is idle again.
+    static void PASCAL CancelToolTips(BOOL bKeys = FALSE);
+    /// Part of PreTranslateMessage; to be called for messages that do not pass there.
+    void FilterToolTipMessage(MSG* pMsg);
+
     void OnFinalRelease() override;
+
+    /// Windows tell the system what it asks about them for people who cannot see or point; there is
+    /// nothing to be turned on.
+    void EnableActiveAccessibility() {}
 
     // ActiveX controls, once AfxEnableControlContainer was called
     COleControlContainer* m_pCtrlCont = nullptr;  ///< of the controls in this window
@@ -362,6 +382,13 @@ public:
     /// on. FALSE from windows that are no dialogs.
     virtual BOOL SetOccDialogInfo(_AFX_OCC_DIALOG_INFO* pOccDialogInfo);
 
+    // For ID_HELP, ID_HELP_INDEX, ID_HELP_FINDER and ID_HELP_USING in a window's map: the
+    // application's.
+    afx_msg void OnHelp();
+    afx_msg void OnHelpIndex();
+    afx_msg void OnHelpFinder();
+    afx_msg void OnHelpUsing();
+
     UINT m_nFlags = 0;
 
 protected:
@@ -402,6 +429,7 @@ protected:
     afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
     afx_msg void OnActivateApp(BOOL bActive, DWORD dwThreadID);
     afx_msg void OnChildActivate();
+    afx_msg void OnMDIActivate(BOOL bActivate, CWnd* pActivateWnd, CWnd* pDeactivateWnd);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg void OnKillFocus(CWnd* pNewWnd);
     afx_msg void OnEnable(BOOL bEnable);
@@ -443,6 +471,9 @@ protected:
     afx_msg int OnVKeyToItem(UINT nKey, CListBox* pListBox, UINT nIndex);
     afx_msg int OnCharToItem(UINT nChar, CListBox* pListBox, UINT nIndex);
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
+
+    /// What a list tells whose rows are dragged.
+    afx_msg LRESULT OnDragList(WPARAM wParam, LPARAM lParam);
 
     // The frame of a window
     afx_msg void OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS* lpncsp);
@@ -503,6 +534,40 @@ protected:
     afx_msg void OnMouseHover(UINT nFlags, CPoint point);
     afx_msg void OnMouseLeave();
     afx_msg void OnCaptureChanged(CWnd* pWnd);
+
+    // Clipboard, devices, the session, and what menus tell besides
+    afx_msg void OnClipboardUpdate();
+    afx_msg void OnDestroyClipboard();
+    afx_msg void OnRenderFormat(UINT nFormat);
+    afx_msg void OnRenderAllFormats();
+    afx_msg void OnPaintClipboard(CWnd* pClipAppWnd, HGLOBAL hPaintStruct);
+    afx_msg void OnSizeClipboard(CWnd* pClipAppWnd, HGLOBAL hRect);
+    afx_msg void OnAskCbFormatName(UINT nMaxCount, LPTSTR lpszString);
+    afx_msg void OnHScrollClipboard(CWnd* pClipAppWnd, UINT nSBCode, UINT nPos);
+    afx_msg void OnVScrollClipboard(CWnd* pClipAppWnd, UINT nSBCode, UINT nPos);
+    afx_msg void OnCompacting(UINT nCpuTime);
+    afx_msg void OnSpoolerStatus(UINT nStatus, UINT nJobs);
+    afx_msg void OnIconEraseBkgnd(CDC* pDC);
+    afx_msg BOOL OnDeviceChange(UINT nEventType, DWORD_PTR dwData);
+    afx_msg UINT OnPowerBroadcast(UINT nPowerEvent, LPARAM nEventData);
+    afx_msg void OnSessionChange(UINT nSessionState, UINT nId);
+    afx_msg void OnUserChanged();
+    afx_msg void OnWinIniChange(LPCTSTR lpszSection);
+    afx_msg void OnInputLangChange(UINT nCharSet, UINT nLocaleId);
+    afx_msg void OnInputLangChangeRequest(UINT nFlags, UINT nLocaleId);
+    afx_msg void OnHotKey(UINT nHotKeyId, UINT nKey1, UINT nKey2);
+    afx_msg void OnRawInput(UINT nInputCode, HRAWINPUT hRawInput);
+    afx_msg void OnNcMouseHover(UINT nHitTest, CPoint point);
+    afx_msg void OnNcMouseLeave();
+    afx_msg void OnNextMenu(UINT nKey, LPMDINEXTMENU lpMDINextMenu);
+    afx_msg void OnUnInitMenuPopup(CMenu* pPopupMenu, UINT nFlags);
+    afx_msg void OnMenuRButtonUp(UINT nPos, CMenu* pMenu);
+    afx_msg UINT OnMenuDrag(UINT nPos, CMenu* pMenu);
+    afx_msg UINT OnMenuGetObject(MENUGETOBJECTINFO* pMenuGetObjectInfo);
+    afx_msg void OnMenuCommand(UINT nPos, CMenu* pMenu);
+    afx_msg UINT OnQueryUIState();
+    afx_msg void OnChangeUIState(UINT nAction, UINT nUIElement);
+    afx_msg void OnUpdateUIState(UINT nAction, UINT nUIElement);
 
     // Palettes
     afx_msg BOOL OnQueryNewPalette();

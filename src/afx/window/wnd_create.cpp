@@ -258,6 +258,7 @@ BOOL CWnd::DestroyWindow() {
 }
 
 void CWnd::OnNcDestroy() {
+    EnableToolTips(FALSE);
     if (CWinThread* pThread = AfxGetThread()) {
         if (pThread->m_pMainWnd == this) {
             pThread->m_pMainWnd = nullptr;

@@ -45,6 +45,10 @@ void CWnd::OnChildActivate() {
     Default();
 }
 
+void CWnd::OnMDIActivate(BOOL, CWnd*, CWnd*) {
+    Default();
+}
+
 void CWnd::OnSetFocus(CWnd*) {
     Default();
 }
@@ -378,6 +382,12 @@ HBRUSH CWnd::OnCtlColor(CDC*, CWnd* pWnd, UINT) {
         return reinterpret_cast<HBRUSH>(lResult);
     }
     return reinterpret_cast<HBRUSH>(Default());
+}
+
+LRESULT CWnd::OnDragList(WPARAM, LPARAM lParam) {
+    LRESULT lResult = 0;
+    return ReflectLastMsg(reinterpret_cast<DRAGLISTINFO*>(lParam)->hWnd, &lResult) ? lResult
+                                                                                   : Default();
 }
 
 void CWnd::OnHScroll(UINT, UINT, CScrollBar* pScrollBar) {

@@ -2,12 +2,15 @@
 #include "afx/window/wnd.h"
 
 #include "afx/drawing/handle_map.h"
+#include "afx/drawing/thread_map.h"
 #include "afx/ole/wnd_control.h"
 #include "afx/window/wnd_state.h"
 
 #include <afxwin.h>
 
 IMPLEMENT_DYNCREATE(CWnd, CCmdTarget)
+
+static const UINT s_nDragList = ::RegisterWindowMessage(DRAGLISTMSGSTRING);
 
 BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
     ON_WM_NCDESTROY()
@@ -26,6 +29,7 @@ BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
     ON_WM_DEVMODECHANGE()
     ON_WM_FONTCHANGE()
     ON_WM_DISPLAYCHANGE()
+    ON_REGISTERED_MESSAGE(s_nDragList, &CWnd::OnDragList)
 END_MESSAGE_MAP()
 
 const CWnd CWnd::wndTop(HWND_TOP);
@@ -54,20 +58,13 @@ HWND CWnd::GetSafeHwnd() const {
 
 namespace {
 
-using WndMap = CHandleMap<CWnd, HWND>;
+struct WndMap : CHandleMap<CWnd, HWND> {
+    WndMap() : CHandleMap([](CWnd& wnd, HWND hWnd) { wnd.m_hWnd = hWnd; }) {}
+};
 
-/// A window belongs to its thread, and so does its object. Kept to the process's end, because
-/// global objects may hold windows until then.
+/// A window belongs to its thread, and so does its object.
 WndMap& ThreadWndMap() {
-    constexpr auto Make = [] {
-        return new WndMap([](CWnd& wnd, HWND hWnd) { wnd.m_hWnd = hWnd; });
-    };
-    if (AfxInFirstThread()) {
-        static WndMap* const pFirst = Make();
-        return *pFirst;
-    }
-    static thread_local WndMap* pOther = Make();
-    return *pOther;
+    return AfxThreadMap<WndMap>();
 }
 
 }  // namespace

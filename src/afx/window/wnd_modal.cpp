@@ -9,6 +9,13 @@
 #include <afxwin.h>
 
 BOOL CWnd::PreTranslateMessage(MSG* pMsg) {
+    const HWND hWnd = m_hWnd;
+    if ((m_nFlags & WF_TOOLTIPS) != 0) {
+        FilterToolTipMessage(pMsg);
+        if (FromHandlePermanent(hWnd) != this) {
+            return TRUE;  // who was asked took it away
+        }
+    }
     return (m_pCtrlSite != nullptr || m_pCtrlCont != nullptr) && AfxPreTranslateControl(this, pMsg);
 }
 

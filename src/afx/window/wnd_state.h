@@ -1,6 +1,8 @@
 // What the window half of the framework keeps for each thread. Internal to the framework.
 #pragma once
 
+#include "afx/drawing/thread_map.h"
+
 #include <afxwin.h>
 
 #include <exception>
@@ -18,10 +20,26 @@ struct AfxWndState {
     HWND hLockoutNotify = nullptr;  ///< its controls' notifications are dropped meanwhile
     HMENU hLastPopup = nullptr;     ///< the menu that opened last
     HWND hLastMeasured = nullptr;   ///< the child that was asked last how high an item is
+    HHOOK hHookFilter = nullptr;    ///< for ProcessMessageFilter
+    CWnd* pMainStandIn = nullptr;   ///< names the main window, in a thread that began with it
     CWinThread* pThread = nullptr;  ///< the thread object, the application's in the main thread
+    bool bQuits = false;            ///< WM_QUIT was posted, and Run has not seen it
+    int nExitCode = 0;              ///< that it was posted with
 };
 
 AfxWndState& AfxGetWndState();
+
+/// Makes the calling thread pThread's, with hWndMain for its main window unless it has one.
+void AfxEnterThread(CWinThread* pThread, HWND hWndMain);
+/// From InitInstance to ExitInstance. What is thrown on the way is told as in the message loop, and
+/// the thread ends as one that could not begin.
+int AfxRunThread(CWinThread& thread);
+/// Whether messages of the system's own loops pass the calling thread's ProcessMessageFilter.
+void AfxFilterMessages(bool bFilter);
+/// Lets go of what the calling thread has.
+void AfxLeaveThread();
+/// The objects that FromHandle made up in the calling thread.
+void AfxDeleteTempMaps();
 
 /// AfxHookWindowCreate for a window that somebody else creates: the next dialog, of that parent if
 /// there is one. Others that come before it are not taken.
@@ -29,14 +47,6 @@ void AfxHookDialogCreate(CWnd* pWnd, HWND hWndParent = nullptr);
 
 /// The system's message box. Its owner is disabled or not afterwards as it was before.
 int AfxShowBox(HWND hWndOwner, LPCTSTR lpszText, LPCTSTR lpszCaption, UINT nType);
-
-/// True in the thread that asked first, whose things are at hand without thread-local storage:
-/// this compiler calls into the thread library for that, several times a message. The first thread
-/// of a program that has windows is its main thread.
-inline bool AfxInFirstThread() {
-    static const DWORD s_nFirst = ::GetCurrentThreadId();
-    return ::GetCurrentThreadId() == s_nFirst;
-}
 
 /// What the framework's free functions need of its classes' inner parts.
 struct AfxWndAccess {
@@ -79,6 +89,9 @@ private:
 /// and needs no memory.
 LRESULT AfxProcessCurrentException(const MSG& msg);
 LRESULT AfxProcessCurrentException(HWND hWnd, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+
+/// A thread's last step, once: what it throws is told like what a message throws, and gives -1.
+int AfxExitInstance(CWinThread& thread);
 
 /// A comparison of the program's on its way through a control's sorting: what it throws is kept
 /// while the control's code runs, and told to the application behind it. All rows compare as equal

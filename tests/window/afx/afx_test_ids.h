@@ -4,6 +4,7 @@
 #define IDD_EXCHANGE 2001
 #define IDD_MODAL 2002
 #define IDR_FRAME 2010
+#define IDB_PALETTE 2011
 
 #define IDC_NAME 2101
 #define IDC_NUMBER 2102

@@ -1,6 +1,8 @@
 // The application's services: wait cursor, settings, messages.
 #include "support/test_app.h"
 
+#include <afxdisp.h>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -51,6 +53,37 @@ TEST(AppSettings, ComeBackFromTheRegistryAndFromTheIniFile) {
         EXPECT_STREQ(app.GetProfileString("Names", "Title", "gone"), "gone");
         EXPECT_TRUE(app.WriteProfileString("Names", nullptr, nullptr));
     }
+}
+
+/// Throws in one of its steps, which have letters.
+class ThrowingApp : public TestApp {
+public:
+    std::string m_strWhere, m_strSteps;
+    BOOL InitApplication() override { return Step("a"); }
+    BOOL InitInstance() override { return Step("i"); }
+    int Run() override { return Step("r"), AfxPostQuitMessage(7), CWinThread::Run(); }
+    int ExitInstance() override { return Step("e"), TestApp::ExitInstance(); }
+    BOOL Step(const char* pszStep) {
+        return m_strSteps += pszStep, m_strWhere == pszStep ? throw new CUserException : TRUE;
+    }
+};
+
+TEST(AppMain, AStepThatThrowsIsToldAndEndsTheProgram) {
+    CWinApp* const pTestApp = AfxGetApp();
+    const struct {
+        const char *pszWhere, *pszSteps;
+        int nResult;
+    } kCases[] = {
+        {"", "aire", 7}, {"a", "a", -1}, {"i", "aie", 0}, {"r", "aire", 0}, {"e", "aire", -1}};
+    for (const auto& c : kCases) {
+        ThrowingApp app;
+        app.m_strWhere = c.pszWhere;
+        EXPECT_EQ(AfxWinMain(::GetModuleHandle(nullptr), nullptr, nullptr, SW_HIDE), c.nResult);
+        EXPECT_EQ(app.m_strSteps, c.pszSteps);
+        EXPECT_EQ(app.m_exceptions.size(), *c.pszWhere != 0);
+    }
+    AfxGetModuleState()->m_pCurrentWinApp = pTestApp;
+    AfxOleInit();
 }
 
 TEST(AppMessages, WhatIsFilledInIsNotFilledInAgain) {

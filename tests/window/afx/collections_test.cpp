@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <gtest/gtest.h>
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
@@ -113,6 +114,53 @@ TEST(Map, IsWalkedWhileWhatWasGivenGoes) {
     }
     EXPECT_EQ(seen.size(), size_t{kCount});
     EXPECT_EQ(map.GetCount(), kCount / 2);
+}
+
+/// A key whose numbers collide.
+struct Odd {
+    int n = 0;
+    bool operator==(const Odd& odd) const { return n == odd.n; }
+};
+
+}  // namespace
+
+template <>
+UINT HashKey<const Odd&>(const Odd& odd) {
+    return static_cast<UINT>(odd.n % 3);
+}
+
+namespace {
+
+TEST(Map, KeepsWhatAMapOfTheLanguageKeeps) {
+    std::map<int, int> plain;
+    CMap<Odd, const Odd&, int, int> map;
+    unsigned nSeed = 7;
+    const auto random = [&](int nMost) {
+        nSeed = nSeed * 1103515245 + 12345;
+        return static_cast<int>(nSeed >> 16) % nMost;
+    };
+    for (int i = 0; i < 3000; ++i) {
+        const Odd key{random(100)};
+        switch (random(4)) {
+            case 0:
+                EXPECT_EQ(map.RemoveKey(key) != FALSE, plain.erase(key.n) > 0);
+                break;
+            case 1:
+                map[key] += i, plain[key.n] += i;
+                break;
+            default:
+                map.SetAt(key, i), plain[key.n] = i;
+        }
+        int nValue = -1;
+        const auto it = plain.find(key.n);
+        ASSERT_EQ(map.Lookup(key, nValue) != FALSE, it != plain.end());
+        ASSERT_TRUE(it == plain.end() || it->second == nValue);
+    }
+    std::map<int, int> walked;
+    for (const auto* p = map.PGetFirstAssoc(); p != nullptr; p = map.PGetNextAssoc(p)) {
+        walked[p->key.n] = p->value;
+    }
+    EXPECT_EQ(walked, plain);
 }
 
 }  // namespace

@@ -12,9 +12,6 @@
 
 namespace {
 
-constexpr CLSID kFake = {
-    0x6F2B7A11, 0x41C7, 0x4E0B, {0x9C, 0x55, 0x0A, 0x1D, 0x7E, 0x22, 0x83, 0x01}};
-
 template <class Base>
 class HostingDialog : public Base {
 public:
@@ -42,7 +39,7 @@ protected:
             return step == "create" && m_class.m_nAlive == 1 ? E_FAIL : S_OK;
         };
     }
-    FakeControlClass m_class{kFake};
+    FakeControlClass m_class{CLSID_FakeControl};
     RecordingParent m_parent;
 };
 
@@ -54,7 +51,7 @@ TEST_F(ControlDialog, ControlsStandAtTheirPlacesWithTheirState) {
         EXPECT_EQ(refused.m_nInits, 0);
     }
     m_class.m_strLicence.clear();
-    m_class.m_values[DISPID_TEXT] = OwnedVariant::Text(L"");
+    m_class.m_values[DISPID_TEXT] = COleVariant("");
     std::string state;
     m_class.m_hook = [&](const std::string& step) {
         state += step == "load" || step == "new" ? step + " " : "";

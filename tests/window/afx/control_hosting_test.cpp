@@ -18,8 +18,6 @@
 
 namespace {
 
-constexpr CLSID kFake = {
-    0x6F2B7A11, 0x41C7, 0x4E0B, {0x9C, 0x55, 0x0A, 0x1D, 0x7E, 0x22, 0x83, 0x01}};
 constexpr CLSID kBrowser = {
     0x8856F961, 0x340A, 0x11D0, {0xA9, 0x6B, 0x00, 0xC0, 0x4F, 0xD7, 0x05, 0xA2}};
 constexpr DWORD kShown = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
@@ -83,8 +81,8 @@ class ControlHosting : public testing::Test {
 protected:
     BOOL Create(CWnd& wrapper, DWORD dwStyle = kShown, CFile* pPersist = nullptr,
                 BOOL bStorage = FALSE, BSTR bstrKey = nullptr, LPCTSTR lpszText = nullptr) {
-        return wrapper.CreateControl(kFake, lpszText, dwStyle, kPlace, &m_host, IDC_HOSTED,
-                                     pPersist, bStorage, bstrKey);
+        return wrapper.CreateControl(CLSID_FakeControl, lpszText, dwStyle, kPlace, &m_host,
+                                     IDC_HOSTED, pPersist, bStorage, bstrKey);
     }
     /// Nothing of a control is left, but for references that the test has.
     void ExpectNothingLeft(const CWnd& wrapper, int nAlive = 0) {
@@ -94,7 +92,7 @@ protected:
         EXPECT_EQ(::GetWindow(m_host.m_hWnd, GW_CHILD), nullptr);
     }
 
-    FakeControlClass m_class{kFake};
+    FakeControlClass m_class{CLSID_FakeControl};
     Host m_host;
 };
 
@@ -102,8 +100,11 @@ TEST_F(ControlHosting, WindowIsTheWrappersAndAChildOfItsParent_AllGoesWithIt) {
     const LONG nHandles = AfxGetOwnedHandleCount();
     for (const DWORD dwStyle : {kShown, kShown & ~WS_VISIBLE, kShown | WS_DISABLED}) {
         m_class.m_steps.clear();
-        m_class.m_values[DISPID_ENABLED] = OwnedVariant::Long(1);
-        m_class.m_values[DISPID_CAPTION] = OwnedVariant::Text(L"");
+        m_class.m_values[DISPID_ENABLED] = COleVariant(1L);
+        m_class.m_values.erase(DISPID_CAPTION);
+        if ((dwStyle & WS_DISABLED) == 0) {  // the others have their window's text
+            m_class.m_values[DISPID_CAPTION] = COleVariant("");
+        }
         CWnd wrapper;
         ASSERT_TRUE(Create(wrapper, dwStyle, nullptr, FALSE, nullptr, "Text"));
         EXPECT_EQ(wrapper.m_hWnd, m_class.m_control->m_hWnd);
@@ -161,7 +162,8 @@ TEST_F(ControlHosting, WhateverEndsItInAnyStep_NothingIsTouchedAfterwards) {
                 return S_OK;
             };
             CWnd* const pThis = pWrapper.get();
-            pThis->CreateControl(kFake, nullptr, kShown, kPlace, pHost.get(), IDC_HOSTED);
+            pThis->CreateControl(CLSID_FakeControl, nullptr, kShown, kPlace, pHost.get(),
+                                 IDC_HOSTED);
             if (pWrapper != nullptr && pWrapper->m_hWnd != nullptr) {
                 pThis->MoveWindow(0, 0, 9, 9);
             }
@@ -223,10 +225,10 @@ TEST_F(ControlHosting, LicenceKeyAndOwnSize) {
     CWnd refused;
     EXPECT_FALSE(Create(refused));
     CWnd wrapper;
-    const OwnedVariant key = OwnedVariant::Text(L"key");
+    const COleVariant key = COleVariant("key");
     const CPoint point(3, 4);
-    ASSERT_TRUE(wrapper.CreateControl(kFake, nullptr, kShown, &point, nullptr, &m_host, IDC_HOSTED,
-                                      nullptr, FALSE, V_BSTR(&key)));
+    ASSERT_TRUE(wrapper.CreateControl(CLSID_FakeControl, nullptr, kShown, &point, nullptr, &m_host,
+                                      IDC_HOSTED, nullptr, FALSE, V_BSTR(&key)));
     EXPECT_EQ(wrapper.m_pCtrlSite->m_rect, CRect(point, CSize(96, 48)));
 }
 
@@ -263,11 +265,11 @@ TEST_F(ControlHosting, EventsReachTheWrapperThenTheParent_NotWhileItIsMade) {
     ASSERT_TRUE(Create(wrapper));
     FakeControl& control = *m_class.m_control;
     EXPECT_TRUE(m_host.m_events.empty());
-    control.Fire(9, {OwnedVariant::Long(1)});
+    control.Fire(9, {COleVariant(1L)});
     EXPECT_EQ(wrapper.m_nReflected, 1);
     EXPECT_EQ(m_host.m_events, std::vector<DISPID>{9});
     wrapper.m_bTakes = true;
-    control.Fire(9, {OwnedVariant::Long(1)});
+    control.Fire(9, {COleVariant(1L)});
     control.TellChanged(11);
     m_host.m_onEvent = [](AFX_EVENT& event) { event.m_bPropChanged = FALSE; };
     EXPECT_EQ(control.AskToChange(12), S_FALSE);
@@ -327,7 +329,7 @@ TEST_F(ControlHosting, AmbientPropertiesComeFromTheWindow) {
     log.lfHeight = 150;
     log.lfItalic = TRUE;
     m_host.m_font.CreatePointFontIndirect(&log);
-    const OwnedVariant ambientFont = control.Ambient(DISPID_AMBIENT_FONT);
+    const COleVariant ambientFont = control.Ambient(DISPID_AMBIENT_FONT);
     ASSERT_EQ(ambientFont.vt, VT_DISPATCH);
     COleDispatchDriver driver(V_DISPATCH(&ambientFont), FALSE);
     BOOL bItalic = FALSE;

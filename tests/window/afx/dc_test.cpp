@@ -75,7 +75,7 @@ TEST_F(TwoContexts, ModesAreSetInBothAndAskedOfTheAttributes) {
 }
 
 TEST_F(TwoContexts, SelectionsReachBothButForBitmaps) {
-    CPen pen(PS_SOLID, 3, 0);
+    CPen pen(PS_SOLID, 3, RGB(0, 0, 0));
     CPen* pOld = m_dc.SelectObject(&pen);
     EXPECT_EQ(::GetCurrentObject(m_attrib, OBJ_PEN), pen.m_hObject);
     EXPECT_EQ(m_dc.SelectObject(pOld), &pen);

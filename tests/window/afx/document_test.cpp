@@ -42,7 +42,8 @@ public:
     ~Sheet() override { --s_nLiving, Tell("~doc"); }
     BOOL OnNewDocument() override { return CDocument::OnNewDocument() && Tell("new"); }
     BOOL OnOpenDocument(LPCTSTR psz) override {
-        return CDocument::OnOpenDocument(psz) && Tell("open");
+        s_told ? s_told("opening") : void();
+        return !s_bFails && CDocument::OnOpenDocument(psz) && Tell("open");
     }
     BOOL OnSaveDocument(LPCTSTR) override { return SetModifiedFlag(FALSE), Tell("save"); }
     void OnCloseDocument() override { Tell("close"), CDocument::OnCloseDocument(); }
@@ -247,9 +248,6 @@ TEST_F(Documents, AreSavedUnderTheirName_OrOneThatTheUserGives) {
     EXPECT_TRUE(m_pDoc->DoFileSave());
     EXPECT_EQ(::lstrcmpi(m_pDoc->GetPathName(), other.Path()), 0);
     ::SetFileAttributes(file.Path(), FILE_ATTRIBUTE_NORMAL);
-    const TempFile kept("kept");
-    EXPECT_FALSE(m_pDoc->CDocument::OnSaveDocument(kept.Path()));
-    EXPECT_EQ(kept.Content(), "kept");
 }
 
 TEST_F(Documents, ThatCannotBeMadeLeaveNothing) {
@@ -269,6 +267,24 @@ TEST_F(Documents, ThatCannotBeMadeLeaveNothing) {
             FailingHeap::kJustOne, [&] { Try([&] { m_pTemplate->OpenDocumentFile(nullptr); }); },
             [&](int) { close(); }),
         5);
+}
+
+TEST_F(Documents, ThatCannotReadAFileStayWhatTheyWereOrAreEmpty) {
+    const TempFile file, other;
+    for (const int nCase : {0, 1, 2, 3}) {
+        const bool bTouched = nCase >= 2;
+        Open(file.Path());
+        m_pDoc->SetModifiedFlag(), TheTestApp().m_nAnswer = IDNO;
+        s_told = [&](const std::string& strStep) {
+            s_bFails = strStep == (bTouched ? "open" : "opening");
+            nCase % 2 != 0 && s_bFails ? AfxThrowUserException() : void();
+        };
+        EXPECT_NE(Try([&] { m_pTemplate->OpenDocumentFile(other.Path()); }) == Outcome::kDone,
+                  nCase % 2);
+        s_told = nullptr, s_bFails = false;
+        EXPECT_EQ(m_pDoc->IsModified(), !bTouched);
+        EXPECT_EQ(m_pDoc->GetPathName().IsEmpty(), bTouched);
+    }
 }
 
 // A frame or a document that goes in the midst of a step.

@@ -1,5 +1,4 @@
 // Event sinks: handlers get arguments in their types, whatever a control sends.
-#include "support/recording_dispatch.h"
 #include "support/test_app.h"
 
 #include <afxdisp.h>

@@ -23,16 +23,15 @@ struct Kind {
     const char* pszMessage;  ///< what the application hears
     Thrower pfnThrow;
 };
-constexpr Kind kKinds[] = {
-    {"Out of memory.", AfxThrowMemoryException},
-    {"Out of memory.", [] { throw std::bad_alloc(); }},
-    {"A resource is not available.", AfxThrowResourceException},
-    {"", AfxThrowUserException},
-    {"missing was not found",
-     [] { AfxThrowFileException(CFileException::fileNotFound, -1, "missing"); }},
-    {"foreign", [] { throw std::runtime_error("foreign"); }},
-    {"unknown exception", [] { throw 5; }},
-    {"unknown exception", [] { throw static_cast<const char*>("text"); }}};
+const Kind kKinds[] = {{"Out of memory.", AfxThrowMemoryException},
+                       {"Out of memory.", [] { throw std::bad_alloc(); }},
+                       {"A resource is not available.", AfxThrowResourceException},
+                       {"", AfxThrowUserException},
+                       {"missing was not found",
+                        [] { AfxThrowFileException(CFileException::fileNotFound, -1, "missing"); }},
+                       {"foreign", [] { throw std::runtime_error("foreign"); }},
+                       {"unknown exception", [] { throw 5; }},
+                       {"unknown exception", [] { throw static_cast<const char*>("text"); }}};
 
 constexpr UINT kThrow = WM_APP + 40;
 

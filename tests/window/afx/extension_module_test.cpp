@@ -25,8 +25,11 @@ void ExpectTheOthersFound() {
     }
     EXPECT_EQ(RUNTIME_CLASS(ModuleObject), CRuntimeClass::FromName("ModuleObject"));
     CString str;
-    EXPECT_TRUE(str.LoadString(IDS_SECOND));
-    EXPECT_TRUE(str.LoadString(AFX_IDP_PARSE_INT));
+    for (const UINT nID : {IDS_SECOND, IDS_SECOND_BESIDE, AFX_IDS_IDLEMESSAGE, AFX_IDP_PARSE_INT}) {
+        char szText[80] = "";
+        EXPECT_TRUE(str.LoadString(nID) && AfxLoadString(nID, szText, sizeof szText)) << nID;
+        EXPECT_STREQ(szText, str);
+    }
 }
 
 TEST(ExtensionModule, LoadedLate_JoinsAndLeaves) {

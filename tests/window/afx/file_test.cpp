@@ -6,6 +6,8 @@
 #include <functional>
 #include <gtest/gtest.h>
 #include <malloc.h>
+#include <map>
+#include <memory>
 #include <random>
 #include <string>
 
@@ -219,6 +221,75 @@ TEST(MemFile, AttachedMemoryStaysItsOwners) {
     EXPECT_EQ(std::string(reinterpret_cast<char*>(pBytes), 10), "0123456789");
     std::free(pBytes);
     EXPECT_EQ(file.GetLength(), 0u);
+}
+
+TEST(FileFind, GoesThroughAFolder) {
+    char szFolder[MAX_PATH];
+    ::GetTempPath(sizeof szFolder, szFolder);
+    const CString strFolder = CString(szFolder) + "qv find\\";
+    ::CreateDirectory(strFolder, nullptr);
+    ::CreateDirectory(strFolder + "inner.d", nullptr);
+    CFile(strFolder + "one.txt", CFile::modeCreate | CFile::modeWrite).Write("12345", 5);
+    CFile(strFolder + ".hidden", CFile::modeCreate | CFile::modeWrite).Close();
+    std::map<std::string, std::string> found;
+    CFileFind finder;
+    BOOL bMore = finder.FindFile(strFolder + "*");
+    EXPECT_EQ(finder.GetFileName(), "") << "there is no current file yet";
+    while (bMore) {
+        bMore = finder.FindNextFile();
+        if (!finder.IsDots()) {
+            EXPECT_EQ(finder.GetFilePath(), strFolder + finder.GetFileName());
+            found[std::string(finder.GetFileName())] = std::string(finder.GetFileTitle()) +
+                                                       (finder.IsDirectory() ? "/" : "") +
+                                                       std::to_string(finder.GetLength());
+        }
+    }
+    EXPECT_EQ(found, (std::map<std::string, std::string>{
+                         {"inner.d", "inner/0"}, {"one.txt", "one5"}, {".hidden", ".hidden0"}}));
+    EXPECT_EQ(finder.GetRoot(), strFolder);
+    EXPECT_FALSE(finder.FindNextFile());
+    EXPECT_FALSE(finder.FindFile(strFolder + "*.none"));
+    finder.Close();
+    CFile::Remove(strFolder + "one.txt");
+    CFile::Remove(strFolder + ".hidden");
+    ::RemoveDirectory(strFolder + "inner.d");
+    EXPECT_TRUE(::RemoveDirectory(strFolder)) << "a search is still open";
+}
+
+TEST(File, TellsAndTakesItsStatus) {
+    const TempFile temp("text");
+    CFileStatus status;
+    ASSERT_TRUE(CFile::GetStatus(temp.Path(), status));
+    const CTime changed(2001, 2, 3, 4, 5, 6);
+    for (const BYTE by : {BYTE(CFile::readOnly), BYTE(CFile::normal)}) {  // and off again
+        status.m_mtime = by == CFile::readOnly ? changed : CTime(0);
+        status.m_attribute = by;
+        CFile::SetStatus(temp.Path(), status);
+        ASSERT_TRUE(CFile::GetStatus(temp.Path(), status));
+        EXPECT_EQ(status.m_attribute & CFile::readOnly, by);
+        EXPECT_EQ(status.m_mtime.GetTime(), changed.GetTime());
+    }
+    EXPECT_THROW(CFile::SetStatus("Q:\\none", status), CFileException*);
+}
+
+TEST(File, DuplicatesShareThePosition_AndLocksKeepOthersOut) {
+    const TempFile temp("0123456789");
+    CFile file(temp.Path(), CFile::modeReadWrite | CFile::shareDenyNone);
+    char ch = 0;
+    {
+        const std::unique_ptr<CFile> pTwin(file.Duplicate());
+        pTwin->Seek(4, CFile::begin);
+        file.Read(&ch, 1);
+        EXPECT_EQ(ch, '4');
+    }
+    file.Read(&ch, 1);
+    EXPECT_EQ(ch, '5') << "the duplicate closed its own handle";
+    CFile other(temp.Path(), CFile::modeReadWrite | CFile::shareDenyNone);
+    file.LockRange(0, 4);
+    EXPECT_THROW(other.LockRange(2, 4), CFileException*);
+    file.UnlockRange(0, 4);
+    EXPECT_NO_THROW(other.LockRange(2, 4));
+    EXPECT_THROW(CMemFile().Duplicate(), CNotSupportedException*);
 }
 
 }  // namespace

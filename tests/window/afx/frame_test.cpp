@@ -14,6 +14,7 @@
 namespace {
 
 std::vector<std::string> s_log;
+std::function<void()> s_onUpdate;
 
 class ClientWnd : public CWnd {
 public:
@@ -48,7 +49,7 @@ protected:
         return 0;
     }
     afx_msg void OnFrameCommand() { s_log.push_back("frame"); }
-    afx_msg void OnUpdateOff(CCmdUI* pCmdUI) { pCmdUI->Enable(FALSE); }
+    afx_msg void OnUpdateOff(CCmdUI* pCmdUI) { s_onUpdate ? s_onUpdate() : pCmdUI->Enable(FALSE); }
     afx_msg void OnUpdateOther(CCmdUI* pCmdUI) {
         pCmdUI->SetText("New name");
         pCmdUI->SetCheck(1);
@@ -138,6 +139,51 @@ TEST_F(Frames, BringMenusUpToDate_DisablingWhatNobodyHandles) {
     EXPECT_TRUE(IsEnabled(ID_ON_NOBODY));
 }
 
+TEST_F(Frames, EndWithTheirMenuWhereAHandlerClosesThem) {
+    s_onUpdate = [this] { m_pFrame->DestroyWindow(); };
+    UpdateMenu();
+    m_pFrame = nullptr;
+    s_onUpdate = nullptr;
+}
+
+TEST_F(Frames, ShowAndHideTheirBarsByTheBarsNumbers) {
+    ::AppendMenu(Popup(), MF_STRING, ID_VIEW_STATUS_BAR, "Bar");
+    for (const BOOL bVisible : {TRUE, FALSE, TRUE}) {
+        UpdateMenu();
+        EXPECT_EQ(m_pFrame->m_bar.IsVisible(), bVisible);
+        EXPECT_EQ(::GetMenuState(Popup(), ID_VIEW_STATUS_BAR, MF_BYCOMMAND) & MF_CHECKED,
+                  bVisible ? MF_CHECKED : 0u);
+        CRect rcFrame, rcPane;
+        m_pFrame->GetClientRect(rcFrame), m_pFrame->m_client.GetClientRect(rcPane);
+        EXPECT_EQ(rcPane.Height() < rcFrame.Height(), bVisible != FALSE);
+        EXPECT_TRUE(m_pFrame->SendMessage(WM_COMMAND, ID_VIEW_STATUS_BAR));
+    }
+    EXPECT_FALSE(m_pFrame->OnCmdMsg(ID_VIEW_TOOLBAR, CN_COMMAND, nullptr, nullptr)) << "has none";
+}
+
+BOOL CALLBACK NeverCloses(CFrameWnd*) {
+    return FALSE;
+}
+
+// Below a pane that shows erasing would only flicker; so it would until a preview's pane shows.
+TEST_F(Frames, EraseWhereNoPaneShows) {
+    CDC dc;
+    CBitmap bitmap;
+    CClientDC dcFrame(m_pFrame);
+    dc.CreateCompatibleDC(&dcFrame);
+    bitmap.CreateCompatibleBitmap(&dcFrame, 8, 8);
+    CBitmap* pOld = dc.SelectObject(&bitmap);
+    for (const char cCase : std::string("sphg")) {  // shown, in preview, hidden, gone
+        dc.SetPixel(4, 4, RGB(1, 2, 3));
+        m_pFrame->m_lpfnCloseProc = cCase == 'p' ? NeverCloses : nullptr;
+        cCase == 'h' || cCase == 'p' ? m_pFrame->m_client.ShowWindow(SW_HIDE) : FALSE;
+        cCase == 'g' ? m_pFrame->m_client.DestroyWindow() : FALSE;
+        m_pFrame->SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.m_hDC));
+        EXPECT_EQ(dc.GetPixel(4, 4) == RGB(1, 2, 3), cCase == 's' || cCase == 'p') << cCase;
+    }
+    dc.SelectObject(pOld);
+}
+
 TEST_F(Frames, TranslateTheirAccelerators) {
     BYTE keys[256] = {};
     ::GetKeyboardState(keys);
@@ -182,6 +228,11 @@ TEST_F(Frames, ClosingTheMainFrame_EndsTheMessageLoop) {
     m_pFrame = nullptr;
     EXPECT_EQ(app.Run(), 0);
     EXPECT_EQ(app.m_pMainWnd, nullptr);
+
+    AfxPostQuitMessage(7);
+    MSG msg;
+    ::PeekMessage(&msg, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+    EXPECT_EQ(app.CWinThread::Run(), 7) << "also where another loop took the message";
 }
 
 TEST(FrameCreation, WithAMenuThatIsNowhere_Fails) {

@@ -1,5 +1,7 @@
 // Pens, brushes, fonts, bitmaps, palettes, regions and image lists: who owns the handle, and what
 // it was made of.
+#include "window/afx/afx_test_ids.h"
+
 #include <afxcmn.h>
 
 #include <gtest/gtest.h>
@@ -100,6 +102,25 @@ TEST(ImageLists, OwnTheirHandlesUntilTheyGo) {
     }
     EXPECT_EQ(AfxGetOwnedHandleCount(), nOwned);
     EXPECT_FALSE(list.Create(9999u, 8, 1, RGB(0, 128, 128)));
+}
+
+TEST(ImageLists, KeepTheColoursOfABitmapWithAPalette) {
+    CImageList list;
+    ASSERT_TRUE(list.Create(IDB_PALETTE, 8, 0, RGB(255, 0, 255)));
+    EXPECT_EQ(list.GetImageCount(), 2);
+    CClientDC dcScreen(nullptr);
+    CDC dc;
+    CBitmap bitmap;
+    dc.CreateCompatibleDC(&dcScreen);
+    bitmap.CreateCompatibleBitmap(&dcScreen, 16, 8);
+    CBitmap* pOld = dc.SelectObject(&bitmap);
+    dc.FillSolidRect(0, 0, 16, 8, RGB(1, 2, 3));
+    list.Draw(&dc, 0, CPoint(0, 0), ILD_NORMAL);
+    list.Draw(&dc, 1, CPoint(8, 0), ILD_NORMAL);
+    EXPECT_EQ(dc.GetPixel(4, 4), RGB(200, 30, 40));
+    EXPECT_EQ(dc.GetPixel(12, 4), RGB(30, 160, 70));
+    EXPECT_EQ(dc.GetPixel(4, 7), RGB(1, 2, 3)) << "the mask's colour, the lowest line";
+    dc.SelectObject(pOld);
 }
 
 TEST(GdiObjects, APointIsSoManyUnitsOfTheContext) {

@@ -184,4 +184,24 @@ TEST(SuperProcedure, MessagesOfAControlsOwnGoToTheProcedureBehind) {
     EXPECT_EQ(tree.SendMessage(TVM_GETCOUNT), 77);
 }
 
+/// As programs from before 64 bits have it.
+class OldTimer : public CWnd {
+public:
+    UINT m_nSeen = 0;
+
+protected:
+    afx_msg void OnTimer(UINT nIDEvent) { m_nSeen = nIDEvent; }
+    DECLARE_MESSAGE_MAP()
+};
+BEGIN_MESSAGE_MAP(OldTimer, CWnd)
+    ON_WM_TIMER()
+END_MESSAGE_MAP()
+
+TEST(OldTimers, KeepTheirNumbers) {
+    OldTimer wnd;
+    ASSERT_TRUE(MakePopup(wnd));
+    wnd.SendMessage(WM_TIMER, 7);
+    EXPECT_EQ(wnd.m_nSeen, 7u);
+}
+
 }  // namespace

@@ -1,5 +1,6 @@
 // Strings: copies that share a text, cutting, searching, formats, buffers.
 #include <afxwin.h>
+#include <atlconv.h>
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -129,8 +130,14 @@ TEST(String, FormatsAsThePrintFunctionsDo) {
     EXPECT_STREQ(str, "name|    ab|ab    |na|c%");
     str.Format("%I64d %S %ls %hs", INT64_MIN, L"wide", L"wide", "narrow");
     EXPECT_STREQ(str, "-9223372036854775808 wide wide narrow");
-    str.Format("%s%s", strLong.GetString(), strLong.GetString());
+    str.Format("%s%s", strLong, strLong.GetString());
     EXPECT_STREQ(str, strLong + strLong);
+    str = "x";
+    str.Format("%s%s", str, CStringW(L"W").GetLength() == 1 ? str : name);
+    str.AppendFormat(" %S %d", CStringW(L"wide"), 5);
+    EXPECT_STREQ(str, "xx wide 5");
+    str.FormatMessage("%2!d! of %1", name, 7);
+    EXPECT_STREQ(str, "7 of name");
 }
 
 TEST(String, BuffersHaveTheRoomThatWasAskedFor) {
@@ -149,6 +156,50 @@ TEST(String, BuffersHaveTheRoomThatWasAskedFor) {
     EXPECT_THROW(str.SetAt(4, 'x'), CInvalidArgException*);
     EXPECT_STREQ(CString(static_cast<LPCSTR>(nullptr), 5), "");
     EXPECT_STREQ(CString('x', -1), "");
+}
+
+TEST(String, GoesOverToOtherKindsOfText) {
+    ::SetEnvironmentVariable("QV_TEST_VARIABLE", "its value");
+    CString str("before");
+    EXPECT_TRUE(str.GetEnvironmentVariable("QV_TEST_VARIABLE"));
+    EXPECT_STREQ(str, "its value");
+    EXPECT_FALSE(str.GetEnvironmentVariable("QV_NO_SUCH_VARIABLE"));
+    EXPECT_STREQ(str, "");
+
+    BSTR bstr = CString("one").AllocSysString();
+    CString("two").SetSysString(&bstr);
+    VARIANT var;
+    var.vt = VT_BSTR;
+    var.bstrVal = bstr;
+    EXPECT_STREQ(CString(var), "two");
+    ::VariantClear(&var);
+    var.vt = VT_I4;
+    var.lVal = -5;
+    EXPECT_STREQ(CString(var), "-5");
+    var.vt = VT_UNKNOWN;
+    var.punkVal = nullptr;
+    EXPECT_STREQ(CString(var), "");
+
+    USES_CONVERSION;
+    EXPECT_STREQ(W2T(T2W("there and back")), "there and back");
+    EXPECT_EQ(A2W(nullptr), nullptr);
+    CStringW strWide(CString("wide"));
+    strWide += L" text";
+    EXPECT_STREQ(CW2A(strWide.Mid(5)), "text");
+    strWide.Format(L"%s %d", L"of", 3);
+    EXPECT_STREQ(CString(strWide), "of 3");
+}
+
+TEST(String, PartsOfAListLieBetweenSeparators) {
+    const struct {
+        int nPart;
+        const char* pszPart;  ///< null: there is none
+    } cases[] = {{0, "a"}, {1, ""}, {2, "b"}, {3, ""}, {4, nullptr}, {-1, nullptr}};
+    for (const auto& [nPart, pszPart] : cases) {
+        CString str("a||b|");
+        EXPECT_EQ(AfxExtractSubString(str, str, nPart, '|') != FALSE, pszPart != nullptr);
+        EXPECT_STREQ(str, pszPart != nullptr ? pszPart : "");
+    }
 }
 
 }  // namespace

@@ -18,11 +18,16 @@
 namespace {
 
 constexpr COLORREF kRed = RGB(255, 0, 0);
+constexpr COLORREF kBlue = RGB(0, 0, 255);
 std::string s_log;
+std::vector<CSize> s_sizes;  // that the view was given
 std::function<void(UINT nPage)> s_onPrint;
 std::function<void(CPrintInfo&)> s_onPrepare;
+std::function<void()> s_onHide;
+bool s_bGoesOn = false;  // as the job says behind a page
 UINT s_nLastPage = 3;    // as the view says; 0: it does not
 UINT s_nStopBefore = 0;  // the page that OnPrepareDC refuses
+bool s_bAsks = false;    // for the printer of a document without pages
 
 void Log(const std::string& strStep) {
     s_log += (s_log.empty() ? "" : " ") + strStep;
@@ -33,8 +38,8 @@ class PaperView : public CView {
 protected:
     BOOL OnPreparePrinting(CPrintInfo* pInfo) override {
         Log(pInfo->m_bPreview ? "prepare?" : "prepare");
-        pInfo->m_bDirect = TRUE;
-        if (s_nLastPage != 0) {
+        pInfo->m_bDirect = !s_bAsks;
+        if (s_nLastPage != 0 || s_bAsks) {
             pInfo->SetMaxPage(s_nLastPage);
         }
         const BOOL bReady = DoPreparePrinting(pInfo);
@@ -58,10 +63,17 @@ protected:
         Log(std::to_string(pInfo->m_nCurPage));
         EXPECT_NEAR(pInfo->m_rectDraw.Width(), 1970, 20);
         pDC->FillSolidRect(CRect(400, -500, 700, -800), kRed);
+        CPen pen(PS_SOLID, 0, kBlue);
+        CPen* pOldPen = pDC->SelectObject(&pen);
+        pDC->MoveTo(pInfo->m_rectDraw.right - 1, pInfo->m_rectDraw.top);
+        pDC->LineTo(pInfo->m_rectDraw.right - 1, pInfo->m_rectDraw.bottom + 1);
+        pDC->LineTo(pInfo->m_rectDraw.left, pInfo->m_rectDraw.bottom + 1);
+        pDC->SelectObject(pOldPen);
         CFont* pOld = pDC->SelectObject(&m_font);
         pDC->TextOut(400, -1000, "Page");
         pDC->SelectObject(pOld);
         s_onPrint ? s_onPrint(pInfo->m_nCurPage) : void();
+        s_bGoesOn = pDC->QueryAbort() != FALSE;
     }
     void OnEndPrinting(CDC*, CPrintInfo*) override {
         m_font.DeleteObject();
@@ -78,6 +90,8 @@ protected:
         }
     }
     void OnDraw(CDC*) override {}
+    afx_msg void OnSize(UINT, int cx, int cy) { s_sizes.emplace_back(cx, cy); }
+    afx_msg void OnShowWindow(BOOL bShow, UINT) { !bShow&& s_onHide ? s_onHide() : void(); }
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -85,8 +99,10 @@ private:
 };
 IMPLEMENT_DYNCREATE(PaperView, CView)
 BEGIN_MESSAGE_MAP(PaperView, CView)
-    ON_COMMAND(ID_FILE_PRINT, &PaperView::OnFilePrint)
-    ON_COMMAND(ID_FILE_PRINT_PREVIEW, &PaperView::OnFilePrintPreview)
+    ON_WM_SIZE()
+    ON_WM_SHOWWINDOW()
+    ON_COMMAND(ID_FILE_PRINT, &CView::OnFilePrint)
+    ON_COMMAND(ID_FILE_PRINT_PREVIEW, &CView::OnFilePrintPreview)
 END_MESSAGE_MAP()
 
 class PaperFrame : public CFrameWnd {
@@ -124,8 +140,10 @@ protected:
     void TearDown() override {
         s_onPrint = nullptr;
         s_onPrepare = nullptr;
+        s_onHide = nullptr;
         s_nLastPage = 3;
         s_nStopBefore = 0;
+        s_bAsks = false;
         if (::IsWindow(m_hFrame)) {
             m_pFrame->DestroyWindow();
         }
@@ -156,6 +174,26 @@ protected:
     HWND m_hFrame = nullptr;
 };
 
+/// Takes the system's print dialog as it is.
+void CALLBACK AcceptPrintDialog(HWND, UINT, UINT_PTR nTimer, DWORD) {
+    if (const HWND hDialog = ::FindWindow("#32770", "Print")) {
+        ::KillTimer(nullptr, nTimer);
+        ::PostMessage(hDialog, WM_COMMAND, IDOK, 0);
+    }
+}
+
+std::string s_strJobFile;  // empty: there is none to give
+
+/// Answers the question for a job's file, whose field has the focus.
+void CALLBACK NameJobFile(HWND, UINT, UINT_PTR nTimer, DWORD) {
+    const HWND hDialog = ::FindWindow("#32770", "Print to File");
+    if (hDialog != nullptr && ::IsChild(hDialog, ::GetFocus())) {
+        ::KillTimer(nullptr, nTimer);
+        ::SetWindowText(::GetFocus(), s_strJobFile.c_str());
+        ::PostMessage(hDialog, WM_COMMAND, s_strJobFile.empty() ? IDCANCEL : IDOK, 0);
+    }
+}
+
 /// The dialog that names the page, while a job prints.
 HWND PrintingDialog() {
     HWND hFound = nullptr;
@@ -174,11 +212,13 @@ TEST_F(ViewPrinting, PrintsThePagesThatDocumentAndDialogHaveInCommon) {
         UINT nLast, nStop, nFrom, nTo;
         const char* pszLog;
         int nPages;
+        bool bAsks = false;
     } kCases[] = {{3, 0, 0, 0, "prepare begin 1 2 3 end", 3},
                   {0, 3, 0, 0, "prepare begin 1 2 end", 2},
                   {3, 0, 2, 9, "prepare begin 2 3 end", 2},
                   {0xFFF0, 0xFFF1, 0xFFF0, 0xFFF0, "prepare begin 65520 end", 1},
-                  {0, 0, 0, 0, "prepare begin end", 0}};
+                  {0, 0, 0, 0, "prepare begin end", 0},
+                  {0, 0, 0, 0, "prepare begin end", 0, true}};
     for (const auto& c : kCases) {
         SCOPED_TRACE(c.pszLog);
         const TempFile file;
@@ -190,12 +230,24 @@ TEST_F(ViewPrinting, PrintsThePagesThatDocumentAndDialogHaveInCommon) {
                 info.m_pPD->m_pd.Flags |= PD_PAGENUMS;
                 info.m_pPD->m_pd.nFromPage = static_cast<WORD>(c.nFrom);
                 info.m_pPD->m_pd.nToPage = static_cast<WORD>(c.nTo);
-            } else if (c.nPages == 0) {
+            } else if (c.nPages == 0 && !c.bAsks) {
                 info.SetMaxPage(0);
             }
         };
+        s_bAsks = c.bAsks && ::SetTimer(nullptr, 0, 10, AcceptPrintDialog) != 0;
         EXPECT_EQ(LogOf(ID_FILE_PRINT), c.pszLog);
         EXPECT_EQ(Prints(file), c.nPages);
+    }
+}
+
+TEST_F(ViewPrinting, APrinterThatWritesFilesAsksForTheirNames) {
+    for (const bool bGives : {false, true}) {
+        const TempFile file;
+        s_strJobFile = bGives ? std::string(file.Path()) + ".prn" : "";
+        ::SetTimer(nullptr, 0, 10, NameJobFile);
+        EXPECT_EQ(LogOf(ID_FILE_PRINT), bGives ? "prepare begin 1 2 3 end" : "prepare");
+        EXPECT_EQ(::DeleteFile(s_strJobFile.c_str()) != FALSE, bGives);
+        EXPECT_EQ(::GetFileAttributes("FILE:"), INVALID_FILE_ATTRIBUTES);
     }
 }
 
@@ -221,6 +273,7 @@ TEST_F(ViewPrinting, EachWayOutOfAJobTakesItBack) {
         };
         EXPECT_EQ(LogOf(ID_FILE_PRINT),
                   way.bFrameStays ? "prepare begin 1 2 end" : "prepare begin 1 2");
+        EXPECT_EQ(s_bGoesOn, std::string("throws") == way.pszWay) << "up to the first page";
         EXPECT_EQ(::IsWindowEnabled(m_hFrame) != FALSE, way.bFrameStays);
         EXPECT_EQ(PrintingDialog(), nullptr);
         EXPECT_EQ(::GetFileAttributes(file.Path()), INVALID_FILE_ATTRIBUTES);
@@ -229,6 +282,9 @@ TEST_F(ViewPrinting, EachWayOutOfAJobTakesItBack) {
 }
 
 TEST_F(ViewPrinting, APreviewTakesTheViewsPlaceAndGivesItBack) {
+    s_onPrepare = [this](CPrintInfo&) {
+        EXPECT_TRUE(m_pView->IsWindowVisible() && m_pFrame->m_tools.IsVisible()) << "until a page";
+    };
     EXPECT_EQ(LogOf(ID_FILE_PRINT_PREVIEW), "prepare? begin 1");
     ASSERT_TRUE(InPreview());
     EXPECT_FALSE(m_pView->IsWindowVisible());
@@ -254,6 +310,11 @@ TEST_F(ViewPrinting, APreviewTakesTheViewsPlaceAndGivesItBack) {
         EXPECT_EQ(::IsWindowEnabled(Button(AFX_ID_PREVIEW_NEXT)), step.bNext);
         EXPECT_EQ(::IsWindowEnabled(Button(AFX_ID_PREVIEW_ZOOMOUT)), step.bOut);
     }
+    m_pFrame->MoveWindow(0, 0, 300, 700);
+    CRect rcBar, rcClose;
+    ::GetWindowRect(::GetParent(Button(AFX_ID_PREVIEW_CLOSE)), rcBar);
+    ::GetWindowRect(Button(AFX_ID_PREVIEW_CLOSE), rcClose);
+    EXPECT_TRUE(rcBar.right > rcClose.right && rcBar.bottom > rcClose.bottom);
     EXPECT_EQ((s_log.clear(), ::SendMessage(m_hFrame, WM_CLOSE, 0, 0), s_log), "close1 end back");
     ASSERT_EQ(Pages(), m_pView);
     EXPECT_TRUE(m_pView->IsWindowVisible() && m_pFrame->m_tools.IsVisible());
@@ -264,6 +325,29 @@ TEST_F(ViewPrinting, APreviewTakesTheViewsPlaceAndGivesItBack) {
     const AfxPrintOutput output(file.Path());
     Command(ID_FILE_PRINT_PREVIEW);
     EXPECT_EQ(LogOf(AFX_ID_PREVIEW_PRINT), "close1 end back prepare begin 1 2 3 end");
+}
+
+TEST_F(ViewPrinting, TheFrameMayGoWhileAPreviewComesUp) {
+    s_onHide = [&] {
+        s_onHide = nullptr;
+        m_pFrame->DestroyWindow();
+    };
+    EXPECT_EQ(LogOf(ID_FILE_PRINT_PREVIEW), "prepare? begin 1 end");
+    EXPECT_FALSE(::IsWindow(m_hFrame));
+    EXPECT_TRUE(TheTestApp().m_exceptions.empty());
+}
+
+TEST_F(ViewPrinting, TheViewBelowAPreviewGetsNoSizeButTheLast) {
+    for (const int cx : {900, 700}) {
+        s_sizes.clear();
+        Command(ID_FILE_PRINT_PREVIEW);
+        m_pFrame->MoveWindow(0, 0, cx, 600);
+        m_pFrame->MoveWindow(0, 0, cx, 700);
+        Command(AFX_ID_PREVIEW_CLOSE);
+        CRect rc;
+        m_pView->GetClientRect(&rc);
+        EXPECT_EQ(s_sizes, cx == 900 ? std::vector<CSize>() : std::vector<CSize>{rc.Size()});
+    }
 }
 
 TEST_F(ViewPrinting, KeysTurnPagesUpToTheLastWhichMayNotBeKnown) {
@@ -284,6 +368,10 @@ TEST_F(ViewPrinting, KeysTurnPagesUpToTheLastWhichMayNotBeKnown) {
     EXPECT_TRUE(TypeKey(VK_TAB));  // to the bar, where page keys go on working
     EXPECT_TRUE(TypeKey(VK_PRIOR));
     EXPECT_STREQ(m_pFrame->m_status.GetPaneText(0), "Page 1");
+    EXPECT_TRUE(TypeKey(VK_DOWN));
+    EXPECT_STREQ(m_pFrame->m_status.GetPaneText(0), "Page 2");
+    EXPECT_TRUE(TypeKey(VK_ADD));
+    EXPECT_TRUE(::IsWindowEnabled(Button(AFX_ID_PREVIEW_ZOOMOUT)));
     EXPECT_TRUE(TypeKey(VK_ESCAPE));
     EXPECT_EQ(Pages(), m_pView);
 }
@@ -301,6 +389,7 @@ TEST_F(ViewPrinting, AmongTenThousandPagesOnlyTheOneThatShowsIsDrawn) {
 TEST_F(ViewPrinting, ASquareIsOneAtEachZoomAndInItsPlace) {
     m_pFrame->MoveWindow(0, 0, 700, 500);
     Command(ID_FILE_PRINT_PREVIEW);
+    EXPECT_GT(Picture::Fresh(*Pages()).Count(kBlue), 400) << "both lines at the edge";
     int nBefore = 0;
     for (int nZoom = 0; nZoom < 3; ++nZoom) {
         const Picture picture = Picture::Fresh(*Pages());
@@ -329,6 +418,7 @@ TEST_F(ViewPrinting, WhateverAViewDoesUnderItsPreviewLeavesNothingBehind) {
         bool bPreview, bFrame;
         UINT nPage = 2;
     } kWays[] = {{"throws at once", [] { AfxThrowUserException(); }, false, true, 1},
+                 {"frame first", [this] { ::DestroyWindow(m_hFrame); }, false, false, 1},
                  {"throws", [] { AfxThrowUserException(); }, true, true},
                  {"closes", [this] { Command(AFX_ID_PREVIEW_CLOSE); }, false, true},
                  {"pages", [this] { Command(AFX_ID_PREVIEW_PREV); }, true, true},

@@ -1,0 +1,8 @@
+// Part of <afxcontrolbars.h>, for programs that include it alone.
+#pragma once
+
+#define __AFXFRAMEWNDEX_H__
+
+#include "afx/app/app_ex.h"
+
+#include <afxwin.h>

@@ -1,0 +1,6 @@
+// CRichEditCtrl.
+#pragma once
+
+#define __AFXRICH_H__
+
+#include <afxcmn.h>

@@ -1,0 +1,6 @@
+// CSplitterWndEx.
+#pragma once
+
+#include "afx/app/splitter_ex.h"
+
+#include <afxext.h>

@@ -1,0 +1,6 @@
+// CTabView.
+#pragma once
+
+#include "afx/documents/pages_view.h"
+
+#include <afxwin.h>

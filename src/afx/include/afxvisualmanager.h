@@ -1,0 +1,8 @@
+// Part of <afxcontrolbars.h>, for programs that include it alone.
+#pragma once
+
+#define __AFXVISUALMANAGER_H__
+
+#include "afx/app/visual_manager.h"
+
+#include <afxwin.h>

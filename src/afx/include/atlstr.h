@@ -1,0 +1,7 @@
+// CString alone, and the conversions between kinds of text.
+#pragma once
+
+#define __ATLSTR_H__
+
+#include <afxstr.h>
+#include <atlconv.h>

@@ -1,0 +1,6 @@
+// CString alone.
+#pragma once
+
+#define __CSTRINGT_H__
+
+#include <afxstr.h>
