@@ -24,8 +24,10 @@ public:
 
     // Gives each cell that is not fixed a tool, at the place that it has now, under the number
     // row * rows + column (the rows multiply, so that in a grid with more columns than rows cells
-    // may share a number). Later scrolling and sizing do not move the tools; the text is still that
-    // of the cell under the mouse. Only once for a grid.
+    // may share a number). The number is a UINT_PTR: on 32-bit systems its 32 bits may wrap in
+    // grids of more than 65,535 rows, and cells share numbers there too. Later scrolling and sizing
+    // do not move the tools; the text is still that of the cell under the mouse. Only once for a
+    // grid.
     //
     // Beyond kMaxToolTips cells only those places get a tool that the mouse can reach, which are
     // those on the screen if the grid were as large: tools are searched and added one by one.

@@ -8,10 +8,11 @@
 
 namespace qv {
 
-template <class Result>
-Result GetMember(CWnd& wnd, DISPID id, VARTYPE vt) {
+// object: a wrapper or a COleDispatchDriver.
+template <class Result, class Object>
+Result GetMember(const Object& object, DISPID id, VARTYPE vt) {
     Result result{};
-    wnd.GetProperty(id, vt, &result);
+    object.GetProperty(id, vt, &result);
     return result;
 }
 

@@ -1,6 +1,7 @@
 #include "boxes/bitmap_combo_box.h"
 
 #include "boxes/combo_item.h"
+#include "boxes/combo_keys.h"
 #include "boxes/core/box_heights.h"
 #include "boxes/core/box_order.h"
 #include "common/process_text.h"
@@ -22,6 +23,7 @@ IMPLEMENT_DYNCREATE(QVBitmapComboBox, CComboBox)
 
 BEGIN_MESSAGE_MAP(QVBitmapComboBox, CComboBox)
     ON_WM_MEASUREITEM()
+    ON_WM_CHAR()
 END_MESSAGE_MAP()
 
 // --- Creation
@@ -254,4 +256,18 @@ void QVBitmapComboBox::DrawRow(const DRAWITEMSTRUCT& draw) {
         m_imageList.Draw(&item.Context(), nImage, ptImage, ILD_NORMAL);
     }
     item.DrawFocus(nStrip);
+}
+
+// --- Keys
+
+void QVBitmapComboBox::OnChar(UINT nChar, UINT, UINT) {
+    CString strText;
+    const qv::WindowWatch watch(m_alive, m_hWnd);
+    const auto textOf = [&](int nRow) -> LPCSTR {
+        GetDisplayText(nRow, GetItemData(nRow), FALSE, strText);
+        return watch ? ParseStyleText(strText) : nullptr;
+    };
+    if (!AreExpectedKeysEnabled() || !qv::TakeTypedChar(*this, m_alive, Typed(), nChar, textOf)) {
+        Default();
+    }
 }

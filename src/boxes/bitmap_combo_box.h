@@ -9,6 +9,9 @@
 // it. The text may begin with one style code (frame/styled_rows.h), which holds for the whole row.
 // A style's background shows behind the letters alone, and -1 does not stand for none here.
 //
+// With EnableExpectedKeys, letters lead to the next row that begins with them as it is shown, in
+// boxes without an edit; the parent is told as of an arrow key.
+//
 // Without memory nothing is thrown: what reports failure reports it, and rows stay as they are.
 // The parent may delete rows and destroy the control whenever it is told something; what was under
 // way then ends. In two messages the platform's own control does not live through its end: in the
@@ -20,6 +23,7 @@
 #pragma once
 
 #include "frame/alive.h"
+#include "frame/expected_keys.h"
 #include "frame/styled_rows.h"
 
 #include <afxcmn.h>
@@ -29,7 +33,9 @@ namespace qv {
 enum class NumberPlace;
 }
 
-class QV_CONTROLS_API QVBitmapComboBox : public CComboBox, public QVStyledRows {
+class QV_CONTROLS_API QVBitmapComboBox : public CComboBox,
+                                         public QVStyledRows,
+                                         public QVExpectedKeys {
     DECLARE_DYNCREATE(QVBitmapComboBox)
 
 public:
@@ -89,6 +95,7 @@ protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     afx_msg void OnMeasureItem(int nCtlID, LPMEASUREITEMSTRUCT pMeasure);
+    afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
     DECLARE_MESSAGE_MAP()
 
     int m_nBitmapHeight = 0;  // 0: no images

@@ -18,7 +18,9 @@ IMPLEMENT_DYNCREATE(QVBitmapListBox, CListBox)
 BEGIN_MESSAGE_MAP(QVBitmapListBox, CListBox)
     ON_WM_SIZE()
     ON_WM_RBUTTONDOWN()
-    ON_MESSAGE(WM_SETREDRAW, OnSetRedraw)
+    ON_WM_KEYDOWN()
+    ON_WM_CHAR()
+    ON_MESSAGE(WM_SETREDRAW, &QVBitmapListBox::OnSetRedraw)
 END_MESSAGE_MAP()
 
 // --- Set-up

@@ -14,6 +14,11 @@
 // centred or 20000 for a right-aligned field; so positions end at 9999. The first field lies before
 // any stop. A table holds 20 stops, and is read as far as the list has some, on paper as well.
 //
+// With EnableExpectedKeys, beside the platform's keys: letters lead to the next row that begins
+// with them, image numbers and style codes aside; Ctrl+A selects all rows where several may be
+// selected; Ctrl+C and Ctrl+Insert copy the selected ones. A list whose parent wants the keys
+// (LBS_WANTKEYBOARDINPUT) leaves it all but the letters.
+//
 // On paper: SetPrintFonts, BeginPrinting, CalcPrintTabStops, for each page PrintHeader and
 // PrintItems, EndPrinting. Widths are those of the titles in units of the printer; a derived
 // CalcTabs widens them. No images, no colours.
@@ -30,6 +35,7 @@
 #pragma once
 
 #include "frame/alive.h"
+#include "frame/expected_keys.h"
 #include "frame/styled_rows.h"
 
 #include <afxcmn.h>
@@ -45,7 +51,9 @@ namespace qv {
 enum class NumberPlace;
 }
 
-class QV_CONTROLS_API QVBitmapListBox : public CListBox, public QVStyledRows {
+class QV_CONTROLS_API QVBitmapListBox : public CListBox,
+                                        public QVStyledRows,
+                                        public QVExpectedKeys {
     DECLARE_DYNCREATE(QVBitmapListBox)
 
 public:
@@ -81,6 +89,10 @@ public:
     // sorts does not move it. 1 if that was done. The parent sees the old row's WM_DELETEITEM.
     int SetImage(int nIndex, int nImage);
     int SetItemString(int nIndex, const char* pszText);
+
+    // The selected rows as text that spreadsheets take, a cell for each field, without style codes.
+    // 0 if there is none, or no memory, or the clipboard is another's.
+    int CopySelection();
 
     // --- Tab stops. A null table means the list's own; others hold as many stops as the list has.
 
@@ -184,6 +196,8 @@ protected:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnRButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg LRESULT OnSetRedraw(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
@@ -230,6 +244,9 @@ private:
     void Select(int nIndex);
     int RowAt(CPoint point) const;
     void SelectUnderMouse(int nRow);
+    bool TakeTypedChar(UINT nChar);
+    void GoToRow(int nRow);
+    void TellSelection();
 
     CRect InParent(const CWnd& wnd) const;
     void FitHeaderToWidth(int cx);

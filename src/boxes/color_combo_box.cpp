@@ -1,6 +1,7 @@
 #include "boxes/color_combo_box.h"
 
 #include "boxes/combo_item.h"
+#include "boxes/combo_keys.h"
 #include "frame/ancestor_font.h"
 #include "frame/create_window.h"
 #include "frame/text_out.h"
@@ -21,6 +22,7 @@ IMPLEMENT_DYNCREATE(QVColorComboBox, CComboBox)
 
 BEGIN_MESSAGE_MAP(QVColorComboBox, CComboBox)
     ON_WM_MEASUREITEM()
+    ON_WM_CHAR()
 END_MESSAGE_MAP()
 
 // --- Creation
@@ -150,5 +152,19 @@ void QVColorComboBox::DrawColorBox(CDC* pDC, int nColor, const CPoint& pt) {
     if (nColor >= 0 && nColor < m_aColors.GetSize() && !rc.IsRectEmpty()) {
         CBrush brush(m_aColors[nColor]);
         pDC->FillRect(&rc, &brush);
+    }
+}
+
+// --- Keys
+
+void QVColorComboBox::OnChar(UINT nChar, UINT, UINT) {
+    CString strText;
+    const qv::WindowWatch watch(m_alive, m_hWnd);
+    const auto textOf = [&](int nRow) -> LPCSTR {
+        GetDisplayText(nRow, GetItemData(nRow), FALSE, strText);
+        return watch ? LPCSTR(strText) : nullptr;
+    };
+    if (!AreExpectedKeysEnabled() || !qv::TakeTypedChar(*this, m_alive, Typed(), nChar, textOf)) {
+        Default();
     }
 }

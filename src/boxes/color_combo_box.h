@@ -8,6 +8,9 @@
 // Each row is one string of the platform's control: the text, a TAB and the number of the colour in
 // the table. The text may hold TABs itself.
 //
+// With EnableExpectedKeys, letters lead to the next row that begins with them as it is shown, in
+// boxes without an edit; the parent is told as of an arrow key.
+//
 // Without memory nothing is thrown: what reports failure reports it. The parent may delete rows and
 // destroy the control whenever it is told something, but in the WM_MEASUREITEM of a row that comes
 // and in the WM_DELETEITEM of a single row, which the platform's own control does not live through.
@@ -16,12 +19,13 @@
 #pragma once
 
 #include "frame/alive.h"
+#include "frame/expected_keys.h"
 #include "frame/qv_api.h"
 
 #include <afxtempl.h>
 #include <afxwin.h>
 
-class QV_CONTROLS_API QVColorComboBox : public CComboBox {
+class QV_CONTROLS_API QVColorComboBox : public CComboBox, public QVExpectedKeys {
     DECLARE_DYNCREATE(QVColorComboBox)
 
 public:
@@ -63,6 +67,7 @@ protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     afx_msg void OnMeasureItem(int nCtlID, LPMEASUREITEMSTRUCT pMeasure);
+    afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
     DECLARE_MESSAGE_MAP()
 
     CArray<COLORREF, COLORREF> m_aColors;

@@ -48,7 +48,7 @@ public:
     /// TRUE if the current folder and drive do not matter: "C:\a" and "\\machine\share", but
     /// neither "\a" nor "C:a". With another separator than the backslash "/a" is absolute.
     BOOL IsAbsolute() const;
-    BOOL IsUnc() const;  ///< begins with a machine: "\\machine…" or "\\?\UNC\machine…"
+    BOOL IsUnc() const;  ///< begins with a machine: "\\machine..." or "\\?\UNC\machine..."
 
     /// Leaves out "." and resolves "..", which ends at the root: "C:\", or "\\machine\share".
     /// Single separators, none at the end; what comes to nothing is ".". "\\?\" paths stay.

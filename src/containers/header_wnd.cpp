@@ -18,6 +18,18 @@ qv::HeaderBar LayoutOf(const CWnd& wnd, int nHeaderHeight) {
     return {qv::ToRect(rcClient), nHeaderHeight};
 }
 
+// The caption is what a screen reader calls the inner control: its window text, which shows
+// nowhere.
+void NameInner(HWND hInner, const CString& strCaption) {
+    if (hInner != nullptr) {
+        qv::MemorySuffices([&] {
+            CString strName(strCaption);
+            strName.Replace("&", "&&");
+            ::SetWindowText(hInner, strName);
+        });
+    }
+}
+
 }  // namespace
 
 BEGIN_MESSAGE_MAP(QVHeaderWnd, CWnd)
@@ -92,6 +104,7 @@ void QVHeaderWnd::SetHeaderText(LPCSTR pszText) {
         return;
     }
     if (m_hWnd != nullptr) {
+        NameInner(::GetWindow(m_hWnd, GW_CHILD), m_strHeaderText);
         CRect rect;
         CalcHeaderRect(rect);
         InvalidateRect(&rect, TRUE);
@@ -206,6 +219,7 @@ void QVHeaderWnd::SizeInnerWnd(UINT nType, CWnd& wndInner) {
 }
 
 void QVHeaderWnd::ShareTabStop(CWnd& wndInner) {
+    NameInner(wndInner.m_hWnd, m_strHeaderText);
     if ((wndInner.GetStyle() & WS_TABSTOP) != 0) {
         ModifyStyleEx(0, WS_EX_CONTROLPARENT);
     }

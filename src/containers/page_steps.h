@@ -1,4 +1,4 @@
-// What pages of tab windows and of tab views do alike.
+// What pages of tab windows and of tab views do alike, and what is done with them.
 
 #pragma once
 
@@ -52,6 +52,15 @@ bool MakePage(Page& page, PageLife& life, CWnd& tabs) {
     return inUse && page.m_hWnd != nullptr;
 }
 
+// Takes the page's window away, and the object as soon as none of its functions runs.
+inline void DiscardPage(CWnd& page, PageLife& life) {
+    const PageLife::InUse inUse(life);
+    page.DestroyWindow();
+    if (inUse) {
+        life.Discard();
+    }
+}
+
 // Appends a page and its title, both or none.
 template <class Page>
 bool KeepPage(CArray<Page*, Page*>& pages, CStringArray& titles, Page& page, const char* pszTitle) {
@@ -68,6 +77,14 @@ bool KeepPage(CArray<Page*, Page*>& pages, CStringArray& titles, Page& page, con
     return false;
 }
 
+// The window that has the tabs which the page is in. Null if it is no Owner, or without a window.
+template <class Owner>
+Owner* OwnerOfPage(HWND hPage) {
+    HWND hTabs = hPage != nullptr ? ::GetParent(hPage) : nullptr;
+    HWND hOwner = hTabs != nullptr ? ::GetParent(hTabs) : nullptr;
+    return hOwner != nullptr ? DYNAMIC_DOWNCAST(Owner, CWnd::FromHandlePermanent(hOwner)) : nullptr;
+}
+
 inline void MoveInset(CWnd& page, const CRect& rect) {
     constexpr int kPageInset = 10;
     page.MoveWindow(rect.left + kPageInset, rect.top + kPageInset, rect.Width() - 2 * kPageInset,
@@ -81,16 +98,27 @@ inline BOOL TranslateByMainWindow(MSG& msg) {
     return hTable != nullptr && ::TranslateAccelerator(pFrame->m_hWnd, hTable, &msg);
 }
 
-// Which control of a page had the focus last: a frame that comes to the front gives the focus to
-// its client window, which knows nothing of who had it before.
-inline void NoteFocus(HWND hPage, HWND& hWndFocus) {
-    HWND hFocus = ::GetFocus();
-    if (::IsChild(hPage, hFocus)) {
-        hWndFocus = hFocus;
+// A page's message before it is dispatched: the main window's accelerators, then what translate
+// does. hWndFocus: the control of the page that had the focus last; a frame that comes to the front
+// gives the focus to its client window, which knows nothing of who had it before.
+template <class Translate>
+BOOL TranslateInPage(const CWnd& page, PageLife& life, MSG& msg, HWND& hWndFocus,
+                     Translate translate) {
+    const PageLife::InUse inUse(life);
+    if (TranslateByMainWindow(msg) || !inUse) {
+        return TRUE;
     }
+    const BOOL bDone = translate();
+    if (inUse && page.m_hWnd != nullptr) {
+        HWND hFocus = ::GetFocus();
+        if (::IsChild(page.m_hWnd, hFocus)) {
+            hWndFocus = hFocus;
+        }
+    }
+    return bDone;
 }
 
-// False if that control cannot have it any more.
+// False if that control cannot have the focus any more.
 inline bool GiveFocusBack(HWND hPage, HWND hWndFocus) {
     const bool bCan =
         ::IsChild(hPage, hWndFocus) && ::IsWindowVisible(hWndFocus) && ::IsWindowEnabled(hWndFocus);

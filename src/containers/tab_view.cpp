@@ -31,6 +31,29 @@ namespace {
 
 constexpr int kTabMargin = 4;  // pixels beside the widest title
 
+// As controls know fonts. dc has the font selected. Without memory it has no object.
+COleFont OleFontOf(const CFont& font, CDC& dc) {
+    constexpr int kUnitsPerInch = 72 * 10000;  // sizes count in ten-thousandths of a point
+    LOGFONTW log = {};
+    ::GetObjectW(font.m_hObject, sizeof log, &log);
+    TEXTMETRIC metrics = {};
+    dc.GetTextMetrics(&metrics);
+    const LONG nHeight =
+        log.lfHeight < 0 ? -log.lfHeight : metrics.tmHeight - metrics.tmInternalLeading;
+    FONTDESC desc = {};
+    desc.cbSizeofstruct = sizeof desc;
+    desc.lpstrName = log.lfFaceName;
+    desc.cySize.int64 = ::MulDiv(nHeight, kUnitsPerInch, dc.GetDeviceCaps(LOGPIXELSY));
+    desc.sWeight = static_cast<SHORT>(log.lfWeight);
+    desc.sCharset = log.lfCharSet;
+    desc.fItalic = log.lfItalic;
+    desc.fUnderline = log.lfUnderline;
+    desc.fStrikethrough = log.lfStrikeOut;
+    COleFont oleFont;
+    ::OleCreateFontIndirect(&desc, IID_IFontDisp, reinterpret_cast<void**>(&oleFont.m_lpDispatch));
+    return oleFont;
+}
+
 }  // namespace
 
 QVTabView::QVTabView(UINT nTabCtrlID) : m_nTabCtrlID(nTabCtrlID) {}
@@ -132,15 +155,16 @@ void QVTabView::MakeTabHeight() {
         for (INT_PTR n = 0; n < m_astrTitles.GetSize(); ++n) {
             nLargest = std::max(nLargest, FindStringTwips(dc, m_astrTitles[n]));
         }
-        const int nDpi = dc.GetDeviceCaps(LOGPIXELSX);
-        m_TabCtrl.SetTabHeight(
-            static_cast<long>((nLargest + kTabMargin) * LONGLONG{qv::kTwipsPerInch} /
-                              (nDpi > 0 ? nDpi : qv::kUsualPixelsPerInch)));
+        // The control is to show the titles in the font that they are measured in.
+        if (pFont != nullptr) {
+            qv::ControlAnswers([&] { m_TabCtrl.SetFont(OleFontOf(*pFont, dc).m_lpDispatch); });
+        }
+        m_TabCtrl.SetTabHeight(static_cast<long>(
+            qv::PixelsToTwips(nLargest + kTabMargin, dc.GetDeviceCaps(LOGPIXELSX))));
     });
 }
 
-// The way of old through a text, from each line feed on by its offset in the last part alone, comes
-// to the same with one line feed; from the second feed on it never ends.
+// Measures any number of lines, also of titles with more than the two that they should have.
 int QVTabView::FindStringTwips(CDC& dc, const char* pszText) {
     std::string_view text(pszText != nullptr ? pszText : "");
     int nWidest = 0;
@@ -187,10 +211,7 @@ QVTabViewPage* QVTabView::AddPage(const char* pszTitle, CRuntimeClass* pClass) {
         return pPage;
     }
     if (inUse) {
-        pPage->DestroyWindow();
-    }
-    if (inUse) {
-        pPage->m_life.Discard();
+        qv::DiscardPage(*pPage, pPage->m_life);
     }
     return nullptr;
 }
@@ -336,8 +357,10 @@ void QVTabView::OnActivateView(BOOL bActivate, CView* pActivateView, CView* pDea
 
 void QVTabView::OnDraw(CDC*) {}
 
-BOOL QVTabView::OnEraseBkgnd(CDC*) {
-    return TRUE;
+// Without the control nothing covers the view.
+BOOL QVTabView::OnEraseBkgnd(CDC* pDC) {
+    const bool bCovered = m_TabCtrl.m_hWnd != nullptr && (m_TabCtrl.GetStyle() & WS_VISIBLE) != 0;
+    return bCovered || CView::OnEraseBkgnd(pDC);
 }
 
 void QVTabView::OnSetFocus(CWnd*) {

@@ -58,9 +58,7 @@ void QVTabViewPage::SetPageFocus() {
 void QVTabViewPage::GetMessageString(UINT, CString&) {}
 
 QVTabView* QVTabViewPage::GetTabView() const {
-    HWND hTabs = m_hWnd != nullptr ? ::GetParent(m_hWnd) : nullptr;
-    HWND hView = hTabs != nullptr ? ::GetParent(hTabs) : nullptr;
-    return hView != nullptr ? DYNAMIC_DOWNCAST(QVTabView, FromHandlePermanent(hView)) : nullptr;
+    return qv::OwnerOfPage<QVTabView>(m_hWnd);
 }
 
 // --- Context menus
@@ -88,15 +86,8 @@ void QVTabViewPage::ShowContextMenu(CMenu* pMenu, CPoint pt, UINT nDefaultItem) 
 // --- Keys and focus
 
 BOOL QVTabViewPage::PreTranslateMessage(MSG* pMsg) {
-    const qv::PageLife::InUse inUse(m_life);
-    if (qv::TranslateByMainWindow(*pMsg) || !inUse) {
-        return TRUE;
-    }
-    const BOOL bDone = CDialog::PreTranslateMessage(pMsg);
-    if (inUse && m_hWnd != nullptr) {
-        qv::NoteFocus(m_hWnd, m_hWndFocus);
-    }
-    return bDone;
+    return qv::TranslateInPage(*this, m_life, *pMsg, m_hWndFocus,
+                               [&] { return CDialog::PreTranslateMessage(pMsg); });
 }
 
 LRESULT QVTabViewPage::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {

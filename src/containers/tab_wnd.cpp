@@ -85,7 +85,7 @@ BEGIN_MESSAGE_MAP(QVTabWnd, QVCustCtrl)
     ON_WM_SIZE()
     ON_WM_ERASEBKGND()
     ON_WM_SETFOCUS()
-    ON_NOTIFY(TCN_SELCHANGE, kTabCtrlId, OnSelchangeTab)
+    ON_NOTIFY(TCN_SELCHANGE, kTabCtrlId, &QVTabWnd::OnSelchangeTab)
 END_MESSAGE_MAP()
 
 // --- Creation
@@ -229,10 +229,7 @@ QVTabWndPage* QVTabWnd::AddPage(const char* pszTitle, QVTabWndPage* pPage) {
     }
     const auto nPage = static_cast<int>(m_Pages.GetSize());
     if (!qv::KeepPage(m_Pages, m_astrTitles, *pPage, pszTitle)) {
-        pPage->DestroyWindow();
-        if (inUse) {
-            pPage->m_life.Discard();
-        }
+        qv::DiscardPage(*pPage, pPage->m_life);
         return nullptr;
     }
     if (m_bInitialized && InsertTab(nPage)) {
@@ -266,11 +263,7 @@ void QVTabWnd::RemovePages() {
             if (pPage == nullptr) {
                 continue;
             }
-            const qv::PageLife::InUse inUse(pPage->m_life);
-            pPage->DestroyWindow();
-            if (inUse) {
-                pPage->m_life.Discard();
-            }
+            qv::DiscardPage(*pPage, pPage->m_life);
             if (!watch) {
                 return;
             }

@@ -9,7 +9,7 @@
 IMPLEMENT_DYNCREATE(QVTabWndPage, CDialog)
 
 BEGIN_MESSAGE_MAP(QVTabWndPage, CDialog)
-    ON_MESSAGE(WM_COMMANDHELP, OnCommandHelp)
+    ON_MESSAGE(WM_COMMANDHELP, &QVTabWndPage::OnCommandHelp)
     ON_WM_SETFOCUS()
 END_MESSAGE_MAP()
 
@@ -43,9 +43,7 @@ void QVTabWndPage::HidePage() {
 void QVTabWndPage::BeginPrinting(CDC*, QVPrintEngine&) {}
 
 QVTabWnd* QVTabWndPage::GetTabWnd() const {
-    HWND hTabs = m_hWnd != nullptr ? ::GetParent(m_hWnd) : nullptr;
-    HWND hTabWnd = hTabs != nullptr ? ::GetParent(hTabs) : nullptr;
-    return hTabWnd != nullptr ? DYNAMIC_DOWNCAST(QVTabWnd, FromHandlePermanent(hTabWnd)) : nullptr;
+    return qv::OwnerOfPage<QVTabWnd>(m_hWnd);
 }
 
 LRESULT QVTabWndPage::OnCommandHelp(WPARAM, LPARAM) {
@@ -55,15 +53,8 @@ LRESULT QVTabWndPage::OnCommandHelp(WPARAM, LPARAM) {
 // --- Keys and focus
 
 BOOL QVTabWndPage::PreTranslateMessage(MSG* pMsg) {
-    const qv::PageLife::InUse inUse(m_life);
-    if (qv::TranslateByMainWindow(*pMsg) || !inUse) {
-        return TRUE;
-    }
-    const BOOL bDone = CDialog::PreTranslateMessage(pMsg);
-    if (inUse && m_hWnd != nullptr) {
-        qv::NoteFocus(m_hWnd, m_hWndFocus);
-    }
-    return bDone;
+    return qv::TranslateInPage(*this, m_life, *pMsg, m_hWndFocus,
+                               [&] { return CDialog::PreTranslateMessage(pMsg); });
 }
 
 void QVTabWndPage::OnSetFocus(CWnd* pOldWnd) {

@@ -4,11 +4,11 @@
 #include "dialogs/ask_parts.h"
 #include "dialogs/dialog_ids.h"
 
-#include <qv_version.h>
+#include <qvcontrols/version.h>
 
 namespace {
 
-constexpr char kVersion[] = QV_VERSION;
+constexpr char kVersion[] = QVCONTROLS_VERSION;
 constexpr char kLegalLine[] = "No licence has been chosen yet.";
 
 void ExchangeIfThere(CDataExchange* pDX, int nID, CString& strText) {
@@ -94,14 +94,20 @@ void QVAboutBox::ShowExtras() {
     ::ShowWindow(hExtra4, m_strExtra4.IsEmpty() ? SW_HIDE : SW_SHOW);
 }
 
-// The controls tell the dialog that their texts change, where a derived class may end it.
+// To be read and copied, not to be typed over. The controls tell the dialog that their texts
+// change, where a derived class may end it.
 void QVAboutBox::ShowDatabase() {
+    constexpr long kReadOnly = 1;  // ControlType
     const qv::WindowWatch watch(m_alive, m_hWnd);
-    qv::ControlAnswers([&] { m_wndDatabaseType.SetText(m_strDatabaseType); });
-    if (watch) {
-        qv::ControlAnswers([&] { m_wndDatabaseLocation.SetText(m_strDatabaseLocation); });
-    }
-    if (watch) {
-        qv::ControlAnswers([&] { m_wndDatabaseName.SetText(m_strDatabaseName); });
-    }
+    const auto show = [&](CfpText& control, const CString& strText) {
+        if (watch) {
+            qv::ControlAnswers([&] { control.SetText(strText); });
+        }
+        if (watch) {
+            qv::ControlAnswers([&] { control.SetControlType(kReadOnly); });
+        }
+    };
+    show(m_wndDatabaseType, m_strDatabaseType);
+    show(m_wndDatabaseLocation, m_strDatabaseLocation);
+    show(m_wndDatabaseName, m_strDatabaseName);
 }

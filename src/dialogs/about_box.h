@@ -9,8 +9,9 @@
 //     box.DoModal();
 //
 // Set the fields, then DoModal. The form with a database shows it in three controls of CfpText
-// (activex/fp_text.h): DoModal gives -1 where those cannot be made, as for any dialog that cannot
-// be made. What such a control refuses is not shown; nothing is thrown.
+// (activex/fp_text.h), to be read and copied, not typed over: DoModal gives -1 where those cannot be
+// made, as for any dialog that cannot be made. What such a control refuses is not shown; nothing is
+// thrown.
 //
 // A template of a derived class may have the items 30110 and 30113 to 30115 as well (see
 // m_bExtended); the library's have not.

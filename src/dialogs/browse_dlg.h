@@ -14,8 +14,8 @@
 //
 // COM is initialised as long as the browser needs it, in a thread that has not done so.
 //
-// CSIDL_… and BIF_… are in the platform's <shlobj.h>, which this header does not bring: its names
-// (Folder, for one) are such as applications have themselves.
+// CSIDL_... and BIF_... are in the platform's <shlobj.h>, which this header does not bring: its
+// names (Folder, for one) are such as applications have themselves.
 
 #pragma once
 
@@ -33,11 +33,11 @@ public:
     /// IDOK or IDCANCEL; the latter also if there is no browser to be had.
     virtual int DoModal();
 
-    /// BIF_… of the platform. Exactly BIF_BROWSEFORCOMPUTER gives a computer's name as the path.
+    /// BIF_... of the platform. Exactly BIF_BROWSEFORCOMPUTER gives a computer's name as the path.
     void SetBrowseFlags(UINT nFlags) { m_nBrowseFlags = nFlags; }
     void SetBrowseComputers();
     void SetBrowsePrinters();
-    /// The root of what is shown: CSIDL_… of the platform. One that does not exist: the desktop.
+    /// The root of what is shown: CSIDL_... of the platform. One that does not exist: the desktop.
     void SetFolderLocation(int nCSIDL) { m_nFolderLocation = nCSIDL; }
     /// Above the folders. An id without string: none.
     void SetPromptString(LPCSTR pszPrompt);

@@ -126,8 +126,8 @@ private:
 
 BEGIN_MESSAGE_MAP(QVBrowseMachineDlg, CDialog)
     ON_WM_DESTROY()
-    ON_NOTIFY(TVN_ITEMEXPANDING, QV_IDC_BROWSE_TREE, OnItemexpandingBrowseTree)
-    ON_NOTIFY(TVN_SELCHANGED, QV_IDC_BROWSE_TREE, OnSelchangedBrowseTree)
+    ON_NOTIFY(TVN_ITEMEXPANDING, QV_IDC_BROWSE_TREE, &QVBrowseMachineDlg::OnItemexpandingBrowseTree)
+    ON_NOTIFY(TVN_SELCHANGED, QV_IDC_BROWSE_TREE, &QVBrowseMachineDlg::OnSelchangedBrowseTree)
 END_MESSAGE_MAP()
 
 QVBrowseMachineDlg::QVBrowseMachineDlg(CWnd* pParent)

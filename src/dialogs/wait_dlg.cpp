@@ -36,7 +36,7 @@ Pumped PumpQueue(int& nExitCode) {
             return Pumped::NotAll;
         }
         if (!pThread->PumpMessage()) {
-            nExitCode = static_cast<int>(pThread->m_msgCur.wParam);
+            nExitCode = static_cast<int>(msg.wParam);
             return Pumped::Quit;
         }
     }

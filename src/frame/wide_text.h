@@ -25,7 +25,7 @@ public:
     int Length() const { return m_nUnits; }
     std::wstring_view View() const { return {m_pUnits, static_cast<size_t>(m_nUnits)}; }
 
-    // Turns the widths of the first 1, 2, 3 … units, Length() of them, into those of the first
+    // Turns the widths of the first 1, 2, 3 ... units, Length() of them, into those of the first
     // bytes, one for each byte of the text: a byte counts up to the end of its character. Where
     // the text was cut, the last width stands for the rest.
     void UnitsToBytes(int* pWidths) const;

@@ -20,9 +20,9 @@ BEGIN_MESSAGE_MAP(QVGridCtrl, QVCustCtrl)
     ON_WM_PAINT()
     ON_WM_SIZE()
     ON_WM_VSCROLL()
-    ON_MESSAGE(WM_SETREDRAW, OnSetRedraw)
-    ON_MESSAGE(WM_GETFONT, OnGetFont)
-    ON_MESSAGE(WM_SETFONT, OnSetFont)
+    ON_MESSAGE(WM_SETREDRAW, &QVGridCtrl::OnSetRedraw)
+    ON_MESSAGE(WM_GETFONT, &QVGridCtrl::OnGetFont)
+    ON_MESSAGE(WM_SETFONT, &QVGridCtrl::OnSetFont)
     ON_WM_GETDLGCODE()
     ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONUP()
@@ -35,7 +35,7 @@ BEGIN_MESSAGE_MAP(QVGridCtrl, QVCustCtrl)
     ON_WM_SYSKEYDOWN()
     ON_WM_CHAR()
     ON_WM_DESTROY()
-    ON_EN_CHANGE(kGridEditId, OnChangeEditText)
+    ON_EN_CHANGE(kGridEditId, &QVGridCtrl::OnChangeEditText)
 END_MESSAGE_MAP()
 
 // --- Life
@@ -205,6 +205,7 @@ int QVGridCtrl::AddRow(UINT nStringID, DWORD dwState) {
 
 void QVGridCtrl::DeleteAllRows() {
     m_pCore->editing.DeleteRows();
+    m_pCore->deeds.Forget();
     m_nTopRow = -1;
     if (CanRepaint()) {
         CalcScrollBars();

@@ -16,6 +16,14 @@
 // made read-only, when its row is deleted, and, in a drop list, by Escape. Where code scrolls or a
 // window is moved or resized, editors follow their cells.
 //
+// With EnableExpectedKeys, beside the arrows and the ends: Ctrl+C and Ctrl+Insert copy the current
+// cell, Ctrl+X and Shift+Delete cut it, Ctrl+V and Shift+Insert paste what a spreadsheet copied,
+// from the current cell on; Ctrl+Z takes the last edits back, one by one, Ctrl+Y and Ctrl+Shift+Z
+// make them again. While a text is typed and a part of it is selected, copying and cutting are
+// about that part. Each cell goes the way of a typed one, with all that the parent is told; cells
+// that cannot be edited by hand are left alone, and so is a drop list that does not have the text.
+// A hundred edits are kept; those of a program are none.
+//
 // Without memory: AddColumn, AddRow and SetCellText throw CMemoryException, and leave what was
 // there. All other operations tell it by their result, or leave things as they are: an editor stays
 // closed, and one whose text cannot be saved stays open with it.
@@ -27,13 +35,14 @@
 #pragma once
 
 #include "frame/cust_ctrl.h"
+#include "frame/expected_keys.h"
 #include "grid/grid_records.h"
 
 #include <afxwin.h>
 
 #include <memory>
 
-class QV_CONTROLS_API QVGridCtrl : public QVCustCtrl, protected QVGridState {
+class QV_CONTROLS_API QVGridCtrl : public QVCustCtrl, public QVExpectedKeys, protected QVGridState {
     DECLARE_DYNCREATE(QVGridCtrl)
 
 public:
@@ -122,6 +131,16 @@ public:
     // screen. 0 is no limit: as tall as its choices, wherever that ends, as it has always been. For
     // the next list that opens.
     void SetMaxListLines(int nLines);
+
+    // --- What the expected keys do, for menus. Undo and redo know what was edited while the keys
+    // were enabled. The grid may be gone afterwards, as the parent is told.
+
+    // 0 without a current cell, or if the clipboard is another's.
+    BOOL CopyCell();
+    void PasteCells();
+    // 0 if there was nothing to take back or make again.
+    BOOL UndoEdit();
+    BOOL RedoEdit();
 
 protected:
     // --- Painting. dc has the grid's font and m_penGrid selected.
@@ -229,6 +248,7 @@ private:
     void ShowTopRow(int nTop);
     bool ReadCell(int nRow, int nCol, CString& str) const;
     void DrawRows(CDC& dc, const CRect& rcClient);
+    bool TakeExpectedKey(UINT nKey, bool bInEdit);
 
     std::unique_ptr<Core> m_pCore;
     BOOL m_bShowAddedRows = FALSE;

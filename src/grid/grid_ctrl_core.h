@@ -4,19 +4,21 @@
 
 #include "frame/core/row_scroll.h"
 #include "frame/wnd_port.h"
+#include "grid/core/grid_deeds.h"
 #include "grid/core/grid_editing.h"
 #include "grid/grid_ctrl.h"
 #include "grid/grid_edit.h"
 #include "grid/grid_list.h"
 
-class QVGridCtrl::Core : private qv::GridHostPort {
+class QVGridCtrl::Core : private qv::GridHostPort, private QVGridEditKeys {
 public:
     explicit Core(QVGridCtrl& grid)
         : port(grid),
           scroll(port),
-          edit(grid, editing),
+          edit(grid, editing, *this),
           list(grid, editing),
           editing(model, grid, *this, edit, list),
+          deeds(editing),
           m_grid(grid) {}
 
     const qv::AliveToken& Alive() const { return editing.Alive(); }
@@ -30,6 +32,7 @@ public:
     QVGridEdit edit;
     QVGridList list;
     qv::GridEditing editing;
+    qv::GridDeeds deeds;
 
 private:
     const void* Window() const override { return m_grid.m_hWnd; }
@@ -50,6 +53,9 @@ private:
     void TellParent(unsigned nCode) override;
     void HandleByDefault() override { m_grid.Default(); }
     bool SameText(const char* psz1, const char* psz2) const override;
+    void NoteEdit(qv::GridCell cell, const std::string& strBefore,
+                  const std::string& strAfter) override;
+    bool TakesEditKey(UINT nKey) override;
 
     QVGridCtrl& m_grid;
 };

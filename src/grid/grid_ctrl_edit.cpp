@@ -184,7 +184,9 @@ UINT QVGridCtrl::OnGetDlgCode() {
 }
 
 void QVGridCtrl::OnKeyDown(UINT nChar, UINT, UINT) {
-    m_pCore->editing.Key(nChar);
+    if (!AreExpectedKeysEnabled() || !TakeExpectedKey(nChar, false)) {
+        m_pCore->editing.Key(nChar);
+    }
 }
 
 void QVGridCtrl::OnSysKeyDown(UINT nChar, UINT, UINT) {

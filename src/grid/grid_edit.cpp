@@ -3,10 +3,13 @@
 #include "frame/rectangles.h"
 #include "grid/core/grid_keys.h"
 
+#include <utility>
+
 BEGIN_MESSAGE_MAP(QVGridEdit, CEdit)
     ON_WM_SETFOCUS()
     ON_WM_KILLFOCUS()
     ON_WM_KEYDOWN()
+    ON_WM_CHAR()
 END_MESSAGE_MAP()
 
 // --- What core asks of it
@@ -93,6 +96,15 @@ void QVGridEdit::OnKillFocus(CWnd*) {
 }
 
 void QVGridEdit::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
+    const qv::WindowWatch watch(m_alive, m_hWnd);
+    const bool bTaken = m_keys.TakesEditKey(nChar);
+    if (!watch) {
+        return;
+    }
+    m_bKeyTaken = bTaken;
+    if (bTaken) {
+        return;
+    }
     int nStart;
     int nEnd;
     GetSel(nStart, nEnd);
@@ -100,6 +112,13 @@ void QVGridEdit::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
     if (qv::LeavesEdit(nChar, nStart, nEnd, LineLength(0))) {
         m_grid.SendMessage(WM_KEYDOWN, nChar, MAKELPARAM(nRepCnt, nFlags));
     } else {
+        Default();
+    }
+}
+
+void QVGridEdit::OnChar(UINT nChar, UINT, UINT) {
+    const bool bOfKey = std::exchange(m_bKeyTaken, false) && nChar < ' ';
+    if (!bOfKey) {
         Default();
     }
 }

@@ -12,9 +12,20 @@
 
 inline constexpr UINT kGridEditId = 100;
 
+// Who sees the keys before the edit does.
+class QVGridEditKeys {
+public:
+    // True if that was all.
+    virtual bool TakesEditKey(UINT nKey) = 0;
+
+protected:
+    ~QVGridEditKeys() = default;
+};
+
 class QVGridEdit : public qv::QuietWithoutMemory<CEdit>, public qv::GridEditPort {
 public:
-    QVGridEdit(CWnd& grid, qv::GridEditing& editing) : m_grid(grid), m_editing(editing) {}
+    QVGridEdit(CWnd& grid, qv::GridEditing& editing, QVGridEditKeys& keys)
+        : m_grid(grid), m_editing(editing), m_keys(keys) {}
 
     bool Made() const override { return m_hWnd != nullptr; }
     // By its own style: what it holds is not lost because a window around the grid is hidden.
@@ -36,11 +47,14 @@ protected:
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg void OnKillFocus(CWnd* pNewWnd);
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
     DECLARE_MESSAGE_MAP()
 
 private:
     CWnd& m_grid;
     qv::GridEditing& m_editing;
+    QVGridEditKeys& m_keys;
+    bool m_bKeyTaken = false;  // its control character may be about to come
     bool m_bClosing = false;
     qv::AliveToken m_alive;
 };

@@ -20,22 +20,27 @@ BEGIN_MESSAGE_MAP(QVListCtrlEx, CListCtrl)
     ON_WM_SETFOCUS()
     ON_WM_KILLFOCUS()
     ON_WM_MOUSEWHEEL()
+    ON_WM_KEYDOWN()
+    ON_WM_CHAR()
     ON_WM_SIZE()
     ON_WM_DESTROY()
     ON_WM_WINDOWPOSCHANGING()
     ON_WM_WINDOWPOSCHANGED()
-    ON_NOTIFY_REFLECT(LVN_COLUMNCLICK, OnItemclick)
-    ON_MESSAGE(LVM_INSERTCOLUMNA, OnInsertColumn)
-    ON_MESSAGE(LVM_INSERTCOLUMNW, OnInsertColumn)
-    ON_MESSAGE(LVM_DELETECOLUMN, OnDeleteColumn)
-    ON_MESSAGE(LVM_DELETEITEM, OnDeleteListItem)
-    ON_MESSAGE(LVM_DELETEALLITEMS, OnDeleteAllItems)
+    ON_MESSAGE(WM_GETOBJECT, &QVListCtrlEx::OnGetObject)
+    ON_NOTIFY_REFLECT_EX(LVN_ITEMCHANGED, &QVListCtrlEx::OnTellItemChanged)
+    ON_NOTIFY_REFLECT(LVN_COLUMNCLICK, &QVListCtrlEx::OnItemclick)
+    ON_MESSAGE(LVM_INSERTCOLUMNA, &QVListCtrlEx::OnInsertColumn)
+    ON_MESSAGE(LVM_INSERTCOLUMNW, &QVListCtrlEx::OnInsertColumn)
+    ON_MESSAGE(LVM_DELETECOLUMN, &QVListCtrlEx::OnDeleteColumn)
+    ON_MESSAGE(LVM_DELETEITEM, &QVListCtrlEx::OnDeleteListItem)
+    ON_MESSAGE(LVM_DELETEALLITEMS, &QVListCtrlEx::OnDeleteAllItems)
 END_MESSAGE_MAP()
 
 // --- Creation
 
 QVListCtrlEx::QVListCtrlEx()
-    : m_dwDefStyle(WS_CHILD | WS_VISIBLE | WS_BORDER | LVS_REPORT | LVS_SINGLESEL |
+    : QVAccessible(static_cast<CWnd&>(*this)),
+      m_dwDefStyle(WS_CHILD | WS_VISIBLE | WS_BORDER | LVS_REPORT | LVS_SINGLESEL |
                    LVS_SHOWSELALWAYS | LVS_OWNERDRAWFIXED),
       m_pCore(qv::AsMemoryException([] { return std::make_unique<Core>(); })) {}
 
@@ -197,12 +202,22 @@ void QVListCtrlEx::SaveSelections() {
 
 void QVListCtrlEx::RestoreSelections() {
     const qv::WindowWatch watch(m_alive, m_hWnd);
-    qv::FindSavedRows(
-        m_aSavedSel, GetItemCount(), [this](int nItem) { return GetItemData(nItem); },
-        [&](int nItem) {
-            SetItemState(nItem, LVIS_SELECTED, LVIS_SELECTED);
-            return static_cast<bool>(watch);
-        });
+    const auto select = [&](int nItem) {
+        SetItemState(nItem, LVIS_SELECTED, LVIS_SELECTED);
+        return static_cast<bool>(watch);
+    };
+    if (m_pCore->pRows == nullptr) {
+        qv::FindSavedRows(
+            m_aSavedSel, GetItemCount(), [this](int nItem) { return GetItemData(nItem); }, select);
+        return;
+    }
+    qv::MemorySuffices([&] {
+        for (INT_PTR i = 0; watch && i < m_aSavedSel.GetSize(); ++i) {
+            if (const int nItem = m_pCore->pRows->ItemOf(m_aSavedSel[i]); nItem != -1) {
+                select(nItem);
+            }
+        }
+    });
 }
 
 void QVListCtrlEx::InvalidateData(BOOL bErase) {
@@ -219,14 +234,16 @@ void QVListCtrlEx::InvalidateData(BOOL bErase) {
 
 // Comes before all maps: a message that a derived class answers by itself changes rows as well.
 LRESULT QVListCtrlEx::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (!m_pCore->SeeMessage(message, lParam)) {
-        return CListCtrl::WindowProc(message, wParam, lParam);
-    }
+    const bool bContent = m_pCore->SeeMessage(message, lParam);
     const qv::AliveWatch watch(m_alive);
     const LRESULT lResult = CListCtrl::WindowProc(message, wParam, lParam);
-    if (watch) {
+    if (!watch) {
+        return lResult;
+    }
+    if (bContent) {
         m_pCore->changes.EndContent();
     }
+    TellChange(message, wParam, lParam);
     return lResult;
 }
 

@@ -7,6 +7,12 @@
 // A list starts in single-column mode: one column without heading, as wide as the widest row and at
 // least as the window. The first AddHeader or CalcColsFromHeader ends that mode for good.
 //
+// With EnableExpectedKeys, beside the platform's keys: letters lead to the next row that begins
+// with them, style codes aside; Ctrl+A selects all rows where several may be selected; Ctrl+C and
+// Ctrl+Insert copy the selected ones; Ctrl+1 to Ctrl+9 and Ctrl+0 click the first to the tenth
+// heading from the left, once more for the other direction where a click has one. The parent hears
+// of every key as ever.
+//
 // On paper the list follows a protocol: SetPrintFonts, BeginPrinting, CalcPrintCols, then any
 // number of PrintHeader and PrintItems, EndPrinting. A QVPrintEngine drives it; so can any caller.
 //
@@ -17,12 +23,17 @@
 // Without memory nothing is thrown: what was there stays, and what reports failure reports it. The
 // protected steps may throw, to whoever of the public operations called them.
 //
+// Screen readers hear the rows, part 1 being row 0, and behind them the headings: see
+// docs/accessibility.md.
+//
 // Ownership: print fonts and image resources are the caller's; the image list is the control's.
 // Widths are in pixels of the control's font, on paper in units of the printer's device context.
 
 #pragma once
 
+#include "frame/accessible.h"
 #include "frame/alive.h"
+#include "frame/expected_keys.h"
 #include "frame/styled_rows.h"
 
 #include <afxcmn.h>
@@ -39,9 +50,13 @@ namespace qv {
 enum class Highlight;
 class RowChanges;
 struct RowLayout;
+class RowsOnDemand;
 }  // namespace qv
 
-class QV_CONTROLS_API QVListCtrlEx : public CListCtrl, public QVStyledRows {
+class QV_CONTROLS_API QVListCtrlEx : public CListCtrl,
+                                     public QVStyledRows,
+                                     public QVExpectedKeys,
+                                     public QVAccessible {
     DECLARE_DYNCREATE(QVListCtrlEx)
 
 public:
@@ -142,6 +157,9 @@ public:
     // each.
     void SaveSelections();
     void RestoreSelections();
+    // The selected rows as text that spreadsheets take, without headings and style codes. 0 if
+    // there is none, or no memory, or the clipboard is another's.
+    BOOL CopySelection();
     // Repaints the rows, not the headings.
     void InvalidateData(BOOL bErase);
 
@@ -178,6 +196,27 @@ public:
 
     void DrawItem(LPDRAWITEMSTRUCT lpDIS) override;
 
+    // --- What a screen reader is told. A row's name is its first column that shows; the others
+    // are the description, with their headings: "Size: 3 GB, Date: today".
+
+    CString GetAccessibleName(long nPart) override;
+    CString GetAccessibleDescription(long nPart) override;
+    // "Double Click" of a row, "Click" of a heading.
+    CString GetAccessibleAction(long nPart) override;
+    long GetAccessibleRole(long nPart) override;
+    long GetAccessibleState(long nPart) override;
+    BOOL GetAccessibleRect(long nPart, CRect& rect) override;
+    BOOL IsAccessiblePart(long nPart) override;
+    long GetAccessibleCount() override;
+    long GetAccessiblePart(long nIndex) override;
+    long GetAccessibleIndex(long nPart) override;
+    long AccessibleHitTest(CPoint pt) override;
+    long NavigateAccessible(long nPart, long nDirection) override;
+    long GetAccessibleFocus() override;
+    long GetNextAccessibleSelected(long nPart) override;
+    BOOL SelectAccessible(long nPart, long nFlags) override;
+    BOOL DoAccessibleAction(long nPart) override;
+
 protected:
     // --- Steps that a derived class may replace, beside the public ones
 
@@ -200,6 +239,9 @@ protected:
     // widths is no longer known.
     void SetNumColumns(int nColumns);
     void InvalidateDataWidth() { m_nDataWidth = -1; }
+    // From now on rows come from there instead of the control, for the library's own classes; null
+    // undoes that. Not owned.
+    void SetRowsOnDemand(qv::RowsOnDemand* pRows);
     // What is known of changes to rows, for the library's own classes.
     const qv::RowChanges& Changes() const;
     // The window that the control tells in notifications: its parent when it was made.
@@ -216,6 +258,8 @@ protected:
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg void OnKillFocus(CWnd* pNewWnd);
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);
+    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnDestroy();
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnWindowPosChanging(WINDOWPOS* pPos);
@@ -225,6 +269,8 @@ protected:
     afx_msg LRESULT OnDeleteColumn(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnDeleteListItem(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnDeleteAllItems(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
+    afx_msg BOOL OnTellItemChanged(NMHDR* pHdr, LRESULT* pResult);
     DECLARE_MESSAGE_MAP()
 
     qv::AliveToken m_alive;  // for whoever leads out to the parent
@@ -269,6 +315,17 @@ private:
     bool HasFocus() const { return ::GetFocus() == m_hWnd; }
     bool ShowsSelAlways() const { return (GetStyle() & LVS_SHOWSELALWAYS) != 0; }
     bool SortsItself();
+    bool TakeTypedChar(UINT nChar);
+    void SelectAllRows();
+    void ClickHeading(int nPlace);
+
+    int PartRow(long nPart) const;
+    int PartHeading(long nPart) const;
+    int HeadingCount() const;
+    CString SpokenRow(int nItem, bool bName);
+    void DeselectAll(const qv::WindowWatch<HWND>& watch);
+    void RowsRect(CRect& rect) const;
+    void TellChange(UINT nMessage, WPARAM wParam, LPARAM lParam);
 
     void SizeToHeadings(int nFillCol);
     int ReadHeadings(CString& str);

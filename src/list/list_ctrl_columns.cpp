@@ -295,8 +295,14 @@ void QVListCtrlEx::CalcSingleColWidth() {
         CClientDC dc(this);
         const qv::SelectGuard<CFont> font(dc, GetFont());
         m_nDataWidth = 0;
-        const int nItems = GetItemCount();
-        for (int nItem = 0; watch && nItem < nItems; ++nItem) {
+        int nItem = 0;
+        int nItems = GetItemCount();
+        if (m_pCore->pRows != nullptr) {
+            // What is in view stands for all: nobody is asked for each of a million rows.
+            nItem = GetTopIndex();
+            nItems = std::min(nItems, nItem + GetCountPerPage() + 1);
+        }
+        for (; watch && nItem < nItems; ++nItem) {
             const int nWidth = CalculateItemWidth(&dc, nItem);
             if (watch) {
                 m_nDataWidth = std::max(m_nDataWidth, nWidth);

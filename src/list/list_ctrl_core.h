@@ -6,6 +6,7 @@
 #include "list/core/list_columns.h"
 #include "list/core/row_changes.h"
 #include "list/list_ctrl.h"
+#include "list/rows_on_demand.h"
 
 #include <optional>
 #include <vector>
@@ -25,6 +26,7 @@ public:
     COLORREF crItem = 0;               // of the brush of the row that is drawn
     CRect rcFilled{0, 0, 0, 0};        // of that row, by that brush
     HWND hTold = nullptr;
+    qv::RowsOnDemand* pRows = nullptr;  // null: the control has them
     bool bPrintComplete = true;
 
 private:

@@ -20,7 +20,14 @@ constexpr int kBehindAllRows = std::numeric_limits<int>::max();
 
 }  // namespace
 
+void QVListCtrlEx::SetRowsOnDemand(qv::RowsOnDemand* pRows) {
+    m_pCore->pRows = pRows;
+}
+
 LPCSTR QVListCtrlEx::CellText(int nItem, int nCol) {
+    if (m_pCore->pRows != nullptr) {
+        return m_pCore->pRows->Cell(nItem, nCol);
+    }
     constexpr size_t kUsualRoom = 256;
     constexpr int kLongestCharacter = 4;
     const qv::AliveWatch watch(m_alive);
@@ -45,7 +52,7 @@ LPCSTR QVListCtrlEx::CellText(int nItem, int nCol) {
 }
 
 BOOL QVListCtrlEx::SetItemString(int nItem, LPCSTR pszText) {
-    if (nItem >= GetItemCount()) {
+    if (nItem >= GetItemCount() || m_pCore->pRows != nullptr) {
         return FALSE;
     }
     bool bSet = false;
@@ -175,6 +182,9 @@ bool QVListCtrlEx::ReadPlaces(bool bNumeric) {
 }
 
 int QVListCtrlEx::AddBitmapString(int nImage, LPCSTR pszText, BOOL bNumeric) {
+    if (m_pCore->pRows != nullptr) {
+        return -1;
+    }
     const qv::AliveWatch watch(m_alive);
     int nIndex = -1;
     if (!qv::MemorySuffices([&] { AddInPlace(nImage, pszText, bNumeric != FALSE, nIndex); }) &&
@@ -211,6 +221,9 @@ void QVListCtrlEx::AddInPlace(int nImage, LPCSTR pszText, bool bNumeric, int& nI
 }
 
 int QVListCtrlEx::GetImage(int nItem) {
+    if (m_pCore->pRows != nullptr) {
+        return m_pCore->pRows->Image(nItem);
+    }
     LVITEM item{};
     item.mask = LVIF_IMAGE;
     item.iItem = nItem;

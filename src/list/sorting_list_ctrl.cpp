@@ -3,22 +3,20 @@
 #include "common/process_text.h"
 #include "frame/core/styled_text.h"
 #include "frame/out_of_memory.h"
+#include "list/column_keys.h"
 #include "list/core/row_changes.h"
 #include "list/core/row_order.h"
-
-#include <afxdisp.h>
+#include "list/silence.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <optional>
-#include <unordered_map>
 
 IMPLEMENT_DYNCREATE(QVSortingListCtrl, QVListCtrlEx)
 
 BEGIN_MESSAGE_MAP(QVSortingListCtrl, QVListCtrlEx)
-    ON_MESSAGE(WM_SETREDRAW, OnSetRedraw)
-    ON_MESSAGE(LVM_GETITEMA, OnGetListItem)
-    ON_MESSAGE(LVM_GETITEMW, OnGetListItem)
+    ON_MESSAGE(WM_SETREDRAW, &QVSortingListCtrl::OnSetRedraw)
+    ON_MESSAGE(LVM_GETITEMA, &QVSortingListCtrl::OnGetListItem)
+    ON_MESSAGE(LVM_GETITEMW, &QVSortingListCtrl::OnGetListItem)
 END_MESSAGE_MAP()
 
 // --- Columns
@@ -74,84 +72,13 @@ QVLISTCTRL_DATATYPE QVSortingListCtrl::ColumnSortType(int nCol) const {
 
 // --- Sorting
 
-namespace {
-
-// While it lives, a window hears nothing of what one of its children tells it in notifications. The
-// control has no way to be quiet, so the window gets another procedure for that long.
-class Silence {
-public:
-    Silence(HWND hChild, HWND hTold) : m_hChild(hChild), m_hTold(hTold), m_pOuter(s_pInner) {
-        // In the window's own character set, or it would get the other one.
-        m_bWide = ::IsWindowUnicode(hTold) != FALSE;
-        m_pfnTold = SetProcedure(Filter);
-        s_pInner = this;
-    }
-    ~Silence() {
-        s_pInner = m_pOuter;
-        if (m_pfnTold != nullptr) {
-            SetProcedure(m_pfnTold);
-        }
-    }
-    Silence(const Silence&) = delete;
-    Silence& operator=(const Silence&) = delete;
-
-private:
-    WNDPROC SetProcedure(WNDPROC pfn) {
-        const auto n = reinterpret_cast<LONG_PTR>(pfn);
-        return reinterpret_cast<WNDPROC>(m_bWide ? ::SetWindowLongPtrW(m_hTold, GWLP_WNDPROC, n)
-                                                 : ::SetWindowLongPtrA(m_hTold, GWLP_WNDPROC, n));
-    }
-    static LRESULT CALLBACK Filter(HWND hWnd, UINT nMessage, WPARAM wParam, LPARAM lParam) {
-        for (const Silence* p = s_pInner; p != nullptr; p = p->m_pOuter) {
-            if (p->m_hTold != hWnd) {
-                continue;
-            }
-            if (nMessage == WM_NOTIFY &&
-                reinterpret_cast<const NMHDR*>(lParam)->hwndFrom == p->m_hChild) {
-                return 0;
-            }
-            if (p->m_pfnTold != Filter) {
-                return p->m_bWide ? ::CallWindowProcW(p->m_pfnTold, hWnd, nMessage, wParam, lParam)
-                                  : ::CallWindowProcA(p->m_pfnTold, hWnd, nMessage, wParam, lParam);
-            }
-        }
-        return ::DefWindowProc(hWnd, nMessage, wParam, lParam);
-    }
-
-    static inline Silence* s_pInner = nullptr;
-    HWND m_hChild;
-    HWND m_hTold;
-    Silence* m_pOuter;  // of a sort within a sort
-    bool m_bWide;
-    WNDPROC m_pfnTold;  // null if the window could not get another procedure
-};
-
-}  // namespace
-
 // The ranks that the last sort found, and what they were found for. As long as no text, no item
 // data and no setting changed, the rows need not be read again, whatever their order is by now.
 struct QVSortingListCtrl::Kept {
-    int nCol;
-    QVLISTCTRL_DATATYPE nType;
+    qv::ColumnRead read;
     int nContent;
-    int nStyles;
-    std::string strDateFormat;
     qv::RowRanks ranks;
 };
-
-namespace {
-
-// What dates are read by.
-std::string DateFormat() {
-    std::string str = std::to_string(::GetUserDefaultLCID());
-    for (const LCTYPE nType : {LOCALE_SSHORTDATE, LOCALE_SLONGDATE, LOCALE_STIMEFORMAT}) {
-        char sz[80];  // the longest of these formats
-        str += ::GetLocaleInfoA(LOCALE_USER_DEFAULT, nType, sz, sizeof(sz)) > 0 ? sz : "";
-    }
-    return str;
-}
-
-}  // namespace
 
 // One sort. The rows' order is found here, by keys made once, and the control sorts by the ranks.
 // It tells rows apart by their item data. Where several rows have the same, each gets another word
@@ -194,8 +121,6 @@ private:
     bool TakeKept(int nCol);
     void Keep(int nCol, int nContent);
     bool ReadKeys(int nCol);
-    void AddKey(LPCSTR pszText, QVLISTCTRL_DATATYPE nType);
-    double Date(LPCSTR pszText);
     bool Park();
     bool SetData(int nItem, DWORD_PTR dwData);
     DWORD_PTR GetData(int nItem);
@@ -204,9 +129,8 @@ private:
     QVSortingListCtrl& m_list;
     const qv::WindowWatch<HWND> m_watch;
     qv::RowOrder m_order;
-    std::shared_ptr<const Kept> m_pRanks;             // null where item data are not distinct
-    std::unordered_map<std::string, double> m_dates;  // the same days come again and again
-    std::optional<Silence> m_silence;
+    std::shared_ptr<const Kept> m_pRanks;  // null where item data are not distinct
+    std::optional<qv::Silence> m_silence;
     bool m_bHoldsRedraw = false;
     Sort* m_outer;
 };
@@ -220,9 +144,7 @@ bool QVSortingListCtrl::Sort::FindOrder(int nCol) {
         return false;
     }
     // Not before: a parent that was asked for a text may have sorted the rows.
-    for (size_t nRow = 0; nRow < m_order.Count(); ++nRow) {
-        m_order.SetWord(nRow, GetData(static_cast<int>(nRow)));
-    }
+    m_order.SetWords([this](size_t nRow) { return GetData(static_cast<int>(nRow)); });
     m_order.Arrange();
     Keep(nCol, nContent);
     return true;
@@ -231,12 +153,10 @@ bool QVSortingListCtrl::Sort::FindOrder(int nCol) {
 // Not within another sort, which may have parked rows.
 bool QVSortingListCtrl::Sort::TakeKept(int nCol) {
     const Kept* pKept = m_list.m_pKept.get();
-    const auto nType = m_list.ColumnSortType(nCol);
-    if (pKept == nullptr || m_outer != nullptr || pKept->nCol != nCol || pKept->nType != nType ||
-        pKept->nContent != m_list.Changes().Content() || m_list.Changes().Callbacks() ||
+    if (pKept == nullptr || m_outer != nullptr || pKept->nContent != m_list.Changes().Content() ||
+        m_list.Changes().Callbacks() ||
         (m_list.GetStyle() & (LVS_EDITLABELS | LVS_OWNERDATA)) != 0 ||
-        pKept->nStyles != m_list.NumStyles() ||
-        (nType == lcdtDate && pKept->strDateFormat != DateFormat())) {
+        pKept->read != qv::ColumnRead(nCol, m_list.ColumnSortType(nCol), m_list.NumStyles())) {
         return false;
     }
     m_pRanks = m_list.m_pKept;
@@ -245,15 +165,8 @@ bool QVSortingListCtrl::Sort::TakeKept(int nCol) {
 
 // Ranks that do not hold for another sort serve this one.
 void QVSortingListCtrl::Sort::Keep(int nCol, int nContent) {
-    const auto nType = m_list.ColumnSortType(nCol);
-    auto pKept = std::make_shared<Kept>();
-    pKept->nCol = nCol;
-    pKept->nType = nType;
-    pKept->nContent = nContent;
-    pKept->nStyles = m_list.NumStyles();
-    if (nType == lcdtDate) {
-        pKept->strDateFormat = DateFormat();
-    }
+    auto pKept = std::make_shared<Kept>(
+        Kept{{nCol, m_list.ColumnSortType(nCol), m_list.NumStyles()}, nContent, {}});
     if (!m_order.ByWords(pKept->ranks)) {
         return;
     }
@@ -264,7 +177,7 @@ void QVSortingListCtrl::Sort::Keep(int nCol, int nContent) {
 }
 
 bool QVSortingListCtrl::Sort::ReadKeys(int nCol) {
-    const auto nType = m_list.ColumnSortType(nCol);
+    qv::ColumnKeys column(m_list.ColumnSortType(nCol));
     const int nItems = m_list.GetItemCount();
     m_order.Reserve(static_cast<size_t>(nItems));
     for (int nItem = 0; nItem < nItems; ++nItem) {
@@ -272,38 +185,9 @@ bool QVSortingListCtrl::Sort::ReadKeys(int nCol) {
         if (!m_watch) {
             return false;
         }
-        AddKey(nCol == 0 ? m_list.ParseStyleText(pszText) : pszText, nType);
+        column.Add(m_order, nCol == 0 ? m_list.ParseStyleText(pszText) : pszText);
     }
     return m_list.GetItemCount() == nItems;
-}
-
-void QVSortingListCtrl::Sort::AddKey(LPCSTR pszText, QVLISTCTRL_DATATYPE nType) {
-    switch (nType) {
-        case lcdtString:
-            m_order.AddText(pszText);
-            break;
-        case lcdtDate:
-            m_order.AddDate(Date(pszText));
-            break;
-        case lcdtNumber:
-            m_order.AddNumber(static_cast<std::uint32_t>(std::atol(pszText)));
-            break;
-        default:
-            m_order.AddUnordered();
-            break;
-    }
-}
-
-double QVSortingListCtrl::Sort::Date(LPCSTR pszText) {
-    const auto [it, bNew] = m_dates.try_emplace(pszText);
-    if (bNew) {
-        COleDateTime date;
-        if (!date.ParseDateTime(pszText, 0, LANG_USER_DEFAULT)) {
-            date = COleDateTime(static_cast<time_t>(0));
-        }
-        it->second = date.m_dt;
-    }
-    return it->second;
 }
 
 bool QVSortingListCtrl::Sort::Park() {

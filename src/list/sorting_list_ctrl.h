@@ -48,7 +48,8 @@ protected:
 
     int m_nSortCol = 0;
     BOOL m_bAscending = TRUE;
-    CWordArray m_aColTypes;  // a column beyond its end is lcdtString
+    CWordArray m_aColTypes;      // a column beyond its end is lcdtString
+    bool m_bSortFailed = false;  // of the last SortOnHeader
 
 private:
     struct Kept;
@@ -57,5 +58,4 @@ private:
     Sort* m_pSort = nullptr;              // lives for one sort
     std::shared_ptr<const Kept> m_pKept;  // of the last sort
     bool m_bRedraw = true;
-    bool m_bSortFailed = false;
 };

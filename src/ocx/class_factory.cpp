@@ -34,7 +34,7 @@ LONG FactoryLocks() {
     return s_nLocks;
 }
 
-HRESULT ClassFactory::QueryInterface(REFIID riid, void** ppv) {
+STDMETHODIMP ClassFactory::QueryInterface(REFIID riid, void** ppv) {
     if (ppv == nullptr) {
         return E_POINTER;
     }
@@ -47,17 +47,17 @@ HRESULT ClassFactory::QueryInterface(REFIID riid, void** ppv) {
     return S_OK;
 }
 
-ULONG ClassFactory::AddRef() {
+STDMETHODIMP_(ULONG) ClassFactory::AddRef() {
     ++s_nLocks;
     return 2;  // it is never gone
 }
 
-ULONG ClassFactory::Release() {
+STDMETHODIMP_(ULONG) ClassFactory::Release() {
     --s_nLocks;
     return 1;
 }
 
-HRESULT ClassFactory::CreateInstance(IUnknown* pOuter, REFIID riid, void** ppv) {
+STDMETHODIMP ClassFactory::CreateInstance(IUnknown* pOuter, REFIID riid, void** ppv) {
     if (ppv == nullptr) {
         return E_POINTER;
     }
@@ -71,7 +71,7 @@ HRESULT ClassFactory::CreateInstance(IUnknown* pOuter, REFIID riid, void** ppv) 
     });
 }
 
-HRESULT ClassFactory::LockServer(BOOL bLock) {
+STDMETHODIMP ClassFactory::LockServer(BOOL bLock) {
     s_nLocks += bLock ? 1 : -1;
     return S_OK;
 }

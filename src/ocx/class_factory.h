@@ -22,12 +22,12 @@ public:
     const wchar_t* ProgId() const { return m_pszProgId; }  ///< without a version
     const wchar_t* Name() const { return m_pszName; }      ///< as a user reads it
 
-    STDMETHOD(QueryInterface)(REFIID riid, void** ppv) override;
-    STDMETHOD_(ULONG, AddRef)() override;
-    STDMETHOD_(ULONG, Release)() override;
+    STDMETHODIMP QueryInterface(REFIID riid, void** ppv) override;
+    STDMETHODIMP_(ULONG) AddRef() override;
+    STDMETHODIMP_(ULONG) Release() override;
     /// Nothing is aggregated: the outer object has to be null.
-    STDMETHOD(CreateInstance)(IUnknown* pOuter, REFIID riid, void** ppv) override;
-    STDMETHOD(LockServer)(BOOL bLock) override;
+    STDMETHODIMP CreateInstance(IUnknown* pOuter, REFIID riid, void** ppv) override;
+    STDMETHODIMP LockServer(BOOL bLock) override;
 
 private:
     const CLSID& m_clsid;

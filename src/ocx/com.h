@@ -20,6 +20,8 @@ struct Refusal {
     HRESULT hr;
     const wchar_t* pszText = nullptr;
     int nArgument = -1;  ///< which argument was wrong, from 0; -1: none
+    LONG nAsked = 0;     ///< the text's first "%ld"
+    LONG nMost = 0;      ///< and its second one
 };
 
 /// Codes of refusals as automation controls give them (facility CONTROL).

@@ -1,5 +1,7 @@
 #include "ocx/control.h"
 
+#include <cwchar>
+
 namespace ocx {
 
 Control::Control(const ControlKind& kind)
@@ -101,7 +103,9 @@ static HRESULT Explain(const Refusal& refusal, const wchar_t* pszSource, EXCEPIN
     *pInfo = {};
     pInfo->scode = refusal.hr;
     pInfo->bstrSource = ::SysAllocString(pszSource);
-    pInfo->bstrDescription = ::SysAllocString(refusal.pszText);
+    wchar_t szText[200] = L"";
+    std::swprintf(szText, std::size(szText), refusal.pszText, refusal.nAsked, refusal.nMost);
+    pInfo->bstrDescription = ::SysAllocString(szText);
     return DISP_E_EXCEPTION;
 }
 
@@ -150,13 +154,20 @@ HRESULT Control::Answer(const Member& member, const Arguments& arguments, VARIAN
         return E_NOTIMPL;
     }
     if (arguments.IsPut()) {
-        m_store.Put(member, arguments.Raw(0));
-        SetDirty();
-        OnStored(member);
+        if (member.id == m_kind.idMouseIcon) {
+            PictureOf(arguments.Object(0));
+        }
+        PutInStore(member, arguments.Raw(0));
     } else {
         m_store.Get(member, DefaultNumber(member), pResult);
     }
     return S_OK;
+}
+
+void Control::PutInStore(const Member& member, const VARIANT& value) {
+    m_store.Put(member, value);
+    SetDirty();
+    OnStored(member);
 }
 
 bool Control::AnswerStock(const Member& member, const Arguments& arguments, VARIANT* pResult) {
@@ -429,12 +440,12 @@ VARIANTARG Control::EventArgument(LONG* pn) {
     return argument;
 }
 
-void Control::FireEvent(DISPID id, std::span<VARIANTARG> arguments) noexcept {
+HRESULT Control::FireEvent(DISPID id, std::span<VARIANTARG> arguments) noexcept {
     if (m_nFrozen > 0) {
-        return;
+        return S_OK;
     }
     const Hold hold(*this);
-    m_events.Fire(id, arguments);
+    return m_events.Fire(id, arguments);
 }
 
 }  // namespace ocx

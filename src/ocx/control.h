@@ -197,6 +197,9 @@ protected:
     /// Characters that come to OnMnemonicKey, in either case.
     virtual std::wstring Mnemonics();
     virtual void OnMnemonicKey(wchar_t ch);
+    /// In the control's window here. A container's windows may be children of that: the focus in
+    /// one of them is not the control's.
+    virtual bool HasFocus() const;
 
     // --- What a derived control uses
 
@@ -209,16 +212,19 @@ protected:
     std::wstring_view Text(DISPID id) const;
     IUnknown* Object(DISPID id) const;
     PropertyStore& Store() { return m_store; }
+    /// As for a member that the store answers.
+    void PutInStore(const Member& member, const VARIANT& value);
     FontProperty& Font() { return m_font; }
     /// Puts a property as a container does; what is wrong with it throws.
     void Put(DISPID id, LONG nIndex, const VARIANT& value);
 
-    /// An event, its arguments in their order: short, LONG, short*, LONG*.
+    /// An event, its arguments in their order: short, LONG, short*, LONG*. A failure is a
+    /// handler's.
     template <class... Values>
-    void Fire(DISPID id, Values... values) {
+    HRESULT Fire(DISPID id, Values... values) {
         std::array<VARIANTARG, sizeof...(Values)> arguments = {EventArgument(values)...};
         std::ranges::reverse(arguments);
-        FireEvent(id, arguments);
+        return FireEvent(id, arguments);
     }
     /// KeyDown (-602); gives the key that a handler left, 0 for none.
     WPARAM FireKeyDown(WPARAM vk);
@@ -237,7 +243,6 @@ protected:
     HWND Window() const { return m_hWnd; }
     RECT ClientRect() const;
     bool IsEnabled() const { return Flag(DISPID_ENABLED); }
-    bool HasFocus() const;
     /// Draws anew when there is time for it.
     void Invalidate();
     void SetDirty() { m_bDirty = true; }
@@ -250,7 +255,7 @@ private:
     static VARIANTARG EventArgument(LONG n);
     static VARIANTARG EventArgument(short* pn);
     static VARIANTARG EventArgument(LONG* pn);
-    void FireEvent(DISPID id, std::span<VARIANTARG> arguments) noexcept;
+    HRESULT FireEvent(DISPID id, std::span<VARIANTARG> arguments) noexcept;
 
     ULONG ReleaseOne() noexcept;
     HRESULT Answer(const Member& member, const Arguments& arguments, VARIANT* pResult);

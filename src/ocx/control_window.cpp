@@ -68,9 +68,7 @@ RECT Control::ClientRect() const {
 }
 
 bool Control::HasFocus() const {
-    const HWND hFocus = ::GetFocus();
-    return m_hWnd != nullptr && hFocus != nullptr &&
-           (hFocus == m_hWnd || ::IsChild(m_hWnd, hFocus));
+    return m_hWnd != nullptr && ::GetFocus() == m_hWnd;
 }
 
 void Control::Invalidate() {

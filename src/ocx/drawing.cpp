@@ -56,6 +56,14 @@ void DrawEdges(HDC hDC, const RECT& rect, int nWidth, COLORREF crLeftTop, COLORR
     }
 }
 
+Ref<IPicture> PictureOf(IUnknown* pObject) {
+    auto picture = Ref<IPicture>::Of(pObject);
+    if (pObject != nullptr && !picture) {
+        throw Refusal{kInvalidValue, L"The object is no picture.", 0};
+    }
+    return picture;
+}
+
 SIZE PictureSize(IPicture* pPicture) {
     OLE_XSIZE_HIMETRIC cx = 0;
     OLE_YSIZE_HIMETRIC cy = 0;

@@ -107,6 +107,8 @@ void FillSolid(HDC hDC, const RECT& rect, COLORREF cr);
 /// The border of rect, nWidth pixels inside of it: left and top, right and bottom.
 void DrawEdges(HDC hDC, const RECT& rect, int nWidth, COLORREF crLeftTop, COLORREF crRightBottom);
 
+/// An object as a picture, null for none; refuses one that is something else.
+Ref<IPicture> PictureOf(IUnknown* pObject);
 /// Pixels of a picture on the screen; 0 for none.
 SIZE PictureSize(IPicture* pPicture);
 /// Into rect, stretched if it has another size.

@@ -74,23 +74,27 @@ private:
 
 }  // namespace
 
-void EventSource::Fire(DISPID id, std::span<VARIANTARG> arguments) noexcept {
+HRESULT EventSource::Fire(DISPID id, std::span<VARIANTARG> arguments) noexcept {
     // Only a cookie keeps its place while sinks come and go.
     const DWORD dwLast = m_dwLastCookie;
+    HRESULT hrFirst = S_OK;
     for (DWORD dwCookie = 0;;) {
         const auto next = std::ranges::find_if(
             m_connections, [dwCookie](const auto& one) { return one.dwCookie > dwCookie; });
         if (next == m_connections.end() || next->dwCookie > dwLast) {
-            return;
+            return hrFirst;
         }
         dwCookie = next->dwCookie;
         const Ref<IDispatch> sink = next->sink;
         DISPPARAMS params = {arguments.data(), nullptr, static_cast<UINT>(arguments.size()), 0};
-        Guarded([&] {
+        const HRESULT hr = Guarded([&] {
             Variant result;
             return sink->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &params,
                                 result.Get(), nullptr, nullptr);
         });
+        if (FAILED(hr) && hr != DISP_E_MEMBERNOTFOUND && SUCCEEDED(hrFirst)) {
+            hrFirst = hr;
+        }
     }
 }
 

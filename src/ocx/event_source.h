@@ -18,8 +18,9 @@ public:
     virtual ~EventSource() = default;
 
     /// Tells all that are connected at this moment; arguments in the order of rgvarg, last first.
-    /// The control may be closed when it comes back.
-    void Fire(DISPID id, std::span<VARIANTARG> arguments) noexcept;
+    /// The control may be closed when it comes back. Gives the first failure, if any, of one that
+    /// knows the event.
+    HRESULT Fire(DISPID id, std::span<VARIANTARG> arguments) noexcept;
 
     STDMETHODIMP QueryInterface(REFIID iid, void** ppv) override;
     STDMETHODIMP_(ULONG) AddRef() override { return m_owner.AddRef(); }

@@ -104,7 +104,8 @@ void Check(FlexGridError error) {
         case FlexGridError::BadCount:
             throw Refusal{kInvalidValue, L"The grid cannot have so many rows or columns."};
         case FlexGridError::BadFixed:
-            throw Refusal{kInvalidValue, L"Fixed rows and columns have to be fewer than all."};
+            throw Refusal{kInvalidValue,
+                          L"Fixed rows and columns have to be 0, or fewer than all."};
         case FlexGridError::LastRow:
             throw Refusal{kInvalidValue, L"The last row that is not fixed cannot be removed."};
         case FlexGridError::BadValue:
@@ -324,8 +325,10 @@ void FlexGrid::Sort(short nKind) {
         const unsigned nChanges = m_nChanges;
         const auto compare = [&](int nRow1, int nRow2) -> std::optional<int> {
             short nOrder = 0;
-            Fire(kCompare, static_cast<LONG>(nRow1), static_cast<LONG>(nRow2), &nOrder);
-            return nChanges == m_nChanges ? std::optional<int>(nOrder) : std::nullopt;
+            const HRESULT hr =
+                Fire(kCompare, static_cast<LONG>(nRow1), static_cast<LONG>(nRow2), &nOrder);
+            return SUCCEEDED(hr) && nChanges == m_nChanges ? std::optional<int>(nOrder)
+                                                           : std::nullopt;
         };
         if (!qv::StableSort(order, compare)) {
             return;

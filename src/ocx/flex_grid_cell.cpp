@@ -21,10 +21,7 @@ void CheckRange(LONG n, LONG nMin, LONG nMax) {
 
 /// A picture that a cell's format keeps, and the reference with it.
 std::shared_ptr<void> Kept(IUnknown* pObject) {
-    Ref<IPicture> picture = Ref<IPicture>::Of(pObject);
-    if (pObject != nullptr && !picture) {
-        throw Refusal{kInvalidValue, L"The object is no picture.", 0};
-    }
+    Ref<IPicture> picture = PictureOf(pObject);
     if (!picture) {
         return nullptr;
     }
@@ -43,8 +40,6 @@ constexpr std::array<FontFlag, 4> kFontFlags = {{
     {Id::CellFontUnderline, Format::Underline, FontProperty::Part::Underline},
     {Id::CellFontStrikeThrough, Format::StrikeThrough, FontProperty::Part::Strikethrough},
 }};
-
-const Format kNoFormat;
 
 /// A million rows by a million columns would never end.
 void CheckCellCount(const qv::FlexGridRange& range) {
@@ -81,8 +76,7 @@ void FlexGrid::SetFormats(const std::function<void(Format&)>& set) {
 }
 
 HRESULT FlexGrid::CallCell(const Member& member, const Arguments& arguments, VARIANT* pResult) {
-    const Format* pFormat = m_model.Format(m_selection.nRow, m_selection.nCol);
-    const Format& format = pFormat != nullptr ? *pFormat : kNoFormat;
+    const Format& format = m_model.Format(m_selection.nRow, m_selection.nCol);
     const bool bPut = arguments.IsPut();
     const int nCols = m_model.Cols();
     switch (member.id) {
@@ -175,8 +169,7 @@ HRESULT FlexGrid::CallCell(const Member& member, const Arguments& arguments, VAR
 }
 
 HRESULT FlexGrid::CallCellFont(const Member& member, const Arguments& arguments, VARIANT* pResult) {
-    const Format* pFormat = m_model.Format(m_selection.nRow, m_selection.nCol);
-    const Format& format = pFormat != nullptr ? *pFormat : kNoFormat;
+    const Format& format = m_model.Format(m_selection.nRow, m_selection.nCol);
     const bool bPut = arguments.IsPut();
     constexpr double kLargest = 2048;
     switch (member.id) {

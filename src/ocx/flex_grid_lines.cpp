@@ -13,6 +13,13 @@ namespace {
 using Id = FlexGridId;
 using qv::FlexGridError;
 
+void CheckCount(FlexGridError error, const wchar_t* pszText, LONG nAsked, LONG nMost) {
+    if (error == FlexGridError::BadCount) {
+        throw Refusal{kInvalidValue, pszText, 0, nAsked, nMost};
+    }
+    Check(error);
+}
+
 LONG Saturated(std::int64_t n) {
     return static_cast<LONG>(std::clamp<std::int64_t>(n, LONG_MIN, LONG_MAX));
 }
@@ -51,10 +58,13 @@ HRESULT FlexGrid::CallCount(const Member& member, const Arguments& arguments, VA
     const LONG n = arguments.Long(0);
     switch (member.id) {
         case Id::Rows:
-            Check(m_model.SetRows(n));
+            CheckCount(m_model.SetRows(n), L"The grid cannot have %ld rows: 0 to %ld are allowed.",
+                       n, qv::FlexGridModel::kMaxRows);
             break;
         case Id::Cols:
-            Check(m_model.SetCols(n));
+            CheckCount(m_model.SetCols(n),
+                       L"The grid cannot have %ld columns: 0 to %ld are allowed.", n,
+                       qv::FlexGridModel::kMaxCols);
             break;
         case Id::FixedRows:
             Check(m_model.SetFixedRows(n));

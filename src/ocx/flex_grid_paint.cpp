@@ -63,7 +63,7 @@ private:
                    COLORREF crText);
     void PaintFocus();
     bool IsHighlighted(const qv::FlexGridRange& range) const;
-    HFONT FontOf(const Format* pFormat);
+    HFONT FontOf(const Format& format);
 
     FlexGrid& m_grid;
     const qv::FlexGridModel& m_model;
@@ -148,16 +148,16 @@ bool FlexGrid::Painter::IsHighlighted(const qv::FlexGridRange& range) const {
 
 void FlexGrid::Painter::PaintCell(const qv::FlexGridRange& range, const Look& look) {
     const qv::Point origin = m_view.OriginOf(range);
-    const Format* pFormat = m_model.Format(origin.y, origin.x);
+    const Format& format = m_model.Format(origin.y, origin.x);
     const bool bHighlighted = IsHighlighted(range);
     COLORREF crBack = look.crBack;
     COLORREF crText = look.crText;
     if (bHighlighted) {
         crBack = m_crBackSel;
         crText = m_crTextSel;
-    } else if (pFormat != nullptr) {
-        crBack = pFormat->crBack != 0 ? ToColorRef(pFormat->crBack) : crBack;
-        crText = pFormat->crText != 0 ? ToColorRef(pFormat->crText) : crText;
+    } else {
+        crBack = format.crBack != 0 ? ToColorRef(format.crBack) : crBack;
+        crText = format.crText != 0 ? ToColorRef(format.crText) : crText;
     }
     RECT rect = ToRECT(m_view.RangeRect(range));
     FillSolid(m_hDC, rect, crBack);
@@ -169,7 +169,7 @@ void FlexGrid::Painter::PaintCell(const qv::FlexGridRange& range, const Look& lo
     if (rect.right <= rect.left || rect.bottom <= rect.top) {
         return;
     }
-    const bool bPicture = pFormat != nullptr && pFormat->pPicture != nullptr;
+    const bool bPicture = format.pPicture != nullptr;
     const char16_t* pszText = m_model.Text(range.nTop, range.nLeft);
     if (!bPicture && *pszText == 0) {
         return;
@@ -177,15 +177,14 @@ void FlexGrid::Painter::PaintCell(const qv::FlexGridRange& range, const Look& lo
     const SavedDC saved(m_hDC);
     ::IntersectClipRect(m_hDC, rect.left, rect.top, rect.right, rect.bottom);
     if (bPicture) {
-        auto* const pPicture = static_cast<IPicture*>(pFormat->pPicture.get());
+        auto* const pPicture = static_cast<IPicture*>(format.pPicture.get());
         DrawPicture(m_hDC, pPicture,
-                    Aligned(rect, PictureSize(pPicture), pFormat->nPictureAlignment));
+                    Aligned(rect, PictureSize(pPicture), format.nPictureAlignment));
     }
     if (*pszText != 0) {
-        ::SelectObject(m_hDC, FontOf(pFormat));  // goes back with the rest that was saved
-        const bool bOwnStyle = pFormat != nullptr && pFormat->nTextStyle >= 0;
+        const Selected select(m_hDC, FontOf(format));
         PaintText(rect, pszText, m_model.AlignmentOf(origin.y, origin.x),
-                  bOwnStyle ? pFormat->nTextStyle : look.nTextStyle, crText);
+                  format.nTextStyle >= 0 ? format.nTextStyle : look.nTextStyle, crText);
     }
 }
 
@@ -246,9 +245,7 @@ void FlexGrid::Painter::PaintText(const RECT& rect, const char16_t* pszText, sho
     draw(crText, 0);
 }
 
-HFONT FlexGrid::Painter::FontOf(const Format* pFormat) {
-    static const Format kPlain;
-    const Format& format = pFormat != nullptr ? *pFormat : kPlain;
+HFONT FlexGrid::Painter::FontOf(const Format& format) {
     const unsigned nFlags = format.nFontFlags | format.nFontAsked << 8;
     for (const CellFont& known : m_fonts) {
         if (known.nFlags == nFlags && known.fSize == format.fontSize &&

@@ -86,7 +86,7 @@ IFont* FontProperty::Get() {
 void FontProperty::Put(IUnknown* pFont, bool bShare) {
     auto font = Ref<IFont>::Of(pFont);
     if (!font) {
-        throw Refusal{DISP_E_TYPEMISMATCH, nullptr, 0};
+        throw Refusal{kInvalidValue, L"The object is no font.", 0};
     }
     if (!bShare) {
         Ref<IFont> copy;

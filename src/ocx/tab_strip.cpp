@@ -186,11 +186,7 @@ bool TabStrip::AnswerTab(const Member& member, const Arguments& arguments, VARIA
                 GiveObject(pResult, pTab != nullptr ? pTab->picture.Get() : nullptr);
                 return true;
             }
-            IUnknown* pPicture = arguments.Object(0);
-            const auto picture = Ref<IPicture>::Of(pPicture);
-            if (pPicture != nullptr && !picture) {
-                throw Refusal{DISP_E_TYPEMISMATCH, nullptr, 0};
-            }
+            const auto picture = PictureOf(arguments.Object(0));
             CurrentToChange().picture = picture;
             break;
         }

@@ -19,11 +19,7 @@ bool TabStrip::OnMessage(UINT nMessage, WPARAM wParam, LPARAM lParam, LRESULT& l
             return false;
         case WM_LBUTTONDOWN:
         case WM_LBUTTONDBLCLK:
-            // A container's pages may be children of the strip: the focus in one is not its own.
-            ::SetFocus(Window());
-            if (Window() != nullptr) {
-                OnPress({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
-            }
+            OnPress({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
             return true;
         default:
             return false;

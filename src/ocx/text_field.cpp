@@ -97,6 +97,8 @@ HRESULT TextField::Call(const Member& member, const Arguments& arguments, VARIAN
         case Id::Text:
         case Id::FpBoundVal:
             return CallText(arguments, pResult);
+        case Id::PasswordChar:
+            return CallPasswordChar(member, arguments);
         case Id::SelStart:
         case Id::SelLength:
         case Id::SelText:
@@ -117,6 +119,21 @@ HRESULT TextField::CallText(const Arguments& arguments, VARIANT* pResult) {
     } else {
         GiveText(pResult, FieldText());
     }
+    return S_OK;
+}
+
+/// The first character alone; the platform's edit can show none that is a pair of units.
+HRESULT TextField::CallPasswordChar(const Member& member, const Arguments& arguments) {
+    if (!arguments.IsPut()) {
+        return kToStore;
+    }
+    const std::wstring_view first = arguments.Text(arguments.Value()).substr(0, 1);
+    if (!first.empty() && (IS_HIGH_SURROGATE(first[0]) || IS_LOW_SURROGATE(first[0]))) {
+        throw Refusal{kInvalidValue, L"The character cannot stand for others.", 0};
+    }
+    Variant value;
+    GiveText(value.Get(), first);
+    PutInStore(member, value.Value());
     return S_OK;
 }
 

@@ -38,6 +38,8 @@ protected:
     void Reset() override;
     void Collect(std::vector<Record>& records) override;
     bool WantsKey(const MSG& msg) override;
+    /// In the edit as well.
+    bool HasFocus() const override;
 
 private:
     ~TextField() override = default;
@@ -54,6 +56,7 @@ private:
     void ReplaceSelection(std::wstring_view text);
     void TellChange();
     HRESULT CallText(const Arguments& arguments, VARIANT* pResult);
+    HRESULT CallPasswordChar(const Member& member, const Arguments& arguments);
     HRESULT CallSelection(const Member& member, const Arguments& arguments, VARIANT* pResult);
     HRESULT CallState(const Member& member, const Arguments& arguments, VARIANT* pResult);
 

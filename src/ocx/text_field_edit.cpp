@@ -149,6 +149,10 @@ bool TextField::OnMessage(UINT nMessage, WPARAM wParam, LPARAM lParam, LRESULT& 
     }
 }
 
+bool TextField::HasFocus() const {
+    return Control::HasFocus() || (m_hEdit != nullptr && ::GetFocus() == m_hEdit);
+}
+
 void TextField::TakeFocus() {
     enum { kWhereItWas, kStart, kEnd };
     if (m_hEdit == nullptr || IsStatic()) {

@@ -102,7 +102,7 @@ void TextField::DrawLines(HDC hDC, const RECT& rect) {
     RECT rcLines = LinesArea(rect);
     const SavedDC saved(hDC);
     ::IntersectClipRect(hDC, rcLines.left, rcLines.top, rcLines.right, rcLines.bottom);
-    ::SelectObject(hDC, Font().Handle());
+    const Selected font(hDC, Font().Handle());
     ::SetTextColor(hDC, TextColor());
     ::SetBkMode(hDC, TRANSPARENT);
     ::DrawTextW(hDC, str.c_str(), static_cast<int>(str.size()), &rcLines, nFormat);

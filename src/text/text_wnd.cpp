@@ -21,6 +21,13 @@ BEGIN_MESSAGE_MAP(QVTextWnd, CWnd)
     ON_WM_VSCROLL()
     ON_WM_MOUSEWHEEL()
     ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONDBLCLK()
+    ON_WM_LBUTTONUP()
+    ON_WM_MOUSEMOVE()
+    ON_WM_CAPTURECHANGED()
+    ON_WM_TIMER()
+    ON_WM_SETFOCUS()
+    ON_WM_KILLFOCUS()
     ON_WM_KEYDOWN()
     ON_WM_GETDLGCODE()
 END_MESSAGE_MAP()
@@ -117,6 +124,7 @@ bool QVTextWnd::MeasureFont() {
 
 void QVTextWnd::OnDestroy() {
     CWnd::OnDestroy();
+    m_pCore->selection.Release();
     m_bHScrollBar = m_bVScrollBar = 0;
 }
 

@@ -1,5 +1,11 @@
 // QVTextWnd: shows lines of text, each in one style, wrapped to the window: logs and reports of any
-// length. It scrolls, copies, exports and prints; nothing in it can be selected or edited.
+// length. It scrolls, copies, exports and prints; nothing in it can be edited.
+//
+// With EnableExpectedKeys, text is selected: by dragging, which scrolls beyond the window's edge, a
+// double click for a word, and Shift with a click, the arrows, Home, End and the page keys, by
+// words and to the ends of the text with Ctrl as well. Ctrl+A selects all, Ctrl+C and Ctrl+Insert
+// copy. Without Shift the keys scroll as ever. Rows that a class draws by itself show what is
+// selected in the plain way.
 //
 // Add lines with AddText and call CalcLayout behind the last one, or load a file. Two windows can
 // scroll together (SyncWith on both) and print side by side, line by line level.
@@ -15,6 +21,7 @@
 
 #pragma once
 
+#include "frame/expected_keys.h"
 #include "frame/styled_rows.h"
 #include "text/text_records.h"
 
@@ -26,7 +33,16 @@
 
 struct CPrintInfo;
 
-class QV_CONTROLS_API QVTextWnd : public CWnd, public QVStyleTable, protected qv::TextViewState {
+namespace qv {
+class ShownText;
+class TextSelection;
+struct TextPlace;
+}  // namespace qv
+
+class QV_CONTROLS_API QVTextWnd : public CWnd,
+                                  public QVStyleTable,
+                                  public QVExpectedKeys,
+                                  protected qv::TextViewState {
     DECLARE_DYNCREATE(QVTextWnd)
 
 public:
@@ -80,6 +96,11 @@ public:
     int NumDisplayLines() const;
     int GetDisplayLine(int nRow, QVTEXTLINE& row) const;
 
+    // --- Selection, with EnableExpectedKeys
+
+    BOOL HasSelection() const;
+    void SelectAll();
+
     // --- Out of the window
 
     // The lines without style codes, also before the window is made. The letter of a style that is
@@ -88,6 +109,8 @@ public:
     virtual int ExportData(const char* pszPath);
     // All lines as text. 1 if the clipboard has it now.
     int CopyToClipboard();
+    // What is selected. 0 if there is nothing, or no memory, or the clipboard is another's.
+    int CopySelection();
 
     // --- Printing: FormatText, then GetPrintRow for the rows of each page
 
@@ -165,6 +188,13 @@ protected:
     afx_msg void OnVScroll(UINT nCode, UINT nPos, CScrollBar* pBar);
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint pt);
+    afx_msg void OnLButtonDblClk(UINT nFlags, CPoint pt);
+    afx_msg void OnLButtonUp(UINT nFlags, CPoint pt);
+    afx_msg void OnMouseMove(UINT nFlags, CPoint pt);
+    afx_msg void OnCaptureChanged(CWnd* pWnd);
+    afx_msg void OnTimer(UINT_PTR nTimer);
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg void OnKillFocus(CWnd* pNewWnd);
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg UINT OnGetDlgCode();
     DECLARE_MESSAGE_MAP()
@@ -185,6 +215,18 @@ private:
     int DrawRows(CDC& dc, int nRow, int nEnd, int nWidth);
     void DrawPiece(CDC& dc, const CRect& rcRow, std::string_view text, size_t nLength, int nStyle);
     bool ScrollBoth(UINT nCode, UINT nPos);
+
+    qv::TextSelection& Selection() const;
+    qv::ShownText Shown() const;
+    qv::TextPlace PlaceUnder(CPoint pt) const;
+    template <class Deed>
+    void Select(Deed deed);
+    bool TakeExpectedKey(UINT nKey);
+    void ShowCaret();
+    void BeginSelection(UINT nFlags, CPoint pt);
+    void DragSelection(CPoint pt);
+    void FollowFocus();
+    void DrawSelected(CDC& dc, int nRow);
 
     std::unique_ptr<Core> m_pCore;
 };

@@ -7,6 +7,7 @@
 #include "frame/font_measure.h"
 #include "frame/wnd_port.h"
 #include "text/core/print_rows.h"
+#include "text/core/text_selection.h"
 #include "text/core/text_view.h"
 #include "text/text_wnd.h"
 
@@ -41,6 +42,7 @@ public:
     qv::PrintRows print;
     qv::FontMeasure font;
     qv::TextView view;
+    qv::TextSelection selection;
     QVTextWnd* pSyncWnd = nullptr;  // there as long as view has a partner
 };
 

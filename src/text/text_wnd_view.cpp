@@ -107,6 +107,7 @@ void QVTextWnd::Paint() {
     int nRow = m_nVScrollPos;
     if (!m_bUseProportionalFont) {
         for (; watch && nRow < std::min(nEnd, NumLines()); ++nRow) {
+            DrawSelected(dc, nRow);
             DrawText(dc, nRow, view.cx + 1);
         }
     } else {
@@ -142,6 +143,7 @@ int QVTextWnd::DrawRows(CDC& dc, int nRow, int nEnd, int nWidth) {
             strText = ParseStyleText(pszLine);
             m_pCore->view.CutLine(nLine, nWidth);
         }
+        DrawSelected(dc, nRow);
         const qv::TextPiece piece = m_pCore->view.Piece(row.nSubLine, strText.GetLength());
         DrawText(dc, nRow - m_nVScrollPos, strText, nStyle, piece.nFrom, piece.nTo);
     }
@@ -272,15 +274,21 @@ int QVTextWnd::ScrollTo(int nLine, int nMargin) {
 
 // --- Input
 
-void QVTextWnd::OnLButtonDown(UINT, CPoint) {
+void QVTextWnd::OnLButtonDown(UINT nFlags, CPoint pt) {
     const qv::WindowWatch watch(m_pCore->view.Alive(), m_hWnd);
     ::SetFocus(m_hWnd);
     if (watch) {
         Default();
     }
+    if (watch && AreExpectedKeysEnabled()) {
+        BeginSelection(nFlags, pt);
+    }
 }
 
 void QVTextWnd::OnKeyDown(UINT nChar, UINT, UINT) {
+    if (AreExpectedKeysEnabled() && TakeExpectedKey(nChar)) {
+        return;
+    }
     static constexpr struct {
         UINT nKey;
         UINT nMessage;

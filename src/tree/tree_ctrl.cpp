@@ -41,15 +41,17 @@ BEGIN_MESSAGE_MAP(QVTreeCtrlEx, CWnd)
     ON_WM_SETFOCUS()
     ON_WM_KILLFOCUS()
     ON_WM_MOUSEWHEEL()
-    ON_REGISTERED_MESSAGE(g_nMsgMouseWheel, OnRegisteredMouseWheel)
-    ON_MESSAGE(WM_SETREDRAW, OnSetRedraw)
+    ON_REGISTERED_MESSAGE(g_nMsgMouseWheel, &QVTreeCtrlEx::OnRegisteredMouseWheel)
+    ON_MESSAGE(WM_SETREDRAW, &QVTreeCtrlEx::OnSetRedraw)
     ON_WM_DESTROY()
+    ON_MESSAGE(WM_GETOBJECT, &QVTreeCtrlEx::OnGetObject)
 END_MESSAGE_MAP()
 
 // --- Creation
 
 QVTreeCtrlEx::QVTreeCtrlEx()
-    : m_pCore(qv::AsMemoryException([this] { return std::make_unique<Core>(*this); })) {}
+    : QVAccessible(static_cast<CWnd&>(*this)),
+      m_pCore(qv::AsMemoryException([this] { return std::make_unique<Core>(*this); })) {}
 
 QVTreeCtrlEx::~QVTreeCtrlEx() {
     DestroyWindow();
@@ -162,34 +164,61 @@ int QVTreeCtrlEx::GetIndentStep() const {
 
 HTREEITEM QVTreeCtrlEx::InsertItem(LPCSTR pszText, int nImage, int nSelectedImage,
                                    HTREEITEM hParent, HTREEITEM hInsertAfter) {
-    return View().InsertItem(pszText, nImage, nSelectedImage, hParent, hInsertAfter);
+    const qv::AliveWatch watch(Items().Alive());
+    const HTREEITEM hItem =
+        View().InsertItem(pszText, nImage, nSelectedImage, hParent, hInsertAfter);
+    if (watch) {
+        TellAccessibleReorder();
+    }
+    return hItem;
+}
+
+// A selection among what goes is moved silently; who listens hears of it.
+template <class Removal>
+BOOL QVTreeCtrlEx::TellRemoval(Removal remove) {
+    const HTREEITEM hSelected = GetSelectedItem();
+    const BOOL bRemoved = remove();
+    TellAccessibleReorder();
+    if (GetSelectedItem() != hSelected) {
+        TellAccessibleSelected(GetItemPart(GetSelectedItem()));
+    }
+    return bRemoved;
 }
 
 BOOL QVTreeCtrlEx::DeleteItem(HTREEITEM hItem) {
-    return View().DeleteItem(hItem);
+    return TellRemoval([&] { return View().DeleteItem(hItem); });
 }
 
 BOOL QVTreeCtrlEx::DeleteChildren(HTREEITEM hItem) {
     if (IsDead(hItem)) {
         return FALSE;
     }
-    return View().DeleteChildren(hItem);
+    return TellRemoval([&] { return View().DeleteChildren(hItem); });
 }
 
 BOOL QVTreeCtrlEx::DeleteAllItems() {
-    View().DeleteAllItems();
-    return TRUE;
+    return TellRemoval([&] {
+        View().DeleteAllItems();
+        return true;
+    });
 }
 
 BOOL QVTreeCtrlEx::ChangeParent(HTREEITEM hItem, HTREEITEM hNewParent) {
-    return View().ChangeParent(hItem, hNewParent);
+    const BOOL bMoved = View().ChangeParent(hItem, hNewParent);
+    TellAccessibleReorder();
+    return bMoved;
 }
 
 BOOL QVTreeCtrlEx::SortChildren(HTREEITEM hParent) {
     if (IsDead(hParent)) {
         return FALSE;
     }
-    return View().SortChildren(hParent);
+    const qv::AliveWatch watch(Items().Alive());
+    const BOOL bSorted = View().SortChildren(hParent);
+    if (watch) {
+        TellAccessibleReorder();
+    }
+    return bSorted;
 }
 
 HTREEITEM QVTreeCtrlEx::FindItem(HTREEITEM hParent, const CString& strText, int nImage) {
@@ -248,6 +277,7 @@ CString QVTreeCtrlEx::GetItemText(HTREEITEM hItem) {
 
 void QVTreeCtrlEx::SetItemText(HTREEITEM hItem, const CString& strText) {
     View().SetItemText(Live(hItem), strText);
+    TellItem(EVENT_OBJECT_NAMECHANGE, Live(hItem));
 }
 
 DWORD_PTR QVTreeCtrlEx::GetItemData(HTREEITEM hItem) {
@@ -290,6 +320,10 @@ UINT QVTreeCtrlEx::GetItemState(HTREEITEM hItem) {
 
 void QVTreeCtrlEx::SetItemState(HTREEITEM hItem, UINT nState, UINT nMask) {
     View().SetItemState(Live(hItem), nState, nMask);
+    if ((nMask & TVIS_EXPANDED) != 0) {
+        TellAccessibleReorder();
+    }
+    TellItem(EVENT_OBJECT_STATECHANGE, Live(hItem));
 }
 
 UINT QVTreeCtrlEx::StateImageFromState(UINT nState) {
@@ -310,6 +344,7 @@ UINT QVTreeCtrlEx::GetItemStateImage(HTREEITEM hItem) {
 
 void QVTreeCtrlEx::SetItemStateImage(HTREEITEM hItem, UINT nImage, BOOL bChildren) {
     View().SetItemStateImage(Live(hItem), nImage, bChildren);
+    TellItem(EVENT_OBJECT_STATECHANGE, Live(hItem));
 }
 
 BOOL QVTreeCtrlEx::GetCheck(HTREEITEM hItem) {
@@ -460,15 +495,38 @@ BOOL QVTreeCtrlEx::ItemExpanded(HTREEITEM hItem) {
 }
 
 BOOL QVTreeCtrlEx::EnsureVisible(HTREEITEM hItem) {
-    return View().EnsureVisible(Live(hItem));
+    hItem = Live(hItem);
+    HTREEITEM hClosed = hItem != nullptr ? hItem->pParent : nullptr;
+    while (hClosed != nullptr && ItemExpanded(hClosed)) {
+        hClosed = hClosed->pParent;
+    }
+    const BOOL bVisible = View().EnsureVisible(hItem);
+    if (hClosed != nullptr) {
+        TellAccessibleReorder();
+        TellItem(EVENT_OBJECT_STATECHANGE, hClosed);
+    }
+    return bVisible;
 }
 
 BOOL QVTreeCtrlEx::Expand(HTREEITEM hItem, UINT nCode, BOOL bInvalidate, BOOL bCollapseChildren) {
-    return View().Expand(Live(hItem), nCode, bInvalidate, bCollapseChildren);
+    const qv::AliveWatch watch(Items().Alive());
+    const BOOL bDone = View().Expand(Live(hItem), nCode, bInvalidate, bCollapseChildren);
+    if (bDone && watch) {
+        TellAccessibleReorder();
+        TellItem(EVENT_OBJECT_STATECHANGE, Live(hItem));
+    }
+    return bDone;
 }
 
 BOOL QVTreeCtrlEx::SelectItem(HTREEITEM hItem) {
-    return !IsDead(hItem) && View().SelectItem(hItem);
+    const Guard guard(*this, nullptr);
+    if (IsDead(hItem) || !View().SelectItem(hItem)) {
+        return FALSE;
+    }
+    if (guard) {
+        TellAccessibleSelected(GetItemPart(hItem));
+    }
+    return TRUE;
 }
 
 void QVTreeCtrlEx::InvalidateItem(HTREEITEM hItem, BOOL bErase) {

@@ -26,10 +26,20 @@
 // CalcItemRect - a CMemoryException leaves it. A refit or a paint that fails is made up for by the
 // next one. Steps that a derived class replaces may throw CMemoryException or std::bad_alloc.
 //
+// With EnableExpectedKeys, beside the arrows and the blank: Home and End lead to the first and the
+// last row, Page Up and Page Down a page on; on the number pad + opens a branch, - closes it and *
+// opens all below it, each with its notifications; letters lead to the next row that begins with
+// them. All select, with the notifications of a click.
+//
+// Screen readers hear an outline of the displayable rows: see docs/accessibility.md. A part is the
+// item with that number (GetItemPart), for as long as the item is there.
+//
 // Bulk changes go between SetRedraw(FALSE) and SetRedraw(TRUE), as with any control.
 
 #pragma once
 
+#include "frame/accessible.h"
+#include "frame/expected_keys.h"
 #include "frame/styled_rows.h"
 
 #include <afxcmn.h>
@@ -43,7 +53,10 @@ class TreeItems;
 class TreeView;
 }  // namespace qv
 
-class QV_CONTROLS_API QVTreeCtrlEx : public CWnd, public QVStyledRows {
+class QV_CONTROLS_API QVTreeCtrlEx : public CWnd,
+                                     public QVStyledRows,
+                                     public QVExpectedKeys,
+                                     public QVAccessible {
     DECLARE_DYNCREATE(QVTreeCtrlEx)
 
 public:
@@ -188,6 +201,38 @@ public:
     BOOL SelectItem(HTREEITEM hItem);
     void InvalidateItem(HTREEITEM hItem, BOOL bErase);
 
+    // --- What a screen reader is told
+
+    // Headings of the columns, a row string: the fields behind the first are said with them then
+    // ("Size: 3 GB"), in an item's description. Without headings an item's name is its whole row.
+    void SetAccessibleHeadings(const CString& strHeadings) { m_strHeadings = strHeadings; }
+    const CString& GetAccessibleHeadings() const { return m_strHeadings; }
+    // The item of a part, and the part of an item; null and 0 for none.
+    HTREEITEM GetPartItem(long nPart) const;
+    long GetItemPart(HTREEITEM hItem) const;
+
+    // Name: the fields that are shown. Value: the level, from 0. Description: the columns under
+    // their headings, and which of its siblings the item is: "3 of 7".
+    CString GetAccessibleName(long nPart) override;
+    CString GetAccessibleValue(long nPart) override;
+    CString GetAccessibleDescription(long nPart) override;
+    // "Expand" or "Collapse" of an item with children; of another with a check mark that users may
+    // change, "Check" or "Uncheck".
+    CString GetAccessibleAction(long nPart) override;
+    long GetAccessibleRole(long nPart) override;
+    long GetAccessibleState(long nPart) override;
+    BOOL GetAccessibleRect(long nPart, CRect& rect) override;
+    BOOL IsAccessiblePart(long nPart) override;
+    long GetAccessibleCount() override;
+    long GetAccessiblePart(long nIndex) override;
+    long GetAccessibleIndex(long nPart) override;
+    long AccessibleHitTest(CPoint pt) override;
+    // Left leads to the parent, right to the first child of an item that is expanded.
+    long NavigateAccessible(long nPart, long nDirection) override;
+    long GetNextAccessibleSelected(long nPart) override;
+    BOOL SelectAccessible(long nPart, long nFlags) override;
+    BOOL DoAccessibleAction(long nPart) override;
+
     afx_msg LRESULT OnRegisteredMouseWheel(WPARAM wParam, LPARAM lParam);
 
     // --- Steps that a derived class may replace
@@ -269,6 +314,7 @@ protected:
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);
     afx_msg LRESULT OnSetRedraw(WPARAM wParam, LPARAM lParam);
     afx_msg void OnDestroy();
+    afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     CImageList* m_pImageList = nullptr;       // not owned
@@ -295,17 +341,29 @@ private:
     void DrawImage(CDC& dc, CImageList& images, int nImage, CRect rcCell, CSize size);
     void DrawTreeLines(CDC& dc, HTREEITEM hItem, const CRect& rcCell, int nShift, int nRight);
     bool ToggleByMouse(HTREEITEM hItem);
-    bool ExpandByKey(HTREEITEM hItem);
+    bool ExpandByKey(HTREEITEM hItem, bool bKeepsChildren = false);
     bool CollapseByKey(HTREEITEM hItem);
     void StepSelection(bool bDown);
     void SelectParent(HTREEITEM hItem);
+    bool TakeExpectedKey(UINT nKey);
+    bool TakeTypedChar(UINT nChar);
+    HTREEITEM KeyTarget(UINT nKey, HTREEITEM hFrom);
+    HTREEITEM FindTyped();
+    void SelectAndShow(HTREEITEM hItem);
+    void ExpandBranch(HTREEITEM hItem);
     bool ChangeOneStateImage(HTREEITEM hItem, UINT nImage);
     void ToggleCheck(HTREEITEM hItem);
     void DrawFocusFrame(bool bFocus);
 
     void DropPlatformTips();
+    CString SpokenFields(HTREEITEM hItem, bool bName);
+    template <class Removal>
+    BOOL TellRemoval(Removal remove);
+    void TellItem(DWORD nEvent, HTREEITEM hItem) const;
 
     const std::type_info* m_pKeepsSteps = nullptr;
+    CString m_strHeadings;
+    UINT m_chOfKey = 0;            // that a key of the number pad leaves behind
     bool m_bPlatformTree = false;  // the window is of the platform's class
     std::unique_ptr<Core> m_pCore;
 };

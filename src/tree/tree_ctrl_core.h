@@ -10,7 +10,7 @@
 #include "tree/core/tree_view.h"
 #include "tree/tree_ctrl.h"
 
-class QVTreeCtrlEx::Core : public qv::TreeSteps {
+class QVTreeCtrlEx::Core final : public qv::TreeSteps {
 public:
     explicit Core(QVTreeCtrlEx& tree);
 

@@ -248,12 +248,13 @@ void QVTreeCtrlEx::OnHScroll(UINT nCode, UINT nPos, CScrollBar*) {
 
 // --- Keys
 
-bool QVTreeCtrlEx::ExpandByKey(HTREEITEM hItem) {
+// bKeepsChildren: what is open below it stays open.
+bool QVTreeCtrlEx::ExpandByKey(HTREEITEM hItem, bool bKeepsChildren) {
     const Guard guard(*this, hItem);
     if (NotifyParent(TVN_ITEMEXPANDING, TVN_ITEMEXPANDING, nullptr, hItem) != 0 || !guard) {
         return false;
     }
-    if (Expand(hItem, TVE_EXPAND, TRUE, TRUE) && guard) {
+    if (Expand(hItem, TVE_EXPAND, !bKeepsChildren, !bKeepsChildren) && guard) {
         NotifyParent(TVN_ITEMEXPANDED, TVN_ITEMEXPANDED, nullptr, hItem);
     }
     if (guard) {
@@ -315,6 +316,9 @@ void QVTreeCtrlEx::SelectParent(HTREEITEM hItem) {
 }
 
 void QVTreeCtrlEx::OnKeyDown(UINT nChar, UINT, UINT) {
+    if (AreExpectedKeysEnabled() && TakeExpectedKey(nChar)) {
+        return;
+    }
     if (nChar != VK_UP && nChar != VK_DOWN && nChar != VK_LEFT && nChar != VK_RIGHT) {
         Default();
         return;
@@ -345,7 +349,9 @@ void QVTreeCtrlEx::OnKeyDown(UINT nChar, UINT, UINT) {
 
 void QVTreeCtrlEx::OnChar(UINT nChar, UINT, UINT) {
     if (nChar != ' ') {
-        Default();
+        if (!AreExpectedKeysEnabled() || !TakeTypedChar(nChar)) {
+            Default();
+        }
         return;
     }
     const HTREEITEM hSelected = GetSelectedItem();
@@ -401,6 +407,7 @@ void QVTreeCtrlEx::OnSetFocus(CWnd*) {
     Default();
     if (guard) {
         DrawFocusFrame(true);
+        TellItem(EVENT_OBJECT_FOCUS, GetSelectedItem());
     }
 }
 

@@ -27,6 +27,9 @@ class Tree : public QVTreeCtrlEx {
 public:
     Tree() { KeepSteps(typeid(Tree)); }
 
+    CString GetAccessibleName(long nPart) override {
+        return QVTreeCtrlEx::GetAccessibleName(nPart) + "!";
+    }
     void LooksAtItself(CWnd& parent) {
         ASSERT_TRUE(Create(WS_CHILD | TVS_HASLINES, kRect, &parent, 1));
         const HTREEITEM hRoot = InsertItem("root", 0, 0, TVI_ROOT, TVI_LAST);
@@ -37,6 +40,7 @@ public:
         EXPECT_EQ(GetImageSize() + GetStateImageSize(), CSize(0, 0));
         EXPECT_TRUE(m_pImageList == m_pStateImageList && m_bAllowTags == m_bAutoTagChildren);
         EXPECT_EQ(m_brBackground.m_hObject, nullptr) << "lives for one paint";
+        EXPECT_EQ(GetAccessibleName(GetItemPart(hRoot)), "root!");
         EXPECT_EQ(NumStyles(), 1);
         EXPECT_EQ(StyleColors(0).crText, ::GetSysColor(COLOR_WINDOWTEXT));
         EXPECT_EQ(StyleColors(1).crBk, 0u);
@@ -71,6 +75,8 @@ public:
     void LooksAtItself(CWnd& parent) {
         CRect rect(kRect);
         ASSERT_TRUE(Create(rect, &parent, 1, 1));
+        EnableExpectedKeys();
+        EXPECT_TRUE(AreExpectedKeysEnabled() && !HasSelection());
         AddText("one", 0);
         AddText("two\nthree, and wide enough to be wrapped in a window of this size", 0);
         CalcLayout();
@@ -178,6 +184,26 @@ public:
         EXPECT_EQ(m_nImageWidth + m_nImageHeight, 0);
         SetNumColumns(1);
         EXPECT_EQ(NumColumns(), 1);
+    }
+};
+
+class VirtualList : public QVVirtualListCtrl {
+public:
+    void LooksAtItself(CWnd& parent) {
+        ASSERT_TRUE(Create(1, kRect, &parent));
+        AddHeader("one", lcdtNumber);
+        SetRowCount(9);
+        SortOnHeader(0);
+        EXPECT_STREQ(CellText(0, 0), "8") << "the first click gives the descending order";
+    }
+
+protected:
+    void GetRow(int nRow, QVLISTROW& row) override { row.strText.Format("%d", nRow); }
+    void GetSortText(int nRow, int nCol, CString& strText) override {
+        QVVirtualListCtrl::GetSortText(nRow, nCol, strText);
+    }
+    void PrepareRows(const int* pRows, int nRows) override {
+        QVVirtualListCtrl::PrepareRows(pRows, nRows);
     }
 };
 
@@ -541,6 +567,23 @@ public:
     }
 };
 
+// --- A control of a program's own that says what it is
+
+class Spoken : public CWnd, public QVAccessible {
+public:
+    Spoken() : QVAccessible(static_cast<CWnd&>(*this)) {}
+    ~Spoken() override { DestroyWindow(); }
+    long GetAccessibleCount() override { return 2; }
+    void LooksAtItself(CWnd& parent) {
+        ASSERT_TRUE(Create(nullptr, "&Dial", WS_CHILD, kRect, &parent, 1));
+        EXPECT_TRUE(IsAccessiblePart(2) && !IsAccessiblePart(3));
+        EXPECT_EQ(GetAccessibleName(0) + GetAccessibleShortcut(0), "DialAlt+D");
+        EXPECT_TRUE(AsksAccessible(-4) && !AsksAccessible(0));
+        TellAccessibleReorder();
+        EXPECT_EQ(AnswerAccessible(0, 0x51563137), 0);
+    }
+};
+
 // --- All of them
 
 template <class Control>
@@ -555,14 +598,14 @@ protected:
     Parent m_parent;
 };
 using Derived =
-    testing::Types<Tree, Grid, Text, Box, SpeedEdit, DateEdit, List, ListBox, BitmapCombo,
-                   ColorCombo, Captioned<QVHeaderWnd>, Captioned<QVListHeaderWnd>,
+    testing::Types<Tree, Grid, Text, Box, SpeedEdit, DateEdit, List, VirtualList, ListBox,
+                   BitmapCombo, ColorCombo, Captioned<QVHeaderWnd>, Captioned<QVListHeaderWnd>,
                    Captioned<QVTreeHeaderWnd>, Captioned<QVTextHeaderWnd>, TabbedPages, TabbedView,
                    Splitter, PropSheet<QVPropertySheet, QVPropertyPage>,
                    PropSheet<QVPropertySheetEx, QVPropertyPageEx>, Panel, WizardPage, Tool, Macros,
                    Mark, Asking<QVMsgBox>, Asking<QVMsgPromptDlg>, Waiting, TextDlg, Folders,
                    OneFile, Machine, Browsing, Item, About, FlexGrid, Wrapped<CTab>,
-                   Wrapped<CfpText>>;
+                   Wrapped<CfpText>, Spoken>;
 TYPED_TEST_SUITE(Outside, Derived);
 
 TYPED_TEST(Outside, ReachesWhatIsItsOwn) {

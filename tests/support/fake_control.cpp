@@ -4,6 +4,8 @@
 
 const IID IID_FakeEvents = {
     0x6F2B7A10, 0x41C7, 0x4E0B, {0x9C, 0x55, 0x0A, 0x1D, 0x7E, 0x22, 0x83, 0x01}};
+const CLSID CLSID_FakeControl = {
+    0x6F2B7A11, 0x41C7, 0x4E0B, {0x9C, 0x55, 0x0A, 0x1D, 0x7E, 0x22, 0x83, 0x01}};
 
 namespace {
 
@@ -22,20 +24,6 @@ LRESULT CALLBACK FakeWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam)
 }
 
 }  // namespace
-
-OwnedVariant OwnedVariant::Text(LPCWSTR psz) {
-    OwnedVariant text;
-    text.vt = VT_BSTR;
-    text.bstrVal = ::SysAllocString(psz);
-    return text;
-}
-
-OwnedVariant OwnedVariant::Long(LONG n) {
-    OwnedVariant number;
-    number.vt = VT_I4;
-    number.lVal = n;
-    return number;
-}
 
 // --- The class
 
@@ -161,9 +149,9 @@ FakeControl::~FakeControl() {
     }
 }
 
-HRESULT FakeControl::Fire(DISPID id, std::vector<OwnedVariant> args) {
+HRESULT FakeControl::Fire(DISPID id, std::vector<COleVariant> args) {
     const AfxComPtr<FakeControl> stay(this);
-    std::ranges::reverse(args);
+    std::reverse(args.begin(), args.end());
     DISPPARAMS params = {args.data(), nullptr, static_cast<UINT>(args.size()), 0};
     const AfxComPtr<IDispatch> pSink = m_pEventSink;
     EXCEPINFO info = {};
@@ -176,8 +164,8 @@ HRESULT FakeControl::Fire(DISPID id, std::vector<OwnedVariant> args) {
     return hr;
 }
 
-OwnedVariant FakeControl::Ambient(DISPID id) {
-    OwnedVariant value;
+COleVariant FakeControl::Ambient(DISPID id) {
+    COleVariant value;
     DISPPARAMS none = {};
     if (const auto pAmbient = SiteAs<IDispatch>()) {
         pAmbient->Invoke(id, IID_NULL, 0, DISPATCH_PROPERTYGET, &none, &value, nullptr, nullptr);
@@ -320,7 +308,7 @@ STDMETHODIMP FakeControl::SetObjectRects(LPCRECT prcPos, LPCRECT) {
 
 STDMETHODIMP FakeControl::TranslateAccelerator(LPMSG pMsg) {
     const HRESULT hr = m_class.Step("translate " + std::to_string(pMsg->wParam));
-    return FAILED(hr) ? hr : m_class.m_hrTranslate;
+    return FAILED(hr) ? hr : S_FALSE;
 }
 
 STDMETHODIMP FakeControl::GetControlInfo(CONTROLINFO* pInfo) {
@@ -356,30 +344,19 @@ STDMETHODIMP FakeControl::Load(IStorage* pStorage) {
 }
 
 STDMETHODIMP FakeControl::Invoke(DISPID id, REFIID, LCID, WORD wFlags, DISPPARAMS* pParams,
-                                 VARIANT* pvarResult, EXCEPINFO* pExcepInfo, UINT*) {
+                                 VARIANT* pvarResult, EXCEPINFO*, UINT*) {
     const AfxComPtr<FakeControl> stay(this);
-    FakeControlClass::Call call{id, wFlags, {}};
-    for (UINT n = pParams->cArgs; n > 0; --n) {
-        call.args.emplace_back(pParams->rgvarg[n - 1]);
-    }
+    const DispatchCall call(id, wFlags, *pParams);
     m_class.m_calls.push_back(call);
     const HRESULT hr = m_class.Step("invoke " + std::to_string(id));
     if (FAILED(hr)) {
         return hr;
     }
-    if (const auto it = m_class.m_thrown.find(id); it != m_class.m_thrown.end()) {
-        if (pExcepInfo != nullptr) {
-            *pExcepInfo = {};
-            pExcepInfo->scode = E_FAIL;
-            pExcepInfo->bstrDescription = ::SysAllocString(it->second.c_str());
-        }
-        return DISP_E_EXCEPTION;
-    }
     const auto it = m_class.m_values.find(id);
     if (it == m_class.m_values.end()) {
         return m_class.m_bAnyMember ? S_OK : DISP_E_MEMBERNOTFOUND;
     }
-    if (wFlags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) {
+    if (call.IsPut()) {
         it->second = call.args.back();
     } else if (pvarResult != nullptr) {
         ::VariantCopy(pvarResult, &it->second);

@@ -1,41 +1,21 @@
 // An ActiveX control of the tests' own. It writes down what its container does with it, gives back
 // what it is told to, and fails or acts at any step.
 //
-//     FakeControlClass cls(clsid);      // known in this process for as long as this lives
-//     wrapper.CreateControl(clsid, ...);
+//     FakeControlClass cls(CLSID_FakeControl);  // known in this process for as long as this lives
+//     wrapper.CreateControl(CLSID_FakeControl, ...);
 //     cls.m_control->Fire(7, {...});
 #pragma once
 
 #include "afx/ole/com_pointer.h"
-
-#include <afxdisp.h>
+#include "support/dispatch_call.h"
 
 #include <functional>
 #include <map>
 #include <memory>
 #include <ocidl.h>
 #include <olectl.h>
-#include <string>
-#include <vector>
 
 class FakeControl;
-
-/// A VARIANT that owns what it holds.
-class OwnedVariant : public VARIANT {
-public:
-    OwnedVariant() { ::VariantInit(this); }
-    OwnedVariant(const VARIANT& other) : OwnedVariant() {
-        ::VariantCopy(this, const_cast<VARIANT*>(&other));
-    }
-    OwnedVariant(const OwnedVariant& other) : OwnedVariant(static_cast<const VARIANT&>(other)) {}
-    OwnedVariant& operator=(const OwnedVariant& other) {
-        ::VariantCopy(this, const_cast<OwnedVariant*>(&other));
-        return *this;
-    }
-    ~OwnedVariant() { ::VariantClear(this); }
-    static OwnedVariant Text(LPCWSTR psz);
-    static OwnedVariant Long(LONG n);
-};
 
 /// A class of such controls, and how they behave. The default source of events is IID_FakeEvents.
 class FakeControlClass {
@@ -51,22 +31,14 @@ public:
     std::vector<std::string> m_steps;
     DWORD m_dwMiscStatus = OLEMISC_INSIDEOUT | OLEMISC_ACTIVATEWHENVISIBLE;
     bool m_bStorage = false;    ///< saved in a storage instead of a stream
-    bool m_bClassInfo = true;   ///< tells its event interface by IProvideClassInfo2
     std::wstring m_strLicence;  ///< the key without which there are none
     SIZE m_sizeHimetric = {2540, 1270};
-    std::vector<ACCEL> m_mnemonics;   ///< empty: no GetControlInfo
-    DWORD m_dwControlFlags = 0;       ///< CTRLINFO_
-    HRESULT m_hrTranslate = S_FALSE;  ///< what TranslateAccelerator gives
+    std::vector<ACCEL> m_mnemonics;  ///< empty: no GetControlInfo
+    DWORD m_dwControlFlags = 0;      ///< CTRLINFO_
 
-    struct Call {
-        DISPID id;
-        WORD wFlags;
-        std::vector<OwnedVariant> args;  ///< first one first
-    };
-    std::vector<Call> m_calls;
-    std::map<DISPID, OwnedVariant> m_values;  ///< properties and results; others are not members
-    std::map<DISPID, std::wstring> m_thrown;  ///< members that fail with this description
-    bool m_bAnyMember = false;                ///< each id is a member, of no value
+    std::vector<DispatchCall> m_calls;
+    std::map<DISPID, COleVariant> m_values;  ///< properties and results; others are not members
+    bool m_bAnyMember = false;               ///< each id is a member, of no value
 
     FakeControl* m_control = nullptr;  ///< the latest one, null once it is gone
     int m_nAlive = 0;
@@ -82,11 +54,13 @@ private:
 };
 
 extern const IID IID_FakeEvents;
+/// The one that the dialog templates of the tests name.
+extern const CLSID CLSID_FakeControl;
 
 class FakeControl final
-    : public AfxComObject<IOleObject, IOleInPlaceObject, IOleInPlaceActiveObject, IOleControl,
-                          IPersistStreamInit, IPersistStorage, IDispatch, IConnectionPointContainer,
-                          IProvideClassInfo2> {
+    : public BareDispatch<AfxComObject<IOleObject, IOleInPlaceObject, IOleInPlaceActiveObject,
+                                       IOleControl, IPersistStreamInit, IPersistStorage, IDispatch,
+                                       IConnectionPointContainer, IProvideClassInfo2>> {
 public:
     explicit FakeControl(FakeControlClass& cls);
     ~FakeControl() override;
@@ -96,14 +70,14 @@ public:
     AfxComPtr<IOleClientSite> m_pSite;
 
     /// Tells an event or a change to whoever is connected. The latest answer.
-    HRESULT Fire(DISPID id, std::vector<OwnedVariant> args = {});
+    HRESULT Fire(DISPID id, std::vector<COleVariant> args = {});
     HRESULT TellChanged(DISPID id) {
         return m_pPropertySink ? m_pPropertySink->OnChanged(id) : S_OK;
     }
     HRESULT AskToChange(DISPID id) {
         return m_pPropertySink ? m_pPropertySink->OnRequestEdit(id) : S_OK;
     }
-    OwnedVariant Ambient(DISPID id);
+    COleVariant Ambient(DISPID id);
     template <class Interface>
     AfxComPtr<Interface> SiteAs() {
         return m_pSite.template As<Interface>();
@@ -182,14 +156,6 @@ public:
     STDMETHODIMP HandsOffStorage() override { return S_OK; }
 
     // IDispatch
-    STDMETHODIMP GetTypeInfoCount(UINT* pn) override {
-        *pn = 0;
-        return S_OK;
-    }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override {
-        return E_NOTIMPL;
-    }
     STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD wFlags, DISPPARAMS* pParams,
                         VARIANT* pvarResult, EXCEPINFO* pExcepInfo, UINT*) override;
 

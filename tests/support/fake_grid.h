@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "grid/core/grid_editing.h"
+#include "grid/core/grid_deeds.h"
 
 #include <cstring>
 #include <functional>
@@ -133,6 +133,10 @@ public:
     bool SameText(const char* psz1, const char* psz2) const override {
         return std::strcmp(psz1, psz2) == 0;
     }
+    void NoteEdit(qv::GridCell cell, const std::string& strBefore,
+                  const std::string& strAfter) override {
+        deeds.Note(true, cell, strBefore, strAfter);
+    }
 
     class Edit : public qv::GridEditPort {
     public:
@@ -217,6 +221,7 @@ public:
     Edit edit;
     List list;
     qv::GridEditing editing;
+    qv::GridDeeds deeds{editing};
     Focus focus = Focus::Elsewhere;
     bool bWindow = true;
     bool bNoMemory = false;

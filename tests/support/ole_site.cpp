@@ -1,45 +1,22 @@
 #include "support/ole_site.h"
 
-namespace {
-
-template <class I>
-I* As(IUnknown* pObject) {
-    I* p = nullptr;
-    if (pObject != nullptr) {
-        pObject->QueryInterface(__uuidof(I), reinterpret_cast<void**>(&p));
-    }
-    return p;
-}
-
-template <class I>
-void Drop(I*& p) {
-    if (I* pOld = std::exchange(p, nullptr)) {
-        pOld->Release();
-    }
-}
-
-}  // namespace
-
 OleSite::OleSite(REFCLSID clsid, bool bInPlace)
     : m_bInPlace(bInPlace),
       m_hFrame(::CreateWindowW(L"STATIC", L"", WS_OVERLAPPEDWINDOW, 40, 40, 500, 400, nullptr,
                                nullptr, nullptr, nullptr)) {
-    ::CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER, IID_IOleObject,
-                       reinterpret_cast<void**>(&m_pObject));
-    if (m_pObject == nullptr) {
+    ::CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER, IID_IOleObject, m_pObject.PutVoid());
+    if (!m_pObject) {
         return;
     }
-    m_pDispatch = As<IDispatch>(m_pObject);
+    m_pDispatch = m_pObject.As<IDispatch>();
     m_pObject->SetClientSite(this);
-    if (auto* pInit = As<IPersistStreamInit>(m_pObject)) {
+    if (const auto pInit = m_pObject.As<IPersistStreamInit>()) {
         pInit->InitNew();
-        pInit->Release();
     }
-    if (auto* pPoints = As<IConnectionPointContainer>(m_pObject)) {
-        pPoints->FindConnectionPoint(IID_IDispatch, &m_pPoint);
-        pPoints->Release();
+    if (const auto pPoints = m_pObject.As<IConnectionPointContainer>()) {
+        pPoints->FindConnectionPoint(IID_IDispatch, m_pPoint.Put());
     }
-    if (m_pPoint != nullptr) {
+    if (m_pPoint) {
         m_pPoint->Advise(static_cast<IDispatch*>(this), &m_dwCookie);
     }
 }
@@ -51,23 +28,21 @@ OleSite::~OleSite() {
 }
 
 void OleSite::Close() {
-    if (IOleObject* pObject = m_pObject) {
-        pObject->AddRef();
+    if (const AfxComPtr<IOleObject> pObject = m_pObject) {
         pObject->Close(OLECLOSE_NOSAVE);
-        pObject->Release();
     }
 }
 
 void OleSite::LetGo() {
-    if (m_pPoint != nullptr) {
+    if (m_pPoint) {
         m_pPoint->Unadvise(m_dwCookie);
     }
-    if (m_pObject != nullptr) {
+    if (m_pObject) {
         m_pObject->SetClientSite(nullptr);
     }
-    Drop(m_pPoint);
-    Drop(m_pDispatch);
-    Drop(m_pObject);
+    m_pPoint.Reset();
+    m_pDispatch.Reset();
+    m_pObject.Reset();
 }
 
 HRESULT OleSite::Activate(const RECT& rect, LONG nVerb) {
@@ -80,9 +55,8 @@ HRESULT OleSite::Activate(const RECT& rect, LONG nVerb) {
 
 HWND OleSite::Window() const {
     HWND hWnd = nullptr;
-    if (auto* pWindow = As<IOleWindow>(m_pObject)) {
+    if (const auto pWindow = m_pObject.As<IOleWindow>()) {
         pWindow->GetWindow(&hWnd);
-        pWindow->Release();
     }
     return hWnd;
 }
@@ -95,10 +69,7 @@ HRESULT OleSite::PutValue(DISPID id, VARIANT value) {
 }
 
 HRESULT OleSite::Put(DISPID id, LONG n) {
-    VARIANT value = {};
-    value.vt = VT_I4;
-    value.lVal = n;
-    return PutValue(id, value);
+    return PutValue(id, COleVariant(n));
 }
 
 HRESULT OleSite::Put(DISPID id, const wchar_t* psz) {
@@ -110,23 +81,23 @@ HRESULT OleSite::Put(DISPID id, const wchar_t* psz) {
     return hr;
 }
 
-LONG OleSite::Number(DISPID id) {
-    VARIANT value = {};
+COleVariant OleSite::Value(DISPID id) {
+    COleVariant value;
     DISPPARAMS params = {};
     m_pDispatch->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &params, &value,
                         nullptr, nullptr);
+    return value;
+}
+
+LONG OleSite::Number(DISPID id) {
+    COleVariant value = Value(id);
     ::VariantChangeType(&value, &value, 0, VT_I4);
     return value.lVal;
 }
 
 std::wstring OleSite::Text(DISPID id) {
-    VARIANT value = {};
-    DISPPARAMS params = {};
-    m_pDispatch->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &params, &value,
-                        nullptr, nullptr);
-    const std::wstring str = value.vt == VT_BSTR && value.bstrVal != nullptr ? value.bstrVal : L"";
-    ::VariantClear(&value);
-    return str;
+    const COleVariant value = Value(id);
+    return value.vt == VT_BSTR && value.bstrVal != nullptr ? value.bstrVal : L"";
 }
 
 STDMETHODIMP OleSite::QueryInterface(REFIID iid, void** ppv) {

@@ -2,16 +2,15 @@
 // of the one control there.
 #pragma once
 
-#include <afxwin.h>
+#include "afx/ole/com_pointer.h"
+#include "support/dispatch_call.h"
 
 #include <functional>
 #include <ocidl.h>
 #include <oleauto.h>
-#include <string>
-#include <vector>
 
 /// Its references are not what keeps it: it lives as its owner says, and tells how many are held.
-class OleSite : public IOleClientSite, public IOleInPlaceSite, public IDispatch {
+class OleSite : public IOleClientSite, public IOleInPlaceSite, public BareDispatch<IDispatch> {
 public:
     /// Makes the control, with a new window to put it into, and listens. bInPlace: false for a
     /// container that knows IOleClientSite alone.
@@ -21,8 +20,8 @@ public:
     OleSite(const OleSite&) = delete;
     OleSite& operator=(const OleSite&) = delete;
 
-    IOleObject* Object() const { return m_pObject; }  ///< null if it could not be made
-    IDispatch* Dispatch() const { return m_pDispatch; }
+    IOleObject* Object() const { return m_pObject.Get(); }  ///< null if it could not be made
+    IDispatch* Dispatch() const { return m_pDispatch.Get(); }
     HWND Frame() const { return m_hFrame; }
     HWND Window() const;  ///< the control's
     LONG References() const { return m_nRefs; }
@@ -64,24 +63,20 @@ public:
     STDMETHODIMP DiscardUndoState() override { return E_NOTIMPL; }
     STDMETHODIMP DeactivateAndUndo() override { return E_NOTIMPL; }
     STDMETHODIMP OnPosRectChange(LPCRECT) override { return S_OK; }
-    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override {
-        return E_NOTIMPL;
-    }
     /// An event, or an ambient property, of which there are none.
     STDMETHODIMP Invoke(DISPID id, REFIID iid, LCID lcid, WORD wFlags, DISPPARAMS* pParams,
                         VARIANT* pResult, EXCEPINFO* pInfo, UINT* pnArgument) override;
 
 private:
     HRESULT PutValue(DISPID id, VARIANT value);
+    COleVariant Value(DISPID id);
 
     const bool m_bInPlace;
     LONG m_nRefs = 0;
     HWND m_hFrame = nullptr;
     RECT m_rect = {};
-    IOleObject* m_pObject = nullptr;
-    IDispatch* m_pDispatch = nullptr;
-    IConnectionPoint* m_pPoint = nullptr;
+    AfxComPtr<IOleObject> m_pObject;
+    AfxComPtr<IDispatch> m_pDispatch;
+    AfxComPtr<IConnectionPoint> m_pPoint;
     DWORD m_dwCookie = 0;
 };

@@ -6,7 +6,7 @@
 
 #include <functional>
 
-constexpr DWORD kPumpTimeout = 5000;  // milliseconds
+constexpr DWORD kPumpTimeout = 20000;  // milliseconds
 
 /// Dispatches what is in the queue, through the application's PreTranslateMessage as usual.
 void PumpPending();

@@ -20,5 +20,6 @@ bool ClickAt(HWND hWnd, CPoint point, MouseButton button = MouseButton::Left, bo
 /// Presses or releases only, for drags.
 bool PressAt(HWND hWnd, CPoint point, MouseButton button = MouseButton::Left);
 bool ReleaseAt(HWND hWnd, CPoint point, MouseButton button = MouseButton::Left);
-/// nDelta in units of WHEEL_DELTA; the pointer goes to the middle of the client area.
+/// nDelta as the message has it, WHEEL_DELTA a notch; the pointer goes to the middle of the client
+/// area.
 bool Wheel(HWND hWnd, int nDelta);

@@ -1,39 +1,15 @@
 // An automation object that writes down what it is asked, and answers as it is told.
 #pragma once
 
-#include <afxdisp.h>
-#include <afxwin.h>
+#include "support/dispatch_call.h"
 
 #include <functional>
-#include <string>
-#include <vector>
 
-/// "I4 5": an argument's type and value. What references lead to is read too.
-inline std::string ArgumentText(const VARIANTARG& arg) {
-    static const char* const kNames[] = {
-        "EMPTY", "NULL", "I2",      "I4",      "R4",      "R8", "CY", "DATE", "BSTR", "DISPATCH",
-        "ERROR", "BOOL", "VARIANT", "UNKNOWN", "DECIMAL", "15", "I1", "UI1",  "UI2",  "UI4"};
-    std::string strText = kNames[arg.vt & VT_TYPEMASK];
-    strText += (arg.vt & VT_BYREF) != 0 ? "*" : "";
-    VARIANT plain{};
-    if (arg.vt == VT_DISPATCH || arg.vt == VT_UNKNOWN) {
-        return strText + (arg.punkVal != nullptr ? " object" : " null");
-    }
-    if (FAILED(::VariantCopyInd(&plain, const_cast<VARIANTARG*>(&arg)))) {
-        return strText + " ?";
-    }
-    COleVariant text;
-    text.Attach(plain);
-    return FAILED(::VariantChangeType(text, text, 0, VT_BSTR))
-               ? strText
-               : strText + " " + CString(text.bstrVal).GetString();
-}
-
-class RecordingDispatch : public IDispatch {
+class RecordingDispatch : public BareDispatch<IDispatch> {
 public:
     virtual ~RecordingDispatch() = default;
 
-    std::vector<std::string> m_calls;  ///< "57 put I4 3, I4 100"
+    std::vector<std::string> m_calls;  ///< as DispatchCall tells them
     VARIANT m_answer{};                ///< given where a result is asked for; not owned
     HRESULT m_hResult = S_OK;
     std::function<void(EXCEPINFO&)> m_tell;     ///< fills in what is wrong
@@ -58,28 +34,9 @@ public:
     }
     STDMETHODIMP_(ULONG) AddRef() override { return static_cast<ULONG>(++m_nRefs); }
     STDMETHODIMP_(ULONG) Release() override { return static_cast<ULONG>(--m_nRefs); }
-    STDMETHODIMP GetTypeInfoCount(UINT* pnInfos) override { return *pnInfos = 0, S_OK; }
-    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override {
-        return E_NOTIMPL;
-    }
     STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD wFlags, DISPPARAMS* pParams, VARIANT* pResult,
                         EXCEPINFO* pInfo, UINT*) override {
-        std::string strCall = std::to_string(id);
-        strCall += wFlags == DISPATCH_METHOD           ? " call"
-                   : wFlags == DISPATCH_PROPERTYGET    ? " get"
-                   : wFlags == DISPATCH_PROPERTYPUT    ? " put"
-                   : wFlags == DISPATCH_PROPERTYPUTREF ? " putref"
-                                                       : " ?";
-        for (UINT n = pParams->cArgs; n-- > 0;) {
-            strCall += (n + 1 == pParams->cArgs ? " " : ", ") + ArgumentText(pParams->rgvarg[n]);
-        }
-        const bool bNamed =
-            pParams->cNamedArgs == 1 && pParams->rgdispidNamedArgs[0] == DISPID_PROPERTYPUT;
-        if (bNamed != ((wFlags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0)) {
-            strCall += " with wrong names";
-        }
-        m_calls.push_back(strCall);
+        m_calls.push_back(DispatchCall(id, wFlags, *pParams).Text());
         if (m_during) {
             m_during(*pParams);
         }

@@ -77,7 +77,7 @@ TEST(AutomationText, ATipOfACellShowsIt) {
     cls.m_bAnyMember = true;
     RecordingParent parent;
     ASSERT_TRUE(grid.Create(nullptr, WS_CHILD | WS_VISIBLE, CRect(0, 0, 99, 99), &parent, 5));
-    cls.m_values[4] = cls.m_values[5] = OwnedVariant::Long(1);
+    cls.m_values[4] = cls.m_values[5] = COleVariant(1L);
     grid.EnableToolTip();
     for (const PageWord& word : PageWords()) {
         grid.m_strTip = word.str.c_str();

@@ -2,6 +2,7 @@
 #include "page_text.h"
 #include "support/popup.h"
 
+#include <afxadv.h>
 #include <afxcmn.h>
 #include <afxdlgs.h>
 #include <afxext.h>
@@ -246,6 +247,30 @@ TEST(FrameworkText, FoldersOfChosenFiles) {
         ASSERT_NE(nullptr, pos);
         EXPECT_EQ("C:\\" + word.str + "\\two", std::string(dlg.GetNextPathName(pos)));
         EXPECT_EQ(nullptr, pos);
+    }
+}
+
+TEST(FrameworkText, RecentFilesAndChildrenKeepTheirNames) {
+    for (const PageWord& word : PageWords()) {
+        SCOPED_TRACE(word.str);
+        const std::string strFolder = "c:\\" + word.str + "\\" + word.str + "\\";
+        CRecentFileList files(0, "", "%d", 1, 12);
+        files.Add((strFolder + word.str + ".txt").c_str());
+        CString str;
+        ASSERT_TRUE(files.GetDisplayName(str, 0, "", 0));
+        const std::wstring strShown = FromPage(std::string(str));
+        EXPECT_EQ(strShown.substr(strShown.rfind(L'\\') + 1), word.strWide + L".txt");
+        files.GetDisplayName(str, 0, strFolder.c_str(), static_cast<int>(strFolder.size()));
+        EXPECT_EQ(std::string(str), word.str + ".txt");
+
+        auto* pFrame = new CMDIFrameWnd;
+        ASSERT_TRUE(pFrame->Create(nullptr, word.str.c_str()));
+        auto* pChild = new CMDIChildWnd;
+        ASSERT_TRUE(pChild->Create(nullptr, word.str.c_str(), WS_VISIBLE | WS_OVERLAPPEDWINDOW,
+                                   CFrameWnd::rectDefault, pFrame));
+        pChild->MDIMaximize();
+        EXPECT_EQ(WideTextOf(pFrame->m_hWnd), word.strWide + L" - [" + word.strWide + L"]");
+        pFrame->DestroyWindow();
     }
 }
 

@@ -60,4 +60,29 @@ TEST(PathsOfThePage, NameTheSameFilesEverywhere) {
     }
 }
 
+// 260 characters of the system can be three times as many bytes.
+TEST(PathsOfThePage, MayHaveMoreThan260Bytes) {
+    const CString strWord(LongWord(120).str.c_str());
+    const CString strPath("C:\\" + strWord + "\\" + strWord);
+    const CString strRoundabout("C:\\" + strWord + "\\.\\" + strWord);
+    CFileException error;
+    EXPECT_FALSE(CFile().Open(strRoundabout, CFile::modeRead, &error));
+    EXPECT_STREQ(error.m_strFileName, strPath);
+    for (UINT nRoom = 300; nRoom < 304; ++nRoom) {
+        char szMessage[304];
+        error.GetErrorMessage(szMessage, nRoom);
+        std::string strBack;
+        EXPECT_TRUE(ToPage(FromPage(szMessage), strBack) && strBack == szMessage) << "no part";
+        EXPECT_TRUE(strBack.ends_with(" path")) << strBack;
+    }
+    CDocument document;
+    CSingleDocTemplate docTemplate(0, nullptr, nullptr, nullptr);
+    docTemplate.AddDocument(&document);
+    document.SetPathName(strRoundabout, FALSE);
+    EXPECT_STREQ(document.GetTitle(), strWord);
+    CDocument* pOpen = nullptr;
+    EXPECT_EQ(docTemplate.MatchDocType(strPath, pOpen), CDocTemplate::yesAlreadyOpen);
+    EXPECT_EQ(docTemplate.MatchDocType(strPath + "\x01", pOpen), CDocTemplate::yesAttemptForeign);
+}
+
 }  // namespace

@@ -13,12 +13,17 @@ SortKey SortKeys::Text(const char* psz) {
     m_text.AppendSortKey(psz, m_strKeys);
     key.nLength = m_strKeys.size() - key.nKey;
     m_strKeys.push_back('\0');  // so that no two keys begin at one place
-    for (std::size_t i = 0; i < sizeof(key.nStart); ++i) {
-        const unsigned char ch =
-            i < key.nLength ? static_cast<unsigned char>(m_strKeys[key.nKey + i]) : 0;
-        key.nStart = key.nStart << 8 | ch;
-    }
+    key.nStart = Start(std::string_view(m_strKeys).substr(key.nKey, key.nLength));
     return key;
+}
+
+std::uint64_t SortKeys::Start(std::string_view bytes) {
+    std::uint64_t nStart = 0;
+    const std::size_t nBytes = std::min(bytes.size(), sizeof(nStart));
+    for (std::size_t i = 0; i < nBytes; ++i) {
+        nStart = nStart << 8 | static_cast<unsigned char>(bytes[i]);
+    }
+    return nBytes == 0 ? 0 : nStart << 8 * (sizeof(nStart) - nBytes);
 }
 
 SortKey SortKeys::Date(double date) {

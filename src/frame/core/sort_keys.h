@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace qv {
 
@@ -30,6 +31,10 @@ public:
     // 0.
     static SortKey Date(double date);
 
+    // Bytes of all texts, each with a 0 behind it, in the order in which they came.
+    std::string_view Folded() const { return m_strKeys; }
+    // The first eight bytes as a number that orders as they do, zeros behind their end.
+    static std::uint64_t Start(std::string_view bytes);
     // -1, 0 or 1.
     int Compare(const SortKey& key1, const SortKey& key2) const;
 

@@ -1,6 +1,6 @@
 #include "frame/core/styled_text.h"
 
-#include <new>
+#include "base/no_memory.h"
 
 namespace qv {
 
@@ -51,7 +51,8 @@ bool NextField(std::string_view row, int& nPos, std::string_view& field) {
 int StyleTable::Add(COLORREF crText, COLORREF crBk) {
     try {
         m_styles.push_back({crText, crBk});
-    } catch (const std::bad_alloc&) {
+    } catch (...) {
+        ExpectNoMemory();
         return -1;
     }
     return Count() - 1;

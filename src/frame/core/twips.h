@@ -7,10 +7,15 @@ namespace qv {
 inline constexpr int kTwipsPerInch = 1440;
 inline constexpr int kUsualPixelsPerInch = 96;
 
-// Whole twips of a pixel. A device without a resolution counts as a usual screen, and one finer
-// than twips as one of a twip a pixel, so that measures can be divided by it.
+// A device without a resolution counts as a usual screen.
+constexpr long long PixelsToTwips(long long nPixels, int nPixelsPerInch) {
+    return nPixels * kTwipsPerInch / (nPixelsPerInch > 0 ? nPixelsPerInch : kUsualPixelsPerInch);
+}
+
+// Whole twips of a pixel; at least one, also of a device that is finer than twips, so that measures
+// can be divided by it.
 constexpr int TwipsPerPixel(int nPixelsPerInch) {
-    const int nTwips = kTwipsPerInch / (nPixelsPerInch > 0 ? nPixelsPerInch : kUsualPixelsPerInch);
+    const auto nTwips = static_cast<int>(PixelsToTwips(1, nPixelsPerInch));
     return nTwips > 0 ? nTwips : 1;
 }
 

@@ -1,8 +1,8 @@
 #include "grid/core/grid_editing.h"
 
+#include "base/no_memory.h"
 #include "grid/core/grid_editing_watch.h"
 
-#include <new>
 #include <stdexcept>
 
 namespace qv {
@@ -15,8 +15,9 @@ bool MemorySuffices(Action action) {
     try {
         action();
         return true;
-    } catch (const std::bad_alloc&) {
     } catch (const std::length_error&) {
+    } catch (...) {
+        ExpectNoMemory();
     }
     return false;
 }
@@ -196,8 +197,19 @@ void GridEditing::HideEdit() {
 // To the cell that the edit was opened for, wherever the current cell has gone meanwhile. Not by
 // SetText, which would write the text into the edit again.
 bool GridEditing::KeepTypedText() {
-    return MemorySuffices(
-        [this] { m_model.SetText(m_editCell.nRow, m_editCell.nCol, m_edit.Text()); });
+    return MemorySuffices([this] {
+        const std::string strBefore = TextOf(m_editCell);
+        const std::string strTyped = m_edit.Text();
+        m_model.SetText(m_editCell.nRow, m_editCell.nCol, strTyped);
+        NoteEdit(m_editCell, strBefore, strTyped);
+    });
+}
+
+void GridEditing::NoteEdit(GridCell cell, const std::string& strBefore,
+                           const std::string& strAfter) {
+    if (m_model.IsCell(cell) && strBefore != strAfter) {
+        m_host.NoteEdit(cell, strBefore, strAfter);
+    }
 }
 
 // An edit whose text finds no memory stays up with it.
@@ -249,6 +261,7 @@ bool GridEditing::KeepChosenLine() {
     if (m_host.SameText(strLine.c_str(), ShownText(cell).c_str())) {
         return false;
     }
+    NoteEdit(cell, TextOf(cell), strLine);
     SetText(cell, strLine.c_str());
     return true;
 }

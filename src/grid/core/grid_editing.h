@@ -58,6 +58,14 @@ public:
     // In the store and, where that cell is being typed in, in the edit. May throw std::bad_alloc.
     void SetText(GridCell cell, const char* psz);
     void DeleteRows();
+    // As if the text were typed into the cell, or chosen from its list, with all that the parent is
+    // told. A cell that nobody could edit by hand is left as it is, and so is one whose list does
+    // not have the text. The cell is current then. False once the grid is gone. May throw
+    // std::bad_alloc.
+    bool TypeInto(GridCell cell, const char* psz);
+    // Scrolls to a cell, makes it current and opens its edit.
+    void ShowCell(GridCell cell);
+    GridCell CurrentCell() const { return Current(); }
 
     // --- What happens to the grid
 
@@ -101,6 +109,10 @@ private:
     void FillList(const CStringArray& choices);
     void PlaceEdit();
     void PlaceList();
+    bool IsOpenToTyping(GridCell cell) const;
+    void TypeText(GridCell cell, const char* psz);
+    void ChooseText(GridCell cell, const char* psz);
+    void NoteEdit(GridCell cell, const std::string& strBefore, const std::string& strAfter);
     bool KeepTypedText();
     bool KeepChosenLine();
     bool TakesKey(unsigned nKey);

@@ -75,7 +75,7 @@ int GridModel::AddRow(std::string_view row, unsigned dwState) {
         for (int nCol = 0; nCol < NumColumns() && NextField(row, nPos, field); ++nCol) {
             SetText(nRow, nCol, field);
         }
-    } catch (const std::bad_alloc&) {
+    } catch (...) {
         m_aRows.pop_back();
         m_aCellData.resize(nBlocks);
         std::for_each(m_aStrings.begin() + static_cast<std::ptrdiff_t>(nStrings), m_aStrings.end(),
@@ -131,7 +131,7 @@ void GridModel::SetText(int nRow, int nCol, std::string_view text) {
     }
     try {
         m_aStrings.push_back(pszNew);
-    } catch (const std::bad_alloc&) {
+    } catch (...) {
         m_texts.Free(pszNew);
         throw;
     }

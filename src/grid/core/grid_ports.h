@@ -45,6 +45,9 @@ public:
     // What the platform does with the message at hand.
     virtual void HandleByDefault() = 0;  // out
     virtual bool SameText(const char* psz1, const char* psz2) const = 0;
+    // A user has given a cell another text. Throws nothing.
+    virtual void NoteEdit(GridCell /*cell*/, const std::string& /*strBefore*/,
+                          const std::string& /*strAfter*/) {}
 };
 
 // A child window, made at first use.

@@ -1,5 +1,7 @@
 #include "ocx/core/flex_grid_axis.h"
 
+#include "ocx/core/flex_grid_order.h"
+
 #include <algorithm>
 #include <bit>
 
@@ -31,9 +33,6 @@ void FlexGridAxis::Resize(int nCount) {
 void FlexGridAxis::Reserve(int nCount) {
     const auto nLines = static_cast<std::size_t>(nCount);
     if (m_sums.size() < nLines + 1) {
-        if (m_sums.capacity() < nLines + 1) {
-            m_sums.reserve(std::max(nLines + 1, m_sums.capacity() * 2));
-        }
         m_sums.resize(nLines + 1);
     }
     if (m_lines.capacity() < nLines) {
@@ -53,22 +52,12 @@ void FlexGridAxis::Remove(int n) {
 }
 
 void FlexGridAxis::Move(int nFrom, int nTo) {
-    const auto at = m_lines.begin();
-    if (nFrom < nTo) {
-        std::rotate(at + nFrom, at + nFrom + 1, at + nTo + 1);
-    } else {
-        std::rotate(at + nTo, at + nFrom, at + nFrom + 1);
-    }
+    MoveElement(m_lines.begin(), nFrom, nTo);
     ForgetFrom(std::min(nFrom, nTo));
 }
 
 void FlexGridAxis::Reorder(int nFirst, const std::vector<int>& order) {
-    std::vector<FlexGridLine> lines;
-    lines.reserve(order.size());
-    for (const int n : order) {
-        lines.push_back(Line(n));
-    }
-    std::copy(lines.begin(), lines.end(), m_lines.begin() + nFirst);
+    ReorderElements(m_lines, nFirst, order);
     ForgetFrom(nFirst);
 }
 

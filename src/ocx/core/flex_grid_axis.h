@@ -85,6 +85,7 @@ public:
     // The nearest line from n on that is not hidden; Count() or -1 if there is none.
     int ShownFrom(int n) const;
     int ShownUpTo(int n) const;
+    int LastShown() const { return ShownUpTo(Count() - 1); }
 
     bool CheckInvariants() const;
 

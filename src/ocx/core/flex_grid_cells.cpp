@@ -1,5 +1,7 @@
 #include "ocx/core/flex_grid_cells.h"
 
+#include "ocx/core/flex_grid_order.h"
+
 #include <algorithm>
 #include <cstring>
 #include <new>
@@ -7,7 +9,7 @@
 
 namespace qv {
 
-FlexGridCells::~FlexGridCells() = default;
+const FlexGridFormat FlexGridFormat::kPlain{};
 
 void FlexGridCells::Free(Row& row, int nFrom) {
     for (int i = nFrom; i < row.nCells; ++i) {
@@ -38,21 +40,11 @@ void FlexGridCells::RemoveRow(int nRow) {
 }
 
 void FlexGridCells::MoveRow(int nFrom, int nTo) {
-    const auto at = m_rows.begin();
-    if (nFrom < nTo) {
-        std::rotate(at + nFrom, at + nFrom + 1, at + nTo + 1);
-    } else {
-        std::rotate(at + nTo, at + nFrom, at + nFrom + 1);
-    }
+    MoveElement(m_rows.begin(), nFrom, nTo);
 }
 
 void FlexGridCells::ReorderRows(int nFirst, const std::vector<int>& order) {
-    std::vector<Row> rows;
-    rows.reserve(order.size());
-    for (const int n : order) {
-        rows.push_back(std::move(m_rows[static_cast<std::size_t>(n)]));
-    }
-    std::move(rows.begin(), rows.end(), m_rows.begin() + nFirst);
+    ReorderElements(m_rows, nFirst, order);
 }
 
 void FlexGridCells::DropColumnsFrom(int nCol) {
@@ -70,14 +62,8 @@ void FlexGridCells::MoveColumn(int nFrom, int nTo) {
         }
     }
     for (Row& row : m_rows) {
-        if (row.nCells < nNeeded) {
-            continue;
-        }
-        Cell* const p = row.pCells.get();
-        if (nFrom < nTo) {
-            std::rotate(p + nFrom, p + nFrom + 1, p + nTo + 1);
-        } else {
-            std::rotate(p + nTo, p + nFrom, p + nFrom + 1);
+        if (row.nCells >= nNeeded) {
+            MoveElement(row.pCells.get(), nFrom, nTo);
         }
     }
 }
@@ -133,9 +119,9 @@ void FlexGridCells::SetText(int nRow, int nCol, std::u16string_view text) {
     m_texts.Free(reinterpret_cast<char*>(std::exchange(cell.pText, pText)));
 }
 
-const FlexGridFormat* FlexGridCells::Format(int nRow, int nCol) const {
+const FlexGridFormat& FlexGridCells::Format(int nRow, int nCol) const {
     const Cell* pCell = Find(nRow, nCol);
-    return pCell != nullptr ? pCell->pFormat.get() : nullptr;
+    return pCell != nullptr && pCell->pFormat != nullptr ? *pCell->pFormat : FlexGridFormat::kPlain;
 }
 
 FlexGridFormat& FlexGridCells::FormatToSet(int nRow, int nCol) {

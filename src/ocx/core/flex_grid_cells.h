@@ -14,6 +14,8 @@
 namespace qv {
 
 struct FlexGridFormat {
+    static const FlexGridFormat kPlain;  // of a cell that does not differ
+
     enum FontFlag : unsigned { Bold = 1, Italic = 2, Underline = 4, StrikeThrough = 8 };
 
     std::uint32_t crBack = 0;  // an automation colour; 0: the grid's
@@ -32,7 +34,6 @@ struct FlexGridFormat {
 class FlexGridCells {
 public:
     FlexGridCells() = default;
-    ~FlexGridCells();
     FlexGridCells(const FlexGridCells&) = delete;
     FlexGridCells& operator=(const FlexGridCells&) = delete;
 
@@ -57,8 +58,7 @@ public:
     const char16_t* Text(int nRow, int nCol) const;
     // Up to the first 0 in it. May throw std::bad_alloc; the old text stays then.
     void SetText(int nRow, int nCol, std::u16string_view text);
-    // Null if the cell has none.
-    const FlexGridFormat* Format(int nRow, int nCol) const;
+    const FlexGridFormat& Format(int nRow, int nCol) const;
     // Made if the cell has none. May throw std::bad_alloc.
     FlexGridFormat& FormatToSet(int nRow, int nCol);
 

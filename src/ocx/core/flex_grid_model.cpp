@@ -8,8 +8,6 @@ namespace qv {
 
 namespace {
 
-constexpr int kMaxCols = 1'000'000;
-
 // The field in front of the next separator; takes both off.
 std::u16string_view TakeField(std::u16string_view& text, char16_t separator) {
     const std::size_t nEnd = std::min(text.find(separator), text.size());
@@ -75,7 +73,7 @@ void FlexGridModel::Reset() {
 // --- Counts
 
 FlexGridError FlexGridModel::SetRows(int nRows) {
-    if (nRows < 0 || nRows > FlexGridAxis::kMaxCount) {
+    if (nRows < 0 || nRows > kMaxRows) {
         return FlexGridError::BadCount;
     }
     m_rows.Reserve(nRows);
@@ -131,12 +129,8 @@ short FlexGridModel::AlignmentOf(int nRow, int nCol) const {
     if (!HasCell(nRow, nCol)) {
         return fgaLeftCenter;
     }
-    const FlexGridFormat* pFormat = m_cells.Format(nRow, nCol);
     const FlexGridLine& column = m_cols.Line(nCol);
-    short nAlignment = fgaUnset;
-    if (pFormat != nullptr) {
-        nAlignment = pFormat->nAlignment;
-    }
+    short nAlignment = m_cells.Format(nRow, nCol).nAlignment;
     if (nAlignment == fgaUnset && IsFixed(nRow, nCol)) {
         nAlignment = column.nFixedAlignment;
     }
@@ -153,13 +147,10 @@ short FlexGridModel::AlignmentOf(int nRow, int nCol) const {
 // --- Rows and columns as a whole
 
 FlexGridError FlexGridModel::AddItem(std::u16string_view item, int nRow) {
-    if (nRow == -1) {
-        nRow = Rows();
-    }
     if (nRow < 0 || nRow > Rows()) {
         return FlexGridError::BadRow;
     }
-    if (Rows() == FlexGridAxis::kMaxCount) {
+    if (Rows() == kMaxRows) {
         return FlexGridError::BadCount;
     }
     m_rows.Reserve(Rows() + 1);
@@ -273,14 +264,6 @@ FlexGridError FlexGridModel::SetMergeMode(int nMode) {
     return FlexGridError::None;
 }
 
-void FlexGridModel::SetMergeRow(int nRow, bool bMerge) {
-    m_rows.SetMerge(nRow, bMerge);
-}
-
-void FlexGridModel::SetMergeCol(int nCol, bool bMerge) {
-    m_cols.SetMerge(nCol, bMerge);
-}
-
 // Empty cells stand alone.
 bool FlexGridModel::SameText(int nRow1, int nCol1, int nRow2, int nCol2) const {
     const char16_t* psz1 = m_cells.Text(nRow1, nCol1);
@@ -342,18 +325,17 @@ FlexGridRange FlexGridModel::RowRun(int nRow, int nCol, const FlexGridRange& win
     return run;
 }
 
-// Whether the run of columns stands together in nRow and in the row below.
-bool FlexGridModel::RunsJoin(const FlexGridRange& run, int nRow,
+// Whether the columns that stand together in nRow do so in the row above or below as well, and with
+// those of nRow.
+bool FlexGridModel::RunJoins(const FlexGridRange& run, int nRow, int nOther,
                              const FlexGridRange& window) const {
     for (int nCol = run.nLeft; nCol <= run.nRight; ++nCol) {
-        if (!JoinsBelow(nRow, nCol)) {
+        if (!JoinsBelow(std::min(nRow, nOther), nCol)) {
             return false;
         }
     }
-    const FlexGridRange upper = RowRun(nRow, run.nLeft, window);
-    const FlexGridRange lower = RowRun(nRow + 1, run.nLeft, window);
-    return upper.nLeft == run.nLeft && upper.nRight == run.nRight && lower.nLeft == run.nLeft &&
-           lower.nRight == run.nRight;
+    const FlexGridRange other = RowRun(nOther, run.nLeft, window);
+    return other.nLeft == run.nLeft && other.nRight == run.nRight;
 }
 
 FlexGridRange FlexGridModel::Merged(int nRow, int nCol, const FlexGridRange& window) const {
@@ -365,10 +347,11 @@ FlexGridRange FlexGridModel::Merged(int nRow, int nCol, const FlexGridRange& win
         return range;
     }
     const FlexGridRange run = range;
-    while (range.nTop > window.nTop && RunsJoin(run, range.nTop - 1, window)) {
+    while (range.nTop > window.nTop && RunJoins(run, range.nTop, range.nTop - 1, window)) {
         --range.nTop;
     }
-    while (range.nBottom < window.nBottom && RunsJoin(run, range.nBottom, window)) {
+    while (range.nBottom < window.nBottom &&
+           RunJoins(run, range.nBottom, range.nBottom + 1, window)) {
         ++range.nBottom;
     }
     return range;

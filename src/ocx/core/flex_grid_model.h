@@ -34,6 +34,8 @@ class FlexGridModel {
 public:
     static constexpr int kDefaultRowHeight = 16;
     static constexpr int kDefaultColWidth = 64;
+    static constexpr int kMaxRows = FlexGridAxis::kMaxCount;
+    static constexpr int kMaxCols = 1'000'000;
 
     FlexGridModel() { Reset(); }
     // Two rows and two columns, one of each fixed; nothing set.
@@ -64,8 +66,8 @@ public:
         return HasCell(nRow, nCol) ? m_cells.Text(nRow, nCol) : u"";
     }
     FlexGridError SetText(int nRow, int nCol, std::u16string_view text);
-    const FlexGridFormat* Format(int nRow, int nCol) const {
-        return HasCell(nRow, nCol) ? m_cells.Format(nRow, nCol) : nullptr;
+    const FlexGridFormat& Format(int nRow, int nCol) const {
+        return HasCell(nRow, nCol) ? m_cells.Format(nRow, nCol) : FlexGridFormat::kPlain;
     }
     // The cell has to be there.
     FlexGridFormat& FormatToSet(int nRow, int nCol) { return m_cells.FormatToSet(nRow, nCol); }
@@ -75,8 +77,8 @@ public:
     // --- Rows and columns as a whole
 
     // TAB-separated texts from the first column on, as far as there are columns. In front of row
-    // nRow, or behind all for -1.
-    FlexGridError AddItem(std::u16string_view item, int nRow = -1);
+    // nRow, or behind all for Rows().
+    FlexGridError AddItem(std::u16string_view item, int nRow);
     // The last row that is not fixed stays.
     FlexGridError RemoveItem(int nRow);
     FlexGridError MoveRow(int nFrom, int nTo);
@@ -90,12 +92,10 @@ public:
     std::u16string Clip(const FlexGridRange& range) const;
     void SetClip(const FlexGridRange& range, std::u16string_view text);
 
-    // --- Merging
+    // --- Merging, of rows and columns whose axis says so
 
     FlexGridMergeMode MergeMode() const { return m_mergeMode; }
     FlexGridError SetMergeMode(int nMode);
-    void SetMergeRow(int nRow, bool bMerge);
-    void SetMergeCol(int nCol, bool bMerge);
     // Cells that stand together with this one within a window of rows and columns that holds it;
     // nothing outside is looked at but for the restrictions. Fixed cells stand with fixed ones.
     FlexGridRange Merged(int nRow, int nCol, const FlexGridRange& window) const;
@@ -109,7 +109,8 @@ private:
     bool RowsEqualFromTop(int nRow, int nCol) const;
     bool ColsEqualFromLeft(int nRow, int nCol) const;
     FlexGridRange RowRun(int nRow, int nCol, const FlexGridRange& window) const;
-    bool RunsJoin(const FlexGridRange& run, int nRow, const FlexGridRange& window) const;
+    bool RunJoins(const FlexGridRange& run, int nRow, int nOther,
+                  const FlexGridRange& window) const;
 
     FlexGridAxis m_rows{kDefaultRowHeight};
     FlexGridAxis m_cols{kDefaultColWidth};

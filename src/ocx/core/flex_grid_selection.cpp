@@ -27,7 +27,7 @@ int First(const FlexGridSpan& span, int n) {
 }
 
 int Last(const FlexGridSpan& span, int n) {
-    const int nLast = span.axis.ShownUpTo(span.axis.Count() - 1);
+    const int nLast = span.axis.LastShown();
     return nLast >= span.nFixed ? nLast : n;
 }
 

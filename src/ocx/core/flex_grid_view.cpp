@@ -29,7 +29,7 @@ int FlexGridSpan::MaxFirst() const {
     }
     int n = axis.Find(nStart);
     n += axis.Start(n) < nStart ? 1 : 0;
-    return std::max(std::min(n, axis.ShownUpTo(axis.Count() - 1)), nFixed);
+    return std::max(std::min(n, axis.LastShown()), nFixed);
 }
 
 int FlexGridSpan::Clamped(int n) const {
@@ -50,7 +50,7 @@ bool FlexGridSpan::Shows(int n) const {
 int FlexGridSpan::Nearest(int nPos) const {
     const std::int64_t nFixedEnd = axis.Start(nFixed);
     const int n = axis.Find(nPos < nFixedEnd ? nPos : nPos - nFixedEnd + axis.Start(nFirst));
-    return n < axis.Count() ? n : axis.ShownUpTo(axis.Count() - 1);
+    return n < axis.Count() ? n : axis.LastShown();
 }
 
 int FlexGridSpan::EndAt(int nPos) const {
@@ -83,14 +83,12 @@ int FlexGridSpan::FirstToShow(int n) const {
 }
 
 int FlexGridSpan::PageDown(int n) const {
-    const std::int64_t nPage = std::max<std::int64_t>(Room() - axis.DefaultSize(), 1);
-    const int nNext = std::max(axis.Find(axis.Start(n) + nPage), axis.ShownFrom(n + 1));
-    return std::max(nNext < axis.Count() ? nNext : axis.ShownUpTo(axis.Count() - 1), n);
+    const int nNext = std::max(axis.Find(axis.Start(n) + Page()), axis.ShownFrom(n + 1));
+    return std::max(nNext < axis.Count() ? nNext : axis.LastShown(), n);
 }
 
 int FlexGridSpan::PageUp(int n) const {
-    const std::int64_t nPage = std::max<std::int64_t>(Room() - axis.DefaultSize(), 1);
-    const int nNext = std::min(axis.Find(axis.Start(n) - nPage), axis.ShownUpTo(n - 1));
+    const int nNext = std::min(axis.Find(axis.Start(n) - Page()), axis.ShownUpTo(n - 1));
     const int nLeast = axis.ShownFrom(nFixed);
     return std::min(std::max(nNext, nLeast), n);
 }
@@ -132,10 +130,6 @@ bool FlexGridView::ScrollTo(int nTopRow, int nLeftCol) {
     m_nTopRow = nTopRow;
     m_nLeftCol = nLeftCol;
     return true;
-}
-
-bool FlexGridView::ScrollToShow(int nRow, int nCol) {
-    return ScrollTo(RowSpan().FirstToShow(nRow), ColSpan().FirstToShow(nCol));
 }
 
 bool FlexGridView::Refit(Size client) {

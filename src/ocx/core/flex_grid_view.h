@@ -41,6 +41,10 @@ struct FlexGridSpan {
     // Where a scroll bar's code (an SB_ value) leads; nThumb is the thumb's line.
     int After(unsigned nCode, int nThumb) const;
     ScrollRange Range() const;
+
+private:
+    // Pixels that a page key goes on: a usual line less than there is room.
+    std::int64_t Page() const { return std::max<std::int64_t>(Room() - axis.DefaultSize(), 1); }
 };
 
 // Which bars there may be, to be or-ed.
@@ -61,7 +65,6 @@ public:
 
     // As far as the last page allows; true if the view begins elsewhere now.
     bool ScrollTo(int nTopRow, int nLeftCol);
-    bool ScrollToShow(int nRow, int nCol);
     // For another client area; after changes of the model as well.
     bool Refit(Size client);
     // What shows once the bars that are needed and allowed are there. bars: how wide a vertical one

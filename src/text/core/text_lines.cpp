@@ -1,7 +1,8 @@
 #include "text/core/text_lines.h"
 
+#include "base/no_memory.h"
+
 #include <cstring>
-#include <new>
 
 namespace qv {
 
@@ -19,7 +20,8 @@ int TextLines::Add(std::string_view text, int nStyle) {
         std::memcpy(psz + kCodeBytes, text.data(), text.size());
         psz[kCodeBytes + text.size()] = '\0';
         m_lines.push_back(psz);
-    } catch (const std::bad_alloc&) {
+    } catch (...) {
+        ExpectNoMemory();
         return -1;
     }
     return Count();

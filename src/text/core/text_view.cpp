@@ -1,10 +1,10 @@
 #include "text/core/text_view.h"
 
+#include "base/no_memory.h"
 #include "base/platform_names.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <new>
 
 namespace qv {
 
@@ -40,7 +40,8 @@ void TextView::Format(int nWidth) {
     try {
         m_rows.Format(m_lines, m_styles, nWidth != 0 ? nWidth : m_scroll.ClientSize().cx,
                       m_splitter);
-    } catch (const std::bad_alloc&) {
+    } catch (...) {
+        ExpectNoMemory();
         // The rows that there are go on showing; the next layout tries again.
     }
     m_state.m_nMaxLineLength = 0;
@@ -113,7 +114,8 @@ bool TextView::NeedsBar(Size whole) {
     DisplayRows& rows = m_state.m_bVScrollBar ? m_unbarred : m_rows;
     try {
         rows.Format(m_lines, m_styles, whole.cx, m_splitter);
-    } catch (const std::bad_alloc&) {
+    } catch (...) {
+        ExpectNoMemory();
         return m_state.m_bVScrollBar != 0;
     }
     return exceeds(rows.Count());

@@ -8,6 +8,15 @@ namespace {
 
 constexpr int kLeafRows = RowLeaf::kLeafRows;
 
+// By the links: the levels of items that were moved need not be true.
+int DepthOf(HTREEITEM hItem) {
+    int nDepth = 0;
+    for (HTREEITEM h = hItem->pParent; h != nullptr; h = h->pParent) {
+        ++nDepth;
+    }
+    return nDepth;
+}
+
 }  // namespace
 
 RowIndex::Place RowIndex::PlaceOf(HTREEITEM hItem) const {
@@ -76,6 +85,55 @@ int RowIndex::MaxRight(const Measure& measure) {
     return nMaxRight;
 }
 
+void RowIndex::LearnDepths(Leaf& leaf) {
+    const RowLeaf& rows = *leaf.pRows;
+    int nDepth = DepthOf(rows.rows[0].hItem);
+    leaf.nLeastDepth = nDepth;
+    leaf.nAtLeast = 1;
+    for (int i = 1; i < rows.nCount; ++i) {
+        // From the row above down to a child, or up to one of its ancestors' level.
+        HTREEITEM h = rows.rows[i - 1].hItem;
+        ++nDepth;
+        for (; h != rows.rows[i].hItem->pParent && h != nullptr; h = h->pParent) {
+            --nDepth;
+        }
+        if (nDepth < leaf.nLeastDepth) {
+            leaf.nLeastDepth = nDepth;
+            leaf.nAtLeast = 0;
+        }
+        leaf.nAtLeast += nDepth == leaf.nLeastDepth ? 1 : 0;
+    }
+}
+
+int RowIndex::CountSiblings(HTREEITEM hFirst, HTREEITEM hLast) {
+    const Place first = PlaceOf(hFirst);
+    const Place last = PlaceOf(hLast);
+    const int nDepth = DepthOf(hFirst);
+    int nSiblings = 0;
+    for (size_t nLeaf = first.nLeaf; nLeaf <= last.nLeaf; ++nLeaf) {
+        Leaf& leaf = m_leaves[nLeaf];
+        if (nLeaf != first.nLeaf && nLeaf != last.nLeaf) {
+            if (leaf.nLeastDepth < 0) {
+                LearnDepths(leaf);
+            }
+            nSiblings += leaf.nLeastDepth == nDepth ? leaf.nAtLeast : 0;
+            continue;
+        }
+        const int nEnd = nLeaf == last.nLeaf ? last.nRow + 1 : leaf.pRows->nCount;
+        for (int i = nLeaf == first.nLeaf ? first.nRow : 0; i < nEnd; ++i) {
+            nSiblings += leaf.pRows->rows[i].hItem->pParent == hFirst->pParent ? 1 : 0;
+        }
+    }
+    return nSiblings;
+}
+
+RowIndex::Leaf RowIndex::NewLeaf() {
+    Leaf leaf;
+    leaf.pRows = std::make_unique<RowLeaf>();
+    leaf.bMeasured = false;
+    return leaf;
+}
+
 void RowIndex::Renumber(size_t nFrom) {
     for (; nFrom < m_leaves.size(); ++nFrom) {
         m_leaves[nFrom].pRows->nOrdinal = nFrom;
@@ -91,7 +149,7 @@ RowIndex::Place RowIndex::SplitAt(Place place) {
     if (place.nRow == leaf.pRows->nCount) {
         return {place.nLeaf + 1, 0};
     }
-    Leaf tail{std::make_unique<RowLeaf>(), 0, false};
+    Leaf tail = NewLeaf();
     RowLeaf& from = *leaf.pRows;
     RowLeaf& to = *tail.pRows;
     to.nCount = from.nCount - place.nRow;
@@ -100,7 +158,7 @@ RowIndex::Place RowIndex::SplitAt(Place place) {
         to.rows[i].hItem->pRowLeaf = &to;
     }
     from.nCount = place.nRow;
-    leaf.bMeasured = false;
+    leaf.RowsChanged();
     m_leaves.insert(m_leaves.begin() + static_cast<std::ptrdiff_t>(place.nLeaf) + 1,
                     std::move(tail));
     Renumber(place.nLeaf + 1);
@@ -123,14 +181,13 @@ void RowIndex::MergeWithNext(size_t nLeaf) {
         to.rows[to.nCount] = from.rows[i];
         to.rows[to.nCount++].hItem->pRowLeaf = &to;
     }
-    leaf.bMeasured = false;
+    leaf.RowsChanged();
     m_leaves.erase(m_leaves.begin() + static_cast<std::ptrdiff_t>(nLeaf) + 1);
     Renumber(nLeaf + 1);
 }
 
 void RowIndex::AddLeaf(size_t nLeaf) {
-    m_leaves.insert(m_leaves.begin() + static_cast<std::ptrdiff_t>(nLeaf),
-                    Leaf{std::make_unique<RowLeaf>(), 0, false});
+    m_leaves.insert(m_leaves.begin() + static_cast<std::ptrdiff_t>(nLeaf), NewLeaf());
     Renumber(nLeaf);
 }
 
@@ -164,7 +221,7 @@ void RowIndex::Insert(HTREEITEM hAfter, HTREEITEM hItem) {
     rows.rows[place.nRow] = {hItem, kUnmeasured};
     ++rows.nCount;
     hItem->pRowLeaf = &rows;
-    leaf.bMeasured = false;
+    leaf.RowsChanged();
     ++m_nCount;
 }
 
@@ -180,7 +237,7 @@ void RowIndex::Insert(HTREEITEM hAfter, const std::vector<HTREEITEM>& items) {
     const Place place = m_leaves.empty() ? Place{0, 0} : SplitAt(PlaceBehind(hAfter));
     std::vector<Leaf> added;
     for (size_t nFirst = 0; nFirst < items.size(); nFirst += kLeafRows) {
-        Leaf leaf{std::make_unique<RowLeaf>(), 0, false};
+        Leaf leaf = NewLeaf();
         leaf.pRows->nCount = static_cast<int>(std::min<size_t>(kLeafRows, items.size() - nFirst));
         for (int i = 0; i < leaf.pRows->nCount; ++i) {
             HTREEITEM hItem = items[nFirst + static_cast<size_t>(i)];
@@ -207,6 +264,7 @@ void RowIndex::EraseFromLeaf(Leaf& leaf, int nRow, int nCount) {
     }
     std::copy(rows.rows + nRow + nCount, rows.rows + rows.nCount, rows.rows + nRow);
     rows.nCount -= nCount;
+    leaf.nLeastDepth = -1;
 }
 
 void RowIndex::Erase(int nFirst, int nCount) {

@@ -6,6 +6,9 @@
 // with count and widest row is short enough to be run through for each question: a million rows
 // make some four thousand leaves.
 //
+// How many rows of a leaf are at its least depth is kept as well: siblings are counted leaf by
+// leaf, as whatever lies between two of them lies deeper.
+//
 // Widths are measured late: a row starts unmeasured, and MaxRight asks for all that are missing.
 
 #pragma once
@@ -47,6 +50,8 @@ public:
     HTREEITEM At(int nIndex) const;
     // Largest right edge, at least 0.
     int MaxRight(const Measure& measure);
+    // The rows from hFirst to hLast, two siblings in this order, that are siblings of theirs.
+    int CountSiblings(HTREEITEM hFirst, HTREEITEM hLast);
 
     // Puts rows behind that of hAfter, or at the start for null.
     void Insert(HTREEITEM hAfter, HTREEITEM hItem);
@@ -65,6 +70,13 @@ private:
         std::unique_ptr<RowLeaf> pRows;
         int nMaxRight = 0;
         bool bMeasured = true;  // all rows are, and nMaxRight is theirs
+        int nLeastDepth = -1;   // ancestors of the outermost rows; -1: not known
+        int nAtLeast = 0;       // rows that have as many
+
+        void RowsChanged() {
+            bMeasured = false;
+            nLeastDepth = -1;
+        }
     };
     struct Place {
         size_t nLeaf;
@@ -75,6 +87,8 @@ private:
     Place PlaceAt(int nIndex) const;
     Place PlaceBehind(HTREEITEM hAfter) const;
     Place MakeRoom(Place place);
+    static Leaf NewLeaf();
+    static void LearnDepths(Leaf& leaf);
     void AddLeaf(size_t nLeaf);
     Place SplitAt(Place place);
     void MergeWithNext(size_t nLeaf);

@@ -1,6 +1,6 @@
 #include "tree/core/shown_rows.h"
 
-#include <new>
+#include "base/no_memory.h"
 
 namespace qv {
 
@@ -13,7 +13,8 @@ bool ShownRows::Ensure() {
         m_collected.clear();
         Collect(m_items.Root(), nullptr);
         m_index.Insert(nullptr, m_collected);
-    } catch (const std::bad_alloc&) {
+    } catch (...) {
+        ExpectNoMemory();
         m_index.Clear(false);
         ForgetLeaves();
         return false;
@@ -25,6 +26,16 @@ bool ShownRows::Ensure() {
 
 bool ShownRows::KnownHidden(HTREEITEM hItem) const {
     return m_bValid && !m_items.RootDetached() && hItem->pRowLeaf == nullptr;
+}
+
+SiblingPlace ShownRows::PlaceOf(HTREEITEM hItem) {
+    if (m_bDetached || m_items.RootDetached() || hItem->pRowLeaf == nullptr) {
+        return {};
+    }
+    const HTREEITEM hParent = hItem->pParent;
+    const HTREEITEM hFirst = hParent != nullptr ? hParent->pFirstChild : m_items.Root();
+    const HTREEITEM hLast = hParent != nullptr ? hParent->pLastChild : m_items.LastRoot();
+    return {m_index.CountSiblings(hFirst, hItem), m_index.CountSiblings(hFirst, hLast)};
 }
 
 // Applies a change of the tree to the index, if there is one.
@@ -39,7 +50,8 @@ void ShownRows::Change(Step step) {
     }
     try {
         step();
-    } catch (const std::bad_alloc&) {
+    } catch (...) {
+        ExpectNoMemory();
         Drop();
         ForgetLeaves();
     }

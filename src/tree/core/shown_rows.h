@@ -14,6 +14,11 @@
 
 namespace qv {
 
+struct SiblingPlace {
+    int nPlace = 0;
+    int nCount = 0;
+};
+
 class ShownRows {
 public:
     // The items must outlive the rows.
@@ -29,6 +34,9 @@ public:
     // -1 for null and for an item that is no row.
     int IndexOf(HTREEITEM hItem) const { return m_index.IndexOf(hItem); }
     HTREEITEM At(int nRow) const { return m_index.At(nRow); }
+    // Which of its siblings the item is, from 1, and how many these are; 0 for an item that is no
+    // row, and while rows follow no order.
+    SiblingPlace PlaceOf(HTREEITEM hItem);
     // Largest right edge, at least 0; measure is asked for those that are not known.
     int MaxRight(const RowIndex::Measure& measure) { return m_index.MaxRight(measure); }
 

@@ -1,7 +1,10 @@
 #include "tree/core/tree_items.h"
 
+#include "base/no_memory.h"
+
 #include <algorithm>
 #include <cstring>
+#include <functional>
 #include <limits>
 #include <new>
 
@@ -14,6 +17,11 @@ constexpr size_t kLargestSlab = 1024;
 
 bool IsPosition(HTREEITEM hInsertAfter) {
     return hInsertAfter == TVI_FIRST || hInsertAfter == TVI_LAST || hInsertAfter == TVI_SORT;
+}
+
+// Records in the slab with that index.
+size_t SlabRecords(size_t nSlab) {
+    return std::min(kFirstSlab << std::min<size_t>(nSlab, 6), kLargestSlab);
 }
 
 // Deeper levels than the field can hold stay at its largest value.
@@ -53,21 +61,53 @@ HTREEITEM TreeItems::AllocNewHandle() {
 }
 
 bool TreeItems::AddSlab() {
-    const size_t nDoublings = std::min<size_t>(m_aItems.size(), 6);
-    const size_t nRecords = std::min(kFirstSlab << nDoublings, kLargestSlab);
+    const size_t nRecords = SlabRecords(m_aItems.size());
     auto* pItems = new (std::nothrow) _TREEITEM[nRecords]();
     if (pItems == nullptr) {
         return false;
     }
     try {
         m_aItems.push_back({pItems});
-    } catch (const std::bad_alloc&) {
+    } catch (...) {
+        ExpectNoMemory();
         delete[] pItems;
         return false;
     }
     m_pFresh = pItems;
     m_pFreshEnd = pItems + nRecords;
     return true;
+}
+
+int TreeItems::NumberOf(HTREEITEM hItem) const {
+    const std::less<const _TREEITEM*> before;
+    size_t nBefore = 0;
+    for (size_t nSlab = 0; nSlab < m_aItems.size(); ++nSlab) {
+        const _TREEITEM* const pFirst = m_aItems[nSlab].pItems;
+        const size_t nRecords = SlabRecords(nSlab);
+        if (!before(hItem, pFirst) && before(hItem, pFirst + nRecords)) {
+            return IsLive(hItem)
+                       ? static_cast<int>(nBefore + static_cast<size_t>(hItem - pFirst) + 1)
+                       : 0;
+        }
+        nBefore += nRecords;
+    }
+    return 0;
+}
+
+HTREEITEM TreeItems::ItemOf(int nNumber) const {
+    if (nNumber <= 0) {
+        return nullptr;
+    }
+    auto nRecord = static_cast<size_t>(nNumber) - 1;
+    for (size_t nSlab = 0; nSlab < m_aItems.size(); ++nSlab) {
+        const size_t nRecords = SlabRecords(nSlab);
+        if (nRecord < nRecords) {
+            const HTREEITEM hItem = m_aItems[nSlab].pItems + nRecord;
+            return IsLive(hItem) ? hItem : nullptr;
+        }
+        nRecord -= nRecords;
+    }
+    return nullptr;
 }
 
 void TreeItems::ReturnHandle(HTREEITEM hItem) {
@@ -239,12 +279,10 @@ HTREEITEM TreeItems::InsertItem(const char* pszText, int nImage, int nSelectedIm
     const Watch watch(*this, hItem);
     try {
         return PositionInTree(hItem, hParent, hInsertAfter) ? hItem : nullptr;
-    } catch (const std::bad_alloc&) {
-        ReturnUnplaced(hItem, watch);
-        return nullptr;
     } catch (...) {
         ReturnUnplaced(hItem, watch);
-        throw;
+        ExpectNoMemory();
+        return nullptr;
     }
 }
 

@@ -68,6 +68,7 @@ public:
 
     // First item of the root level.
     HTREEITEM Root() const { return m_hRootItem; }
+    HTREEITEM LastRoot() const { return m_hLastRootItem; }
     // The root level's start has been moved below another item. Rows are then whatever walking from
     // it gives.
     bool RootDetached() const { return m_hRootItem != nullptr && m_hRootItem->pParent != nullptr; }
@@ -96,6 +97,12 @@ public:
     HTREEITEM FindItem(HTREEITEM hParent, const char* pszText, int nImage) const;
 
     // --- Items
+
+    // The number of an item's record, from 1: what stands for the item outside of the process. It
+    // lasts as long as the item does and is then another one's. 0 for what is no item of the tree.
+    int NumberOf(HTREEITEM hItem) const;
+    // Null for a number that no item has.
+    HTREEITEM ItemOf(int nNumber) const;
 
     // Null if memory runs out, if hParent is no item of the tree, or if a replaced CompareItems
     // changes the tree meanwhile; the item is not in the tree then.

@@ -1,8 +1,8 @@
+#include "base/no_memory.h"
 #include "frame/core/sort_keys.h"
 #include "tree/core/tree_items.h"
 
 #include <algorithm>
-#include <new>
 
 namespace qv {
 
@@ -59,7 +59,8 @@ bool TreeItems::SortChildren(HTREEITEM hParent) {
             handles.push_back(h);
         }
         SortHandles(handles, watch);
-    } catch (const std::bad_alloc&) {
+    } catch (...) {
+        ExpectNoMemory();
         return false;
     }
     if (!watch.ObjectAlive() || nLinkChanges != m_nLinkChanges) {

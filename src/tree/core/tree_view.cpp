@@ -1,5 +1,7 @@
 #include "tree/core/tree_view.h"
 
+#include "base/no_memory.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -204,7 +206,8 @@ int TreeView::ItemHeight() {
     if (m_nItemHeight == 0) {
         try {
             CalcItemHeight();
-        } catch (const std::bad_alloc&) {
+        } catch (...) {
+            ExpectNoMemory();
             m_bFitDue = true;  // no height yet; it is measured the next time
         }
     }
@@ -312,7 +315,8 @@ Rect TreeView::RowRect(int nTop, HTREEITEM hItem, bool bTextOnly) {
 bool TreeView::GetItemRect(HTREEITEM hItem, Rect& rect, bool bTextOnly) {
     try {
         return FindRect(hItem, rect, bTextOnly);
-    } catch (const std::bad_alloc&) {
+    } catch (...) {
+        ExpectNoMemory();
         return false;
     }
 }
@@ -340,6 +344,20 @@ bool TreeView::FindRect(HTREEITEM hItem, Rect& rect, bool bTextOnly) {
     }
     rect = RowRect(nRow * ItemHeight(), hItem, bTextOnly);
     return true;
+}
+
+bool TreeView::GetRowRect(HTREEITEM hItem, Rect& rect) {
+    const int nRow = m_port.HasWindow() ? RowOf(hItem) : -1;
+    if (nRow < 0 || ItemHeight() == 0) {
+        return false;
+    }
+    try {
+        rect = RowRect((nRow - RowOf(m_items.Top())) * ItemHeight(), hItem, false);
+        return true;
+    } catch (...) {
+        ExpectNoMemory();
+        return false;
+    }
 }
 
 HTREEITEM TreeView::HitTest(Point pt, unsigned* pFlags, Rect* pRect) {
@@ -373,7 +391,8 @@ HTREEITEM TreeView::HitTest(Point pt, unsigned* pFlags, Rect* pRect) {
     Rect rect;
     try {
         rect = RowRect(nRow * nHeight, hItem, false);
-    } catch (const std::bad_alloc&) {
+    } catch (...) {
+        ExpectNoMemory();
         return nullptr;
     }
     if (pRect != nullptr) {
@@ -438,7 +457,8 @@ void TreeView::InvalidateItem(HTREEITEM hItem, bool bErase) {
             rect.right = std::max(rect.right - m_nHScrollPos, m_port.ClientRect().right);
             m_port.Invalidate(rect, bErase);
         }
-    } catch (const std::bad_alloc&) {
+    } catch (...) {
+        ExpectNoMemory();
         m_port.InvalidateAll();  // it is not known where the row ends
     }
 }

@@ -83,6 +83,16 @@ public:
     // Among the fully shown rows.
     bool ItemVisible(HTREEITEM hItem) const;
 
+    // The displayable rows by number, and the number of an item's row; none without memory.
+    int RowCount() { return m_rows.Ensure() ? m_rows.Count() : 0; }
+    HTREEITEM RowAt(int nRow) { return m_rows.Ensure() ? m_rows.At(nRow) : nullptr; }
+    int RowOf(HTREEITEM hItem) { return m_rows.Ensure() ? m_rows.IndexOf(hItem) : -1; }
+    SiblingPlace PlaceOf(HTREEITEM hItem) {
+        return m_rows.Ensure() ? m_rows.PlaceOf(hItem) : SiblingPlace{};
+    }
+    // As GetItemRect, of rows above and below the view too. False for an item that is no row.
+    bool GetRowRect(HTREEITEM hItem, Rect& rect);
+
     void CalcBottomItem();
     void CalcTopItem();
     void CalcScroll();

@@ -1,8 +1,9 @@
 #include "tree/core/tree_view.h"
 
+#include "base/no_memory.h"
+
 #include <algorithm>
 #include <cstdlib>
-#include <new>
 
 namespace qv {
 
@@ -136,7 +137,8 @@ void TreeView::CalcScroll() {
             m_bFitDue = false;
             Fit();
         });
-    } catch (const std::bad_alloc&) {
+    } catch (...) {
+        ExpectNoMemory();
         m_bFitDue = true;
     }
 }

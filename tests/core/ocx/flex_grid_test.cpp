@@ -62,7 +62,7 @@ TEST(FlexGridModel, WhatItCannotBeIsRefusedAndChangesNothing) {
         ASSERT_LT(nSucceeding, 20);
         const FailingNew failing(nSucceeding);
         try {
-            model.AddItem(u"some longer text\tand another one", -1);
+            model.AddItem(u"some longer text\tand another one", 0);
         } catch (const std::bad_alloc&) {
             EXPECT_EQ(model.Rows(), 0);
         }
@@ -103,8 +103,8 @@ TEST(FlexGridModel, CellsOfOneTextStandTogetherWithinTheirPartOfTheGrid) {
         Fill(model, strCells).SetMergeMode(c.mode);
         std::string strShape;
         for (int nCell = 0; nCell < 15; ++nCell) {
-            model.SetMergeRow(nCell / 3, c.pszRows[nCell / 3] == '1');
-            model.SetMergeCol(nCell % 3, c.pszCols[nCell % 3] == '1');
+            model.RowAxis().SetMerge(nCell / 3, c.pszRows[nCell / 3] == '1');
+            model.ColAxis().SetMerge(nCell % 3, c.pszCols[nCell % 3] == '1');
         }
         for (int nCell = 0; nCell < 15; ++nCell) {
             const FlexGridRange range = model.Merged(nCell / 3, nCell % 3, {0, 0, 4, 2});
@@ -182,9 +182,9 @@ TEST(FlexGridView, TheLastPageIsFullAndABarMayForceTheOther) {
     EXPECT_EQ(view.RangeRect({100, 1, 100, 1}), (Rect{64, 16 * 10, 128, 16 * 11}));
     EXPECT_EQ(view.RowSpan().Pos(90), 0) << "behind the fixed row";
     EXPECT_EQ(view.RowSpan().Nearest(17), 91);
-    EXPECT_TRUE(view.ScrollToShow(50, 1));
+    EXPECT_TRUE(view.ScrollTo(view.RowSpan().FirstToShow(50), view.LeftCol()));
     EXPECT_EQ(view.TopRow(), 50);
-    view.ScrollToShow(60, 1);
+    view.ScrollTo(view.RowSpan().FirstToShow(60), view.LeftCol());
     EXPECT_EQ(view.TopRow(), 51) << "row 60 as a whole, at the bottom";
     EXPECT_EQ(view.RowSpan().EndAt(14), 0);
     EXPECT_EQ(view.RowSpan().After(SB_PAGEDOWN, 0), 61) << "it showed in part";

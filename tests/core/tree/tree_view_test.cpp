@@ -445,6 +445,31 @@ TEST_F(TreeScrolling, TheFirstItemIsMeasuredAsSoonAsThereIsMemory) {
     EXPECT_TRUE(tree.ItemVisible(rows[0]));
 }
 
+int Steps(HTREEITEM h, HTREEITEM _TREEITEM::*pLink) {
+    int nSteps = 0;
+    while ((h = h->*pLink) != nullptr) {
+        ++nSteps;
+    }
+    return nSteps;
+}
+
+TEST(TreeNumbers, LastAsLongAsTheirItems) {
+    TestTree tree;
+    const HTREEITEM a = tree.Add("a");
+    const int nNumber = tree.Items().NumberOf(a);
+    for (int i = 0; i < 3000; ++i) {
+        tree.Add("more");
+    }
+    EXPECT_EQ(tree.Items().ItemOf(nNumber), a);
+    _TREEITEM foreign{};
+    EXPECT_EQ(tree.Items().NumberOf(&foreign), 0);
+    tree.DeleteItem(a);
+    EXPECT_EQ(tree.Items().NumberOf(a), 0);
+    for (const int n : {nNumber, 0, -1, 3002, 1000000, std::numeric_limits<int>::min()}) {
+        EXPECT_EQ(tree.Items().ItemOf(n), nullptr) << n;
+    }
+}
+
 // Whatever happens to the tree, a refit gives what walking all rows gives.
 TEST(TreeProperty, RefitsAgreeWithAPlainWalk) {
     for (unsigned nSeed = 1; nSeed <= 30; ++nSeed) {
@@ -497,7 +522,12 @@ TEST(TreeProperty, RefitsAgreeWithAPlainWalk) {
                 qv::Rect rect;
                 tree.CalcItemRect(nullptr, 0, r, rect, false);
                 nWidest = std::max(nWidest, rect.right);
-                ++nRows;
+                if (++nRows % 40 == 1 && !tree.Items().RootDetached()) {
+                    const auto [nPlace, nCount] = tree.PlaceOf(r);
+                    ASSERT_EQ(nPlace, 1 + Steps(r, &_TREEITEM::pPrevSibling)) << nSeed << "/" << i;
+                    ASSERT_EQ(nCount, nPlace + Steps(r, &_TREEITEM::pNextSibling));
+                }
+                ASSERT_EQ(tree.Items().ItemOf(tree.Items().NumberOf(r)), r);
             }
             ASSERT_TRUE(tree.CheckInvariants()) << nSeed << "/" << i;
             ASSERT_EQ(tree.MaxWidth(), nWidest) << nSeed << "/" << i;

@@ -11,11 +11,9 @@
 
 namespace {
 
-constexpr CLSID kFlexGrid = {
-    0x6262D3A0, 0x531B, 0x11CF, {0x91, 0xF6, 0xC2, 0x86, 0x3C, 0x38, 0x5E, 0x30}};
 constexpr DISPID kRows = 4, kCols = 5, kFixedRows = 6, kFixedCols = 7, kRow = 10, kCol = 11,
                  kRowSel = 12, kColSel = 13, kMouseRow = 27, kMouseCol = 28, kColWidth = 57,
-                 kRowHeight = 58, kRowPos = 87, kColPos = 88;
+                 kRowHeight = 58, kRowPos = 87;
 constexpr long kHeight = 300, kWidth = 900;  // twips of a row and a column
 
 class Grid : public QVFlexGridCtrl {
@@ -55,7 +53,7 @@ public:
 
 class FlexGridCtrl : public testing::Test {
 protected:
-    FlexGridCtrl() : m_class(kFlexGrid) {
+    FlexGridCtrl() : m_class(Grid().GetClsid()) {
         m_class.m_bAnyMember = true;
         m_class.m_hook = [this](const std::string& strStep) {
             if (strStep == m_strRefused) {
@@ -79,7 +77,7 @@ protected:
         ASSERT_TRUE(
             m_pGrid->Create(nullptr, WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &m_parent, 5));
     }
-    void Tell(DISPID id, long n) { m_class.m_values[id] = OwnedVariant::Long(n); }
+    void Tell(DISPID id, long n) { m_class.m_values[id] = COleVariant(n); }
     void Size(long nRows, long nCols, long nFixedRows, long nFixedCols) {
         Tell(kRows, nRows);
         Tell(kCols, nCols);

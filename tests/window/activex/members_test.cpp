@@ -162,25 +162,25 @@ public:
 private:
     template <class R>
     void ExpectGiven(DISPID id, const std::function<R()>& call) {
-        const auto given = [&](const OwnedVariant& value) -> R {
+        const auto given = [&](const COleVariant& value) -> R {
             m_class.m_values[id] = value;
             return call();
         };
-        OwnedVariant object;
+        COleVariant object;
         object.vt = std::is_same_v<R, LPUNKNOWN> ? VT_UNKNOWN : VT_DISPATCH;
         object.punkVal = &m_object;
         m_object.AddRef();
         if constexpr (std::is_same_v<R, short>) {
-            EXPECT_EQ(given(OwnedVariant::Long(21)), 21);
-            EXPECT_THROW(given(OwnedVariant::Long(70000)), CException*) << "more than 16 bits";
+            EXPECT_EQ(given(COleVariant(21L)), 21);
+            EXPECT_THROW(given(COleVariant(70000L)), CException*) << "more than 16 bits";
         } else if constexpr (std::is_same_v<R, long>) {
-            EXPECT_EQ(given(OwnedVariant::Long(70000)), 70000);
+            EXPECT_EQ(given(COleVariant(70000L)), 70000);
         } else if constexpr (std::is_same_v<R, float>) {
-            EXPECT_EQ(given(OwnedVariant::Text(L"2.5")), 2.5F);
+            EXPECT_EQ(given(COleVariant("2.5")), 2.5F);
         } else if constexpr (std::is_same_v<R, CString>) {
-            EXPECT_EQ(given(OwnedVariant::Text(L"given")), "given");
+            EXPECT_EQ(given(COleVariant("given")), "given");
         } else if constexpr (std::is_same_v<R, BOOL>) {
-            EXPECT_EQ(given(OwnedVariant::Long(5)), TRUE);
+            EXPECT_EQ(given(COleVariant(5L)), TRUE);
         } else if constexpr (std::is_pointer_v<R>) {
             const R pGiven = given(object);
             EXPECT_EQ(static_cast<LPUNKNOWN>(pGiven), static_cast<LPUNKNOWN>(&m_object));
@@ -206,16 +206,9 @@ private:
         if (strStep.substr(0, 7) != "invoke ") {
             return S_OK;
         }
-        FakeControlClass::Call& call = m_class.m_calls.back();
-        static const std::map<WORD, std::string> kHow = {{DISPATCH_METHOD, " call"},
-                                                         {DISPATCH_PROPERTYGET, " get"},
-                                                         {DISPATCH_PROPERTYPUT, " put"},
-                                                         {DISPATCH_PROPERTYPUTREF, " putref"}};
-        m_strSeen = std::to_string(call.id) +
-                    (kHow.contains(call.wFlags) ? kHow.at(call.wFlags) : " otherwise");
-        for (size_t i = 0; i < call.args.size(); ++i) {
-            const VARIANT& arg = call.args[i];
-            m_strSeen += (i == 0 ? " " : ", ") + ArgumentText(arg);
+        const DispatchCall& call = m_class.m_calls.back();
+        m_strSeen = call.Text();
+        for (const VARIANT& arg : call.args) {
             if (arg.vt == (VT_BOOL | VT_BYREF)) {
                 *arg.pboolVal = VARIANT_FALSE;
             } else if ((arg.vt & VT_BYREF) != 0) {

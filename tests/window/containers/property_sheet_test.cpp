@@ -117,6 +117,25 @@ TYPED_TEST(AnySheet, AsAWizardGoesWhereItsPagesSay) {
               ID_WIZFINISH);
 }
 
+TYPED_TEST(AnySheet, AnswersKeysOnAPageWithoutControls) {
+    auto& sheet = this->sheet;
+    sheet.SetWizardMode();
+    EXPECT_EQ(this->Show([&] {
+        sheet.SetWizardButtons(PSWIZB_BACK | PSWIZB_NEXT);
+        PumpPending();
+        sheet.SetActivePage(1);
+        this->p.GetDlgItem(IDC_PAGE_EDIT)->EnableWindow(FALSE);
+        sheet.SetActivePage(0);
+        TypeKey(VK_RETURN);
+        EXPECT_EQ(sheet.GetActivePage(), &this->p);
+        TypeKey(VK_RETURN);
+        EXPECT_EQ(sheet.GetActivePage(), &this->n);
+        sheet.SetActivePage(1);
+        TypeKey(VK_ESCAPE);
+    }),
+              IDCANCEL);
+}
+
 // --- What is the library's own
 
 /// Face and height in pixels.
@@ -181,9 +200,9 @@ TEST(HeaderTitles, AreInTheLongerRecordsAlone_AndOnlyThoseThatAreThere) {
         {&subtitle, PSP_USEHEADERSUBTITLE}, {&plain, 0}, {&both, kTitles}};
     for (const auto& [pPage, dwTitles] : pages) {
         EXPECT_EQ(record(std::make_unique<ActingSheet<QVPropertySheetEx>>("Longer"), pPage),
-                  std::pair(DWORD{PROPSHEETPAGE_V2_SIZE}, dwTitles));
+                  std::pair(static_cast<DWORD>(PROPSHEETPAGE_V2_SIZE), dwTitles));
         EXPECT_EQ(record(std::make_unique<ActingSheet<QVPropertySheet>>("Shorter"), pPage),
-                  std::pair(DWORD{PROPSHEETPAGE_V1_SIZE}, DWORD{0}));
+                  std::pair(static_cast<DWORD>(PROPSHEETPAGE_V1_SIZE), DWORD{0}));
     }
 }
 

@@ -1,9 +1,11 @@
 // Tab views on the tab strip of qvocx.dll.
 #include "containers/tab_view.h"
 
+#include "frame/dc_guards.h"
 #include "ocx/qvocx.h"
 #include "support/monkey.h"
 #include "support/mortal.h"
+#include "support/picture.h"
 #include "support/pump.h"
 #include "support/real_input.h"
 #include "support/test_app.h"
@@ -21,11 +23,12 @@ int s_nLiving = 0;  // pages and views
 std::string s_strLog;
 std::function<void(char cStep)> s_told;
 std::vector<const char*> s_titles;
+UINT s_nTemplate = IDD_TAB_PAGE;
 
 class Page : public Mortal<QVTabViewPage> {
     DECLARE_DYNCREATE(Page)
 public:
-    Page() : Mortal(IDD_TAB_PAGE), m_cName(static_cast<char>('a' + s_nLiving++ - 1)) {}
+    Page() : Mortal(s_nTemplate), m_cName(static_cast<char>('a' + s_nLiving++ - 1)) {}
     ~Page() override { --s_nLiving; }
     using QVTabViewPage::GetTabView;
     using QVTabViewPage::m_bNeedsUpdate;
@@ -133,9 +136,10 @@ TEST(TabView, ComesUpWithItsFirstPageInPlace_AndKeepsItThere) {
     EXPECT_STREQ(tabs.GetTabCaption(), s_titles[1]);
     CWindowDC dc(&tabs);
     const int nTwips = 1440 / dc.GetDeviceCaps(LOGPIXELSX);  // a pixel
-    CFont* const pOld = dc.SelectObject(w.pView->GetPage(0)->GetFont());
-    EXPECT_EQ(tabs.GetTabHeight(), (dc.GetTextExtent("some lines").cx + 4) * nTwips);
-    dc.SelectObject(pOld);
+    {
+        const qv::SelectGuard select(dc, w.pView->GetPage(0)->GetFont());
+        EXPECT_EQ(tabs.GetTabHeight(), (dc.GetTextExtent("some lines").cx + 4) * nTwips);
+    }
     for (const int cx : {0, 500}) {
         cx ? ::SetWindowPos(w.hFrame, nullptr, 0, 0, cx, 333, SWP_NOMOVE) : FALSE;
         CRect rcView, rcTabs, rcPage;
@@ -200,7 +204,7 @@ TEST(TabView, CommandsAndKeysReachTheActivePage) {
     EXPECT_EQ(::GetDlgCtrlID(::GetFocus()), IDC_PAGE_EDIT);
     BringToFront(w.pMain->m_hWnd), BringToFront(w.hFrame);
     EXPECT_EQ(::GetDlgCtrlID(::GetFocus()), IDC_PAGE_EDIT) << "where it was";
-    ::SetFocus(view.GetTabCtrl().m_hWnd);
+    view.GetTabCtrl().SetFocus();  // out of the page, which is a child of the tabs
     EXPECT_EQ(w.After([] { TypeKey(VK_TAB); }).substr(0, 2), "fa") << "from the tabs into the page";
     EXPECT_TRUE(::IsChild(view.At(0)->m_hWnd, ::GetFocus()));
 
@@ -222,6 +226,31 @@ TEST(TabView, WidthsAreThoseOfTheWidestLine) {
     EXPECT_EQ(pView->FindStringTwips(dc, "\n\n") + pView->FindStringTwips(dc, nullptr), 0);
 }
 
+// Lines of text in the tabs, whose edges are lighter, where letters have stems.
+int LinesIn(const Picture& picture, int nRight) {
+    int nLines = 0;
+    for (int y = 0, nBefore = 0, nInk = 0; y < picture.Height(); ++y, nBefore = nInk) {
+        nInk = 0;
+        for (int x = 0; x < nRight; ++x) {
+            nInk += GetGValue(picture.At(x, y)) < 96;
+        }
+        nLines += nInk > 0 && nBefore == 0;
+    }
+    return nLines;
+}
+
+TEST(TabView, TitlesAreShownInTheFontOfThePages_AndBreakAtTheirLineFeedsAlone) {
+    for (const UINT nTemplate : {IDD_TAB_PAGE, IDD_TAB_PAGE_LARGE}) {
+        s_nTemplate = nTemplate;
+        ViewFrame w({"HI", "HHH HHH IIH\nHH", "H"});
+        s_nTemplate = IDD_TAB_PAGE;
+        CTab& tabs = w.pView->GetTabCtrl();
+        const int nRight = tabs.GetClientLeft() * CClientDC(&tabs).GetDeviceCaps(LOGPIXELSX) / 1440;
+        EXPECT_EQ(LinesIn(Picture::Fresh(tabs), nRight - 4), 4) << nTemplate;
+        EXPECT_EQ(tabs.GetFontSize(), nTemplate == IDD_TAB_PAGE_LARGE ? 18 : 8.25);
+    }
+}
+
 TEST(TabView, WhatCannotBeMadeIsLeftOut) {
     ViewFrame w(std::vector<const char*>{});
     EXPECT_EQ(w.pView->GetTabCtrl().GetTabCount() + w.pView->OnHandleCommand(1), 0) << "no pages";
@@ -240,6 +269,12 @@ TEST(TabView, WhatCannotBeMadeIsLeftOut) {
         [&](int) { EXPECT_LE(s_nLiving, 3); });
     QVRevokeControls(), TheTestApp().Forget(), w.Make();
     EXPECT_EQ(w.pView->GetTabCtrl().m_hWnd, nullptr) << "no such control";
+    w.pView->GetParentFrame()->ShowWindow(SW_SHOW);
+    {
+        CClientDC dc(w.pView);
+        dc.FillSolidRect(0, 0, 9, 9, RGB(1, 2, 3));
+    }
+    EXPECT_EQ(Picture::Fresh(*w.pView).Count(RGB(1, 2, 3)), 0) << "the view covers nothing";
     EXPECT_EQ(w.pView->AddPage("", RUNTIME_CLASS(Page)), nullptr);
     EXPECT_EQ(w.pView->GetActivePage(), -1);
     EXPECT_EQ(TheTestApp().m_prompts.size() + TheTestApp().m_exceptions.size(), 0u);

@@ -12,6 +12,7 @@ namespace {
 constexpr CLSID kText = {
     0xCDF3B180, 0xD408, 0x11CE, {0xAE, 0x2C, 0x00, 0x80, 0xC7, 0x86, 0xE3, 0x7D}};
 constexpr DISPID kTextMember = 70;
+constexpr DISPID kControlType = 68;  // 1: read only
 
 CString ItemText(CWnd& dlg, int nID) {
     CString strText;
@@ -64,12 +65,15 @@ TEST(AboutBox, ShowsNameVersionIconAndLegalLine) {
 TEST(AboutBox, ShowsTheDatabaseInControls) {
     FakeControlClass text(kText);
     std::vector<std::string> texts;
-    text.m_values[kTextMember] = OwnedVariant();
+    text.m_values[kTextMember] = COleVariant();
+    text.m_values[kControlType] = COleVariant(0L);
+    int nReadOnly = 0;
     text.m_hook = [&](const std::string& strStep) {
         if (strStep == "invoke 70" && text.m_calls.back().wFlags == DISPATCH_PROPERTYPUT) {
             texts.emplace_back(CString(text.m_calls.back().args.at(0).bstrVal));
             return texts.size() == 2 ? E_ACCESSDENIED : S_OK;
         }
+        nReadOnly += strStep == "invoke 68" && text.m_calls.back().args.at(0).lVal == 1;
         return S_OK;
     };
     ActingDialog<QVAboutBox> box(TRUE, nullptr);
@@ -87,6 +91,7 @@ TEST(AboutBox, ShowsTheDatabaseInControls) {
     };
     EXPECT_EQ(box.DoModal(), box.kStillThere) << "one refused";
     EXPECT_EQ(texts, std::vector<std::string>({"Packages", "/var/lib", "status"}));
+    EXPECT_EQ(nReadOnly, 3) << "nobody types into an about box";
     EXPECT_EQ(text.m_nAlive, 0);
 }
 

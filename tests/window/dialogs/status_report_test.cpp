@@ -88,7 +88,7 @@ TEST_F(QVStatusReportTest, ShowsTheLogUntilAKeyClosesIt_AlsoAfterAnotherProgram)
 }
 
 using Reporting = void (*)(QVStatus*, CWnd*, int);
-constexpr Reporting kInDialog = QVStatusReport::Report, kInBox = QVStatusReport::AfxMsgBoxReport;
+const Reporting kInDialog = QVStatusReport::Report, kInBox = QVStatusReport::AfxMsgBoxReport;
 
 int s_nBefore;
 LRESULT CALLBACK RefuseOne(int nCode, WPARAM wParam, LPARAM lParam) {

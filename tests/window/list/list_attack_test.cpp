@@ -1,5 +1,6 @@
 // Lists without memory, in any order, and with a parent that takes them away while it is told of
 // something, or asked.
+#include "support/held_keys.h"
 #include "support/list_window.h"
 #include "support/monkey.h"
 #include "support/mortal.h"
@@ -241,6 +242,9 @@ TEST(ListMonkey, SurvivesAnyOrderOfOperationsAndKeepsNoHandles) {
         [](Subject& s, int n) { s.list->SetImageFirstCol(n % 2); },
         [](Subject& s, int n) { s.list->Scroll(CSize(n * 5, n * 7)); },
         [](Subject& s, int n) { s.list->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, n * 20)); },
+        [](Subject& s, int n) { s.list->EnableExpectedKeys(n % 2); },
+        [](Subject& s, int n) { s.list->SendMessage(WM_CHAR, n % 2 ? 'n' : 'b'); },
+        [](Subject& s, int n) { SendKey(s.list->m_hWnd, "AC13"[n & 3], true); },
         [](Subject& s, int) { s.list->SendMessage(WM_KEYDOWN, VK_DOWN); }};
     for (const Operation& operation : kOperations) {
         deeds.push_back(operation.act);

@@ -71,7 +71,7 @@ class OwnTextList : public QVSortingListCtrl {
     LRESULT OnSetText(WPARAM, LPARAM) { return Default(); }
 };
 BEGIN_MESSAGE_MAP(OwnTextList, QVSortingListCtrl)
-    ON_MESSAGE(LVM_SETITEMTEXTA, OnSetText)
+    ON_MESSAGE(LVM_SETITEMTEXTA, &OwnTextList::OnSetText)
 END_MESSAGE_MAP()
 
 // What a sort keeps for the next one must not outlive any change, and equal rows keep their order,

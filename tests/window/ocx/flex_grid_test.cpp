@@ -6,6 +6,7 @@
 #include "support/picture.h"
 #include "support/pump.h"
 #include "support/real_input.h"
+#include "support/test_app.h"
 
 #include <afxdisp.h>
 
@@ -248,12 +249,20 @@ TEST_F(FlexGridTest, SortsBySelectionAndByWhoeverCompares) {
     };
     Grid().SetSort(9);
     EXPECT_EQ(rows(), "4.1\r2.1\r3.1\r1.1") << "a grid that changed meanwhile stays as it is";
+    int nAsked = 0;
+    Parent().m_compare = [&](long, long) -> short {
+        ++nAsked;
+        AfxThrowUserException();
+    };
+    Grid().SetSort(9);
+    EXPECT_EQ(rows(), "4.1\r2.1\r3.1\r1.1");
+    EXPECT_EQ(nAsked, 1) << "a handler that fails is not asked on";
+    TheTestApp().Forget();
 }
 
 TEST_F(FlexGridTest, WhatCannotBeIsRefusedWithATextAndChangesNothing) {
     Fill(5, 3);
     const std::function<void()> aRefused[] = {
-        [&] { Grid().SetRows(-1); },
         [&] { Grid().SetFixedRows(5); },
         [&] { Grid().SetTextMatrix(5, 0, "x"); },
         [&] { Grid().SetTextArray(15, "x"); },
@@ -272,6 +281,13 @@ TEST_F(FlexGridTest, WhatCannotBeIsRefusedWithATextAndChangesNothing) {
     for (const auto& refused : aRefused) {
         EXPECT_NE(ErrorOf(refused), "") << &refused - aRefused;
     }
+    EXPECT_EQ(ErrorOf([&] { Grid().SetRows(-1); }),
+              "The grid cannot have -1 rows: 0 to 10000000 are allowed.");
+    COleFont font = Grid().GetFont();
+    EXPECT_EQ(ErrorOf([&] { Grid().SetRefMouseIcon(font.m_lpDispatch); }),
+              "The object is no picture.");
+    EXPECT_EQ(ErrorOf([&] { Grid().SetRefMouseIcon(nullptr); }), "");
+    EXPECT_EQ(ErrorOf([&] { Grid().SetRefFont(nullptr); }), "The object is no font.");
     Grid().SetRows(0);
     EXPECT_NE(ErrorOf([&] { Grid().SetText("x"); }), "");
     EXPECT_EQ(Grid().GetText(), "");

@@ -1,3 +1,4 @@
+#include "support/held_keys.h"
 #include "support/monkey.h"
 #include "support/mortal.h"
 #include "support/pump.h"
@@ -266,6 +267,16 @@ TYPED_TEST(TextMonkey, SurvivesAnyOrderOfOperationsAndKeepsNoHandles) {
                               MAKEWPARAM(random() % 10, n), 0);
             },
             [&] { ::SendMessage(hWnd, WM_KEYDOWN, VK_PRIOR + random() % 8, 1); },
+            [&] { SendKey(hWnd, VK_PRIOR + static_cast<int>(random() % 8), n % 2 != 0, true); },
+            [&] {
+                n % 3 == 0 ? SendKey(hWnd, n % 2 ? 'A' : 'C', true)
+                           : text.EnableExpectedKeys(n % 2);
+            },
+            [&] {
+                constexpr UINT kMouse[] = {WM_LBUTTONDOWN, WM_MOUSEMOVE, WM_LBUTTONUP,
+                                           WM_LBUTTONDBLCLK, WM_TIMER};
+                ::SendMessage(hWnd, kMouse[random() % 5], 1, MAKELPARAM(n * 4, n * 3));
+            },
             [&] { ::SendMessage(hWnd, WM_MOUSEWHEEL, MAKEWPARAM(0, n * 20), 0); },
             [&] { text.ScrollTo(n, n % 7); },
             [&] {
@@ -281,7 +292,7 @@ TYPED_TEST(TextMonkey, SurvivesAnyOrderOfOperationsAndKeepsNoHandles) {
         }
     }
     renew();
-    EXPECT_GT(nGone, 20);
+    EXPECT_GT(nGone, 10);
     for (TextWindow<Leaving<TypeParam>>* p :
          {&pair.a, static_cast<TextWindow<Leaving<TypeParam>>*>(pair.b.get())}) {
         p->text.onDraw = nullptr;

@@ -1,0 +1,404 @@
+// What controls tell a screen reader: asked from another program, as such a reader does, and, with
+// anything in any order, from this one.
+#include "support/list_window.h"
+#include "support/monkey.h"
+#include "support/mortal.h"
+#include "support/pump.h"
+#include "support/screen_reader.h"
+
+#include <gtest/gtest.h>
+#include <oleacc.h>
+
+namespace {
+
+constexpr char kGone[] = "0x800401FD";     // CO_E_OBJNOTCONNECTED
+constexpr char kInvalid[] = "0x80070057";  // E_INVALIDARG
+constexpr char kNoDeed[] = "0x80020003";   // DISP_E_MEMBERNOTFOUND
+constexpr char kDone[] = "0x00000000";
+
+struct Question {
+    std::string strAsked, strAnswer;
+};
+
+class Accessible : public testing::Test {
+protected:
+    static void SetUpTestSuite() { s_pReader = std::make_unique<ScreenReader>(); }
+    static void TearDownTestSuite() { s_pReader.reset(); }
+    static std::string Ask(const std::string& str) { return s_pReader->Ask(str); }
+    static void Watch(CWnd& wnd) { ASSERT_EQ(s_pReader->Watch(wnd.m_hWnd), kDone); }
+    static void Expect(std::initializer_list<Question> questions) {
+        for (const Question& question : questions) {
+            EXPECT_EQ(Ask(question.strAsked), question.strAnswer) << question.strAsked;
+        }
+    }
+    // Where a point of a window's client area is on the screen, in words.
+    static std::string OnScreen(CWnd& wnd, CPoint pt) {
+        wnd.ClientToScreen(&pt);
+        return std::to_string(pt.x) + ' ' + std::to_string(pt.y);
+    }
+
+    static std::unique_ptr<ScreenReader> s_pReader;
+};
+std::unique_ptr<ScreenReader> Accessible::s_pReader;
+
+// --- The tree
+
+class CountingTree : public QVTreeCtrlEx {
+public:
+    CString GetAccessibleName(long nPart) override {
+        ++m_nAsked;
+        m_throw ? m_throw() : void();
+        return QVTreeCtrlEx::GetAccessibleName(nPart);
+    }
+    long GetAccessiblePart(long nIndex) override {
+        ++m_nAsked;
+        return QVTreeCtrlEx::GetAccessiblePart(nIndex);
+    }
+    int m_nAsked = 0;
+    std::function<void()> m_throw;
+};
+
+class AccessibleTree : public Accessible {
+protected:
+    AccessibleTree() {
+        w.tree.LoadStandardCheckStates();
+        const int stops[] = {100};
+        w.tree.UseTabs(stops, 1);
+        w.tree.AddStyle(0, 0xFFFFFF);
+        fruit = w.Add("\033bfruit\t2");  // part 1
+        apple = w.Add("apple\t\033b5 kg\tnot shown", fruit);
+        pear = w.Add("pear", fruit);
+        last = w.Add("last");
+        w.tree.Expand(fruit, TVE_EXPAND, TRUE, FALSE);
+        w.tree.SetCheck(apple, TRUE, FALSE);
+        w.tree.SetFocus();
+        PumpPending();
+        Watch(w.tree);
+    }
+    TreeWindow<CountingTree> w;
+    HTREEITEM fruit, apple, pear, last;
+};
+
+TEST_F(AccessibleTree, SaysItsRowsWithLevelPlaceAndMarks) {
+    Expect(
+        {{"say 0", "outline [focused focusable]"},
+         {"all 0 9",
+          "1: outline item \"fruit, 2\" value \"0\" description \"1 of 2\" [expanded focusable "
+          "selectable] action \"Collapse\"\n"
+          "2: outline item \"apple, 5 kg\" value \"1\" description \"1 of 2\" [checked focusable "
+          "selectable] action \"Uncheck\"\n"
+          "3: outline item \"pear\" value \"1\" description \"2 of 2\" [focusable selectable] "
+          "action \"Check\"\n"
+          "4: outline item \"last\" value \"0\" description \"2 of 2\" [focusable selectable]"}});
+    w.tree.SetAccessibleHeadings("Name\tSize");
+    w.tree.SetAllowTags(FALSE);
+    w.tree.SetItemStateImage(apple, 3, FALSE);
+    Expect({{"say 2",
+             "outline item \"apple\" value \"1\" description \"Size: 5 kg, 1 of 2\" "
+             "[checked mixed focusable selectable]"}});
+    w.tree.Expand(fruit, TVE_COLLAPSE, TRUE, FALSE);
+    Expect({{"count", "2"},
+            {"event 3",
+             "outline item \"pear\" value \"1\" [invisible offscreen focusable "
+             "selectable]"}});
+}
+
+TEST_F(AccessibleTree, IsWalkedAndFoundByPoints) {
+    const CRect rc = w.RectOf(pear, FALSE);
+    const std::string strSize =
+        ' ' + std::to_string(rc.Width()) + ' ' + std::to_string(rc.Height());
+    Expect({{"go 0 7", "1"},
+            {"go 0 8", "4"},
+            {"go 1 2", "2"},
+            {"go 3 1", "2"},
+            {"go 3 5", "4"},
+            {"go 2 3", "1"},
+            {"go 1 4", "2"},
+            {"go 4 4", "none"},
+            {"go 4 2", "none"},
+            {"go 1 9", kInvalid},
+            {"go 9 1", kInvalid},
+            {"say 5", kInvalid},
+            {"say -1", kInvalid},
+            {"where 3", OnScreen(w.tree, rc.TopLeft()) + strSize},
+            {"hit " + OnScreen(w.tree, rc.CenterPoint()), "3"},
+            {"hit " + OnScreen(w.tree, CPoint(5, 190)), "0"},
+            {"hit " + OnScreen(w.tree, CPoint(-5, 5)), "none"},
+            {"focus", "0"},
+            {"selection", "none"}});
+}
+
+TEST_F(AccessibleTree, DoesAsUsersDoAndTellsIt) {
+    Ask("heard");
+    Expect({{"select 3 3", kDone},
+            {"heard", "focus 3, selection 3"},
+            {"focus", "3"},
+            {"selection", "3"},
+            {"do 3", kDone},
+            {"heard", "state 3"},
+            {"do 4", kNoDeed},
+            {"select 2 8", "0x00000001"},
+            {"select 2 10", kInvalid}});
+    EXPECT_EQ(w.Told(), "ing ->pear | ed ->pear | ing pear>pear | ed pear>pear");
+    EXPECT_TRUE(w.tree.GetCheck(pear));
+    w.parent.SetResult(TVN_SELCHANGING, 1);
+    Expect({{"select 2 2", "0x00000001"}, {"heard", ""}});
+    w.parent.SetResult(TVN_SELCHANGING, 0);
+    // Closing the branch takes the selection up.
+    Expect({{"do 1", kDone}, {"heard", "focus 1, selection 1, state 1, reorder 0"}});
+    w.tree.SetItemText(last, "new");
+    w.tree.DeleteItem(fruit);
+    Expect({{"heard", "name 4, focus 4, selection 4, reorder 0"}, {"say 1", kInvalid}});
+}
+
+TEST_F(AccessibleTree, CostsTheSameWithManyRows) {
+    w.tree.SetRedraw(FALSE);
+    for (int i = 4; i < 100'000; ++i) {
+        w.Add("row");
+    }
+    w.tree.SetRedraw(TRUE);
+    w.tree.m_nAsked = 0;
+    Expect({{"heard", "reorder 0"},
+            {"count", "100000"},
+            {"all 99999 5",
+             "100000: outline item \"row\" value \"0\" description \"99998 of "
+             "99998\" [invisible offscreen focusable selectable]"},
+            {"go 50000 2", "50001"},
+            {"go 0 8", "100000"}});
+    EXPECT_LT(w.tree.m_nAsked, 9);
+}
+
+TEST_F(AccessibleTree, WhatAReplacedStepThrowsEndsThere) {
+    constexpr char kRest[] = " value \"0\" description \"2 of 2\" [focusable selectable]";
+    w.tree.m_throw = [] { throw 1; };
+    EXPECT_EQ(Ask("say 4"), std::string("outline item 0x80004005") + kRest);
+    w.tree.m_throw = [] { AfxThrowFileException(CFileException::diskFull); };
+    EXPECT_EQ(Ask("say 4"), std::string("outline item 0x80004005") + kRest);
+    w.tree.m_throw = [] { throw std::bad_alloc(); };
+    EXPECT_EQ(Ask("say 4"), std::string("outline item 0x8007000E") + kRest);
+}
+
+// A parent that takes the tree away in what a deed tells it.
+TEST_F(Accessible, AnObjectOutlivesItsControl) {
+    for (const bool bDelete : {false, true}) {
+        FontParent parent(CSize(300, 200));
+        auto tree = std::make_unique<Mortal<QVTreeCtrlEx>>();
+        tree->Create(kTreeStyle, CRect(0, 0, 300, 200), &parent, kTreeId);
+        const HTREEITEM h = tree->InsertItem("a", 0, 0, nullptr, TVI_LAST);
+        tree->InsertItem("b", 0, 0, h, TVI_LAST);
+        parent.m_hook = [&](NMHDR*, LRESULT*) {
+            bDelete ? tree.reset() : void(tree->DestroyWindow());
+            return false;
+        };
+        Watch(*tree);
+        Expect({{"do 1", kDone},
+                {"say 0", kGone},
+                {"count", kGone},
+                {"all 0 1", kGone},
+                {"hit 1 1", kGone},
+                {"do 1", kGone}});
+        parent.m_hook = nullptr;
+    }
+}
+
+// --- What the window gives
+
+TEST_F(Accessible, TheLabelBeforeAControlIsItsName) {
+    RecordingParent parent;
+    parent.SetWindowText("Frame");
+    CStatic label;
+    label.Create("&Fruit && more:", WS_CHILD | WS_VISIBLE, CRect(0, 0, 90, 20), &parent);
+    QVTreeCtrlEx tree;
+    tree.Create(kTreeStyle, CRect(0, 30, 90, 90), &parent, kTreeId);
+    Watch(tree);
+    Expect({{"say 0", "outline \"Fruit & more:\" [focusable]"}});
+    const std::string strBeside = Ask("beside");
+    EXPECT_NE(strBeside.find("shortcut \"Alt+F\"\nits window"), std::string::npos) << strBeside;
+    EXPECT_EQ(strBeside.find("parent object: "), 0u);
+    QVTreeHeaderWnd captioned;
+    CRect rc(100, 30, 190, 90);
+    captioned.SetHeaderText("R&D");
+    captioned.Create(WS_CHILD | WS_VISIBLE, rc, &parent, 5);
+    Watch(captioned.GetTreeCtrl());
+    Expect({{"say 0", "outline \"R&D\" [focusable]"}});
+    captioned.SetHeaderText("B&B");
+    Expect({{"say 0", "outline \"B&B\" [focusable]"}});
+    Watch(tree);
+    tree.SetWindowText("own &name");
+    tree.EnableWindow(FALSE);
+    tree.ShowWindow(SW_HIDE);
+    Expect({{"say 0", "outline \"own name\" [unavailable invisible]"}});
+}
+
+// --- The list
+
+class AccessibleList : public Accessible {
+protected:
+    AccessibleList() : w("Name\tSize\tIt") {
+        w.list.ModifyStyle(LVS_SINGLESEL, 0);
+        w.list.AddStyle(0, 0xFFFFFF);
+        w.list.SetColWidth(2, 0, nullptr);
+        for (const char* psz : {"\033bapple\t5 kg\tx", "pear\t\ty", "plum\t\033b1 kg"}) {
+            w.Add(psz);
+        }
+        w.list.SetFocus();
+        w.list.UpdateWindow();
+        PumpPending();
+        Watch(w.list);
+    }
+    ListWindow<> w;
+};
+
+TEST_F(AccessibleList, SaysRowsAndHeadings) {
+    constexpr char kRow[] =
+        " [focusable selectable multi selectable extended selectable] action \"Double Click\"";
+    w.list.SetColWidth(2, 0, nullptr);
+    Expect({{"all 1 5", "2: list item \"pear\"" + std::string(kRow) +
+                            "\n3: list item \"plum\" description \"Size: 1 kg\"" + kRow +
+                            "\n1073741824: column header \"Name\" [] action \"Click\"" +
+                            "\n1073741825: column header \"Size\" [] action \"Click\"" +
+                            "\n1073741826: column header \"It\" [invisible] action \"Click\""},
+            {"count", "6"},
+            {"say 4", kInvalid},
+            {"say 1073741827", kInvalid},
+            {"go 1 5", "2"},
+            {"go 3 2", "none"},
+            {"go 1073741824 4", "1073741825"},
+            {"go 1 4", "none"},
+            {"hit " + OnScreen(w.list, w.RectOf(1).CenterPoint()), "2"},
+            {"hit " + OnScreen(w.list, CPoint(5, 5)), "1073741824"},
+            {"hit " + OnScreen(w.list, CPoint(5, 190)), "0"}});
+}
+
+TEST_F(AccessibleList, SelectsAndTells) {
+    Ask("heard");
+    Expect({{"select 1 3", kDone},
+            {"heard", "selection-add 1, focus 1"},
+            {"select 3 8", kDone},
+            {"selection", "1 3"},
+            {"focus", "1"},
+            {"select 1 16", kDone},
+            {"selection", "3"}});
+    Ask("heard");
+    w.list.SetItemText(1, 1, "7 kg");
+    w.list.DeleteItem(0);
+    w.Add("new\trow");
+    Expect({{"heard", "name 2, reorder 0"}});
+    w.parent.Forget();
+    Expect({{"do 2", kDone}, {"do 1073741824", kDone}, {"do 3", kDone}});
+    EXPECT_EQ(w.parent.Count(static_cast<UINT>(NM_DBLCLK)), 2);
+}
+
+// --- From this process, anything in any order
+
+// Every call with a wild part: nothing may be thrown, and no answer may be given for one that is
+// not there.
+void AskAnything(IAccessible& object, long nPart, int n) {
+    VARIANT part{};
+    part.vt = static_cast<VARTYPE>(n % 11 == 0 ? VT_BSTR : VT_I4);
+    part.lVal = part.vt == VT_I4 ? nPart : 0;
+    VARIANT found{};
+    BSTR bstr = nullptr;
+    long a[4];
+    IDispatch* pChild = nullptr;
+    HRESULT(STDMETHODCALLTYPE IAccessible::*const texts[])
+    (VARIANT, BSTR*) = {&IAccessible::get_accName,        &IAccessible::get_accValue,
+                        &IAccessible::get_accDescription, &IAccessible::get_accKeyboardShortcut,
+                        &IAccessible::get_accHelp,        &IAccessible::get_accDefaultAction};
+    for (const auto text : texts) {
+        EXPECT_EQ((object.*text)(part, nullptr), E_POINTER);
+        (object.*text)(part, &bstr);
+        ::SysFreeString(bstr);
+    }
+    const HRESULT hr = object.get_accRole(part, &found);
+    EXPECT_TRUE(SUCCEEDED(hr) || found.vt == VT_EMPTY);
+    EXPECT_EQ(object.get_accState(part, &found), hr);
+    object.accLocation(&a[0], &a[1], &a[2], &a[3], part);
+    object.accNavigate(n, part, &found);
+    ::VariantClear(&found);
+    if (SUCCEEDED(object.get_accChild(part, &pChild)) && pChild != nullptr) {
+        pChild->Release();
+    }
+    object.accHitTest(n * 9, nPart, &found);
+    ::VariantClear(&found);
+    if (object.get_accSelection(&found) == S_OK && found.vt == VT_UNKNOWN) {
+        IEnumVARIANT* pEnum = nullptr;
+        found.punkVal->QueryInterface(IID_IEnumVARIANT, reinterpret_cast<void**>(&pEnum));
+        VARIANT some[5];
+        ULONG nGot = 0;
+        pEnum->Skip(static_cast<ULONG>(n & 3));
+        pEnum->Next(5, some, &nGot);
+        pEnum->Release();
+    }
+    ::VariantClear(&found);
+    object.put_accValue(part, nullptr);
+    object.accSelect(n & 31, part);
+    object.accDoDefaultAction(part);
+}
+
+template <class Control, class Make>
+void PlayAccessible(Make make) {
+    FontParent parent(CSize(300, 200));
+    parent.ShowWindow(SW_HIDE);  // what is painted is not the matter
+    std::unique_ptr<Mortal<Control>> control;
+    int nTold = 0;
+    int nMade = 0;
+    bool bMaking = false;
+    parent.m_hook = [&](NMHDR*, LRESULT*) {
+        if (!bMaking && ++nTold % 15 == 0) {
+            nTold % 30 == 0 ? control.reset() : void(control->DestroyWindow());
+        }
+        return false;
+    };
+    IAccessible* pObject = nullptr;
+    const auto release = [&] {
+        pObject != nullptr ? void(pObject->Release()) : void();
+        pObject = nullptr;
+    };
+    const std::function<void()> again = [&] {
+        release();
+        bMaking = true;
+        control = std::make_unique<Mortal<Control>>();
+        make(*control, parent);
+        bMaking = false;
+        if (++nMade % 4 != 0) {
+            return;  // most go unasked, as on most machines: an object costs more than a control
+        }
+        ::AccessibleObjectFromWindow(control->m_hWnd, static_cast<DWORD>(OBJID_CLIENT),
+                                     __uuidof(IAccessible), reinterpret_cast<void**>(&pObject));
+    };
+    PlayInAnyOrder<Mortal<Control>>(
+        control, again,
+        {[&](int n) { pObject != nullptr ? AskAnything(*pObject, n, n + 5) : void(); },
+         [&](int n) { pObject != nullptr ? AskAnything(*pObject, n % 6, n) : void(); },
+         [&](int n) { pObject != nullptr ? AskAnything(*pObject, n << 25, n) : void(); },
+         [&](int n) {
+             bMaking = true;
+             n % 5 == 0 ? control.reset() : void();
+             bMaking = false;
+         }});
+    release();
+}
+
+TEST(AccessibleTreeMonkey, AnswersAnythingAtAnyTime) {
+    PlayAccessible<QVTreeCtrlEx>([](QVTreeCtrlEx& tree, CWnd& parent) {
+        tree.Create(kTreeStyle, CRect(0, 0, 300, 200), &parent, kTreeId);
+        tree.LoadStandardCheckStates();
+        const HTREEITEM h = tree.InsertItem("a", 0, 0, nullptr, TVI_LAST);
+        tree.InsertItem("b\tc", 0, 0, h, TVI_LAST);
+        tree.InsertItem("d", 0, 0, nullptr, TVI_LAST);
+    });
+}
+
+TEST(AccessibleListMonkey, AnswersAnythingAtAnyTime) {
+    PlayAccessible<QVListCtrlEx>([](QVListCtrlEx& list, CWnd& parent) {
+        list.ModifyDefStyle(LVS_SINGLESEL, 0);
+        list.Create(kListId, CRect(0, 0, 300, 200), &parent);
+        list.AddHeader("x\ty");
+        for (const char* psz : {"a\tb", "c", "d\te"}) {
+            list.InsertBitmapString(0, -1, psz);
+        }
+    });
+}
+
+}  // namespace
