@@ -5,6 +5,7 @@
 #include "compare/comparison_view.h"
 #include "main_frame.h"
 #include "resource.h"
+#include "sources/machine_name.h"
 #include "walk/walk.h"
 
 #include <ocx/qvocx.h>
@@ -18,9 +19,9 @@ InventoryApp theApp;
 }  // namespace
 
 BEGIN_MESSAGE_MAP(InventoryApp, CWinApp)
-    ON_COMMAND(ID_APP_ABOUT, OnAbout)
-    ON_COMMAND(ID_APP_EXIT, OnAppExit)
-    ON_THREAD_MESSAGE(kWalk, OnWalk)
+    ON_COMMAND(ID_APP_ABOUT, &InventoryApp::OnAbout)
+    ON_COMMAND(ID_APP_EXIT, &InventoryApp::OnAppExit)
+    ON_THREAD_MESSAGE(kWalk, &InventoryApp::OnWalk)
 END_MESSAGE_MAP()
 
 BOOL InventoryApp::InitInstance() {
@@ -66,14 +67,16 @@ void InventoryApp::OnAbout() {
     about.m_strProductName = "Inventory: what is installed on a machine";
     about.m_nIconID = IDR_MAINFRAME;
     const CString& strFile = m_pFrame->ShownFile();
-    if (strFile.IsEmpty()) {
-        char szMachine[MAX_COMPUTERNAME_LENGTH + 1] = "";
-        DWORD nLength = sizeof(szMachine);
-        ::GetComputerName(szMachine, &nLength);
-        about.SetDatabaseInfo("Registry", szMachine, "Uninstall entries");
+    const bool bWhole = m_pFrame->IsShownWhole();
+    if (!bWhole && m_pFrame->Shown()->CountPackages() == 0) {
+        about.SetDatabaseInfo("None", "", "");
+    } else if (strFile.IsEmpty()) {
+        about.SetDatabaseInfo("Registry", MachineName(), "Uninstall entries");
     } else {
         const QVPath path(strFile);
-        about.SetDatabaseInfo("Debian package database", path.GetParent(), path.GetName());
+        about.SetDatabaseInfo(
+            bWhole ? "Debian package database" : "Debian package database, in part",
+            path.GetParent(), path.GetName());
     }
     about.DoModal();
 }

@@ -2,6 +2,7 @@
 
 #include "errors.h"
 #include "inventory_app.h"
+#include "model/count_text.h"
 #include "opening.h"
 #include "resource.h"
 #include "sources/registry_source.h"
@@ -14,6 +15,7 @@
 namespace {
 
 constexpr char kPackageDatabase[] = "Z:\\var\\lib\\dpkg\\status";
+const UINT s_nFindMessage = FindDesk::Message();
 
 }  // namespace
 
@@ -22,15 +24,16 @@ BEGIN_MESSAGE_MAP(MainFrame, CFrameWnd)
     ON_WM_SETFOCUS()
     ON_WM_CLOSE()
     ON_WM_QUERYENDSESSION()
-    ON_COMMAND(ID_RELOAD, OnReload)
-    ON_COMMAND(ID_OPEN_DATABASE, OnOpenDatabase)
-    ON_COMMAND(ID_OPEN_MACHINE, OnOpenMachine)
-    ON_COMMAND(ID_SAVE_SNAPSHOT, OnSaveSnapshot)
-    ON_COMMAND(ID_COMPARE, OnCompare)
-    ON_COMMAND(ID_PACKAGES_PREVIEW, OnPreview)
-    ON_COMMAND(ID_PACKAGES_PRINT, OnPrint)
-    ON_UPDATE_COMMAND_UI(ID_INDICATOR_MESSAGE, OnUpdateMessage)
-    ON_UPDATE_COMMAND_UI(ID_INDICATOR_MARKED, OnUpdateMarked)
+    ON_COMMAND(ID_RELOAD, &MainFrame::OnReload)
+    ON_COMMAND(ID_OPEN_DATABASE, &MainFrame::OnOpenDatabase)
+    ON_COMMAND(ID_OPEN_MACHINE, &MainFrame::OnOpenMachine)
+    ON_COMMAND(ID_SAVE_SNAPSHOT, &MainFrame::OnSaveSnapshot)
+    ON_COMMAND(ID_COMPARE, &MainFrame::OnCompare)
+    ON_COMMAND(ID_PACKAGES_PREVIEW, &MainFrame::OnPreview)
+    ON_COMMAND(ID_PACKAGES_PRINT, &MainFrame::OnPrint)
+    ON_REGISTERED_MESSAGE(s_nFindMessage, &MainFrame::OnFindMessage)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_MESSAGE, &MainFrame::OnUpdateMessage)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_MARKED, &MainFrame::OnUpdateMarked)
 END_MESSAGE_MAP()
 
 BOOL MainFrame::PreCreateWindow(CREATESTRUCT& cs) {
@@ -85,7 +88,8 @@ BOOL MainFrame::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* 
         return TRUE;
     }
     return CFrameWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo) ||
-           m_desk.OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+           m_desk.OnCmdMsg(nID, nCode, pExtra, pHandlerInfo) ||
+           m_find.OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
 }
 
 void MainFrame::OnSetFocus(CWnd*) {
@@ -236,6 +240,11 @@ void MainFrame::OnPreview() {
 
 void MainFrame::OnPrint() {
     m_report.SendMessage(WM_COMMAND, ID_REPORT_PRINT);
+}
+
+LRESULT MainFrame::OnFindMessage(WPARAM, LPARAM lParam) {
+    m_find.OnDialog(lParam);
+    return 0;
 }
 
 void MainFrame::OnUpdateMessage(CCmdUI* pCmdUI) {

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "find_desk.h"
 #include "model/package_database.h"
 #include "pages/largest_page.h"
 #include "pages/log_page.h"
@@ -24,6 +25,8 @@ public:
     const std::shared_ptr<const Inventory>& Shown() const { return m_pInventory; }
     // The file it comes from; empty: the registry.
     const CString& ShownFile() const { return m_strFile; }
+    // False if the file could not be read, or not to its end.
+    bool IsShownWhole() const { return m_strProblem.IsEmpty(); }
     // Opens a frame with what is different from a status file, or shows that in the frame that is
     // there. False if it cannot be read, which is said, or the user cancels.
     BOOL Compare(const CString& strFile);
@@ -59,6 +62,7 @@ protected:
     afx_msg void OnCompare();
     afx_msg void OnPreview();
     afx_msg void OnPrint();
+    afx_msg LRESULT OnFindMessage(WPARAM wParam, LPARAM lParam);
     afx_msg void OnUpdateMessage(CCmdUI* pCmdUI);
     afx_msg void OnUpdateMarked(CCmdUI* pCmdUI);
     DECLARE_MESSAGE_MAP()
@@ -80,6 +84,7 @@ private:
     SettingsPage m_settings;
     ReportPage m_report{m_packages, m_settings};
     ReportDesk m_desk{*this};
+    FindDesk m_find{*this};
     LogPage m_log;
     LargestPage m_largest;
     PageHost m_pages;

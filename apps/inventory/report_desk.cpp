@@ -8,27 +8,29 @@
 #include <algorithm>
 
 BEGIN_MESSAGE_MAP(ReportDesk, CCmdTarget)
-    ON_COMMAND(ID_REPORT_NEW, OnNew)
-    ON_COMMAND(ID_REPORT_EDIT, OnEdit)
-    ON_COMMAND(ID_REPORT_SAVE_AS, OnSaveAs)
-    ON_COMMAND(ID_REPORT_RENAME, OnRename)
-    ON_COMMAND(ID_REPORT_DELETE, OnDelete)
-    ON_COMMAND(ID_REPORT_STANDARD, OnStandard)
-    ON_COMMAND_RANGE(ID_REPORT_FIRST_NAMED, ID_REPORT_LAST_NAMED, OnNamed)
-    ON_COMMAND(ID_PREFERENCES, OnPreferences)
-    ON_COMMAND(ID_REPORT_SETTINGS, OnPreferences)
-    ON_UPDATE_COMMAND_UI(ID_REPORT_EDIT, OnUpdateKept)
-    ON_UPDATE_COMMAND_UI(ID_REPORT_RENAME, OnUpdateKept)
-    ON_UPDATE_COMMAND_UI(ID_REPORT_DELETE, OnUpdateKept)
-    ON_UPDATE_COMMAND_UI(ID_REPORT_STANDARD, OnUpdateStandard)
-    ON_UPDATE_COMMAND_UI_RANGE(ID_REPORT_FIRST_NAMED, ID_REPORT_LAST_NAMED, OnUpdateNamed)
+    ON_COMMAND(ID_REPORT_NEW, &ReportDesk::OnNew)
+    ON_COMMAND(ID_REPORT_EDIT, &ReportDesk::OnEdit)
+    ON_COMMAND(ID_REPORT_SAVE_AS, &ReportDesk::OnSaveAs)
+    ON_COMMAND(ID_REPORT_RENAME, &ReportDesk::OnRename)
+    ON_COMMAND(ID_REPORT_DELETE, &ReportDesk::OnDelete)
+    ON_COMMAND(ID_REPORT_STANDARD, &ReportDesk::OnStandard)
+    ON_COMMAND_RANGE(ID_REPORT_FIRST_NAMED, ID_REPORT_LAST_NAMED, &ReportDesk::OnNamed)
+    ON_COMMAND(ID_PREFERENCES, &ReportDesk::OnPreferences)
+    ON_COMMAND(ID_REPORT_SETTINGS, &ReportDesk::OnPreferences)
+    ON_UPDATE_COMMAND_UI(ID_REPORT_EDIT, &ReportDesk::OnUpdateKept)
+    ON_UPDATE_COMMAND_UI(ID_REPORT_RENAME, &ReportDesk::OnUpdateKept)
+    ON_UPDATE_COMMAND_UI(ID_REPORT_DELETE, &ReportDesk::OnUpdateKept)
+    ON_UPDATE_COMMAND_UI(ID_REPORT_STANDARD, &ReportDesk::OnUpdateStandard)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_REPORT_FIRST_NAMED, ID_REPORT_LAST_NAMED,
+                               &ReportDesk::OnUpdateNamed)
 END_MESSAGE_MAP()
 
 namespace {
 
 // The menu that has a command, below the one given; null if there is none.
 CMenu* MenuWith(CMenu& menu, UINT nID) {
-    for (int i = 0; i < menu.GetMenuItemCount(); ++i) {
+    const int nItems = static_cast<int>(menu.GetMenuItemCount());
+    for (int i = 0; i < nItems; ++i) {
         if (menu.GetMenuItemID(i) == nID) {
             return &menu;
         }

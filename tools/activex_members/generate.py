@@ -11,6 +11,7 @@ import re
 import subprocess
 import sys
 import textwrap
+import uuid
 
 HERE = pathlib.Path(__file__).parent
 SRC = HERE.parent.parent / "src"
@@ -41,21 +42,25 @@ TYPES = {
 
 
 class Wrapper:
-    def __init__(self, table, name, class_id, guid, server, about, by_invoke, members, entries):
-        self.table, self.name, self.class_id, self.guid = table, name, class_id, guid
+    def __init__(self, table, name, class_id, server, about, by_invoke, members, entries):
+        self.table, self.name, self.class_id = table, name, class_id
         self.server, self.about, self.by_invoke = server, about, by_invoke
         self.members, self.entries = members, entries
+
+    def guid(self):
+        """The class id as an initializer."""
+        number = uuid.UUID(self.class_id)
+        tail = ", ".join(f"0x{byte:02x}" for byte in number.bytes[8:])
+        return (f"0x{number.time_low:08x}, 0x{number.time_mid:04x}, "
+                f"0x{number.time_hi_version:04x}, {{{tail}}}")
 
 
 WRAPPERS = [
     Wrapper("flex_grid", "CFlexGrid", "{6262D3A0-531B-11CF-91F6-C2863C385E30}",
-            "0x6262d3a0, 0x531b, 0x11cf, {0x91, 0xf6, 0xc2, 0x86, 0x3c, 0x38, 0x5e, 0x30}",
             "FlexGrid", "a flexible grid, as a window", True, 167, 97),
     Wrapper("fp_text", "CfpText", "{CDF3B180-D408-11CE-AE2C-0080C786E37D}",
-            "0xcdf3b180, 0xd408, 0x11ce, {0xae, 0x2c, 0x00, 0x80, 0xc7, 0x86, 0xe3, 0x7d}",
             "TextField", "a text field with frame styles, as a window", False, 191, 96),
     Wrapper("tab", "CTab", "{48932A4F-981F-101B-A7FB-4A79242FD97B}",
-            "0x48932a4f, 0x981f, 0x101b, {0xa7, 0xfb, 0x4a, 0x79, 0x24, 0x2f, 0xd9, 0x7b}",
             "TabStrip", "a tab strip, as a window", False, 323, 168),
 ]
 
@@ -210,7 +215,7 @@ def source(wrapper, entries):
            f"\n\n#include \"activex/{wrapper.table}.h\"\n\n#include \"activex/member_calls.h\"\n\n",
            f"IMPLEMENT_DYNCREATE({wrapper.name}, CWnd)\n\n"
            f"const GUID& {wrapper.name}::GetClsid() {{\n"
-           f"    static constexpr GUID clsid = {{{wrapper.guid}}};\n    return clsid;\n}}\n\n"
+           f"    static constexpr GUID clsid = {{{wrapper.guid()}}};\n    return clsid;\n}}\n\n"
            f"BOOL {wrapper.name}::Create(LPCSTR, LPCSTR pszWindowName, DWORD dwStyle,\n"
            "const RECT& rc, CWnd* pParent, UINT nID, CCreateContext*) {\n"
            "    return CreateControl(GetClsid(), pszWindowName, dwStyle, rc, pParent, nID);\n}\n\n"

@@ -114,6 +114,13 @@ bool AddReportPrinter(std::string& strError) {
 
 }  // namespace
 
+bool CanMakeVirtualPrinter() {
+    std::string strFolder;
+    std::string strError;
+    return FindDriverFolder(strFolder, strError) &&
+           ::GetFileAttributesA((strFolder + szDriverFile).c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
 bool EnsureVirtualPrinter(std::string& strError) {
     if (DefaultPrinterExists()) {
         return true;

@@ -27,10 +27,6 @@ constexpr struct {
     {"Architecture", "amd64~", kLeft},      {"Before", "1:14.0.6-12+deb12u1~", kLeft},
     {"Now", "1:14.0.6-12+deb12u1~", kLeft}, {"Size", "+999.9 MiB~", kRight},
     {"Change", "newer, larger", kLeft}};
-constexpr int kNow = 4;
-constexpr int kSize = 5;
-constexpr int kChange = 6;
-
 constexpr int kRowsAtOnce = 1000;
 
 // As many rows as any window shows of the lowest height that they may have.
@@ -45,12 +41,25 @@ void PickRow(CFlexGrid& grid, long nFirst, long nLast) {
 
 CString ChangedGrid::CellText(const Difference& difference, int nCol) {
     const Package& package = difference.Shown();
-    const std::string aTexts[kColumns] = {
-        package.strSection,      package.strName,
-        package.strArchitecture, difference.pBefore->strVersion,
-        package.strVersion,      difference.Growth() != 0 ? GrowthText(difference.Growth()) : "",
-        ChangeWords(difference)};
-    return Printable(aTexts[nCol]).c_str();
+    const auto text = [&]() -> std::string {
+        switch (nCol) {
+            case kSection:
+                return package.strSection;
+            case kName:
+                return package.strName;
+            case kArchitecture:
+                return package.strArchitecture;
+            case kBefore:
+                return difference.pBefore->strVersion;
+            case kNow:
+                return package.strVersion;
+            case kSize:
+                return difference.Growth() != 0 ? GrowthText(difference.Growth()) : "";
+            default:
+                return ChangeWords(difference);
+        }
+    };
+    return Printable(text()).c_str();
 }
 
 int ChangedGrid::CellStyle(const Difference& difference, int nCol) {
@@ -108,7 +117,18 @@ void ChangedGrid::Fit() {
                 std::max<long>(::MulDiv(nRoom, kTwipsPerInch, nDpi) - nLeft, m_nLeastWidth));
 }
 
+// By what the cells say: the packages may be gone.
+CString ChangedGrid::KeyOf(long nGridRow) {
+    return nGridRow < GetRows()
+               ? GetTextMatrix(nGridRow, kName) + "\t" + GetTextMatrix(nGridRow, kArchitecture)
+               : CString();
+}
+
 void ChangedGrid::Show(const std::vector<Difference>& differences) {
+    if (!GetTextMatrix(kHeadingRows, kName).IsEmpty()) {
+        m_strFront = KeyOf(GetRow());
+        m_strTop = KeyOf(GetTopRow());
+    }
     m_pDifferences = &differences;
     SetRedraw(FALSE);
     Fill();
@@ -117,8 +137,18 @@ void ChangedGrid::Show(const std::vector<Difference>& differences) {
     }
     SetCol(kSectionColumns);
     SetColSel(kSectionColumns);
-    PickRow(*this, kHeadingRows, kHeadingRows);
-    SetTopRow(kHeadingRows);
+    long nFront = kHeadingRows;
+    long nTop = kHeadingRows;
+    long nRow = kHeadingRows;
+    for (const Difference& difference : differences) {
+        const CString strKey =
+            CellText(difference, kName) + "\t" + CellText(difference, kArchitecture);
+        nFront = strKey == m_strFront ? nRow : nFront;
+        nTop = strKey == m_strTop ? nRow : nTop;
+        ++nRow;
+    }
+    PickRow(*this, nFront, nFront);
+    SetTopRow(nTop);
     SetRedraw(TRUE);
 }
 
@@ -168,12 +198,17 @@ void ChangedGrid::ColorColumn(int nCol) {
     SetFillStyle(0);
 }
 
-int ChangedGrid::Row() {
-    const long nRow = GetRow() - kHeadingRows;
+const Difference* ChangedGrid::At(long nGridRow) const {
+    const long nRow = nGridRow - kHeadingRows;
     return m_pDifferences != nullptr && nRow >= 0 &&
                    nRow < static_cast<long>(m_pDifferences->size())
-               ? static_cast<int>(nRow)
-               : -1;
+               ? &(*m_pDifferences)[static_cast<size_t>(nRow)]
+               : nullptr;
+}
+
+int ChangedGrid::Row() {
+    const Difference* const pDifference = At(GetRow());
+    return pDifference != nullptr ? static_cast<int>(pDifference - m_pDifferences->data()) : -1;
 }
 
 void ChangedGrid::GoTo(int nRow) {
@@ -183,6 +218,18 @@ void ChangedGrid::GoTo(int nRow) {
     if (!GetRowIsVisible(nCell)) {
         SetTopRow(nCell);
     }
+}
+
+CRect ChangedGrid::FocusRect() {
+    const long nRow = GetRow();
+    const long nCol = GetCol();
+    if (!GetRowIsVisible(nRow) || !GetColIsVisible(nCol)) {
+        return CRect(0, 0, 0, 0);
+    }
+    const int nDpi = std::max(CClientDC(this).GetDeviceCaps(LOGPIXELSX), 1);
+    const auto pixels = [&](long nTwips) { return ::MulDiv(nTwips, nDpi, kTwipsPerInch); };
+    return CRect(CPoint(pixels(GetColPos(nCol)), pixels(GetRowPos(nRow))),
+                 CSize(pixels(GetColWidth(nCol)), pixels(GetRowHeight(nRow))));
 }
 
 CString ChangedGrid::SelectedText() {
@@ -198,16 +245,14 @@ CString ChangedGrid::SelectedText() {
 }
 
 int ChangedGrid::GetCellToolTip(int nRow, int, char* pszText) {
-    const int nDifference = nRow - kHeadingRows;
-    if (m_pDifferences == nullptr || nDifference < 0 ||
-        nDifference >= static_cast<int>(m_pDifferences->size())) {
+    const Difference* const pDifference = At(nRow);
+    if (pDifference == nullptr) {
         return 0;
     }
-    const Difference& difference = (*m_pDifferences)[static_cast<size_t>(nDifference)];
     // Lines that there is no more room for are left out.
     std::string strTip;
-    std::vector<std::string> lines = ChangeLines(difference);
-    lines.insert(lines.begin(), difference.Shown().strName);
+    std::vector<std::string> lines = ChangeLines(*pDifference);
+    lines.insert(lines.begin(), pDifference->Shown().strName);
     for (const std::string& strLine : lines) {
         if (strTip.size() + strLine.size() + 2 < static_cast<size_t>(kToolTipRoom)) {
             (strTip += strTip.empty() ? "" : "\r\n") += Printable(strLine);

@@ -10,17 +10,20 @@ class ChangedGrid : public QVFlexGridCtrl {
 public:
     // Fills pParent.
     BOOL Make(CWnd* pParent, UINT nID);
-    // The differences must outlive what is shown of them.
+    // What has the focus and what is on top stay so, if they are still there. The differences must
+    // outlive what is shown of them.
     void Show(const std::vector<Difference>& differences);
     // The last column takes what the others leave.
     void Fit();
     // Of the differences, the cell with the focus in it; -1: there is none.
     int Row();
     void GoTo(int nRow);
+    // The cell with the focus; empty where it is scrolled away.
+    CRect FocusRect();
     // What is selected, as it shows.
     CString SelectedText();
 
-    static constexpr int kColumns = 7;
+    enum { kSection, kName, kArchitecture, kBefore, kNow, kSize, kChange, kColumns };
     static CString CellText(const Difference& difference, int nCol);
     static int CellStyle(const Difference& difference, int nCol);
 
@@ -29,8 +32,13 @@ protected:
 
 private:
     void Fill();
+    CString KeyOf(long nGridRow);
     void ColorColumn(int nCol);
+    // Null in a row without.
+    const Difference* At(long nGridRow) const;
 
     const std::vector<Difference>* m_pDifferences = nullptr;
     long m_nLeastWidth = 0;  // of the last column, in twips
+    CString m_strFront;      // keys of rows, while the grid is filled anew
+    CString m_strTop;
 };

@@ -6,11 +6,11 @@
 namespace {
 
 constexpr PaperColumn kPaperColumns[] = {{"Package", "a-package-with-a-long-name~", false, true},
-                                         {"Architecture", "amd64~"},
-                                         {"Before", "1:14.0.6-12+deb12u1~", false, true},
-                                         {"Now", "1:14.0.6-12+deb12u1~", false, true},
+                                         {"Arch.", "amd64~"},
+                                         {"Before", "1:14.0.6-12+deb12u1~"},
+                                         {"Now", "1:14.0.6-12+deb12u1~"},
                                          {"Size", "+999.9 MiB~", true},
-                                         {"Change", "newer, larger, state", false, true}};
+                                         {"Change", "newer, larger~", false, true}};
 
 }  // namespace
 
@@ -48,10 +48,8 @@ CString ChangedPage::Message() {
 
 const Package* ChangedPage::ShownPackage() {
     const int nRow = m_grid.Row();
-    const auto& changed = Document().Differences().Changed();
-    return nRow >= 0 && nRow < static_cast<int>(changed.size())
-               ? changed[static_cast<size_t>(nRow)].pAfter
-               : nullptr;
+    return nRow >= 0 ? Document().Differences().Changed()[static_cast<size_t>(nRow)].pAfter
+                     : nullptr;
 }
 
 // A heading for each section, where the grid merges cells.
@@ -61,13 +59,13 @@ std::unique_ptr<PaperTable> ChangedPage::Table() {
     pTable->strText = Message() + ": " + Document().NameBefore() + " and " + Document().NameNow();
     pTable->columns.assign(std::begin(kPaperColumns), std::end(kPaperColumns));
     for (const Difference& difference : Document().Differences().Changed()) {
-        const CString strSection = ChangedGrid::CellText(difference, 0);
+        const CString strSection = ChangedGrid::CellText(difference, ChangedGrid::kSection);
         if (pTable->groups.empty() || pTable->groups.back().strTitle != strSection) {
             pTable->groups.emplace_back().strTitle = strSection;
         }
         CString strRow;
-        for (int nCol = 1; nCol < ChangedGrid::kColumns; ++nCol) {
-            strRow += (nCol > 1 ? "\t" : "") +
+        for (int nCol = ChangedGrid::kName; nCol < ChangedGrid::kColumns; ++nCol) {
+            strRow += (nCol > ChangedGrid::kName ? "\t" : "") +
                       QVStyledRows::MakeStyleCodes(ChangedGrid::CellStyle(difference, nCol)) +
                       ChangedGrid::CellText(difference, nCol);
         }

@@ -18,7 +18,6 @@ public:
     void GoTo(int nRow) override { m_grid.GoTo(nRow); }
     CString Message() override;
     std::unique_ptr<PaperTable> Table() override;
-    ChangedGrid& Grid() { return m_grid; }
 
 protected:
     BOOL OnInitDialog() override;
@@ -28,6 +27,7 @@ protected:
     bool HasSelection() override { return Rows() > 0; }
     const Package* ShownPackage() override;
     void LayOut(CSize size) override;
+    CRect FocusRect() override { return m_grid.FocusRect(); }
 
 private:
     ChangedGrid m_grid;

@@ -21,7 +21,7 @@ CString NameAndDay(const CString& strFile) {
 IMPLEMENT_DYNCREATE(ComparisonDocument, CDocument)
 
 BEGIN_MESSAGE_MAP(ComparisonDocument, CDocument)
-    ON_COMMAND(ID_COMPARE_AGAIN, OnAgain)
+    ON_COMMAND(ID_COMPARE_AGAIN, &ComparisonDocument::OnAgain)
 END_MESSAGE_MAP()
 
 BOOL ComparisonDocument::OnOpenDocument(LPCTSTR lpszPathName) {

@@ -9,7 +9,6 @@ class ComparisonFrame : public CFrameWnd {
     DECLARE_DYNCREATE(ComparisonFrame)
 
 public:
-    CString StatusText(int nPane) { return m_statusBar.GetPaneText(nPane); }
     // What the page that is in front says of a command, before the application's own text.
     void GetMessageString(UINT nID, CString& rMessage) const override;
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;

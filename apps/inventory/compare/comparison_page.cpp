@@ -1,6 +1,7 @@
 #include "compare/comparison_page.h"
 
 #include "main_frame.h"
+#include "model/count_text.h"
 #include "resource.h"
 
 namespace {
@@ -84,23 +85,23 @@ void ComparisonPage::LayOut(CSize size) {
     Control().MoveWindow(0, 0, size.cx, size.cy);
 }
 
-// By the keyboard it comes up in the control's corner.
+// By the keyboard it comes up below what has the focus, or else in the control's corner.
 void ComparisonPage::OnContextMenu(CWnd*, CPoint pt) {
     if (pt == CPoint(-1, -1)) {
-        CRect rc;
-        Control().GetWindowRect(&rc);
-        pt = rc.TopLeft();
+        CRect rcControl;
+        Control().GetClientRect(&rcControl);
+        const CRect rcFocus = FocusRect();
+        CRect rcSeen;
+        pt = rcSeen.IntersectRect(rcFocus, rcControl) ? CPoint(rcSeen.left, rcSeen.bottom)
+                                                      : CPoint(0, 0);
+        Control().ClientToScreen(&pt);
     }
     ShowContextMenu(IDR_COMPARE_CONTEXT, pt, ID_COMPARE_GO);
 }
 
 CString CountMessage(const std::vector<Difference>& differences, const char* pszWhat) {
-    long long nGrowth = 0;
-    for (const Difference& difference : differences) {
-        nGrowth += difference.Growth();
-    }
     const char* pszVerb = differences.size() == 1 ? " is " : " are ";
     return (CountText(differences.size(), "package") + pszVerb + pszWhat + ", " +
-            GrowthText(nGrowth))
+            GrowthText(GrowthOf(differences)))
         .c_str();
 }

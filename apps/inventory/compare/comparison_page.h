@@ -40,6 +40,8 @@ protected:
     // In the row with the focus: null if it is no package that the application shows.
     virtual const Package* ShownPackage() = 0;
     virtual void LayOut(CSize size);
+    // Of the row or cell with the focus, in the control; empty: there is none in view.
+    virtual CRect FocusRect() = 0;
 };
 
 // "3 packages are new, +12.0 MiB"

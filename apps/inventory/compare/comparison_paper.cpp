@@ -2,14 +2,22 @@
 
 #include "compare/difference_colors.h"
 #include "model/column_widths.h"
+#include "model/table_writer.h"
+#include "pages/exporting.h"
 #include "pages/printing.h"
+#include "pages/row_fields.h"
 #include "resource.h"
 
 namespace {
 
 constexpr int kMarginsPerInch = 2;
-constexpr int kGapsPerInch = 6;  // beside a column's text
+constexpr int kGapsPerInch = 8;  // beside a column's text
 constexpr int kLinesAround = 2;  // above and below the text, for the page's own lines
+
+// The styles that the rows have, without a control.
+struct StylesAlone : QVStyledRows {
+    StylesAlone() { AddDifferenceStyles(*this); }
+};
 
 }  // namespace
 
@@ -83,6 +91,28 @@ void ComparisonPaper::SetWidths(CDC& dc, QVListCtrlEx& list) {
     for (size_t i = 0; i < widths.size(); ++i) {
         list.SetColWidth(static_cast<int>(i), widths[i], nullptr);
     }
+}
+
+void WritePaper(const PaperTable& table, TableWriter& writer, Work& work) {
+    std::vector<TableColumn> columns;
+    for (const PaperColumn& column : table.columns) {
+        columns.push_back({column.pszHeading, column.bRight});
+    }
+    const bool bSections = !table.groups.empty() && !table.groups.front().strTitle.IsEmpty();
+    writer.Begin(std::string(table.strTitle), columns, std::string(table.strText),
+                 bSections ? "Section" : "");
+    StylesAlone styles;
+    std::uint64_t nGroup = 0;
+    for (const PaperGroup& group : table.groups) {
+        work.Step(nGroup++, table.groups.size());
+        if (bSections) {
+            writer.Group(std::string(group.strTitle));
+        }
+        for (int nRow = 0; nRow < group.rows.GetSize(); ++nRow) {
+            writer.Row(FieldsOf(styles, group.rows[nRow]));
+        }
+    }
+    writer.End();
 }
 
 void ComparisonPaper::PrintPage(CDC& dc, unsigned nPage) {

@@ -29,6 +29,9 @@ struct PaperTable {
     std::list<PaperGroup> groups;
 };
 
+// The same in a file. Where rows stand below headings, these are sections.
+void WritePaper(const PaperTable& table, class TableWriter& writer, class Work& work);
+
 class ComparisonPaper {
 public:
     // Lays the table out for dc, which must outlive the paper; so must pages print on it, or on one

@@ -2,22 +2,28 @@
 
 #include "compare/changed_page.h"
 #include "compare/list_pages.h"
+#include "main_frame.h"
+#include "pages/print_target.h"
 #include "resource.h"
+
+#include <afxext.h>
 
 IMPLEMENT_DYNCREATE(ComparisonView, QVTabView)
 
 BEGIN_MESSAGE_MAP(ComparisonView, QVTabView)
-    ON_COMMAND(ID_FILE_PRINT, CView::OnFilePrint)
-    ON_COMMAND(ID_FILE_PRINT_DIRECT, CView::OnFilePrint)
-    ON_COMMAND(ID_FILE_PRINT_PREVIEW, CView::OnFilePrintPreview)
-    ON_COMMAND_EX(ID_EDIT_COPY, OnPageCommand)
-    ON_COMMAND_EX(ID_COMPARE_GO, OnPageCommand)
-    ON_UPDATE_COMMAND_UI(ID_EDIT_COPY, OnUpdateCommand)
-    ON_UPDATE_COMMAND_UI(ID_COMPARE_GO, OnUpdateCommand)
-    ON_COMMAND_RANGE(ID_COMPARE_PAGE_FIRST, ID_COMPARE_PAGE_LAST, OnPage)
-    ON_UPDATE_COMMAND_UI_RANGE(ID_COMPARE_PAGE_FIRST, ID_COMPARE_PAGE_LAST, OnUpdatePage)
-    ON_COMMAND_RANGE(ID_COMPARE_NEXT, ID_COMPARE_PREVIOUS, OnStep)
-    ON_UPDATE_COMMAND_UI(ID_INDICATOR_MESSAGE, OnUpdateMessage)
+    ON_COMMAND(ID_FILE_PRINT, &CView::OnFilePrint)
+    ON_COMMAND(ID_FILE_PRINT_DIRECT, &CView::OnFilePrint)
+    ON_COMMAND(ID_FILE_PRINT_PREVIEW, &CView::OnFilePrintPreview)
+    ON_COMMAND_EX(ID_EDIT_COPY, &ComparisonView::OnPageCommand)
+    ON_COMMAND_EX(ID_COMPARE_GO, &ComparisonView::OnPageCommand)
+    ON_UPDATE_COMMAND_UI(ID_EDIT_COPY, &ComparisonView::OnUpdateCommand)
+    ON_UPDATE_COMMAND_UI(ID_COMPARE_GO, &ComparisonView::OnUpdateCommand)
+    ON_COMMAND_RANGE(ID_COMPARE_PAGE_FIRST, ID_COMPARE_PAGE_LAST, &ComparisonView::OnPage)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_COMPARE_PAGE_FIRST, ID_COMPARE_PAGE_LAST,
+                               &ComparisonView::OnUpdatePage)
+    ON_COMMAND_RANGE(ID_COMPARE_NEXT, ID_COMPARE_PREVIOUS, &ComparisonView::OnStep)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_MESSAGE, &ComparisonView::OnUpdateMessage)
+    ON_COMMAND(ID_LIST_EXPORT, &ComparisonView::OnExport)
 END_MESSAGE_MAP()
 
 ComparisonView::ComparisonView() : QVTabView(IDC_COMPARE_TABS) {}
@@ -39,19 +45,8 @@ void ComparisonView::AddTabPages() {
 void ComparisonView::OnInitialUpdate() {
     if (Page(0) == nullptr) {
         QVTabView::OnInitialUpdate();
-        WidenTabs();
         UpdateAllPages(0, nullptr);
     }
-}
-
-// Titles have some air around them, with large fonts as well.
-void ComparisonView::WidenTabs() {
-    constexpr long kTitleMargins = 150;  // twips
-    CTab& tabs = GetTabCtrl();
-    tabs.SetTabHeight(tabs.GetTabHeight() + kTitleMargins);
-    CRect rc;
-    GetClientRect(&rc);
-    SendMessage(WM_SIZE, SIZE_RESTORED, MAKELPARAM(rc.Width(), rc.Height()));
 }
 
 void ComparisonView::OnUpdate(CView*, LPARAM, CObject*) {
@@ -67,6 +62,7 @@ void ComparisonView::OnPage(UINT nID) {
     if (ComparisonPage* pPage = Page(nPage)) {
         SetActivePage(static_cast<short>(nPage));
         pPage->SetPageFocus();
+        m_strExported.Empty();
     }
 }
 
@@ -105,14 +101,27 @@ void ComparisonView::OnStep(UINT nID) {
 void ComparisonView::OnUpdateMessage(CCmdUI* pCmdUI) {
     pCmdUI->Enable();
     if (ComparisonPage* pPage = Active()) {
-        pCmdUI->SetText(pPage->Message());
+        pCmdUI->SetText(m_strExported.IsEmpty() ? pPage->Message() : m_strExported);
     }
+}
+
+// The tables of the page as on paper, all of each text.
+void ComparisonView::OnExport() {
+    ComparisonPage* const pPage = Active();
+    if (pPage == nullptr) {
+        return;
+    }
+    m_exporter.UseSettings(static_cast<MainFrame*>(AfxGetMainWnd())->Settings().Values());
+    m_strExported = m_exporter.Run(*this, "comparison.csv", [&](TableWriter& writer, Work& work) {
+        WritePaper(*pPage->Table(), writer, work);
+    });
 }
 
 // --- Paper
 
 BOOL ComparisonView::OnPreparePrinting(CPrintInfo* pInfo) {
-    return Active() != nullptr && DoPreparePrinting(pInfo);
+    pInfo->m_pPD->m_pd.Flags &= ~static_cast<DWORD>(PD_HIDEPRINTTOFILE);
+    return Active() != nullptr && HasPrinter(this) && DoPreparePrinting(pInfo);
 }
 
 void ComparisonView::OnBeginPrinting(CDC* pDC, CPrintInfo* pInfo) {

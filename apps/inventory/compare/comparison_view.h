@@ -3,6 +3,7 @@
 #pragma once
 
 #include "compare/comparison_page.h"
+#include "pages/exporting.h"
 
 class ComparisonView : public QVTabView {
     DECLARE_DYNCREATE(ComparisonView)
@@ -29,10 +30,11 @@ protected:
     afx_msg void OnStep(UINT nID);
     afx_msg void OnUpdatePage(CCmdUI* pCmdUI);
     afx_msg void OnUpdateMessage(CCmdUI* pCmdUI);
+    afx_msg void OnExport();
     DECLARE_MESSAGE_MAP()
 
 private:
-    void WidenTabs();
-
     std::unique_ptr<ComparisonPaper> m_pPaper;  // while it is printed, or previewed
+    Exporter m_exporter;
+    CString m_strExported;  // of the last page's message
 };

@@ -6,6 +6,7 @@
 namespace {
 
 constexpr int kSummaryColumns = 4;
+constexpr int kKeyColumn = 2;  // the architecture, beside the name
 
 constexpr PaperColumn kPackageColumns[] = {{"Package", "a-package-with-a-long-name~", false, true},
                                            {"Version", "1:14.0.6-12+deb12u1~"},
@@ -19,6 +20,12 @@ CString Joined(const SummaryRow& row) {
     strRow.Format("%s\t%s\t%s\t%s", row.strWhat.c_str(), row.strBefore.c_str(), row.strNow.c_str(),
                   row.strGrowth.c_str());
     return strRow;
+}
+
+CRect FocusRectOf(QVListCtrlEx& list) {
+    CRect rc(0, 0, 0, 0);
+    list.GetItemRect(list.GetNextItem(-1, LVNI_FOCUSED), &rc, LVIR_LABEL);
+    return rc;
 }
 
 }  // namespace
@@ -79,6 +86,10 @@ CString SummaryPage::SelectedText() {
     return strText;
 }
 
+CRect SummaryPage::FocusRect() {
+    return FocusRectOf(m_list);
+}
+
 std::unique_ptr<PaperTable> SummaryPage::Table() {
     auto pTable = std::make_unique<PaperTable>();
     const ComparisonDocument& document = Document();
@@ -133,6 +144,10 @@ void DifferencePage::LayOut(CSize size) {
     m_list.SetupColumnsFromString(strSample + "*");
 }
 
+CRect DifferencePage::FocusRect() {
+    return FocusRectOf(m_list);
+}
+
 size_t DifferencePage::Rows() {
     return Differences().size();
 }
@@ -151,15 +166,39 @@ CString DifferencePage::Message() {
     return CountMessage(Differences(), m_pszWhat);
 }
 
-CString DifferencePage::RowText(int nItem) {
-    CString strRow;
-    m_list.GetItemString(nItem, strRow);
-    return strRow;
+// By what the rows say: the packages may be gone.
+CString DifferencePage::KeyOf(int nItem) {
+    return nItem >= 0 ? m_list.GetItemText(nItem, 0) + "\t" + m_list.GetItemText(nItem, kKeyColumn)
+                      : CString();
+}
+
+void DifferencePage::Clear() {
+    if (m_list.GetItemCount() > 0) {
+        m_strFront = KeyOf(Row());
+        m_strTop = KeyOf(m_list.GetTopIndex());
+    }
+    m_list.DeleteAllItems();
+}
+
+void DifferencePage::Restore() {
+    int nTop = -1;
+    for (int nItem = 0; nItem < m_list.GetItemCount(); ++nItem) {
+        const CString strKey = KeyOf(nItem);
+        if (strKey == m_strFront) {
+            m_list.SetItemState(nItem, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+        }
+        nTop = strKey == m_strTop ? nItem : nTop;
+    }
+    // From the end back, a row that is to be in view comes to the top.
+    if (nTop > 0) {
+        m_list.EnsureVisible(m_list.GetItemCount() - 1, FALSE);
+        m_list.EnsureVisible(nTop, FALSE);
+    }
 }
 
 void DifferencePage::Show(const ComparisonDocument&) {
     m_list.SetRedraw(FALSE);
-    m_list.DeleteAllItems();
+    Clear();
     DWORD_PTR nDifference = 0;
     for (const Difference& difference : Differences()) {
         const Package& package = difference.Shown();
@@ -173,6 +212,7 @@ void DifferencePage::Show(const ComparisonDocument&) {
         m_list.SetItemData(m_list.InsertBitmapString(-1, -1, strRow), nDifference++);
     }
     m_list.SetRedraw(TRUE);
+    Restore();
     m_list.Invalidate(FALSE);
 }
 
@@ -206,7 +246,7 @@ std::unique_ptr<PaperTable> DifferencePage::Table() {
         CStringArray& rows = pTable->groups.emplace_back().rows;
         rows.SetSize(m_list.GetItemCount());
         for (int nItem = 0; nItem < m_list.GetItemCount(); ++nItem) {
-            rows[nItem] = RowText(nItem);
+            m_list.GetItemString(nItem, rows[nItem]);
         }
     }
     return pTable;

@@ -23,6 +23,7 @@ protected:
     CString SelectedText() override;
     bool HasSelection() override { return m_list.GetSelectedCount() > 0; }
     const Package* ShownPackage() override { return nullptr; }
+    CRect FocusRect() override;
 
 private:
     QVListCtrlEx m_list;
@@ -37,25 +38,28 @@ public:
     void GoTo(int nRow) override;
     CString Message() override;
     std::unique_ptr<PaperTable> Table() override;
-    QVSortingListCtrl& List() { return m_list; }
 
 protected:
     DifferencePage(const char* pszWhat, int nStyle);
     virtual const std::vector<Difference>& Differences() = 0;
     BOOL OnInitDialog() override;
     void Show(const ComparisonDocument& document) override;
-    void Clear() override { m_list.DeleteAllItems(); }
+    void Clear() override;
     CString SelectedText() override;
     bool HasSelection() override { return m_list.GetSelectedCount() > 0; }
     const Package* ShownPackage() override;
     void LayOut(CSize size) override;
+    CRect FocusRect() override;
 
 private:
-    CString RowText(int nItem);
+    CString KeyOf(int nItem);
+    void Restore();
 
     const char* m_pszWhat;
     const int m_nStyle;
     QVSortingListCtrl m_list;  // item data: the number of the difference
+    CString m_strFront;        // keys of rows, while the list is filled anew
+    CString m_strTop;
 };
 
 class NewPage : public DifferencePage {

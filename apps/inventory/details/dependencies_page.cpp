@@ -9,7 +9,7 @@ constexpr int kColumnPackage = 1;
 }  // namespace
 
 BEGIN_MESSAGE_MAP(DependenciesPage, DetailsPage)
-    ON_NOTIFY(NM_DBLCLK, IDC_DETAILS_LIST, OnDoubleClick)
+    ON_NOTIFY(NM_DBLCLK, IDC_DETAILS_LIST, &DependenciesPage::OnDoubleClick)
 END_MESSAGE_MAP()
 
 BOOL DependenciesPage::OnInitDialog() {

@@ -7,6 +7,41 @@ CString Shown(std::string_view text) {
     return InProcessCodePage(Printable(text)).c_str();
 }
 
+namespace {
+
+// What a control has on top and in front, in rows.
+struct Place {
+    int nTop = 0;
+    int nFront = -1;
+};
+
+Place PlaceIn(CWnd& control) {
+    if (auto* pList = dynamic_cast<QVListCtrlEx*>(&control)) {
+        return {pList->GetTopIndex(), pList->GetNextItem(-1, LVNI_FOCUSED)};
+    }
+    auto* pText = dynamic_cast<QVTextWnd*>(&control);
+    return {pText != nullptr ? pText->VScrollPos() : 0, -1};
+}
+
+void GoTo(CWnd& control, const Place& place) {
+    if (auto* pText = dynamic_cast<QVTextWnd*>(&control)) {
+        pText->ScrollTo(place.nTop, 0);
+    }
+    auto* pList = dynamic_cast<QVListCtrlEx*>(&control);
+    const int nRows = pList != nullptr ? pList->GetItemCount() : 0;
+    if (place.nFront >= 0 && place.nFront < nRows) {
+        constexpr UINT kFront = LVIS_SELECTED | LVIS_FOCUSED;
+        pList->SetItemState(place.nFront, kFront, kFront);
+    }
+    // From the end back, a row that is to be in view comes to the top.
+    if (place.nTop > 0 && place.nTop < nRows) {
+        pList->EnsureVisible(nRows - 1, FALSE);
+        pList->EnsureVisible(place.nTop, FALSE);
+    }
+}
+
+}  // namespace
+
 BEGIN_MESSAGE_MAP(DetailsPage, QVTabWndPage)
     ON_WM_SIZE()
 END_MESSAGE_MAP()
@@ -27,7 +62,13 @@ void DetailsPage::ReadOnce() {
     }
     m_bRead = true;
     const CWaitCursor wait;
+    const Place place = PlaceIn(Control());
     m_strProblem = m_source.bChosen ? Read() : CString("No package is chosen.");
+    // The same package, read anew, shows where it did.
+    const std::string strRead = m_source.package.strName + '\n' + m_source.package.strArchitecture;
+    if (std::exchange(m_strRead, strRead) == strRead) {
+        GoTo(Control(), place);
+    }
     SetDlgItemText(IDC_DETAILS_MESSAGE, m_strProblem);
     const HWND hFocus = ::GetFocus();
     if (!m_strProblem.IsEmpty() && hFocus != nullptr && ::IsChild(m_hWnd, hFocus)) {

@@ -55,5 +55,6 @@ protected:
 
 private:
     CString m_strProblem;
+    std::string m_strRead;  // the package that was read
     bool m_bRead = false;
 };

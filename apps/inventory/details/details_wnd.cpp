@@ -19,13 +19,14 @@ constexpr double kMarginInch = 0.8;
 
 BEGIN_MESSAGE_MAP(DetailsWnd, QVTabWnd)
     ON_WM_TIMER()
-    ON_COMMAND_RANGE(ID_DETAILS_FIRST, ID_DETAILS_LAST, OnPage)
-    ON_COMMAND_RANGE(ID_DETAILS_NEXT, ID_DETAILS_PREVIOUS, OnStep)
-    ON_COMMAND(ID_DETAILS_GO, OnGo)
-    ON_COMMAND_RANGE(ID_DETAILS_PRINT, ID_DETAILS_PRINT_ACTIVE, OnPrint)
-    ON_UPDATE_COMMAND_UI_RANGE(ID_DETAILS_FIRST, ID_DETAILS_LAST, OnUpdatePage)
-    ON_UPDATE_COMMAND_UI(ID_DETAILS_GO, OnUpdateGo)
-    ON_UPDATE_COMMAND_UI_RANGE(ID_DETAILS_PRINT, ID_DETAILS_PRINT_ACTIVE, OnUpdatePrint)
+    ON_COMMAND_RANGE(ID_DETAILS_FIRST, ID_DETAILS_LAST, &DetailsWnd::OnPage)
+    ON_COMMAND_RANGE(ID_DETAILS_NEXT, ID_DETAILS_PREVIOUS, &DetailsWnd::OnStep)
+    ON_COMMAND(ID_DETAILS_GO, &DetailsWnd::OnGo)
+    ON_COMMAND_RANGE(ID_DETAILS_PRINT, ID_DETAILS_PRINT_ACTIVE, &DetailsWnd::OnPrint)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_DETAILS_FIRST, ID_DETAILS_LAST, &DetailsWnd::OnUpdatePage)
+    ON_UPDATE_COMMAND_UI(ID_DETAILS_GO, &DetailsWnd::OnUpdateGo)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_DETAILS_PRINT, ID_DETAILS_PRINT_ACTIVE,
+                               &DetailsWnd::OnUpdatePrint)
 END_MESSAGE_MAP()
 
 template <class DetailsOfPackage>
@@ -118,8 +119,8 @@ void DetailsWnd::OnUpdatePrint(CCmdUI* pCmdUI) {
 void DetailsWnd::OnPrint(UINT nID) {
     PrinterChoice printer(this);
     CDC dc;
-    if (printer.Ask(USHRT_MAX, dc)) {
-        Tell(Print(dc, nID == ID_DETAILS_PRINT_ACTIVE, &printer, nullptr), this);
+    if (printer.Ask(USHRT_MAX, "Details", dc)) {
+        Tell(Print(dc, nID == ID_DETAILS_PRINT_ACTIVE, &printer, printer.Output()), this);
     }
 }
 
@@ -163,6 +164,6 @@ Failure DetailsWnd::Print(CDC& dc, bool bActiveOnly, PrinterChoice* pPrinter, LP
         }
         PrintJob(work, dc, "Details", nFirst, nLast, pszOutput, printPage);
     });
-    m_owner.Say("Details: " + PrintedText(pFailure, nLast - nFirst + 1));
+    m_owner.Say("Details: " + PrintedText(pFailure, nLast - nFirst + 1, pszOutput));
     return pFailure;
 }

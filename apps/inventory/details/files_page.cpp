@@ -1,6 +1,7 @@
 #include "details/files_page.h"
 
 #include "errors.h"
+#include "model/count_text.h"
 #include "model/file_text.h"
 #include "model/stanza.h"
 #include "sources/code_page.h"
@@ -14,7 +15,7 @@ enum Column { kColumnFile, kColumnSize };
 }  // namespace
 
 BEGIN_MESSAGE_MAP(FilesPage, DetailsPage)
-    ON_NOTIFY(LVN_GETDISPINFO, IDC_DETAILS_LIST, OnGetDispInfo)
+    ON_NOTIFY(LVN_GETDISPINFO, IDC_DETAILS_LIST, &FilesPage::OnGetDispInfo)
 END_MESSAGE_MAP()
 
 BOOL FilesPage::OnInitDialog() {
@@ -80,10 +81,8 @@ CString FilesPage::SizeOf(const std::string& strFile) const {
         return "folder";
     }
     const ULONGLONG nBytes = static_cast<ULONGLONG>(data.nFileSizeHigh) << 32 | data.nFileSizeLow;
-    CString strSize;
     if (nBytes < 1024) {
-        strSize.Format("%u bytes", static_cast<unsigned>(nBytes));
-        return strSize;
+        return CountText(static_cast<size_t>(nBytes), "byte").c_str();
     }
     return SizeText(static_cast<long>(nBytes / 1024)).c_str();
 }

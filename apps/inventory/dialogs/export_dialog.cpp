@@ -2,8 +2,55 @@
 
 #include "QVControls.h"
 
+#include <dlgs.h>
+
+namespace {
+
+// In the order of the filters.
+constexpr LPCSTR kEnds[] = {"csv", "html", "txt"};
+
+size_t FilterOf(const CString& strPath) {
+    const TableKind kind = KindOfFile(static_cast<LPCSTR>(strPath));
+    return strPath.IsEmpty() || kind == TableKind::Csv ? 0 : kind == TableKind::Html ? 1 : 2;
+}
+
+// The end of the name goes with the filter.
+class TableFileDialog : public QVFileDialogEx {
+public:
+    TableFileDialog(const CString& strPath, CWnd* pParent)
+        : QVFileDialogEx(FALSE, kEnds[FilterOf(strPath)], strPath,
+                         OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
+                         "CSV for spreadsheets (*.csv)|*.csv|Web pages (*.html)|*.html|"
+                         "Text (*.txt)|*.txt|All files (*.*)|*.*||",
+                         pParent) {
+        GetOFN().nFilterIndex = static_cast<DWORD>(FilterOf(strPath)) + 1;
+    }
+
+protected:
+    void OnTypeChange() override {
+        const size_t nFilter = GetOFN().nFilterIndex - 1;
+        if (nFilter >= std::size(kEnds)) {
+            return;
+        }
+        SetDefExt(kEnds[nFilter]);
+        CString strName = GetFileName();
+        for (const LPCSTR pszEnd : kEnds) {
+            const CString strEnd = CString(".") + pszEnd;
+            if (strName.Right(strEnd.GetLength()).CompareNoCase(strEnd) == 0) {
+                strName =
+                    strName.Left(strName.GetLength() - strEnd.GetLength()) + "." + kEnds[nFilter];
+                SetControlText(edt1, strName);
+                return;
+            }
+        }
+    }
+};
+
+}  // namespace
+
 BEGIN_MESSAGE_MAP(ExportDialog, CDialog)
-    ON_COMMAND(IDC_EXPORT_BROWSE, OnBrowse)
+    ON_COMMAND(IDC_EXPORT_BROWSE, &ExportDialog::OnBrowse)
+    ON_EN_CHANGE(IDC_EXPORT_PATH, &ExportDialog::OnPathChanged)
 END_MESSAGE_MAP()
 
 BOOL ExportDialog::OnInitDialog() {
@@ -11,7 +58,9 @@ BOOL ExportDialog::OnInitDialog() {
     for (const char* psz : {"TAB", "Comma", "Semicolon", "Bar"}) {
         pSeparators->AddString(psz);
     }
-    return CDialog::OnInitDialog();
+    CDialog::OnInitDialog();
+    OnPathChanged();
+    return TRUE;
 }
 
 void ExportDialog::DoDataExchange(CDataExchange* pDX) {
@@ -24,11 +73,20 @@ void ExportDialog::DoDataExchange(CDataExchange* pDX) {
     }
 }
 
+void ExportDialog::OnPathChanged() {
+    CString strPath;
+    GetDlgItemText(IDC_EXPORT_PATH, strPath);
+    const TableKind kind = KindOfFile(static_cast<LPCSTR>(strPath));
+    SetDlgItemText(IDC_EXPORT_KIND, kind == TableKind::Csv    ? "CSV for spreadsheets, in UTF-8"
+                                    : kind == TableKind::Html ? "A web page, in UTF-8"
+                                                              : "Text, the cells as they are");
+    GetDlgItem(IDC_EXPORT_SEPARATOR)->EnableWindow(kind != TableKind::Html);
+}
+
 void ExportDialog::OnBrowse() {
     CString strPath;
     GetDlgItemText(IDC_EXPORT_PATH, strPath);
-    QVFileDialogEx dialog(FALSE, "txt", strPath, OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
-                          "Text files|*.txt|All files|*.*||", this);
+    TableFileDialog dialog(strPath, this);
     dialog.SetDlgTitle(IDS_LIST_FILE);
     if (dialog.DoModal() == IDOK) {
         SetDlgItemText(IDC_EXPORT_PATH, dialog.GetPathName());

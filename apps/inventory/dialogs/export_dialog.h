@@ -1,7 +1,9 @@
-// Asks for the file that a list is exported to and for what stands between the cells.
+// Asks for the file that a list is exported to and for what stands between the cells. The end of
+// its name says what kind of file it is, which is told below it.
 
 #pragma once
 
+#include "model/table_writer.h"
 #include "resource.h"
 
 #include <afxwin.h>
@@ -13,10 +15,12 @@ public:
     CString m_strPath;
     int m_nSeparator = 0;
     char Separator() const { return "\t,;|"[m_nSeparator]; }
+    TableKind Kind() const { return KindOfFile(static_cast<LPCSTR>(m_strPath)); }
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
     afx_msg void OnBrowse();
+    afx_msg void OnPathChanged();
     DECLARE_MESSAGE_MAP()
 };

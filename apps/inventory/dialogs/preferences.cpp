@@ -62,6 +62,11 @@ void ReportPreferences::Offer() {
     m_paper.SetTextList(strPapers);
     m_paper.Initialize(IDC_REPORT_PAPER, this);
     m_paper.SetWindowText(m_settings.Value(kSettingPaper).c_str());
+    auto& orientation = static_cast<CComboBox&>(*GetDlgItem(IDC_REPORT_ORIENTATION));
+    for (const char* psz : kOrientations) {
+        orientation.AddString(psz);
+    }
+    orientation.SetCurSel(m_settings.Choice(kSettingOrientation));
     Tick(*this, IDC_REPORT_ASK, m_settings.Choice(kSettingReplace) == 0);
     UINT nID = IDC_REPORT_FIRST_MARGIN;
     for (const double margin : ReadMargins(m_settings.Value(kSettingMargins))) {
@@ -83,6 +88,7 @@ UINT ReportPreferences::Take(Settings& settings) {
     settings.Set(kSettingTitle, TextOf(*this, IDC_REPORT_TITLE));
     settings.Set(kSettingFooter, TextOf(*this, IDC_REPORT_FOOTER));
     settings.Set(kSettingPaper, TextOf(*this, IDC_REPORT_PAPER));
+    settings.Set(kSettingOrientation, TextOf(*this, IDC_REPORT_ORIENTATION));
     CString strPackages;
     m_packages.GetItemString(m_packages.GetCurSel(), strPackages);
     settings.Set(kSettingPackages, std::string(strPackages));

@@ -20,7 +20,7 @@ constexpr DWORD kOnTheWay = PSWIZB_BACK | PSWIZB_NEXT;
 // --- Every step
 
 BEGIN_MESSAGE_MAP(ReportStep, QVWizardPage)
-    ON_MESSAGE(kFocusField, OnFocusField)
+    ON_MESSAGE(kFocusField, &ReportStep::OnFocusField)
 END_MESSAGE_MAP()
 
 ReportStep::ReportStep(ReportStepOwner& wizard, UINT nTemplate, DWORD dwButtons, ReportField field,
@@ -93,9 +93,9 @@ BOOL ReportStep::OnQueryCancel() {
 // --- What is in it
 
 BEGIN_MESSAGE_MAP(WhatStep, ReportStep)
-    ON_BN_CLICKED(IDC_WHAT_ANY_DATE, OnAnyDate)
-    ON_LBN_SELCHANGE(IDC_WHAT_SECTIONS, OnSectionChosen)
-    ON_CBN_SELCHANGE(IDC_WHAT_TABLES, OnTables)
+    ON_BN_CLICKED(IDC_WHAT_ANY_DATE, &WhatStep::OnAnyDate)
+    ON_LBN_SELCHANGE(IDC_WHAT_SECTIONS, &WhatStep::OnSectionChosen)
+    ON_CBN_SELCHANGE(IDC_WHAT_TABLES, &WhatStep::OnTables)
 END_MESSAGE_MAP()
 
 WhatStep::WhatStep(ReportStepOwner& wizard)
@@ -202,14 +202,14 @@ void WhatStep::OnTables() {
 // --- Columns
 
 BEGIN_MESSAGE_MAP(ColumnsStep, ReportStep)
-    ON_BN_CLICKED(IDC_COLUMN_ADD, OnAdd)
-    ON_BN_CLICKED(IDC_COLUMN_REMOVE, OnRemove)
-    ON_BN_CLICKED(IDC_COLUMN_UP, OnUp)
-    ON_BN_CLICKED(IDC_COLUMN_DOWN, OnDown)
-    ON_LBN_DBLCLK(IDC_COLUMNS_OFFERED, OnAdd)
-    ON_LBN_DBLCLK(IDC_COLUMNS_CHOSEN, OnRemove)
-    ON_LBN_SELCHANGE(IDC_COLUMNS_OFFERED, OnSelected)
-    ON_LBN_SELCHANGE(IDC_COLUMNS_CHOSEN, OnSelected)
+    ON_BN_CLICKED(IDC_COLUMN_ADD, &ColumnsStep::OnAdd)
+    ON_BN_CLICKED(IDC_COLUMN_REMOVE, &ColumnsStep::OnRemove)
+    ON_BN_CLICKED(IDC_COLUMN_UP, &ColumnsStep::OnUp)
+    ON_BN_CLICKED(IDC_COLUMN_DOWN, &ColumnsStep::OnDown)
+    ON_LBN_DBLCLK(IDC_COLUMNS_OFFERED, &ColumnsStep::OnAdd)
+    ON_LBN_DBLCLK(IDC_COLUMNS_CHOSEN, &ColumnsStep::OnRemove)
+    ON_LBN_SELCHANGE(IDC_COLUMNS_OFFERED, &ColumnsStep::OnSelected)
+    ON_LBN_SELCHANGE(IDC_COLUMNS_CHOSEN, &ColumnsStep::OnSelected)
 END_MESSAGE_MAP()
 
 ColumnsStep::ColumnsStep(ReportStepOwner& wizard)

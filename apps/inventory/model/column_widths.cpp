@@ -27,3 +27,16 @@ std::vector<int> ShareWidth(const std::vector<ColumnWish>& wishes, int nRoom) {
     }
     return widths;
 }
+
+bool CutsTooMuch(const std::vector<ColumnWish>& wishes, int nRoom) {
+    constexpr int kReadablePercent = 75;
+    const std::vector<int> widths = ShareWidth(wishes, nRoom);
+    long long nSum = 0;
+    bool bCut = false;
+    for (size_t i = 0; i < wishes.size(); ++i) {
+        nSum += widths[i];
+        bCut = bCut || widths[i] * 100LL < wishes[i].nWidth * kReadablePercent;
+    }
+    // Shares are rounded up.
+    return bCut || nSum > nRoom + static_cast<long long>(wishes.size());
+}

@@ -13,3 +13,6 @@ struct ColumnWish {
 // Where the room does not suffice, columns that may be cut give way in the proportion of what they
 // have to give, and then the others keep their widths all the same.
 std::vector<int> ShareWidth(const std::vector<ColumnWish>& wishes, int nRoom);
+
+// Some text that may be cut would have to do with much less than its wish.
+bool CutsTooMuch(const std::vector<ColumnWish>& wishes, int nRoom);

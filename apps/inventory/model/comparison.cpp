@@ -70,14 +70,6 @@ SummaryRow ChangedRow(const char* pszWhat, const Comparison& comparison, unsigne
     return {pszWhat, "", std::to_string(n), GrowthText(nGrowth)};
 }
 
-long long GrowthOf(const std::vector<Difference>& differences) {
-    long long nGrowth = 0;
-    for (const Difference& difference : differences) {
-        nGrowth += difference.Growth();
-    }
-    return nGrowth;
-}
-
 std::string Now(const char* pszWhat, const std::string& strBefore, const std::string& strAfter) {
     return std::string(pszWhat) + ": " + strBefore + ", now " + strAfter;
 }
@@ -120,6 +112,14 @@ void Comparison::Take(const Package* pBefore, const Package* pAfter) {
     } else {
         ++m_nSame;
     }
+}
+
+long long GrowthOf(const std::vector<Difference>& differences) {
+    long long nGrowth = 0;
+    for (const Difference& difference : differences) {
+        nGrowth += difference.Growth();
+    }
+    return nGrowth;
 }
 
 std::string GrowthText(long long nKiB) {

@@ -57,6 +57,8 @@ private:
     size_t m_nSame = 0;
 };
 
+// Of all together, in KiB.
+long long GrowthOf(const std::vector<Difference>& differences);
 // "+12 KiB", "-3.4 MiB", "0 KiB".
 std::string GrowthText(long long nKiB);
 // What has changed, in a few words for a column: "newer, larger, state".

@@ -26,10 +26,6 @@ size_t Inventory::CountPackages() const {
     return nPackages;
 }
 
-std::string CountText(size_t n, const char* pszWhat) {
-    return std::to_string(n) + " " + pszWhat + (n == 1 ? "" : "s");
-}
-
 std::string SizeText(long long nKiB) {
     char szText[32];
     if (nKiB < 1024) {

@@ -40,8 +40,6 @@ private:
     std::vector<Section> m_sections;  // by name
 };
 
-// "1 package", "2 packages".
-std::string CountText(size_t n, const char* pszWhat);
 // "12 KiB", "3.4 MiB", "1.2 GiB".
 std::string SizeText(long long nKiB);
 // Local day and minute; empty for 0.

@@ -31,6 +31,10 @@ constexpr Paper kPapers[] = {{"the printer's own", 0, 0, 0},
                              {"Letter", 1, 215.9, 279.4},
                              {"Legal", 5, 215.9, 355.6}};
 
+// The choices of the setting. By the tables: across the paper where their columns need it.
+enum Orientation { kByTables, kPortrait, kLandscape };
+constexpr const char* kOrientations[] = {"as needed", "portrait", "landscape"};
+
 // The choices of the settings of colours.
 struct NamedColor {
     const char* pszName;

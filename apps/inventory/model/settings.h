@@ -55,6 +55,7 @@ enum SettingIndex {
     kSettingTitle = kSettingsInGrid,
     kSettingFooter,
     kSettingPaper,
+    kSettingOrientation,
     kSettingMargins,
     kSettingPackages,
     kSettingColorInstalled,

@@ -1,12 +1,11 @@
-// Rows written to a file that the user names.
+// Rows written to a file that the user names, as a table for a spreadsheet or a browser.
 
 #pragma once
 
+#include "QVControls.h"
 #include "model/settings.h"
-#include "pages/page.h"
+#include "model/table_writer.h"
 #include "work.h"
-
-#include <afxwin.h>
 
 #include <functional>
 
@@ -14,17 +13,18 @@ class Exporter {
 public:
     // What the dialog starts with.
     void UseSettings(const Settings& settings) { m_pSettings = &settings; }
-    // Writes to a path, with a separator between the cells, as a step of the work each; 0 where the
-    // file cannot be opened.
-    using Write = std::function<BOOL(LPCSTR, char, Work&)>;
-    // Asks for a file, pszName at first (null: the name in the settings), and for what stands
-    // between the cells, then writes. False if the user cancels, or, told to the user, if that
-    // fails: a file of that name is as it was then.
-    bool Run(Page& page, LPCSTR pszName, const Write& write);
-    // The file that was written last.
-    const CString& Path() const { return m_strPath; }
+    // Writes a table, from Begin to End, as work.
+    using Write = std::function<void(TableWriter&, Work&)>;
+    // Asks for a file, pszName at first (null: the name in the settings), whose kind is that of its
+    // name, and for what stands between the cells, then writes. What to say of it; empty if the
+    // user does not want to, or if it failed, which is told: a file of that name is as it was then.
+    CString Run(CWnd& parent, LPCSTR pszName, const Write& write);
 
 private:
     const Settings* m_pSettings = nullptr;
-    CString m_strPath;
+    CString m_strPath;  // of the file that was written last
 };
+
+// The columns and rows of lists as they show them, a step of the work each.
+void WriteList(QVListCtrlEx& list, const std::string& strTitle, TableWriter& writer, Work& work);
+void WriteBox(QVBitmapListBox& box, const std::string& strTitle, TableWriter& writer, Work& work);

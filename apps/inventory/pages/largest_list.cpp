@@ -35,7 +35,12 @@ void LargestList::Show(const Inventory& inventory) {
         m_packages.begin(), m_packages.end(),
         [](const Package* p1, const Package* p2) { return p1->nSizeKiB > p2->nSizeKiB; });
     m_packages.resize(std::min(m_packages.size(), kMost));
+    const int nCaret = GetCaretIndex();
+    const int nTop = GetTopIndex();
     Fill();
+    // The rows are as many as before, or nearly so.
+    SetCaretIndex(std::min(nCaret, GetCount() - 1), FALSE);
+    SetTopIndex(std::min(nTop, GetCount() - 1));
 }
 
 void LargestList::Fill() {

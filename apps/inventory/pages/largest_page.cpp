@@ -59,9 +59,9 @@ private:
 BEGIN_MESSAGE_MAP(LargestPage, Page)
     ON_WM_CREATE()
     ON_WM_SIZE()
-    ON_LBN_SELCHANGE(IDC_LARGEST, OnSelected)
-    ON_COMMAND(ID_LIST_EXPORT, OnExport)
-    ON_COMMAND(ID_LARGEST_PRINT, OnPrint)
+    ON_LBN_SELCHANGE(IDC_LARGEST, &LargestPage::OnSelected)
+    ON_COMMAND(ID_LIST_EXPORT, &LargestPage::OnExport)
+    ON_COMMAND(ID_LARGEST_PRINT, &LargestPage::OnPrint)
 END_MESSAGE_MAP()
 
 int LargestPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
@@ -104,14 +104,9 @@ CString LargestPage::MarkedText() {
 }
 
 void LargestPage::OnExport() {
-    // A few rows: too short to be cancelled.
-    const auto write = [this](LPCSTR pszPath, char chSeparator, Work&) {
-        return m_list.ExportData(pszPath, chSeparator);
-    };
-    if (m_exporter.Run(*this, "largest.txt", write)) {
-        m_strMessage.Format("%d rows written to %s", m_list.GetCount(),
-                            static_cast<LPCTSTR>(m_exporter.Path()));
-    }
+    m_strMessage = m_exporter.Run(*this, "largest.csv", [this](TableWriter& writer, Work& work) {
+        WriteBox(m_list, "Largest packages", writer, work);
+    });
 }
 
 // --- Paper
@@ -119,8 +114,8 @@ void LargestPage::OnExport() {
 void LargestPage::OnPrint() {
     PrinterChoice printer(this);
     CDC dc;
-    if (printer.Ask(USHRT_MAX, dc)) {
-        Tell(Print(dc, &printer, nullptr), this);
+    if (printer.Ask(USHRT_MAX, "Largest packages", dc)) {
+        Tell(Print(dc, &printer, printer.Output()), this);
     }
 }
 
@@ -140,6 +135,6 @@ Failure LargestPage::Print(CDC& dc, PrinterChoice* pPrinter, LPCSTR pszOutput) {
         PrintJob(work, dc, "Largest packages", nFirst, nLast, pszOutput,
                  [&](unsigned nPage) { run.PrintPage(nPage); });
     });
-    m_strMessage = PrintedText(pFailure, nLast - nFirst + 1);
+    m_strMessage = PrintedText(pFailure, nLast - nFirst + 1, pszOutput);
     return pFailure;
 }

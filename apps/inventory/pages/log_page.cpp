@@ -1,5 +1,7 @@
 #include "pages/log_page.h"
 
+#include "model/count_text.h"
+#include "model/log_files.h"
 #include "pages/printing.h"
 #include "resource.h"
 #include "sources/new_file.h"
@@ -8,8 +10,7 @@
 
 namespace {
 
-constexpr char kLeftLog[] = "Z:\\var\\log\\dpkg.log";
-constexpr char kRightLog[] = "Z:\\var\\log\\apt\\history.log";
+constexpr char kFirstLog[] = "Z:\\var\\log\\dpkg.log";
 constexpr UINT_PTR kFollowTimer = 1;
 constexpr UINT kFollowPeriod = 1000;  // milliseconds
 constexpr int kGap = 4;
@@ -24,15 +25,15 @@ BEGIN_MESSAGE_MAP(LogPage, Page)
     ON_WM_CREATE()
     ON_WM_SIZE()
     ON_WM_TIMER()
-    ON_COMMAND(ID_LOG_OPEN, OnOpen)
-    ON_COMMAND(ID_LOG_APPLICATION, OnApplication)
-    ON_COMMAND(ID_LOG_COPY, OnCopy)
-    ON_COMMAND(ID_LOG_EXPORT, OnExport)
-    ON_COMMAND(ID_LOG_PRINT, OnPrint)
-    ON_COMMAND(ID_LOG_FOLLOW, OnFollow)
-    ON_COMMAND(ID_LOG_BOTH, OnBoth)
-    ON_UPDATE_COMMAND_UI(ID_LOG_FOLLOW, OnUpdateFollow)
-    ON_UPDATE_COMMAND_UI(ID_LOG_BOTH, OnUpdateBoth)
+    ON_COMMAND(ID_LOG_OPEN, &LogPage::OnOpen)
+    ON_COMMAND(ID_LOG_APPLICATION, &LogPage::OnApplication)
+    ON_COMMAND(ID_LOG_COPY, &LogPage::OnCopy)
+    ON_COMMAND(ID_LOG_EXPORT, &LogPage::OnExport)
+    ON_COMMAND(ID_LOG_PRINT, &LogPage::OnPrint)
+    ON_COMMAND(ID_LOG_FOLLOW, &LogPage::OnFollow)
+    ON_COMMAND(ID_LOG_BOTH, &LogPage::OnBoth)
+    ON_UPDATE_COMMAND_UI(ID_LOG_FOLLOW, &LogPage::OnUpdateFollow)
+    ON_UPDATE_COMMAND_UI(ID_LOG_BOTH, &LogPage::OnUpdateBoth)
 END_MESSAGE_MAP()
 
 int LogPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
@@ -55,21 +56,63 @@ int LogPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
 
 // Both ways, so that either moves the other.
 void LogPage::Pair() {
-    m_left.GetTextWnd().SyncWith(m_bBoth ? &m_right.GetTextWnd() : nullptr, TRUE);
-    m_right.GetTextWnd().SyncWith(m_bBoth ? &m_left.GetTextWnd() : nullptr, TRUE);
+    m_left.GetTextWnd().SyncWith(ShowsBoth() ? &m_right.GetTextWnd() : nullptr, TRUE);
+    m_right.GetTextWnd().SyncWith(ShowsBoth() ? &m_left.GetTextWnd() : nullptr, TRUE);
 }
 
 void LogPage::OnShown() {
     if (!m_bOpened) {
-        m_bOpened = true;
-        // Not every machine has these: the captions say so.
-        m_left.Open(kLeftLog);
-        m_right.Open(kRightLog);
+        // Not every machine has it: the caption says so.
+        Open(kFirstLog);
     }
 }
 
 Failure LogPage::Open(const CString& strPath) {
-    return m_left.Open(strPath);
+    m_bOpened = true;
+    Failure pFailure = m_left.Open(strPath);
+    OpenOlder();
+    return pFailure;
+}
+
+// Only what a log was rotated to belongs beside it.
+void LogPage::OpenOlder() {
+    const CString strOlder = OlderLog(std::string(m_left.Path())).c_str();
+    CFileStatus status;
+    m_bOlder = CFile::GetStatus(strOlder, status) && m_right.Open(strOlder) == nullptr;
+    if (!m_bOlder) {
+        m_strMessage = QVPath(m_left.Path()).GetName() + " alone: there is no " +
+                       QVPath(strOlder).GetName() + " beside it with what was logged before";
+    } else {
+        m_strMessage =
+            QVPath(m_left.Path()).GetName() + ", and on the right what was logged before";
+    }
+    Pair();
+    LayOut();
+}
+
+void LogPage::SetInventory(const Inventory&) {
+    if (m_bOpened) {
+        ReadMore();
+    }
+}
+
+// A log that was rotated in the meantime has an older part now, or another one.
+void LogPage::ReadMore() {
+    const ULONGLONG nRead = m_left.BytesRead();
+    m_left.ReadMore();
+    CFileStatus status;
+    const bool bRotated = m_left.BytesRead() < nRead;
+    if (bRotated ||
+        (!m_bOlder && CFile::GetStatus(OlderLog(std::string(m_left.Path())).c_str(), status))) {
+        OpenOlder();
+    }
+}
+
+FindResult LogPage::Find(const TextQuery& query, bool bDown) {
+    LogView& view = ShowsBoth() && CWnd::GetFocus() == &m_right.GetTextWnd() ? m_right : m_left;
+    FindResult result = FindInText(view.GetTextWnd(), query, bDown);
+    result.strPlace = QVPath(view.Path()).GetName();
+    return result;
 }
 
 void LogPage::OnSize(UINT nType, int cx, int cy) {
@@ -88,17 +131,20 @@ void LogPage::LayOut() {
     m_btnApplication.MoveWindow(nButton + 2 * kGap, kGap, nButton, nHigh);
     const int nTop = nHigh + 2 * kGap;
     const int nHeight = std::max(rc.Height() - nTop, 0);
-    const int nLeft = m_bBoth ? rc.Width() / 2 : rc.Width();
-    m_right.ShowWindow(m_bBoth ? SW_SHOW : SW_HIDE);
-    m_left.MoveWindow(0, nTop, nLeft - (m_bBoth ? kGap : 0), nHeight);
+    const bool bBoth = ShowsBoth();
+    const int nLeft = bBoth ? rc.Width() / 2 : rc.Width();
+    m_right.ShowWindow(bBoth ? SW_SHOW : SW_HIDE);
+    m_left.MoveWindow(0, nTop, nLeft - (bBoth ? kGap : 0), nHeight);
     m_right.MoveWindow(nLeft, nTop, rc.Width() - nLeft, nHeight);
 }
 
+CString LogPage::LinesText() {
+    return CountText(static_cast<size_t>(m_left.GetTextWnd().NumLines()), "line").c_str();
+}
+
 CString LogPage::MarkedText() {
-    CString strText;
-    strText.Format("%d lines, %d rows", m_left.GetTextWnd().NumLines(),
-                   m_left.GetTextWnd().NumRows());
-    return strText;
+    const auto nRows = static_cast<size_t>(m_left.GetTextWnd().NumRows());
+    return LinesText() + ", " + CountText(nRows, "row").c_str();
 }
 
 // --- Commands
@@ -125,9 +171,8 @@ void LogPage::OnApplication() {
 }
 
 void LogPage::OnCopy() {
-    m_strMessage.Format(
-        m_left.GetTextWnd().CopyToClipboard() ? "%d lines copied" : "%d lines could not be copied",
-        m_left.GetTextWnd().NumLines());
+    const bool bCopied = m_left.GetTextWnd().CopyToClipboard() != 0;
+    m_strMessage = LinesText() + (bCopied ? " copied" : " could not be copied");
 }
 
 Failure LogPage::Export(LPCSTR pszPath) {
@@ -135,7 +180,7 @@ Failure LogPage::Export(LPCSTR pszPath) {
     ::SetLastError(NO_ERROR);
     try {
         if (m_left.GetTextWnd().ExportData(file.Path()) && file.PutInPlace()) {
-            m_strMessage.Format("%d lines written to %s", m_left.GetTextWnd().NumLines(), pszPath);
+            m_strMessage = LinesText() + " written to " + pszPath;
             return nullptr;
         }
         return Failed(kErrorExportLog, SystemReason(::GetLastError(), pszPath), pszPath);
@@ -165,7 +210,7 @@ void LogPage::OnFollow() {
 }
 
 void LogPage::OnTimer(UINT_PTR) {
-    m_left.ReadMore();
+    ReadMore();
 }
 
 void LogPage::OnBoth() {
@@ -179,7 +224,8 @@ void LogPage::OnUpdateFollow(CCmdUI* pCmdUI) {
 }
 
 void LogPage::OnUpdateBoth(CCmdUI* pCmdUI) {
-    pCmdUI->SetCheck(m_bBoth);
+    pCmdUI->Enable(m_bOlder);
+    pCmdUI->SetCheck(ShowsBoth());
 }
 
 // --- Paper
@@ -188,8 +234,8 @@ void LogPage::OnPrint() {
     PrinterChoice printer(this);
     CDC dc;
     constexpr unsigned kMostPages = 9999;
-    if (printer.Ask(kMostPages, dc)) {
-        Tell(Print(dc, printer.FirstPage(), printer.LastPage(), nullptr), this);
+    if (printer.Ask(kMostPages, "Log", dc)) {
+        Tell(Print(dc, printer.FirstPage(), printer.LastPage(), printer.Output()), this);
     }
 }
 
@@ -210,7 +256,7 @@ Failure LogPage::Print(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutpu
     const int nGap = dc.GetDeviceCaps(LOGPIXELSX) / 4;
     CRect rcLeft(rc);
     CRect rcRight(rc);
-    if (m_bBoth) {
+    if (ShowsBoth()) {
         rcLeft.right = rc.left + (rc.Width() - nGap) / 2;
         rcRight.left = rc.right - rcLeft.Width();
     }
@@ -221,7 +267,7 @@ Failure LogPage::Print(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutpu
         // A page of a printer begins with the device's own font.
         const qv::SelectGuard selectForPage(dc, &font);
         PrintColumn(dc, nPage, left, rcLeft);
-        if (m_bBoth) {
+        if (ShowsBoth()) {
             PrintColumn(dc, nPage, m_right.GetTextWnd(), rcRight);
         }
         CString strFooter;
@@ -233,7 +279,7 @@ Failure LogPage::Print(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutpu
     Failure pFailure = Work::Run("Printing the log...", [&](Work& work) {
         PrintJob(work, dc, "Log", nFirst, nLast, pszOutput, printPage);
     });
-    m_strMessage = PrintedText(pFailure, nLast - nFirst + 1);
+    m_strMessage = PrintedText(pFailure, nLast - nFirst + 1, pszOutput);
     return pFailure;
 }
 

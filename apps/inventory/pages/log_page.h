@@ -1,5 +1,5 @@
-// LogPage: the package manager's own logs, two side by side that scroll together. In the place of
-// the left one comes any other, as that of the application's own errors.
+// LogPage: the package manager's own log, or any other, as that of the application's own errors. A
+// log that was rotated has what was logged before beside it, and both scroll together.
 
 #pragma once
 
@@ -9,18 +9,21 @@
 class LogPage : public Page {
 public:
     LPCSTR Title() const override { return "Log"; }
-    void SetInventory(const Inventory& /*inventory*/) override {}
+    // Reads what has been logged since.
+    void SetInventory(const Inventory& inventory) override;
+    FindResult Find(const TextQuery& query, bool bDown) override;
     CWnd& Control() override { return m_left.GetTextWnd(); }
     CString MarkedText() override;
     void OnShown() override;
 
     LogView& Left() { return m_left; }
     LogView& Right() { return m_right; }
-    // Prints both level, side by side, on pages nFirst to nLast. Null, here as below, where all
-    // went well.
+    // Prints what is shown, two parts level, side by side, on pages nFirst to nLast. Null, here as
+    // below, where all went well.
     Failure Print(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOutput);
     Failure PrintToFile(LPCSTR pszOutput, unsigned nFirst, unsigned nLast);
-    // Another file on the left.
+    bool ShowsBoth() const { return m_bBoth && m_bOlder; }
+    // Another log. The page's message says whether there is an older part of it.
     Failure Open(const CString& strPath);
     Failure Export(LPCSTR pszPath);
 
@@ -42,13 +45,17 @@ protected:
 private:
     void LayOut();
     void Pair();
+    void OpenOlder();
+    void ReadMore();
+    CString LinesText();
     void PrintColumn(CDC& dc, unsigned nPage, QVTextWnd& text, const CRect& rc);
 
     CButton m_btnOpen;
     CButton m_btnApplication;
     LogView m_left;
     LogView m_right;
-    bool m_bBoth = true;
+    bool m_bBoth = true;    // if there is an older part
+    bool m_bOlder = false;  // there is
     bool m_bFollow = false;
     bool m_bOpened = false;
 };

@@ -13,6 +13,7 @@ public:
     // is shown anew.
     bool ReadMore();
     const CString& Path() const { return m_strPath; }
+    ULONGLONG BytesRead() const { return m_nRead; }
     // The end of the text.
     void ShowEnd();
     bool AtEnd();

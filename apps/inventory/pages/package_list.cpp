@@ -38,7 +38,7 @@ void PackageList::MakeColumns() {
     SetHdrFormat(nFirst + 5, LVCFMT_CENTER);
     const CString strSample =
         "a-package-with-a-long-name-and\t1:14.0.6-12+deb12u1~\t1234567\t2026-11-21 "
-        "00:00\tinterpreters\tnot-installed\tA summary of what the package is good for, in a line";
+        "00:00~~\tinterpreters~\tnot-installed\tA summary of what the package is good for";
     SetupColumnsFromString(m_bImageColumn ? "\t" + strSample : strSample);
     if (m_bImageColumn) {
         SetColWidth(0, 2 * kStripImageWidth, nullptr);
@@ -76,16 +76,52 @@ void PackageList::Refill(const Inventory& inventory, const PackageFilter& filter
         m_bAscending = TRUE;
     }
     m_pInventory = &inventory;
-    m_filter = filter;
     SetRedraw(FALSE);
     if (!std::exchange(m_bSaved, true)) {
         SaveSelections();
+        KeepView();
     }
+    if (filter != m_filter) {
+        m_view = View();  // other rows begin at their top
+    }
+    m_filter = filter;
     m_packages.clear();  // what they point at may be gone already
     DeleteAllItems();
     Fill(pWork);
     SetRedraw(TRUE);
+    RestoreView();
     Invalidate(FALSE);
+}
+
+void PackageList::KeepView() {
+    m_view = View();
+    const int nFront = GetNextItem(-1, LVNI_FOCUSED);
+    m_view.bFront = nFront != -1;
+    m_view.nFront = m_view.bFront ? GetItemData(nFront) : 0;
+    m_view.nTopRow = GetTopIndex();
+    m_view.nTop = GetItemCount() > 0 ? GetItemData(m_view.nTopRow) : 0;
+    m_view.nLeft = GetScrollPos(SB_HORZ);
+}
+
+// Where the row that was the top one is gone, the one in its place is.
+void PackageList::RestoreView() {
+    const int nItems = GetItemCount();
+    int nTop = std::min(m_view.nTopRow, nItems - 1);
+    for (int nItem = 0; nItem < nItems; ++nItem) {
+        const DWORD_PTR nId = GetItemData(nItem);
+        if (m_view.bFront && nId == m_view.nFront) {
+            SetItemState(nItem, LVIS_FOCUSED, LVIS_FOCUSED);
+        }
+        if (m_view.nTopRow > 0 && nId == m_view.nTop) {
+            nTop = nItem;
+        }
+    }
+    // From the end back, a row that is to be in view comes to the top.
+    if (nTop > 0) {
+        EnsureVisible(nItems - 1, FALSE);
+        EnsureVisible(nTop, FALSE);
+    }
+    Scroll(CSize(m_view.nLeft - GetScrollPos(SB_HORZ), 0));
 }
 
 void PackageList::Fill(Work* pWork) {
@@ -142,23 +178,6 @@ const Package* PackageList::Front() {
     return PackageOf(nItem);
 }
 
-bool PackageList::FindNext(const CString& strText) {
-    CString strWanted(strText);
-    strWanted.MakeLower();
-    const int nItems = GetItemCount();
-    const int nStart = std::max(GetNextItem(-1, LVNI_FOCUSED), 0);
-    for (int i = 1; i <= nItems; ++i) {
-        const int nItem = (nStart + i) % nItems;
-        CString strName(PackageOf(nItem)->strName.c_str());
-        strName.MakeLower();
-        if (strName.Find(strWanted) >= 0) {
-            SelectAlone(nItem);
-            return true;
-        }
-    }
-    return false;
-}
-
 bool PackageList::GoTo(const CString& strName) {
     for (int nItem = 0; nItem < GetItemCount(); ++nItem) {
         const Package* pPackage = PackageOf(nItem);
@@ -185,43 +204,4 @@ PackageList::Selected PackageList::CountSelected() {
         }
     }
     return selected;
-}
-
-// --- Export
-
-BOOL PackageList::Export(LPCSTR pszPath, char chSeparator, Work& work) {
-    struct Told {
-        Work*& pWork;
-        ~Told() { pWork = nullptr; }
-    };
-    BOOL bWritten = FALSE;
-    {
-        const Told told{m_pExport = &work};
-        bWritten = ExportData(pszPath, chSeparator);
-    }
-    if (m_pLeft != nullptr) {
-        throw m_pLeft.release();
-    }
-    return bWritten;
-}
-
-// ExportData asks for each cell in turn, and for nothing else on the way. What the work throws does
-// not pass a window procedure: it waits until the other cells, empty ones now, were asked for.
-LRESULT PackageList::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == LVM_GETITEMTEXT && m_pExport != nullptr) {
-        const auto& item = *reinterpret_cast<const LVITEM*>(lParam);
-        if (item.iSubItem == 0 && m_pLeft == nullptr) {
-            Work* const pExport = std::exchange(m_pExport, nullptr);
-            try {
-                pExport->Step(wParam, static_cast<std::uint64_t>(GetItemCount()));
-            } catch (QVStatus* pStatus) {
-                m_pLeft.reset(pStatus);
-            }
-            m_pExport = pExport;
-        }
-        if (m_pLeft != nullptr) {
-            return 0;
-        }
-    }
-    return QVSortingListCtrl::WindowProc(message, wParam, lParam);
 }

@@ -25,9 +25,6 @@ public:
     // What the work throws leaves the list half filled.
     void Prepare(const Inventory& inventory, const PackageFilter& filter, Work& work);
 
-    // ExportData with a step of the work for each row.
-    BOOL Export(LPCSTR pszPath, char chSeparator, Work& work);
-
     // Of the texts of each kind of package.
     void UseColors(COLORREF crInstalled, COLORREF crRequired, COLORREF crTrouble);
     // Images beside the names, or in a column of their own.
@@ -38,7 +35,6 @@ public:
     // The package with the focus. Where none has it, as after a refill, one that is selected gets
     // it; null: none is.
     const Package* Front();
-    bool FindNext(const CString& strText);
     // Selects the package of that name and shows it. False if the list does not have it.
     bool GoTo(const CString& strName);
     struct Selected {
@@ -49,9 +45,6 @@ public:
     int SummaryColumn() const { return NumColumns() - 1; }
     void SortBy(int nCol) { SortOnHeader(nCol); }
 
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
-
 private:
     void MakeColumns();
     void Refill(const Inventory& inventory, const PackageFilter& filter, Work* pWork);
@@ -59,13 +52,22 @@ private:
     CString Row(const Package& package) const;
 
     void SelectAlone(int nItem);
+    // By package, so that it is found behind a refill.
+    struct View {
+        DWORD_PTR nFront = 0;
+        DWORD_PTR nTop = 0;
+        int nTopRow = 0;
+        int nLeft = 0;  // pixels
+        bool bFront = false;
+    };
+    void KeepView();
+    void RestoreView();
 
     const Inventory* m_pInventory = nullptr;
     bool m_bPrepared = false;
-    bool m_bSaved = false;      // what was selected, before a filling that was left
-    Work* m_pExport = nullptr;  // null as well while it is being told
-    Failure m_pLeft;            // the export was
+    bool m_bSaved = false;  // what was selected, before a filling that was left
     PackageFilter m_filter;
+    View m_view;  // as it was when the selection was saved
     bool m_bImageColumn = false;
     int m_nTrouble = 0;  // styles
     int m_nRequired = 0;

@@ -1,5 +1,8 @@
 #include "pages/package_tree.h"
 
+#include "model/find_rows.h"
+#include "pages/row_fields.h"
+
 #include <algorithm>
 #include <iterator>
 
@@ -47,6 +50,8 @@ void PackageTree::UseIndentedColumns(bool bIndented) {
 
 void PackageTree::Show(const Inventory& inventory) {
     SetRedraw(FALSE);
+    const bool bFirst = GetRootItem() == nullptr;
+    const Kept kept = Keep();
     DeleteAllItems();
     const HTREEITEM hRoot = InsertItem(MakeStyleText("All packages", 0), kImageSection,
                                        kImageSectionOpen, TVI_ROOT, TVI_LAST);
@@ -61,8 +66,75 @@ void PackageTree::Show(const Inventory& inventory) {
             }
         }
     }
-    Expand(hRoot, TVE_EXPAND, FALSE, FALSE);
+    if (bFirst) {
+        Expand(hRoot, TVE_EXPAND, FALSE, FALSE);
+        SetRedraw(TRUE);
+    } else {
+        Restore(kept);
+    }
+}
+
+// The texts of rows, which outlive the inventory that their item data point into.
+std::string PackageTree::KeyOf(HTREEITEM hItem) {
+    std::string strKey;
+    for (HTREEITEM h = hItem; h != nullptr; h = GetParentItem(h)) {
+        // What a package is said to have differs in its second field alone.
+        const std::vector<std::string> fields = FieldsOf(*this, GetItemText(h));
+        const size_t nFields = LevelOf(h) > kLevelPackage ? 2 : 1;
+        for (size_t i = 0; i < std::min(nFields, fields.size()); ++i) {
+            strKey += fields[i] + '\t';
+        }
+        strKey += '\n';
+    }
+    return strKey;
+}
+
+PackageTree::Kept PackageTree::Keep() {
+    Kept kept;
+    for (HTREEITEM h = GetRootItem(); h != nullptr; h = WalkNext(h)) {
+        const int nLevel = LevelOf(h);
+        if (nLevel <= kLevelPackage && ItemExpanded(h)) {
+            kept.open.insert(KeyOf(h));
+        }
+        if (nLevel <= kLevelPackage && GetCheck(h)) {
+            kept.ticked.insert(KeyOf(h));
+        }
+    }
+    if (const HTREEITEM hSelected = GetSelectedItem()) {
+        kept.strSelected = KeyOf(hSelected);
+    }
+    if (const HTREEITEM hTop = GetTopItem()) {
+        kept.strTop = KeyOf(hTop);
+    }
+    kept.nLeft = GetHScrollPos();
+    return kept;
+}
+
+void PackageTree::Restore(const Kept& kept) {
+    HTREEITEM hTop = nullptr;
+    for (HTREEITEM h = GetRootItem(); h != nullptr; h = WalkNext(h)) {
+        const std::string strKey = KeyOf(h);
+        if (kept.open.contains(strKey)) {
+            Fill(h);
+            Expand(h, TVE_EXPAND, FALSE, FALSE);
+        }
+        if (kept.ticked.contains(strKey)) {
+            SetCheck(h, TRUE, FALSE);
+        }
+        if (strKey == kept.strSelected) {
+            SelectItem(h);
+        }
+        if (strKey == kept.strTop) {
+            hTop = h;
+        }
+    }
     SetRedraw(TRUE);
+    // From the end back, a row that is to be in view comes to the top.
+    if (hTop != nullptr) {
+        SendMessage(WM_VSCROLL, SB_BOTTOM);
+        EnsureVisible(hTop);
+    }
+    SendMessage(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, kept.nLeft));
 }
 
 HTREEITEM PackageTree::AddPackage(HTREEITEM hSection, const Package& package) {
@@ -131,6 +203,7 @@ void PackageTree::Fill(HTREEITEM hPackage) {
     if (pPackage == nullptr || GetItemData(GetChildItem(hPackage)) != kPlaceholder) {
         return;
     }
+    const BOOL bRedraw = GetRedraw();
     SetRedraw(FALSE);
     DeleteChildren(hPackage);
     AddDetail(hPackage, "Version", pPackage->strVersion, kImageVersion);
@@ -139,7 +212,7 @@ void PackageTree::Fill(HTREEITEM hPackage) {
         AddDetail(hPackage, "Depends on", strDependency, kImageDependency);
     }
     SetItemStateImage(hPackage, GetItemStateImage(hPackage), TRUE);
-    SetRedraw(TRUE);
+    SetRedraw(bRedraw);
 }
 
 void PackageTree::AddDetail(HTREEITEM hPackage, const char* pszWhat, const std::string& strValue,
@@ -157,28 +230,22 @@ void PackageTree::ExpandSections(UINT nCode) {
     SetRedraw(TRUE);
 }
 
-bool PackageTree::FindNext(const CString& strText) {
-    CString strWanted(strText);
-    strWanted.MakeLower();
-    const HTREEITEM hStart = GetSelectedItem();
-    HTREEITEM h = hStart;
-    do {
-        h = WalkNext(h);
-        if (h == nullptr) {
-            h = GetRootItem();
-        }
-        const Package* pPackage = h != nullptr ? PackageOf(h) : nullptr;
-        if (pPackage != nullptr) {
-            CString strName(pPackage->strName.c_str());
-            strName.MakeLower();
-            if (strName.Find(strWanted) >= 0) {
-                EnsureVisible(h);
-                NfySelectItem(h);
-                return true;
-            }
-        }
-    } while (h != hStart && h != nullptr && !(hStart == nullptr && WalkNext(h) == nullptr));
-    return false;
+FindResult PackageTree::Find(const TextQuery& query, bool bDown) {
+    std::vector<HTREEITEM> rows;
+    for (HTREEITEM h = GetRootItem(); h != nullptr; h = NextDisplayableItem(h)) {
+        rows.push_back(h);
+    }
+    const auto start = std::find(rows.begin(), rows.end(), GetSelectedItem());
+    const int nStart = start != rows.end() ? static_cast<int>(start - rows.begin()) : -1;
+    const FoundRow found = FindRow(static_cast<int>(rows.size()), nStart, bDown, [&](int nRow) {
+        return RowHas(*this, GetItemText(rows[static_cast<size_t>(nRow)]), query);
+    });
+    if (found.nRow >= 0) {
+        const HTREEITEM hFound = rows[static_cast<size_t>(found.nRow)];
+        EnsureVisible(hFound);
+        NfySelectItem(hFound);
+    }
+    return {found.nRow >= 0, found.bWrapped, "the open branches of the tree"};
 }
 
 PackageTree::Marked PackageTree::CountMarked() {

@@ -6,12 +6,17 @@
 #include "QVControls.h"
 #include "images.h"
 #include "model/inventory.h"
+#include "pages/finding.h"
+
+#include <set>
+#include <string>
 
 class PackageTree : public QVTreeCtrlEx {
 public:
     // Columns, styles, images and check marks; call once the window exists.
     void SetUp();
-    // Fills the tree anew. The inventory must outlive what is shown of it.
+    // Fills the tree anew. What was open, ticked and selected is so again if it is still there, and
+    // the tree is scrolled to where it was. The inventory must outlive what is shown of it.
     void Show(const Inventory& inventory);
 
     // The package of an item at the package level, null for others.
@@ -30,9 +35,8 @@ public:
     void UseIndentedColumns(bool bIndented);
     bool IndentedColumns() const { return m_bIndented; }
 
-    // The next package behind the selection whose name contains the text, from the start again at
-    // the end; it is shown and selected. False if there is none.
-    bool FindNext(const CString& strText);
+    // In the rows of open branches.
+    FindResult Find(const TextQuery& query, bool bDown);
 
     struct Marked {
         int nPackages = 0;
@@ -42,6 +46,18 @@ public:
     Marked CountMarked();
 
 private:
+    // What a refilled tree gets back, by the keys of its items.
+    struct Kept {
+        std::set<std::string> open;
+        std::set<std::string> ticked;
+        std::string strSelected;
+        std::string strTop;
+        int nLeft = 0;  // of the horizontal bar
+    };
+    Kept Keep();
+    void Restore(const Kept& kept);
+    // What tells an item from all others, before a refill and behind it.
+    std::string KeyOf(HTREEITEM hItem);
     // 0 for the row above all; -1 for no item.
     int LevelOf(HTREEITEM hItem);
     HTREEITEM AddPackage(HTREEITEM hSection, const Package& package);

@@ -1,5 +1,6 @@
 #include "pages/packages_page.h"
 
+#include "model/count_text.h"
 #include "model/report_settings.h"
 #include "resource.h"
 #include "sources/settings_file.h"
@@ -25,10 +26,10 @@ BEGIN_MESSAGE_MAP(PackagesPage, Page)
     ON_WM_CREATE()
     ON_WM_DESTROY()
     ON_WM_SIZE()
-    ON_NOTIFY(LVN_ITEMCHANGED, IDC_LIST, OnItemChanged)
-    ON_COMMAND(ID_LIST_EXPORT, OnExport)
-    ON_COMMAND(ID_PACKAGES_EXPORT, OnExport)
-    ON_COMMAND(IDOK, OnEnter)
+    ON_NOTIFY(LVN_ITEMCHANGED, IDC_LIST, &PackagesPage::OnItemChanged)
+    ON_COMMAND(ID_LIST_EXPORT, &PackagesPage::OnExport)
+    ON_COMMAND(ID_PACKAGES_EXPORT, &PackagesPage::OnExport)
+    ON_COMMAND(IDOK, &PackagesPage::OnEnter)
 END_MESSAGE_MAP()
 
 int PackagesPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
@@ -91,8 +92,22 @@ void PackagesPage::OnEnter() {
     }
 }
 
-bool PackagesPage::FindNext(const CString& strText) {
-    return HasFocus(Tree()) ? Tree().FindNext(strText) : List().FindNext(strText);
+// The bar and what else holds no rows leave it to the list.
+FindResult PackagesPage::Find(const TextQuery& query, bool bDown) {
+    if (HasFocus(Tree())) {
+        return Tree().Find(query, bDown);
+    }
+    FindResult result;
+    if (!HasFocus(List())) {
+        result = FindInControl(Control(), query, bDown);
+    }
+    if (result.strPlace.IsEmpty()) {
+        result = FindInList(List(), query, bDown);
+        if (!m_bar.Filter().IsOpen()) {
+            result.strPlace += ", as it is filtered";
+        }
+    }
+    return result;
 }
 
 CString PackagesPage::MarkedText() {
@@ -106,13 +121,9 @@ CString PackagesPage::MarkedText() {
 }
 
 void PackagesPage::OnExport() {
-    const auto write = [this](LPCSTR pszPath, char chSeparator, Work& work) {
-        return List().Export(pszPath, chSeparator, work);
-    };
-    if (m_exporter.Run(*this, nullptr, write)) {
-        m_strMessage.Format("%d rows written to %s", List().GetItemCount(),
-                            static_cast<LPCTSTR>(m_exporter.Path()));
-    }
+    m_strMessage = m_exporter.Run(*this, nullptr, [this](TableWriter& writer, Work& work) {
+        WriteList(List(), "Packages", writer, work);
+    });
 }
 
 // --- What is shown
@@ -152,8 +163,9 @@ void PackagesPage::Refill() {
     ShowPackage(List().Front());
     m_strMessage.Empty();
     if (!m_bar.Filter().IsOpen()) {
-        m_strMessage.Format("%d of %u packages", List().GetItemCount(),
-                            static_cast<unsigned>(m_pInventory->CountPackages()));
+        m_strMessage = (std::to_string(List().GetItemCount()) + " of " +
+                        CountText(m_pInventory->CountPackages(), "package"))
+                           .c_str();
     }
 }
 

@@ -20,7 +20,7 @@ public:
     // Where the focus was last.
     CWnd& Control() override;
     CString MarkedText() override;
-    bool FindNext(const CString& strText) override;
+    FindResult Find(const TextQuery& query, bool bDown) override;
 
     // Selects the package of that name in the list, behind another filter if it must be.
     void GoTo(const CString& strName) { OnGoTo(strName); }

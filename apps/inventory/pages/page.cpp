@@ -1,14 +1,9 @@
 #include "pages/page.h"
 
-#include "dialogs/find_dialog.h"
-
 BEGIN_MESSAGE_MAP(Page, CWnd)
     ON_WM_CREATE()
     ON_WM_SETFOCUS()
     ON_WM_ERASEBKGND()
-    ON_COMMAND(ID_FIND, OnFind)
-    ON_COMMAND(ID_FIND_NEXT, OnFindNext)
-    ON_UPDATE_COMMAND_UI(ID_FIND_NEXT, OnUpdateFindNext)
 END_MESSAGE_MAP()
 
 BOOL Page::Create(CWnd* pParent, UINT nID) {
@@ -31,25 +26,6 @@ int Page::OnCreate(LPCREATESTRUCT lpCreateStruct) {
 
 void Page::OnSetFocus(CWnd*) {
     Control().SetFocus();
-}
-
-void Page::OnFind() {
-    FindDialog dialog(this);
-    dialog.m_strText = m_strFind;
-    if (dialog.DoModal() == IDOK && !dialog.m_strText.IsEmpty()) {
-        m_strFind = dialog.m_strText;
-        OnFindNext();
-    }
-}
-
-void Page::OnFindNext() {
-    if (!FindNext(m_strFind)) {
-        m_strMessage.Format("No package's name contains \"%s\"", static_cast<LPCTSTR>(m_strFind));
-    }
-}
-
-void Page::OnUpdateFindNext(CCmdUI* pCmdUI) {
-    pCmdUI->Enable(!m_strFind.IsEmpty());
 }
 
 // What the page's controls leave free.

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "model/inventory.h"
+#include "pages/finding.h"
 
 #include <afxwin.h>
 
@@ -18,8 +19,10 @@ public:
     virtual CWnd& Control() = 0;
     // Called as the page comes up.
     virtual void OnShown() {}
-    // The next package behind the selection whose name contains the text. False if there is none.
-    virtual bool FindNext(const CString& /*strText*/) { return false; }
+    // Looks in what the page shows. Here: in its control.
+    virtual FindResult Find(const TextQuery& query, bool bDown) {
+        return FindInControl(Control(), query, bDown);
+    }
     CString Message() const { return m_strMessage; }
     // In the status bar, until there is something else to say.
     void Say(const CString& strMessage) { m_strMessage = strMessage; }
@@ -32,12 +35,8 @@ protected:
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
-    afx_msg void OnFind();
-    afx_msg void OnFindNext();
-    afx_msg void OnUpdateFindNext(CCmdUI* pCmdUI);
     DECLARE_MESSAGE_MAP()
 
     CFont m_font;
     CString m_strMessage;
-    CString m_strFind;
 };

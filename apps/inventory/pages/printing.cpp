@@ -1,6 +1,8 @@
 #include "pages/printing.h"
 
+#include "model/count_text.h"
 #include "model/inventory.h"
+#include "pages/print_target.h"
 #include "sources/disk_file.h"
 
 #include <algorithm>
@@ -13,7 +15,11 @@ PrinterChoice::~PrinterChoice() {
     ::GlobalFree(m_pd.hDevNames);
 }
 
-bool PrinterChoice::Ask(unsigned nPages, CDC& dc) {
+bool PrinterChoice::Ask(unsigned nPages, LPCSTR pszName, CDC& dc) {
+    CWnd* const pParent = m_pParentWnd;
+    if (!HasPrinter(pParent)) {
+        return false;
+    }
     m_pd.nMinPage = 1;
     m_pd.nMaxPage = static_cast<WORD>(std::clamp(nPages, 1u, 0xFFFFu));
     m_pd.nFromPage = 1;
@@ -23,11 +29,12 @@ bool PrinterChoice::Ask(unsigned nPages, CDC& dc) {
     }
     ::SetLastError(NO_ERROR);
     if (!dc.Attach(GetPrinterDC())) {
-        Tell(Failed(kErrorNoPrinter, SystemReason(::GetLastError(), nullptr)), this);
+        Tell(Failed(kErrorNoPrinter, SystemReason(::GetLastError(), nullptr)), pParent);
         return false;
     }
     dc.m_bPrinting = TRUE;
-    return true;
+    m_strOutput = pszName;
+    return AskForOutput(*this, pParent, m_strOutput);
 }
 
 void PrinterChoice::UsePaper(int nPaper) {
@@ -41,6 +48,17 @@ void PrinterChoice::UsePaper(int nPaper) {
     }
 }
 
+void PrinterChoice::UseOrientation(bool bLandscape) {
+    if (m_pd.hDevMode == nullptr && !GetDefaults()) {
+        return;
+    }
+    if (DEVMODE* pMode = GetDevMode()) {
+        pMode->dmOrientation = bLandscape ? DMORIENT_LANDSCAPE : DMORIENT_PORTRAIT;
+        pMode->dmFields |= DM_ORIENTATION;
+        ::GlobalUnlock(m_pd.hDevMode);
+    }
+}
+
 unsigned PrinterChoice::FirstPage() const {
     return PrintRange() ? static_cast<unsigned>(GetFromPage()) : 1;
 }
@@ -49,12 +67,15 @@ unsigned PrinterChoice::LastPage() const {
     return PrintRange() ? static_cast<unsigned>(GetToPage()) : ~0u;
 }
 
-Failure OpenDefaultPrinter(CWnd* pParent, CDC& dc, int nPaper) {
+Failure OpenDefaultPrinter(CWnd* pParent, CDC& dc, int nPaper, bool bLandscape) {
     PrinterChoice printer(pParent);
     if (!printer.GetDefaults()) {
         return Failed(kErrorNoPrinter);
     }
     printer.UsePaper(nPaper);
+    if (bLandscape) {
+        printer.UseOrientation(true);
+    }
     ::SetLastError(NO_ERROR);
     if (!dc.Attach(printer.CreatePrinterDC())) {
         return Failed(kErrorNoPrinter, SystemReason(::GetLastError(), nullptr));
@@ -123,9 +144,10 @@ void PrintJob(Work& work, CDC& dc, LPCSTR pszName, unsigned nFirst, unsigned nLa
     check(document.End(), "The printer does not end the document.");
 }
 
-CString PrintedText(const Failure& pFailure, unsigned nPages) {
+CString PrintedText(const Failure& pFailure, unsigned nPages, LPCSTR pszOutput) {
     if (pFailure == nullptr) {
-        return (CountText(nPages, "page") + " printed").c_str();
+        const CString strPages = (CountText(nPages, "page") + " printed").c_str();
+        return pszOutput != nullptr ? strPages + " to " + pszOutput : strPages;
     }
     return WasCancelled(pFailure) ? "Printing was cancelled." : pFailure->Text();
 }

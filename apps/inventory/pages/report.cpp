@@ -1,8 +1,11 @@
 #include "pages/report.h"
 
+#include "model/count_text.h"
+#include "model/report_export.h"
 #include "model/report_settings.h"
 #include "pages/printing.h"
 #include "resource.h"
+#include "sources/machine_name.h"
 
 namespace {
 
@@ -10,21 +13,24 @@ constexpr double kInch = 25.4;  // in millimetres
 // Where there is no printer to tell its own paper.
 constexpr const Paper& kUsualPaper = kPapers[1];
 
+void MakeTableFonts(CDC& dc, const ReportDefinition& definition, CFont& heading, CFont& text) {
+    const ReportFont& wanted = definition.textFont;
+    MakePrintFont(heading, dc, wanted.nPoints + 1, FW_BOLD, wanted.strFace.c_str());
+    MakePrintFont(text, dc, wanted.nPoints, FW_NORMAL, wanted.strFace.c_str());
+}
+
 CString WithThousands(size_t n) {
-    CString str;
-    str.Format("%u", static_cast<unsigned>(n));
-    for (int i = str.GetLength() - 3; i > 0; i -= 3) {
-        str.Insert(i, ',');
-    }
-    return str;
+    return GroupedText(n).c_str();
 }
 
 }  // namespace
 
 Report::Report(Work& work, const Inventory& inventory, const ReportDefinition& definition,
-               const Settings& settings, CWnd& parent, QVListCtrlEx& list, CDC& dc)
-    : m_definition(definition), m_settings(settings), m_content(inventory, definition) {
-    MeasurePaper(dc);
+               const Settings& settings, CWnd& parent, QVListCtrlEx& list, CDC& dc, bool bLandscape)
+    : m_definition(definition),
+      m_settings(settings),
+      m_content(inventory, definition),
+      m_sheet(dc, settings, bLandscape) {
     MakeFonts(dc);
     m_pEngine = std::make_unique<QVPrintEngine>(&dc, &m_fontHeader, &m_fontNormal, &m_fontSection);
     m_pEngine->SetPrintAllRows(true);
@@ -52,67 +58,75 @@ Report::Report(Work& work, const Inventory& inventory, const ReportDefinition& d
         m_pEngine->AddSectionHeader("The list as it is sorted");
         m_pEngine->AddList(&list, &dc);
     }
-    m_nPages = m_pEngine->Paginate(m_rcText);
+    m_nPages = m_pEngine->Paginate(m_sheet.rcText);
 }
 
 CString Report::Text(const std::string& strText) const {
-    char szMachine[MAX_COMPUTERNAME_LENGTH + 1] = "";
-    DWORD nLength = sizeof(szMachine);
-    ::GetComputerName(szMachine, &nLength);
+    return ReportText(strText, m_content);
+}
+
+CString ReportText(const std::string& strText, const ReportContent& content) {
+    const CString strMachine = MachineName();
     const CString strDate = CTime::GetCurrentTime().Format("%Y-%m-%d");
-    const CString strPackages = WithThousands(m_content.all.totals.nPackages);
-    return ReplaceCodes(strText, {{kCodeMachine, szMachine},
+    const CString strPackages = WithThousands(content.all.totals.nPackages);
+    return ReplaceCodes(strText, {{kCodeMachine, static_cast<LPCSTR>(strMachine)},
                                   {kCodeDate, static_cast<LPCSTR>(strDate)},
                                   {kCodePackages, static_cast<LPCSTR>(strPackages)}})
         .c_str();
 }
 
-void Report::MeasurePaper(CDC& dc) {
+SheetMeasures::SheetMeasures(CDC& dc, const Settings& settings, bool bLandscape) {
     const int nDpiX = dc.GetDeviceCaps(LOGPIXELSX);
     const int nDpiY = dc.GetDeviceCaps(LOGPIXELSY);
     if (dc.GetDeviceCaps(TECHNOLOGY) == DT_RASPRINTER) {
-        m_paper = CSize(dc.GetDeviceCaps(PHYSICALWIDTH), dc.GetDeviceCaps(PHYSICALHEIGHT));
-        m_origin = CPoint(dc.GetDeviceCaps(PHYSICALOFFSETX), dc.GetDeviceCaps(PHYSICALOFFSETY));
+        paper = CSize(dc.GetDeviceCaps(PHYSICALWIDTH), dc.GetDeviceCaps(PHYSICALHEIGHT));
+        origin = CPoint(dc.GetDeviceCaps(PHYSICALOFFSETX), dc.GetDeviceCaps(PHYSICALOFFSETY));
     } else {
-        const int nPaper = m_settings.Choice(kSettingPaper);
-        const Paper& paper = nPaper != 0 ? kPapers[nPaper] : kUsualPaper;
-        m_paper = CSize(static_cast<int>(paper.width / kInch * nDpiX),
-                        static_cast<int>(paper.height / kInch * nDpiY));
+        const int nPaper = settings.Choice(kSettingPaper);
+        const Paper& sheet = nPaper != 0 ? kPapers[nPaper] : kUsualPaper;
+        paper = CSize(static_cast<int>((bLandscape ? sheet.height : sheet.width) / kInch * nDpiX),
+                      static_cast<int>((bLandscape ? sheet.width : sheet.height) / kInch * nDpiY));
     }
-    m_rcText = CRect(CPoint(-m_origin.x, -m_origin.y), m_paper);
-    const Margins margins = ReadMargins(m_settings.Value(kSettingMargins));
+    rcText = CRect(CPoint(-origin.x, -origin.y), paper);
+    const Margins margins = ReadMargins(settings.Value(kSettingMargins));
     const auto units = [](double margin, int nDpi) {
         return static_cast<int>(margin / kInch * nDpi);
     };
-    m_rcText.DeflateRect(units(margins[0], nDpiX), units(margins[1], nDpiY),
-                         units(margins[2], nDpiX), units(margins[3], nDpiY));
+    rcText.DeflateRect(units(margins[0], nDpiX), units(margins[1], nDpiY), units(margins[2], nDpiX),
+                       units(margins[3], nDpiY));
+}
+
+bool Report::NeedsLandscape(const ReportDefinition& definition, const Settings& settings,
+                            QVListCtrlEx& list, CDC& dc) {
+    const int nRoom = SheetMeasures(dc, settings, false).rcText.Width();
+    if (definition.tables != ReportTables::None) {
+        CFont fontHeading;
+        CFont fontText;
+        MakeTableFonts(dc, definition, fontHeading, fontText);
+        if (CutsTooMuch(ReportTable::Wishes(definition.Columns(), dc, {fontHeading, fontText}),
+                        nRoom)) {
+            return true;
+        }
+    }
+    const CClientDC dcScreen(nullptr);
+    return definition.bList && ::MulDiv(list.GetDataWidth(), dc.GetDeviceCaps(LOGPIXELSX),
+                                        dcScreen.GetDeviceCaps(LOGPIXELSX)) > nRoom;
 }
 
 void Report::MakeFonts(CDC& dc) {
-    const auto make = [&](CFont& font, const ReportFont& wanted, int nMorePoints, int nWeight) {
-        MakePrintFont(font, dc, wanted.nPoints + nMorePoints, nWeight, wanted.strFace.c_str());
+    const auto make = [&](CFont& font, const ReportFont& wanted) {
+        MakePrintFont(font, dc, wanted.nPoints, FW_BOLD, wanted.strFace.c_str());
     };
-    make(m_fontTitle, m_definition.titleFont, 0, FW_BOLD);
-    make(m_fontSection, m_definition.headingFont, 0, FW_BOLD);
-    make(m_fontHeader, m_definition.textFont, 1, FW_BOLD);
-    make(m_fontNormal, m_definition.textFont, 0, FW_NORMAL);
+    make(m_fontTitle, m_definition.titleFont);
+    make(m_fontSection, m_definition.headingFont);
+    MakeTableFonts(dc, m_definition, m_fontHeader, m_fontNormal);
     const qv::SelectGuard select(dc, &m_fontNormal);
     m_nLineHeight = dc.GetTextExtent("0", 1).cy;
 }
 
 void Report::AddIntroduction(CDC& dc) {
-    const PackageTotals& totals = m_content.all.totals;
     m_pEngine->AddBreak();
-    CString strText;
-    const size_t nSections = m_content.sections.size();
-    strText.Format(
-        "This report lists %s packages of the machine's package database, in %s section%s; they "
-        "take %s on its disks together. Packages that are in any state but properly installed are "
-        "counted apart; at this moment there are %s of them.",
-        static_cast<LPCTSTR>(WithThousands(totals.nPackages)),
-        static_cast<LPCTSTR>(WithThousands(nSections)), nSections == 1 ? "" : "s",
-        SizeText(totals.nSizeKiB).c_str(), static_cast<LPCTSTR>(WithThousands(totals.nUnusual)));
-    m_pEngine->AddText(strText, &dc, nullptr);
+    m_pEngine->AddText(IntroductionText(m_content).c_str(), &dc, nullptr);
 }
 
 void Report::AddSection(Work& work, const ReportGroup& section, CWnd& parent, CDC& dc) {
@@ -131,7 +145,7 @@ void Report::AddSection(Work& work, const ReportGroup& section, CWnd& parent, CD
 void Report::AddTable(Work& work, const ReportGroup& group, CWnd& parent, CDC& dc) {
     ReportTable& table = m_tables.emplace_back();
     const ReportFonts fonts{m_fontHeader, m_fontNormal};
-    if (!table.Make(parent, m_definition, dc, fonts, m_rcText.Width())) {
+    if (!table.Make(parent, m_definition, dc, fonts, m_sheet.rcText.Width())) {
         m_bTables = false;
         return;
     }
@@ -188,16 +202,16 @@ void Report::PrintPage(CDC& dc, unsigned nPage) {
         // The engine's texts are in the colour that the context has.
         const qv::ColorGuard colors(dc);
         dc.SetTextColor(ReportColorOf(m_definition, kReportTexts));
-        m_pEngine->PrintPage(&dc, m_rcText, nPage);
+        m_pEngine->PrintPage(&dc, m_sheet.rcText, nPage);
     }
     const qv::SelectGuard select(dc, &m_fontNormal);
-    CRect rcLine(m_rcText);
+    CRect rcLine(m_sheet.rcText);
     CString strText("Inventory");
     rcLine.OffsetRect(0, -2 * m_nLineHeight);
     dc.DrawText(strText, &rcLine, DT_SINGLELINE | DT_NOPREFIX);
     dc.DrawText(CTime::GetCurrentTime().Format("%Y-%m-%d"), &rcLine,
                 DT_SINGLELINE | DT_NOPREFIX | DT_RIGHT);
-    rcLine = m_rcText;
+    rcLine = m_sheet.rcText;
     rcLine.top = rcLine.bottom + m_nLineHeight;
     rcLine.bottom = rcLine.top + m_nLineHeight;
     strText.Format("Page %u of %u", nPage, m_nPages);

@@ -1,5 +1,6 @@
 #include "pages/report_page.h"
 
+#include "model/report_export.h"
 #include "model/report_settings.h"
 #include "model/report_values.h"
 #include "pages/printing.h"
@@ -26,6 +27,7 @@ constexpr Choice kButtonTexts[] = {{ID_REPORT_PREVIOUS, "Previous page"},
                                    {ID_REPORT_NEXT, "Next page"},
                                    {ID_REPORT_ZOOM_IN, "Zoom in"},
                                    {ID_REPORT_ZOOM_OUT, "Zoom out"},
+                                   {ID_REPORT_WIDTH, "Page width"},
                                    {ID_REPORT_FIT, "Fit"},
                                    {ID_REPORT_NEW, "New report..."},
                                    {ID_REPORT_EDIT, "Edit report..."},
@@ -36,22 +38,36 @@ constexpr Choice kButtonTexts[] = {{ID_REPORT_PREVIOUS, "Previous page"},
                                    {ID_REPORT_PRINT, "Print..."}};
 constexpr char kStandardName[] = "Standard report";
 
+bool IsScale(UINT nID) {
+    return nID == ID_REPORT_FIT || nID == ID_REPORT_WIDTH;
+}
+
+PreviewWindow::Scale ScaleOf(UINT nID) {
+    return nID == ID_REPORT_FIT ? PreviewWindow::Scale::Whole : PreviewWindow::Scale::Width;
+}
+
 }  // namespace
 
 BEGIN_MESSAGE_MAP(ReportPage, Page)
     ON_WM_CREATE()
     ON_WM_SIZE()
-    ON_COMMAND_RANGE(ID_REPORT_FIRST_OPTION, ID_REPORT_LAST_OPTION, OnOption)
-    ON_UPDATE_COMMAND_UI_RANGE(ID_REPORT_FIRST_OPTION, ID_REPORT_LAST_OPTION, OnUpdateOption)
-    ON_COMMAND(ID_REPORT_PREVIOUS, OnPrevious)
-    ON_COMMAND(ID_REPORT_NEXT, OnNext)
-    ON_COMMAND(ID_REPORT_ZOOM_IN, OnZoomIn)
-    ON_COMMAND(ID_REPORT_ZOOM_OUT, OnZoomOut)
-    ON_COMMAND(ID_REPORT_FIT, OnFit)
-    ON_CBN_SELCHANGE(IDC_REPORT_SHOWN, OnChoice)
-    ON_COMMAND(ID_REPORT_PRINT, OnPrint)
-    ON_UPDATE_COMMAND_UI(ID_REPORT_PREVIOUS, OnUpdatePrevious)
-    ON_UPDATE_COMMAND_UI(ID_REPORT_NEXT, OnUpdateNext)
+    ON_COMMAND_RANGE(ID_REPORT_FIRST_OPTION, ID_REPORT_LAST_OPTION, &ReportPage::OnOption)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_REPORT_FIRST_OPTION, ID_REPORT_LAST_OPTION,
+                               &ReportPage::OnUpdateOption)
+    ON_COMMAND(ID_REPORT_PREVIOUS, &ReportPage::OnPrevious)
+    ON_COMMAND(ID_REPORT_NEXT, &ReportPage::OnNext)
+    ON_COMMAND(ID_REPORT_ZOOM_IN, &ReportPage::OnZoomIn)
+    ON_COMMAND(ID_REPORT_ZOOM_OUT, &ReportPage::OnZoomOut)
+    ON_COMMAND_RANGE(ID_REPORT_FIT, ID_REPORT_FIT, &ReportPage::OnScale)
+    ON_COMMAND_RANGE(ID_REPORT_WIDTH, ID_REPORT_WIDTH, &ReportPage::OnScale)
+    ON_COMMAND(ID_LIST_EXPORT, &ReportPage::OnExport)
+    ON_CBN_SELCHANGE(IDC_REPORT_SHOWN, &ReportPage::OnChoice)
+    ON_COMMAND(ID_REPORT_PRINT, &ReportPage::OnPrint)
+    ON_UPDATE_COMMAND_UI(ID_REPORT_PREVIOUS, &ReportPage::OnUpdatePrevious)
+    ON_UPDATE_COMMAND_UI(ID_REPORT_NEXT, &ReportPage::OnUpdateNext)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_REPORT_ZOOM_IN, ID_REPORT_ZOOM_OUT, &ReportPage::OnUpdateZoom)
+    ON_UPDATE_COMMAND_UI(ID_REPORT_FIT, &ReportPage::OnUpdateScale)
+    ON_UPDATE_COMMAND_UI(ID_REPORT_WIDTH, &ReportPage::OnUpdateScale)
 END_MESSAGE_MAP()
 
 int ReportPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
@@ -73,9 +89,12 @@ int ReportPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
         make(m_aOptions[i], kOptionTexts[i], BS_AUTOCHECKBOX);
     }
     for (int i = 0; i < kButtons; ++i) {
-        make(m_aButtons[i], kButtonTexts[i], BS_PUSHBUTTON);
+        make(m_aButtons[i], kButtonTexts[i],
+             IsScale(kButtonTexts[i].nID) ? BS_CHECKBOX | BS_PUSHLIKE : BS_PUSHBUTTON);
     }
     ShowNames({});
+    m_preview.SetChanged([this] { ShowPreviewState(); });
+    ShowPreviewState();
     return 0;
 }
 
@@ -110,6 +129,7 @@ void ReportPage::ShowReport(const ReportDefinition& report) {
     ShowNames(m_names);
     m_preview.SetReport(nullptr, nullptr);
     m_pReport.reset();
+    m_preview.ShowPage(1);
     if (IsWindowVisible()) {
         MakeReport();
     }
@@ -196,20 +216,26 @@ int ReportPage::PaperNumber() const {
     return kPapers[m_settings.Values().Choice(kSettingPaper)].nPlatformNumber;
 }
 
-// Pages are laid out for the printer that they will come from.
-void ReportPage::OpenDevice() {
-    if (m_dcDevice.GetSafeHdc() != nullptr) {
-        return;
+bool ReportPage::IsLandscape() {
+    const int nOrientation = m_settings.Values().Choice(kSettingOrientation);
+    if (nOrientation != kByTables) {
+        return nOrientation == kLandscape;
     }
-    if (OpenDefaultPrinter(this, m_dcDevice, PaperNumber())) {
-        return;
-    }
-    m_dcDevice.CreateCompatibleDC(nullptr);
+    CDC dc;
+    OpenDevice(dc, false);
+    return Report::NeedsLandscape(m_shown, m_settings.Values(), m_packages.List(), dc);
 }
 
-std::unique_ptr<Report> ReportPage::Compose(Work& work, CDC& dc) {
+// Pages are laid out for the printer that they will come from.
+void ReportPage::OpenDevice(CDC& dc, bool bLandscape) {
+    if (OpenDefaultPrinter(this, dc, PaperNumber(), bLandscape)) {
+        dc.CreateCompatibleDC(nullptr);
+    }
+}
+
+std::unique_ptr<Report> ReportPage::Compose(Work& work, CDC& dc, bool bLandscape) {
     return std::make_unique<Report>(work, *m_pInventory, m_shown, m_settings.Values(), *this,
-                                    m_packages.List(), dc);
+                                    m_packages.List(), dc, bLandscape);
 }
 
 void ReportPage::MakeReport() {
@@ -219,20 +245,39 @@ void ReportPage::MakeReport() {
     const CWaitCursor wait;
     m_preview.SetReport(nullptr, nullptr);
     m_pReport.reset();
-    OpenDevice();
-    const Failure pLeft = Work::Run("Laying out the report...",
-                                    [&](Work& work) { m_pReport = Compose(work, m_dcDevice); });
+    const bool bLandscape = IsLandscape();
+    m_dcDevice.DeleteDC();
+    OpenDevice(m_dcDevice, bLandscape);
+    const Failure pLeft = Work::Run("Laying out the report...", [&](Work& work) {
+        m_pReport = Compose(work, m_dcDevice, bLandscape);
+    });
     m_preview.SetReport(m_pReport.get(), &m_dcDevice);
     m_strMessage =
         pLeft == nullptr ? "" : "The report was not laid out: there is no preview of it.";
 }
 
 CString ReportPage::MarkedText() {
+    static constexpr LPCSTR kScales[] = {"%, page width", "%, whole page", "%"};
     CString strText;
     if (Pages() > 0) {
-        strText.Format("Page %u of %u, %d%%", m_preview.PageShown(), Pages(), m_preview.Percent());
+        strText.Format("Page %u of %u, %d", m_preview.PageShown(), Pages(), m_preview.Percent());
+        strText += kScales[static_cast<int>(m_preview.ScaleShown())];
     }
     return strText;
+}
+
+void ReportPage::OnExport() {
+    if (m_pInventory == nullptr) {
+        return;
+    }
+    m_exporter.UseSettings(m_settings.Values());
+    m_strMessage = m_exporter.Run(*this, "report.html", [this](TableWriter& writer, Work& work) {
+        const ReportContent content(*m_pInventory, m_shown);
+        size_t nRows = 0;
+        WriteReport(writer, m_shown, content, std::string(ReportText(m_shown.strTitle, content)),
+                    m_shown.bIntroduction ? IntroductionText(content) : "",
+                    [&] { work.Step(nRows++, content.all.packages.size()); });
+    });
 }
 
 void ReportPage::OnOption(UINT nID) {
@@ -284,8 +329,41 @@ void ReportPage::OnZoomOut() {
     m_preview.Zoom(false);
 }
 
-void ReportPage::OnFit() {
-    m_preview.Fit();
+void ReportPage::OnScale(UINT nID) {
+    m_preview.Fit(ScaleOf(nID));
+}
+
+void ReportPage::ShowPreviewState() {
+    const auto enable = [this](UINT nID, bool bEnable) {
+        CWnd& button = *GetDlgItem(static_cast<int>(nID));
+        if (!bEnable && CWnd::GetFocus() == &button) {
+            m_preview.SetFocus();  // the keyboard does not go with what is disabled
+        }
+        button.EnableWindow(bEnable);
+    };
+    enable(ID_REPORT_PREVIOUS, m_preview.PageShown() > 1);
+    enable(ID_REPORT_NEXT, m_preview.PageShown() < Pages());
+    enable(ID_REPORT_ZOOM_IN, m_preview.CanZoom(true));
+    enable(ID_REPORT_ZOOM_OUT, m_preview.CanZoom(false));
+    for (const UINT nID : {ID_REPORT_WIDTH, ID_REPORT_FIT}) {
+        CheckDlgButton(static_cast<int>(nID), m_preview.ScaleShown() == ScaleOf(nID));
+    }
+}
+
+void ReportPage::OnUpdateZoom(CCmdUI* pCmdUI) {
+    pCmdUI->Enable(m_preview.CanZoom(pCmdUI->m_nID == ID_REPORT_ZOOM_IN));
+}
+
+void ReportPage::OnUpdateScale(CCmdUI* pCmdUI) {
+    pCmdUI->SetRadio(m_preview.ScaleShown() == ScaleOf(pCmdUI->m_nID));
+}
+
+FindResult ReportPage::Find(const TextQuery& query, bool bDown) {
+    const FoundRow found =
+        m_preview.Find([&](const std::wstring& strPiece, size_t& nAt,
+                           size_t& nEnd) { return query.FindIn(strPiece, nAt, nEnd); },
+                       bDown);
+    return {found.nRow >= 0, found.bWrapped, "the report's pages"};
 }
 
 void ReportPage::OnUpdatePrevious(CCmdUI* pCmdUI) {
@@ -306,7 +384,6 @@ void ReportPage::UseSettings() {
     }
     m_preview.SetReport(nullptr, nullptr);
     m_pReport.reset();
-    m_dcDevice.DeleteDC();  // may have another paper
     if (IsWindowVisible()) {
         MakeReport();
     }
@@ -320,15 +397,16 @@ void ReportPage::OnPrint() {
     }
     PrinterChoice printer(this);
     printer.UsePaper(PaperNumber());
+    printer.UseOrientation(IsLandscape());
     CDC dc;
-    if (printer.Ask(Pages(), dc)) {
-        Tell(Print(dc, printer.FirstPage(), printer.LastPage(), nullptr), this);
+    if (printer.Ask(Pages(), "Inventory", dc)) {
+        Tell(Print(dc, printer.FirstPage(), printer.LastPage(), printer.Output()), this);
     }
 }
 
 Failure ReportPage::PrintToFile(LPCSTR pszOutput) {
     CDC dc;
-    Failure pFailure = OpenDefaultPrinter(this, dc, PaperNumber());
+    Failure pFailure = OpenDefaultPrinter(this, dc, PaperNumber(), IsLandscape());
     return pFailure != nullptr ? std::move(pFailure) : Print(dc, 1, ~0u, pszOutput);
 }
 
@@ -339,7 +417,7 @@ Failure ReportPage::Print(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOu
     m_pReport.reset();
     unsigned nPages = 0;
     Failure pFailure = Work::Run("Laying out the report...", [&](Work& work) {
-        const std::unique_ptr<Report> pReport = Compose(work, dc);
+        const std::unique_ptr<Report> pReport = Compose(work, dc, false);
         work.Say("Printing the report...");
         nLast = std::min(nLast, pReport->Pages());
         nPages = nLast - nFirst + 1;
@@ -352,6 +430,6 @@ Failure ReportPage::Print(CDC& dc, unsigned nFirst, unsigned nLast, LPCSTR pszOu
     if (IsWindowVisible()) {
         MakeReport();
     }
-    m_strMessage = PrintedText(pFailure, nPages);
+    m_strMessage = PrintedText(pFailure, nPages, pszOutput);
     return pFailure;
 }

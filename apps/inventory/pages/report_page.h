@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "pages/exporting.h"
 #include "pages/packages_page.h"
 #include "pages/page.h"
 #include "pages/preview_window.h"
@@ -22,6 +23,7 @@ public:
     void SetInventory(const Inventory& inventory) override;
     CWnd& Control() override { return m_preview; }
     void OnShown() override;
+    FindResult Find(const TextQuery& query, bool bDown) override;
     CString MarkedText() override;
 
     PreviewWindow& Preview() { return m_preview; }
@@ -35,6 +37,8 @@ public:
     // The settings have changed.
     void UseSettings();
 
+    // Of what is shown, in units of the printer; empty without pages.
+    CSize PaperSize() const { return m_pReport != nullptr ? m_pReport->PaperSize() : CSize(0, 0); }
     unsigned Pages() const { return m_pReport != nullptr ? m_pReport->Pages() : 0; }
     // Prints pages nFirst to nLast on a printer's context. pszOutput: a file that the job goes to,
     // null for the printer's own port. Null: it is printed. The page's message says so, or why not.
@@ -55,22 +59,29 @@ protected:
     afx_msg void OnNext();
     afx_msg void OnZoomIn();
     afx_msg void OnZoomOut();
-    afx_msg void OnFit();
+    afx_msg void OnScale(UINT nID);
+    afx_msg void OnExport();
     afx_msg void OnChoice();
     afx_msg void OnUpdatePrevious(CCmdUI* pCmdUI);
     afx_msg void OnUpdateNext(CCmdUI* pCmdUI);
+    afx_msg void OnUpdateZoom(CCmdUI* pCmdUI);
+    afx_msg void OnUpdateScale(CCmdUI* pCmdUI);
     DECLARE_MESSAGE_MAP()
 
 private:
     static constexpr int kOptions = 4;
-    static constexpr int kButtons = 12;
+    static constexpr int kButtons = 13;
 
     bool HasOption(UINT nID) const;
     void TickOptions();
     int PaperNumber() const;
-    void OpenDevice();
+    // How the paper lies, by the settings or by what the tables need.
+    bool IsLandscape();
+    void OpenDevice(CDC& dc, bool bLandscape);
+    // The buttons as the preview is.
+    void ShowPreviewState();
     void MakeReport();
-    std::unique_ptr<Report> Compose(Work& work, CDC& dc);
+    std::unique_ptr<Report> Compose(Work& work, CDC& dc, bool bLandscape);
 
     PackagesPage& m_packages;
     SettingsPage& m_settings;
@@ -86,4 +97,5 @@ private:
     PreviewWindow m_preview;
     CDC m_dcDevice;  // the default printer, or the screen where there is none
     std::unique_ptr<Report> m_pReport;
+    Exporter m_exporter;
 };

@@ -1,6 +1,5 @@
 #include "pages/report_table.h"
 
-#include "model/column_widths.h"
 #include "model/report_settings.h"
 #include "resource.h"
 
@@ -42,22 +41,27 @@ bool ReportTable::Make(CWnd& parent, const ReportDefinition& report, CDC& dc,
     return true;
 }
 
-// On paper the columns have the proportions of those on screen: so the widths are those of the
-// paper.
-void ReportTable::SetWidths(CDC& dc, const ReportFonts& fonts, int nRoom) {
+std::vector<ColumnWish> ReportTable::Wishes(const std::vector<ReportColumn>& columns, CDC& dc,
+                                            const ReportFonts& fonts) {
     const int nMargins = ::MulDiv(kMargins, dc.GetDeviceCaps(LOGPIXELSX), kScreenDpi);
     const auto width = [&](CFont& font, LPCSTR pszText) {
         const qv::SelectGuard select(dc, &font);
         return static_cast<int>(dc.GetTextExtent(pszText, lstrlen(pszText)).cx) + nMargins;
     };
     std::vector<ColumnWish> wishes;
-    for (const ReportColumn column : m_columns) {
+    for (const ReportColumn column : columns) {
         const ReportColumnInfo& info = InfoOf(column);
         const int nHeading = width(fonts.heading, info.pszHeading);
         wishes.push_back(
             {std::max(width(fonts.text, info.pszSample), nHeading), nHeading, info.bMayBeCut});
     }
-    const std::vector<int> widths = ShareWidth(wishes, nRoom);
+    return wishes;
+}
+
+// On paper the columns have the proportions of those on screen: so the widths are those of the
+// paper.
+void ReportTable::SetWidths(CDC& dc, const ReportFonts& fonts, int nRoom) {
+    const std::vector<int> widths = ShareWidth(Wishes(m_columns, dc, fonts), nRoom);
     for (size_t i = 0; i < widths.size(); ++i) {
         SetColWidth(static_cast<int>(i), widths[i], nullptr);
     }

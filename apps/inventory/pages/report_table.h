@@ -4,6 +4,7 @@
 #pragma once
 
 #include "QVControls.h"
+#include "model/column_widths.h"
 #include "model/report_content.h"
 
 #include <functional>
@@ -20,6 +21,10 @@ public:
               int nRoom);
     // In the order given, and calls step before each. The packages need not live on.
     void Fill(const std::vector<const Package*>& packages, const std::function<void()>& step);
+
+    // What the columns of a report would have.
+    static std::vector<ColumnWish> Wishes(const std::vector<ReportColumn>& columns, CDC& dc,
+                                          const ReportFonts& fonts);
 
 private:
     void SetWidths(CDC& dc, const ReportFonts& fonts, int nRoom);

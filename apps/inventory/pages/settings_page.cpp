@@ -1,6 +1,7 @@
 #include "pages/settings_page.h"
 
 #include "resource.h"
+#include "sources/machine_name.h"
 #include "sources/settings_file.h"
 
 #include <shlobj.h>
@@ -28,7 +29,8 @@ BEGIN_MESSAGE_MAP(SettingsPage, Page)
     ON_WM_SIZE()
     ON_WM_SHOWWINDOW()
     ON_WM_DESTROY()
-    ON_MESSAGE(kTellNow, OnTellNow)
+    ON_MESSAGE(kTellNow, &SettingsPage::OnTellNow)
+    ON_COMMAND(ID_LIST_EXPORT, &SettingsPage::OnExport)
 END_MESSAGE_MAP()
 
 int SettingsPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
@@ -74,7 +76,11 @@ Failure SettingsPage::Load(const CString& strPath) {
 
 void SettingsPage::ShowDatabase(const CString& strPath) {
     m_strDatabase = strPath;
-    Fill();
+    if (m_grid.NumRows() > kSettingsInGrid) {
+        m_grid.SetCellText(kSettingsInGrid, kFolderColumn, m_strDatabase);  // the first behind them
+    } else {
+        Fill();
+    }
 }
 
 void SettingsPage::Fill() {
@@ -90,13 +96,10 @@ void SettingsPage::Fill() {
     }
     // What is only told: the database may be copied from its cell's text, the machine's name is
     // out of anybody's hands.
-    char szMachine[MAX_COMPUTERNAME_LENGTH + 1] = "";
-    DWORD nLength = sizeof(szMachine);
-    ::GetComputerName(szMachine, &nLength);
     const int nDatabase = m_grid.AddRow(CString("Package database"), 0);
     m_grid.SetCellText(nDatabase, kFolderColumn, m_strDatabase);
     const int nMachine = m_grid.AddRow(CString("Machine"), 0);
-    m_grid.SetCellText(nMachine, kTextColumn, szMachine);
+    m_grid.SetCellText(nMachine, kTextColumn, MachineName());
     for (int nCol = kTextColumn; nCol <= kFolderColumn; ++nCol) {
         m_grid.SetCellReadOnly(nDatabase, nCol, TRUE);
         m_grid.EnableCell(nMachine, nCol, FALSE);
@@ -146,6 +149,20 @@ void SettingsPage::Write() {
 LRESULT SettingsPage::OnTellNow(WPARAM, LPARAM) {
     Tell(std::move(m_pUntold));
     return 0;
+}
+
+void SettingsPage::OnExport() {
+    TakeCells();
+    m_exporter.UseSettings(m_settings);
+    m_strMessage = m_exporter.Run(*this, "settings.csv", [this](TableWriter& writer, Work&) {
+        writer.Begin("Settings", {{"Setting"}, {"Value"}});
+        for (int n = 0; n < kSettingsInGrid; ++n) {
+            writer.Row({m_settings.All()[n].pszName, m_settings.Value(n)});
+        }
+        writer.Row({"Package database", static_cast<LPCSTR>(m_strDatabase)});
+        writer.Row({"Machine", static_cast<LPCSTR>(MachineName())});
+        writer.End();
+    });
 }
 
 // --- What the grid tells

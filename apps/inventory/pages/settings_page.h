@@ -5,6 +5,7 @@
 
 #include "errors.h"
 #include "model/settings.h"
+#include "pages/exporting.h"
 #include "pages/page.h"
 
 class SettingsPage : public Page {
@@ -12,6 +13,11 @@ public:
     LPCSTR Title() const override { return "Settings"; }
     void SetInventory(const Inventory& /*inventory*/) override {}
     CWnd& Control() override { return m_grid; }
+    FindResult Find(const TextQuery& query, bool bDown) override {
+        FindResult result = FindInGrid(m_grid, query, bDown);
+        result.strPlace = "the settings";
+        return result;
+    }
 
     // Reads the settings and shows them. Null: nothing was wrong.
     Failure Load(const CString& strPath);
@@ -32,6 +38,7 @@ protected:
     afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);
     afx_msg void OnDestroy();
     afx_msg LRESULT OnTellNow(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnExport();
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -49,4 +56,5 @@ private:
     std::string m_strSaved;  // as it stands in the file
     CString m_strPath;
     CString m_strDatabase;
+    Exporter m_exporter;
 };

@@ -1,5 +1,6 @@
 #include "pages/tree_pane.h"
 
+#include "model/count_text.h"
 #include "resource.h"
 
 #include <algorithm>
@@ -28,20 +29,20 @@ bool IsCheckChange(const NM_TREEVIEW& notification) {
 
 BEGIN_MESSAGE_MAP(TreePane, QVHeaderWnd)
     ON_WM_SIZE()
-    ON_NOTIFY(TVN_SELCHANGING, IDC_TREE, OnSelChanging)
-    ON_NOTIFY(TVN_SELCHANGED, IDC_TREE, OnSelChanged)
-    ON_NOTIFY(TVN_ITEMEXPANDING, IDC_TREE, OnItemExpanding)
-    ON_COMMAND_RANGE(ID_TREE_EXPAND, ID_TREE_COLLAPSE_ALL, OnExpand)
-    ON_COMMAND(ID_TREE_SORT, OnSort)
-    ON_COMMAND_RANGE(ID_VIEW_INDENTED, ID_VIEW_ABSOLUTE, OnColumns)
-    ON_COMMAND_RANGE(ID_VIEW_LINES, ID_VIEW_SHOW_SELECTION, OnStyle)
-    ON_COMMAND_RANGE(ID_VETO_SELECTION, ID_VETO_CHECK, OnVeto)
-    ON_UPDATE_COMMAND_UI(ID_TREE_EXPAND, OnUpdateSelection)
-    ON_UPDATE_COMMAND_UI(ID_TREE_COLLAPSE, OnUpdateSelection)
-    ON_UPDATE_COMMAND_UI(ID_TREE_SORT, OnUpdateSelection)
-    ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_INDENTED, ID_VIEW_ABSOLUTE, OnUpdateColumns)
-    ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_LINES, ID_VIEW_SHOW_SELECTION, OnUpdateStyle)
-    ON_UPDATE_COMMAND_UI_RANGE(ID_VETO_SELECTION, ID_VETO_CHECK, OnUpdateVeto)
+    ON_NOTIFY(TVN_SELCHANGING, IDC_TREE, &TreePane::OnSelChanging)
+    ON_NOTIFY(TVN_SELCHANGED, IDC_TREE, &TreePane::OnSelChanged)
+    ON_NOTIFY(TVN_ITEMEXPANDING, IDC_TREE, &TreePane::OnItemExpanding)
+    ON_COMMAND_RANGE(ID_TREE_EXPAND, ID_TREE_COLLAPSE_ALL, &TreePane::OnExpand)
+    ON_COMMAND(ID_TREE_SORT, &TreePane::OnSort)
+    ON_COMMAND_RANGE(ID_VIEW_INDENTED, ID_VIEW_ABSOLUTE, &TreePane::OnColumns)
+    ON_COMMAND_RANGE(ID_VIEW_LINES, ID_VIEW_SHOW_SELECTION, &TreePane::OnStyle)
+    ON_COMMAND_RANGE(ID_VETO_SELECTION, ID_VETO_CHECK, &TreePane::OnVeto)
+    ON_UPDATE_COMMAND_UI(ID_TREE_EXPAND, &TreePane::OnUpdateSelection)
+    ON_UPDATE_COMMAND_UI(ID_TREE_COLLAPSE, &TreePane::OnUpdateSelection)
+    ON_UPDATE_COMMAND_UI(ID_TREE_SORT, &TreePane::OnUpdateSelection)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_INDENTED, ID_VIEW_ABSOLUTE, &TreePane::OnUpdateColumns)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_LINES, ID_VIEW_SHOW_SELECTION, &TreePane::OnUpdateStyle)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_VETO_SELECTION, ID_VETO_CHECK, &TreePane::OnUpdateVeto)
 END_MESSAGE_MAP()
 
 BOOL TreePane::Create(CWnd* pParent, UINT nID) {
@@ -72,7 +73,7 @@ CString TreePane::MarkedText() {
 
 void TreePane::Show(const Inventory& inventory) {
     m_tree.Show(inventory);
-    m_hTold = nullptr;
+    m_hTold = m_tree.GetSelectedItem();
 }
 
 void TreePane::ShowSection(const std::string& strSection) {

@@ -2,11 +2,11 @@
 
 #include "resource.h"
 
+#include <cstring>
+#include <dlgs.h>
 #include <map>
 
 namespace {
-
-const char* s_pszWanted = "";
 
 constexpr UINT_PTR kFirstTimer = 100;
 constexpr UINT kLookAgain = 50;  // milliseconds
@@ -44,19 +44,6 @@ void CALLBACK LookForDialog(HWND hWnd, UINT, UINT_PTR nTimer, DWORD) {
     }
 }
 
-// The dialog runs a loop of its own, so what is typed into it comes from a timer.
-void CALLBACK AnswerFind(HWND hWnd, UINT, UINT_PTR nTimer, DWORD) {
-    const HWND hDialog = ::FindWindow(nullptr, "Find a package");
-    if (hDialog == nullptr || ::GetFocus() != ::GetDlgItem(hDialog, IDC_FIND_TEXT)) {
-        return;
-    }
-    ::KillTimer(hWnd, nTimer);
-    for (const char* psz = s_pszWanted; *psz != '\0'; ++psz) {
-        Press(static_cast<WORD>(*psz));
-    }
-    Press(VK_RETURN);
-}
-
 }  // namespace
 
 bool Walk::Run() {
@@ -78,11 +65,11 @@ bool Walk::All() {
            LayoutKept() && FilterSection() && FilterDate() && FilterOpens() && Jump() &&
            ToolTip() && ReportMenu() && LargestPackages() && LargestOnPaper() && CancelPrint() &&
            TypeSettings() && ChooseSetting() && ChooseFolder() && SettingsKept() && ReportPages() &&
-           Zoom() && ReportSettings() && PreferencesDropped() && Paper() && NewReport() &&
-           FinishEarly() && CancelWizard() && RunFromBar() && EditReport() && DeleteReport() &&
-           SaveReportAs() && AskAgain() && RenameReport() && Logs() && FollowLog() &&
-           LogOnPaper() && DamagedDatabase() && LockedFile() && FullDisk() && ErrorsInLog() &&
-           OpenDatabase() && OpenMachine() && AllComparisons();
+           Zoom() && FindInReport() && ExportReport() && ReportSettings() && PreferencesDropped() &&
+           Paper() && NewReport() && FinishEarly() && CancelWizard() && RunFromBar() &&
+           EditReport() && DeleteReport() && SaveReportAs() && AskAgain() && RenameReport() &&
+           Logs() && FollowLog() && LogOnPaper() && DamagedDatabase() && LockedFile() &&
+           FullDisk() && ErrorsInLog() && OpenDatabase() && OpenMachine() && AllComparisons();
 }
 
 bool Walk::Station(const char* pszName, CWnd* pWnd) {
@@ -130,9 +117,38 @@ bool Walk::Enter(CWnd& dialog, int nID) {
     return Expect("a click gives the focus", [&] { return ::GetFocus() == hItem; });
 }
 
-void Walk::AskFor(const char* pszLetters) {
-    constexpr UINT_PTR kTimer = 1;
-    s_pszWanted = pszLetters;
-    m_frame.SetTimer(kTimer, kLookAgain, AnswerFind);
+// The platform's dialog stays up beside the window: it is closed again.
+bool Walk::AskFor(const char* pszLetters, const char* pszStation) {
+    HWND hDialog = nullptr;
+    HWND hText = nullptr;
     Press('F', VK_CONTROL);
+    if (!Expect("the platform's dialog for finding comes up", [&] {
+            hDialog = ::FindWindow("#32770", "Find");
+            hText = hDialog != nullptr ? ::GetDlgItem(hDialog, edt1) : nullptr;
+            return hText != nullptr && ::GetFocus() == hText;
+        })) {
+        return false;
+    }
+    ::SendMessage(hText, EM_SETSEL, 0, -1);
+    for (const char* psz = pszLetters; *psz != '\0'; ++psz) {
+        Press(static_cast<WORD>(*psz));
+    }
+    const int nLetters = static_cast<int>(strlen(pszLetters));
+    const CString strBefore = m_frame.StatusText(0);
+    if (!Expect("a text is typed", [&] { return ::GetWindowTextLength(hText) == nLetters; })) {
+        return false;
+    }
+    Press(VK_RETURN);
+    const bool bSaid = Expect("it is said how the search went", [&] {
+        const CString strSaid = m_frame.StatusText(0);
+        return strSaid != strBefore &&
+               (strSaid.Find("found in") >= 0 || strSaid.Find("Found from") >= 0 ||
+                strSaid.Find("is not in") >= 0);
+    });
+    const bool bGood = bSaid && (pszStation == nullptr || Station(pszStation));
+    ::SetFocus(hText);
+    Press(VK_ESCAPE);
+    return bGood && Expect("Escape closes the dialog, and the window has the focus again", [&] {
+               return !::IsWindow(hDialog) && ::IsChild(m_frame.m_hWnd, ::GetFocus());
+           });
 }

@@ -33,6 +33,8 @@ private:
     // The list
     bool Packages();
     bool FindPackage();
+    // Writes the list in front to a file, through the dialog.
+    bool ExportTo(const CString& strFile, const char* pszStation);
     bool ImageColumn();
     bool Export();
     bool Refresh();
@@ -57,6 +59,7 @@ private:
     // The largest packages
     bool LargestPackages();
     bool LargestOnPaper();
+    bool PrintToNamedFile();
     bool LargestHeading(int nCol, LargestList::Order order, const char* pszStation);
     // The logs
     bool Logs();
@@ -83,6 +86,8 @@ private:
     // The report
     bool ReportPages();
     bool Zoom();
+    bool FindInReport();
+    bool ExportReport();
     bool Paper();
     // The preferences
     bool ReportSettings();
@@ -115,6 +120,7 @@ private:
     bool SaveSnapshot();
     bool CompareWithEarlier();
     bool ComparisonPages();
+    bool ExportComparison();
     bool ComparisonCells(class ChangedGrid& grid);
     bool ComparisonPreview();
     bool ShowInInventory();
@@ -138,8 +144,9 @@ private:
     CPoint PointOfRow(int nItem);
     CPoint PointOfTool(UINT nID);
     void ClickTab(int nPage);
-    // Opens the dialog that asks what to find, and types letters into it.
-    void AskFor(const char* pszLetters);
+    // Opens the dialog that asks what to find, types letters into it, and closes it when the search
+    // is through and the picture, unless null, is taken.
+    bool AskFor(const char* pszLetters, const char* pszStation = nullptr);
     // Clicks on an item of a dialog, which has the focus then.
     bool Enter(CWnd& dialog, int nID);
     // Acts in a dialog with that title as soon as it is up; modal ones run a loop of their own. The

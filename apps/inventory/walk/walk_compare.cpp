@@ -1,6 +1,5 @@
 #include "walk/walk.h"
 
-#include "afx/documents/print_output.h"
 #include "compare/changed_page.h"
 #include "compare/comparison_frame.h"
 #include "compare/comparison_view.h"
@@ -11,6 +10,7 @@
 
 #include <afxpriv.h>
 
+#include <dlgs.h>
 #include <fstream>
 
 namespace {
@@ -90,14 +90,17 @@ CWnd& PreviewButton(UINT nID) {
     return *Frame().GetDlgItem(AFX_IDW_PREVIEW_BAR)->GetDlgItem(static_cast<int>(nID));
 }
 
+int TwipsPerPixel(CWnd& wnd) {
+    constexpr int kTwipsPerInch = 1440;
+    return kTwipsPerInch / CClientDC(&wnd).GetDeviceCaps(LOGPIXELSX);
+}
+
 // Where the strip itself says that a tab is.
 CPoint PointOfTab(short nTab) {
     CTab& tabs = View()->GetTabCtrl();
     CRect rc;
     tabs.GetWindowRect(&rc);
-    const CClientDC dc(&tabs);
-    const int nTwips = 1440 / dc.GetDeviceCaps(LOGPIXELSX);
-    const int nRight = rc.left + tabs.GetClientLeft() / nTwips;
+    const int nRight = rc.left + tabs.GetClientLeft() / TwipsPerPixel(tabs);
     CPoint pt((rc.left + nRight) / 2, rc.top);
     if (nRight - rc.left < 8) {  // at the other side
         pt.x = rc.right - 8;
@@ -112,10 +115,11 @@ CPoint PointOfTab(short nTab) {
     return pt + CSize(0, 6);
 }
 
+constexpr int kInCell = 8;  // pixels
+
 CPoint PointOfCell(ChangedGrid& grid, int nRow, int nCol) {
-    const CClientDC dc(&grid);
-    const int nTwips = 1440 / dc.GetDeviceCaps(LOGPIXELSX);
-    CPoint pt(grid.GetColPos(nCol) / nTwips + 8, grid.GetRowPos(nRow) / nTwips + 8);
+    const int nTwips = TwipsPerPixel(grid);
+    CPoint pt(grid.GetColPos(nCol) / nTwips + kInCell, grid.GetRowPos(nRow) / nTwips + kInCell);
     grid.ClientToScreen(&pt);
     return pt;
 }
@@ -128,6 +132,19 @@ bool TipShows() {
         }
     }
     return false;
+}
+
+// A menu runs a loop of its own, so it is looked at and closed from a timer.
+CPoint s_ptMenu(-1, -1);
+void CALLBACK CloseMenu(HWND hWnd, UINT, UINT_PTR nTimer, DWORD) {
+    const HWND hMenu = ::FindWindow("#32768", nullptr);
+    if (hMenu != nullptr && ::IsWindowVisible(hMenu)) {
+        ::KillTimer(hWnd, nTimer);
+        CRect rc;
+        ::GetWindowRect(hMenu, &rc);
+        s_ptMenu = rc.TopLeft();
+        Press(VK_ESCAPE);
+    }
 }
 
 CString ClipboardText() {
@@ -217,18 +234,35 @@ bool Walk::ComparisonPages() {
     }
     auto& grid = static_cast<ChangedGrid&>(View()->Active()->Control());
     Press(VK_F3);
-    return Expect("the next difference is the second row", [&] { return grid.Row() == 1; }) &&
-           Station("compare-6-changed", &Frame()) && ComparisonCells(grid);
+    if (!Expect("the next difference is the second row", [&] { return grid.Row() == 1; })) {
+        return false;
+    }
+    Frame().SendMessage(WM_COMMAND, ID_COMPARE_AGAIN);
+    return Happened("which it stays as all is compared again", grid.Row() == 1) &&
+           Station("compare-6-changed", &Frame()) && ComparisonCells(grid) && ExportComparison();
+}
+
+bool Walk::ExportComparison() {
+    const CString strFile = m_strFolder + "\\comparison.html";
+    CFileStatus status;
+    return InDialog(
+               "Export the list", [] { Press('E', VK_CONTROL); },
+               [&](CWnd& dialog) {
+                   dialog.SetDlgItemText(IDC_EXPORT_PATH, strFile);
+                   Press(VK_RETURN);
+                   return true;
+               }) &&
+           Expect("the page of the comparison is a web page",
+                  [&] { return CFile::GetStatus(strFile, status) && status.m_size > 0; });
 }
 
 bool Walk::ComparisonCells(ChangedGrid& grid) {
-    constexpr int kNow = 4;
-    const auto& changed = View()->Active()->Rows();
+    const auto nRows = static_cast<int>(View()->Active()->Rows());
     int nRow = 1;
-    while (nRow < static_cast<int>(changed) && grid.GetTextMatrix(nRow, 6).Find("newer") < 0) {
+    while (nRow < nRows && grid.GetTextMatrix(nRow, ChangedGrid::kChange).Find("newer") < 0) {
         ++nRow;
     }
-    const CPoint pt = PointOfCell(grid, nRow, kNow);
+    const CPoint pt = PointOfCell(grid, nRow, ChangedGrid::kNow);
     const CClientDC dcScreen(nullptr);
     if (!Expect("a newer version is green",
                 [&] { return dcScreen.GetPixel(pt - CSize(5, 5)) == RGB(224, 246, 224); })) {
@@ -245,9 +279,17 @@ bool Walk::ComparisonCells(ChangedGrid& grid) {
     if (!Expect("a click picks the cell", [&] { return grid.GetRow() == nRow; })) {
         return false;
     }
+    const CPoint ptBelow(pt.x - kInCell,
+                         pt.y - kInCell + grid.GetRowHeight(nRow) / TwipsPerPixel(grid));
+    Frame().SetTimer(1, 50, CloseMenu);
+    Press(VK_F10, VK_SHIFT);
+    if (!Expect("a key opens its menu below it", [&] { return s_ptMenu == ptBelow; })) {
+        return false;
+    }
     Press('C', VK_CONTROL);
-    return Expect("a key copies it",
-                  [&] { return ClipboardText() == grid.GetTextMatrix(nRow, kNow) + "\r\n"; });
+    return Expect("a key copies it", [&] {
+        return ClipboardText() == grid.GetTextMatrix(nRow, ChangedGrid::kNow) + "\r\n";
+    });
 }
 
 bool Walk::ComparisonPreview() {
@@ -268,16 +310,21 @@ bool Walk::ComparisonPreview() {
         return false;
     }
     const CString strFile = m_strFolder + "\\comparison.ps";
-    {
-        const AfxPrintOutput output(strFile);
-        if (!InDialog(
-                "Print", [] { ClickOn(PreviewButton(AFX_ID_PREVIEW_PRINT)); },
-                [](CWnd&) {
+    bool bNamed = false;
+    if (!InDialog(
+            "Print", [] { ClickOn(PreviewButton(AFX_ID_PREVIEW_PRINT)); },
+            [&](CWnd& dialog) {
+                dialog.CheckDlgButton(chx1, BST_CHECKED);  // to a file
+                WhileUp("Print to File", [&](CWnd&) {
+                    ::SetWindowText(::GetFocus(), strFile);
                     Press(VK_RETURN);
-                    return true;
-                })) {
-            return false;
-        }
+                    return bNamed = true;
+                });
+                Press(VK_RETURN);
+                return true;
+            }) ||
+        !Happened("it is asked for the file", bNamed)) {
+        return false;
     }
     CFileStatus status;
     return Expect("it is printed from there, and the pages are back",

@@ -1,6 +1,7 @@
 #include "walk/walk_input.h"
 
 #include "QVControls.h"
+#include "screen_picture/screen_picture.h"
 
 #include <vector>
 
@@ -66,38 +67,5 @@ void Press(WORD nKey, WORD nHeld) {
 bool SavePicture(CWnd& wnd, const CString& strFile) {
     CRect rect;
     wnd.GetWindowRect(&rect);
-    CClientDC dcScreen(nullptr);
-    CDC dc;
-    CBitmap bitmap;
-    dc.CreateCompatibleDC(&dcScreen);
-    bitmap.CreateCompatibleBitmap(&dcScreen, rect.Width(), rect.Height());
-    {
-        const qv::SelectGuard select(dc, &bitmap);
-        dc.BitBlt(0, 0, rect.Width(), rect.Height(), &dcScreen, rect.left, rect.top, SRCCOPY);
-    }
-
-    BITMAPINFOHEADER info{};
-    info.biSize = sizeof(info);
-    info.biWidth = rect.Width();
-    info.biHeight = rect.Height();
-    info.biPlanes = 1;
-    info.biBitCount = 24;
-    const size_t nStride = (static_cast<size_t>(rect.Width()) * 3 + 3) / 4 * 4;
-    std::vector<BYTE> bits(nStride * static_cast<size_t>(rect.Height()));
-    if (::GetDIBits(dc, bitmap, 0, static_cast<UINT>(rect.Height()), bits.data(),
-                    reinterpret_cast<BITMAPINFO*>(&info), DIB_RGB_COLORS) == 0) {
-        return false;
-    }
-    BITMAPFILEHEADER header{};
-    header.bfType = 0x4D42;  // "BM"
-    header.bfOffBits = sizeof(header) + sizeof(info);
-    header.bfSize = header.bfOffBits + static_cast<DWORD>(bits.size());
-    CFile file;
-    if (!file.Open(strFile, CFile::modeCreate | CFile::modeWrite)) {
-        return false;
-    }
-    file.Write(&header, sizeof(header));
-    file.Write(&info, sizeof(info));
-    file.Write(bits.data(), static_cast<UINT>(bits.size()));
-    return true;
+    return ScreenPicture(rect).Save(strFile);
 }

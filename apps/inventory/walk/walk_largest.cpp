@@ -46,5 +46,6 @@ bool Walk::LargestOnPaper() {
     }
     CFileStatus status;
     return Happened("the list comes out of the printer",
-                    CFile::GetStatus(strFile, status) != FALSE);
+                    CFile::GetStatus(strFile, status) != FALSE) &&
+           PrintToNamedFile();
 }

@@ -2,30 +2,56 @@
 
 #include "resource.h"
 
+#include <fstream>
+
 namespace {
 
 constexpr int kPageLog = 3;
 
 }  // namespace
 
+// Two parts of a log, as it would be rotated.
 bool Walk::Logs() {
     ClickTab(kPageLog);
-    QVTextWnd& left = m_frame.Log().Left().GetTextWnd();
-    QVTextWnd& right = m_frame.Log().Right().GetTextWnd();
+    LogPage& log = m_frame.Log();
+    QVTextWnd& left = log.Left().GetTextWnd();
+    QVTextWnd& right = log.Right().GetTextWnd();
     if (!Expect("the log comes up",
                 [&] { return left.IsWindowVisible() && left.NumLines() > 0; }) ||
-        !Station("log-1-two-files")) {
+        !Happened("a log without an older part is alone, and that is said",
+                  log.ShowsBoth() || m_frame.Log().Message().Find(" alone: ") >= 0) ||
+        !Station("log-1-one-file")) {
+        return false;
+    }
+    const CString strFile = m_strFolder + "\\rotated.log";
+    const auto write = [&](const CString& strPath, int nFrom, int nTo) {
+        std::ofstream file(strPath);
+        for (int i = nFrom; i < nTo; ++i) {
+            file << left.GetLineText(i) << '\n';
+        }
+    };
+    write(strFile + ".1", 0, left.NumLines() / 2);
+    write(strFile, left.NumLines() / 2, left.NumLines());
+    if (!Happened("a rotated log opens", log.Open(strFile) == nullptr) ||
+        !Happened("with what was logged before beside it",
+                  log.ShowsBoth() && right.IsWindowVisible() && right.NumLines() > 0) ||
+        !Station("log-2-two-parts")) {
         return false;
     }
     left.SetFocus();
     Press(VK_NEXT);
     Press(VK_DOWN);
-    return Expect("both scroll together",
-                  [&] {
-                      return left.VScrollPos() > 1 &&
-                             (right.NumRows() < 40 || right.VScrollPos() == left.VScrollPos());
-                  }) &&
-           Station("log-2-scrolled");
+    if (!Expect("both scroll together", [&] {
+            return left.VScrollPos() > 1 &&
+                   (right.NumRows() < 40 || right.VScrollPos() == left.VScrollPos());
+        })) {
+        return false;
+    }
+    const int nPos = left.VScrollPos();
+    Press(VK_F5);
+    return Expect("F5 leaves the log where it is",
+                  [&] { return left.VScrollPos() == nPos && left.NumLines() > 0; }) &&
+           AskFor("REMOVE", "log-3-find");
 }
 
 // A log of the walk's own grows while it is shown.
@@ -58,7 +84,7 @@ bool Walk::FollowLog() {
     append(100, 150);
     if (!Expect("the end of a growing log is followed",
                 [&] { return left.NumLines() == 150 && left.VScrollPos() > nPos; }) ||
-        !Station("log-3-following")) {
+        !Station("log-4-following")) {
         return false;
     }
     m_frame.PostMessage(WM_COMMAND, ID_LOG_FOLLOW);

@@ -1,31 +1,13 @@
 #include "walk/walk.h"
 
 #include "resource.h"
+#include "work.h"
 
 #include <algorithm>
 
 namespace {
 
-constexpr UINT_PTR kTimer = 2;
-constexpr UINT kLookAgain = 50;  // milliseconds
 constexpr int kSizeColumn = 2;
-
-CString s_strExportFile;
-
-// Dialogs run a loop of their own, so what they are told comes from a timer.
-void CALLBACK AnswerExport(HWND hWnd, UINT, UINT_PTR nTimer, DWORD) {
-    const HWND hDialog = ::FindWindow(nullptr, "Export the list");
-    const HWND hPath = hDialog != nullptr ? ::GetDlgItem(hDialog, IDC_EXPORT_PATH) : nullptr;
-    if (hPath == nullptr || ::GetFocus() != hPath) {
-        return;
-    }
-    ::KillTimer(hWnd, nTimer);
-    ::SetWindowText(hPath, s_strExportFile);
-    Press(VK_TAB);
-    Press(VK_TAB);
-    Press(VK_DOWN);  // the comma
-    Press(VK_RETURN);
-}
 
 int CountLines(const CString& strFile) {
     CStdioFile file;
@@ -88,14 +70,27 @@ bool Walk::Packages() {
 }
 
 bool Walk::FindPackage() {
-    AskFor("ZLIB");
-    return Expect("a package is found and shown",
-                  [this] {
-                      const Package* pPackage = List().PackageOf(List().GetSelectedItem());
-                      return pPackage != nullptr &&
-                             pPackage->strName.find("zlib") != std::string::npos;
-                  }) &&
-           Station("packages-2-find");
+    const auto text = [this] {
+        CString strRow;
+        List().GetItemString(List().GetSelectedItem(), strRow);
+        return strRow.MakeLower();
+    };
+    if (!AskFor("ZLIB", "packages-2-find") ||
+        !Happened("a row that has the text is selected", text().Find("zlib") >= 0)) {
+        return false;
+    }
+    const int nFirst = List().GetSelectedItem();
+    Press(VK_F3);
+    if (!Expect("F3 goes on",
+                [&] { return List().GetSelectedItem() != nFirst && text().Find("zlib") >= 0; })) {
+        return false;
+    }
+    Press(VK_F3, VK_SHIFT);
+    return Expect("and Shift+F3 back", [&] { return List().GetSelectedItem() == nFirst; }) &&
+           AskFor("QQQ", "packages-2b-not-found") &&
+           Happened("what is nowhere is said to be so",
+                    m_frame.StatusText(0).Find("is not in the list") >= 0 &&
+                        List().GetSelectedItem() == nFirst);
 }
 
 bool Walk::ImageColumn() {
@@ -112,22 +107,57 @@ bool Walk::ImageColumn() {
     return Expect("and lose it", [this] { return !List().HasImageColumn(); });
 }
 
-bool Walk::Export() {
-    s_strExportFile = m_strFolder + "\\packages.csv";
-    m_frame.SetTimer(kTimer, kLookAgain, AnswerExport);
-    Press('E', VK_CONTROL);
-    return Expect("the list is exported, a line for each row", [this] {
-        return m_frame.StatusText(0).Find("rows written") >= 0 &&
-               CountLines(s_strExportFile) == List().GetItemCount();
-    });
+bool Walk::ExportTo(const CString& strFile, const char* pszStation) {
+    return InDialog(
+               "Export the list", [] { Press('E', VK_CONTROL); },
+               [&](CWnd& dialog) {
+                   dialog.SetDlgItemText(IDC_EXPORT_PATH, strFile);
+                   const bool bGood = Station(pszStation);
+                   Press(VK_RETURN);
+                   return bGood;
+               }) &&
+           Expect("it is said how much was written",
+                  [this] { return m_frame.StatusText(0).Find(" written to ") >= 0; });
 }
 
+bool Walk::Export() {
+    const CString strFile = m_strFolder + "\\packages.csv";
+    return ExportTo(m_strFolder + "\\packages.html", "packages-4-export-page") &&
+           ExportTo(strFile, "packages-5-export-csv") &&
+           Happened("a line for each row, below the headings",
+                    CountLines(strFile) == List().GetItemCount() + 1);
+}
+
+// What is open and selected, and where it is scrolled to, stays so.
 bool Walk::Refresh() {
     const Package* pSelected = List().PackageOf(List().GetSelectedItem());
     const std::string strName = pSelected != nullptr ? pSelected->strName : "";
+    const auto open = [this] {
+        int nOpen = 0;
+        for (HTREEITEM h = Tree().GetRootItem(); h != nullptr; h = Tree().WalkNext(h)) {
+            nOpen += Tree().ItemExpanded(h) ? 1 : 0;
+        }
+        return nOpen;
+    };
+    const int nOpen = open();
+    const int nTreeTop = Tree().GetScrollPos(SB_VERT);
+    const int nMarked = Tree().CountMarked().nPackages;
+    const CString strTreeRow = Tree().GetItemText(Tree().GetSelectedItem());
+    const int nListTop = List().GetTopIndex();
     Press(VK_F5);
-    return Expect("what was selected is selected again after a refresh", [&] {
-        const Package* pPackage = List().PackageOf(List().GetSelectedItem());
-        return pPackage != nullptr && pPackage->strName == strName && Details().Shows() == strName;
-    });
+    return Expect("the packages are read again",
+                  [&] { return Tree().GetRootItem() != nullptr && !Work::IsRunning(); }) &&
+           Expect("what was selected is selected again after a refresh",
+                  [&] {
+                      const Package* pPackage = List().PackageOf(List().GetSelectedItem());
+                      return pPackage != nullptr && pPackage != pSelected &&
+                             pPackage->strName == strName && Details().Shows() == strName;
+                  }) &&
+           Happened("the list is where it was", List().GetTopIndex() == nListTop) &&
+           Happened("the tree has the same branches open", open() == nOpen) &&
+           Happened("the tree is where it was",
+                    Tree().GetScrollPos(SB_VERT) == nTreeTop &&
+                        Tree().GetItemText(Tree().GetSelectedItem()) == strTreeRow &&
+                        Tree().CountMarked().nPackages == nMarked) &&
+           Station("packages-6-refreshed");
 }

@@ -65,7 +65,7 @@ bool Walk::FillReportSettings(CWnd& page) {
                 [&] { return TextIn(page, IDC_REPORT_PAPER) == "A4"; })) {
         return false;
     }
-    for (const WORD nKey : {WORD{VK_TAB}, WORD{'9'}, WORD{'9'}}) {
+    for (const WORD nKey : {WORD{VK_TAB}, WORD{VK_TAB}, WORD{'9'}, WORD{'9'}}) {
         Press(nKey);
     }
     // A margin that is none keeps the page in front.

@@ -8,22 +8,66 @@ bool Walk::ReportPages() {
         !Station("report-1-first-page")) {
         return false;
     }
-    m_frame.Report().Preview().SetFocus();
-    Press(VK_NEXT);
-    return Expect("a key shows the next page",
-                  [this] { return m_frame.Report().Preview().PageShown() == 2; }) &&
+    PreviewWindow& preview = m_frame.Report().Preview();
+    preview.SetFocus();
+    constexpr int kMostPages = 6;  // of the window, in a page of the report
+    for (int i = 0; i < kMostPages && preview.PageShown() == 1; ++i) {
+        Press(VK_NEXT);
+        HandleMessages();
+    }
+    return Expect("a key goes on to the end of the page and to the next one",
+                  [&] { return preview.PageShown() == 2; }) &&
            Station("report-2-next-page");
 }
 
 bool Walk::Zoom() {
-    const int nPercent = m_frame.Report().Preview().Percent();
-    for (int i = 0; i < 3; ++i) {
-        ClickOn(*m_frame.Report().GetDlgItem(ID_REPORT_ZOOM_IN));
+    ReportPage& report = m_frame.Report();
+    PreviewWindow& preview = report.Preview();
+    const int nPercent = preview.Percent();
+    const auto click = [&](UINT nID) {
+        ClickOn(*report.GetDlgItem(static_cast<int>(nID)));
         HandleMessages();
+    };
+    click(ID_REPORT_ZOOM_IN);
+    if (!Expect("a click on the button zooms in", [&] { return preview.Percent() > nPercent; }) ||
+        !Station("report-3-zoomed")) {
+        return false;
     }
-    return Expect("a click on the button zooms in",
-                  [&] { return m_frame.Report().Preview().Percent() > nPercent; }) &&
-           Station("report-3-zoomed");
+    click(ID_REPORT_FIT);
+    const auto fits = [&] {
+        return preview.ScaleShown() == PreviewWindow::Scale::Whole &&
+               report.IsDlgButtonChecked(ID_REPORT_FIT) && preview.Percent() < nPercent;
+    };
+    if (!Expect("Fit shows the whole page and stays pressed", fits)) {
+        return false;
+    }
+    CRect rc;
+    m_frame.GetWindowRect(&rc);
+    const int nWhole = preview.Percent();
+    m_frame.SetWindowPos(nullptr, 0, 0, rc.Width(), rc.Height() * 3 / 4, SWP_NOMOVE | SWP_NOZORDER);
+    if (!Expect("and follows the window", [&] { return fits() && preview.Percent() < nWhole; }) ||
+        !Station("report-4-whole-page")) {
+        return false;
+    }
+    m_frame.SetWindowPos(nullptr, 0, 0, rc.Width(), rc.Height(), SWP_NOMOVE | SWP_NOZORDER);
+    preview.SetFocus();
+    Press(VK_MULTIPLY);
+    return Expect("a key shows the page's width again", [&] {
+        return preview.ScaleShown() == PreviewWindow::Scale::Width &&
+               report.IsDlgButtonChecked(ID_REPORT_WIDTH) &&
+               !report.IsDlgButtonChecked(ID_REPORT_FIT);
+    });
+}
+
+bool Walk::FindInReport() {
+    const unsigned nPage = m_frame.Report().Preview().PageShown();
+    return AskFor("ZLIB1G", "report-5-find") &&
+           Happened("the page that has the text is shown",
+                    m_frame.Report().Preview().PageShown() > nPage);
+}
+
+bool Walk::ExportReport() {
+    return ExportTo(m_strFolder + "\\report.html", "report-6-export");
 }
 
 // Where there is a printer, its job goes to a file beside the pictures.

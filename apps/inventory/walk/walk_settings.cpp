@@ -72,7 +72,7 @@ bool Walk::ChooseSetting() {
     LetClickPass();
     Click(PointOfCell(grid, kSettingSeparator, kChoiceColumn));
     return Expect("the choice is taken",
-                  [&] { return m_frame.Settings().Values().Choice(kSettingSeparator) == 1; });
+                  [&] { return m_frame.Settings().Values().Choice(kSettingSeparator) == 2; });
 }
 
 // The folder browser begins with the folder of the walk, or as near to it as the shell can find;
@@ -114,6 +114,6 @@ bool Walk::SettingsKept() {
         Settings settings;
         return LoadSettings(m_strFolder + "\\settings.txt", settings) == nullptr &&
                settings.Value(kSettingExportName) == "all of it" &&
-               settings.Choice(kSettingSeparator) == 1;
+               settings.Choice(kSettingSeparator) == 2;
     });
 }

@@ -99,16 +99,13 @@ bool Walk::AbsoluteColumns() {
 }
 
 bool Walk::Find() {
-    AskFor("BASE");
-    return Expect("a package is found and shown",
-                  [this] {
-                      const HTREEITEM hItem = Tree().GetSelectedItem();
-                      const Package* pPackage = Tree().PackageOf(hItem);
-                      return pPackage != nullptr &&
-                             pPackage->strName.find("base") != std::string::npos &&
-                             Tree().ItemVisible(hItem) && CWnd::GetFocus() == &Tree();
-                  }) &&
-           Station("tree-5-find");
+    return AskFor("BASE", "tree-5-find") &&
+           Expect("a row of an open branch is found and shown", [this] {
+               const HTREEITEM hItem = Tree().GetSelectedItem();
+               CString strRow = Tree().GetItemText(hItem);
+               return strRow.MakeLower().Find("base") >= 0 && Tree().ItemVisible(hItem) &&
+                      CWnd::GetFocus() == &Tree();
+           });
 }
 
 bool Walk::Vetoes() {

@@ -240,6 +240,8 @@ bool Walk::FinishEarly() {
                       const ReportDefinition& report = m_frame.Report().Shown();
                       return report.strName == "Report 1" && report.bAllColumns;
                   }) &&
+           Happened("all columns take the paper across",
+                    m_frame.Report().PaperSize().cx > m_frame.Report().PaperSize().cy) &&
            Station("wizard-10-all-columns");
 }
 

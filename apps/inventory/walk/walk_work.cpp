@@ -8,6 +8,7 @@ namespace {
 // Milliseconds a step, for work of few and of many steps.
 constexpr DWORD kSlow = 200;
 constexpr DWORD kLessSlow = 10;
+constexpr ULONGLONG kShort = 500;  // milliseconds; a slow machine may not read as fast
 
 size_t FilesIn(const CString& strFolder) {
     size_t nFiles = 0;
@@ -62,7 +63,10 @@ bool Walk::CancelWork(const char* pszStation, DWORD nSlow, const std::function<v
 }
 
 bool Walk::CancelLoad() {
-    if (!Happened("a short reading shows no dialog", !Work::WasShown())) {
+    const ULONGLONG nStart = ::GetTickCount64();
+    m_frame.SendMessage(WM_COMMAND, ID_RELOAD);
+    const bool bShort = ::GetTickCount64() - nStart < kShort;
+    if (!Happened("a short reading shows no dialog", !bShort || !Work::WasShown())) {
         return false;
     }
     const int nRows = List().GetItemCount();
