@@ -1,5 +1,5 @@
-// Core without a window; the tree, the grid and the wrapped text beside Qt's own where that was
-// asked for.
+// Core without a window; the tree, the grid, the wrapped text and a sort of a million rows beside
+// Qt's own where that was asked for. With the argument "show", how long Qt takes to show a model.
 
 #include "base/multi_byte.h"
 #include "bench.h"
@@ -10,6 +10,7 @@
 #include "support/test_tree.h"
 #include "text/core/display_rows.h"
 #include "text/core/type_ahead.h"
+#include "virtual_list_bench.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -442,9 +443,27 @@ void MeasurePaths() {
     bench::Ratio("common/path-1m", pair.ours, pair.theirs);
 }
 
+#ifdef QV_PEERS
+// By the platform that Qt is told in the environment.
+void MeasureShow(const char* pszName) {
+    double nTime = qt_peer::ShowModel(kMillion, 5);
+    for (int i = 0; i < 9; ++i) {
+        nTime = std::min(nTime, qt_peer::ShowModel(kMillion, 5));
+    }
+    bench::Figure(pszName, nTime * 1e3, "ms");
+}
+#endif
+
 }  // namespace
 
 int main(int argc, char** argv) {
+#ifdef QV_PEERS
+    if (argc > 1 && std::string(argv[1]) == "show") {
+        qt_peer::Start(argc, argv);
+        MeasureShow("qt-list/virtual-show-1m");
+        return 0;
+    }
+#endif
     std::printf("core, natively\n");
     bench::Figure("tree/core-bytes-an-item", BytesAnItem(false), "bytes");
     bench::Figure("tree/core-bytes-an-item-indexed", BytesAnItem(true), "bytes");
@@ -470,6 +489,7 @@ int main(int argc, char** argv) {
         bench::FastestPair([&] { return WrapLog(log, nLogRows); },
                            [&] { return qt_peer::WrapLines(log, kLogCharsARow, nPeerRows); });
     bench::Figure("qt-text/core-wrap-10mb-rows", nPeerRows, "rows");
+    MeasureShow("qt-list/virtual-show-1m-offscreen");
 #else
     static_cast<void>(argc);
     static_cast<void>(argv);
@@ -503,5 +523,6 @@ int main(int argc, char** argv) {
     MeasureText(log);
     MeasureTypeAhead();
     MeasurePaths();
+    MeasureVirtualSort();
     return 0;
 }

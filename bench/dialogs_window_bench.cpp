@@ -87,7 +87,8 @@ void MeasureBrowsing() {
     for (auto [pszName, pFolders] :
          {std::pair<const char*, QVMachineFolders*>{"dialogs/read-folder-files", &files},
           {"dialogs/read-folder-shell", &QVMachineFolders::Network()}}) {
-        const double seconds = bench::MedianOf([&] { return TimeReal(*pFolders, nFolders); });
+        const double seconds =
+            bench::MedianOf([&, pTimed = pFolders] { return TimeReal(*pTimed, nFolders); });
         if (nFolders > 0) {
             bench::Figure(pszName, seconds / nFolders * kMicroseconds, "us");
         }

@@ -2,17 +2,24 @@
 
 #include "bench.h"
 
+#include <QAbstractTableModel>
 #include <QApplication>
 #include <QFontDatabase>
 #include <QFontMetricsF>
+#include <QHeaderView>
+#include <QSortFilterProxyModel>
+#include <QTableView>
 #include <QTableWidget>
 #include <QTextLayout>
 #include <QTreeWidget>
+#include <algorithm>
 
 namespace qt_peer {
 
 void Start(int& argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     new QApplication(argc, argv);  // for the life of the process
 }
 
@@ -104,6 +111,95 @@ double WrapLines(const std::vector<std::string>& lines, int nChars, int& nRows) 
             }
             layout.endLayout();
         }
+    });
+}
+
+namespace {
+
+template <class Value>
+double StableSort(QList<Value> values) {
+    values.detach();
+    return bench::Time([&] { std::stable_sort(values.begin(), values.end()); });
+}
+
+QList<QString> ToQt(const std::vector<std::string>& texts) {
+    QList<QString> list;
+    for (const std::string& strText : texts) {
+        list.append(QString::fromStdString(strText));
+    }
+    return list;
+}
+
+class ValueModel : public QAbstractTableModel {
+public:
+    ValueModel(const std::vector<std::string>& texts, const std::vector<int>& numbers)
+        : m_texts(ToQt(texts)), m_numbers(numbers) {}
+    int rowCount(const QModelIndex&) const override { return static_cast<int>(m_texts.size()); }
+    int columnCount(const QModelIndex&) const override { return 2; }
+    QVariant data(const QModelIndex& index, int nRole) const override {
+        if (nRole != Qt::DisplayRole) {
+            return {};
+        }
+        return index.column() == 0 ? QVariant(m_texts.at(index.row()))
+                                   : QVariant(m_numbers[static_cast<size_t>(index.row())]);
+    }
+
+private:
+    const QList<QString> m_texts;
+    const std::vector<int>& m_numbers;
+};
+
+class ShownModel : public QAbstractTableModel {
+public:
+    ShownModel(int nRows, int nColumns) : m_nRows(nRows), m_nColumns(nColumns) {}
+    int rowCount(const QModelIndex& parent) const override {
+        return parent.isValid() ? 0 : m_nRows;
+    }
+    int columnCount(const QModelIndex& parent) const override {
+        return parent.isValid() ? 0 : m_nColumns;
+    }
+    QVariant data(const QModelIndex& index, int nRole) const override {
+        return nRole == Qt::DisplayRole
+                   ? QVariant(QString("row %1 cell %2").arg(index.row()).arg(index.column()))
+                   : QVariant();
+    }
+
+private:
+    const int m_nRows;
+    const int m_nColumns;
+};
+
+}  // namespace
+
+double SortPlain(const std::vector<std::string>& texts) {
+    return StableSort(ToQt(texts));
+}
+
+double SortPlain(const std::vector<int>& numbers) {
+    return StableSort(QList<int>(numbers.begin(), numbers.end()));
+}
+
+double SortByProxy(const std::vector<std::string>& texts, const std::vector<int>& numbers,
+                   bool bTexts) {
+    ValueModel model(texts, numbers);
+    QSortFilterProxyModel proxy;
+    proxy.setSortCaseSensitivity(Qt::CaseInsensitive);
+    proxy.setSourceModel(&model);
+    proxy.index(0, 0);  // wants the rows
+    return bench::Time([&] { proxy.sort(bTexts ? 0 : 1); });
+}
+
+double ShowModel(int nRows, int nColumns) {
+    QTableView view;
+    view.verticalHeader()->hide();
+    view.resize(600, 800);
+    view.show();
+    QApplication::processEvents();
+    QApplication::processEvents();
+    ShownModel model(nRows, nColumns);
+    return bench::Time([&] {
+        view.setModel(&model);
+        QApplication::processEvents();
     });
 }
 

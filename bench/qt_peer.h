@@ -20,4 +20,14 @@ double FillTable(const std::vector<std::string>& rows, int nColumns);
 // becomes the number of rows. The texts are in Qt's own form beforehand.
 double WrapLines(const std::vector<std::string>& lines, int nChars, int& nRows);
 
+// Sorted by themselves, stable: the quickest way that Qt's own types offer.
+double SortPlain(const std::vector<std::string>& texts);
+double SortPlain(const std::vector<int>& numbers);
+// By the proxy that sorts for a view: the first column of a model that has these, or the second.
+double SortByProxy(const std::vector<std::string>& texts, const std::vector<int>& numbers,
+                   bool bTexts);
+// A table view on the screen gets a model of nRows rows and nColumns columns; the time until its
+// first page is painted and the view has nothing left to do.
+double ShowModel(int nRows, int nColumns);
+
 }  // namespace qt_peer

@@ -24,6 +24,7 @@ int main(int argc, char** argv) {
     }
     if (asked("list")) {
         MeasureList();
+        MeasureVirtualList();
     }
     if (asked("grid")) {
         MeasureGrid();

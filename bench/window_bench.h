@@ -40,6 +40,7 @@ inline void Compare(const char* pszName, double factor, const char* pszUnit, Pai
 void MeasureButtons();
 void MeasureTree();
 void MeasureList();
+void MeasureVirtualList();
 void MeasureGrid();
 void MeasureText();
 void MeasureListBox();

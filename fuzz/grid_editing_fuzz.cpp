@@ -59,7 +59,7 @@ private:
     // What anybody may do at any time. The grid may be gone afterwards.
     void Act() {
         FakeGrid& g = *m_pGrid;
-        switch (m_input.Byte() % 12) {
+        switch (m_input.Byte() % 14) {
             case 0:
             case 1:
                 return g.editing.GotoCell(Cell(), m_input.Byte() % 2 != 0);
@@ -92,8 +92,26 @@ private:
                 return m_input.Byte() % 2 == 0 ? g.CloseWindow() : g.editing.SaveEditors();
             case 10:
                 return m_input.Byte() % 2 == 0 ? m_pGrid.reset() : g.editing.HideEdit();
+            case 11:
+            case 12:
+                return EditAsTyped();
             default:
                 return g.editing.ActivateCell(Current());
+        }
+    }
+    void EditAsTyped() {
+        FakeGrid& g = *m_pGrid;
+        try {
+            switch (Below(3)) {
+                case 0:
+                    return g.deeds.Paste(Cell(),
+                                         {{"p", "q\tr", "two", "one"}, {"s"}, {}, {"", "t"}});
+                case 1:
+                    return static_cast<void>(g.deeds.Undo());
+                default:
+                    return static_cast<void>(g.deeds.Redo());
+            }
+        } catch (const std::bad_alloc&) {
         }
     }
     void Answer() {
@@ -140,7 +158,8 @@ private:
 
     void Check() {
         FakeGrid& g = *m_pGrid;
-        FUZZ_CHECK(g.editing.CheckInvariants() && g.model.CheckInvariants());
+        FUZZ_CHECK(g.editing.CheckInvariants() && g.model.CheckInvariants() &&
+                   g.deeds.History().CheckInvariants());
         const qv::GridCell current = Current();
         if (g.edit.bUp && g.model.IsCell(current)) {
             qv::Rect rcCell;

@@ -4,6 +4,8 @@
 #include "frame/core/styled_text.h"
 #include "fuzz_input.h"
 #include "fuzz_text.h"
+#include "list/core/cut_rows.h"
+#include "list/core/key_ranks.h"
 #include "list/core/list_fit.h"
 #include "list/core/list_row.h"
 #include "list/core/sorted_places.h"
@@ -19,7 +21,11 @@ Fields Split(const std::string& strRow) {
     const std::vector<char> row(strRow.begin(), strRow.end());
     Fields fields;
     int nPos = 0;
+    qv::CutRow cells;
+    cells.Assign(strRow);
     for (std::string_view field; qv::NextField({row.data(), row.size()}, nPos, field);) {
+        FUZZ_CHECK(std::string(cells.Cell(static_cast<int>(fields.size()))) ==
+                   std::string(field).c_str());
         FUZZ_CHECK(nPos > 0 && static_cast<size_t>(nPos) <= row.size());
         FUZZ_CHECK(field.find(qv::kFieldSeparator) == std::string_view::npos);
         fields.emplace_back(field);
@@ -93,16 +99,20 @@ void CheckNumberKeys(FuzzInput& input) {
 
 void CheckSortKeys(FuzzInput& input, const qv::MultiByte& text) {
     qv::SortKeys keys(text);
+    qv::KeyRanks ranked(text);
     Fields texts;
     std::vector<qv::SortKey> aKeys;
     for (unsigned n = input.Byte() % 8; n > 0; --n) {
         texts.push_back(input.Text());
         aKeys.push_back(keys.Text(texts.back().c_str()));
+        ranked.AddText(texts.back().c_str());
     }
+    const std::vector<std::uint32_t> ranks = ranked.TakeRanks();
     for (size_t i = 0; i < texts.size(); ++i) {
         for (size_t k = 0; k < texts.size(); ++k) {
             FUZZ_CHECK(keys.Compare(aKeys[i], aKeys[k]) ==
                        text.CompareNoCase(texts[i].c_str(), texts[k].c_str()));
+            FUZZ_CHECK((ranks[i] < ranks[k]) == (keys.Compare(aKeys[i], aKeys[k]) < 0));
         }
     }
 }

@@ -1,10 +1,12 @@
 // Row strings, columns and multi-byte text of any bytes.
 
+#include "frame/core/spoken_text.h"
 #include "fuzz_input.h"
 #include "fuzz_text.h"
 #include "support/fake_window.h"
 #include "tree/core/tree_columns.h"
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -58,6 +60,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t nSi
             FUZZ_CHECK(++nRead <= tabs.Count() + 1 && f.nStyle < std::max(1, styles.Count()));
         }
         FUZZ_CHECK(nRead >= 1);
+        const std::string strSpoken =
+            qv::SpokenText({psz1.get(), str1.size()}, styles,
+                           {static_cast<int>(input.Byte() % 3), static_cast<int>(input.Byte())},
+                           {psz2.get(), str2.size()});
+        FUZZ_CHECK(std::ranges::none_of(
+            strSpoken, [](char ch) { return static_cast<unsigned char>(ch) < ' '; }));
+        FUZZ_CHECK(strSpoken.empty() || (strSpoken.front() != ' ' && strSpoken.back() != ' '));
     }
     return 0;
 }

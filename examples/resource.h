@@ -1,0 +1,78 @@
+// Numbers that the examples and their resource scripts share.
+
+// images.bmp: images 16 pixels wide on RGB(255, 0, 255)
+#define IDB_IMAGES 101
+#define IMAGE_FOLDER 0
+#define IMAGE_FILE 1
+#define IMAGE_PROGRAM 2
+#define IMAGE_DRIVE 3
+#define IMAGE_NETWORK 4
+#define IMAGE_DISC 5
+#define IMAGE_OFF 6
+#define IMAGE_ON 7
+#define IMAGE_BOLD 8
+#define IMAGE_ITALIC 9
+#define IMAGE_UNDERLINE 10
+#define IMAGE_CLEAR 11
+
+#define IDR_MAINFRAME 128
+
+#define IDD_LIST_BOX 201
+#define IDD_COMBO_BOXES 202
+#define IDD_EDITS 203
+#define IDD_BUTTONS 204
+#define IDD_CHECK_WND 205
+#define IDD_TAB_WINDOW 206
+#define IDD_PAGE_SCREEN 207
+#define IDD_PAGE_CODES 208
+#define IDD_PAGE_SECTIONS 209
+#define IDD_PAGE_TEXT 210
+#define IDD_PAGE_MOUSE 211
+#define IDD_PAGE_KEYBOARD 212
+#define IDD_STEP_FOLDER 213
+#define IDD_STEP_FILES 214
+#define IDD_STEP_READY 215
+#define IDD_BROWSE 216
+#define IDD_SORTING_LIST 217
+#define IDD_HEADER_WINDOWS 218
+#define IDD_MENU_BUTTONS 219
+#define IDD_SPEED_EDIT 220
+#define IDD_PRINTING 221
+
+#define IDC_LIST 1001
+#define IDC_HEADER 1002
+#define IDC_DRIVES 1003
+#define IDC_COLORS 1004
+#define IDC_SAMPLE 1005
+#define IDC_OFTEN 1006
+#define IDC_FONT 1007
+#define IDC_DATE 1008
+#define IDC_TIME 1009
+#define IDC_BOLD 1010
+#define IDC_ITALIC 1011
+#define IDC_UNDERLINE 1012
+#define IDC_CLEAR 1013
+#define IDC_FONT_SIZE 1014
+#define IDC_INSERT 1015
+#define IDC_TEXT 1016
+#define IDC_TABS 1017
+#define IDC_DOUBLE_CLICK 1018
+#define IDC_WHEEL_LINES 1019
+#define IDC_SWAP 1020
+#define IDC_BLINK 1021
+#define IDC_DELAY 1022
+#define IDC_FOLDER 1023
+#define IDC_BROWSE 1024
+#define IDC_PATTERN 1025
+#define IDC_FILE 1027
+#define IDC_INSTALLATION 1028
+#define IDC_MACHINE 1029
+#define IDC_CHOSEN 1030
+#define IDC_CAPS 1031
+#define IDC_NUM 1032
+#define IDC_SCROLL 1033
+#define IDC_MOUSE 1034
+#define IDC_NETWORK 1035
+#define IDC_PRINT 1036
+
+#define IDM_SIZE 1100
