@@ -128,8 +128,9 @@ void GridEditing::ActivateCell(GridCell cell) {
         return;
     }
     const IgnoreFocus ignore(m_alive, m_state.m_bIgnoreFocus, 1);
-    // Of the cell that is left; a hidden edit would lose what it holds.
-    if (SaveEdit() && watch && !LedElsewhere(nMove, cell) && m_host.MeasureRows()) {
+    // Of the cell that is left; a hidden edit would lose what it holds. An edit that somebody who was
+    // told has opened meanwhile stays.
+    if (SaveEdit() && watch && !m_edit.Up() && !LedElsewhere(nMove, cell) && m_host.MeasureRows()) {
         MemorySuffices([&] { OpenEdit(cell); });  // else the cell stays closed
     }
 }
@@ -190,7 +191,7 @@ void GridEditing::HideEdit() {
     }
     if (watch) {
         m_host.EraseCell(Current());
-        m_state.m_bEditing = 0;
+        m_state.m_bEditing = m_edit.Up();  // somebody who was told may have opened it again
     }
 }
 

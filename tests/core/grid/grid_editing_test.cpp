@@ -422,6 +422,19 @@ TEST_F(GridEdits, ATextChangedWhileItsEditOpensIsNotOverwritten) {
     EXPECT_EQ(Stored(0, kEdit), "fresh");
 }
 
+TEST_F(GridEdits, AnEditOpenedMeanwhileByOthersStaysWithWhatIsTyped) {
+    editing.GotoCell({0, kEdit}, true);
+    g.onTold = [&](unsigned) {
+        g.onTold = nullptr;
+        editing.GotoCell({1, kEdit}, true);
+        g.Type("typed");
+    };
+    editing.GotoCell({1, kEdit}, true);
+    EXPECT_EQ(State(), "1,1 edit typed");
+    EXPECT_EQ(g.focus, Focus::Edit);
+    EXPECT_TRUE(editing.CheckInvariants());
+}
+
 TEST_F(GridEdits, WhereTheParentLeadsElsewhereItStaysAtThat) {
     const std::function<void()> aLeave[] = {[&] { Click(1, kEdit); }, [&] { editing.Key(VK_LEFT); },
                                             [&] { editing.Key(VK_END); }};
