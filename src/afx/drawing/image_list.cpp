@@ -100,23 +100,21 @@ BOOL CImageList::Create(UINT nBitmapID, int cx, int nGrow, COLORREF crMask) {
 BOOL CImageList::Create(LPCTSTR lpszBitmapID, int cx, int nGrow, COLORREF crMask) {
     const HINSTANCE hInst = AfxFindResourceHandle(lpszBitmapID, RT_BITMAP);
     // As a section of its own depth the bitmap keeps its colours, whatever a list has by default.
-    const auto hBitmap = static_cast<HBITMAP>(
-        ::LoadImage(hInst, lpszBitmapID, IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION));
-    BITMAP bitmap = {};
-    ::GetObject(hBitmap, sizeof(bitmap), &bitmap);
-    if (bitmap.bmBitsPixel > kMostPaletteBits || crMask == CLR_NONE || cx <= 0) {
-        ::DeleteObject(hBitmap);
+    CBitmap bitmap;
+    bitmap.Attach(::LoadImage(hInst, lpszBitmapID, IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION));
+    BITMAP size = {};
+    bitmap.GetBitmap(&size);
+    if (size.bmBitsPixel > kMostPaletteBits || crMask == CLR_NONE || cx <= 0) {
         return Attach(::ImageList_LoadImage(hInst, lpszBitmapID, cx, nGrow, crMask, IMAGE_BITMAP,
                                             LR_CREATEDIBSECTION));
     }
     // But a list of few colours draws them as the nearest of a palette that is not the bitmap's.
-    const BOOL bMade = bitmap.bmHeight != 0 && Create(cx, bitmap.bmHeight, ILC_COLOR24 | ILC_MASK,
-                                                      static_cast<int>(bitmap.bmWidth) / cx, nGrow);
-    if (bMade) {
-        ::ImageList_AddMasked(m_hImageList, hBitmap, crMask);
+    if (size.bmHeight == 0 || !Create(cx, size.bmHeight, ILC_COLOR24 | ILC_MASK,
+                                      static_cast<int>(size.bmWidth) / cx, nGrow)) {
+        return FALSE;
     }
-    ::DeleteObject(hBitmap);
-    return bMade;
+    Add(&bitmap, crMask);
+    return TRUE;
 }
 BOOL CImageList::Create(CImageList& list1, int nImage1, CImageList& list2, int nImage2, int dx,
                         int dy) {
