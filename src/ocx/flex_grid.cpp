@@ -360,7 +360,7 @@ qv::FlexGridSelector FlexGrid::Selector() const {
 void FlexGrid::Changed() {
     ++m_nChanges;
     m_selection = Selector().Fitted(m_selection);
-    m_bNeedsLayout = true;
+    m_bNeedsLayout = m_bReorderDue = true;
     if (Flag(Id::Redraw)) {
         Invalidate();
     }
@@ -377,6 +377,7 @@ void FlexGrid::CellChanged(int nRow, int nCol) {
         const qv::Rect cell = m_view.RangeRect({nRow, nCol, nRow, nCol});
         const RECT rect = {cell.left, cell.top, cell.right, cell.bottom};
         ::InvalidateRect(Window(), &rect, FALSE);
+        m_spoken.Tell(EVENT_OBJECT_NAMECHANGE, PartOf(nRow, nCol));
     }
 }
 
@@ -393,6 +394,9 @@ void FlexGrid::EnsureLayout() {
     const RECT rect = ClientRect();
     m_view.Refit({static_cast<int>(rect.right), static_cast<int>(rect.bottom)});
     SetBarRanges();
+    if (std::exchange(m_bReorderDue, false)) {
+        m_spoken.Tell(EVENT_OBJECT_REORDER, CHILDID_SELF);
+    }
 }
 
 /// A bar that comes or goes tells the window another size, which may be told on: whoever hears of
@@ -477,6 +481,7 @@ void FlexGrid::Select(qv::FlexGridSelection next, bool bShow) {
     }
     const bool bSpread = next.Range() != m_selection.Range();
     m_selection = next;
+    TellSelection(bOther, bSpread);
     if (Flag(Id::Redraw)) {
         if (bOther || bSpread) {
             Invalidate();

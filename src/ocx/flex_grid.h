@@ -15,12 +15,13 @@
 #include "ocx/core/flex_grid_selection.h"
 #include "ocx/core/flex_grid_view.h"
 #include "ocx/flex_grid_members.h"
+#include "ocx/spoken.h"
 
 #include <functional>
 
 namespace ocx {
 
-class FlexGrid final : public Control {
+class FlexGrid final : public Control, private SpokenParts {
 public:
     FlexGrid();
 
@@ -83,6 +84,19 @@ private:
     void Select(qv::FlexGridSelection next, bool bShow);
     bool ScrollTo(int nTopRow, int nLeftCol);
 
+    // What a screen reader is told (flex_grid_spoken.cpp): cells, row by row
+    Spoken Say(LONG nPart) override;
+    LONG PartCount() override;
+    bool PartRect(LONG nPart, RECT& rect) override;
+    LONG PartAt(POINT pt) override;
+    LONG FocusedPart() override;
+    LONG NextSelected(LONG nPart) override;
+    LONG PartBeside(LONG nPart, LONG nDirection) override;
+    bool SelectPart(LONG nPart) override;
+    LONG PartOf(int nRow, int nCol) const;
+    qv::Point CellOf(LONG nPart) const;
+    void TellSelection(bool bCursor, bool bSpread);
+
     // Input (flex_grid_input.cpp)
     void OnPress(POINT pt, bool bShift);
     void OnMove(POINT pt);
@@ -106,6 +120,8 @@ private:
     bool m_bLayingOut = false;
     bool m_bTellingCursor = false;
     bool m_bTellingScroll = false;
+    bool m_bReorderDue = false;  ///< a screen reader is told with the next layout
+    SpokenControl m_spoken{*this, *this};
 
     qv::FlexGridDrag m_drag = qv::FlexGridDrag::None;
     int m_nSizedRow = -1;  // dragged by its end

@@ -192,6 +192,11 @@ bool FlexGrid::OnMessage(UINT nMessage, WPARAM wParam, LPARAM lParam, LRESULT& l
         case WM_SIZE:
             m_bNeedsLayout = true;
             return false;
+        case WM_SETFOCUS:
+            m_spoken.Tell(EVENT_OBJECT_FOCUS, FocusedPart());
+            return false;
+        case WM_GETOBJECT:
+            return m_spoken.Answer(wParam, lParam, lResult);
         case WM_GETDLGCODE:
             lResult = DLGC_WANTARROWS | DLGC_WANTCHARS;
             return true;

@@ -201,6 +201,9 @@ bool TabStrip::AnswerTab(const Member& member, const Arguments& arguments, VARIA
     Relayout();
     if (member.id == Id::TabCaption || member.id == Id::TabState) {
         TellMnemonics();
+        m_spoken.Tell(
+            member.id == Id::TabCaption ? EVENT_OBJECT_NAMECHANGE : EVENT_OBJECT_STATECHANGE,
+            m_nTab + 1);
     }
     return true;
 }
@@ -260,6 +263,7 @@ void TabStrip::SetCount(LONG nCount) {
     m_tabs.resize(m_set.Count());
     m_nTab = std::clamp(m_nTab, 0, std::max(m_set.Count() - 1, 0));
     Relayout();
+    m_spoken.Tell(EVENT_OBJECT_REORDER, CHILDID_SELF);
     Check(hr);
 }
 
@@ -298,6 +302,7 @@ void TabStrip::ShowActive() {
     m_bShowActive = true;
     SetDirty();
     Relayout();
+    TellActive();
 }
 
 void TabStrip::Relayout() {

@@ -13,6 +13,7 @@
 #include "ocx/control.h"
 #include "ocx/core/tab_set.h"
 #include "ocx/core/tab_strip_layout.h"
+#include "ocx/spoken.h"
 
 #include <optional>
 #include <string>
@@ -20,7 +21,7 @@
 
 namespace ocx {
 
-class TabStrip final : public Control, private qv::TabEvents {
+class TabStrip final : public Control, private qv::TabEvents, private SpokenParts {
 public:
     TabStrip();
 
@@ -64,6 +65,17 @@ private:
 
     bool MayActivate(int nTab) override;
     void Activated(int nTab) override;
+
+    // What a screen reader is told (tab_strip_input.cpp): part n is tab n - 1
+    Spoken Say(LONG nPart) override;
+    LONG PartCount() override { return m_set.Count(); }
+    bool PartRect(LONG nPart, RECT& rect) override;
+    LONG PartAt(POINT pt) override;
+    LONG FocusedPart() override { return m_set.Active() + 1; }
+    LONG NextSelected(LONG nPart) override { return nPart == 0 ? m_set.Active() + 1 : 0; }
+    bool SelectPart(LONG nPart) override;
+    bool DoPart(LONG nPart) override { return nPart != 0 && SelectPart(nPart); }
+    void TellActive();
 
     // What is asked of the control
     Tab* Current();
@@ -111,6 +123,8 @@ private:
     std::vector<Tab> m_tabs;
     int m_nTab = 0;
     int m_nFirst = 0;
+    int m_nTold = -1;  ///< the active tab that a screen reader knows
+    SpokenControl m_spoken{*this, *this};
     bool m_bShowActive = false;  ///< scroll to it with the next layout
     std::optional<qv::TabStripLayout> m_layout;
     RECT m_rcLayout = {};

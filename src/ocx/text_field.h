@@ -13,6 +13,7 @@
 #include "ocx/control.h"
 #include "ocx/core/field_frame.h"
 #include "ocx/core/field_rules.h"
+#include "ocx/spoken.h"
 #include "ocx/text_field_members.h"
 
 #include <string>
@@ -20,7 +21,7 @@
 
 namespace ocx {
 
-class TextField final : public Control {
+class TextField final : public Control, private SpokenParts {
 public:
     TextField();
 
@@ -59,6 +60,11 @@ private:
     HRESULT CallPasswordChar(const Member& member, const Arguments& arguments);
     HRESULT CallSelection(const Member& member, const Arguments& arguments, VARIANT* pResult);
     HRESULT CallState(const Member& member, const Arguments& arguments, VARIANT* pResult);
+
+    // What a screen reader is told, of the control and of the edit alike (text_field_edit.cpp)
+    Spoken Say(LONG nPart) override;
+    bool PutPart(LONG nPart, std::wstring_view text) override;
+    bool HasWindows() override { return false; }
 
     // What is typed (text_field_input.cpp)
     qv::FieldRules Rules() const;
@@ -118,6 +124,7 @@ private:
     bool m_bWantsRemake = false;
     bool m_bSetting = false;      // by the program: no change of the user's
     bool m_bMovingFocus = false;  // from one edit to the next
+    SpokenControl m_spoken{*this, *this};
 };
 
 }  // namespace ocx

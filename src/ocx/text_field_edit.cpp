@@ -111,6 +111,8 @@ bool TextField::OnMessage(UINT nMessage, WPARAM wParam, LPARAM lParam, LRESULT& 
             return true;
         case WM_LBUTTONDOWN:
             return ClickBesideEdit(wParam, lParam);
+        case WM_GETOBJECT:
+            return m_spoken.Answer(wParam, lParam, lResult);
         case WM_CLOSE:  // a multi-line edit sends it for ESC
             return true;
         case WM_SETTEXT:
@@ -234,6 +236,11 @@ LRESULT TextField::OnEditMessage(HWND hEdit, UINT nMessage, WPARAM wParam, LPARA
                 return 0;
             }
             break;
+        case WM_GETOBJECT:
+            if (LRESULT lResult = 0; m_spoken.Answer(wParam, lParam, lResult)) {
+                return lResult;
+            }
+            break;
         case WM_PASTE:
             Paste();
             return 0;
@@ -275,6 +282,45 @@ LRESULT TextField::Forward(HWND hEdit, UINT nMessage, WPARAM wParam, LPARAM lPar
         }
     }
     return lResult;
+}
+
+// --- What a screen reader is told
+
+Spoken TextField::Say(LONG) {
+    Spoken spoken;
+    if (IsStatic()) {
+        spoken.nRole = ROLE_SYSTEM_STATICTEXT;
+        spoken.nState = STATE_SYSTEM_READONLY;
+        spoken.name = FieldText();
+        return spoken;
+    }
+    spoken.nRole = ROLE_SYSTEM_TEXT;
+    spoken.nState = STATE_SYSTEM_FOCUSABLE | (HasFocus() ? STATE_SYSTEM_FOCUSED : 0) |
+                    (IsReadOnly() ? STATE_SYSTEM_READONLY : 0);
+    if (!Flag(Id::MultiLine) && !Text(Id::PasswordChar).empty()) {
+        spoken.nState |= STATE_SYSTEM_PROTECTED;
+    } else {
+        spoken.value = FieldText();
+    }
+    return spoken;
+}
+
+/// As if typed over all that is there.
+bool TextField::PutPart(LONG, std::wstring_view text) {
+    if (IsReadOnly() || IsStatic()) {
+        return false;
+    }
+    const qv::TextRange selected = Selection();
+    Select(0, MAXLONG);
+    const std::wstring strEntry = Entry(text.substr(0, text.find(L'\0')));
+    if (strEntry.empty() && !text.empty()) {
+        Select(static_cast<LONG>(selected.nStart), static_cast<LONG>(selected.nLength));
+        return false;
+    }
+    if (m_hEdit != nullptr) {
+        Forward(m_hEdit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(strEntry.c_str()));
+    }
+    return true;
 }
 
 }  // namespace ocx
