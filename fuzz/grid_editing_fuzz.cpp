@@ -49,6 +49,7 @@ private:
         m_pGrid->model.Column(3)->pListData = &m_choices;
         AddRows();
         m_pGrid->onTold = [this](unsigned) { Answer(); };
+        m_pGrid->onHeard = [this] { Answer(); };
     }
     void AddRows() {
         for (int i = Below(kMostRows); i >= 0; --i) {
@@ -59,7 +60,7 @@ private:
     // What anybody may do at any time. The grid may be gone afterwards.
     void Act() {
         FakeGrid& g = *m_pGrid;
-        switch (m_input.Byte() % 14) {
+        switch (m_input.Byte() % 15) {
             case 0:
             case 1:
                 return g.editing.GotoCell(Cell(), m_input.Byte() % 2 != 0);
@@ -95,6 +96,8 @@ private:
             case 11:
             case 12:
                 return EditAsTyped();
+            case 13:
+                return g.editing.Act(Cell());
             default:
                 return g.editing.ActivateCell(Current());
         }
@@ -102,12 +105,14 @@ private:
     void EditAsTyped() {
         FakeGrid& g = *m_pGrid;
         try {
-            switch (Below(3)) {
+            switch (Below(4)) {
                 case 0:
                     return g.deeds.Paste(Cell(),
                                          {{"p", "q\tr", "two", "one"}, {"s"}, {}, {"", "t"}});
                 case 1:
                     return static_cast<void>(g.deeds.Undo());
+                case 2:
+                    return static_cast<void>(g.deeds.Enter(Cell(), "two"));
                 default:
                     return static_cast<void>(g.deeds.Redo());
             }

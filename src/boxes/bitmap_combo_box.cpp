@@ -6,6 +6,7 @@
 #include "boxes/core/box_order.h"
 #include "common/process_text.h"
 #include "frame/ancestor_font.h"
+#include "frame/core/spoken_text.h"
 #include "frame/create_window.h"
 #include "frame/image_strip.h"
 #include "frame/text_out.h"
@@ -24,6 +25,7 @@ IMPLEMENT_DYNCREATE(QVBitmapComboBox, CComboBox)
 BEGIN_MESSAGE_MAP(QVBitmapComboBox, CComboBox)
     ON_WM_MEASUREITEM()
     ON_WM_CHAR()
+    ON_WM_SYSCOLORCHANGE()
 END_MESSAGE_MAP()
 
 // --- Creation
@@ -63,8 +65,10 @@ void QVBitmapComboBox::CalcItemHeight() {
 }
 
 LRESULT QVBitmapComboBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    return qv::HandleQuietly(m_hWnd, message,
-                             [&] { return CComboBox::WindowProc(message, wParam, lParam); });
+    return FollowMessage(message, wParam, lParam, [&] {
+        return qv::HandleQuietly(m_hWnd, message,
+                                 [&] { return CComboBox::WindowProc(message, wParam, lParam); });
+    });
 }
 
 // --- Rows
@@ -260,6 +264,12 @@ void QVBitmapComboBox::DrawRow(const DRAWITEMSTRUCT& draw) {
 
 // --- Keys
 
+void QVBitmapComboBox::OnSysColorChange() {
+    CComboBox::OnSysColorChange();
+    FollowSystemColors();
+    Invalidate(FALSE);
+}
+
 void QVBitmapComboBox::OnChar(UINT nChar, UINT, UINT) {
     CString strText;
     const qv::WindowWatch watch(m_alive, m_hWnd);
@@ -270,4 +280,15 @@ void QVBitmapComboBox::OnChar(UINT nChar, UINT, UINT) {
     if (!AreExpectedKeysEnabled() || !qv::TakeTypedChar(*this, m_alive, Typed(), nChar, textOf)) {
         Default();
     }
+}
+
+// --- What a screen reader hears
+
+CString QVBitmapComboBox::GetAccessibleRow(int nRow) {
+    const qv::WindowWatch watch(m_alive, m_hWnd);
+    CString strText;
+    GetDisplayText(nRow, GetItemData(nRow), FALSE, strText);
+    const std::string strSpoken =
+        watch ? qv::SpokenText(qv::View(strText), m_aStyles) : std::string();
+    return CString(strSpoken.data(), static_cast<int>(strSpoken.size()));
 }

@@ -12,6 +12,8 @@
 // With EnableExpectedKeys, letters lead to the next row that begins with them as it is shown, in
 // boxes without an edit; the parent is told as of an arrow key.
 //
+// Screen readers hear a combo box and the list that it opens: see docs/accessibility.md.
+//
 // Without memory nothing is thrown: what reports failure reports it, and rows stay as they are.
 // The parent may delete rows and destroy the control whenever it is told something; what was under
 // way then ends. In two messages the platform's own control does not live through its end: in the
@@ -22,6 +24,7 @@
 
 #pragma once
 
+#include "boxes/combo_accessible.h"
 #include "frame/alive.h"
 #include "frame/expected_keys.h"
 #include "frame/styled_rows.h"
@@ -35,11 +38,12 @@ enum class NumberPlace;
 
 class QV_CONTROLS_API QVBitmapComboBox : public CComboBox,
                                          public QVStyledRows,
-                                         public QVExpectedKeys {
+                                         public QVExpectedKeys,
+                                         public QVComboAccessible {
     DECLARE_DYNCREATE(QVBitmapComboBox)
 
 public:
-    QVBitmapComboBox() = default;
+    QVBitmapComboBox() : QVComboAccessible(static_cast<CComboBox&>(*this), m_alive) {}
 
     // --- Creation
 
@@ -73,6 +77,10 @@ public:
     // control without images all its rows are empty.
     int CompareToItem(int nImage, LPCSTR pszText, int nItem);
 
+    // What a screen reader hears of a row: the text as it is shown in the list; images are not
+    // heard.
+    CString GetAccessibleRow(int nRow) override;
+
     void DrawItem(LPDRAWITEMSTRUCT pDraw) override;
     void MeasureItem(LPMEASUREITEMSTRUCT pMeasure) override;
     int CompareItem(LPCOMPAREITEMSTRUCT pCompare) override;
@@ -96,6 +104,7 @@ protected:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     afx_msg void OnMeasureItem(int nCtlID, LPMEASUREITEMSTRUCT pMeasure);
     afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnSysColorChange();
     DECLARE_MESSAGE_MAP()
 
     int m_nBitmapHeight = 0;  // 0: no images

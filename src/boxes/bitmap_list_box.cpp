@@ -3,6 +3,7 @@
 #include "boxes/core/box_heights.h"
 #include "boxes/core/box_order.h"
 #include "boxes/core/box_row.h"
+#include "boxes/list_rows.h"
 #include "common/process_text.h"
 #include "frame/ancestor_font.h"
 #include "frame/create_window.h"
@@ -17,15 +18,17 @@ IMPLEMENT_DYNCREATE(QVBitmapListBox, CListBox)
 
 BEGIN_MESSAGE_MAP(QVBitmapListBox, CListBox)
     ON_WM_SIZE()
+    ON_WM_SYSCOLORCHANGE()
     ON_WM_RBUTTONDOWN()
     ON_WM_KEYDOWN()
     ON_WM_CHAR()
     ON_MESSAGE(WM_SETREDRAW, &QVBitmapListBox::OnSetRedraw)
+    ON_MESSAGE(WM_GETOBJECT, &QVBitmapListBox::OnGetObject)
 END_MESSAGE_MAP()
 
 // --- Set-up
 
-QVBitmapListBox::QVBitmapListBox() = default;
+QVBitmapListBox::QVBitmapListBox() : QVAccessible(static_cast<CWnd&>(*this)) {}
 
 QVBitmapListBox::~QVBitmapListBox() {
     if (m_bInHeader && m_header.m_hWnd != nullptr) {
@@ -205,12 +208,19 @@ int QVBitmapListBox::Replace(int nIndex, const char* pszStored) {
         SetRedraw(FALSE);
     }
     const int nCaret = GetCaretIndex();
-    const bool bReplaced = PutInPlace(nIndex, pszStored);
-    if (watch) {
-        SetCaretIndex(nCaret, FALSE);
+    bool bReplaced;
+    {
+        const qv::SetWhileAlive<bool> replacing(m_alive, m_bReplacing, true);
+        bReplaced = PutInPlace(nIndex, pszStored);
+        if (watch) {
+            SetCaretIndex(nCaret, FALSE);
+        }
     }
     if (watch && bRedraw) {
         SetRedraw(TRUE);
+    }
+    if (watch) {
+        bReplaced ? TellAccessible(EVENT_OBJECT_NAMECHANGE, nIndex + 1) : TellAccessibleReorder();
     }
     return bReplaced;
 }
@@ -277,29 +287,13 @@ void QVBitmapListBox::RestoreSelections() {
         });
 }
 
-// -1 beside all rows.
-int QVBitmapListBox::RowAt(CPoint point) const {
-    BOOL bOutside = TRUE;
-    const int nLow = static_cast<int>(ItemFromPoint(point, bOutside));
-    const int nCount = GetCount();
-    if (bOutside || nCount <= 0) {
-        return -1;
-    }
-    // The platform's answer has 16 bits; the row that is meant is in view.
-    constexpr int kAnswers = 0x10000;
-    const int nTop = GetTopIndex();
-    int nRow = nTop - nTop % kAnswers + nLow;
-    nRow += nRow < nTop ? kAnswers : 0;
-    return nRow < nCount ? nRow : -1;
-}
-
 void QVBitmapListBox::OnRButtonDown(UINT, CPoint point) {
     const qv::WindowWatch watch(m_alive, m_hWnd);
     SetFocus();
     if (!watch) {
         return;
     }
-    if (const int nRow = RowAt(point); nRow != -1) {
+    if (const int nRow = qv::ListRowAt(m_hWnd, point); nRow != -1) {
         SelectUnderMouse(nRow);
     }
     if (watch) {
@@ -359,8 +353,14 @@ int QVBitmapListBox::CompareToItem(int nImage, const char* pszText, int nItem) {
 // --- Messages
 
 LRESULT QVBitmapListBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    return qv::HandleQuietly(m_hWnd, message,
-                             [&] { return CListBox::WindowProc(message, wParam, lParam); });
+    const qv::WindowWatch watch(m_alive, m_hWnd);
+    const bool bWasSelected = SeeMessage(message, lParam);
+    const LRESULT lResult = qv::HandleQuietly(
+        m_hWnd, message, [&] { return CListBox::WindowProc(message, wParam, lParam); });
+    if (watch && !m_bReplacing) {
+        TellChange(message, lParam, bWasSelected);
+    }
+    return lResult;
 }
 
 void QVBitmapListBox::OnSize(UINT, int cx, int) {

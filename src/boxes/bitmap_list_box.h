@@ -19,6 +19,9 @@
 // selected; Ctrl+C and Ctrl+Insert copy the selected ones. A list whose parent wants the keys
 // (LBS_WANTKEYBOARDINPUT) leaves it all but the letters.
 //
+// Screen readers hear a list of rows, whose fields have the header's titles: see
+// docs/accessibility.md.
+//
 // On paper: SetPrintFonts, BeginPrinting, CalcPrintTabStops, for each page PrintHeader and
 // PrintItems, EndPrinting. Widths are those of the titles in units of the printer; a derived
 // CalcTabs widens them. No images, no colours.
@@ -34,6 +37,7 @@
 
 #pragma once
 
+#include "frame/accessible.h"
 #include "frame/alive.h"
 #include "frame/expected_keys.h"
 #include "frame/styled_rows.h"
@@ -53,7 +57,8 @@ enum class NumberPlace;
 
 class QV_CONTROLS_API QVBitmapListBox : public CListBox,
                                         public QVStyledRows,
-                                        public QVExpectedKeys {
+                                        public QVExpectedKeys,
+                                        public QVAccessible {
     DECLARE_DYNCREATE(QVBitmapListBox)
 
 public:
@@ -164,6 +169,25 @@ public:
     // runs out. Throws the framework's CFileException if writing fails.
     virtual int ExportData(const char* pszPath, char chSeparator);
 
+    // --- What a screen reader is told. A part is a row, counted from 1.
+
+    // The fields that are shown; with a header the first one.
+    CString GetAccessibleName(long nPart) override;
+    // With a header the other fields, with their titles.
+    CString GetAccessibleDescription(long nPart) override;
+    // "Double Click", of which the parent is told with the messages that are posted.
+    CString GetAccessibleAction(long nPart) override;
+    long GetAccessibleRole(long nPart) override;
+    long GetAccessibleState(long nPart) override;
+    // None for a row that does not show.
+    BOOL GetAccessibleRect(long nPart, CRect& rect) override;
+    long GetAccessibleCount() override;
+    long AccessibleHitTest(CPoint pt) override;
+    long GetAccessibleFocus() override;
+    long GetNextAccessibleSelected(long nPart) override;
+    BOOL SelectAccessible(long nPart, long nFlags) override;
+    BOOL DoAccessibleAction(long nPart) override;
+
     void DrawItem(DRAWITEMSTRUCT* pDraw) override;
     void MeasureItem(MEASUREITEMSTRUCT* pMeasure) override;
     int CompareItem(COMPAREITEMSTRUCT* pCompare) override;
@@ -195,10 +219,13 @@ protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnSysColorChange();
     afx_msg void OnRButtonDown(UINT nFlags, CPoint point);
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg LRESULT OnSetRedraw(WPARAM wParam, LPARAM lParam);
+    void DoPostedAccessible(long nPart) override;
+    afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     static constexpr int kTableSize = 20;
@@ -242,7 +269,6 @@ private:
     int Replace(int nIndex, const char* pszStored);
     bool PutInPlace(int nIndex, const char* pszStored);
     void Select(int nIndex);
-    int RowAt(CPoint point) const;
     void SelectUnderMouse(int nRow);
     bool TakeTypedChar(UINT nChar);
     void GoToRow(int nRow);
@@ -261,5 +287,25 @@ private:
     int PrintRows(CDC& dc, int nFirst, int nMost, int nHeight, CRect rcRow);
     void WriteRows(CStdioFile& file, char chSeparator) const;
 
+    // What listeners know of the row with the focus.
+    struct Told {
+        int nCaret = kUnknown;
+        bool bSelected = false;
+        static constexpr int kUnknown = -2;
+    };
+    int PartRow(long nPart) const;
+    int FieldsShown(std::string_view row) const;
+    CString SpokenRow(int nRow, bool bName);
+    bool SelectAsUser(int nRow, long nFlags);
+    void SelectRows(int nRow, long nFlags);
+    Told CaretNow() const { return {GetCaretIndex(), GetSel(GetCaretIndex()) > 0}; }
+    bool SeeMessage(UINT nMessage, LPARAM lParam);
+    void TellChange(UINT nMessage, LPARAM lParam, bool bWasSelected);
+    void TellSelected(UINT nMessage, int nAbout, bool bWasSelected);
+    void TellCaretSelected(UINT nMessage, const Told& before, bool bMoved);
+
     bool m_bInHeader = false;
+    bool m_bReplacing = false;   // one row by another, which does not move any
+    bool m_bCaretStays = false;  // or comes back, before anybody is told
+    Told m_told;
 };

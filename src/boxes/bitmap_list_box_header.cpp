@@ -313,6 +313,7 @@ int QVBitmapListBox::CreateHeaders() {
         m_wndFrame.DestroyWindow();
     }
     const qv::WindowWatch watch(m_alive, m_hWnd);
+    KeepAccessibleLabel();  // header and frame come between
     CRect rc;
     GetClientRect(&rc);
     ::MapWindowPoints(m_hWnd, ::GetParent(m_hWnd), reinterpret_cast<POINT*>(&rc), 2);

@@ -122,3 +122,9 @@ void QVBitmapListBox::DrawFields(CDC& dc, const CRect& rc, std::string_view row,
         qv::DrawTextIn(dc, field.text, rcField, field.nFormat | kTextFlags);
     }
 }
+
+void QVBitmapListBox::OnSysColorChange() {
+    CListBox::OnSysColorChange();
+    FollowSystemColors();
+    Invalidate(FALSE);
+}

@@ -2,7 +2,9 @@
 
 #include "boxes/combo_item.h"
 #include "boxes/combo_keys.h"
+#include "boxes/core/color_name.h"
 #include "frame/ancestor_font.h"
+#include "frame/core/spoken_text.h"
 #include "frame/create_window.h"
 #include "frame/text_out.h"
 
@@ -62,8 +64,10 @@ void QVColorComboBox::CalcItemHeight() {
 }
 
 LRESULT QVColorComboBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    return qv::HandleQuietly(m_hWnd, message,
-                             [&] { return CComboBox::WindowProc(message, wParam, lParam); });
+    return FollowMessage(message, wParam, lParam, [&] {
+        return qv::HandleQuietly(m_hWnd, message,
+                                 [&] { return CComboBox::WindowProc(message, wParam, lParam); });
+    });
 }
 
 // --- Rows
@@ -167,4 +171,21 @@ void QVColorComboBox::OnChar(UINT nChar, UINT, UINT) {
     if (!AreExpectedKeysEnabled() || !qv::TakeTypedChar(*this, m_alive, Typed(), nChar, textOf)) {
         Default();
     }
+}
+
+// --- What a screen reader hears
+
+CString QVColorComboBox::GetAccessibleRow(int nRow) {
+    const qv::WindowWatch watch(m_alive, m_hWnd);
+    CString strText;
+    GetDisplayText(nRow, GetItemData(nRow), FALSE, strText);
+    if (!watch) {
+        return CString();
+    }
+    std::string strSpoken = qv::SpokenText(qv::View(strText), qv::StyleTable());
+    const int nColor = strSpoken.empty() ? GetColor(nRow) : -1;
+    if (nColor >= 0 && nColor < m_aColors.GetSize()) {
+        strSpoken = qv::ColorName(m_aColors[nColor]);
+    }
+    return CString(strSpoken.data(), static_cast<int>(strSpoken.size()));
 }

@@ -11,6 +11,8 @@
 // With EnableExpectedKeys, letters lead to the next row that begins with them as it is shown, in
 // boxes without an edit; the parent is told as of an arrow key.
 //
+// Screen readers hear a combo box and the list that it opens: see docs/accessibility.md.
+//
 // Without memory nothing is thrown: what reports failure reports it. The parent may delete rows and
 // destroy the control whenever it is told something, but in the WM_MEASUREITEM of a row that comes
 // and in the WM_DELETEITEM of a single row, which the platform's own control does not live through.
@@ -18,6 +20,7 @@
 
 #pragma once
 
+#include "boxes/combo_accessible.h"
 #include "frame/alive.h"
 #include "frame/expected_keys.h"
 #include "frame/qv_api.h"
@@ -25,11 +28,13 @@
 #include <afxtempl.h>
 #include <afxwin.h>
 
-class QV_CONTROLS_API QVColorComboBox : public CComboBox, public QVExpectedKeys {
+class QV_CONTROLS_API QVColorComboBox : public CComboBox,
+                                        public QVExpectedKeys,
+                                        public QVComboAccessible {
     DECLARE_DYNCREATE(QVColorComboBox)
 
 public:
-    QVColorComboBox() = default;
+    QVColorComboBox() : QVComboAccessible(static_cast<CComboBox&>(*this), m_alive) {}
 
     // --- Creation
 
@@ -46,6 +51,10 @@ public:
     // The colour's number in the table; -1 for a row that is none or is empty, 0 for one without a
     // number.
     int GetColor(int nIndex);
+
+    // What a screen reader hears of a row: the text as it is shown in the list; without one, its
+    // colour.
+    CString GetAccessibleRow(int nRow) override;
 
     void DrawItem(LPDRAWITEMSTRUCT pDraw) override;
     void MeasureItem(LPMEASUREITEMSTRUCT pMeasure) override;

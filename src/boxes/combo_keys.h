@@ -1,4 +1,4 @@
-// Type-ahead in combo boxes that are a list without an edit.
+// Rows that are chosen in a combo box as keys do it; type-ahead where it is a list without an edit.
 
 #pragma once
 
@@ -9,6 +9,16 @@
 #include <afxwin.h>
 
 namespace qv {
+
+// Selects a row as an arrow key does. The parent is told, and may take the box away.
+inline void ChooseRow(CComboBox& box, const AliveToken& alive, int nRow) {
+    const WindowWatch watch(alive, box.m_hWnd);
+    const bool bClosed = !box.GetDroppedState();
+    box.SetCurSel(nRow);
+    if (watch && (!bClosed || CommandParent(box, alive, CBN_SELENDOK).bAlive)) {
+        CommandParent(box, alive, CBN_SELCHANGE);
+    }
+}
 
 // A character that was typed: the row that begins with it is selected, and the parent told as of a
 // key. textOf(nRow) gives what a row shows, or null once the box is gone. False if it is none that
@@ -31,11 +41,7 @@ bool TakeTypedChar(CComboBox& box, const AliveToken& alive, TypedSearch& typed, 
     if (!watch || nFound == -1 || nFound == nCurrent) {
         return true;
     }
-    const bool bClosed = !box.GetDroppedState();
-    box.SetCurSel(nFound);
-    if (watch && (!bClosed || CommandParent(box, alive, CBN_SELENDOK).bAlive)) {
-        CommandParent(box, alive, CBN_SELCHANGE);
-    }
+    ChooseRow(box, alive, nFound);
     return true;
 }
 

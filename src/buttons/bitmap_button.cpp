@@ -1,10 +1,13 @@
 #include "buttons/bitmap_button.h"
 
+#include "buttons/button_accessible.h"
 #include "buttons/core/check_press.h"
 #include "frame/bevel.h"
 #include "frame/dc_guards.h"
 #include "frame/out_of_memory.h"
 #include "frame/tip_relay.h"
+
+#include <oleacc.h>
 
 IMPLEMENT_DYNAMIC(QVBitmapButton, CButton)
 
@@ -18,9 +21,12 @@ BEGIN_MESSAGE_MAP(QVBitmapButton, CButton)
     ON_WM_ERASEBKGND()
     ON_MESSAGE(BM_SETCHECK, &QVBitmapButton::OnSetCheck)
     ON_MESSAGE(BM_GETCHECK, &QVBitmapButton::OnGetCheck)
+    ON_MESSAGE(WM_SETTEXT, &QVBitmapButton::OnSetText)
+    ON_MESSAGE(WM_GETOBJECT, &QVBitmapButton::OnGetObject)
 END_MESSAGE_MAP()
 
-QVBitmapButton::QVBitmapButton() : m_pSpace(std::make_unique<qv::SpacePress>()) {}
+QVBitmapButton::QVBitmapButton()
+    : QVAccessible(static_cast<CWnd&>(*this)), m_pSpace(std::make_unique<qv::SpacePress>()) {}
 
 QVBitmapButton::~QVBitmapButton() {
     delete m_pToolTip;
@@ -121,6 +127,7 @@ BOOL QVBitmapButton::PreTranslateMessage(MSG* pMsg) {
 void QVBitmapButton::MoveCheck() {
     if (m_bCheckable) {
         m_nCheck = qv::ClickedCheck(m_nCheck);
+        TellAccessible(EVENT_OBJECT_STATECHANGE, CHILDID_SELF);
     }
 }
 
@@ -132,12 +139,16 @@ void QVBitmapButton::OnLButtonDown(UINT, CPoint) {
 void QVBitmapButton::OnLButtonUp(UINT, CPoint point) {
     CRect rc;
     GetClientRect(&rc);
-    if (!m_bIgnoreUp && rc.PtInRect(point)) {
+    const bool bMoves = !m_bIgnoreUp && rc.PtInRect(point);
+    m_bIgnoreUp = FALSE;
+    Invalidate(FALSE);
+    const qv::WindowWatch watch(m_alive, m_hWnd);
+    if (bMoves) {
         MoveCheck();
     }
-    Invalidate(FALSE);
-    m_bIgnoreUp = FALSE;
-    Default();
+    if (watch) {
+        Default();
+    }
 }
 
 void QVBitmapButton::OnLButtonDblClk(UINT, CPoint) {
@@ -163,20 +174,23 @@ void QVBitmapButton::OnKeyDown(UINT nChar, UINT, UINT) {
 
 // The platform clicks as Space goes up, and sends no release of the mouse.
 void QVBitmapButton::OnKeyUp(UINT nChar, UINT, UINT) {
+    const qv::WindowWatch watch(m_alive, m_hWnd);
     if (nChar == VK_SPACE) {
         const bool bPushed = (GetState() & BST_PUSHED) != 0;
         switch (m_pSpace->GoesUp(::GetCapture() == m_hWnd, bPushed)) {
             case qv::SpacePress::Release::kNotOurs:
                 return;
             case qv::SpacePress::Release::kClick:
-                MoveCheck();
                 Invalidate(FALSE);
+                MoveCheck();
                 break;
             case qv::SpacePress::Release::kNoClick:
                 break;
         }
     }
-    Default();
+    if (watch) {
+        Default();
+    }
 }
 
 void QVBitmapButton::OnCaptureChanged(CWnd*) {
@@ -191,10 +205,68 @@ LRESULT QVBitmapButton::OnSetCheck(WPARAM wParam, LPARAM) {
     if (m_bCheckable && nCheck != m_nCheck) {
         m_nCheck = nCheck;
         Invalidate(FALSE);
+        TellAccessible(EVENT_OBJECT_STATECHANGE, CHILDID_SELF);
     }
     return 0;
 }
 
 LRESULT QVBitmapButton::OnGetCheck(WPARAM, LPARAM) {
     return m_nCheck;
+}
+
+// --- What a screen reader is told
+
+LRESULT QVBitmapButton::OnGetObject(WPARAM wParam, LPARAM lParam) {
+    return AsksAccessible(lParam) ? AnswerAccessible(wParam, lParam) : Default();
+}
+
+LRESULT QVBitmapButton::OnSetText(WPARAM, LPARAM) {
+    const qv::WindowWatch watch(m_alive, m_hWnd);
+    const LRESULT lResult = Default();
+    if (watch) {
+        TellAccessible(EVENT_OBJECT_NAMECHANGE, CHILDID_SELF);
+    }
+    return lResult;
+}
+
+CString QVBitmapButton::TipText() const {
+    CString strTip;
+    if (m_pToolTip != nullptr && m_pToolTip->m_hWnd != nullptr) {
+        m_pToolTip->GetText(strTip, const_cast<QVBitmapButton*>(this));
+    }
+    return strTip;
+}
+
+CString QVBitmapButton::GetAccessibleName(long nPart) {
+    const CString strTip = GetWindowTextLength() == 0 ? TipText() : CString();
+    return strTip.IsEmpty() ? QVAccessible::GetAccessibleName(nPart) : strTip;
+}
+
+CString QVBitmapButton::GetAccessibleDescription(long nPart) {
+    const CString strTip = TipText();
+    return strTip != GetAccessibleName(nPart) ? strTip : CString();
+}
+
+CString QVBitmapButton::GetAccessibleAction(long) {
+    return !m_bCheckable                                  ? "Press"
+           : qv::ClickedCheck(m_nCheck) == qv::kUnchecked ? "Uncheck"
+                                                          : "Check";
+}
+
+long QVBitmapButton::GetAccessibleRole(long) {
+    return m_bCheckable ? ROLE_SYSTEM_CHECKBUTTON : ROLE_SYSTEM_PUSHBUTTON;
+}
+
+long QVBitmapButton::GetAccessibleState(long nPart) {
+    long nState = QVAccessible::GetAccessibleState(nPart) | qv::ButtonState(*this);
+    if (m_nCheck == qv::kIndeterminate) {
+        nState |= STATE_SYSTEM_MIXED;
+    } else if (m_nCheck == qv::kChecked) {
+        nState |= STATE_SYSTEM_CHECKED;
+    }
+    return nState;
+}
+
+BOOL QVBitmapButton::DoAccessibleAction(long) {
+    return qv::PressButton(*this);
 }

@@ -18,6 +18,7 @@
 
 #pragma once
 
+#include "frame/accessible.h"
 #include "frame/alive.h"
 #include "frame/qv_api.h"
 
@@ -30,7 +31,7 @@ namespace qv {
 class SpacePress;
 }
 
-class QV_CONTROLS_API QVBitmapButton : public CButton {
+class QV_CONTROLS_API QVBitmapButton : public CButton, public QVAccessible {
     DECLARE_DYNAMIC(QVBitmapButton)
 
 public:
@@ -45,6 +46,19 @@ public:
     // resources, 0 meaning that of the button's own id; without such a text nothing changes.
     void EnableToolTip(unsigned nTextID);
     void EnableToolTip(const char* pszText);
+
+    // --- What a screen reader is told
+
+    // The window text; without one the tooltip's, else that of the label before the button.
+    CString GetAccessibleName(long nPart) override;
+    // The tooltip's text, where it is not the name.
+    CString GetAccessibleDescription(long nPart) override;
+    // What a click would do: "Check" or "Uncheck", or "Press" where it moves no state.
+    CString GetAccessibleAction(long nPart) override;
+    long GetAccessibleRole(long nPart) override;
+    long GetAccessibleState(long nPart) override;
+    // A click, which comes with the messages that are posted.
+    BOOL DoAccessibleAction(long nPart) override;
 
     void DrawItem(LPDRAWITEMSTRUCT pDrawItem) override;
     BOOL PreTranslateMessage(MSG* pMsg) override;
@@ -64,6 +78,8 @@ protected:
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg LRESULT OnSetCheck(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnGetCheck(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSetText(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     CImageList* m_pImageList = nullptr;  // not owned
@@ -77,6 +93,7 @@ private:
     void Paint(const DRAWITEMSTRUCT& item);
     void DrawFace(CDC& dc, const DRAWITEMSTRUCT& item);
     void MoveCheck();
+    CString TipText() const;
 
     const std::unique_ptr<qv::SpacePress> m_pSpace;
     qv::AliveToken m_alive;

@@ -3,20 +3,27 @@
 #include "frame/dc_guards.h"
 #include "frame/out_of_memory.h"
 
+#include <oleacc.h>
+
 IMPLEMENT_DYNAMIC(QVCheckWnd, CWnd)
 
 BEGIN_MESSAGE_MAP(QVCheckWnd, CWnd)
     ON_WM_PAINT()
+    ON_MESSAGE(WM_GETOBJECT, &QVCheckWnd::OnGetObject)
 END_MESSAGE_MAP()
 
-QVCheckWnd::QVCheckWnd() = default;
+QVCheckWnd::QVCheckWnd() : QVAccessible(static_cast<CWnd&>(*this)) {}
 
 QVCheckWnd::~QVCheckWnd() = default;
 
 void QVCheckWnd::SetIsChecked(int bChecked) {
+    const bool bChanges = (m_bChecked != 0) != (bChecked != 0);
     m_bChecked = bChecked;
     if (m_hWnd != nullptr) {
         Invalidate(TRUE);
+    }
+    if (bChanges) {
+        TellAccessible(EVENT_OBJECT_STATECHANGE, CHILDID_SELF);
     }
 }
 
@@ -48,4 +55,19 @@ void QVCheckWnd::DrawWindow(CDC& dc) {
         dc.MoveTo(rc.right - 1, 0);
         dc.LineTo(0, rc.bottom - 1);
     }
+}
+
+// --- What a screen reader is told
+
+LRESULT QVCheckWnd::OnGetObject(WPARAM wParam, LPARAM lParam) {
+    return AsksAccessible(lParam) ? AnswerAccessible(wParam, lParam) : Default();
+}
+
+long QVCheckWnd::GetAccessibleRole(long) {
+    return ROLE_SYSTEM_CHECKBUTTON;
+}
+
+long QVCheckWnd::GetAccessibleState(long) {
+    return AccessibleWindowState() | STATE_SYSTEM_READONLY |
+           (m_bChecked ? STATE_SYSTEM_CHECKED : 0);
 }

@@ -1,11 +1,14 @@
 #include "buttons/menu_button.h"
 
+#include "buttons/button_accessible.h"
 #include "buttons/core/menu_face.h"
 #include "frame/bevel.h"
 #include "frame/dc_guards.h"
 #include "frame/out_of_memory.h"
 #include "frame/rectangles.h"
 #include "frame/text_out.h"
+
+#include <oleacc.h>
 
 IMPLEMENT_DYNAMIC(QVMenuButton, CButton)
 
@@ -15,6 +18,8 @@ BEGIN_MESSAGE_MAP(QVMenuButton, CButton)
     ON_CONTROL_REFLECT(BN_CLICKED, &QVMenuButton::OnClicked)
     ON_WM_GETDLGCODE()
     ON_WM_DESTROY()
+    ON_MESSAGE(WM_SETTEXT, &QVMenuButton::OnSetText)
+    ON_MESSAGE(WM_GETOBJECT, &QVMenuButton::OnGetObject)
 END_MESSAGE_MAP()
 
 namespace {
@@ -38,7 +43,8 @@ bool FillMenu(CMenu& menu, const CStringArray& items, unsigned nStartCmdID) {
 
 }  // namespace
 
-QVMenuButton::QVMenuButton() : m_nStartCmdID(kFirstCommand) {}
+QVMenuButton::QVMenuButton()
+    : QVAccessible(static_cast<CWnd&>(*this)), m_nStartCmdID(kFirstCommand) {}
 
 QVMenuButton::~QVMenuButton() {
     CloseMenu();
@@ -67,8 +73,17 @@ void QVMenuButton::ShowMenu() {
         }
         CRect rc;
         GetWindowRect(&rc);
-        const qv::SetWhileAlive<bool> open(m_alive, m_bMenuOpen, true);
-        menu.TrackPopupMenu(TPM_RIGHTBUTTON, rc.left, rc.bottom, this);
+        const qv::WindowWatch watch(m_alive, m_hWnd);
+        {
+            const qv::SetWhileAlive<bool> open(m_alive, m_bMenuOpen, true);
+            TellAccessible(EVENT_OBJECT_STATECHANGE, CHILDID_SELF);
+            if (watch) {
+                menu.TrackPopupMenu(TPM_RIGHTBUTTON, rc.left, rc.bottom, this);
+            }
+        }
+        if (watch) {
+            TellAccessible(EVENT_OBJECT_STATECHANGE, CHILDID_SELF);
+        }
     });
 }
 
@@ -181,4 +196,40 @@ void QVMenuButton::Paint(const DRAWITEMSTRUCT& item) {
     qv::DrawEngravedText(dc, rcBlock.left, rcBlock.top, qv::View(strCaption));
     qv::DrawEngraved(
         [&](int nOffset, COLORREF cr) { DrawArrow(dc, rcArrow + CPoint(nOffset, nOffset), cr); });
+}
+
+// --- What a screen reader is told
+
+LRESULT QVMenuButton::OnGetObject(WPARAM wParam, LPARAM lParam) {
+    return AsksAccessible(lParam) ? AnswerAccessible(wParam, lParam) : Default();
+}
+
+LRESULT QVMenuButton::OnSetText(WPARAM, LPARAM) {
+    const qv::WindowWatch watch(m_alive, m_hWnd);
+    const LRESULT lResult = Default();
+    if (watch) {
+        TellAccessible(EVENT_OBJECT_NAMECHANGE, CHILDID_SELF);
+    }
+    return lResult;
+}
+
+CString QVMenuButton::GetAccessibleAction(long) {
+    return m_bMenuOpen ? "Close" : "Open";
+}
+
+long QVMenuButton::GetAccessibleRole(long) {
+    return ROLE_SYSTEM_BUTTONMENU;
+}
+
+long QVMenuButton::GetAccessibleState(long nPart) {
+    return QVAccessible::GetAccessibleState(nPart) | qv::ButtonState(*this) |
+           STATE_SYSTEM_HASPOPUP | (m_bMenuOpen ? STATE_SYSTEM_EXPANDED : STATE_SYSTEM_COLLAPSED);
+}
+
+BOOL QVMenuButton::DoAccessibleAction(long) {
+    if (m_bMenuOpen) {
+        CloseMenu();
+        return TRUE;
+    }
+    return qv::PressButton(*this);
 }

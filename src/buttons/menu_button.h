@@ -16,12 +16,13 @@
 
 #pragma once
 
+#include "frame/accessible.h"
 #include "frame/alive.h"
 #include "frame/qv_api.h"
 
 #include <afxwin.h>
 
-class QV_CONTROLS_API QVMenuButton : public CButton {
+class QV_CONTROLS_API QVMenuButton : public CButton, public QVAccessible {
     DECLARE_DYNAMIC(QVMenuButton)
 
 public:
@@ -32,6 +33,15 @@ public:
     int AddString(const CString& strItem);
     // 900 at first.
     void SetStartCmdID(unsigned nCmdID);
+
+    // --- What a screen reader is told: its name is the caption
+
+    // "Open" or "Close" for its menu.
+    CString GetAccessibleAction(long nPart) override;
+    long GetAccessibleRole(long nPart) override;
+    long GetAccessibleState(long nPart) override;
+    // Opening is a click, which comes with the messages that are posted.
+    BOOL DoAccessibleAction(long nPart) override;
 
     void DrawItem(LPDRAWITEMSTRUCT pDrawItem) override;
 
@@ -53,6 +63,8 @@ protected:
     afx_msg void OnClicked();
     afx_msg UINT OnGetDlgCode();
     afx_msg void OnDestroy();
+    afx_msg LRESULT OnSetText(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     unsigned m_nStartCmdID;

@@ -2,11 +2,14 @@
 
 #include "containers/core/header_bar.h"
 #include "frame/ancestor_font.h"
+#include "frame/child_parts.h"
 #include "frame/create_window.h"
 #include "frame/dc_guards.h"
 #include "frame/notify.h"
 #include "frame/rectangles.h"
 #include "frame/text_out.h"
+
+#include <oleacc.h>
 
 IMPLEMENT_DYNCREATE(QVHeaderWnd, CWnd)
 
@@ -37,11 +40,12 @@ BEGIN_MESSAGE_MAP(QVHeaderWnd, CWnd)
     ON_WM_PAINT()
     ON_WM_SETFOCUS()
     ON_WM_ERASEBKGND()
+    ON_MESSAGE(WM_GETOBJECT, &QVHeaderWnd::OnGetObject)
 END_MESSAGE_MAP()
 
 // --- Creation
 
-QVHeaderWnd::QVHeaderWnd() = default;
+QVHeaderWnd::QVHeaderWnd() : QVAccessible(static_cast<CWnd&>(*this)) {}
 
 QVHeaderWnd::~QVHeaderWnd() {
     DestroyWindow();
@@ -108,6 +112,7 @@ void QVHeaderWnd::SetHeaderText(LPCSTR pszText) {
         CRect rect;
         CalcHeaderRect(rect);
         InvalidateRect(&rect, TRUE);
+        TellAccessible(EVENT_OBJECT_NAMECHANGE, CHILDID_SELF);
     }
 }
 
@@ -241,4 +246,38 @@ bool QVHeaderWnd::IsInnerId(UINT nInnerID, WPARAM wID) {
 
 LRESULT QVHeaderWnd::SendToParent(UINT nMessage, WPARAM wParam, LPARAM lParam) {
     return qv::SendToParent(*this, m_alive, nMessage, wParam, lParam).lResult;
+}
+
+// --- What a screen reader is told
+
+LRESULT QVHeaderWnd::OnGetObject(WPARAM wParam, LPARAM lParam) {
+    return AsksAccessible(lParam) ? AnswerAccessible(wParam, lParam) : Default();
+}
+
+CString QVHeaderWnd::GetAccessibleName(long nPart) {
+    return nPart == CHILDID_SELF ? m_strHeaderText : CString();
+}
+
+CString QVHeaderWnd::GetAccessibleShortcut(long) {
+    return CString();
+}
+
+long QVHeaderWnd::GetAccessibleRole(long nPart) {
+    return nPart == CHILDID_SELF ? ROLE_SYSTEM_GROUPING : ROLE_SYSTEM_WINDOW;
+}
+
+long QVHeaderWnd::GetAccessibleState(long) {
+    return AccessibleWindowState();
+}
+
+long QVHeaderWnd::GetAccessibleCount() {
+    return qv::CountChildren(m_hWnd);
+}
+
+HWND QVHeaderWnd::GetAccessibleWindow(long nPart) {
+    return qv::ChildOfPart(m_hWnd, nPart);
+}
+
+long QVHeaderWnd::AccessibleHitTest(CPoint pt) {
+    return qv::ChildPartAt(m_hWnd, pt);
 }

@@ -8,12 +8,13 @@
 
 #pragma once
 
+#include "frame/accessible.h"
 #include "frame/alive.h"
 #include "frame/qv_api.h"
 
 #include <afxwin.h>
 
-class QV_CONTROLS_API QVHeaderWnd : public CWnd {
+class QV_CONTROLS_API QVHeaderWnd : public CWnd, public QVAccessible {
     DECLARE_DYNCREATE(QVHeaderWnd)
 
 public:
@@ -37,6 +38,17 @@ public:
     // Without memory, and with a string that is not in the resources, the caption stays.
     void SetHeaderText(LPCSTR pszText);
     void SetHeaderText(UINT nStringID);
+
+    // --- What a screen reader is told: a group, with the windows inside as parts
+
+    // The caption.
+    CString GetAccessibleName(long nPart) override;
+    CString GetAccessibleShortcut(long nPart) override;
+    long GetAccessibleRole(long nPart) override;
+    long GetAccessibleState(long nPart) override;
+    long GetAccessibleCount() override;
+    HWND GetAccessibleWindow(long nPart) override;
+    long AccessibleHitTest(CPoint pt) override;
 
 protected:
     // Fits the bar to the font, or to the device context's own where no ancestor has one.
@@ -72,6 +84,7 @@ protected:
     afx_msg void OnPaint();
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     int m_nHeaderHeight = 0;

@@ -1,13 +1,16 @@
 #include "containers/split_wnd.h"
 
 #include "containers/core/split_layout.h"
+#include "frame/child_parts.h"
 #include "frame/create_window.h"
 #include "frame/dc_guards.h"
 #include "frame/rectangles.h"
 #include "frame/redraw_pause.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <memory>
+#include <oleacc.h>
 #include <utility>
 
 IMPLEMENT_DYNCREATE(QVSplitWnd, CWnd)
@@ -52,11 +55,16 @@ BEGIN_MESSAGE_MAP(QVSplitWnd, CWnd)
     ON_WM_LBUTTONUP()
     ON_WM_CANCELMODE()
     ON_WM_CAPTURECHANGED()
+    ON_WM_KEYDOWN()
+    ON_WM_GETDLGCODE()
+    ON_WM_SETFOCUS()
+    ON_WM_KILLFOCUS()
+    ON_MESSAGE(WM_GETOBJECT, &QVSplitWnd::OnGetObject)
 END_MESSAGE_MAP()
 
 // --- Life
 
-QVSplitWnd::QVSplitWnd() = default;
+QVSplitWnd::QVSplitWnd() : QVAccessible(static_cast<CWnd&>(*this)) {}
 
 QVSplitWnd::~QVSplitWnd() {
     DestroyWindow();
@@ -444,8 +452,17 @@ void QVSplitWnd::OnLButtonUp(UINT, CPoint) {
         ::ReleaseCapture();
     }
     DrawTrackerAt(m_nSplitPos);
+    LeaveBar();
+}
+
+// The bar stays where it is now.
+void QVSplitWnd::LeaveBar() {
+    const qv::WindowWatch watch(m_alive, m_hWnd);
     Bar().TakeRatio(Layout().Length());
     RepositionPanes();
+    if (watch) {
+        TellAccessible(EVENT_OBJECT_VALUECHANGE, CHILDID_SELF);
+    }
 }
 
 void QVSplitWnd::OnCancelMode() {
@@ -484,6 +501,49 @@ void QVSplitWnd::EndDrag() {
         ::ReleaseCapture();
     }
     DrawTrackerAt(*tracker);
+}
+
+// --- Keys
+
+void QVSplitWnd::OnKeyDown(UINT nChar, UINT, UINT) {
+    const auto target = AreExpectedKeysEnabled() ? qv::KeyTarget(Layout(), m_nSplitPos, nChar,
+                                                                 ::GetKeyState(VK_CONTROL) < 0)
+                                                 : std::nullopt;
+    if (target && !m_bTracking) {
+        MoveBar(*target);
+    } else {
+        Default();
+    }
+}
+
+void QVSplitWnd::MoveBar(int nPos) {
+    EndDrag();
+    if (nPos != m_nSplitPos) {
+        m_nSplitPos = nPos;
+        LeaveBar();
+    }
+}
+
+UINT QVSplitWnd::OnGetDlgCode() {
+    return AreExpectedKeysEnabled() ? DLGC_WANTARROWS : static_cast<UINT>(Default());
+}
+
+void QVSplitWnd::OnSetFocus(CWnd*) {
+    ShowFocus();
+}
+
+void QVSplitWnd::OnKillFocus(CWnd*) {
+    ShowFocus();
+}
+
+void QVSplitWnd::ShowFocus() {
+    const qv::WindowWatch watch(m_alive, m_hWnd);
+    Default();
+    if (watch && AreExpectedKeysEnabled()) {
+        CRect rect;
+        CalcSplitRect(rect, -1);
+        InvalidateRect(&rect, FALSE);
+    }
 }
 
 // --- Painting
@@ -538,4 +598,85 @@ void QVSplitWnd::OnPaint() {
             fill(layout.Pane(nPane, nPos));
         }
     }
+    if (AreExpectedKeysEnabled() && ::GetFocus() == m_hWnd) {
+        const CRect rcBar = qv::ToCRect(layout.Bar(nPos));
+        dc.DrawFocusRect(&rcBar);
+    }
+}
+
+// --- What a screen reader is told
+
+LRESULT QVSplitWnd::OnGetObject(WPARAM wParam, LPARAM lParam) {
+    return AsksAccessible(lParam) ? AnswerAccessible(wParam, lParam) : Default();
+}
+
+CString QVSplitWnd::GetAccessibleName(long nPart) {
+    CString strName;
+    if (nPart == CHILDID_SELF) {
+        GetWindowText(strName);
+    }
+    return WithoutMarks(strName);
+}
+
+CString QVSplitWnd::GetAccessibleShortcut(long) {
+    return CString();
+}
+
+CString QVSplitWnd::GetAccessibleValue(long nPart) {
+    CString strValue;
+    if (nPart == CHILDID_SELF) {
+        strValue.Format(
+            "%d", qv::SplitPercent(m_bTracking ? m_nTrackStart : m_nSplitPos, Layout().Length()));
+    }
+    return strValue;
+}
+
+long QVSplitWnd::GetAccessibleRole(long nPart) {
+    return nPart == CHILDID_SELF ? ROLE_SYSTEM_SEPARATOR : ROLE_SYSTEM_WINDOW;
+}
+
+// The focus is of use with the keys alone.
+long QVSplitWnd::GetAccessibleState(long nPart) {
+    return nPart == CHILDID_SELF && AreExpectedKeysEnabled()
+               ? QVAccessible::GetAccessibleState(nPart)
+               : AccessibleWindowState();
+}
+
+BOOL QVSplitWnd::GetAccessibleRect(long nPart, CRect& rect) {
+    if (nPart != CHILDID_SELF) {
+        return FALSE;
+    }
+    CalcSplitRect(rect, m_bTracking ? m_nTrackStart : -1);
+    return TRUE;
+}
+
+long QVSplitWnd::GetAccessibleCount() {
+    return qv::CountChildren(m_hWnd);
+}
+
+HWND QVSplitWnd::GetAccessibleWindow(long nPart) {
+    return qv::ChildOfPart(m_hWnd, nPart);
+}
+
+long QVSplitWnd::AccessibleHitTest(CPoint pt) {
+    return qv::ChildPartAt(m_hWnd, pt);
+}
+
+long QVSplitWnd::GetAccessibleFocus() {
+    return CHILDID_SELF;
+}
+
+BOOL QVSplitWnd::SetAccessibleValue(long nPart, const CString& strValue) {
+    constexpr long kAll = 100;
+    const char* const pszValue = strValue;
+    char* pszEnd = nullptr;
+    const long nPercent = std::strtol(pszValue, &pszEnd, 10);
+    if (nPart != CHILDID_SELF || pszEnd == pszValue || nPercent < 0 || nPercent > kAll ||
+        !IsWindowEnabled()) {
+        return FALSE;
+    }
+    const qv::SplitLayout layout = Layout();
+    const int nPos = qv::SplitPosition(static_cast<int>(nPercent), layout.Length());
+    MoveBar(layout.Dragged({nPos, nPos}));
+    return TRUE;
 }

@@ -9,6 +9,9 @@
 // the bar goes back, where the window is moved, sized or hidden meanwhile, a pane is added or
 // swapped, or another window takes the capture or comes to the front.
 //
+// With EnableExpectedKeys the bar takes the focus from the Tab key, shows it, and moves by the
+// arrows: 10 pixels, with Ctrl one; Home and End take it as far as a drag can.
+//
 // Ownership: the windows of both panes are destroyed with this window, and their objects deleted
 // with this object unless SetAutoDeletePanes(FALSE) is called: for panes that are members, and for
 // those that delete themselves. As long as this window is there, a pane whose window somebody else
@@ -19,7 +22,9 @@
 
 #pragma once
 
+#include "frame/accessible.h"
 #include "frame/alive.h"
+#include "frame/expected_keys.h"
 #include "frame/qv_api.h"
 
 #include <afxwin.h>
@@ -29,7 +34,7 @@ class SplitBar;
 struct SplitLayout;
 }  // namespace qv
 
-class QV_CONTROLS_API QVSplitWnd : public CWnd {
+class QV_CONTROLS_API QVSplitWnd : public CWnd, public QVExpectedKeys, public QVAccessible {
     DECLARE_DYNCREATE(QVSplitWnd)
 
 public:
@@ -63,6 +68,23 @@ public:
     void SetSplitRatio(int nPercent) { m_nSplitRatio = nPercent; }
     void SetAutoDeletePanes(int bAutoDelete) { m_bAutoDeletePanes = bAutoDelete; }
 
+    // --- What a screen reader is told: the bar, with child windows as parts if it has any
+
+    // The window text; the text before it is some pane's.
+    CString GetAccessibleName(long nPart) override;
+    CString GetAccessibleShortcut(long nPart) override;
+    // The share of pane 0, in percent.
+    CString GetAccessibleValue(long nPart) override;
+    long GetAccessibleRole(long nPart) override;
+    long GetAccessibleState(long nPart) override;
+    BOOL GetAccessibleRect(long nPart, CRect& rect) override;
+    long GetAccessibleCount() override;
+    HWND GetAccessibleWindow(long nPart) override;
+    long AccessibleHitTest(CPoint pt) override;
+    long GetAccessibleFocus() override;
+    // 0 to 100: moves the bar as far towards it as a drag can.
+    BOOL SetAccessibleValue(long nPart, const CString& strValue) override;
+
 protected:
     // The thickness of the bar, which is that of the system's sizing frames. An odd one makes a bar
     // that is thinner by a pixel.
@@ -92,6 +114,11 @@ protected:
     afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
     afx_msg void OnCancelMode();
     afx_msg void OnCaptureChanged(CWnd* pWnd);
+    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg UINT OnGetDlgCode();
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg void OnKillFocus(CWnd* pNewWnd);
+    afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     int m_bVertical = TRUE;
@@ -127,6 +154,9 @@ private:
     bool LoadHalftone();
     void DrawTrackerAt(int nPos);
     void InvertTracker(CDC& dc, const CRect& rect);
+    void MoveBar(int nPos);
+    void LeaveBar();
+    void ShowFocus();
 
     // What is known of a slot's pane without touching it.
     struct Known {

@@ -18,6 +18,7 @@ BEGIN_MESSAGE_MAP(QVTabView, CView)
     ON_WM_SIZE()
     ON_WM_ERASEBKGND()
     ON_WM_SETFOCUS()
+    ON_WM_SYSCOLORCHANGE()
 END_MESSAGE_MAP()
 
 // Behind the number 0, by which OnCmdMsg names the control whatever its own is.
@@ -30,6 +31,22 @@ END_EVENTSINK_MAP()
 namespace {
 
 constexpr int kTabMargin = 4;  // pixels beside the widest title
+
+struct SystemColor {
+    void (CTab::*pfnSet)(long);
+    long (CTab::*pfnGet)();
+    int nSystemColor;
+};
+constexpr SystemColor kSystemColors[] = {
+    {&CTab::SetBackColor, &CTab::GetBackColor, COLOR_BTNFACE},
+    {&CTab::SetThreeDShadowColor, &CTab::GetThreeDShadowColor, COLOR_BTNSHADOW},
+    {&CTab::SetThreeDInnerDark, &CTab::GetThreeDInnerDark, COLOR_BTNSHADOW},
+    {&CTab::SetThreeDInnerLight, &CTab::GetThreeDInnerLight, COLOR_3DLIGHT},
+    {&CTab::SetThreeDOuterDark, &CTab::GetThreeDOuterDark, COLOR_3DDKSHADOW},
+    {&CTab::SetThreeDOuterLight, &CTab::GetThreeDOuterLight, COLOR_BTNHIGHLIGHT},
+    {&CTab::SetThreeDHighlightColor, &CTab::GetThreeDHighlightColor, COLOR_BTNHIGHLIGHT},
+    {&CTab::SetGrayAreaColor, &CTab::GetGrayAreaColor, COLOR_BTNFACE},
+    {&CTab::SetForeColor, &CTab::GetForeColor, COLOR_WINDOWTEXT}};
 
 // As controls know fonts. dc has the font selected. Without memory it has no object.
 COleFont OleFontOf(const CFont& font, CDC& dc) {
@@ -56,7 +73,10 @@ COleFont OleFontOf(const CFont& font, CDC& dc) {
 
 }  // namespace
 
-QVTabView::QVTabView(UINT nTabCtrlID) : m_nTabCtrlID(nTabCtrlID) {}
+QVTabView::QVTabView(UINT nTabCtrlID) : m_nTabCtrlID(nTabCtrlID) {
+    static_assert(std::size(kSystemColors) == std::tuple_size_v<Colors>);
+    m_system.fill(CLR_INVALID);
+}
 
 QVTabView::~QVTabView() {
     for (INT_PTR n = 0; n < m_Pages.GetSize(); ++n) {
@@ -107,19 +127,6 @@ void QVTabView::OnInitialUpdate() {
 void QVTabView::InitializeTabCtrl() {
     constexpr long kLeft = 3;        // Orientation
     constexpr long kHorizontal = 1;  // TextOrientation
-    struct Color {
-        void (CTab::*pfnSet)(long);
-        int nSystemColor;
-    };
-    static constexpr Color kColors[] = {{&CTab::SetBackColor, COLOR_BTNFACE},
-                                        {&CTab::SetThreeDShadowColor, COLOR_BTNSHADOW},
-                                        {&CTab::SetThreeDInnerDark, COLOR_BTNSHADOW},
-                                        {&CTab::SetThreeDInnerLight, COLOR_3DLIGHT},
-                                        {&CTab::SetThreeDOuterDark, COLOR_3DDKSHADOW},
-                                        {&CTab::SetThreeDOuterLight, COLOR_BTNHIGHLIGHT},
-                                        {&CTab::SetThreeDHighlightColor, COLOR_BTNHIGHLIGHT},
-                                        {&CTab::SetGrayAreaColor, COLOR_BTNFACE},
-                                        {&CTab::SetForeColor, COLOR_WINDOWTEXT}};
     const qv::WindowWatch watch(m_life.Token(), m_TabCtrl.m_hWnd);
     // Each by itself: a control that lacks one of them still gets the others.
     const auto set = [&](auto action) {
@@ -133,10 +140,39 @@ void QVTabView::InitializeTabCtrl() {
     set([&] { m_TabCtrl.SetWordWrap(TRUE); });
     set([&] { m_TabCtrl.SetOrientation(kLeft); });
     set([&] { m_TabCtrl.SetTextOrientation(kHorizontal); });
-    for (const Color& color : kColors) {
+    for (const SystemColor& color : kSystemColors) {
         set([&] {
             (m_TabCtrl.*color.pfnSet)(static_cast<long>(::GetSysColor(color.nSystemColor)));
         });
+    }
+    if (watch) {
+        m_system = SystemColors();
+    }
+}
+
+QVTabView::Colors QVTabView::SystemColors() {
+    Colors colors;
+    std::transform(std::begin(kSystemColors), std::end(kSystemColors), colors.begin(),
+                   [](const SystemColor& color) { return ::GetSysColor(color.nSystemColor); });
+    return colors;
+}
+
+// A colour that a derived view has chosen itself stays.
+void QVTabView::OnSysColorChange() {
+    CView::OnSysColorChange();
+    const Colors now = SystemColors();
+    const qv::WindowWatch watch(m_life.Token(), m_TabCtrl.m_hWnd);
+    for (size_t i = 0; watch && m_TabCtrl.m_hWnd != nullptr && i < now.size(); ++i) {
+        qv::ControlAnswers([&] {
+            if (static_cast<COLORREF>((m_TabCtrl.*kSystemColors[i].pfnGet)()) == m_system[i] &&
+                watch) {
+                (m_TabCtrl.*kSystemColors[i].pfnSet)(static_cast<long>(now[i]));
+            }
+        });
+    }
+    if (watch) {
+        m_system = now;
+        Invalidate();
     }
 }
 

@@ -29,6 +29,8 @@
 #include <afxdisp.h>
 #include <afxtempl.h>
 
+#include <array>
+
 class QV_CONTROLS_API QVTabView : public CView {
     DECLARE_DYNCREATE(QVTabView)
 
@@ -93,6 +95,7 @@ protected:
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg void OnSysColorChange();
     DECLARE_MESSAGE_MAP()
 
     CArray<QVTabViewPage*, QVTabViewPage*> m_Pages;
@@ -103,10 +106,13 @@ protected:
 private:
     template <class Step>
     void InPage(int nPage, Step step);
+    using Colors = std::array<COLORREF, 9>;
+    static Colors SystemColors();
     void MakeTabHeight();
     void MakeTabs();
     void LayOut(int cx, int cy);
     CRect PageArea();
 
+    Colors m_system;  // that the control was given last
     qv::PageLife m_life{*this};
 };

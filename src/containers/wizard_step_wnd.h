@@ -12,11 +12,16 @@
 
 #pragma once
 
+#include "containers/wizard_records.h"
+#include "frame/accessible.h"
 #include "frame/cust_ctrl.h"
 
-class QVWizardPage;
+#include <vector>
 
-class QV_CONTROLS_API QVWizardStepWnd : public QVCustCtrl {
+class QVWizardPage;
+class QVWizardStepData;
+
+class QV_CONTROLS_API QVWizardStepWnd : public QVCustCtrl, public QVAccessible {
     DECLARE_DYNCREATE(QVWizardStepWnd)
 
 public:
@@ -27,8 +32,26 @@ public:
     // fonts from that of the nearest ancestor that has one.
     int Initialize(UINT nID, CWnd* pParent) override;
 
+    // --- What a screen reader is told: the steps in a list that nobody can choose from
+
+    // Of a step its title.
+    CString GetAccessibleName(long nPart) override;
+    // Which step it is: "2 of 5".
+    CString GetAccessibleDescription(long nPart) override;
+    long GetAccessibleRole(long nPart) override;
+    // The page's step is the selected one, those seen before are traversed.
+    long GetAccessibleState(long nPart) override;
+    // Box and title.
+    BOOL GetAccessibleRect(long nPart, CRect& rect) override;
+    long GetAccessibleCount() override;
+    long AccessibleHitTest(CPoint pt) override;
+    long GetAccessibleFocus() override;
+    long GetNextAccessibleSelected(long nPart) override;
+
 protected:
     void Draw(CDC& dc, const CRect& rect) override;
+    afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
+    DECLARE_MESSAGE_MAP()
 
     DWORD m_dwStepID = 0;   // the page's step
     int m_nStepIndex = -1;  // its first place among the steps; -1: it is none of them
@@ -36,6 +59,9 @@ protected:
     CFont m_fontBold;
 
 private:
+    static const std::vector<_QVWIZSTEP_INFO>& Steps();
+    const _QVWIZSTEP_INFO* PartStep(long nPart) const;
     void TakeStep(QVWizardPage& page);
     void MakeFonts();
+    bool MarkVisited(QVWizardStepData& data);
 };

@@ -18,6 +18,24 @@ void QVFindInstallationDlg::SetInstallationMachine(LPCSTR pszMachine) {
     qv::StoreText(m_strInstallationMachine, pszMachine);
 }
 
+// The text before a field takes the gap between them as well: fonts may be wider than the
+// template's.
+static void WidenLabelOf(CWnd& field) {
+    CWnd* const pLabel = field.GetWindow(GW_HWNDPREV);
+    CWnd* const pParent = field.GetParent();
+    if (pLabel == nullptr || pParent == nullptr) {
+        return;
+    }
+    CRect rcField;
+    CRect rcLabel;
+    field.GetWindowRect(&rcField);
+    pLabel->GetWindowRect(&rcLabel);
+    if (rcLabel.left < rcField.left && rcLabel.right < rcField.left) {
+        pLabel->SetWindowPos(nullptr, 0, 0, rcField.left - rcLabel.left, rcLabel.Height(),
+                             SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+}
+
 void QVFindInstallationDlg::DoDataExchange(CDataExchange* pDX) {
     CDialog::DoDataExchange(pDX);
     DDX_Control(pDX, IDOK, m_btnOK);
@@ -25,6 +43,7 @@ void QVFindInstallationDlg::DoDataExchange(CDataExchange* pDX) {
     if (pDX->m_bSaveAndValidate) {
         CheckMachine(pDX);
     } else {
+        WidenLabelOf(*GetDlgItem(QV_IDC_INSTALLATION_MACHINE));
         UpdateControls();
     }
 }

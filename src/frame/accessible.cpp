@@ -4,12 +4,15 @@
 #include "frame/accessible_object.h"
 
 #include <oleacc.h>
+#include <utility>
 
 namespace {
 
 // A question that the control posts to itself: tell now that parts came or went. No identifier of
 // the platform's, whose own are negative or 0.
 constexpr LONG kTellReorder = 0x51563137;
+// Likewise: do what was put off. It does nothing else, as anybody may post it.
+constexpr LONG kDoPosted = 0x51563138;
 
 // The text of a window, however long.
 CString TextOf(HWND hWnd) {
@@ -66,22 +69,32 @@ QVAccessible::~QVAccessible() {
 // --- What is said of a part
 
 CString QVAccessible::LabelText() const {
-    CString strText = TextOf(m_wnd.m_hWnd);
+    CString strText;
+    if (!m_bNameByLabelAlone) {
+        strText = TextOf(m_wnd.m_hWnd);
+    }
     if (strText.IsEmpty()) {
-        if (const HWND hLabel = LabelOf(m_wnd.m_hWnd)) {
+        const HWND hWnd = m_wnd.m_hWnd;
+        const bool bKept = m_hLabel != nullptr && ::GetParent(m_hLabel) == ::GetParent(hWnd);
+        if (const HWND hLabel = bKept ? m_hLabel : LabelOf(hWnd)) {
             strText = TextOf(hLabel);
         }
     }
     return strText;
 }
 
+void QVAccessible::KeepAccessibleLabel() {
+    m_hLabel = LabelOf(m_wnd.m_hWnd);
+}
+
 CString QVAccessible::GetAccessibleName(long nPart) {
-    CString strName;
-    if (nPart == CHILDID_SELF) {
-        strName = LabelText();
-        StripMarks(strName);
-    }
-    return strName;
+    return nPart == CHILDID_SELF ? WithoutMarks(LabelText()) : CString();
+}
+
+CString QVAccessible::WithoutMarks(const CString& strText) {
+    CString strPlain(strText);
+    StripMarks(strPlain);
+    return strPlain;
 }
 
 CString QVAccessible::GetAccessibleValue(long) {
@@ -231,11 +244,22 @@ BOOL QVAccessible::SetAccessibleValue(long, const CString&) {
     return FALSE;
 }
 
+BOOL QVAccessible::PostAccessible(long nPart) {
+    if (!::PostMessage(m_wnd.m_hWnd, WM_GETOBJECT, 0, kDoPosted)) {
+        return FALSE;
+    }
+    m_nPosted = nPart;
+    return TRUE;
+}
+
+void QVAccessible::DoPostedAccessible(long) {}
+
 // --- The question and the events
 
 bool QVAccessible::AsksAccessible(LPARAM lParam) {
     const LONG nObject = static_cast<LONG>(lParam);
-    return nObject == static_cast<LONG>(OBJID_CLIENT) || nObject == kTellReorder;
+    return nObject == static_cast<LONG>(OBJID_CLIENT) || nObject == kTellReorder ||
+           nObject == kDoPosted;
 }
 
 LRESULT QVAccessible::AnswerAccessible(WPARAM wParam, LPARAM lParam) {
@@ -243,6 +267,13 @@ LRESULT QVAccessible::AnswerAccessible(WPARAM wParam, LPARAM lParam) {
         if (m_hReorderDue == m_wnd.m_hWnd) {
             m_hReorderDue = nullptr;
             TellAccessible(EVENT_OBJECT_REORDER, CHILDID_SELF);
+        }
+        return 0;
+    }
+    if (static_cast<LONG>(lParam) == kDoPosted) {
+        const long nPart = std::exchange(m_nPosted, 0);
+        if (nPart != 0 && IsAccessiblePart(nPart)) {
+            DoPostedAccessible(nPart);
         }
         return 0;
     }

@@ -89,6 +89,15 @@ protected:
     QVAccessible(const QVAccessible&) = delete;
     QVAccessible& operator=(const QVAccessible&) = delete;
 
+    // For a control whose window text is its value or nothing to be heard: the text before it in
+    // its dialog alone is its name, and has its shortcut.
+    void NameByLabelAlone() { m_bNameByLabelAlone = true; }
+    // The text that is before the control now stays its label, wherever the control goes among its
+    // siblings.
+    void KeepAccessibleLabel();
+    // A text without the '&' of its mnemonics; "&&" is one.
+    static CString WithoutMarks(const CString& strText);
+
     // For the control's handler of WM_GETOBJECT: true if the question is for AnswerAccessible, else
     // it is for the default handling.
     static bool AsksAccessible(LPARAM lParam);
@@ -104,6 +113,12 @@ protected:
     // message queue is looked at.
     void TellAccessibleReorder();
 
+    // For a deed that the parent may answer by a dialog: who asks goes on at once, and
+    // DoPostedAccessible comes with the messages that are posted. False if nothing can be posted.
+    BOOL PostAccessible(long nPart);
+    // The part is there. The control may be gone afterwards.
+    virtual void DoPostedAccessible(long nPart);
+
     // STATE_SYSTEM_ bits that the window gives to all its parts: unavailable, invisible.
     long AccessibleWindowState() const;
     // Nearly all that a selectable part says of its state.
@@ -115,4 +130,7 @@ private:
     CWnd& m_wnd;
     qv::AccessibleObject* m_pObject = nullptr;  // one of its references
     HWND m_hReorderDue = nullptr;               // the window that an event is due of
+    HWND m_hLabel = nullptr;                    // that was kept
+    long m_nPosted = 0;                         // the part that a deed is due of
+    bool m_bNameByLabelAlone = false;
 };

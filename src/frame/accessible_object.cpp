@@ -358,10 +358,9 @@ STDMETHODIMP AccessibleObject::accHitTest(long x, long y, VARIANT* pPart) {
     pPart->vt = VT_EMPTY;
     return Try([&] {
         CPoint pt(x, y);
-        CRect rcClient;
+        CRect rc;
         ::ScreenToClient(m_hWnd, &pt);
-        ::GetClientRect(m_hWnd, &rcClient);
-        if (!rcClient.PtInRect(pt)) {
+        if (!m_pParts->GetAccessibleRect(CHILDID_SELF, rc) || !rc.PtInRect(pt)) {
             return S_FALSE;
         }
         const long nPart = m_pParts->AccessibleHitTest(pt);

@@ -12,7 +12,22 @@ int QVStyleTable::AddStyle(COLORREF crText, COLORREF crBk) {
 
 int QVStyleTable::UpdateStyle(int nStyle, COLORREF crText, COLORREF crBk) {
     m_aStyles.Update(nStyle, crText, crBk);
+    if (nStyle == m_nDefault) {
+        m_nDefault = -1;
+    }
     return 0;
+}
+
+int QVStyleTable::AddDefaultStyle(COLORREF crBk) {
+    const int nStyle = AddStyle(::GetSysColor(COLOR_WINDOWTEXT), crBk);
+    if (m_nDefault == -1) {
+        m_nDefault = nStyle;
+    }
+    return nStyle;
+}
+
+void QVStyleTable::FollowSystemColors(COLORREF crBk) {
+    m_aStyles.Update(m_nDefault, ::GetSysColor(COLOR_WINDOWTEXT), crBk);
 }
 
 int QVStyleTable::ParseStyle(LPCSTR pszText) const {
@@ -32,7 +47,11 @@ QVSTYLE QVStyleTable::StyleColors(int nStyle) const {
 }
 
 QVStyledRows::QVStyledRows() {
-    AddStyle(::GetSysColor(COLOR_WINDOWTEXT), ::GetSysColor(COLOR_WINDOW));
+    AddDefaultStyle(::GetSysColor(COLOR_WINDOW));
+}
+
+void QVStyledRows::FollowSystemColors() {
+    QVStyleTable::FollowSystemColors(::GetSysColor(COLOR_WINDOW));
 }
 
 BOOL QVStyledRows::HasStyle(LPCSTR pszText) const {

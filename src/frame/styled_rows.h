@@ -27,7 +27,7 @@ public:
     // Index of the new style, or -1 without memory; the table is as it was then.
     int AddStyle(COLORREF crText, COLORREF crBk);
     // Overwrites a style that exists, and asks for no repaint. Always 0: the result does not tell
-    // whether there was such a style.
+    // whether there was such a style. Entry 0 follows the system's colours until it is overwritten.
     int UpdateStyle(int nStyle, COLORREF crText, COLORREF crBk);
 
     // Style of a field; 0 without a code and for a code outside the table.
@@ -43,8 +43,15 @@ protected:
     QVStyleTable();
     ~QVStyleTable();
 
+    // Appends a style in the system's text colour on crBk, as the default one: -1 without memory.
+    int AddDefaultStyle(COLORREF crBk);
+    // Puts the default style in the system's text colour of the moment on crBk, unless a program
+    // has overwritten it. Asks for no repaint.
+    void FollowSystemColors(COLORREF crBk);
+
 private:
     const std::unique_ptr<qv::StyleTable> m_pStyles;
+    int m_nDefault = -1;  // the style that follows the system; -1: none does
 
 protected:
     qv::StyleTable& m_aStyles;  // for the library's own classes
@@ -65,6 +72,9 @@ public:
 protected:
     QVStyledRows();
     ~QVStyledRows() = default;
+
+    // As the table's, on the colour of windows.
+    void FollowSystemColors();
 
     // Appends a field to a row, with the TAB between if there is need of one. Below 0 the text goes
     // on in the row's last field, without TAB or code. Public in the controls that offer it.

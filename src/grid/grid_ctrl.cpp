@@ -35,12 +35,14 @@ BEGIN_MESSAGE_MAP(QVGridCtrl, QVCustCtrl)
     ON_WM_SYSKEYDOWN()
     ON_WM_CHAR()
     ON_WM_DESTROY()
+    ON_MESSAGE(WM_GETOBJECT, &QVGridCtrl::OnGetObject)
     ON_EN_CHANGE(kGridEditId, &QVGridCtrl::OnChangeEditText)
 END_MESSAGE_MAP()
 
 // --- Life
 
-QVGridCtrl::QVGridCtrl() try : m_pCore(std::make_unique<Core>(*this)) {
+QVGridCtrl::QVGridCtrl() try
+    : QVAccessible(static_cast<CWnd&>(*this)), m_pCore(std::make_unique<Core>(*this)) {
     m_si.cbSize = sizeof(m_si);
     m_si.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
 } catch (const std::bad_alloc&) {
@@ -84,7 +86,9 @@ void QVGridCtrl::InvalidateAll() {
 // --- Columns
 
 int QVGridCtrl::AddColumn(GridColType nType, int nWidth) {
-    return qv::AsMemoryException([&] { return m_pCore->model.AddColumn(nType, nWidth); });
+    const int nCol = qv::AsMemoryException([&] { return m_pCore->model.AddColumn(nType, nWidth); });
+    TellAccessibleReorder();
+    return nCol;
 }
 
 int QVGridCtrl::NumColumns() const {
@@ -116,6 +120,14 @@ void QVGridCtrl::SetColType(int nCol, GridColType nType) {
     if (_QVGRID_COL_INFO* pColumn = m_pCore->model.Column(nCol)) {
         pColumn->nType = nType;
     }
+}
+
+GridColType QVGridCtrl::GetCellType(int nRow, int nCol) const {
+    return m_pCore->model.Type(qv::GridCell{nRow, nCol});
+}
+
+void QVGridCtrl::SetCellType(int nRow, int nCol, GridColType nType) {
+    qv::AsMemoryException([&] { m_pCore->model.SetType({nRow, nCol}, nType); });
 }
 
 CStringArray* QVGridCtrl::GetColListData(int nCol) const {
@@ -194,6 +206,7 @@ int QVGridCtrl::AddRow(const CString& strRow, DWORD dwState) {
             InvalidateRow(nRow, FALSE);
         }
     }
+    TellAccessibleReorder();
     return nRow;
 }
 
@@ -211,6 +224,7 @@ void QVGridCtrl::DeleteAllRows() {
         CalcScrollBars();
         InvalidateAll();
     }
+    TellAccessibleReorder();
 }
 
 int QVGridCtrl::NumRows() const {
@@ -298,10 +312,19 @@ BOOL QVGridCtrl::ModifyCellStyle(int nRow, int nCol, DWORD dwAdd, DWORD dwRemove
 }
 
 void QVGridCtrl::EnableCell(int nRow, int nCol, BOOL bEnable) {
-    if (bEnable) {
-        ModifyCellStyle(nRow, nCol, 0, GCS_DISABLED);
-    } else if (ModifyCellStyle(nRow, nCol, GCS_DISABLED, 0)) {
+    if (ModifyCellStyle(nRow, nCol, bEnable ? 0 : GCS_DISABLED, bEnable ? GCS_DISABLED : 0)) {
+        DropLocked(nRow, nCol, !bEnable);
+    }
+}
+
+// After a style has changed: what is typed in a cell that is locked now goes.
+void QVGridCtrl::DropLocked(int nRow, int nCol, bool bLocked) {
+    const qv::AliveWatch watch(m_pCore->Alive());
+    if (bLocked) {
         m_pCore->editing.DropEditors({nRow, nCol});
+    }
+    if (watch) {
+        TellAccessible(EVENT_OBJECT_STATECHANGE, GetCellPart(nRow, nCol));
     }
 }
 
@@ -310,10 +333,8 @@ BOOL QVGridCtrl::IsCellEnabled(int nRow, int nCol) const {
 }
 
 void QVGridCtrl::SetCellReadOnly(int nRow, int nCol, BOOL bReadOnly) {
-    if (!bReadOnly) {
-        ModifyCellStyle(nRow, nCol, 0, GCS_READONLY);
-    } else if (ModifyCellStyle(nRow, nCol, GCS_READONLY, 0)) {
-        m_pCore->editing.DropEditors({nRow, nCol});
+    if (ModifyCellStyle(nRow, nCol, bReadOnly ? GCS_READONLY : 0, bReadOnly ? 0 : GCS_READONLY)) {
+        DropLocked(nRow, nCol, bReadOnly != FALSE);
     }
 }
 

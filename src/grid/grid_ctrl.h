@@ -24,6 +24,9 @@
 // that cannot be edited by hand are left alone, and so is a drop list that does not have the text.
 // A hundred edits are kept; those of a program are none.
 //
+// Screen readers hear a table of rows and cells: see docs/accessibility.md. What they do goes the
+// way of a user's deeds.
+//
 // Without memory: AddColumn, AddRow and SetCellText throw CMemoryException, and leave what was
 // there. All other operations tell it by their result, or leave things as they are: an editor stays
 // closed, and one whose text cannot be saved stays open with it.
@@ -34,6 +37,7 @@
 
 #pragma once
 
+#include "frame/accessible.h"
 #include "frame/cust_ctrl.h"
 #include "frame/expected_keys.h"
 #include "grid/grid_records.h"
@@ -41,8 +45,12 @@
 #include <afxwin.h>
 
 #include <memory>
+#include <string>
 
-class QV_CONTROLS_API QVGridCtrl : public QVCustCtrl, public QVExpectedKeys, protected QVGridState {
+class QV_CONTROLS_API QVGridCtrl : public QVCustCtrl,
+                                   public QVExpectedKeys,
+                                   public QVAccessible,
+                                   protected QVGridState {
     DECLARE_DYNCREATE(QVGridCtrl)
 
 public:
@@ -102,6 +110,11 @@ public:
     BOOL GetCellText(int nRow, int nCol, CString& str);
     // Into the edit as well where the cell is being typed in, which tells of a change. Repaints.
     void SetCellText(int nRow, int nCol, const CString& str);
+    // A cell that is of another type than its column, until the rows are deleted: so that one
+    // column holds settings of several kinds. Neither repaints nor closes an editor. Throws
+    // CMemoryException.
+    GridColType GetCellType(int nRow, int nCol) const;
+    void SetCellType(int nRow, int nCol, GridColType nType);
     // The caller's value, 0 at first and where there is no such cell.
     DWORD_PTR GetItemData(int nRow, int nCol) const;
     void SetItemData(int nRow, int nCol, DWORD_PTR dwData);
@@ -135,12 +148,52 @@ public:
     // --- What the expected keys do, for menus. Undo and redo know what was edited while the keys
     // were enabled. The grid may be gone afterwards, as the parent is told.
 
-    // 0 without a current cell, or if the clipboard is another's.
+    // 0 without a current cell, or if the clipboard is another's. A cell that cannot be edited by
+    // hand is copied by CutCell, and stays.
     BOOL CopyCell();
+    BOOL CutCell();
     void PasteCells();
     // 0 if there was nothing to take back or make again.
     BOOL UndoEdit();
     BOOL RedoEdit();
+    // Whether there is something. What is being typed can be taken back, and ends what could be
+    // made again.
+    BOOL CanUndoEdit() const;
+    BOOL CanRedoEdit() const;
+
+    // --- What a screen reader is told
+
+    // Headings of the columns, with TABs between: a cell is named by them, and by the first cell of
+    // its row if that is a text alone ("colour, Value").
+    void SetAccessibleHeadings(const CString& strHeadings) { m_strHeadings = strHeadings; }
+    const CString& GetAccessibleHeadings() const { return m_strHeadings; }
+    // The number of a cell, as long as no column is added; column -1: of the row. 0 if there is no
+    // such cell.
+    long GetCellPart(int nRow, int nCol) const;
+    // Column -1: the part is a row. FALSE, and both as they were, for a part that there is not.
+    BOOL GetPartCell(long nPart, int& nRow, int& nCol) const;
+
+    // Of a row: the first cell's text. Of a cell: its headings, or its text if there are none.
+    CString GetAccessibleName(long nPart) override;
+    // A cell's text: what is being typed, or the line selected in its list.
+    CString GetAccessibleValue(long nPart) override;
+    // Of a row: the other cells, with their headings.
+    CString GetAccessibleDescription(long nPart) override;
+    // "Press", "Edit", "Open" or "Close" of a cell. A press comes with the messages that are posted.
+    CString GetAccessibleAction(long nPart) override;
+    long GetAccessibleRole(long nPart) override;
+    long GetAccessibleState(long nPart) override;
+    BOOL GetAccessibleRect(long nPart, CRect& rect) override;
+    // Each row, its cells behind it.
+    long GetAccessibleCount() override;
+    long AccessibleHitTest(CPoint pt) override;
+    // Up and down in the column, left and right in the row; the children of a row are its cells.
+    long NavigateAccessible(long nPart, long nDirection) override;
+    long GetNextAccessibleSelected(long nPart) override;
+    BOOL SelectAccessible(long nPart, long nFlags) override;
+    BOOL DoAccessibleAction(long nPart) override;
+    // As typed, or chosen from the list.
+    BOOL SetAccessibleValue(long nPart, const CString& strValue) override;
 
 protected:
     // --- Painting. dc has the grid's font and m_penGrid selected.
@@ -227,6 +280,8 @@ protected:
     afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnChangeEditText();
     afx_msg void OnDestroy();
+    void DoPostedAccessible(long nPart) override;
+    afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     int m_nCellHeight = -1;  // pixels; -1: measure before use
@@ -249,7 +304,11 @@ private:
     bool ReadCell(int nRow, int nCol, CString& str) const;
     void DrawRows(CDC& dc, const CRect& rcClient);
     bool TakeExpectedKey(UINT nKey, bool bInEdit);
+    void DropLocked(int nRow, int nCol, bool bLocked);
+    std::string SpokenCell(int nRow, int nCol) const;
+    std::string SpokenHeadings(int nRow, int nCol) const;
 
     std::unique_ptr<Core> m_pCore;
     BOOL m_bShowAddedRows = FALSE;
+    CString m_strHeadings;
 };

@@ -10,7 +10,7 @@
 #include "grid/grid_edit.h"
 #include "grid/grid_list.h"
 
-class QVGridCtrl::Core : private qv::GridHostPort, private QVGridEditKeys {
+class QVGridCtrl::Core : private qv::GridHostPort, private QVGridEditHost {
 public:
     explicit Core(QVGridCtrl& grid)
         : port(grid),
@@ -24,6 +24,8 @@ public:
     const qv::AliveToken& Alive() const { return editing.Alive(); }
     qv::GridLayout Layout() const override;
     qv::ScrollAxis Axis() const;
+    // A text that would be an edit, if it were kept now.
+    bool HasTyped() const;
     void ShowRange();
 
     qv::GridModel model;
@@ -55,7 +57,9 @@ private:
     bool SameText(const char* psz1, const char* psz2) const override;
     void NoteEdit(qv::GridCell cell, const std::string& strBefore,
                   const std::string& strAfter) override;
+    void CellChanged(qv::GridCell cell, qv::CellChange what) override;
     bool TakesEditKey(UINT nKey) override;
+    CString EditName() override;
 
     QVGridCtrl& m_grid;
 };

@@ -169,6 +169,12 @@ void QVGridCtrl::OnSetFocus(CWnd*) {
     if (watch) {
         m_pCore->editing.GotFocus();
     }
+    // Unless its edit has the focus now, or the grid moves it and is going on.
+    if (watch && !m_bIgnoreFocus && ::GetFocus() == m_hWnd) {
+        if (const long nPart = GetAccessibleFocus()) {
+            TellAccessible(EVENT_OBJECT_FOCUS, nPart);
+        }
+    }
 }
 
 void QVGridCtrl::OnKillFocus(CWnd*) {

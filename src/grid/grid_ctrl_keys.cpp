@@ -17,6 +17,17 @@ void QVGridCtrl::Core::NoteEdit(qv::GridCell cell, const std::string& strBefore,
     deeds.Note(m_grid.AreExpectedKeysEnabled() != FALSE, cell, strBefore, strAfter);
 }
 
+bool QVGridCtrl::Core::HasTyped() const {
+    const qv::GridCell cell = editing.CurrentCell();
+    bool bTyped = false;
+    qv::MemorySuffices([&] {
+        const char* const pszKept = model.Text(cell.nRow, cell.nCol);
+        bTyped = m_grid.AreExpectedKeysEnabled() && editing.IsTyping(cell) &&
+                 edit.Text() != (pszKept != nullptr ? pszKept : "");
+    });
+    return bTyped;
+}
+
 // In the edit the keys are its own where they are about a part of its text.
 bool QVGridCtrl::TakeExpectedKey(UINT nKey, bool bInEdit) {
     if (!IsValidRow(m_nCurRow) || !IsValidColumn(m_nCurCol)) {
@@ -41,9 +52,7 @@ bool QVGridCtrl::TakeExpectedKey(UINT nKey, bool bInEdit) {
             CopyCell();
             return true;
         case qv::EditCommand::Cut:
-            if (CopyCell()) {
-                m_pCore->deeds.Paste({m_nCurRow, m_nCurCol}, {{""}});
-            }
+            CutCell();
             return true;
         case qv::EditCommand::Paste:
             PasteCells();
@@ -74,6 +83,14 @@ BOOL QVGridCtrl::CopyCell() {
     return bCopied;
 }
 
+BOOL QVGridCtrl::CutCell() {
+    const BOOL bCopied = CopyCell();
+    if (bCopied) {
+        qv::MemorySuffices([&] { m_pCore->deeds.Paste({m_nCurRow, m_nCurCol}, {{""}}); });
+    }
+    return bCopied;
+}
+
 void QVGridCtrl::PasteCells() {
     qv::MemorySuffices([&] {
         std::string strText;
@@ -99,4 +116,12 @@ BOOL QVGridCtrl::RedoEdit() {
     bool bDone = false;
     qv::MemorySuffices([&] { bDone = m_pCore->deeds.Redo(); });
     return bDone;
+}
+
+BOOL QVGridCtrl::CanUndoEdit() const {
+    return m_pCore->HasTyped() || m_pCore->deeds.History().CanUndo();
+}
+
+BOOL QVGridCtrl::CanRedoEdit() const {
+    return !m_pCore->HasTyped() && m_pCore->deeds.History().CanRedo();
 }

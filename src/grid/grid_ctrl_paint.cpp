@@ -68,6 +68,7 @@ void QVGridCtrl::DrawRows(CDC& dc, const CRect& rcClient) {
     const qv::SelectGuard<CFont> font(dc, m_hFont);
     const qv::ColorGuard colors(dc);
     dc.SetTextColor(Sys(COLOR_WINDOWTEXT));
+    dc.SetBkColor(Sys(COLOR_WINDOW));
     const qv::GridLayout layout{m_pCore->model, qv::ToRect(rcClient), m_nCellHeight, m_nTopRow};
     const int nEnd = layout.EndOfShownRows();
     for (int nRow = m_nTopRow; nRow < nEnd; ++nRow) {
@@ -97,14 +98,15 @@ void QVGridCtrl::DrawRow(CDC& dc, int nRow, const CRect& rcRow, BOOL bFocus) {
             continue;
         }
         const bool bCurrent = m_pCore->editing.IsCurrent({nRow, nCol});
-        const bool bButton = bCurrent && UseFieldButton(nCol) && (dwStyle & GCS_DISABLED) == 0 &&
-                             !m_bReadOnly && !m_pCore->editing.IsLockedList({nRow, nCol});
+        const bool bButton = bCurrent && m_pCore->model.UsesButton(qv::GridCell{nRow, nCol}) &&
+                             (dwStyle & GCS_DISABLED) == 0 && !m_bReadOnly &&
+                             !m_pCore->editing.IsLockedList({nRow, nCol});
         DrawCell(dc, rc, strText, dwStyle | (bCurrent && bFocus ? GCS_FOCUS : 0),
                  bButton ? m_nCellHeight : 0);
         if (bButton) {
             CRect rcButton(rc);
             ButtonRectFromCellRect(rcButton);
-            DrawButton(dc, rcButton, GetColType(nCol), (row.dwState & GRS_BUTTONDOWN) != 0);
+            DrawButton(dc, rcButton, GetCellType(nRow, nCol), (row.dwState & GRS_BUTTONDOWN) != 0);
         }
     }
 }

@@ -3,6 +3,7 @@
 #include "frame/rectangles.h"
 #include "grid/core/grid_keys.h"
 
+#include <oleacc.h>
 #include <utility>
 
 BEGIN_MESSAGE_MAP(QVGridEdit, CEdit)
@@ -10,6 +11,7 @@ BEGIN_MESSAGE_MAP(QVGridEdit, CEdit)
     ON_WM_KILLFOCUS()
     ON_WM_KEYDOWN()
     ON_WM_CHAR()
+    ON_MESSAGE(WM_GETOBJECT, &QVGridEdit::OnGetObject)
 END_MESSAGE_MAP()
 
 // --- What core asks of it
@@ -97,7 +99,7 @@ void QVGridEdit::OnKillFocus(CWnd*) {
 
 void QVGridEdit::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
     const qv::WindowWatch watch(m_alive, m_hWnd);
-    const bool bTaken = m_keys.TakesEditKey(nChar);
+    const bool bTaken = m_host.TakesEditKey(nChar);
     if (!watch) {
         return;
     }
@@ -121,4 +123,33 @@ void QVGridEdit::OnChar(UINT nChar, UINT, UINT) {
     if (!bOfKey) {
         Default();
     }
+}
+
+// --- What a screen reader hears
+
+LRESULT QVGridEdit::OnGetObject(WPARAM wParam, LPARAM lParam) {
+    return AsksAccessible(lParam) ? AnswerAccessible(wParam, lParam) : Default();
+}
+
+CString QVGridEdit::GetAccessibleName(long) {
+    return m_host.EditName();
+}
+
+CString QVGridEdit::GetAccessibleValue(long) {
+    CString str;
+    GetWindowText(str);
+    return str;
+}
+
+long QVGridEdit::GetAccessibleRole(long) {
+    return ROLE_SYSTEM_TEXT;
+}
+
+// Kept, like what is typed, as the edit is left.
+BOOL QVGridEdit::SetAccessibleValue(long, const CString& strValue) {
+    if (!IsWindowEnabled() || !Up()) {
+        return FALSE;
+    }
+    SetWindowText(strValue);
+    return TRUE;
 }

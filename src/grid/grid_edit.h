@@ -4,6 +4,7 @@
 
 #pragma once
 
+#include "frame/accessible.h"
 #include "frame/alive.h"
 #include "frame/out_of_memory.h"
 #include "grid/core/grid_editing.h"
@@ -12,20 +13,23 @@
 
 inline constexpr UINT kGridEditId = 100;
 
-// Who sees the keys before the edit does.
-class QVGridEditKeys {
+class QVGridEditHost {
 public:
-    // True if that was all.
+    // Sees the keys before the edit does. True if that was all.
     virtual bool TakesEditKey(UINT nKey) = 0;
+    // What a screen reader calls the edit: as the cell.
+    virtual CString EditName() = 0;
 
 protected:
-    ~QVGridEditKeys() = default;
+    ~QVGridEditHost() = default;
 };
 
-class QVGridEdit : public qv::QuietWithoutMemory<CEdit>, public qv::GridEditPort {
+class QVGridEdit : public qv::QuietWithoutMemory<CEdit>,
+                   public qv::GridEditPort,
+                   private QVAccessible {
 public:
-    QVGridEdit(CWnd& grid, qv::GridEditing& editing, QVGridEditKeys& keys)
-        : m_grid(grid), m_editing(editing), m_keys(keys) {}
+    QVGridEdit(CWnd& grid, qv::GridEditing& editing, QVGridEditHost& host)
+        : QVAccessible(static_cast<CWnd&>(*this)), m_grid(grid), m_editing(editing), m_host(host) {}
 
     bool Made() const override { return m_hWnd != nullptr; }
     // By its own style: what it holds is not lost because a window around the grid is hidden.
@@ -48,12 +52,19 @@ protected:
     afx_msg void OnKillFocus(CWnd* pNewWnd);
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
+    // The platform's edit has no label in the grid.
+    CString GetAccessibleName(long nPart) override;
+    CString GetAccessibleValue(long nPart) override;
+    long GetAccessibleRole(long nPart) override;
+    BOOL SetAccessibleValue(long nPart, const CString& strValue) override;
+
     CWnd& m_grid;
     qv::GridEditing& m_editing;
-    QVGridEditKeys& m_keys;
+    QVGridEditHost& m_host;
     bool m_bKeyTaken = false;  // its control character may be about to come
     bool m_bClosing = false;
     qv::AliveToken m_alive;

@@ -24,6 +24,7 @@ BEGIN_MESSAGE_MAP(QVListCtrlEx, CListCtrl)
     ON_WM_CHAR()
     ON_WM_SIZE()
     ON_WM_DESTROY()
+    ON_WM_SYSCOLORCHANGE()
     ON_WM_WINDOWPOSCHANGING()
     ON_WM_WINDOWPOSCHANGED()
     ON_MESSAGE(WM_GETOBJECT, &QVListCtrlEx::OnGetObject)
@@ -124,6 +125,12 @@ bool QVListCtrlEx::SetUp(UINT nBitmapID, COLORREF crMask, int cx) {
 }
 
 // The control deletes the image lists that it has when it goes; ours is not its own.
+void QVListCtrlEx::OnSysColorChange() {
+    CListCtrl::OnSysColorChange();
+    FollowSystemColors();
+    Invalidate(FALSE);
+}
+
 void QVListCtrlEx::OnDestroy() {
     SetImageList(nullptr, LVSIL_SMALL);
     m_pCore->hTold = nullptr;

@@ -261,6 +261,7 @@ protected:
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnDestroy();
+    afx_msg void OnSysColorChange();
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnWindowPosChanging(WINDOWPOS* pPos);
     afx_msg void OnWindowPosChanged(WINDOWPOS* pPos);
@@ -339,6 +340,11 @@ private:
     void DefaultAndRedrawFocus();
     void GrowBackBitmap(CDC& dc, int cx, int cy);
     bool StylesColorText(BOOL bSelected) const;
+    bool PaintsFocused() const;
+    HGDIOBJ FontHandle() const {
+        return reinterpret_cast<HGDIOBJ>(::SendMessage(m_hWnd, WM_GETFONT, 0, 0));
+    }
+    bool HasEmptySpace();
     void ComposeText(UINT nItem, const CRect& rcRow, const qv::RowLayout& layout,
                      qv::Highlight highlight);
 

@@ -22,6 +22,7 @@ public:
     qv::KeptPlaces places;
     std::vector<char> text;        // of the cell read last
     std::vector<int> paintWidths;  // of the columns for the length of one paint; empty: not known
+    std::optional<bool> bPaintFocus;  // whether the list has the focus, for the length of one paint
     std::optional<bool> bSortsItself;  // by the window's style; empty: not asked yet
     COLORREF crItem = 0;               // of the brush of the row that is drawn
     CRect rcFilled{0, 0, 0, 0};        // of that row, by that brush

@@ -37,17 +37,20 @@ qv::RowLayout QVListCtrlEx::Layout() {
 // and reaches the screen in one piece.
 void QVListCtrlEx::OnPaint() {
     const qv::WindowWatch watch(m_alive, m_hWnd);
+    m_pCore->bPaintFocus = HasFocus();
     bool bRows = false;
     qv::MemorySuffices([&] { bRows = BeginRows(); });
     {
         const qv::WhileAlive<qv::SelectGuard<CBitmap>> bitmap(watch, m_dcMem,
                                                               bRows ? &m_bmpBack : nullptr);
+        const qv::WhileAlive<qv::SelectGuard<CFont>> font(watch, m_dcMem,
+                                                          bRows ? FontHandle() : nullptr);
         Default();
     }
     if (watch.ObjectAlive() && m_dcMem.GetSafeHdc() != nullptr) {
         m_dcMem.DeleteDC();
     }
-    if (watch && InReportMode()) {
+    if (watch && InReportMode() && HasEmptySpace()) {
         qv::MemorySuffices([&] {
             CClientDC dc(this);
             if (GetItemCount() == 0) {
@@ -59,6 +62,7 @@ void QVListCtrlEx::OnPaint() {
     }
     if (watch.ObjectAlive()) {
         m_pCore->paintWidths.clear();
+        m_pCore->bPaintFocus.reset();
     }
 }
 
@@ -111,6 +115,7 @@ void QVListCtrlEx::OnKillFocus(CWnd*) {
 
 void QVListCtrlEx::DefaultAndRedrawFocus() {
     const qv::WindowWatch watch(m_alive, m_hWnd);
+    m_pCore->bPaintFocus.reset();
     Default();
     if (!watch) {
         return;
@@ -148,8 +153,9 @@ void QVListCtrlEx::DrawRow(LPDRAWITEMSTRUCT lpDIS) {
     if (m_dcMem.GetSafeHdc() == nullptr || !pDC->RectVisible(&rc)) {
         return;
     }
-    const auto highlight = qv::RowHighlight(m_bAllowSel && (lpDIS->itemState & ODS_SELECTED) != 0,
-                                            HasFocus(), ShowsSelAlways(), m_bAlwaysHighlightSel);
+    const auto highlight =
+        qv::RowHighlight(m_bAllowSel && (lpDIS->itemState & ODS_SELECTED) != 0, PaintsFocused(),
+                         ShowsSelAlways(), m_bAlwaysHighlightSel);
     const qv::WindowWatch watch(m_alive, m_hWnd);
     m_pCore->crItem = ::GetSysColor(RowColor(highlight));
     const qv::WhileAlive<qv::BrushLife> item(watch, m_brItem, m_pCore->crItem);
@@ -164,7 +170,7 @@ void QVListCtrlEx::DrawRow(LPDRAWITEMSTRUCT lpDIS) {
             return;
         }
     }
-    if ((lpDIS->itemState & ODS_FOCUS) != 0 && HasFocus()) {
+    if ((lpDIS->itemState & ODS_FOCUS) != 0 && PaintsFocused()) {
         const CRect rcFocus = qv::ToCRect(layout.Focus(rcRow.Height()));
         m_dcMem.SetTextColor(RGB(0, 0, 0));
         m_dcMem.SetBkColor(RGB(255, 255, 255));
@@ -190,7 +196,10 @@ void QVListCtrlEx::ComposeText(UINT nItem, const CRect& rcRow, const qv::RowLayo
     m_dcMem.SetTextColor(
         ::GetSysColor(highlight == qv::Highlight::Full ? COLOR_WINDOW : COLOR_WINDOWTEXT));
     m_dcMem.SetBkColor(::GetSysColor(RowColor(highlight)));
-    const qv::WhileAlive<qv::SelectGuard<CFont>> font(watch, m_dcMem, GetFont());
+    // Mostly the paint has selected it already, once for all rows.
+    const HGDIOBJ hFont = FontHandle();
+    const bool bSelected = ::GetCurrentObject(m_dcMem.m_hDC, OBJ_FONT) == hFont;
+    const qv::WhileAlive<qv::SelectGuard<CFont>> font(watch, m_dcMem, bSelected ? nullptr : hFont);
     // Cells that find no memory stay blank.
     qv::MemorySuffices(
         [&] { DrawItemText(&m_dcMem, nItem, rcText, highlight != qv::Highlight::None, nullptr); });
@@ -282,7 +291,12 @@ void QVListCtrlEx::DrawItemText(CDC* pDC, UINT nItem, const CRect& rc, BOOL bSel
 
 // A highlighted row shows no colours of its own.
 bool QVListCtrlEx::StylesColorText(BOOL bSelected) const {
-    return !bSelected || (!HasFocus() && !ShowsSelAlways());
+    return !bSelected || (!PaintsFocused() && !ShowsSelAlways());
+}
+
+// To ask the system costs more than to draw a row: a paint asks once.
+bool QVListCtrlEx::PaintsFocused() const {
+    return m_pCore->bPaintFocus ? *m_pCore->bPaintFocus : HasFocus();
 }
 
 void QVListCtrlEx::OutputFormattedText(CDC* pDC, const CRect& rc, const CString& strText,
@@ -302,12 +316,17 @@ int QVListCtrlEx::PaintColWidth(int nCol, int* pWidths) {
     return bKnown ? known[static_cast<size_t>(nCol)] : GetColWidth(nCol, pWidths);
 }
 
+// Behind the last row, where that is in view.
+bool QVListCtrlEx::HasEmptySpace() {
+    return GetTopIndex() + GetCountPerPage() >= GetItemCount();
+}
+
 BOOL QVListCtrlEx::FillEmptySpace(CDC* pDC) {
-    const int nTop = GetTopIndex();
-    const int nCount = GetItemCount();
-    if (nTop + GetCountPerPage() < nCount) {
+    if (!HasEmptySpace()) {
         return FALSE;
     }
+    const int nTop = GetTopIndex();
+    const int nCount = GetItemCount();
     CRect rcBlank;
     GetClientRect(&rcBlank);
     CRect rcItem;

@@ -15,6 +15,8 @@ IMPLEMENT_DYNCREATE(QVSortingListCtrl, QVListCtrlEx)
 
 BEGIN_MESSAGE_MAP(QVSortingListCtrl, QVListCtrlEx)
     ON_MESSAGE(WM_SETREDRAW, &QVSortingListCtrl::OnSetRedraw)
+    ON_MESSAGE(LVM_SETCOLUMNA, &QVSortingListCtrl::OnSetColumn)
+    ON_MESSAGE(LVM_SETCOLUMNW, &QVSortingListCtrl::OnSetColumn)
     ON_MESSAGE(LVM_GETITEMA, &QVSortingListCtrl::OnGetListItem)
     ON_MESSAGE(LVM_GETITEMW, &QVSortingListCtrl::OnGetListItem)
 END_MESSAGE_MAP()
@@ -290,6 +292,58 @@ void QVSortingListCtrl::SortOnHeader(int nCol) {
     });
     if (watch) {
         m_bSortFailed = !bSorted;
+        if (bSorted) {
+            SetSorted(true);
+        }
+    }
+}
+
+// --- The arrow
+
+void QVSortingListCtrl::ShowSortArrow(BOOL bShow) {
+    m_bSortArrow = bShow;
+    PlaceArrow();
+}
+
+void QVSortingListCtrl::SetSorted(bool bSorted) {
+    m_bSorted = bSorted;
+    if (m_bSortArrow) {
+        PlaceArrow();
+    }
+}
+
+// Another heading format is one without an arrow.
+LRESULT QVSortingListCtrl::OnSetColumn(WPARAM, LPARAM lParam) {
+    const qv::AliveWatch watch(m_alive);
+    const UINT nMask = lParam != 0 ? reinterpret_cast<const LVCOLUMN*>(lParam)->mask : 0;
+    const LRESULT lResult = Default();
+    if (watch && m_bSortArrow && (nMask & LVCF_FMT) != 0) {
+        PlaceArrow();
+    }
+    return lResult;
+}
+
+// Headings that change are told to the parent, which may take the list away.
+void QVSortingListCtrl::PlaceArrow() {
+    constexpr int kArrows = HDF_SORTUP | HDF_SORTDOWN;
+    const qv::WindowWatch<HWND> watch(m_alive, m_hWnd);
+    const HWND hHeader =
+        m_hWnd != nullptr ? reinterpret_cast<HWND>(SendMessage(LVM_GETHEADER)) : nullptr;
+    const int nCols = static_cast<int>(::SendMessage(hHeader, HDM_GETITEMCOUNT, 0, 0));
+    for (int nCol = 0; watch && nCol < nCols; ++nCol) {
+        HDITEM item{};
+        item.mask = HDI_FORMAT;
+        if (!::SendMessage(hHeader, HDM_GETITEM, static_cast<WPARAM>(nCol),
+                           reinterpret_cast<LPARAM>(&item))) {
+            return;
+        }
+        const bool bArrow = m_bSortArrow && m_bSorted && nCol == m_nSortCol;
+        const int nArrow = !bArrow ? 0 : m_bAscending ? HDF_SORTUP : HDF_SORTDOWN;
+        if ((item.fmt & kArrows) != nArrow) {
+            item.fmt = (item.fmt & ~kArrows) | nArrow;
+            ::SendMessage(hHeader, HDM_SETITEM, static_cast<WPARAM>(nCol),
+                          reinterpret_cast<LPARAM>(&item));
+        }
     }
 }
 

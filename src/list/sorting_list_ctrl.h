@@ -33,6 +33,10 @@ public:
     QVLISTCTRL_DATATYPE ColumnSortType(int nCol) const;
     // Sorts anew by the column and in the direction of the last sort.
     void ReSort();
+    // An arrow in the heading of the last sort's column that points up where the rows ascend. Off
+    // at first; there is none before the first sort. Version 6 of the platform's controls draws it.
+    void ShowSortArrow(BOOL bShow = TRUE);
+    BOOL ShowsSortArrow() const { return m_bSortArrow; }
 
 protected:
     // Sorts, and turns the direction if nCol is the column of the last sort. The parent is told
@@ -40,10 +44,17 @@ protected:
     // memory the rows stay as they are, and so does the direction.
     void SortOnHeader(int nCol) override;
     int HeaderColumnCount(LPCSTR pszHeaders) const;
+    // What WM_SETREDRAW said last.
+    bool Redraws() const { return m_bRedraw; }
     static int CALLBACK SortFunc(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort);
 
     afx_msg LRESULT OnGetListItem(WPARAM wParam, LPARAM lParam);
+    // For a class that orders its rows itself: they are in the order of m_nSortCol and
+    // m_bAscending from now on, or in none. The heading is told so.
+    void SetSorted(bool bSorted);
+
     afx_msg LRESULT OnSetRedraw(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSetColumn(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     int m_nSortCol = 0;
@@ -58,4 +69,8 @@ private:
     Sort* m_pSort = nullptr;              // lives for one sort
     std::shared_ptr<const Kept> m_pKept;  // of the last sort
     bool m_bRedraw = true;
+    BOOL m_bSortArrow = FALSE;
+    bool m_bSorted = false;
+
+    void PlaceArrow();
 };

@@ -5,6 +5,7 @@
 #include "frame/out_of_memory.h"
 #include "frame/text_out.h"
 #include "frame/wide_text.h"
+#include "list/held_screen.h"
 #include "list/silence.h"
 #include "list/virtual_list_rows.h"
 
@@ -239,6 +240,7 @@ BOOL QVVirtualListCtrl::SortByColumn(int nCol, BOOL bAscending) {
         m_nSortCol = nCol;
         m_bAscending = bAscending;
         bSorted = true;
+        SetSorted(true);
     });
     return bSorted;
 }
@@ -252,7 +254,9 @@ void QVVirtualListCtrl::SortOnHeader(int nCol) {
 }
 
 void QVVirtualListCtrl::RestoreOrder() {
-    qv::MemorySuffices([&] { MoveRows([&] { m_pRows->Reset(); }); });
+    if (qv::MemorySuffices([&] { MoveRows([&] { m_pRows->Reset(); }); })) {
+        SetSorted(false);
+    }
 }
 
 LRESULT QVVirtualListCtrl::OnSetItemCount(WPARAM wParam, LPARAM lParam) {
@@ -270,7 +274,7 @@ LRESULT QVVirtualListCtrl::OnSetItemCount(WPARAM wParam, LPARAM lParam) {
         return FALSE;
     }
     const qv::WindowWatch watch(m_alive, m_hWnd);
-    const LRESULT lResult = DefWindowProc(LVM_SETITEMCOUNT, static_cast<WPARAM>(nRows), lParam);
+    const LRESULT lResult = PassItemCount(nRows, lParam);
     if (watch && bMoves) {
         KeepOnTop(nNewTop);
     }
@@ -278,6 +282,34 @@ LRESULT QVVirtualListCtrl::OnSetItemCount(WPARAM wParam, LPARAM lParam) {
         CalcSingleColWidth();
     }
     return lResult;
+}
+
+// More rows are shown in one piece. What the control tells of fewer of them the parent may answer
+// by hiding the list.
+LRESULT QVVirtualListCtrl::PassItemCount(int nRows, LPARAM lFlags) {
+    const int nBefore = GetItemCount();
+    if (nRows <= nBefore || m_bSingleColumn || !Redraws() || !InReportMode() ||
+        (lFlags & LVSICF_NOINVALIDATEALL) != 0) {
+        return DefWindowProc(LVM_SETITEMCOUNT, static_cast<WPARAM>(nRows), lFlags);
+    }
+    const qv::WindowWatch watch(m_alive, m_hWnd);
+    const qv::WhileAlive<qv::HeldScreen> screen(watch, *this);
+    const LRESULT lResult = DefWindowProc(LVM_SETITEMCOUNT, static_cast<WPARAM>(nRows), lFlags);
+    if (watch && nBefore == 0) {
+        PaintNothing();
+    }
+    return lResult;
+}
+
+// Some versions of the control measure rows at the first paint that has any, and draw both scroll
+// bars again for it.
+void QVVirtualListCtrl::PaintNothing() {
+    const qv::Silence silence(m_hWnd, ToldWindow());
+    CDC dc;
+    if (dc.CreateCompatibleDC(nullptr)) {
+        dc.IntersectClipRect(0, 0, 0, 0);
+        DefWindowProc(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc.m_hDC), PRF_CLIENT);
+    }
 }
 
 // Scrolls so that the item is at the top, where there are enough below it.

@@ -114,6 +114,8 @@ private:
     template <class Move>
     void MoveRows(Move move);
     void KeepOnTop(int nItem);
+    LRESULT PassItemCount(int nRows, LPARAM lFlags);
+    void PaintNothing();
     template <class Item>
     void Answer(Item& item);
     template <class Info>

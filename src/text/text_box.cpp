@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <oleacc.h>
 
 namespace {
 
@@ -28,6 +29,7 @@ BEGIN_MESSAGE_MAP(QVTextBox, CStatic)
     ON_WM_PAINT()
     ON_WM_VSCROLL()
     ON_WM_ENABLE()
+    ON_WM_SYSCOLORCHANGE()
     ON_MESSAGE(WM_SETTEXT, &QVTextBox::OnSetText)
     ON_MESSAGE(WM_GETTEXT, &QVTextBox::OnGetText)
     ON_MESSAGE(WM_GETTEXTLENGTH, &QVTextBox::OnGetTextLength)
@@ -39,12 +41,17 @@ BEGIN_MESSAGE_MAP(QVTextBox, CStatic)
     ON_WM_KEYDOWN()
     ON_WM_SETFOCUS()
     ON_WM_KILLFOCUS()
+    ON_MESSAGE(WM_GETOBJECT, &QVTextBox::OnGetObject)
 END_MESSAGE_MAP()
 
 // --- Life
 
 QVTextBox::QVTextBox()
-    : m_crText(::GetSysColor(COLOR_BTNTEXT)), m_crTextBk(::GetSysColor(COLOR_BTNFACE)) {}
+    : QVAccessible(static_cast<CWnd&>(*this)),
+      m_crText(::GetSysColor(COLOR_BTNTEXT)),
+      m_crTextBk(::GetSysColor(COLOR_BTNFACE)) {
+    NameByLabelAlone();
+}
 
 // The window's last messages find the text and the spin button.
 QVTextBox::~QVTextBox() {
@@ -104,10 +111,12 @@ void QVTextBox::SetShowBorder(int bShow) {
 
 void QVTextBox::SetTextColor(COLORREF cr) {
     m_crText = cr;
+    m_bOwnColors = true;
 }
 
 void QVTextBox::SetTextBkColor(COLORREF cr) {
     m_crTextBk = cr;
+    m_bOwnColors = true;
 }
 
 void QVTextBox::SetImage(CImageList* pImageList, int nImage) {
@@ -129,6 +138,7 @@ void QVTextBox::SetTextList(const char* pszList) {
             EnableSpin();
         }
         Invalidate(FALSE);
+        TellText();
     }
 }
 
@@ -146,7 +156,8 @@ void QVTextBox::EnableSpin() {
     if (m_hWnd == nullptr || IsChooser()) {
         return;
     }
-    SetTextBkColor(::GetSysColor(COLOR_WINDOW));
+    m_nSystemBk = COLOR_WINDOW;
+    m_crTextBk = ::GetSysColor(m_nSystemBk);
     ModifyStyle(0, WS_CLIPCHILDREN);  // its paint leaves the spin button alone
     const bool bMade = qv::CreateWhole(m_spin, [&] {
         return m_spin.Create(WS_CHILD | WS_VISIBLE | UDS_WRAP | UDS_ALIGNRIGHT, SpinRect(), this,
@@ -209,6 +220,7 @@ void QVTextBox::OnVScroll(UINT nCode, UINT nPos, CScrollBar* pBar) {
         if (m_nCurText < m_aTexts.GetSize()) {
             m_strText = m_aTexts[m_nCurText];
             Invalidate(TRUE);
+            TellText();
         }
     } else if (nCode == SB_ENDSCROLL) {
         const MSG msg = *GetCurrentMessage();
@@ -219,12 +231,15 @@ void QVTextBox::OnVScroll(UINT nCode, UINT nPos, CScrollBar* pBar) {
     }
 }
 
-// As the spin button does it: a position, and the end of the choice.
 void QVTextBox::Step(int nSteps) {
     int nFirst = 0;
     int nLast = 0;
     m_spin.GetRange(nFirst, nLast);
-    const int nPos = qv::StepInList(static_cast<short>(LOWORD(m_spin.GetPos())), nSteps, nLast);
+    GoTo(qv::StepInList(static_cast<short>(LOWORD(m_spin.GetPos())), nSteps, nLast));
+}
+
+// As the spin button does it: a position, and the end of the choice.
+void QVTextBox::GoTo(int nPos) {
     m_spin.SetPos(nPos);
     const auto lSpin = reinterpret_cast<LPARAM>(m_spin.m_hWnd);
     const qv::WindowWatch watch(m_alive, m_hWnd);
@@ -286,19 +301,24 @@ LRESULT QVTextBox::OnSetText(WPARAM, LPARAM lParam) {
     const CString strText(pszText != nullptr ? pszText : "");
     m_strText = strText;
     if (m_bTextList) {
-        m_nCurText = -1;
-        for (INT_PTR i = 0; i < m_aTexts.GetSize(); ++i) {
-            if (qv::ProcessText().CompareNoCase(m_aTexts[i], strText) == 0) {
-                m_nCurText = static_cast<int>(i);
-                if (IsChooser()) {
-                    m_spin.SetPos(m_nCurText);
-                }
-                break;
-            }
+        m_nCurText = FindText(strText);
+        if (m_nCurText >= 0 && IsChooser()) {
+            m_spin.SetPos(m_nCurText);
         }
     }
     Invalidate(TRUE);
+    TellText();
     return 1;
+}
+
+// -1 if it is not in the list.
+int QVTextBox::FindText(const CString& strText) const {
+    for (INT_PTR i = 0; i < m_aTexts.GetSize(); ++i) {
+        if (qv::ProcessText().CompareNoCase(m_aTexts[i], strText) == 0) {
+            return static_cast<int>(i);
+        }
+    }
+    return -1;
 }
 
 LRESULT QVTextBox::OnGetText(WPARAM wParam, LPARAM lParam) {
@@ -314,6 +334,15 @@ LRESULT QVTextBox::OnGetText(WPARAM wParam, LPARAM lParam) {
 
 LRESULT QVTextBox::OnGetTextLength(WPARAM, LPARAM) {
     return m_strText.GetLength();
+}
+
+void QVTextBox::OnSysColorChange() {
+    CStatic::OnSysColorChange();
+    if (!m_bOwnColors) {
+        m_crText = ::GetSysColor(COLOR_BTNTEXT);
+        m_crTextBk = ::GetSysColor(m_nSystemBk);
+    }
+    Invalidate(FALSE);
 }
 
 // --- Painting
@@ -354,4 +383,63 @@ CRect QVTextBox::DrawImage(CDC& dc, const CRect& rcClient) {
         rcText.left = kTextInset + size.cx + kImageGap;
     }
     return rcText;
+}
+
+// --- What a screen reader is told
+
+LRESULT QVTextBox::OnGetObject(WPARAM wParam, LPARAM lParam) {
+    return AsksAccessible(lParam) ? AnswerAccessible(wParam, lParam) : Default();
+}
+
+void QVTextBox::TellText() {
+    TellAccessible(IsChooser() ? EVENT_OBJECT_VALUECHANGE : EVENT_OBJECT_NAMECHANGE, CHILDID_SELF);
+}
+
+CString QVTextBox::GetAccessibleName(long nPart) {
+    return IsChooser() ? QVAccessible::GetAccessibleName(nPart) : m_strText;
+}
+
+CString QVTextBox::GetAccessibleValue(long nPart) {
+    return IsChooser() && nPart == CHILDID_SELF ? m_strText : CString();
+}
+
+CString QVTextBox::GetAccessibleShortcut(long nPart) {
+    return IsChooser() ? QVAccessible::GetAccessibleShortcut(nPart) : CString();
+}
+
+long QVTextBox::GetAccessibleRole(long) {
+    return IsChooser() ? ROLE_SYSTEM_SPINBUTTON : ROLE_SYSTEM_STATICTEXT;
+}
+
+long QVTextBox::GetAccessibleState(long nPart) {
+    return IsChooser() ? QVAccessible::GetAccessibleState(nPart)
+                       : AccessibleWindowState() | STATE_SYSTEM_READONLY;
+}
+
+long QVTextBox::GetAccessibleCount() {
+    return IsChooser() ? 1 : 0;
+}
+
+HWND QVTextBox::GetAccessibleWindow(long) {
+    return m_spin.m_hWnd;
+}
+
+long QVTextBox::AccessibleHitTest(CPoint pt) {
+    return IsChooser() && SpinRect().PtInRect(pt) ? 1 : CHILDID_SELF;
+}
+
+BOOL QVTextBox::SetAccessibleValue(long nPart, const CString& strValue) {
+    const int nText = nPart == CHILDID_SELF && IsChooser() ? FindText(strValue) : -1;
+    int nFirst = 0;
+    int nLast = -1;
+    if (nText >= 0) {
+        m_spin.GetRange(nFirst, nLast);
+    }
+    if (nText < 0 || nText > nLast || !IsWindowEnabled()) {
+        return FALSE;
+    }
+    if (nText != m_nCurText) {
+        GoTo(nText);
+    }
+    return TRUE;
 }

@@ -16,12 +16,13 @@
 
 #pragma once
 
+#include "frame/accessible.h"
 #include "frame/alive.h"
 #include "frame/qv_api.h"
 
 #include <afxcmn.h>
 
-class QV_CONTROLS_API QVTextBox : public CStatic {
+class QV_CONTROLS_API QVTextBox : public CStatic, public QVAccessible {
 public:
     QVTextBox();
     ~QVTextBox() override;
@@ -40,11 +41,26 @@ public:
     // A static edge around boxes made from now on. At first on.
     void SetShowBorder(int bShow);
     // For an enabled box; a disabled one is grey. None of these repaints. EnableSpin sets the
-    // background of a window.
+    // background of a window. Until a program sets one of them, both are the system's of the
+    // moment.
     void SetTextColor(COLORREF cr);
     void SetTextBkColor(COLORREF cr);
     // Null or -1: none.
     void SetImage(CImageList* pImageList, int nImage);
+
+    // --- What a screen reader is told: a text, or a chooser with its spin button
+
+    // The text; that of the label before it for a chooser, whose value is the text.
+    CString GetAccessibleName(long nPart) override;
+    CString GetAccessibleValue(long nPart) override;
+    CString GetAccessibleShortcut(long nPart) override;
+    long GetAccessibleRole(long nPart) override;
+    long GetAccessibleState(long nPart) override;
+    long GetAccessibleCount() override;
+    HWND GetAccessibleWindow(long nPart) override;
+    long AccessibleHitTest(CPoint pt) override;
+    // A text of the list, in whichever case, as if the user stepped there.
+    BOOL SetAccessibleValue(long nPart, const CString& strValue) override;
 
 protected:
     // Ends quietly where a handler finds no memory; a window that is being made is not made then.
@@ -57,6 +73,7 @@ protected:
     afx_msg void OnPaint();
     afx_msg void OnVScroll(UINT nCode, UINT nPos, CScrollBar* pBar);
     afx_msg void OnEnable(BOOL bEnable);
+    afx_msg void OnSysColorChange();
     // Always 1; null is an empty text. A text of the list, in whichever case, moves the spin
     // button.
     afx_msg LRESULT OnSetText(WPARAM wParam, LPARAM lParam);
@@ -72,6 +89,7 @@ protected:
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg void OnKillFocus(CWnd* pNewWnd);
+    afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     CString m_strText;
@@ -95,9 +113,14 @@ private:
     CRect SpinRect() const;
     void PlaceSpin();
     void Step(int nSteps);
+    void GoTo(int nPos);
+    int FindText(const CString& strText) const;
+    void TellText();
     // The room for the text, behind the image, which it draws.
     CRect DrawImage(CDC& dc, const CRect& rcClient);
 
+    int m_nSystemBk = COLOR_BTNFACE;  // that the background is
+    bool m_bOwnColors = false;        // a program's
     bool m_bKeepPlace = false;
     qv::AliveToken m_alive;
 };

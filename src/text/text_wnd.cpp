@@ -16,6 +16,7 @@ BEGIN_MESSAGE_MAP(QVTextWnd, CWnd)
     ON_WM_CREATE()
     ON_WM_DESTROY()
     ON_WM_SIZE()
+    ON_WM_SYSCOLORCHANGE()
     ON_WM_PAINT()
     ON_WM_HSCROLL()
     ON_WM_VSCROLL()
@@ -30,12 +31,14 @@ BEGIN_MESSAGE_MAP(QVTextWnd, CWnd)
     ON_WM_KILLFOCUS()
     ON_WM_KEYDOWN()
     ON_WM_GETDLGCODE()
+    ON_MESSAGE(WM_GETOBJECT, &QVTextWnd::OnGetObject)
 END_MESSAGE_MAP()
 
 // --- Life
 
 QVTextWnd::QVTextWnd()
-    : m_crBk(::GetSysColor(COLOR_WINDOW)),
+    : QVAccessible(static_cast<CWnd&>(*this)),
+      m_crBk(::GetSysColor(COLOR_WINDOW)),
       m_pCore(qv::AsMemoryException([this] { return std::make_unique<Core>(*this); })) {}
 
 // The window's last messages find the core.
@@ -82,7 +85,7 @@ int QVTextWnd::Initialize(UINT nID, CWnd* pParent, int bBorder) {
         } else if (MeasureFont()) {
             const qv::WindowWatch watch(m_pCore->view.Alive(), m_hWnd);
             CalculateScrollBars();
-            bDone = watch && AddStyle(::GetSysColor(COLOR_WINDOWTEXT), m_crBk) != -1;
+            bDone = watch && AddDefaultStyle(m_crBk) != -1;
         }
     });
     return bDone;
@@ -166,6 +169,7 @@ void QVTextWnd::ClearTextData() {
     }
     if (watch) {
         InvalidateRect(nullptr, FALSE);
+        TellAccessibleReorder();
     }
 }
 
@@ -222,9 +226,19 @@ bool QVTextWnd::ReadLines(CStdioFile& file, int nStyle) {
 
 void QVTextWnd::SetBkColor(COLORREF cr) {
     m_crBk = cr;
+    m_bOwnBk = true;
     if (m_aStyles.Count() > 0) {
-        m_aStyles.Update(0, m_aStyles[0].crText, cr);
+        UpdateStyle(0, m_aStyles[0].crText, cr);
     }
+}
+
+void QVTextWnd::OnSysColorChange() {
+    CWnd::OnSysColorChange();
+    if (!m_bOwnBk) {
+        m_crBk = ::GetSysColor(COLOR_WINDOW);
+        FollowSystemColors(m_crBk);
+    }
+    Invalidate(FALSE);
 }
 
 // --- Out of the window

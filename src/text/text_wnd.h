@@ -21,6 +21,7 @@
 
 #pragma once
 
+#include "frame/accessible.h"
 #include "frame/expected_keys.h"
 #include "frame/styled_rows.h"
 #include "text/text_records.h"
@@ -42,6 +43,7 @@ struct TextPlace;
 class QV_CONTROLS_API QVTextWnd : public CWnd,
                                   public QVStyleTable,
                                   public QVExpectedKeys,
+                                  public QVAccessible,
                                   protected qv::TextViewState {
     DECLARE_DYNCREATE(QVTextWnd)
 
@@ -75,7 +77,8 @@ public:
     const char* GetLineText(int nLine) const;
     // Fits rows and scroll bars to the lines, and repaints.
     void CalcLayout();
-    // Asks for no repaint. Style 0 takes the colour as well.
+    // Asks for no repaint. Style 0 takes the colour as well; neither follows the system's colours
+    // from then on.
     void SetBkColor(COLORREF cr);
 
     // --- View
@@ -100,6 +103,25 @@ public:
 
     BOOL HasSelection() const;
     void SelectAll();
+
+    // --- What a screen reader is told: all lines, numbered from 1, laid out or not
+
+    // Of a line its text, without style code.
+    CString GetAccessibleName(long nPart) override;
+    // The text of the rows that show, in lines; in the fixed grid their lines to the whole width.
+    CString GetAccessibleValue(long nPart) override;
+    long GetAccessibleRole(long nPart) override;
+    // Lines can be selected with EnableExpectedKeys.
+    long GetAccessibleState(long nPart) override;
+    // All rows of a line, as they were laid out last.
+    BOOL GetAccessibleRect(long nPart, CRect& rect) override;
+    long GetAccessibleCount() override;
+    long AccessibleHitTest(CPoint pt) override;
+    long GetAccessibleFocus() override;
+    long GetNextAccessibleSelected(long nPart) override;
+    // A line is selected from end to end, or with all from the one where the selection began. It
+    // is scrolled into view.
+    BOOL SelectAccessible(long nPart, long nFlags) override;
 
     // --- Out of the window
 
@@ -183,6 +205,7 @@ protected:
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnDestroy();
     afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnSysColorChange();
     afx_msg void OnPaint();
     afx_msg void OnHScroll(UINT nCode, UINT nPos, CScrollBar* pBar);
     afx_msg void OnVScroll(UINT nCode, UINT nPos, CScrollBar* pBar);
@@ -197,6 +220,7 @@ protected:
     afx_msg void OnKillFocus(CWnd* pNewWnd);
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg UINT OnGetDlgCode();
+    afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     int m_nTabStop = 8;  // pixels
@@ -227,6 +251,11 @@ private:
     void DragSelection(CPoint pt);
     void FollowFocus();
     void DrawSelected(CDC& dc, int nRow);
+    bool SelectLine(int nLine, bool bExtend);
 
+    int PartLine(long nPart) const;
+    void ShowRow(int nRow);
+
+    bool m_bOwnBk = false;  // a program's background, not the system's
     std::unique_ptr<Core> m_pCore;
 };

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <oleacc.h>
 
 namespace {
 
@@ -53,6 +54,7 @@ void QVTextWnd::Select(Deed deed) {
         deed(Selection());
         if (m_hWnd != nullptr && (Selection().First() != first || Selection().Last() != last)) {
             InvalidateRect(nullptr, FALSE);
+            TellAccessible(EVENT_OBJECT_TEXTSELECTIONCHANGED, CHILDID_SELF);
         }
     });
 }
@@ -65,6 +67,28 @@ BOOL QVTextWnd::HasSelection() const {
 
 void QVTextWnd::SelectAll() {
     Select([&](qv::TextSelection& selection) { selection.SelectAll(Shown()); });
+}
+
+// A line from end to end, or all from the one where the selection began. Not while the mouse
+// selects.
+bool QVTextWnd::SelectLine(int nLine, bool bExtend) {
+    if (Selection().IsDragging()) {
+        return false;
+    }
+    Select([&](qv::TextSelection& selection) {
+        const qv::ShownText text = Shown();
+        const auto end = [&](int n) {
+            return qv::TextPlace{n, static_cast<int>(text.Text(n).size())};
+        };
+        const bool bFromAnchor = bExtend && !selection.IsEmpty();
+        const int nAnchor =
+            bFromAnchor ? std::min(selection.Anchor().nLine, text.Lines() - 1) : nLine;
+        const bool bUp = nLine < nAnchor;
+        selection.Press(bUp ? end(nAnchor) : qv::TextPlace{nAnchor, 0}, false);
+        selection.Drag(bUp ? qv::TextPlace{nLine, 0} : end(nLine));
+        selection.Release();
+    });
+    return true;
 }
 
 int QVTextWnd::CopySelection() {
@@ -91,16 +115,26 @@ bool QVTextWnd::TakeExpectedKey(UINT nKey) {
     if (!held.bShift || held.bMenu) {
         return false;
     }
+    const qv::WindowWatch watch(m_pCore->view.Alive(), m_hWnd);
     bool bTaken = false;
     Select([&](qv::TextSelection& selection) {
         qv::ShownText text = Shown();
         bTaken =
             selection.Key(text, nKey, held.bControl, m_nVScrollPos, m_pCore->view.ViewSize().cy);
     });
-    if (bTaken) {
+    if (bTaken && watch) {
         qv::MemorySuffices([&] { ShowCaret(); });
     }
     return bTaken;
+}
+
+void QVTextWnd::ShowRow(int nRow) {
+    const int nPage = m_pCore->view.ViewSize().cy;
+    if (nRow < m_nVScrollPos) {
+        ScrollTo(nRow, 0);
+    } else if (nRow >= m_nVScrollPos + nPage) {
+        ScrollTo(nRow, nPage - 1);
+    }
 }
 
 void QVTextWnd::ShowCaret() {
@@ -109,11 +143,7 @@ void QVTextWnd::ShowCaret() {
     qv::ShownText text = Shown();
     const int nRow = qv::RowOf(text, Selection().Caret());
     const qv::Size page = m_pCore->view.ViewSize();
-    if (nRow < m_nVScrollPos) {
-        ScrollTo(nRow, 0);
-    } else if (nRow >= m_nVScrollPos + page.cy) {
-        ScrollTo(nRow, page.cy - 1);
-    }
+    ShowRow(nRow);
     if (watch && !m_bUseProportionalFont) {
         if (nByte < m_nHScrollPos) {
             m_pCore->view.HScroll(SB_THUMBPOSITION, nByte);
@@ -126,10 +156,13 @@ void QVTextWnd::ShowCaret() {
 // --- Mouse
 
 void QVTextWnd::BeginSelection(UINT nFlags, CPoint pt) {
+    const qv::WindowWatch watch(m_pCore->view.Alive(), m_hWnd);
     Select([&](qv::TextSelection& selection) {
         selection.Press(PlaceUnder(pt), (nFlags & MK_SHIFT) != 0);
     });
-    SetCapture();
+    if (watch) {
+        SetCapture();
+    }
 }
 
 void QVTextWnd::OnLButtonDblClk(UINT, CPoint pt) {
@@ -150,7 +183,11 @@ void QVTextWnd::OnMouseMove(UINT, CPoint pt) {
 
 // Outside the window, the timer goes on.
 void QVTextWnd::DragSelection(CPoint pt) {
+    const qv::WindowWatch watch(m_pCore->view.Alive(), m_hWnd);
     Select([&](qv::TextSelection& selection) { selection.Drag(PlaceUnder(pt)); });
+    if (!watch) {
+        return;
+    }
     CRect rcClient;
     GetClientRect(&rcClient);
     if (rcClient.PtInRect(pt)) {

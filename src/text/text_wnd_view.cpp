@@ -8,6 +8,7 @@
 #include "text/text_wnd_core.h"
 
 #include <algorithm>
+#include <oleacc.h>
 
 // --- Layout
 
@@ -27,6 +28,7 @@ void QVTextWnd::CalcLayout() {
     }
     if (watch) {
         InvalidateRect(nullptr, FALSE);
+        TellAccessibleReorder();
     }
 }
 
@@ -220,7 +222,12 @@ QVTextWnd* QVTextWnd::SyncWnd() const {
 }
 
 int QVTextWnd::DoVScroll(UINT nCode, UINT nPos) {
-    return m_pCore->view.VScroll(nCode, static_cast<int>(nPos));
+    const qv::WindowWatch watch(m_pCore->view.Alive(), m_hWnd);
+    const bool bMoved = m_pCore->view.VScroll(nCode, static_cast<int>(nPos));
+    if (bMoved && watch) {
+        TellAccessible(EVENT_OBJECT_VALUECHANGE, CHILDID_SELF);
+    }
+    return bMoved;
 }
 
 void QVTextWnd::OnVScroll(UINT nCode, UINT nPos, CScrollBar* pBar) {

@@ -44,6 +44,7 @@ BEGIN_MESSAGE_MAP(QVTreeCtrlEx, CWnd)
     ON_REGISTERED_MESSAGE(g_nMsgMouseWheel, &QVTreeCtrlEx::OnRegisteredMouseWheel)
     ON_MESSAGE(WM_SETREDRAW, &QVTreeCtrlEx::OnSetRedraw)
     ON_WM_DESTROY()
+    ON_WM_SYSCOLORCHANGE()
     ON_MESSAGE(WM_GETOBJECT, &QVTreeCtrlEx::OnGetObject)
 END_MESSAGE_MAP()
 
@@ -67,6 +68,12 @@ const qv::TreeItems& QVTreeCtrlEx::Items() const {
 
 BOOL QVTreeCtrlEx::Create(DWORD dwStyle, const RECT& rect, CWnd* pParent, UINT nID) {
     return CWnd::Create(nullptr, "", dwStyle, rect, pParent, nID, nullptr);
+}
+
+void QVTreeCtrlEx::OnSysColorChange() {
+    CWnd::OnSysColorChange();
+    FollowSystemColors();
+    Invalidate(FALSE);
 }
 
 void QVTreeCtrlEx::OnDestroy() {

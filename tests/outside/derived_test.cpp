@@ -51,6 +51,9 @@ public:
 
 class Grid : public QVGridCtrl {
 public:
+    CString GetAccessibleValue(long nPart) override {
+        return QVGridCtrl::GetAccessibleValue(nPart) + " %";
+    }
     void LooksAtItself(CWnd& parent) {
         AddColumn(gctStatic, 50);
         AddColumn(gctEdit, 50);
@@ -65,6 +68,7 @@ public:
         CRect rc;
         CalcCellRect(0, 1, rc);
         EXPECT_EQ(rc.Height(), m_nCellHeight);
+        EXPECT_EQ(GetAccessibleValue(GetCellPart(0, 1)), "two %");
     }
 };
 
@@ -267,6 +271,9 @@ public:
 
 class ColorCombo : public QVColorComboBox {
 public:
+    CString GetAccessibleRow(int nRow) override {
+        return QVColorComboBox::GetAccessibleRow(nRow) + "!";
+    }
     void LooksAtItself(CWnd& parent) {
         ASSERT_TRUE(Create(WS_CHILD | CBS_DROPDOWNLIST, kRect, &parent, 1));
         EXPECT_EQ(GetStyle() & 0xFF0, DWORD{CBS_OWNERDRAWVARIABLE | CBS_HASSTRINGS});
@@ -278,6 +285,9 @@ public:
         EXPECT_EQ(m_nItemHeight, 16);
         CString strText;
         int nColor = 0;
+        InsertColorString(0, 0, "row");
+        SetCurSel(0);
+        EXPECT_EQ(GetAccessibleValue(CHILDID_SELF), "row!");
         ExtractInfo("a\tb\t7", nColor, strText);
         EXPECT_STREQ(strText, "a\tb");
         CClientDC dc(&parent);

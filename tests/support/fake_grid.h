@@ -31,6 +31,7 @@ public:
 
     // The parent and everybody else that hears of things, who may delete the grid.
     std::function<void(unsigned nCode)> onTold;
+    std::function<void()> onHeard;  // who listens, and may do the same
     void Tell(unsigned nCode) {
         if (nCode != kMoved) {
             strTold += nCode == kEditChanged ? "change " : std::to_string(nCode) + " ";
@@ -137,6 +138,16 @@ public:
                   const std::string& strAfter) override {
         deeds.Note(true, cell, strBefore, strAfter);
     }
+    void CellChanged(qv::GridCell cell, qv::CellChange what) override {
+        static constexpr const char* kNames[] = {"current ", "text ", "list "};
+        strHeard += kNames[static_cast<int>(what)] + std::to_string(cell.nRow) + "," +
+                    std::to_string(cell.nCol) + " ";
+        if (onHeard) {
+            const auto answer = onHeard;
+            answer();
+        }
+    }
+    std::string Heard() { return std::exchange(strHeard, {}); }
 
     class Edit : public qv::GridEditPort {
     public:
@@ -230,4 +241,5 @@ public:
     int nTopRow = 0;
     int nDefaults = 0;
     std::string strTold;
+    std::string strHeard;  // by who listens
 };

@@ -2,6 +2,7 @@
 #include "support/test_app.h"
 
 #include <cstdio>
+#include <gtest/gtest.h>
 
 static TestApp theApp;
 
@@ -26,8 +27,17 @@ static LONG WINAPI EndOnCrash(EXCEPTION_POINTERS* pPointers) {
     return EXCEPTION_EXECUTE_HANDLER;
 }
 
+/// Each test begins with the pointer in a corner where no window is: one that a test before has left
+/// over a list chooses rows in it.
+class PointerAside : public testing::EmptyTestEventListener {
+    void OnTestStart(const testing::TestInfo&) override {
+        ::SetCursorPos(::GetSystemMetrics(SM_CXSCREEN) - 1, ::GetSystemMetrics(SM_CYSCREEN) - 1);
+    }
+};
+
 int main(int argc, char** argv) {
     ExpectNoWindowManager();
     ::SetUnhandledExceptionFilter(EndOnCrash);
+    testing::UnitTest::GetInstance()->listeners().Append(new PointerAside);
     return RunTests(argc, argv);
 }

@@ -15,6 +15,7 @@
 //     selection             all that is selected
 //     select PART FLAGS     SELFLAG_
 //     do PART               the default action
+//     set PART TEXT         a new value
 //     event PART            what an event that names the part leads to
 //     beside                name of the parent, shortcut, and the window of the object
 //     heard                 the events of the window since this was asked last
@@ -122,6 +123,7 @@ void CALLBACK OnEvent(HWINEVENTHOOK, DWORD dwEvent, HWND hWnd, LONG nObject, LON
         {EVENT_OBJECT_DESCRIPTIONCHANGE, "description"},
         {EVENT_OBJECT_REORDER, "reorder"},
         {EVENT_OBJECT_LOCATIONCHANGE, "location"},
+        {EVENT_OBJECT_TEXTSELECTIONCHANGED, "text-selection"},
     };
     const auto* pName = std::find_if(std::begin(kNames), std::end(kNames),
                                      [&](const Name& name) { return name.dwEvent == dwEvent; });
@@ -182,6 +184,7 @@ public:
                    ? Found([&](VARIANT* p) { return m_object->get_accSelection(p); })
                : strVerb == "select" ? Code(m_object->accSelect(n2, Part(n1)))
                : strVerb == "do"     ? Code(m_object->accDoDefaultAction(Part(n1)))
+               : strVerb == "set"    ? Set(strQuestion)
                : strVerb == "event"  ? Event(n1)
                : strVerb == "beside" ? Beside()
                                      : "what is " + strVerb + "?";
@@ -251,6 +254,25 @@ private:
         }
         ::VariantClear(&part);
         return str;
+    }
+
+    // The text is all behind the blank after the part's number.
+    std::string Set(const std::string& strQuestion) {
+        std::istringstream words(strQuestion);
+        std::string strVerb;
+        std::string strText;
+        long nPart = 0;
+        words >> strVerb >> nPart;
+        words.get();
+        std::getline(words, strText);
+        const int nBytes = static_cast<int>(strText.size());
+        std::wstring strWide(strText.size(), L'\0');
+        strWide.resize(static_cast<size_t>(::MultiByteToWideChar(
+            CP_UTF8, 0, strText.data(), nBytes, strWide.data(), static_cast<int>(strWide.size()))));
+        const BSTR bstr = ::SysAllocStringLen(strWide.data(), static_cast<UINT>(strWide.size()));
+        const HRESULT hr = m_object->put_accValue(Part(nPart), bstr);
+        ::SysFreeString(bstr);
+        return Code(hr);
     }
 
     // The numbers of what a call gives.
@@ -344,8 +366,9 @@ private:
 
 int AnswerAll() {
     Reader reader;
-    const HWINEVENTHOOK hHook = ::SetWinEventHook(EVENT_OBJECT_CREATE, EVENT_OBJECT_HELPCHANGE,
-                                                  nullptr, &OnEvent, 0, 0, WINEVENT_OUTOFCONTEXT);
+    const HWINEVENTHOOK hHook =
+        ::SetWinEventHook(EVENT_OBJECT_CREATE, EVENT_OBJECT_TEXTSELECTIONCHANGED, nullptr, &OnEvent,
+                          0, 0, WINEVENT_OUTOFCONTEXT);
     std::string strQuestion;
     while (std::getline(std::cin, strQuestion)) {
         if (!strQuestion.empty() && strQuestion.back() == '\r') {

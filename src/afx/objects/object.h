@@ -111,7 +111,7 @@ public:                                     \
 /// For classes of which archives hold objects. Loads an object by ar >> pointer.
 #define DECLARE_SERIAL(class_name)                                                    \
     DECLARE_DYNCREATE(class_name)                                                     \
-    friend CArchive& operator>>(CArchive& ar, class_name*& pOb) {                     \
+    [[maybe_unused]] friend CArchive& operator>>(CArchive& ar, class_name*& pOb) {    \
         pOb = static_cast<class_name*>(AfxReadObject(ar, RUNTIME_CLASS(class_name))); \
         return ar;                                                                    \
     }

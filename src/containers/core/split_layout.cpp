@@ -1,5 +1,7 @@
 #include "containers/core/split_layout.h"
 
+#include "base/platform_names.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -39,6 +41,36 @@ int SplitLayout::Dragged(Point pt) const {
     const int nLeast = 2 * nBarWidth;
     const int nMost = Length() - nLeast;
     return nPos < nLeast ? nLeast : nPos > nMost ? nMost : nPos;
+}
+
+std::optional<int> KeyTarget(const SplitLayout& layout, int nPos, unsigned nKey, bool bFine) {
+    constexpr int kStep = 10;
+    const int nStep = bFine ? 1 : kStep;
+    long long nTo = nPos;
+    switch (nKey) {
+        case VK_LEFT:
+        case VK_UP:
+            nTo -= nStep;
+            break;
+        case VK_RIGHT:
+        case VK_DOWN:
+            nTo += nStep;
+            break;
+        case VK_HOME:
+            nTo = 0;
+            break;
+        case VK_END:
+            nTo = layout.Length();
+            break;
+        default:
+            return std::nullopt;
+    }
+    return layout.Dragged({Bounded(nTo), Bounded(nTo)});
+}
+
+int SplitPercent(int nPos, int nLength) {
+    return nLength >= 1 ? Bounded((static_cast<long long>(nPos) * 200 + nLength) / (2LL * nLength))
+                        : kDefaultSplit;
 }
 
 int SplitPosition(int nRatio, int nLength) {

@@ -36,6 +36,14 @@ private:
     int Edge(int nPos, int nSide) const;
 };
 
+// Where a key takes a bar at nPos, as far as a drag goes: arrows by some pixels, bFine by one, Home
+// and End to the bounds. None for any other key.
+std::optional<int> KeyTarget(const SplitLayout& layout, int nPos, unsigned nKey, bool bFine);
+
+// The share of pane 0 to be read, rounded: that which SplitPosition was given, in a window that is
+// not smaller than its steps.
+int SplitPercent(int nPos, int nLength);
+
 // Both truncate, so a position may creep to its ratio's.
 int SplitPosition(int nRatio, int nLength);
 int SplitRatio(int nPos, int nLength);

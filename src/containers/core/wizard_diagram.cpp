@@ -69,4 +69,9 @@ bool StepRowReader::Next(StepRow& row) {
     return true;
 }
 
+int StepAtY(int y, std::size_t nSteps) {
+    const int nStep = y >= kMargin ? (y - kMargin) / kPitch : -1;
+    return nStep >= 0 && static_cast<std::size_t>(nStep) < nSteps ? nStep : -1;
+}
+
 }  // namespace qv

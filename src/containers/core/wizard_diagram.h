@@ -53,6 +53,8 @@ public:
     StepRowReader(std::span<const _QVWIZSTEP_INFO> steps, unsigned nCurrentID, int nPanelRight)
         : m_steps(steps), m_nCurrentID(nCurrentID), m_nPanelRight(nPanelRight) {}
     bool Next(StepRow& row);
+    // Goes on with step nStep, as if all before it had a state.
+    void Skip(std::size_t nStep) { m_nNext = nStep; }
 
 private:
     StepFill FillOf(const _QVWIZSTEP_INFO& step) const;
@@ -63,5 +65,9 @@ private:
     std::size_t m_nNext = 0;
     StepFill m_eFill = StepFill::None;  // of the row before
 };
+
+// The step whose row has that y coordinate, with what lies between it and the next one; -1 for none
+// of nSteps.
+int StepAtY(int y, std::size_t nSteps);
 
 }  // namespace qv

@@ -60,11 +60,11 @@ void EditHistory::Clear() {
 }
 
 const EditHistory::Step* EditHistory::Undo() {
-    return m_nDone > 0 && m_nOpen == 0 ? &m_steps[--m_nDone] : nullptr;
+    return CanUndo() ? &m_steps[--m_nDone] : nullptr;
 }
 
 const EditHistory::Step* EditHistory::Redo() {
-    return m_nDone < m_steps.size() && m_nOpen == 0 ? &m_steps[m_nDone++] : nullptr;
+    return CanRedo() ? &m_steps[m_nDone++] : nullptr;
 }
 
 bool EditHistory::CheckInvariants() const {

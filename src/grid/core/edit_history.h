@@ -35,6 +35,8 @@ public:
     // is none. It stays valid until something is added.
     const Step* Undo();
     const Step* Redo();
+    bool CanUndo() const { return m_nDone > 0 && m_nOpen == 0; }
+    bool CanRedo() const { return m_nDone < m_steps.size() && m_nOpen == 0; }
 
     bool CheckInvariants() const;
 

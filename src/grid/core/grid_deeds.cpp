@@ -6,18 +6,6 @@ namespace qv {
 
 namespace {
 
-// As much of a text as can be typed into a cell.
-std::string OnOneLine(std::string_view cell) {
-    std::string strLine;
-    for (std::size_t i = 0; i < cell.size(); ++i) {
-        const bool bBreak = cell[i] == '\r' || cell[i] == '\n' || cell[i] == '\t';
-        if (!(cell[i] == '\n' && i > 0 && cell[i - 1] == '\r')) {
-            strLine += bBreak ? ' ' : cell[i];
-        }
-    }
-    return strLine;
-}
-
 // All that is noted for as long as it lives is one step.
 class OneStep {
 public:
@@ -53,6 +41,17 @@ void GridDeeds::Note(bool bKeep, GridCell cell, const std::string& strBefore,
     }
 }
 
+std::string GridDeeds::OnOneLine(std::string_view text) {
+    std::string strLine;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool bBreak = text[i] == '\r' || text[i] == '\n' || text[i] == '\t';
+        if (!(text[i] == '\n' && i > 0 && text[i - 1] == '\r')) {
+            strLine += bBreak ? ' ' : text[i];
+        }
+    }
+    return strLine;
+}
+
 void GridDeeds::Paste(GridCell first, const std::vector<SheetRow>& rows) {
     const AliveWatch watch(m_editing.Alive());
     m_editing.SaveEditors();  // what is typed is a step by itself
@@ -74,6 +73,12 @@ void GridDeeds::Paste(GridCell first, const std::vector<SheetRow>& rows) {
         }
     }
     m_editing.GotoCell(first, true);
+}
+
+bool GridDeeds::Enter(GridCell cell, std::string_view text) {
+    const AliveWatch watch(m_editing.Alive());
+    m_editing.SaveEditors();
+    return watch && m_editing.TypeInto(cell, OnOneLine(text).c_str());
 }
 
 bool GridDeeds::Undo() {

@@ -19,9 +19,14 @@ public:
     // could not be taken back in order. Nothing is kept while bKeep is false.
     void Note(bool bKeep, GridCell cell, const std::string& strBefore, const std::string& strAfter);
 
+    // As much of a text as can be typed into a cell: line ends and TABs become blanks.
+    static std::string OnOneLine(std::string_view text);
     // Into the cells right of and below a cell, as far as there are some; it is current again
-    // afterwards. Line ends and TABs in a cell become blanks. May throw std::bad_alloc.
+    // afterwards. May throw std::bad_alloc.
     void Paste(GridCell first, const std::vector<SheetRow>& rows);
+    // A text into one cell, as it goes into each of those. False once the grid is gone. May throw
+    // std::bad_alloc.
+    bool Enter(GridCell cell, std::string_view text);
     // What is being typed counts as an edit of its own. False if there is nothing to take back or
     // make again. May throw std::bad_alloc.
     bool Undo();

@@ -98,9 +98,13 @@ void GridEditing::GotoCell(GridCell cell, bool bActivate) {
         return;
     }
     MoveRowMark(cell.nRow);  // the rows may be other ones now
+    const bool bMoved = !IsCurrent(cell);
     m_state.m_nCurRow = cell.nRow;
     m_state.m_nCurCol = cell.nCol;
     m_host.InvalidateRow(cell.nRow);
+    if (bMoved) {
+        m_host.CellChanged(cell, CellChange::Current);
+    }
 }
 
 // Whether the parent, being told of something, has taken the row away or made another cell current
@@ -115,7 +119,7 @@ void GridEditing::ActivateCell(GridCell cell) {
     if (m_host.Window() == nullptr || (IsCurrent(cell) && m_state.m_bEditing && !bOthersEdit)) {
         return;
     }
-    if (!m_model.UsesEdit(cell.nCol) || (m_model.Style(cell.nRow, cell.nCol) & GCS_READONLY) != 0) {
+    if (!m_model.UsesEdit(cell) || (m_model.Style(cell.nRow, cell.nCol) & GCS_READONLY) != 0) {
         SaveEditors();
         return;
     }
@@ -128,8 +132,8 @@ void GridEditing::ActivateCell(GridCell cell) {
         return;
     }
     const IgnoreFocus ignore(m_alive, m_state.m_bIgnoreFocus, 1);
-    // Of the cell that is left; a hidden edit would lose what it holds. An edit that somebody who was
-    // told has opened meanwhile stays.
+    // Of the cell that is left; a hidden edit would lose what it holds. An edit that somebody who
+    // was told has opened meanwhile stays.
     if (SaveEdit() && watch && !m_edit.Up() && !LedElsewhere(nMove, cell) && m_host.MeasureRows()) {
         MemorySuffices([&] { OpenEdit(cell); });  // else the cell stays closed
     }
@@ -197,11 +201,12 @@ void GridEditing::HideEdit() {
 
 // To the cell that the edit was opened for, wherever the current cell has gone meanwhile. Not by
 // SetText, which would write the text into the edit again.
-bool GridEditing::KeepTypedText() {
-    return MemorySuffices([this] {
+bool GridEditing::KeepTypedText(bool& bChanged) {
+    return MemorySuffices([&] {
         const std::string strBefore = TextOf(m_editCell);
         const std::string strTyped = m_edit.Text();
         m_model.SetText(m_editCell.nRow, m_editCell.nCol, strTyped);
+        bChanged = strTyped != strBefore;
         NoteEdit(m_editCell, strBefore, strTyped);
     });
 }
@@ -218,10 +223,16 @@ bool GridEditing::SaveEdit() {
     if (!m_edit.Up()) {
         return true;
     }
-    if (!KeepTypedText()) {
+    const Watch watch(*this);
+    const GridCell cell = m_editCell;
+    bool bChanged = false;
+    if (!KeepTypedText(bChanged)) {
         return false;
     }
     HideEdit();
+    if (bChanged && watch) {
+        m_host.CellChanged(cell, CellChange::Text);
+    }
     return true;
 }
 
@@ -229,6 +240,7 @@ void GridEditing::SetText(GridCell cell, const char* psz) {
     if (!m_model.IsCell(cell)) {
         return;
     }
+    const bool bChanged = std::string_view(TextOf(cell)) != psz;
     m_model.SetText(cell.nRow, cell.nCol, psz);
     const Watch watch(*this);
     if (IsTyping(cell)) {
@@ -239,15 +251,22 @@ void GridEditing::SetText(GridCell cell, const char* psz) {
         m_edit.PutCaretAtEnd();
     }
     m_host.InvalidateCell(cell);
+    if (bChanged) {
+        m_host.CellChanged(cell, CellChange::Text);
+    }
 }
 
 // --- The list
 
 void GridEditing::HideList() {
     if (m_list.Made()) {
+        const bool bUp = m_list.Up();
         m_list.Hide();
         m_state.m_bEditing = 0;
         m_state.m_bBtnDown = 0;
+        if (bUp) {
+            m_host.CellChanged(Current(), CellChange::List);
+        }
     }
 }
 
@@ -293,6 +312,7 @@ void GridEditing::PopupList(const CStringArray& choices) {
     }
     m_list.Show();
     m_state.m_bEditing = 1;
+    m_host.CellChanged(Current(), CellChange::List);
 }
 
 // Hidden, with the choices, at its place, and with the line of the cell's text selected.
@@ -335,7 +355,9 @@ void GridEditing::DropEditors(GridCell cell) {
     if (IsCurrent(cell) && m_state.m_bEditing) {
         const AliveWatch watch(m_alive);
         HideList();
-        HideEdit();
+        if (watch) {
+            HideEdit();
+        }
         if (watch) {
             m_state.m_bEditing = 0;
         }
@@ -389,7 +411,8 @@ void GridEditing::Closing() {
     // An edit that goes may hand its focus to the grid, which must not open another one.
     m_state.m_bIgnoreFocus = 1;
     if (m_edit.Up()) {
-        KeepTypedText();  // the store lives on
+        bool bChanged;
+        KeepTypedText(bChanged);  // the store lives on
     }
 }
 

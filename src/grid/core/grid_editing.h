@@ -20,6 +20,9 @@
 
 namespace qv {
 
+// What a press on a cell comes to, its button included.
+enum class CellDeed { None, Edit, Press, OpenList, CloseList };
+
 class GridEditing {
 public:
     // What the parent is told, beside the edit's own changes.
@@ -65,7 +68,15 @@ public:
     bool TypeInto(GridCell cell, const char* psz);
     // Scrolls to a cell, makes it current and opens its edit.
     void ShowCell(GridCell cell);
+    CellDeed DeedOf(GridCell cell) const;
+    // Scrolls to a cell and does that, with all that the parent is told.
+    void Act(GridCell cell);
+    // Whether users may type another text into the cell, or choose one.
+    bool IsChangeable(GridCell cell) const;
+    // The list of choices is this cell's.
+    bool HasListUp(GridCell cell) const { return m_list.Up() && IsCurrent(cell); }
     GridCell CurrentCell() const { return Current(); }
+    GridCell EditCell() const { return m_editCell; }  // that the edit was opened for
 
     // --- What happens to the grid
 
@@ -97,7 +108,7 @@ private:
 
     GridCell Current() const { return {m_state.m_nCurRow, m_state.m_nCurCol}; }
     bool IsEnabled(GridCell cell) const;
-    GridColType Type(GridCell cell) const { return m_model.Type(cell.nCol); }
+    GridColType Type(GridCell cell) const { return m_model.Type(cell); }
     const char* TextOf(GridCell cell) const;
     std::string ShownText(GridCell cell) const;
     void SetRowState(int nRow, unsigned dwBits, bool bSet);
@@ -113,7 +124,7 @@ private:
     void TypeText(GridCell cell, const char* psz);
     void ChooseText(GridCell cell, const char* psz);
     void NoteEdit(GridCell cell, const std::string& strBefore, const std::string& strAfter);
-    bool KeepTypedText();
+    bool KeepTypedText(bool& bChanged);
     bool KeepChosenLine();
     bool TakesKey(unsigned nKey);
     bool FocusOnPress(GridCell cell);
@@ -126,7 +137,7 @@ private:
     GridHostPort& m_host;
     GridEditPort& m_edit;
     GridListPort& m_list;
-    GridCell m_editCell;       // that the edit was opened for
+    GridCell m_editCell;
     unsigned m_nMoves = 0;     // of the current cell
     unsigned m_nOpenings = 0;  // of the edit
     Rect m_rcButton;

@@ -152,6 +152,7 @@ bool GridEditing::TakesKey(unsigned nKey) {
         if (m_list.Made()) {
             m_list.SelectLine(
                 ListLineAfterKey(m_list.SelectedLine(), nKey == VK_DOWN, m_list.CountLines()));
+            m_host.CellChanged(Current(), CellChange::Text);  // as it is shown in the list
         }
         return true;
     }
@@ -163,8 +164,11 @@ bool GridEditing::TakesKey(unsigned nKey) {
 }
 
 void GridEditing::Key(unsigned nKey) {
-    const bool bTaken = TakesKey(nKey);
     const Watch watch(*this);
+    const bool bTaken = TakesKey(nKey);
+    if (!watch) {
+        return;
+    }
     const GridCell target = KeyTarget(bTaken ? 0 : nKey, Current(), m_model,
                                       m_host.Layout().nTopRow, m_host.PageRows());
     if (!bTaken && !IsWalkKey(nKey)) {
@@ -180,7 +184,7 @@ void GridEditing::Key(unsigned nKey) {
         return;  // the parent was told of an open list's choice, and has led elsewhere
     }
     GotoCell(target, false);
-    if (watch && IsCurrent(target) && m_model.UsesEdit(target.nCol) && IsEnabled(target) &&
+    if (watch && IsCurrent(target) && m_model.UsesEdit(target) && IsEnabled(target) &&
         !m_state.m_bReadOnly) {
         ActivateCell(target);
     }

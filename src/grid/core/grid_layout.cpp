@@ -60,7 +60,7 @@ GridHit GridLayout::HitTest(Point pt) const {
         hit.cell.nCol = model.NumColumns() - 1;
     }
     Rect rcCell;
-    if (model.UsesButton(hit.cell.nCol) && CellRect(nRow, hit.cell.nCol, rcCell)) {
+    if (model.UsesButton(hit.cell) && CellRect(nRow, hit.cell.nCol, rcCell)) {
         hit.bOnButton = ButtonRect(rcCell).Contains(pt);
     }
     return hit;

@@ -42,14 +42,24 @@ void GridModel::ReallocateCellData(int nNewCols) {
     m_nCellColumns = nNewCols;
 }
 
-bool GridModel::UsesButton(int nCol) const {
-    const GridColType nType = Type(nCol);
+bool GridModel::HasButton(GridColType nType) {
     return nType == gctButton || nType == gctEditButton || nType == gctDropList;
 }
 
-bool GridModel::UsesEdit(int nCol) const {
-    const GridColType nType = Type(nCol);
+bool GridModel::UsesEdit(GridCell cell) const {
+    const GridColType nType = Type(cell);
     return nType == gctEdit || nType == gctEditButton;
+}
+
+GridColType GridModel::Type(GridCell cell) const {
+    const auto it = m_types.empty() ? m_types.end() : m_types.find(cell);
+    return it != m_types.end() ? it->second : Type(cell.nCol);
+}
+
+void GridModel::SetType(GridCell cell, GridColType nType) {
+    if (IsCell(cell)) {
+        m_types[cell] = nType;
+    }
 }
 
 // --- Rows
@@ -88,6 +98,7 @@ int GridModel::AddRow(std::string_view row, unsigned dwState) {
 
 void GridModel::DeleteAllRows() {
     m_aRows.clear();
+    m_types.clear();
     for (Block& block : m_aCellData) {
         block.reset();
     }

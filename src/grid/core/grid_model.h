@@ -14,7 +14,9 @@
 #include "base/text_pool.h"
 #include "grid/grid_records.h"
 
+#include <compare>
 #include <cstddef>
+#include <map>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -24,7 +26,7 @@ namespace qv {
 struct GridCell {
     int nRow = -1;
     int nCol = -1;
-    friend bool operator==(const GridCell&, const GridCell&) = default;
+    friend auto operator<=>(const GridCell&, const GridCell&) = default;
 };
 
 class GridModel {
@@ -45,8 +47,7 @@ public:
         return IsColumn(nCol) ? &m_aColumns[nCol] : nullptr;
     }
     GridColType Type(int nCol) const { return IsColumn(nCol) ? m_aColumns[nCol].nType : gctStatic; }
-    bool UsesButton(int nCol) const;
-    bool UsesEdit(int nCol) const;
+    bool UsesButton(int nCol) const { return HasButton(Type(nCol)); }
 
     // --- Rows
 
@@ -74,11 +75,18 @@ public:
     // True if the style is another one now.
     bool ModifyStyle(int nRow, int nCol, unsigned dwAdd, unsigned dwRemove);
 
+    // The cell's own type, or else its column's.
+    GridColType Type(GridCell cell) const;
+    void SetType(GridCell cell, GridColType nType);
+    bool UsesButton(GridCell cell) const { return HasButton(Type(cell)); }
+    bool UsesEdit(GridCell cell) const;
+
     size_t CountStrings() const { return m_aStrings.size(); }
     size_t CountBlocks() const { return m_aCellData.size(); }
     bool CheckInvariants() const;
 
 private:
+    static bool HasButton(GridColType nType);
     using Block = std::unique_ptr<_QVGRID_CELL_INFO[]>;
 
     int AllocateCellDataIndex();
@@ -90,6 +98,7 @@ private:
     int m_nCellColumns = 0;         // cells in each block
     std::vector<char*> m_aStrings;  // entry 0 is the empty text of all cells without one
     TextPool m_texts;
+    std::map<GridCell, GridColType> m_types;  // of cells that have one of their own
 };
 
 }  // namespace qv

@@ -16,6 +16,10 @@
 
 namespace qv {
 
+// What those who listen to a grid hear of a cell: it became the current one, has another text, or
+// its list of choices came or went.
+enum class CellChange { Current, Text, List };
+
 class GridHostPort {
 public:
     virtual ~GridHostPort() = default;
@@ -48,6 +52,7 @@ public:
     // A user has given a cell another text. Throws nothing.
     virtual void NoteEdit(GridCell /*cell*/, const std::string& /*strBefore*/,
                           const std::string& /*strAfter*/) {}
+    virtual void CellChanged(GridCell /*cell*/, CellChange /*what*/) {}  // out
 };
 
 // A child window, made at first use.

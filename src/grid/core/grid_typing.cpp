@@ -10,9 +10,55 @@ bool GridEditing::IsOpenToTyping(GridCell cell) const {
            (m_model.Style(cell.nRow, cell.nCol) & (GCS_DISABLED | GCS_READONLY)) == 0;
 }
 
+bool GridEditing::IsChangeable(GridCell cell) const {
+    const CellDeed deed = DeedOf(cell);
+    return deed == CellDeed::OpenList || deed == CellDeed::CloseList ||
+           (m_model.UsesEdit(cell) && IsOpenToTyping(cell));
+}
+
+CellDeed GridEditing::DeedOf(GridCell cell) const {
+    if (m_host.Window() == nullptr || !m_model.IsCell(cell) || !IsEnabled(cell) ||
+        m_state.m_bReadOnly || IsLockedList(cell)) {
+        return CellDeed::None;
+    }
+    switch (Type(cell)) {
+        case gctButton:
+        case gctEditButton:
+            return CellDeed::Press;
+        case gctDropList:
+            return HasListUp(cell) ? CellDeed::CloseList : CellDeed::OpenList;
+        case gctEdit:
+            return IsOpenToTyping(cell) ? CellDeed::Edit : CellDeed::None;
+        default:
+            return CellDeed::None;
+    }
+}
+
+void GridEditing::Act(GridCell cell) {
+    if (DeedOf(cell) == CellDeed::None) {
+        return;
+    }
+    const Watch watch(*this);
+    const unsigned nMove = m_nMoves;
+    m_host.ShowRow(cell.nRow);
+    if (!watch || LedElsewhere(nMove, cell) || !FocusOnPress(cell)) {
+        return;
+    }
+    GotoCell(cell, true);
+    if (!watch || !IsCurrent(cell)) {
+        return;
+    }
+    const CellDeed deed = DeedOf(cell);
+    if (deed == CellDeed::OpenList || deed == CellDeed::CloseList) {
+        PressCell({cell, false});
+    } else if (deed == CellDeed::Press) {
+        ClickButton(cell);
+    }
+}
+
 bool GridEditing::TypeInto(GridCell cell, const char* psz) {
     const Watch watch(*this);
-    if (IsOpenToTyping(cell) && m_model.UsesEdit(cell.nCol)) {
+    if (IsOpenToTyping(cell) && m_model.UsesEdit(cell)) {
         TypeText(cell, psz);
     } else if (IsOpenToTyping(cell) && Type(cell) == gctDropList) {
         ChooseText(cell, psz);

@@ -53,6 +53,7 @@ public:
     bool IsEmpty() const { return m_anchor == m_caret; }
     TextPlace First() const { return m_anchor < m_caret ? m_anchor : m_caret; }
     TextPlace Last() const { return m_anchor < m_caret ? m_caret : m_anchor; }
+    TextPlace Anchor() const { return m_anchor; }
     TextPlace Caret() const { return m_caret; }
     bool IsDragging() const { return m_bDragging; }
 

@@ -1,5 +1,7 @@
 #include "containers/core/split_layout.h"
 
+#include "base/platform_names.h"
+
 #include <array>
 #include <gtest/gtest.h>
 #include <utility>
@@ -20,6 +22,26 @@ TEST(SplitLayout, ADragEndsTwoBarWidthsFromEitherEnd) {
          {std::array{100, 3, 10}, {100, 50, 50}, {100, 99, 90}, {15, 9, 10}, {15, 10, 5}}) {
         EXPECT_EQ((SplitLayout{{nLength, 9}, true, 5}.Dragged({nAt, 0})), nPos) << nLength;
     }
+}
+
+TEST(SplitLayout, KeysGoAsFarAsADrag) {
+    const SplitLayout layout{{100, 9}, true, 5};
+    EXPECT_EQ(KeyTarget(layout, 50, VK_LEFT, false), 40);
+    EXPECT_EQ(KeyTarget(layout, 50, VK_DOWN, true), 51);
+    EXPECT_EQ(KeyTarget(layout, 85, VK_RIGHT, false), 90);
+    EXPECT_EQ(KeyTarget(layout, 50, VK_HOME, false), 10);
+    EXPECT_EQ(KeyTarget(layout, -kFarthest, VK_UP, false), 10);
+    EXPECT_EQ(KeyTarget(layout, 50, VK_END, true), 90);
+    EXPECT_EQ(KeyTarget(layout, 50, VK_ESCAPE, false), std::nullopt);
+}
+
+TEST(SplitLayout, APercentageComesBackAsItWasGiven) {
+    for (const int nLength : {100, 333, 1999}) {
+        for (int nPercent = 0; nPercent <= 100; ++nPercent) {
+            EXPECT_EQ(SplitPercent(SplitPosition(nPercent, nLength), nLength), nPercent) << nLength;
+        }
+    }
+    EXPECT_EQ(SplitPercent(5, 0), kDefaultSplit);
 }
 
 TEST(SplitBar, AKeptPositionIsKeptOnce) {

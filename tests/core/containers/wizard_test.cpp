@@ -56,6 +56,12 @@ TEST(WizardDiagram, RingAndTrunkJoinAnyNumberOfBoxes) {
               "Cb:8 200 24 216 40 200 192 216 16,24 16,200 32,192 32,208 24,208 ");
 }
 
+TEST(WizardDiagram, AStepIsFoundByItsHeight) {
+    for (const auto& [y, nStep] : {std::pair{7, -1}, {8, 0}, {39, 0}, {40, 1}, {71, 1}, {72, -1}}) {
+        EXPECT_EQ(qv::StepAtY(y, 2), nStep) << y;
+    }
+}
+
 TEST(WizardDiagram, AnOddStateGoesWithTheRowBefore) {
     std::string strFills;
     for (const std::string& strRow : Rows("901C990")) {

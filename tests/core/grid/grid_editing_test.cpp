@@ -406,6 +406,31 @@ TEST_F(GridEdits, WithoutMemoryAnEditorStaysClosedAndWhatIsTypedInItsEdit) {
     EXPECT_EQ(State() + " " + Stored(0, kEdit), "1,3 list one new");
 }
 
+// --- Those who listen
+
+TEST_F(GridEdits, ADeedIsWhatAPressDoes) {
+    editing.Act({9, kButton});
+    EXPECT_EQ(State() + " " + g.Told() + g.Heard(), "9,4 0 current 9,4 ");
+    editing.Act({1, kEdit});
+    EXPECT_EQ(State() + " " + g.Heard(), "1,1 edit abc current 1,1 ");
+    g.Type("typed");
+    g.Told();
+    editing.Act({1, kEditButton});
+    EXPECT_EQ(State() + " " + g.Told() + g.Heard(), "1,2 change 0 text 1,1 current 1,2 ");
+    EXPECT_EQ(Stored(1, kEdit), "typed");
+    editing.Act({1, kList});
+    editing.Key(VK_DOWN);
+    EXPECT_EQ(State() + " " + g.Heard(), "1,3 list two current 1,3 list 1,3 text 1,3 ");
+    EXPECT_EQ(editing.DeedOf({1, kList}), CellDeed::CloseList);
+    editing.Act({1, kList});
+    EXPECT_EQ(State() + " " + g.Told() + g.Heard(), "1,3 1 text 1,3 list 1,3 ");
+    for (const GridCell cell : {GridCell{1, kStatic}, GridCell{-1, kEdit}, GridCell{2, kEdit}}) {
+        Disable(2, kEdit);
+        editing.Act(cell);
+        EXPECT_EQ(State(), "1,3");
+    }
+}
+
 // --- What the parent does while it is told
 
 TEST_F(GridEdits, ATextChangedWhileItsEditOpensIsNotOverwritten) {

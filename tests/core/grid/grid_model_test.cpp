@@ -46,6 +46,27 @@ bool RunsOut(int nSucceeding, Action action) {
 
 }  // namespace
 
+TEST(GridModel, ACellMayBeOfAnotherTypeThanItsColumn) {
+    GridModel model;
+    model.AddColumn(gctStatic, 50);
+    model.AddColumn(gctEdit, 50);
+    model.AddRow("a\tb", 0);
+    model.AddRow("c\td", 0);
+    model.SetType({1, 1}, gctDropList);
+    model.SetType({2, 1}, gctButton);
+    EXPECT_EQ(model.Type({0, 1}), gctEdit);
+    EXPECT_EQ(model.Type({1, 1}), gctDropList);
+    EXPECT_TRUE(model.UsesButton(GridCell{1, 1}) && !model.UsesEdit({1, 1}));
+    EXPECT_TRUE(!model.UsesButton(GridCell{0, 1}) && model.UsesEdit({0, 1}));
+    EXPECT_EQ(model.Type(1), gctEdit) << "of the column";
+    model.AddRow("e", 0);
+    EXPECT_EQ(model.Type({2, 1}), gctEdit) << "there was no such cell";
+    model.DeleteAllRows();
+    model.AddRow("f", 0);
+    model.AddRow("g", 0);
+    EXPECT_EQ(model.Type({1, 1}), gctEdit) << "types go with their rows";
+}
+
 TEST(GridModel, ARowAddedWithoutMemoryIsNotThereOrReadsAsEmpty) {
     const std::string strRow = "a\tb\t" + std::string(300, 'x');
     std::string strWhole = strRow + '|';

@@ -167,6 +167,23 @@ TEST(TabView, ComesUpWithItsFirstPageInPlace_AndKeepsItThere) {
     EXPECT_EQ(w.After([&] { w.pView->OnInitialUpdate(); }), "") << "once more";
 }
 
+TEST(TabView, FollowsTheSystemsColoursButForItsOwn) {
+    ViewFrame w;
+    CTab& tabs = w.pView->GetTabCtrl();
+    constexpr int kFace = COLOR_BTNFACE;
+    constexpr COLORREF kOwn = RGB(1, 2, 3);
+    constexpr COLORREF kNew = RGB(90, 80, 70);
+    tabs.SetForeColor(static_cast<long>(kOwn));
+    const COLORREF crOld = ::GetSysColor(kFace);
+    EXPECT_EQ(static_cast<COLORREF>(tabs.GetBackColor()), crOld);
+    for (const COLORREF cr : {kNew, crOld}) {
+        ::SetSysColors(1, &kFace, &cr);
+        ::SendMessage(w.hFrame, WM_SYSCOLORCHANGE, 0, 0);
+        EXPECT_EQ(static_cast<COLORREF>(tabs.GetBackColor()), cr);
+        EXPECT_EQ(static_cast<COLORREF>(tabs.GetForeColor()), kOwn);
+    }
+}
+
 TEST(TabView, ShowsPagesAsTheControlTells) {
     ViewFrame w;
     View& view = *w.pView;

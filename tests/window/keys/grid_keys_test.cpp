@@ -92,7 +92,11 @@ TEST_F(GridKeys, EditsAreTakenBackAndMadeAgain) {
         {'Y', false, "firstprtyped", "3,1"},   {'Y', false, "firstprtyped", "3,1"},
     };
     for (const auto& step : steps) {
+        const bool bUndo = step.nKey == 'Z' && !step.bShift;
+        const BOOL bCan = bUndo ? w.grid.CanUndoEdit() : w.grid.CanRedoEdit();
+        const std::string strBefore = all();
         Control(step.nKey, step.bShift);
+        EXPECT_EQ(bCan != FALSE, all() != strBefore) << "as a menu would say";
         EXPECT_EQ(all(), step.pszAll);
         EXPECT_EQ(w.Current(), step.pszCurrent);
     }
@@ -104,6 +108,24 @@ TEST_F(GridKeys, EditsAreTakenBackAndMadeAgain) {
     EXPECT_EQ(all() + w.Text(1, 2), "firstpabcabcdef") << "all but what cannot be edited";
     w.grid.DeleteAllRows();
     EXPECT_FALSE(w.grid.UndoEdit());
+    EXPECT_FALSE(w.grid.CanUndoEdit());
+}
+
+TEST_F(GridKeys, WhatIsBeingTypedCanBeTakenBackAndEndsRedo) {
+    w.grid.EnableExpectedKeys();
+    GoTo(0, kEdit);
+    EXPECT_FALSE(w.grid.CanUndoEdit());
+    EXPECT_TRUE(w.grid.CutCell());
+    EXPECT_EQ(w.Text(0, kEdit) + Clipboard(), "abc");
+    EXPECT_TRUE(w.grid.UndoEdit());
+    EXPECT_TRUE(w.grid.CanRedoEdit());
+    TypeText("x");
+    EXPECT_TRUE(w.grid.CanUndoEdit());
+    EXPECT_FALSE(w.grid.CanRedoEdit());
+    w.grid.SetCellReadOnly(1, kEdit, TRUE);
+    GoTo(1, kEdit);
+    EXPECT_TRUE(w.grid.CutCell());
+    EXPECT_EQ(w.Text(1, kEdit), "abc") << "copied, and not emptied";
 }
 
 TEST_F(GridKeys, TheParentMayTakeTheGridAwayAtEachStep) {

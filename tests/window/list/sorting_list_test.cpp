@@ -50,6 +50,45 @@ TEST(SortingList, AClickSortsAndASecondTurnsTheOrder) {
     EXPECT_EQ(fresh.Sorted(0), "b a") << "a fresh list counts as sorted by column 0";
 }
 
+// Of each heading: 'u'p, 'd'own, or '-'.
+std::string Arrows(QVListCtrlEx& list) {
+    std::string str;
+    HDITEM item{};
+    item.mask = HDI_FORMAT;
+    for (int nCol = 0; list.GetHeaderCtrl()->GetItem(nCol, &item); ++nCol) {
+        str += (item.fmt & HDF_SORTUP) != 0 ? 'u' : (item.fmt & HDF_SORTDOWN) != 0 ? 'd' : '-';
+    }
+    return str;
+}
+
+TEST(SortingList, AnArrowShowsTheOrderOfTheLastSortWhereItIsAskedFor) {
+    SortWindow w;
+    w.Add("b\tx");
+    w.Add("a\ty");
+    w.list.SortOnHeader(1);
+    EXPECT_EQ(Arrows(w.list), "----") << "off at first";
+    w.list.ShowSortArrow();
+    EXPECT_EQ(Arrows(w.list), "-u--");
+    w.list.SortOnHeader(1);
+    EXPECT_EQ(Arrows(w.list), "-d--");
+    w.list.ReSort();
+    EXPECT_EQ(Arrows(w.list), "-d--");
+    w.list.SortOnHeader(2);
+    w.list.SetHdrFormat(2, LVCFMT_RIGHT);
+    EXPECT_EQ(Arrows(w.list), "--u-") << "another alignment leaves it";
+    w.list.ShowSortArrow(FALSE);
+    EXPECT_EQ(Arrows(w.list), "----");
+
+    ListWindow<QVVirtualListCtrl> source;
+    source.list.AddHeader("one\ttwo", lcdtString);
+    source.list.ShowSortArrow();
+    EXPECT_EQ(Arrows(source.list), "--") << "nothing was sorted yet";
+    source.list.SortByColumn(1, FALSE);
+    EXPECT_EQ(Arrows(source.list), "-d");
+    source.list.RestoreOrder();
+    EXPECT_EQ(Arrows(source.list), "--");
+}
+
 TEST(SortingList, TypesDecideTheOrder) {
     SortWindow w;
     for (const char* psz : {"\033ab\tx\t-1\t2020-03-01", "c\t\033ax\t5\tno date",

@@ -31,10 +31,12 @@ public:
     }
     void PrepareRows(const int* pRows, int nRows) override {
         prepared.assign(pRows, pRows + nRows);
+        ++nPrepared;
     }
 
     std::map<int, int> asked;
     std::vector<int> prepared;
+    int nPrepared = 0;
     std::function<void(int nRow)> act;
 };
 
@@ -78,6 +80,42 @@ TEST(VirtualList, AsksOnceAPaintForEachRowInViewAndForNoOther) {
             }
         }
     }
+}
+
+TEST(VirtualList, MoreRowsAreShownInOnePiece) {
+    Window w(0);
+    const HWND hHeader = w.list.GetHeaderCtrl()->m_hWnd;
+    const auto headingsDue = [&] {
+        CRect rc(0, 0, 0, 0);
+        ::GetUpdateRect(hHeader, &rc, FALSE);
+        return rc;
+    };
+    const LONG nColumns = w.list.GetColWidth(0, nullptr) * 3;
+    for (const bool bDue : {false, true}) {
+        w.list.SetRowCount(0);
+        Picture::Fresh(w.list);
+        w.source.asked.clear();
+        w.source.nPrepared = 0;
+        bDue ? ::InvalidateRect(hHeader, nullptr, TRUE) : FALSE;
+        w.list.SetRowCount(kMillion);
+        EXPECT_EQ(headingsDue().left, bDue ? 0 : nColumns) << "those that are there stay";
+        EXPECT_FALSE(headingsDue().IsRectEmpty()) << "the scroll bar took some of their space";
+        const Picture shown = Picture::OfClient(w.list);
+        EXPECT_EQ(w.source.nPrepared, 1);
+        EXPECT_EQ(w.source.asked[0], 1);
+        EXPECT_TRUE(shown == Picture::Fresh(w.list));
+    }
+    w.list.SetRowCount(kMillion + 1);
+    EXPECT_TRUE(headingsDue().IsRectEmpty());
+    w.list.UpdateWindow();
+    w.list.SetRedraw(FALSE);
+    w.list.SetRowCount(kMillion + 2);
+    EXPECT_FALSE(w.list.GetUpdateRect(nullptr)) << "who turned redraw off turns it on";
+    w.list.SetRedraw(TRUE);
+    CButton button;
+    button.Create("in the list", WS_CHILD | WS_VISIBLE, CRect(50, 50, 90, 70), &w.list, 1);
+    w.list.SetRowCount(kMillion + 3);
+    EXPECT_TRUE(button.GetUpdateRect(nullptr));
 }
 
 TEST(VirtualList, LooksAsAListThatKeepsTheSameRows) {
@@ -270,28 +308,42 @@ TEST(VirtualList, ASourceMayDoAnythingWhenItIsAsked) {
     EXPECT_TRUE(TheTestApp().m_exceptions.empty());
 }
 
+// In one parent for all of them: a window of its own on the screen takes longest to make.
 TEST(VirtualListMonkey, SurvivesAnyOrderAndKeepsNoHandles) {
-    std::unique_ptr<Window> p;
-    PlayInAnyOrder<Window>(
-        p, [&] { p = std::make_unique<Window>(100, "a\tb\tc", true); },
-        {[&](int n) { p->list.SetRowCount(n * n * 7); },
-         [&](int n) { p->list.SortByColumn(n % 4, n % 2); },
-         [&](int n) { p->list.SortOnHeader(n % 3); }, [&](int) { p->list.RestoreOrder(); },
-         [&](int n) { p->list.SetItemState(n, LVIS_SELECTED, LVIS_SELECTED); },
-         [&](int n) { p->list.SetItemState(n, LVIS_FOCUSED, LVIS_FOCUSED); },
-         [&](int n) { p->list.SendMessage(WM_KEYDOWN, n % 2 ? VK_DOWN : VK_NEXT); },
-         [&](int n) { p->list.SendMessage(WM_CHAR, static_cast<WPARAM>('0' + n % 10)); },
-         [&](int n) { p->list.EnsureVisible(n * 3, FALSE); }, [&](int) { p->list.RedrawWindow(); },
-         [&](int) { p->list.RowsChanged(); },
-         [&](int n) { p->list.SendMessage(LVM_DELETECOLUMN, static_cast<WPARAM>(n)); },
-         [&](int n) { p->list.SetImageFirstCol(n % 2); },
-         [&](int n) { n == 7 ? p.reset() : void(p->list.SaveSelections()); },
-         [&](int) { p->list.RestoreSelections(); },
+    const CSize kSize(400, 200);
+    FontParent parent(kSize);
+    Counting source;
+    std::unique_ptr<OpenList<QVVirtualListCtrl>> p;
+    const auto make = [&] {
+        p = std::make_unique<OpenList<QVVirtualListCtrl>>();
+        p->Create(kListId, CRect(CPoint(0, 0), kSize), kListImages, kListImageMask, kListImageWidth,
+                  &parent);
+        p->AddHeader("a\tb\tc", lcdtString);
+        p->ModifyStyle(LVS_SINGLESEL, 0);
+        p->AddStyle(RGB(255, 0, 0), RGB(0, 255, 0));
+        source.act = nullptr;
+        source.asked.clear();
+        p->SetRowSource(&source);
+        p->SetRowCount(100);
+    };
+    PlayInAnyOrder<OpenList<QVVirtualListCtrl>>(
+        p, make,
+        {[&](int n) { p->SetRowCount(n * n * 7); }, [&](int n) { p->SortByColumn(n % 4, n % 2); },
+         [&](int n) { p->SortOnHeader(n % 3); }, [&](int) { p->RestoreOrder(); },
+         [&](int n) { p->SetItemState(n, LVIS_SELECTED, LVIS_SELECTED); },
+         [&](int n) { p->SetItemState(n, LVIS_FOCUSED, LVIS_FOCUSED); },
+         [&](int n) { p->SendMessage(WM_KEYDOWN, n % 2 ? VK_DOWN : VK_NEXT); },
+         [&](int n) { p->SendMessage(WM_CHAR, static_cast<WPARAM>('0' + n % 10)); },
+         [&](int n) { p->EnsureVisible(n * 3, FALSE); }, [&](int) { p->RedrawWindow(); },
+         [&](int) { p->RowsChanged(); },
+         [&](int n) { p->SendMessage(LVM_DELETECOLUMN, static_cast<WPARAM>(n)); },
+         [&](int n) { p->SetImageFirstCol(n % 2); },
+         [&](int n) { n == 7 ? p.reset() : void(p->SaveSelections()); },
+         [&](int) { p->RestoreSelections(); },
          [&](int n) {
-             p->source.act = [n, q = p.get()](int i) {
-                 i == n ? (void)q->list.SetRowCount(n) : void();
-             };
-         }});
+             source.act = [n, q = p.get()](int i) { i == n ? (void)q->SetRowCount(n) : void(); };
+         }},
+        MonkeySteps() / 8);
 }
 
 }  // namespace
