@@ -2,16 +2,19 @@
 
 #include "bench.h"
 
+#include <QAbstractEventDispatcher>
 #include <QAbstractTableModel>
 #include <QApplication>
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QHeaderView>
+#include <QScreen>
 #include <QSortFilterProxyModel>
 #include <QTableView>
 #include <QTableWidget>
 #include <QTextLayout>
 #include <QTreeWidget>
+#include <QWindow>
 #include <algorithm>
 
 namespace qt_peer {
@@ -163,10 +166,63 @@ public:
                    ? QVariant(QString("row %1 cell %2").arg(index.row()).arg(index.column()))
                    : QVariant();
     }
+    void Append(int nRows) {
+        beginInsertRows({}, m_nRows, m_nRows + nRows - 1);
+        m_nRows += nRows;
+        endInsertRows();
+    }
 
 private:
-    const int m_nRows;
+    int m_nRows;
     const int m_nColumns;
+};
+
+// Rows and columns of the size that they have in our list: 56 rows are in view in both. No grid
+// and no wrapping, which ours has not either.
+class ShownView : public QTableView {
+public:
+    ShownView() {
+        QFont small = font();
+        small.setPixelSize(12);
+        setFont(small);
+        setShowGrid(false);
+        setWordWrap(false);
+        verticalHeader()->hide();
+        verticalHeader()->setMinimumSectionSize(1);
+        verticalHeader()->setDefaultSectionSize(14);
+        horizontalHeader()->setDefaultSectionSize(110);
+        resize(600, 800);
+    }
+    // Painted as it is, with nothing left to do.
+    void ShowAndSettle() {
+        show();
+        while (windowHandle() == nullptr || !windowHandle()->isExposed()) {
+            QApplication::processEvents();
+        }
+        Settle();
+        m_nPaints = 0;
+    }
+    // Until nothing waits for the window and the screen has its pixels: who reads one waits for
+    // all that was drawn before.
+    void Settle() {
+        while (QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents)) {
+        }
+        screen()->grabWindow(0, 300, 400, 1, 1);
+    }
+    void AwaitPaint() {
+        while (m_nPaints == 0) {
+            QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents);
+        }
+    }
+
+protected:
+    void paintEvent(QPaintEvent* pEvent) override {
+        ++m_nPaints;
+        QTableView::paintEvent(pEvent);
+    }
+
+private:
+    int m_nPaints = 0;
 };
 
 }  // namespace
@@ -189,17 +245,28 @@ double SortByProxy(const std::vector<std::string>& texts, const std::vector<int>
     return bench::Time([&] { proxy.sort(bTexts ? 0 : 1); });
 }
 
-double ShowModel(int nRows, int nColumns) {
-    QTableView view;
-    view.verticalHeader()->hide();
-    view.resize(600, 800);
-    view.show();
-    QApplication::processEvents();
-    QApplication::processEvents();
+Shown ShowModel(int nRows, int nColumns) {
     ShownModel model(nRows, nColumns);
-    return bench::Time([&] {
+    ShownView view;
+    view.ShowAndSettle();
+    Shown shown;
+    shown.firstPage = bench::Time([&] {
         view.setModel(&model);
-        QApplication::processEvents();
+        view.AwaitPaint();
+    });
+    shown.ready = shown.firstPage + bench::Time([&] { view.Settle(); });
+    return shown;
+}
+
+double ShowMoreRows(int nRows, int nColumns) {
+    ShownModel model(0, nColumns);
+    ShownView view;
+    view.setModel(&model);
+    view.ShowAndSettle();
+    return bench::Time([&] {
+        model.Append(nRows);
+        view.AwaitPaint();
+        view.Settle();
     });
 }
 

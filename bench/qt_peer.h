@@ -26,8 +26,15 @@ double SortPlain(const std::vector<int>& numbers);
 // By the proxy that sorts for a view: the first column of a model that has these, or the second.
 double SortByProxy(const std::vector<std::string>& texts, const std::vector<int>& numbers,
                    bool bTexts);
-// A table view on the screen gets a model of nRows rows and nColumns columns; the time until its
-// first page is painted and the view has nothing left to do.
-double ShowModel(int nRows, int nColumns);
+// A table view on the screen that has been painted empty gets a model of nRows rows and nColumns
+// columns; the time until its first page is painted, and until the view has nothing left to do:
+// it paints a second time once its scroll bar has taken some of its space.
+struct Shown {
+    double firstPage;
+    double ready;
+};
+Shown ShowModel(int nRows, int nColumns);
+// As ready, of a view that has the model and its columns and gets the rows.
+double ShowMoreRows(int nRows, int nColumns);
 
 }  // namespace qt_peer

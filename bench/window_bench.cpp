@@ -1,5 +1,5 @@
-// The controls in real windows: window_bench [tree | list | grid | text | boxes | buttons |
-// containers | common | dialogs | activex]; all without an argument.
+// The controls in real windows: window_bench [tree | list | virtual | grid | text | boxes |
+// buttons | containers | common | dialogs | activex]; all without an argument.
 
 #include "window_bench.h"
 
@@ -24,6 +24,8 @@ int main(int argc, char** argv) {
     }
     if (asked("list")) {
         MeasureList();
+    }
+    if (asked("virtual")) {
         MeasureVirtualList();
     }
     if (asked("grid")) {
