@@ -1,6 +1,5 @@
 #include "find_desk.h"
 
-#include "main_frame.h"
 #include "resource.h"
 #include "work.h"
 
@@ -68,17 +67,16 @@ void FindDesk::Find(bool bDown) {
     if (Work::IsRunning()) {
         return;
     }
-    Page& page = m_frame.Pages().Active();
     const TextQuery query(m_strText, (m_dwFlags & FR_MATCHCASE) != 0,
                           (m_dwFlags & FR_WHOLEWORD) != 0);
-    const FindResult result = page.Find(query, bDown);
+    const FindResult result = m_owner.Find(query, bDown);
     if (!result.bFound) {
         ::MessageBeep(MB_ICONINFORMATION);
-        page.Say("\"" + m_strText + "\" is not in " + result.strPlace);
+        m_owner.Say("\"" + m_strText + "\" is not in " + result.strPlace);
     } else if (result.bWrapped) {
-        page.Say(CString("Found from the ") + (bDown ? "top" : "end") + " again: the " +
-                 (bDown ? "end" : "top") + " of " + result.strPlace + " was reached");
+        m_owner.Say(CString("Found from the ") + (bDown ? "top" : "end") + " again: the " +
+                    (bDown ? "end" : "top") + " of " + result.strPlace + " was reached");
     } else {
-        page.Say("\"" + m_strText + "\" found in " + result.strPlace);
+        m_owner.Say("\"" + m_strText + "\" found in " + result.strPlace);
     }
 }

@@ -1,18 +1,28 @@
-// FindDesk: the commands that look for a text in the page in front, and the platform's dialog that
-// asks for it, which stays up beside the window. The frame hands its commands on to it.
+// FindDesk: the commands that look for a text in what a frame has in front, and the platform's
+// dialog that asks for it, which stays up beside the window. The frame hands its commands on to it,
+// and the dialog's message.
 
 #pragma once
 
-#include "pages/text_query.h"
+#include "pages/finding.h"
 
 #include <afxdlgs.h>
 #include <afxwin.h>
 
-class MainFrame;
+// What is searched.
+class FindOwner {
+public:
+    virtual FindResult Find(const TextQuery& query, bool bDown) = 0;
+    // In the status bar.
+    virtual void Say(const CString& strMessage) = 0;
+
+protected:
+    ~FindOwner() = default;
+};
 
 class FindDesk : public CCmdTarget {
 public:
-    explicit FindDesk(MainFrame& frame) : m_frame(frame) {}
+    FindDesk(CFrameWnd& frame, FindOwner& owner) : m_frame(frame), m_owner(owner) {}
 
     // The message by which the dialog tells its owner.
     static UINT Message();
@@ -28,7 +38,8 @@ private:
     // Says where the text was not found, or that the search went on at the other end.
     void Find(bool bDown);
 
-    MainFrame& m_frame;
+    CFrameWnd& m_frame;
+    FindOwner& m_owner;
     CFindReplaceDialog* m_pDialog = nullptr;  // its own; null: it is not up
     CString m_strText;
     DWORD m_dwFlags = FR_DOWN;

@@ -61,6 +61,15 @@ BOOL InventoryApp::InitInstance() {
     return TRUE;
 }
 
+BOOL InventoryApp::PreTranslateMessage(MSG* pMsg) {
+    return m_edit.TakeKey(*pMsg) || CWinApp::PreTranslateMessage(pMsg);
+}
+
+BOOL InventoryApp::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {
+    return CWinApp::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo) ||
+           m_edit.OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+}
+
 void InventoryApp::OnAbout() {
     QVAboutBox about(TRUE, CWnd::GetActiveWindow());
     about.m_strTitle = "About Inventory";

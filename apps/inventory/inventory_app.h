@@ -4,6 +4,8 @@
 
 #pragma once
 
+#include "edit_desk.h"
+
 #include <afxwin.h>
 
 class CSingleDocTemplate;
@@ -14,6 +16,8 @@ public:
     InventoryApp() : CWinApp("Inventory") {}
     BOOL InitInstance() override;
     int ExitInstance() override;
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
 
     CSingleDocTemplate& Comparisons() { return *m_pComparisons; }
 
@@ -24,6 +28,7 @@ private:
 
     MainFrame* m_pFrame = nullptr;
     CSingleDocTemplate* m_pComparisons = nullptr;  // the framework's
+    EditDesk m_edit;
     CString m_strWalkFolder;
     int m_nExitCode = 0;
 };

@@ -24,6 +24,8 @@ BEGIN_MESSAGE_MAP(MainFrame, CFrameWnd)
     ON_WM_SETFOCUS()
     ON_WM_CLOSE()
     ON_WM_QUERYENDSESSION()
+    ON_COMMAND_EX(ID_VIEW_TOOLBAR, &MainFrame::OnBar)
+    ON_COMMAND_EX(ID_VIEW_STATUS_BAR, &MainFrame::OnBar)
     ON_COMMAND(ID_RELOAD, &MainFrame::OnReload)
     ON_COMMAND(ID_OPEN_DATABASE, &MainFrame::OnOpenDatabase)
     ON_COMMAND(ID_OPEN_MACHINE, &MainFrame::OnOpenMachine)
@@ -46,16 +48,24 @@ BOOL MainFrame::PreCreateWindow(CREATESTRUCT& cs) {
     return CFrameWnd::PreCreateWindow(cs);
 }
 
+// All reports that the user keeps have one text.
+void MainFrame::GetMessageString(UINT nID, CString& rMessage) const {
+    const bool bReport = nID >= ID_REPORT_FIRST_NAMED && nID <= ID_REPORT_LAST_NAMED;
+    CFrameWnd::GetMessageString(bReport ? ID_REPORT_FIRST_NAMED : nID, rMessage);
+}
+
 int MainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     static constexpr UINT kIndicators[] = {ID_INDICATOR_MESSAGE, ID_INDICATOR_MARKED};
-    if (CFrameWnd::OnCreate(lpCreateStruct) == -1 || !m_pages.Create(this) ||
-        !m_pages.Add(m_packages) || !m_pages.Add(m_report) || !m_pages.Add(m_settings) ||
-        !m_pages.Add(m_log) || !m_pages.Add(m_largest) || !m_statusBar.Create(this) ||
+    if (CFrameWnd::OnCreate(lpCreateStruct) == -1 || !m_toolBar.Make(*this) ||
+        !m_pages.Create(this) || !m_pages.Add(m_packages) || !m_pages.Add(m_report) ||
+        !m_pages.Add(m_settings) || !m_pages.Add(m_log) || !m_pages.Add(m_largest) ||
+        !m_pages.Add(m_files) || !m_statusBar.Create(this) ||
         !m_statusBar.SetIndicators(kIndicators, static_cast<int>(std::size(kIndicators)))) {
         return -1;
     }
     m_statusBar.SetPaneStyle(0, SBPS_STRETCH);
     SetActiveClient(&m_pages);
+    m_files.m_showPackage = [this](const CString& strName) { ShowPackage(strName); };
     return 0;
 }
 
@@ -68,6 +78,8 @@ void MainFrame::LoadSettings(const CString& strPath, bool bInteractive) {
     UseSettings();
     m_packages.Tree().UseIndentedColumns(settings.Choice(kSettingTreeColumns) == 0);
     m_packages.UseFolder(strFolder);
+    ShowControlBar(&m_toolBar, settings.Choice(kSettingToolBar) == 0, FALSE);
+    ShowControlBar(&m_statusBar, settings.Choice(kSettingStatusBar) == 0, FALSE);
     if (settings.Choice(kSettingStartFilter) != 0) {
         m_packages.Bar().SetFilter({});
     }
@@ -79,6 +91,7 @@ void MainFrame::UseSettings() {
     const class Settings& settings = m_settings.Values();
     m_packages.UseSettings(settings);
     m_largest.UseSettings(settings);
+    m_files.UseSettings(settings);
     m_report.UseSettings();
 }
 
@@ -158,10 +171,26 @@ void MainFrame::ShowInventory(std::shared_ptr<const Inventory> pInventory, const
     }
     m_settings.ShowDatabase(strFile.IsEmpty() ? "the registry's uninstall entries" : strFile);
     m_packages.UseDatabase(strFolder);
+    m_files.UseDatabase(strFolder);
     m_pInventory = std::move(pInventory);
     m_strFile = strFile;
     m_pages.SetInventory(*m_pInventory);
     m_desk.SetInventory(*m_pInventory);
+}
+
+// It is so again at the next start.
+BOOL MainFrame::OnBar(UINT nID) {
+    if (!CFrameWnd::OnBarCheck(nID)) {
+        return FALSE;
+    }
+    class Settings settings = m_settings.Values();
+    const auto keep = [&](int nSetting, CControlBar& bar) {
+        settings.Set(nSetting, settings.All()[nSetting].choices[bar.IsVisible() ? 0 : 1]);
+    };
+    keep(kSettingToolBar, m_toolBar);
+    keep(kSettingStatusBar, m_statusBar);
+    m_settings.Take(settings);
+    return TRUE;
 }
 
 void MainFrame::OnReload() {
@@ -248,6 +277,10 @@ LRESULT MainFrame::OnFindMessage(WPARAM, LPARAM lParam) {
 }
 
 void MainFrame::OnUpdateMessage(CCmdUI* pCmdUI) {
+    pCmdUI->Enable();
+    if (IsTracking()) {
+        return;  // it says what the command below the mouse does
+    }
     CString strText = m_strProblem;
     if (strText.IsEmpty()) {
         strText = m_pages.Active().Message();
@@ -257,7 +290,6 @@ void MainFrame::OnUpdateMessage(CCmdUI* pCmdUI) {
                    CountText(m_pInventory->Sections().size(), "section"))
                       .c_str();
     }
-    pCmdUI->Enable();
     pCmdUI->SetText(strText);
 }
 

@@ -2,8 +2,10 @@
 
 #pragma once
 
+#include "app_tool_bar.h"
 #include "find_desk.h"
 #include "model/package_database.h"
+#include "pages/all_files_page.h"
 #include "pages/largest_page.h"
 #include "pages/log_page.h"
 #include "pages/packages_page.h"
@@ -16,7 +18,7 @@
 
 #include <memory>
 
-class MainFrame : public CFrameWnd {
+class MainFrame : public CFrameWnd, private FindOwner {
 public:
     // An empty path: this machine's own inventory. If it cannot be read, or the user cancels, what
     // is shown stays.
@@ -37,6 +39,7 @@ public:
     SettingsPage& Settings() { return m_settings; }
     LogPage& Log() { return m_log; }
     LargestPage& Largest() { return m_largest; }
+    AllFilesPage& Files() { return m_files; }
     // Empty: the user's own file. Call before Open.
     void LoadSettings(const CString& strPath, bool bInteractive);
     // The settings have changed.
@@ -45,16 +48,19 @@ public:
     void UseMachines(QVMachineFolders& folders) { m_pMachines = &folders; }
     PageHost& Pages() { return m_pages; }
     ReportDesk& Desk() { return m_desk; }
+    AppToolBar& ToolBar() { return m_toolBar; }
     CString StatusText(int nPane) { return m_statusBar.GetPaneText(nPane); }
 
 protected:
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    void GetMessageString(UINT nID, CString& rMessage) const override;
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg void OnClose();
     afx_msg BOOL OnQueryEndSession();
+    afx_msg BOOL OnBar(UINT nID);
     afx_msg void OnReload();
     afx_msg void OnOpenDatabase();
     afx_msg void OnOpenMachine();
@@ -70,6 +76,10 @@ protected:
 private:
     void ShowInventory(std::shared_ptr<const Inventory> pInventory, const CString& strFile);
     void OpenAnother(const CString& strFile);
+    FindResult Find(const TextQuery& query, bool bDown) override {
+        return m_pages.Active().Find(query, bDown);
+    }
+    void Say(const CString& strMessage) override { m_pages.Active().Say(strMessage); }
 
     bool m_bShown = false;  // an inventory, be it none for want of a file that can be read
     CString m_strPath;
@@ -79,13 +89,15 @@ private:
     QVMachineFolders* m_pMachines = &QVMachineFolders::Network();
     std::shared_ptr<const Inventory> m_pInventory = std::make_shared<Inventory>();
     CString m_strFile;
+    AppToolBar m_toolBar;
     CStatusBar m_statusBar;
     PackagesPage m_packages;
     SettingsPage m_settings;
     ReportPage m_report{m_packages, m_settings};
     ReportDesk m_desk{*this};
-    FindDesk m_find{*this};
+    FindDesk m_find{*this, *this};
     LogPage m_log;
     LargestPage m_largest;
+    AllFilesPage m_files;
     PageHost m_pages;
 };

@@ -132,9 +132,7 @@ void ChangedGrid::Show(const std::vector<Difference>& differences) {
     m_pDifferences = &differences;
     SetRedraw(FALSE);
     Fill();
-    for (const int nCol : {kNow, kSize, kChange}) {
-        ColorColumn(nCol);
-    }
+    ColorColumns();
     SetCol(kSectionColumns);
     SetColSel(kSectionColumns);
     long nFront = kHeadingRows;
@@ -176,6 +174,30 @@ void ChangedGrid::Fill() {
     }
 }
 
+void ChangedGrid::ColorColumns() {
+    for (const int nCol : {kNow, kSize, kChange}) {
+        ColorColumn(nCol);
+    }
+}
+
+void ChangedGrid::UseColors() {
+    if (m_pDifferences == nullptr) {
+        return;
+    }
+    const long nRow = GetRow();
+    const long nRowSel = GetRowSel();
+    const long nCol = GetCol();
+    const long nColSel = GetColSel();
+    const long nTop = GetTopRow();
+    SetRedraw(FALSE);
+    ColorColumns();
+    SetCol(nCol);
+    SetColSel(nColSel);
+    PickRow(*this, nRow, nRowSel);
+    SetTopRow(nTop);
+    SetRedraw(TRUE);
+}
+
 // Rows of one colour that follow each other at a time.
 void ChangedGrid::ColorColumn(int nCol) {
     SetFillStyle(kWholeBlock);
@@ -191,8 +213,9 @@ void ChangedGrid::ColorColumn(int nCol) {
         }
         if (style(nFirst) != kPlainStyle) {
             PickRow(*this, kHeadingRows + nFirst, kHeadingRows + nEnd - 1);
-            SetCellForeColor(static_cast<long>(kDifferenceColors[style(nFirst)].crText));
-            SetCellBackColor(static_cast<long>(kDifferenceColors[style(nFirst)].crBack));
+            const QVSTYLE colors = ColorsOnScreen(kDifferenceColors[style(nFirst)]);
+            SetCellForeColor(static_cast<long>(colors.crText));
+            SetCellBackColor(static_cast<long>(colors.crBk));
         }
     }
     SetFillStyle(0);
@@ -230,6 +253,19 @@ CRect ChangedGrid::FocusRect() {
     const auto pixels = [&](long nTwips) { return ::MulDiv(nTwips, nDpi, kTwipsPerInch); };
     return CRect(CPoint(pixels(GetColPos(nCol)), pixels(GetRowPos(nRow))),
                  CSize(pixels(GetColWidth(nCol)), pixels(GetRowHeight(nRow))));
+}
+
+void ChangedGrid::SelectAll() {
+    SetCol(kSectionColumns);
+    PickRow(*this, kHeadingRows, GetRows() - 1);
+    SetColSel(kColumns - 1);
+}
+
+// Among controls of its kind the grid is alone: the Tab key is its page's.
+BOOL ChangedGrid::PreTranslateMessage(MSG* pMsg) {
+    const bool bTab = pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_TAB;
+    return bTab ? GetParent()->PreTranslateMessage(pMsg)
+                : QVFlexGridCtrl::PreTranslateMessage(pMsg);
 }
 
 CString ChangedGrid::SelectedText() {

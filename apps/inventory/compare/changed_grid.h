@@ -13,6 +13,8 @@ public:
     // What has the focus and what is on top stay so, if they are still there. The differences must
     // outlive what is shown of them.
     void Show(const std::vector<Difference>& differences);
+    // Colours what has changed for the system's colours of the moment.
+    void UseColors();
     // The last column takes what the others leave.
     void Fit();
     // Of the differences, the cell with the focus in it; -1: there is none.
@@ -20,6 +22,8 @@ public:
     void GoTo(int nRow);
     // The cell with the focus; empty where it is scrolled away.
     CRect FocusRect();
+    // All cells but those of the headings; the first one has the focus.
+    void SelectAll();
     // What is selected, as it shows.
     CString SelectedText();
 
@@ -28,11 +32,13 @@ public:
     static int CellStyle(const Difference& difference, int nCol);
 
 protected:
+    BOOL PreTranslateMessage(MSG* pMsg) override;
     int GetCellToolTip(int nRow, int nCol, char* pszText) override;
 
 private:
     void Fill();
     CString KeyOf(long nGridRow);
+    void ColorColumns();
     void ColorColumn(int nCol);
     // Null in a row without.
     const Difference* At(long nGridRow) const;

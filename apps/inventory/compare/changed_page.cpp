@@ -1,6 +1,7 @@
 #include "compare/changed_page.h"
 
 #include "compare/difference_colors.h"
+#include "model/find_rows.h"
 #include "resource.h"
 
 namespace {
@@ -44,6 +45,23 @@ void ChangedPage::Clear() {
 
 CString ChangedPage::Message() {
     return CountMessage(Document().Differences().Changed(), "changed");
+}
+
+FindResult ChangedPage::Find(const TextQuery& query, bool bDown) {
+    const std::vector<Difference>& changed = Document().Differences().Changed();
+    const FoundRow found =
+        FindRow(static_cast<int>(changed.size()), m_grid.Row(), bDown, [&](int nRow) {
+            for (int nCol = 0; nCol < ChangedGrid::kColumns; ++nCol) {
+                if (query.IsIn(ChangedGrid::CellText(changed[static_cast<size_t>(nRow)], nCol))) {
+                    return true;
+                }
+            }
+            return false;
+        });
+    if (found.nRow >= 0) {
+        m_grid.GoTo(found.nRow);
+    }
+    return {found.nRow >= 0, found.bWrapped, "what has changed"};
 }
 
 const Package* ChangedPage::ShownPackage() {

@@ -17,6 +17,7 @@ public:
     int Row() override { return m_grid.Row(); }
     void GoTo(int nRow) override { m_grid.GoTo(nRow); }
     CString Message() override;
+    FindResult Find(const TextQuery& query, bool bDown) override;
     std::unique_ptr<PaperTable> Table() override;
 
 protected:
@@ -25,8 +26,10 @@ protected:
     void Clear() override;
     CString SelectedText() override { return m_grid.SelectedText(); }
     bool HasSelection() override { return Rows() > 0; }
+    void SelectAll() override { m_grid.SelectAll(); }
     const Package* ShownPackage() override;
     void LayOut(CSize size) override;
+    void UseColors() override { m_grid.UseColors(); }
     CRect FocusRect() override { return m_grid.FocusRect(); }
 
 private:

@@ -6,11 +6,18 @@
 
 #include <algorithm>
 
+namespace {
+
+const UINT s_nFindMessage = FindDesk::Message();
+
+}  // namespace
+
 IMPLEMENT_DYNCREATE(ComparisonFrame, CFrameWnd)
 
 BEGIN_MESSAGE_MAP(ComparisonFrame, CFrameWnd)
     ON_WM_CREATE()
     ON_WM_CLOSE()
+    ON_REGISTERED_MESSAGE(s_nFindMessage, &ComparisonFrame::OnFindMessage)
 END_MESSAGE_MAP()
 
 BOOL ComparisonFrame::PreCreateWindow(CREATESTRUCT& cs) {
@@ -42,11 +49,38 @@ BOOL ComparisonFrame::OnCmdMsg(UINT nID, int nCode, void* pExtra,
     if (nCode == CN_COMMAND && Work::IsRunning()) {
         return TRUE;
     }
-    return CFrameWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+    const HWND hWnd = m_hWnd;
+    if (CFrameWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) {
+        return TRUE;
+    }
+    return FromHandlePermanent(hWnd) == this && View() != nullptr &&
+           m_find.OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+}
+
+// --- Finding
+
+ComparisonView* ComparisonFrame::View() const {
+    return dynamic_cast<ComparisonView*>(GetActiveView());
+}
+
+LRESULT ComparisonFrame::OnFindMessage(WPARAM, LPARAM lParam) {
+    m_find.OnDialog(lParam);
+    return 0;
+}
+
+FindResult ComparisonFrame::Find(const TextQuery& query, bool bDown) {
+    ComparisonPage* const pPage = View() != nullptr ? View()->Active() : nullptr;
+    return pPage != nullptr ? pPage->Find(query, bDown) : FindResult{false, false, "this view"};
+}
+
+void ComparisonFrame::Say(const CString& strMessage) {
+    if (View() != nullptr) {
+        View()->Say(strMessage);
+    }
 }
 
 void ComparisonFrame::GetMessageString(UINT nID, CString& rMessage) const {
-    if (auto* pView = dynamic_cast<ComparisonView*>(GetActiveView())) {
+    if (ComparisonView* const pView = View()) {
         pView->GetMessageString(nID, rMessage);
     }
     if (rMessage.IsEmpty()) {

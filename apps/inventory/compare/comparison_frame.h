@@ -2,10 +2,12 @@
 
 #pragma once
 
+#include "find_desk.h"
+
 #include <afxext.h>
 #include <afxwin.h>
 
-class ComparisonFrame : public CFrameWnd {
+class ComparisonFrame : public CFrameWnd, private FindOwner {
     DECLARE_DYNCREATE(ComparisonFrame)
 
 public:
@@ -17,8 +19,15 @@ protected:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnClose();
+    afx_msg LRESULT OnFindMessage(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
+    // Null while a page is shown as on paper.
+    class ComparisonView* View() const;
+    FindResult Find(const TextQuery& query, bool bDown) override;
+    void Say(const CString& strMessage) override;
+
+    FindDesk m_find{*this, *this};
     CStatusBar m_statusBar;
 };

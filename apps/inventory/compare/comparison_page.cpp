@@ -1,32 +1,14 @@
 #include "compare/comparison_page.h"
 
+#include "clipboard_text.h"
+#include "compare/comparison_view.h"
 #include "main_frame.h"
 #include "model/count_text.h"
 #include "resource.h"
 
-namespace {
-
-bool CopyText(CWnd& owner, const CString& strText) {
-    const int nWide = ::MultiByteToWideChar(CP_ACP, 0, strText, -1, nullptr, 0);
-    const HGLOBAL hText = ::GlobalAlloc(GMEM_MOVEABLE, static_cast<size_t>(nWide) * sizeof(WCHAR));
-    if (hText == nullptr || !owner.OpenClipboard()) {
-        ::GlobalFree(hText);
-        return false;
-    }
-    ::MultiByteToWideChar(CP_ACP, 0, strText, -1, static_cast<WCHAR*>(::GlobalLock(hText)), nWide);
-    ::GlobalUnlock(hText);
-    const bool bTaken = ::EmptyClipboard() && ::SetClipboardData(CF_UNICODETEXT, hText) != nullptr;
-    if (!bTaken) {
-        ::GlobalFree(hText);
-    }
-    ::CloseClipboard();
-    return bTaken;
-}
-
-}  // namespace
-
 BEGIN_MESSAGE_MAP(ComparisonPage, QVTabViewPage)
     ON_WM_SIZE()
+    ON_WM_SYSCOLORCHANGE()
     ON_WM_CONTEXTMENU()
 END_MESSAGE_MAP()
 
@@ -46,12 +28,17 @@ void ComparisonPage::UpdatePage(int, void*, int bActive) {
 
 int ComparisonPage::HandleCommand(unsigned nID, int bExecute) {
     const Package* const pPackage = nID == ID_COMPARE_GO ? ShownPackage() : nullptr;
-    if (nID == ID_EDIT_COPY ? !HasSelection() : pPackage == nullptr) {
-        return FALSE;
+    const bool bCan = nID == ID_EDIT_COPY         ? HasSelection()
+                      : nID == ID_EDIT_SELECT_ALL ? Rows() > 0
+                                                  : pPackage != nullptr;
+    if (!bCan || !bExecute) {
+        return bCan;
     }
-    if (bExecute && nID == ID_EDIT_COPY) {
+    if (nID == ID_EDIT_COPY) {
         CopyText(*this, SelectedText());
-    } else if (bExecute) {
+    } else if (nID == ID_EDIT_SELECT_ALL) {
+        SelectAll();
+    } else {
         static_cast<MainFrame*>(AfxGetMainWnd())->ShowPackage(pPackage->strName.c_str());
     }
     return TRUE;
@@ -70,8 +57,14 @@ void ComparisonPage::SetPageFocus() {
 // The accelerators of the page's own frame, not the main window's.
 BOOL ComparisonPage::PreTranslateMessage(MSG* pMsg) {
     CFrameWnd* const pFrame = GetParentFrame();
-    return (pFrame != nullptr && pFrame->PreTranslateMessage(pMsg)) ||
-           CDialog::PreTranslateMessage(pMsg);
+    if (pFrame != nullptr && pFrame->PreTranslateMessage(pMsg)) {
+        return TRUE;
+    }
+    if (pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_TAB && ::GetKeyState(VK_CONTROL) >= 0) {
+        static_cast<ComparisonView*>(GetTabView())->GoToTabs();  // the page has one control
+        return TRUE;
+    }
+    return CDialog::PreTranslateMessage(pMsg);
 }
 
 void ComparisonPage::OnSize(UINT nType, int cx, int cy) {
@@ -79,6 +72,11 @@ void ComparisonPage::OnSize(UINT nType, int cx, int cy) {
     if (Control().GetSafeHwnd() != nullptr) {
         LayOut(CSize(cx, cy));
     }
+}
+
+void ComparisonPage::OnSysColorChange() {
+    QVTabViewPage::OnSysColorChange();
+    UseColors();
 }
 
 void ComparisonPage::LayOut(CSize size) {

@@ -5,6 +5,7 @@
 
 #include "compare/comparison_document.h"
 #include "compare/comparison_paper.h"
+#include "pages/finding.h"
 
 class ComparisonPage : public QVTabViewPage {
 public:
@@ -23,11 +24,18 @@ public:
     virtual int Row() = 0;
     virtual void GoTo(int nRow) = 0;
     virtual CString Message() = 0;
+    // As a click on a heading; a second one turns the order.
+    virtual bool CanSort() { return false; }
+    virtual void SortBy(int /*nCol*/) {}
+    virtual FindResult Find(const TextQuery& query, bool bDown) {
+        return FindInControl(Control(), query, bDown);
+    }
     virtual std::unique_ptr<PaperTable> Table() = 0;
 
 protected:
     BOOL PreTranslateMessage(MSG* pMsg) override;
     afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnSysColorChange();
     afx_msg void OnContextMenu(CWnd* pWnd, CPoint pt);
     DECLARE_MESSAGE_MAP()
 
@@ -37,9 +45,12 @@ protected:
     // What is selected, a line each, TABs between the fields.
     virtual CString SelectedText() = 0;
     virtual bool HasSelection() = 0;
+    virtual void SelectAll() = 0;
     // In the row with the focus: null if it is no package that the application shows.
     virtual const Package* ShownPackage() = 0;
     virtual void LayOut(CSize size);
+    // What differs in the system's colours of the moment.
+    virtual void UseColors() {}
     // Of the row or cell with the focus, in the control; empty: there is none in view.
     virtual CRect FocusRect() = 0;
 };

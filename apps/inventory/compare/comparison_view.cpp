@@ -15,8 +15,10 @@ BEGIN_MESSAGE_MAP(ComparisonView, QVTabView)
     ON_COMMAND(ID_FILE_PRINT_DIRECT, &CView::OnFilePrint)
     ON_COMMAND(ID_FILE_PRINT_PREVIEW, &CView::OnFilePrintPreview)
     ON_COMMAND_EX(ID_EDIT_COPY, &ComparisonView::OnPageCommand)
+    ON_COMMAND_EX(ID_EDIT_SELECT_ALL, &ComparisonView::OnPageCommand)
     ON_COMMAND_EX(ID_COMPARE_GO, &ComparisonView::OnPageCommand)
     ON_UPDATE_COMMAND_UI(ID_EDIT_COPY, &ComparisonView::OnUpdateCommand)
+    ON_UPDATE_COMMAND_UI(ID_EDIT_SELECT_ALL, &ComparisonView::OnUpdateCommand)
     ON_UPDATE_COMMAND_UI(ID_COMPARE_GO, &ComparisonView::OnUpdateCommand)
     ON_COMMAND_RANGE(ID_COMPARE_PAGE_FIRST, ID_COMPARE_PAGE_LAST, &ComparisonView::OnPage)
     ON_UPDATE_COMMAND_UI_RANGE(ID_COMPARE_PAGE_FIRST, ID_COMPARE_PAGE_LAST,
@@ -24,6 +26,11 @@ BEGIN_MESSAGE_MAP(ComparisonView, QVTabView)
     ON_COMMAND_RANGE(ID_COMPARE_NEXT, ID_COMPARE_PREVIOUS, &ComparisonView::OnStep)
     ON_UPDATE_COMMAND_UI(ID_INDICATOR_MESSAGE, &ComparisonView::OnUpdateMessage)
     ON_COMMAND(ID_LIST_EXPORT, &ComparisonView::OnExport)
+    ON_COMMAND_RANGE(ID_NEXT_PANE, ID_PREV_PANE, &ComparisonView::OnPane)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_NEXT_PANE, ID_PREV_PANE, &ComparisonView::OnUpdatePane)
+    ON_COMMAND_RANGE(ID_COMPARE_SORT_FIRST, ID_COMPARE_SORT_LAST, &ComparisonView::OnSort)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_COMPARE_SORT_FIRST, ID_COMPARE_SORT_LAST,
+                               &ComparisonView::OnUpdateSort)
 END_MESSAGE_MAP()
 
 ComparisonView::ComparisonView() : QVTabView(IDC_COMPARE_TABS) {}
@@ -62,7 +69,7 @@ void ComparisonView::OnPage(UINT nID) {
     if (ComparisonPage* pPage = Page(nPage)) {
         SetActivePage(static_cast<short>(nPage));
         pPage->SetPageFocus();
-        m_strExported.Empty();
+        Say("");
     }
 }
 
@@ -98,10 +105,44 @@ void ComparisonView::OnStep(UINT nID) {
     pPage->GoTo(nRow);
 }
 
+void ComparisonView::OnSort(UINT nID) {
+    if (ComparisonPage* const pPage = Active()) {
+        pPage->SortBy(static_cast<int>(nID - ID_COMPARE_SORT_FIRST));
+    }
+}
+
+void ComparisonView::OnUpdateSort(CCmdUI* pCmdUI) {
+    pCmdUI->Enable(Active() != nullptr && Active()->CanSort());
+}
+
+void ComparisonView::OnUpdatePane(CCmdUI* pCmdUI) {
+    pCmdUI->Enable();  // a view has none by itself without a splitter around it
+}
+
+// There are two: the tabs, and the page beside them.
+void ComparisonView::OnPane(UINT) {
+    ComparisonPage* const pPage = Active();
+    if (pPage != nullptr && ::GetFocus() == m_TabCtrl.m_hWnd) {
+        pPage->SetPageFocus();
+    } else {
+        GoToTabs();
+    }
+}
+
+BOOL ComparisonView::PreTranslateMessage(MSG* pMsg) {
+    const bool bInTabs = pMsg->message == WM_KEYDOWN && pMsg->hwnd == m_TabCtrl.m_hWnd;
+    if (bInTabs && pMsg->wParam == VK_ESCAPE && Active() != nullptr) {
+        Active()->SetPageFocus();
+        return TRUE;
+    }
+    return QVTabView::PreTranslateMessage(pMsg);
+}
+
 void ComparisonView::OnUpdateMessage(CCmdUI* pCmdUI) {
     pCmdUI->Enable();
     if (ComparisonPage* pPage = Active()) {
-        pCmdUI->SetText(m_strExported.IsEmpty() ? pPage->Message() : m_strExported);
+        pCmdUI->SetText(m_strSaid.IsEmpty() || m_nSaid != GetActivePage() ? pPage->Message()
+                                                                          : m_strSaid);
     }
 }
 
@@ -112,9 +153,9 @@ void ComparisonView::OnExport() {
         return;
     }
     m_exporter.UseSettings(static_cast<MainFrame*>(AfxGetMainWnd())->Settings().Values());
-    m_strExported = m_exporter.Run(*this, "comparison.csv", [&](TableWriter& writer, Work& work) {
+    Say(m_exporter.Run(*this, "comparison.csv", [&](TableWriter& writer, Work& work) {
         WritePaper(*pPage->Table(), writer, work);
-    });
+    }));
 }
 
 // --- Paper

@@ -4,6 +4,7 @@
 
 #include "QVControls.h"
 #include "model/comparison.h"
+#include "row_colors.h"
 
 enum DifferenceStyle {
     kPlainStyle,
@@ -15,19 +16,23 @@ enum DifferenceStyle {
 };
 constexpr int kDifferenceStyles = kOtherStyle + 1;
 
-struct DifferenceColors {
-    COLORREF crText;
-    COLORREF crBack;
-};
-inline constexpr DifferenceColors kDifferenceColors[kDifferenceStyles] = {
+inline constexpr QVSTYLE kDifferenceColors[kDifferenceStyles] = {
     {RGB(0, 0, 0), RGB(255, 255, 255)},    {RGB(0, 96, 0), RGB(224, 246, 224)},
     {RGB(160, 0, 0), RGB(255, 228, 224)},  {RGB(144, 72, 0), RGB(255, 255, 255)},
     {RGB(0, 64, 144), RGB(255, 255, 255)}, {RGB(96, 0, 128), RGB(255, 255, 255)}};
 
-// Behind the default style, which is entry 0 of any table.
+// Behind the default style, which is entry 0 of any table: for paper.
 inline void AddDifferenceStyles(QVStyleTable& table) {
     for (int nStyle = kBetterStyle; nStyle < kDifferenceStyles; ++nStyle) {
-        table.AddStyle(kDifferenceColors[nStyle].crText, kDifferenceColors[nStyle].crBack);
+        table.AddStyle(kDifferenceColors[nStyle].crText, kDifferenceColors[nStyle].crBk);
+    }
+}
+
+// The same for a screen, also once more when the system's colours have changed.
+inline void ShowDifferenceStyles(QVStyleTable& table) {
+    for (int nStyle = kBetterStyle; nStyle < kDifferenceStyles; ++nStyle) {
+        int nThere = nStyle < table.NumStyles() ? nStyle : 0;
+        ShowStyle(table, nThere, kDifferenceColors[nStyle]);
     }
 }
 

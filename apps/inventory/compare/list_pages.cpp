@@ -39,6 +39,7 @@ SummaryPage::SummaryPage() : ComparisonPage(IDD_COMPARE_LIST) {}
 BOOL SummaryPage::OnInitDialog() {
     ComparisonPage::OnInitDialog();
     m_list.Initialize(IDC_COMPARE_LIST, this);
+    m_list.EnableExpectedKeys();
     return FALSE;
 }
 
@@ -122,7 +123,9 @@ DifferencePage::DifferencePage(const char* pszWhat, int nStyle)
 BOOL DifferencePage::OnInitDialog() {
     ComparisonPage::OnInitDialog();
     m_list.Initialize(IDC_COMPARE_LIST, this);
-    AddDifferenceStyles(m_list);
+    m_list.EnableExpectedKeys();
+    UseColors();
+    m_list.ShowSortArrow();
     for (const PaperColumn& column : kPackageColumns) {
         m_list.AddHeader(column.pszHeading, column.bRight ? lcdtNumber : lcdtString);
         if (column.bRight) {
@@ -131,6 +134,10 @@ BOOL DifferencePage::OnInitDialog() {
         }
     }
     return FALSE;
+}
+
+void DifferencePage::UseColors() {
+    ShowDifferenceStyles(m_list);
 }
 
 // The last column takes what the others leave.
@@ -234,6 +241,16 @@ const Package* DifferencePage::ShownPackage() {
     const int nItem = Row();
     const DWORD_PTR nDifference = nItem >= 0 ? m_list.GetItemData(nItem) : Differences().size();
     return nDifference < Differences().size() ? Differences()[nDifference].pAfter : nullptr;
+}
+
+void DifferencePage::SortBy(int nCol) {
+    NMLISTVIEW click{};
+    click.hdr.hwndFrom = m_list.m_hWnd;
+    click.hdr.idFrom = IDC_COMPARE_LIST;
+    click.hdr.code = LVN_COLUMNCLICK;
+    click.iItem = -1;
+    click.iSubItem = nCol;
+    SendMessage(WM_NOTIFY, click.hdr.idFrom, reinterpret_cast<LPARAM>(&click));
 }
 
 // In the order that the list has.

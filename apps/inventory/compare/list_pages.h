@@ -3,6 +3,7 @@
 #pragma once
 
 #include "compare/comparison_page.h"
+#include "pages/cut_tips.h"
 
 class SummaryPage : public ComparisonPage {
     DECLARE_DYNCREATE(SummaryPage)
@@ -22,11 +23,12 @@ protected:
     void Clear() override { m_list.DeleteAllItems(); }
     CString SelectedText() override;
     bool HasSelection() override { return m_list.GetSelectedCount() > 0; }
+    void SelectAll() override { m_list.SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED); }
     const Package* ShownPackage() override { return nullptr; }
     CRect FocusRect() override;
 
 private:
-    QVListCtrlEx m_list;
+    CutTipList<QVListCtrlEx> m_list;
 };
 
 // Packages that only one of the two has.
@@ -37,6 +39,8 @@ public:
     int Row() override;
     void GoTo(int nRow) override;
     CString Message() override;
+    bool CanSort() override { return m_list.GetItemCount() > 0; }
+    void SortBy(int nCol) override;
     std::unique_ptr<PaperTable> Table() override;
 
 protected:
@@ -47,8 +51,10 @@ protected:
     void Clear() override;
     CString SelectedText() override;
     bool HasSelection() override { return m_list.GetSelectedCount() > 0; }
+    void SelectAll() override { m_list.SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED); }
     const Package* ShownPackage() override;
     void LayOut(CSize size) override;
+    void UseColors() override;
     CRect FocusRect() override;
 
 private:
@@ -57,8 +63,8 @@ private:
 
     const char* m_pszWhat;
     const int m_nStyle;
-    QVSortingListCtrl m_list;  // item data: the number of the difference
-    CString m_strFront;        // keys of rows, while the list is filled anew
+    CutTipList<QVSortingListCtrl> m_list;  // item data: the number of the difference
+    CString m_strFront;                    // keys of rows, while the list is filled anew
     CString m_strTop;
 };
 

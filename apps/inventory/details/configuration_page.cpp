@@ -1,16 +1,22 @@
 #include "details/configuration_page.h"
 
 #include "model/stanza.h"
+#include "row_colors.h"
 #include "sources/code_page.h"
 #include "sources/md5.h"
 
 BOOL ConfigurationPage::OnInitDialog() {
     DetailsPage::OnInitDialog();
     m_list.Initialize(IDC_DETAILS_LIST, this);
-    m_nChanged = m_list.AddStyle(RGB(176, 0, 0), RGB(255, 232, 224));
-    m_nDetail = m_list.AddStyle(RGB(96, 96, 96), ::GetSysColor(COLOR_WINDOW));
+    m_list.EnableExpectedKeys();
+    UseColors();
     m_list.AddHeader("File\tState\tChecksum as it came");
     return FALSE;
+}
+
+void ConfigurationPage::UseColors() {
+    ShowStyle(m_list, m_nChanged, kTroubleColors);
+    ShowStyle(m_list, m_nDetail, kDetailColors);
 }
 
 CString ConfigurationPage::Read() {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "details/details_page.h"
+#include "pages/cut_tips.h"
 
 class ConfigurationPage : public DetailsPage {
 public:
@@ -14,11 +15,12 @@ protected:
     BOOL OnInitDialog() override;
     CString Read() override;
     void Print(CDC& dc, QVPrintEngine& engine) override;
+    void UseColors() override;
 
 private:
     void Add(const struct ConfigurationFile& file);
 
-    QVListCtrlEx m_list;
+    CutTipList<QVListCtrlEx> m_list;
     int m_nChanged = 0;  // styles
     int m_nDetail = 0;
 };

@@ -1,6 +1,7 @@
 #include "details/dependencies_page.h"
 
 #include "model/dependencies.h"
+#include "row_colors.h"
 
 namespace {
 
@@ -15,13 +16,19 @@ END_MESSAGE_MAP()
 BOOL DependenciesPage::OnInitDialog() {
     DetailsPage::OnInitDialog();
     m_list.Initialize(IDC_DETAILS_LIST, this);
-    m_nMissing = m_list.AddStyle(RGB(176, 0, 0), RGB(255, 232, 224));
-    m_nDetail = m_list.AddStyle(RGB(96, 96, 96), ::GetSysColor(COLOR_WINDOW));
+    m_list.EnableExpectedKeys();
+    UseColors();
+    m_list.ShowSortArrow();
     m_list.AddHeader("Relation\tPackage\tState\tAsked for", lcdtString);
     m_list.SetupColumnsFromString(
         "is needed by~~\ta-package-with-a-long-name-and\tconfig-files~~\t"
         "a-package-with-a-long-name (>= 1:14.0.6-12+deb12u1)");
     return FALSE;
+}
+
+void DependenciesPage::UseColors() {
+    ShowStyle(m_list, m_nMissing, kTroubleColors);
+    ShowStyle(m_list, m_nDetail, kDetailColors);
 }
 
 CString DependenciesPage::Read() {

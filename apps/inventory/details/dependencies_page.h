@@ -3,6 +3,7 @@
 #pragma once
 
 #include "details/details_page.h"
+#include "pages/cut_tips.h"
 
 class DependenciesPage : public DetailsPage {
 public:
@@ -15,13 +16,14 @@ protected:
     BOOL OnInitDialog() override;
     CString Read() override;
     void Print(CDC& dc, QVPrintEngine& engine) override;
+    void UseColors() override;
     afx_msg void OnDoubleClick(NMHDR* pNMHDR, LRESULT* pResult);
     DECLARE_MESSAGE_MAP()
 
 private:
     void Add(const char* pszRelation, const struct Relation& relation);
 
-    QVSortingListCtrl m_list;
+    CutTipList<QVSortingListCtrl> m_list;
     int m_nMissing = 0;  // styles
     int m_nDetail = 0;
 };

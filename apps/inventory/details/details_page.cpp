@@ -44,6 +44,7 @@ void GoTo(CWnd& control, const Place& place) {
 
 BEGIN_MESSAGE_MAP(DetailsPage, QVTabWndPage)
     ON_WM_SIZE()
+    ON_WM_SYSCOLORCHANGE()
 END_MESSAGE_MAP()
 
 // The packages page moves the focus, out of here as well, and asks for accelerators.
@@ -94,6 +95,11 @@ void DetailsPage::OnSize(UINT nType, int cx, int cy) {
         LayOut(CRect(0, 0, cx, cy));
         Invalidate();  // a list that moves leaves what it uncovers as it was
     }
+}
+
+void DetailsPage::OnSysColorChange() {
+    QVTabWndPage::OnSysColorChange();
+    UseColors();
 }
 
 void DetailsPage::LayOut(const CRect& rc) {

@@ -46,11 +46,14 @@ protected:
     // Puts the controls into the page. Here: one, everywhere.
     virtual void LayOut(const CRect& rc);
     virtual void ShowContent(bool bShow);
+    // Styles in the system's colours of the moment.
+    virtual void UseColors() {}
 
     const DetailsSource& m_source;
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
     afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnSysColorChange();
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -12,10 +12,12 @@ constexpr size_t kLongestBesideLabel = 70;  // bytes; longer ones are wrapped on
 BOOL FactsPage::OnInitDialog() {
     DetailsPage::OnInitDialog();
     m_list.Initialize(IDC_DETAILS_LIST, this);
+    m_list.EnableExpectedKeys();
     m_list.AddHeader("Fact\tValue");
     m_list.SetupColumnsFromString("Installed-Size~~\t");
     m_text.Initialize(IDC_DETAILS_TEXT, this, TRUE);
     m_text.SetExactLayout(TRUE);
+    m_text.EnableExpectedKeys();
     m_text.ModifyStyle(0, WS_TABSTOP);
     return FALSE;
 }

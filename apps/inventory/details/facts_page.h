@@ -3,6 +3,7 @@
 #pragma once
 
 #include "details/details_page.h"
+#include "pages/cut_tips.h"
 
 class FactsPage : public DetailsPage {
 public:
@@ -17,6 +18,6 @@ protected:
     void ShowContent(bool bShow) override;
 
 private:
-    QVListCtrlEx m_list;
+    CutTipList<QVListCtrlEx> m_list;
     QVTextWnd m_text;
 };

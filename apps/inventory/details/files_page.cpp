@@ -21,6 +21,7 @@ END_MESSAGE_MAP()
 BOOL FilesPage::OnInitDialog() {
     DetailsPage::OnInitDialog();
     m_list.Initialize(IDC_DETAILS_LIST, this);
+    m_list.EnableExpectedKeys();
     m_list.AddHeader("File\tSize");
     m_list.SetColFormat(kColumnSize, LVCFMT_RIGHT);
     m_list.SetHdrFormat(kColumnSize, LVCFMT_RIGHT);

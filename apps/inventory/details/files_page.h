@@ -4,6 +4,7 @@
 #pragma once
 
 #include "details/details_page.h"
+#include "pages/cut_tips.h"
 
 #include <map>
 #include <vector>
@@ -24,7 +25,7 @@ private:
     // On the machine that the database is of; empty where that is not known.
     CString SizeOf(const std::string& strFile) const;
 
-    QVListCtrlEx m_list;
+    CutTipList<QVListCtrlEx> m_list;
     std::vector<std::string> m_files;
     std::map<size_t, CString> m_sizes;  // of those that were seen
 };

@@ -3,6 +3,7 @@
 #include "errors.h"
 #include "model/file_text.h"
 #include "model/stanza.h"
+#include "row_colors.h"
 
 namespace {
 
@@ -31,14 +32,18 @@ CString ShownLine(std::string_view line) {
 
 BOOL ScriptsPage::OnInitDialog() {
     DetailsPage::OnInitDialog();
-    const COLORREF crWindow = ::GetSysColor(COLOR_WINDOW);
     m_text.Initialize(IDC_DETAILS_TEXT, this, TRUE);
     m_text.SetExactLayout(TRUE);
+    m_text.EnableExpectedKeys();
     m_text.ModifyStyle(0, WS_TABSTOP);
-    m_nHeading = m_text.AddStyle(RGB(255, 255, 255), RGB(64, 96, 160));
-    m_nComment = m_text.AddStyle(RGB(0, 112, 0), crWindow);
-    m_nTrouble = m_text.AddStyle(RGB(176, 0, 0), RGB(255, 232, 224));
+    UseColors();
     return FALSE;
+}
+
+void ScriptsPage::UseColors() {
+    ShowStyle(m_text, m_nHeading, {RGB(255, 255, 255), RGB(64, 96, 160)});
+    ShowStyle(m_text, m_nComment, {RGB(0, 112, 0), kWindowBack});
+    ShowStyle(m_text, m_nTrouble, kTroubleColors);
 }
 
 template <class Take>

@@ -13,6 +13,7 @@ protected:
     BOOL OnInitDialog() override;
     CString Read() override;
     void Print(CDC& dc, QVPrintEngine& engine) override;
+    void UseColors() override;
 
 private:
     // Tells of each script that there is, as a heading and a text, or why that cannot be read.

@@ -7,6 +7,11 @@
 
 namespace {
 
+// In dialog units.
+constexpr int kMargin = 4;
+constexpr int kGap = 6;  // between groups that moved
+constexpr int kRowUnits = 18;
+
 bool NameBefore(const std::string& str1, const std::string& str2) {
     const auto bytes = [](const std::string& str) {
         return reinterpret_cast<const unsigned char*>(str.c_str());
@@ -46,6 +51,13 @@ CString MenuText(const std::string& strName) {
     strText.Replace("&", "&&");
     strText.Replace('\t', ' ');
     return strText;
+}
+
+// A command's string says what it does, and behind a line feed what it is called.
+static CString TipOf(UINT nCommand) {
+    CString strHelp;
+    strHelp.LoadString(nCommand);
+    return strHelp.Mid(strHelp.Find('\n') + 1);
 }
 
 // --- The button
@@ -88,9 +100,12 @@ END_MESSAGE_MAP()
 
 BOOL PackageBar::OnInitDialog() {
     CDialog::OnInitDialog();
+    FindGroups();
     m_section.Initialize(IDC_FILTER_SECTION, IDB_PACKAGES, kStripMask, kStripImageWidth, this);
     m_architecture.Initialize(IDC_FILTER_ARCHITECTURE, IDB_PACKAGES, kStripMask, kStripImageWidth,
                               this);
+    m_section.EnableExpectedKeys();
+    m_architecture.EnableExpectedKeys();
     m_since.SubclassDlgItem(IDC_FILTER_SINCE, this);
     m_jump.SubclassDlgItem(IDC_JUMP, this);
     m_jump.SetSpeedData(&m_names);
@@ -100,6 +115,54 @@ BOOL PackageBar::OnInitDialog() {
     SetUpTools();
     ShowSince();
     return FALSE;
+}
+
+void PackageBar::FindGroups() {
+    CRect rcUnits(kMargin, kRowUnits, kGap, 0);
+    MapDialogRect(&rcUnits);
+    m_nRowHeight = rcUnits.top;
+    CRect rcBar;
+    GetClientRect(&rcBar);
+    m_nBelow = rcBar.Height() - 2 * m_nRowHeight;
+    for (CWnd* pWnd = GetWindow(GW_CHILD); pWnd != nullptr; pWnd = pWnd->GetNextWindow()) {
+        CRect rc;
+        pWnd->GetWindowRect(&rc);
+        ScreenToClient(&rc);
+        const int nID = pWnd->GetDlgCtrlID();
+        const bool bLabel = (pWnd->GetStyle() & WS_GROUP) != 0;
+        if (m_groups.empty() || bLabel || nID == ID_RELOAD) {
+            m_groups.push_back({rc, {}});
+        }
+        Group& group = m_groups.back();
+        group.rc |= rc;
+        group.controls.emplace_back(pWnd->m_hWnd, rc.TopLeft());
+    }
+    for (Group& group : m_groups) {
+        for (auto& control : group.controls) {
+            control.second -= group.rc.TopLeft();
+        }
+    }
+}
+
+int PackageBar::LayOut(int cx) {
+    CRect rcUnits(kMargin, 0, kGap, 0);
+    MapDialogRect(&rcUnits);
+    std::vector<FlowGroup> places;
+    for (const Group& group : m_groups) {
+        places.push_back(
+            {group.rc.left, group.rc.top / std::max(m_nRowHeight, 1), group.rc.Width()});
+    }
+    const int nRows = FlowGroups(places, cx, rcUnits.left, rcUnits.right);
+    for (size_t i = 0; i < m_groups.size(); ++i) {
+        const Group& group = m_groups[i];
+        const int nTop = group.rc.top % std::max(m_nRowHeight, 1) + places[i].nRow * m_nRowHeight;
+        for (const auto& [hWnd, pt] : group.controls) {
+            ::SetWindowPos(hWnd, nullptr, places[i].nLeft + pt.x, nTop + pt.y, 0, 0,
+                           SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+        }
+    }
+    Invalidate();
+    return nRows * m_nRowHeight + m_nBelow;
 }
 
 void PackageBar::SetUpTools() {
@@ -114,7 +177,7 @@ void PackageBar::SetUpTools() {
           Tool{m_imageColumn, ID_LIST_IMAGE_COLUMN, 3}}) {
         tool.button.SubclassDlgItem(tool.nID, this);
         tool.button.SetImageID(&m_images, tool.nImage);
-        tool.button.EnableToolTip(0u);
+        tool.button.EnableToolTip(TipOf(tool.nID));
     }
     m_report.SubclassDlgItem(IDC_REPORT_MENU, this);
     m_report.OfferCommands();

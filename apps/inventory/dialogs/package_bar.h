@@ -4,6 +4,7 @@
 #pragma once
 
 #include "QVControls.h"
+#include "model/flow_layout.h"
 #include "model/package_filter.h"
 #include "package_strip.h"
 #include "resource.h"
@@ -44,6 +45,9 @@ public:
     explicit PackageBar(PackageBarOwner& owner) : m_owner(owner) {}
     BOOL Create(CWnd* pParent) { return CDialog::Create(IDD_PACKAGE_BAR, pParent); }
 
+    // Puts the controls into a bar of that width, in more rows where it is narrow. The height that
+    // they take.
+    int LayOut(int cx);
     // What can be chosen. The filter stays as far as it still can.
     void SetInventory(const Inventory& inventory);
     // Tells nobody.
@@ -69,11 +73,21 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    void FindGroups();
     void SetUpTools();
     void ShowSince();
     void TakeFilter();
 
+    // A label and what belongs to it, as the template has them.
+    struct Group {
+        CRect rc;
+        std::vector<std::pair<HWND, CPoint>> controls;  // and where each lies in it
+    };
+
     PackageBarOwner& m_owner;
+    std::vector<Group> m_groups;
+    int m_nRowHeight = 0;  // pixels from row to row
+    int m_nBelow = 0;      // and below the last one
     PackageFilter m_filter;
     CImageList m_images;
     CStringArray m_names;  // of all packages, in order

@@ -27,6 +27,7 @@ void OfferColors(QVColorComboBox& combo, CWnd& dialog, UINT nID, int nColor) {
     }
     constexpr int kCount = static_cast<int>(std::size(kTextColors));
     combo.Initialize(nID, aColors, kCount, &dialog);
+    combo.EnableExpectedKeys();
     for (int i = 0; i < kCount; ++i) {
         combo.InsertColorString(i, i, kTextColors[i].pszName);
     }
@@ -39,6 +40,7 @@ int ChosenColor(QVColorComboBox& combo) {
 
 void OfferPackages(QVBitmapComboBox& combo, CWnd& dialog, UINT nID, int nChosen) {
     combo.Initialize(nID, IDB_PACKAGES, kStripMask, kStripImageWidth, &dialog);
+    combo.EnableExpectedKeys();
     Settings settings;
     const std::vector<std::string>& choices = settings.All()[kSettingPackages].choices;
     for (size_t i = 0; i < choices.size(); ++i) {

@@ -132,6 +132,7 @@ void WhatStep::OfferArchitectures() {
     }
     m_architecture.Initialize(IDC_WHAT_ARCHITECTURE, IDB_PACKAGES, kStripMask, kStripImageWidth,
                               this);
+    m_architecture.EnableExpectedKeys();
     m_architecture.AddBitmapString(kPlainPackage, "all");
     m_architecture.SetCurSel(0);
     for (const std::string& strName : names) {
@@ -146,6 +147,7 @@ void WhatStep::OfferSections() {
     const std::vector<std::string>& chosen = Edited().sections;
     std::set<std::string> missing(chosen.begin(), chosen.end());
     m_sections.Initialize(IDC_WHAT_SECTIONS, IDB_PACKAGES, kStripMask, kStripImageWidth, this);
+    m_sections.EnableExpectedKeys();
     const auto add = [&](PackageImage image, const std::string& strName) {
         const int nRow = m_sections.AddBitmapString(image, strName.c_str());
         if (std::find(chosen.begin(), chosen.end(), strName) != chosen.end()) {
@@ -219,6 +221,8 @@ ColumnsStep::ColumnsStep(ReportStepOwner& wizard)
 void ColumnsStep::Offer() {
     m_offered.Initialize(IDC_COLUMNS_OFFERED, 0, 0, 0, this);
     m_chosen.Initialize(IDC_COLUMNS_CHOSEN, 0, 0, 0, this);
+    m_offered.EnableExpectedKeys();
+    m_chosen.EnableExpectedKeys();
     m_columns = Edited().columns;
     Fill(0, 0);
 }

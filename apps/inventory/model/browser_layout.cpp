@@ -5,7 +5,7 @@
 
 namespace {
 
-enum LayoutIndex { kLayoutTree, kLayoutList, kLayoutDetails };
+enum LayoutIndex { kLayoutTree, kLayoutList, kLayoutDetails, kLayoutTreeColumns };
 
 constexpr int kLeastPercent = 5;
 
@@ -27,16 +27,19 @@ LayoutValues::LayoutValues()
                     "Details shown",
                     SettingKind::Choice,
                     kDetailsNames[0],
-                    {std::begin(kDetailsNames), std::end(kDetailsNames)}}}) {}
+                    {std::begin(kDetailsNames), std::end(kDetailsNames)}},
+                   {"tree.columns", "Widths of the tree's columns", SettingKind::Text, "", {}}}) {}
 
 LayoutValues::LayoutValues(const BrowserLayout& layout) : LayoutValues() {
     Set(kLayoutTree, std::to_string(layout.nTreePercent));
     Set(kLayoutList, std::to_string(layout.nListPercent));
     Set(kLayoutDetails, kDetailsNames[layout.nDetails]);
+    Set(kLayoutTreeColumns, TreeWidthsText(layout.treeWidths));
 }
 
 BrowserLayout LayoutValues::Layout() const {
     const BrowserLayout first;
     return {Percent(Value(kLayoutTree), first.nTreePercent),
-            Percent(Value(kLayoutList), first.nListPercent), Choice(kLayoutDetails)};
+            Percent(Value(kLayoutList), first.nListPercent), Choice(kLayoutDetails),
+            TreeWidthsOf(Value(kLayoutTreeColumns))};
 }

@@ -3,11 +3,13 @@
 #pragma once
 
 #include "model/settings.h"
+#include "model/tree_columns.h"
 
 struct BrowserLayout {
     int nTreePercent = 32;  // of the width
     int nListPercent = 52;  // of the height beside the tree
     int nDetails = 0;       // the tab in front
+    TreeWidths treeWidths = kFirstTreeWidths;
 };
 
 // The tabs as they stand in the file, in their order.

@@ -126,4 +126,6 @@ Settings::Settings()
             "A report of that name",
             SettingKind::Choice,
             "ask",
-            {"ask", "replace it"}}}) {}
+            {"ask", "replace it"}},
+           {"view.toolbar", "Toolbar", SettingKind::Choice, "shown", {"shown", "hidden"}},
+           {"view.statusbar", "Status bar", SettingKind::Choice, "shown", {"shown", "hidden"}}}) {}

@@ -64,7 +64,9 @@ enum SettingIndex {
     kSettingStartPage,    // its title; empty: the first one
     kSettingStartReport,  // its name; empty: the standard one
     kSettingStartFilter,
-    kSettingReplace  // 0: a report takes the place of another only if the user says so
+    kSettingReplace,  // 0: a report takes the place of another only if the user says so
+    kSettingToolBar,  // 0: shown
+    kSettingStatusBar
 };
 
 class Settings : public KeyedValues {

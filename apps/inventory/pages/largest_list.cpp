@@ -1,6 +1,7 @@
 #include "pages/largest_list.h"
 
 #include "package_strip.h"
+#include "row_colors.h"
 
 #include <algorithm>
 
@@ -13,9 +14,23 @@ constexpr int kSizeTab = 0;  // the stop of the second column
 
 }  // namespace
 
+BEGIN_MESSAGE_MAP(LargestList, QVBitmapListBox)
+    ON_WM_SYSCOLORCHANGE()
+END_MESSAGE_MAP()
+
+void LargestList::OnSysColorChange() {
+    QVBitmapListBox::OnSysColorChange();
+    UseColors();
+}
+
+void LargestList::UseColors() {
+    ShowStyle(*this, m_nTrouble, kTroubleColors);
+    ShowStyle(*this, m_nRequired, kRequiredColors);
+}
+
 void LargestList::SetUp() {
-    m_nTrouble = AddStyle(RGB(176, 0, 0), RGB(255, 232, 224));
-    m_nRequired = AddStyle(RGB(0, 0, 144), static_cast<COLORREF>(-1));
+    EnableExpectedKeys();
+    UseColors();
     AddHeader("Package");
     AddHeader("Size");
     AddHeader("Installed");
@@ -131,12 +146,14 @@ int LargestList::CalcTabs(CDC* pDC, int* pTabs) {
 // The first column turns between name and state.
 void LargestList::SortOnHeader(int nColumn) {
     if (nColumn == 0) {
-        m_order = m_order == Order::Name ? Order::State : Order::Name;
+        SortBy(m_order == Order::Name ? Order::State : Order::Name);
     } else if (nColumn == 1) {
-        m_order = Order::Size;
-    } else {
-        return;
+        SortBy(Order::Size);
     }
+}
+
+void LargestList::SortBy(Order order) {
+    m_order = order;
     Fill();
     SetTopIndex(0);
 }

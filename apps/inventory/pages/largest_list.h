@@ -20,12 +20,16 @@ public:
     void Show(const Inventory& inventory);
     const Package* PackageOf(int nRow);
     Order SortOrder() const { return m_order; }
+    void SortBy(Order order);
 
 protected:
     int CalcTabs(CDC* pDC, int* pTabs) override;
     void SortOnHeader(int nColumn) override;
+    afx_msg void OnSysColorChange();
+    DECLARE_MESSAGE_MAP()
 
 private:
+    void UseColors();
     void Fill();
     void Insert(const Package& package);
     CString Row(const Package& package) const;

@@ -62,6 +62,8 @@ BEGIN_MESSAGE_MAP(LargestPage, Page)
     ON_LBN_SELCHANGE(IDC_LARGEST, &LargestPage::OnSelected)
     ON_COMMAND(ID_LIST_EXPORT, &LargestPage::OnExport)
     ON_COMMAND(ID_LARGEST_PRINT, &LargestPage::OnPrint)
+    ON_COMMAND_RANGE(ID_LARGEST_BY_SIZE, ID_LARGEST_BY_STATE, &LargestPage::OnOrder)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_LARGEST_BY_SIZE, ID_LARGEST_BY_STATE, &LargestPage::OnUpdateOrder)
 END_MESSAGE_MAP()
 
 int LargestPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
@@ -101,6 +103,16 @@ CString LargestPage::MarkedText() {
     CString strText;
     strText.Format("%d of the largest selected", m_list.GetSelCount());
     return strText;
+}
+
+// The commands in the order of Order.
+void LargestPage::OnOrder(UINT nID) {
+    m_list.SortBy(static_cast<LargestList::Order>(nID - ID_LARGEST_BY_SIZE));
+}
+
+void LargestPage::OnUpdateOrder(CCmdUI* pCmdUI) {
+    pCmdUI->SetRadio(static_cast<LargestList::Order>(pCmdUI->m_nID - ID_LARGEST_BY_SIZE) ==
+                     m_list.SortOrder());
 }
 
 void LargestPage::OnExport() {

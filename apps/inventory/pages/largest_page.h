@@ -11,6 +11,9 @@ public:
     LPCSTR Title() const override { return "Largest"; }
     void SetInventory(const Inventory& inventory) override { m_list.Show(inventory); }
     CWnd& Control() override { return m_list; }
+    ContextMenu MenuOf(CWnd& control) override {
+        return &control == &m_list ? ContextMenu::Largest : ContextMenu::None;
+    }
     CString MarkedText() override;
 
     LargestList& List() { return m_list; }
@@ -27,6 +30,8 @@ protected:
     afx_msg void OnSelected();
     afx_msg void OnExport();
     afx_msg void OnPrint();
+    afx_msg void OnOrder(UINT nID);
+    afx_msg void OnUpdateOrder(CCmdUI* pCmdUI);
     DECLARE_MESSAGE_MAP()
 
 private:

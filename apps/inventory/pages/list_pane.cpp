@@ -5,6 +5,8 @@
 
 BEGIN_MESSAGE_MAP(ListPane, QVListHeaderWnd)
     ON_COMMAND_RANGE(ID_LIST_IMAGE_COLUMN, ID_LIST_PRINT_SUMMARY, &ListPane::OnFlag)
+    ON_COMMAND_RANGE(ID_LIST_SORT_FIRST, ID_LIST_SORT_LAST, &ListPane::OnSort)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_LIST_SORT_FIRST, ID_LIST_SORT_LAST, &ListPane::OnUpdateSort)
     ON_UPDATE_COMMAND_UI_RANGE(ID_LIST_IMAGE_COLUMN, ID_LIST_PRINT_SUMMARY, &ListPane::OnUpdateFlag)
 END_MESSAGE_MAP()
 
@@ -71,4 +73,12 @@ void ListPane::OnUpdateFlag(CCmdUI* pCmdUI) {
     pCmdUI->SetCheck(bSet);
     // What was left off paper stays off.
     pCmdUI->Enable(pCmdUI->m_nID != ID_LIST_PRINT_SUMMARY || !bSet);
+}
+
+void ListPane::OnSort(UINT nID) {
+    List().SortByField(static_cast<int>(nID - ID_LIST_SORT_FIRST));
+}
+
+void ListPane::OnUpdateSort(CCmdUI* pCmdUI) {
+    pCmdUI->SetRadio(List().IsSortedByField(static_cast<int>(pCmdUI->m_nID - ID_LIST_SORT_FIRST)));
 }

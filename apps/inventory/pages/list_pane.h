@@ -15,6 +15,8 @@ public:
 protected:
     afx_msg void OnFlag(UINT nID);
     afx_msg void OnUpdateFlag(CCmdUI* pCmdUI);
+    afx_msg void OnSort(UINT nID);
+    afx_msg void OnUpdateSort(CCmdUI* pCmdUI);
     DECLARE_MESSAGE_MAP()
 
 private:

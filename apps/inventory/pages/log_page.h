@@ -13,6 +13,13 @@ public:
     void SetInventory(const Inventory& inventory) override;
     FindResult Find(const TextQuery& query, bool bDown) override;
     CWnd& Control() override { return m_left.GetTextWnd(); }
+    std::vector<CWnd*> Panes() override {
+        return {&m_btnOpen, &m_left.GetTextWnd(), &m_right.GetTextWnd()};
+    }
+    ContextMenu MenuOf(CWnd& control) override {
+        const bool bText = &control == &m_left.GetTextWnd() || &control == &m_right.GetTextWnd();
+        return bText ? ContextMenu::Log : ContextMenu::None;
+    }
     CString MarkedText() override;
     void OnShown() override;
 

@@ -1,6 +1,12 @@
 #include "pages/log_view.h"
 
+#include "row_colors.h"
+
 #include <algorithm>
+
+BEGIN_MESSAGE_MAP(LogView, QVTextHeaderWnd)
+    ON_WM_SYSCOLORCHANGE()
+END_MESSAGE_MAP()
 
 Failure LogView::Open(const CString& strPath) {
     m_strPath = strPath;
@@ -8,9 +14,8 @@ Failure LogView::Open(const CString& strPath) {
     QVTextWnd& text = GetTextWnd();
     if (m_nRemoval == -1) {
         text.SetExactLayout(TRUE);
-        const COLORREF crWindow = ::GetSysColor(COLOR_WINDOW);
-        m_nRemoval = text.AddStyle(RGB(0, 0, 160), crWindow);
-        m_nTrouble = text.AddStyle(RGB(176, 0, 0), RGB(255, 232, 224));
+        text.EnableExpectedKeys();
+        UseColors();
     }
     const CWaitCursor wait;
     text.ClearTextData();
@@ -19,6 +24,18 @@ Failure LogView::Open(const CString& strPath) {
     text.CalcLayout();
     SetHeaderText(pReason == nullptr ? strPath : strPath + " - cannot be read");
     return pReason != nullptr ? Failed(kErrorOpenLog, std::move(pReason)) : nullptr;
+}
+
+void LogView::UseColors() {
+    ShowStyle(GetTextWnd(), m_nRemoval, {RGB(0, 0, 160), kWindowBack});
+    ShowStyle(GetTextWnd(), m_nTrouble, kTroubleColors);
+}
+
+void LogView::OnSysColorChange() {
+    QVTextHeaderWnd::OnSysColorChange();
+    if (m_nRemoval != -1) {
+        UseColors();
+    }
 }
 
 int LogView::StyleOf(const CString& strLine) const {

@@ -18,7 +18,12 @@ public:
     void ShowEnd();
     bool AtEnd();
 
+protected:
+    afx_msg void OnSysColorChange();
+    DECLARE_MESSAGE_MAP()
+
 private:
+    void UseColors();
     int StyleOf(const CString& strLine) const;
     // Adds whole lines from where reading stopped; with bAll also a last line without end. How
     // many; -1 and a reason if the file could not be read.

@@ -42,13 +42,15 @@ BOOL PackageBrowser::Create(CWnd* pParent, CFont* pFont) {
 }
 
 BrowserLayout PackageBrowser::Layout() {
-    return {m_outer.Percent(), m_inner.Percent(), std::max(m_details.GetActivePage(), 0)};
+    return {m_outer.Percent(), m_inner.Percent(), std::max(m_details.GetActivePage(), 0),
+            Tree().Widths()};
 }
 
 void PackageBrowser::SetLayout(const BrowserLayout& layout) {
     m_outer.SetPercent(layout.nTreePercent);
     m_inner.SetPercent(layout.nListPercent);
     m_details.SetActivePage(layout.nDetails);
+    Tree().UseWidths(layout.treeWidths);
 }
 
 BOOL PackageBrowser::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) {

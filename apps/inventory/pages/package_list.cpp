@@ -4,20 +4,41 @@
 
 IMPLEMENT_DYNCREATE(PackageList, QVSortingListCtrl)
 
+BEGIN_MESSAGE_MAP(PackageList, QVSortingListCtrl)
+    ON_WM_SYSCOLORCHANGE()
+END_MESSAGE_MAP()
+
 void PackageList::SetUp(CFont* pFont) {
+    EnableExpectedKeys();
     SetFont(pFont);
-    const COLORREF crWindow = ::GetSysColor(COLOR_WINDOW);
-    m_nTrouble = AddStyle(RGB(176, 0, 0), RGB(255, 232, 224));
-    m_nRequired = AddStyle(RGB(0, 0, 144), crWindow);
-    m_nDetail = AddStyle(RGB(96, 96, 96), crWindow);
+    ShowColors();
+    ShowSortArrow();
     MakeColumns();
 }
 
 void PackageList::UseColors(COLORREF crInstalled, COLORREF crRequired, COLORREF crTrouble) {
-    UpdateStyle(0, crInstalled, StyleColors(0).crBk);
-    UpdateStyle(m_nRequired, crRequired, StyleColors(m_nRequired).crBk);
-    UpdateStyle(m_nTrouble, crTrouble, StyleColors(m_nTrouble).crBk);
+    m_crInstalled = crInstalled;
+    m_crRequired = crRequired;
+    m_crTrouble = crTrouble;
+    ShowColors();
     InvalidateData(FALSE);
+}
+
+void PackageList::ShowColors() {
+    const QVSTYLE plain = ColorsOnScreen({m_crInstalled, kWindowBack});
+    UpdateStyle(0, plain.crText, plain.crBk);
+    ShowStyle(*this, m_nTrouble, {m_crTrouble, kTroubleColors.crBk});
+    ShowStyle(*this, m_nRequired, {m_crRequired, kWindowBack});
+    ShowStyle(*this, m_nDetail, kDetailColors);
+}
+
+int PackageList::ImageWidth() {
+    return kStripImageWidth;
+}
+
+void PackageList::OnSysColorChange() {
+    QVSortingListCtrl::OnSysColorChange();
+    ShowColors();
 }
 
 void PackageList::MakeColumns() {

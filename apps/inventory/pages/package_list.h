@@ -6,12 +6,14 @@
 #include "QVControls.h"
 #include "model/package_filter.h"
 #include "model/package_ids.h"
+#include "pages/cut_tips.h"
+#include "row_colors.h"
 #include "work.h"
 
 #include <string>
 #include <vector>
 
-class PackageList : public QVSortingListCtrl {
+class PackageList : public CutTipList<QVSortingListCtrl> {
     DECLARE_DYNCREATE(PackageList)
 
 public:
@@ -43,9 +45,20 @@ public:
     };
     Selected CountSelected();
     int SummaryColumn() const { return NumColumns() - 1; }
-    void SortBy(int nCol) { SortOnHeader(nCol); }
+    // As a click on the heading: a second time turns the order. Fields count without the images'
+    // column.
+    void SortByField(int nField) { SortOnHeader(nField + static_cast<int>(m_bImageColumn)); }
+    bool IsSortedByField(int nField) const {
+        return m_nSortCol == nField + static_cast<int>(m_bImageColumn);
+    }
+
+protected:
+    int ImageWidth() override;
+    afx_msg void OnSysColorChange();
+    DECLARE_MESSAGE_MAP()
 
 private:
+    void ShowColors();
     void MakeColumns();
     void Refill(const Inventory& inventory, const PackageFilter& filter, Work* pWork);
     void Fill(Work* pWork = nullptr);
@@ -69,6 +82,9 @@ private:
     PackageFilter m_filter;
     View m_view;  // as it was when the selection was saved
     bool m_bImageColumn = false;
+    COLORREF m_crInstalled = RGB(0, 0, 0);
+    COLORREF m_crRequired = kRequiredColors.crText;
+    COLORREF m_crTrouble = kTroubleColors.crText;
     int m_nTrouble = 0;  // styles
     int m_nRequired = 0;
     int m_nDetail = 0;

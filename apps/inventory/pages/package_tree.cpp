@@ -2,17 +2,16 @@
 
 #include "model/find_rows.h"
 #include "pages/row_fields.h"
+#include "row_colors.h"
 
 #include <algorithm>
 #include <iterator>
 
 namespace {
 
-// Version, size (right-aligned), state (centred) and summary, from the start of the text or of the
-// row, at 96 dpi. A stop behind the last column lets the summary take the room it needs.
-constexpr int kIndentedStops[] = {190, 20310, 10380, 470, 3000};
-constexpr int kAbsoluteStops[] = {310, 20430, 10500, 590, 3000};
-constexpr int kAlignment = 10000;  // what the control adds for it
+constexpr int kScreenDpi = 96;
+constexpr int kFitGap = 12;    // behind the widest text
+constexpr int kColumnGap = 4;  // of the control, behind each text
 
 enum Level { kLevelRoot, kLevelSection, kLevelPackage };
 
@@ -21,12 +20,25 @@ constexpr DWORD_PTR kPlaceholder = 1;
 
 }  // namespace
 
+BEGIN_MESSAGE_MAP(PackageTree, QVTreeCtrlEx)
+    ON_WM_SYSCOLORCHANGE()
+END_MESSAGE_MAP()
+
+void PackageTree::OnSysColorChange() {
+    QVTreeCtrlEx::OnSysColorChange();
+    UseColors();
+}
+
+void PackageTree::UseColors() {
+    ShowStyle(*this, m_nTrouble, kTroubleColors);
+    ShowStyle(*this, m_nRequired, kRequiredColors);
+    ShowStyle(*this, m_nDetail, kDetailColors);
+}
+
 void PackageTree::SetUp() {
     KeepSteps(typeid(PackageTree));  // it replaces none
-    const COLORREF crWindow = ::GetSysColor(COLOR_WINDOW);
-    m_nTrouble = AddStyle(RGB(176, 0, 0), RGB(255, 232, 224));
-    m_nRequired = AddStyle(RGB(0, 0, 144), crWindow);
-    m_nDetail = AddStyle(RGB(96, 96, 96), crWindow);
+    EnableExpectedKeys();
+    UseColors();
     CreateImages(m_images);
     SetImageList(&m_images, TVSIL_NORMAL);
     LoadStandardCheckStates();
@@ -37,15 +49,128 @@ void PackageTree::SetUp() {
 void PackageTree::UseIndentedColumns(bool bIndented) {
     m_bIndented = bIndented;
     SetIndentTabs(bIndented);
-    const int nDpi = CClientDC(this).GetDeviceCaps(LOGPIXELSX);
-    int aStops[std::size(kAbsoluteStops)];
-    std::transform(std::begin(bIndented ? kIndentedStops : kAbsoluteStops),
-                   std::end(bIndented ? kIndentedStops : kAbsoluteStops), aStops, [&](int nStop) {
-                       const int nPixels = nStop % kAlignment;
-                       return nStop - nPixels + ::MulDiv(nPixels, nDpi, 96);
-                   });
-    UseTabs(aStops, static_cast<int>(std::size(aStops)));
+    UseStops();
+}
+
+void PackageTree::UseStops() {
+    const auto stops = TreeStops(m_widths, m_bIndented, Dpi());
+    UseTabs(stops.data(), static_cast<int>(stops.size()));
     SetRedraw(TRUE);  // fits the scroll bars to the new columns
+    if (m_onEdges) {
+        m_onEdges();
+    }
+}
+
+// --- Columns
+
+const PackageTree::Column PackageTree::kColumns[kTreeColumns] = {{"Package", HDF_LEFT},
+                                                                 {"Version", HDF_LEFT},
+                                                                 {"Size", HDF_RIGHT},
+                                                                 {"State", HDF_CENTER},
+                                                                 {"Summary", HDF_LEFT}};
+
+int PackageTree::Dpi() {
+    return CClientDC(this).GetDeviceCaps(LOGPIXELSX);
+}
+
+void PackageTree::UseWidths(const TreeWidths& widths) {
+    m_widths = widths;
+    UseStops();
+}
+
+// Where the text of a package begins, in row coordinates.
+int PackageTree::TextLeft() {
+    const HTREEITEM hPackage = GetChildItem(GetChildItem(GetRootItem()));
+    if (hPackage == nullptr || !m_bIndented) {
+        return ::MulDiv(kTreeLevels, Dpi(), kScreenDpi);
+    }
+    CClientDC dc(this);
+    CRect rc;
+    CalcItemRect(dc, 0, hPackage, rc, TRUE);
+    return rc.left;
+}
+
+int PackageTree::HeadingWidth(int nCol) {
+    return ::MulDiv(m_widths[static_cast<size_t>(nCol)], Dpi(), kScreenDpi) +
+           (nCol == 0 ? TextLeft() : 0);
+}
+
+int PackageTree::LeastHeadingWidth(int nCol) {
+    return ::MulDiv(kLeastTreeWidth, Dpi(), kScreenDpi) + (nCol == 0 ? TextLeft() : 0);
+}
+
+void PackageTree::SetHeadingWidth(int nCol, int nWidth) {
+    if (nCol < 0 || nCol >= kTreeWidths) {
+        return;
+    }
+    const int nOwn = nWidth - (nCol == 0 ? TextLeft() : 0);
+    m_widths[static_cast<size_t>(nCol)] =
+        std::clamp(::MulDiv(nOwn, kScreenDpi, Dpi()), kLeastTreeWidth, kMostTreeWidth);
+    UseStops();
+}
+
+void PackageTree::FitColumn(int nCol) {
+    CClientDC dc(this);
+    const qv::SelectGuard<CFont> font(dc, NearestFontOf(*this));
+    TreeWidths widest{};
+    for (HTREEITEM hSection = GetChildItem(GetRootItem()); hSection != nullptr;
+         hSection = GetNextSiblingItem(hSection)) {
+        for (HTREEITEM h = GetChildItem(hSection); h != nullptr; h = GetNextSiblingItem(h)) {
+            const std::vector<std::string> fields = FieldsOf(*this, GetItemText(h));
+            for (size_t i = 0; i < std::min(fields.size(), widest.size()); ++i) {
+                const CString strField(fields[i].c_str());
+                widest[i] = std::max<int>(widest[i], dc.GetTextExtent(strField).cx);
+            }
+        }
+    }
+    for (size_t i = 0; i < widest.size(); ++i) {
+        const CString strHeading(kColumns[i].pszHeading);
+        const int nHeading = i == 0 ? 0 : dc.GetTextExtent(strHeading).cx;
+        if (nCol == -1 || nCol == static_cast<int>(i)) {
+            m_widths[i] =
+                std::clamp(::MulDiv(std::max(widest[i], nHeading), kScreenDpi, Dpi()) + kFitGap,
+                           kLeastTreeWidth, kMostTreeWidth);
+        }
+    }
+    UseStops();
+}
+
+bool PackageTree::TipCellAt(CPoint pt, TipCell& cell) {
+    CRect rcRow;
+    const HTREEITEM hItem = HitTest(pt, nullptr, &rcRow);
+    CRect rcText;
+    if (hItem == nullptr || !GetItemRect(hItem, &rcText, TRUE)) {
+        return false;
+    }
+    const std::vector<std::string> fields = FieldsOf(*this, GetItemText(hItem));
+    const int nStart = m_bIndented ? rcText.left : 0;
+    const int nAt = pt.x + LeftEdge();
+    int nLeft = rcText.left;
+    for (size_t i = 0; i < fields.size() && i < kTreeColumns; ++i) {
+        const int nRight = nStart + GetTabValue(static_cast<int>(i));
+        if (nAt >= nLeft && nAt < nRight) {
+            cell.nId = GetItemPart(hItem) * INT_PTR{kTreeColumns} + static_cast<INT_PTR>(i);
+            cell.nAlign = i > 0 ? GetTabFormat(static_cast<int>(i) - 1) : DT_LEFT;
+            cell.rcText.SetRect(nLeft - LeftEdge(), rcText.top, nRight - LeftEdge() - kColumnGap,
+                                rcText.bottom);
+            cell.strText = fields[i].c_str();
+            return true;
+        }
+        nLeft = nRight;
+    }
+    return false;
+}
+
+// Whatever moves them, the headings follow.
+LRESULT PackageTree::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    const LRESULT lResult = CutTips::WindowProc(message, wParam, lParam);
+    if (m_hWnd != nullptr && m_onEdges &&
+        (m_nLeftEdge != LeftEdge() || m_nRightEdge != RightEdge())) {
+        m_nLeftEdge = LeftEdge();
+        m_nRightEdge = RightEdge();
+        m_onEdges();
+    }
+    return lResult;
 }
 
 void PackageTree::Show(const Inventory& inventory) {

@@ -6,12 +6,15 @@
 #include "QVControls.h"
 #include "images.h"
 #include "model/inventory.h"
+#include "model/tree_columns.h"
+#include "pages/cut_tips.h"
 #include "pages/finding.h"
 
+#include <functional>
 #include <set>
 #include <string>
 
-class PackageTree : public QVTreeCtrlEx {
+class PackageTree : public CutTips<QVTreeCtrlEx> {
 public:
     // Columns, styles, images and check marks; call once the window exists.
     void SetUp();
@@ -35,6 +38,26 @@ public:
     void UseIndentedColumns(bool bIndented);
     bool IndentedColumns() const { return m_bIndented; }
 
+    struct Column {
+        LPCSTR pszHeading;
+        int nHeadingFormat;  // HDF_
+    };
+    static const Column kColumns[kTreeColumns];
+    const TreeWidths& Widths() const { return m_widths; }
+    void UseWidths(const TreeWidths& widths);
+    // Of all columns but the last, in pixels. The first heading stands over what is before the text
+    // of a package as well.
+    int HeadingWidth(int nCol);
+    int LeastHeadingWidth(int nCol);
+    void SetHeadingWidth(int nCol, int nWidth);
+    // As wide as the widest text in it, of all packages. All columns for -1.
+    void FitColumn(int nCol);
+    // Of what shows, in row coordinates: the first pixel, and the end of the widest row.
+    int LeftEdge() const { return GetHScrollPos(); }
+    int RightEdge() const { return GetMaxWidth(); }
+    // Called when one of these edges has moved.
+    std::function<void()> m_onEdges;
+
     // In the rows of open branches.
     FindResult Find(const TextQuery& query, bool bDown);
 
@@ -45,7 +68,14 @@ public:
     // What is ticked, also in branches that are closed.
     Marked CountMarked();
 
+protected:
+    bool TipCellAt(CPoint pt, TipCell& cell) override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    afx_msg void OnSysColorChange();
+    DECLARE_MESSAGE_MAP()
+
 private:
+    void UseColors();
     // What a refilled tree gets back, by the keys of its items.
     struct Kept {
         std::set<std::string> open;
@@ -64,7 +94,14 @@ private:
     void AddDetail(HTREEITEM hPackage, const char* pszWhat, const std::string& strValue,
                    int nImage);
 
+    int Dpi();
+    int TextLeft();
+    void UseStops();
+
     CImageList m_images;
+    TreeWidths m_widths = kFirstTreeWidths;
+    int m_nLeftEdge = 0;  // that m_onEdges knows of
+    int m_nRightEdge = 0;
     bool m_bIndented = true;
     int m_nTrouble = 0;  // styles
     int m_nRequired = 0;

@@ -42,33 +42,28 @@ int PackagesPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
 
 void PackagesPage::OnSize(UINT nType, int cx, int cy) {
     Page::OnSize(nType, cx, cy);
-    CRect rc;
-    m_bar.GetWindowRect(&rc);
-    m_bar.MoveWindow(0, 0, cx, rc.Height());
-    m_browser.MoveTo(CRect(0, rc.Height(), cx, std::max(cy, rc.Height())));
+    const int nHeight = m_bar.LayOut(cx);
+    m_bar.MoveWindow(0, 0, cx, nHeight);
+    m_browser.MoveTo(CRect(0, nHeight, cx, std::max(cy, nHeight)));
 }
 
 // --- Keyboard and commands
 
-// Tab, mnemonics and Enter go around in bar and panes as in a dialog. What a dialog sees it keeps,
-// so the frame's accelerators come first.
-BOOL PackagesPage::PreTranslateMessage(MSG* pMsg) {
-    const HWND hFocus = ::GetFocus();
-    if (hFocus != nullptr && ::IsChild(m_hWnd, hFocus)) {
-        m_hLastFocus = hFocus;
-    }
-    return Page::PreTranslateMessage(pMsg) || GetParentFrame()->PreTranslateMessage(pMsg) ||
-           PreTranslateInput(pMsg);
+std::vector<CWnd*> PackagesPage::Panes() {
+    return {&m_bar, &Tree(), &List(), &m_browser.Details()};
 }
 
-CWnd& PackagesPage::Control() {
-    const bool bThere = m_hLastFocus != nullptr && ::IsChild(m_hWnd, m_hLastFocus) &&
-                        ::IsWindowEnabled(m_hLastFocus) && ::IsWindowVisible(m_hLastFocus);
-    return bThere ? *CWnd::FromHandle(m_hLastFocus) : List();
+ContextMenu PackagesPage::MenuOf(CWnd& control) {
+    const HWND hDetails = m_browser.Details().m_hWnd;
+    return &control == &Tree()   ? ContextMenu::Tree
+           : &control == &List() ? ContextMenu::Packages
+           : ::IsChild(hDetails, control.m_hWnd) && dynamic_cast<DetailsPage*>(&control) == nullptr
+               ? ContextMenu::Details
+               : ContextMenu::None;
 }
 
 bool PackagesPage::HasFocus(CWnd& wnd) {
-    const HWND hFocus = Control();
+    const HWND hFocus = LastControl();
     return hFocus == wnd.m_hWnd || ::IsChild(wnd.m_hWnd, hFocus);
 }
 
@@ -89,6 +84,8 @@ void PackagesPage::OnEnter() {
         List().SetFocus();
     } else if (HasFocus(m_browser.Details())) {
         m_browser.Details().GoToTarget();
+    } else {
+        Page::OnEnter();
     }
 }
 
@@ -99,7 +96,7 @@ FindResult PackagesPage::Find(const TextQuery& query, bool bDown) {
     }
     FindResult result;
     if (!HasFocus(List())) {
-        result = FindInControl(Control(), query, bDown);
+        result = FindInControl(LastControl(), query, bDown);
     }
     if (result.strPlace.IsEmpty()) {
         result = FindInList(List(), query, bDown);

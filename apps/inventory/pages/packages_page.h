@@ -17,8 +17,9 @@ public:
     // Does the long part of that before, with a step of the work for each package. Where the work
     // is left, what was shown before is shown again.
     void Prepare(const Inventory& inventory, Work& work);
-    // Where the focus was last.
-    CWnd& Control() override;
+    CWnd& Control() override { return List(); }
+    std::vector<CWnd*> Panes() override;
+    ContextMenu MenuOf(CWnd& control) override;
     CString MarkedText() override;
     FindResult Find(const TextQuery& query, bool bDown) override;
 
@@ -39,7 +40,6 @@ public:
     void KeepLayout();
 
 protected:
-    BOOL PreTranslateMessage(MSG* pMsg) override;
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
     afx_msg void OnDestroy();
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
@@ -68,5 +68,4 @@ private:
     CString m_strFilterFile;
     CString m_strLayoutFile;
     Exporter m_exporter;
-    HWND m_hLastFocus = nullptr;
 };

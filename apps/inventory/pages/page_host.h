@@ -1,4 +1,5 @@
-// PageHost: a row of tabs and the page that is in front. Commands go to that page.
+// PageHost: a row of tabs and the page that is in front. Commands go to that page. The Tab key goes
+// through the page's controls and the tabs, F6 through the page's panes and the tabs.
 
 #pragma once
 
@@ -23,6 +24,7 @@ public:
     CTabCtrl& Tabs() { return m_tabs; }
 
 protected:
+    BOOL PreTranslateMessage(MSG* pMsg) override;
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
     void PostNcDestroy() override {}
 
@@ -32,11 +34,14 @@ protected:
     afx_msg void OnTab(NMHDR* pNMHDR, LRESULT* pResult);
     afx_msg void OnPage(UINT nID);
     afx_msg void OnUpdatePage(CCmdUI* pCmdUI);
+    afx_msg void OnPane(UINT nID);
+    afx_msg void OnContextMenu(CWnd* pWnd, CPoint pt);
     DECLARE_MESSAGE_MAP()
 
 private:
     CRect PageRect();
     void Show(size_t nPage);
+    bool LeaveGrid(const MSG& msg);
 
     CFont m_font;
     CTabCtrl m_tabs;

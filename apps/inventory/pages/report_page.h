@@ -22,6 +22,10 @@ public:
     LPCSTR Title() const override { return "Report"; }
     void SetInventory(const Inventory& inventory) override;
     CWnd& Control() override { return m_preview; }
+    std::vector<CWnd*> Panes() override { return {&m_choice, &m_preview}; }
+    ContextMenu MenuOf(CWnd& control) override {
+        return &control == &m_preview ? ContextMenu::Preview : ContextMenu::None;
+    }
     void OnShown() override;
     FindResult Find(const TextQuery& query, bool bDown) override;
     CString MarkedText() override;

@@ -9,17 +9,15 @@
 namespace {
 
 constexpr int kNameColumn = 0;
-constexpr int kTextColumn = 1;
-constexpr int kChoiceColumn = 2;
-constexpr int kFolderColumn = 3;
+constexpr int kValueColumn = 1;
 constexpr int kLeastWidth = 140;
 constexpr int kListLines = 8;
 constexpr UINT kTellNow = WM_APP + 1;  // to itself: pages may be changing over just now
 
-int ColumnOf(SettingKind kind) {
-    return kind == SettingKind::Text     ? kTextColumn
-           : kind == SettingKind::Choice ? kChoiceColumn
-                                         : kFolderColumn;
+GridColType CellTypeOf(SettingKind kind) {
+    return kind == SettingKind::Text     ? gctEdit
+           : kind == SettingKind::Choice ? gctDropList
+                                         : gctEditButton;
 }
 
 }  // namespace
@@ -39,12 +37,11 @@ int SettingsPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
         return -1;
     }
     m_grid.AddColumn(gctStatic, kLeastWidth);
-    m_grid.AddColumn(gctEdit, 2 * kLeastWidth);
-    m_grid.AddColumn(gctDropList, kLeastWidth);
-    m_grid.AddColumn(gctEditButton, kLeastWidth);
+    m_grid.AddColumn(gctEdit, kLeastWidth);
     m_grid.SetShowAddedRows(TRUE);
     m_grid.SetLockReadOnlyLists(TRUE);
     m_grid.SetMaxListLines(kListLines);
+    m_grid.EnableExpectedKeys();
     return 0;
 }
 
@@ -77,7 +74,7 @@ Failure SettingsPage::Load(const CString& strPath) {
 void SettingsPage::ShowDatabase(const CString& strPath) {
     m_strDatabase = strPath;
     if (m_grid.NumRows() > kSettingsInGrid) {
-        m_grid.SetCellText(kSettingsInGrid, kFolderColumn, m_strDatabase);  // the first behind them
+        m_grid.SetCellText(kSettingsInGrid, kValueColumn, m_strDatabase);  // the first behind them
     } else {
         Fill();
     }
@@ -89,23 +86,18 @@ void SettingsPage::Fill() {
     for (int n = 0; n < kSettingsInGrid; ++n) {
         const Setting& setting = m_settings.All()[n];
         const int nRow = m_grid.AddRow(CString(setting.pszName), 0);
-        m_grid.SetCellText(nRow, ColumnOf(setting.kind), setting.strValue.c_str());
-        for (int nCol = kTextColumn; nCol <= kFolderColumn; ++nCol) {
-            m_grid.EnableCell(nRow, nCol, nCol == ColumnOf(setting.kind));
-        }
+        m_grid.SetCellType(nRow, kValueColumn, CellTypeOf(setting.kind));
+        m_grid.SetCellText(nRow, kValueColumn, setting.strValue.c_str());
     }
     // What is only told: the database may be copied from its cell's text, the machine's name is
     // out of anybody's hands.
     const int nDatabase = m_grid.AddRow(CString("Package database"), 0);
-    m_grid.SetCellText(nDatabase, kFolderColumn, m_strDatabase);
+    m_grid.SetCellText(nDatabase, kValueColumn, m_strDatabase);
+    m_grid.SetCellReadOnly(nDatabase, kValueColumn, TRUE);
     const int nMachine = m_grid.AddRow(CString("Machine"), 0);
-    m_grid.SetCellText(nMachine, kTextColumn, MachineName());
-    for (int nCol = kTextColumn; nCol <= kFolderColumn; ++nCol) {
-        m_grid.SetCellReadOnly(nDatabase, nCol, TRUE);
-        m_grid.EnableCell(nMachine, nCol, FALSE);
-    }
+    m_grid.SetCellText(nMachine, kValueColumn, MachineName());
+    m_grid.EnableCell(nMachine, kValueColumn, FALSE);
     m_grid.AutoSizeColumn(kNameColumn, kLeastWidth);
-    m_grid.AutoSizeColumn(kChoiceColumn, kLeastWidth);
     m_grid.SetRedraw(TRUE);
 }
 
@@ -115,7 +107,7 @@ void SettingsPage::TakeCells() {
     }
     for (int n = 0; n < kSettingsInGrid; ++n) {
         CString strValue;
-        m_grid.GetCellText(n, ColumnOf(m_settings.All()[n].kind), strValue);
+        m_grid.GetCellText(n, kValueColumn, strValue);
         m_settings.Set(n, static_cast<LPCSTR>(strValue));
     }
 }
@@ -192,7 +184,7 @@ void SettingsPage::OnButton() {
         m_grid.IsCellReadOnly(nRow, m_grid.CurrentColumn())) {
         return;
     }
-    if (m_grid.CurrentColumn() == kChoiceColumn) {
+    if (m_settings.All()[nRow].kind == SettingKind::Choice) {
         Choose(nRow);
     } else {
         Browse(nRow);
@@ -209,14 +201,14 @@ void SettingsPage::Choose(int nRow) {
 
 void SettingsPage::Browse(int nRow) {
     CString strFolder;
-    m_grid.GetCellText(nRow, kFolderColumn, strFolder);
+    m_grid.GetCellText(nRow, kValueColumn, strFolder);
     QVBrowseDlg dialog(this);
     dialog.SetFolderLocation(CSIDL_DESKTOP);
     dialog.SetBrowseFlags(BIF_RETURNONLYFSDIRS | BIF_NEWDIALOGSTYLE);
     dialog.SetPromptString(m_settings.All()[nRow].pszName);
     dialog.SetItemPath(strFolder);
     if (dialog.DoModal() == IDOK) {
-        m_grid.SetCellText(nRow, kFolderColumn, dialog.GetItemPath());
+        m_grid.SetCellText(nRow, kValueColumn, dialog.GetItemPath());
         KeepCells();
     }
 }

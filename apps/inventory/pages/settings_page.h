@@ -1,5 +1,5 @@
-// SettingsPage: the application's settings in a grid. Each setting has a row, and its value stands
-// in the column of its kind; the other cells of the row are disabled.
+// SettingsPage: the application's settings in a grid. Each setting has a row with its name and its
+// value, which is typed, chosen from a list or browsed for.
 
 #pragma once
 
@@ -7,12 +7,16 @@
 #include "model/settings.h"
 #include "pages/exporting.h"
 #include "pages/page.h"
+#include "pages/settings_grid.h"
 
 class SettingsPage : public Page {
 public:
     LPCSTR Title() const override { return "Settings"; }
     void SetInventory(const Inventory& /*inventory*/) override {}
     CWnd& Control() override { return m_grid; }
+    ContextMenu MenuOf(CWnd& control) override {
+        return &control == &m_grid ? ContextMenu::Settings : ContextMenu::None;
+    }
     FindResult Find(const TextQuery& query, bool bDown) override {
         FindResult result = FindInGrid(m_grid, query, bDown);
         result.strPlace = "the settings";
@@ -50,7 +54,7 @@ private:
     void Browse(int nRow);
 
     Failure m_pUntold;
-    QVGridCtrl m_grid;
+    SettingsGrid m_grid;
     CStringArray m_choices;  // of the list that is up
     Settings m_settings;
     std::string m_strSaved;  // as it stands in the file

@@ -36,6 +36,7 @@ BEGIN_MESSAGE_MAP(TreePane, QVHeaderWnd)
     ON_COMMAND(ID_TREE_SORT, &TreePane::OnSort)
     ON_COMMAND_RANGE(ID_VIEW_INDENTED, ID_VIEW_ABSOLUTE, &TreePane::OnColumns)
     ON_COMMAND_RANGE(ID_VIEW_LINES, ID_VIEW_SHOW_SELECTION, &TreePane::OnStyle)
+    ON_COMMAND(ID_TREE_FIT_COLUMNS, &TreePane::OnFitColumns)
     ON_COMMAND_RANGE(ID_VETO_SELECTION, ID_VETO_CHECK, &TreePane::OnVeto)
     ON_UPDATE_COMMAND_UI(ID_TREE_EXPAND, &TreePane::OnUpdateSelection)
     ON_UPDATE_COMMAND_UI(ID_TREE_COLLAPSE, &TreePane::OnUpdateSelection)
@@ -50,9 +51,11 @@ BOOL TreePane::Create(CWnd* pParent, UINT nID) {
     if (!QVHeaderWnd::Create(WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, rcNone, pParent, nID) ||
         !m_tree.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | TVS_HASLINES | TVS_HASBUTTONS |
                            TVS_LINESATROOT | TVS_SHOWSELALWAYS,
-                       rcNone, this, IDC_TREE)) {
+                       rcNone, this, IDC_TREE) ||
+        !m_headings.Create(this, IDC_TREE_HEADINGS_FRAME)) {
         return FALSE;
     }
+    m_tree.m_onEdges = [this] { m_headings.Fit(); };
     ModifyStyleEx(0, WS_EX_CONTROLPARENT);  // Tab goes through it to the tree
     SetHeaderText("Sections and their packages");
     m_tree.SetUp();
@@ -61,7 +64,15 @@ BOOL TreePane::Create(CWnd* pParent, UINT nID) {
 
 void TreePane::OnSize(UINT nType, int cx, int cy) {
     QVHeaderWnd::OnSize(nType, cx, cy);
-    SizeInnerWnd(nType, m_tree);
+    if (nType != SIZE_RESTORED || m_headings.m_hWnd == nullptr) {
+        return;
+    }
+    CRect rc;
+    CalcBackgroundRect(rc);
+    const int nHeight = std::min<int>(m_headings.Height(), std::max<int>(rc.Height(), 0));
+    m_headings.MoveWindow(rc.left, rc.top, rc.Width(), nHeight);
+    rc.top += nHeight;
+    m_tree.SetWindowPos(nullptr, rc.left, rc.top, rc.Width(), rc.Height(), SWP_NOZORDER);
 }
 
 CString TreePane::MarkedText() {
@@ -73,6 +84,7 @@ CString TreePane::MarkedText() {
 
 void TreePane::Show(const Inventory& inventory) {
     m_tree.Show(inventory);
+    m_headings.Fit();
     m_hTold = m_tree.GetSelectedItem();
 }
 
@@ -162,6 +174,11 @@ void TreePane::OnStyle(UINT nID) {
     const bool bHas = (m_tree.GetStyle() & dwStyle) != 0;
     m_tree.ModifyStyle(bHas ? dwStyle : 0, bHas ? 0 : dwStyle);
     m_tree.SetRedraw(TRUE);
+    m_headings.Fit();  // lines at the root move the texts
+}
+
+void TreePane::OnFitColumns() {
+    m_tree.FitColumn(-1);
 }
 
 void TreePane::OnVeto(UINT nID) {

@@ -4,6 +4,7 @@
 
 #include "pages/browser_owner.h"
 #include "pages/package_tree.h"
+#include "pages/tree_headings.h"
 
 class TreePane : public QVHeaderWnd {
 public:
@@ -11,6 +12,7 @@ public:
     BOOL Create(CWnd* pParent, UINT nID);
 
     PackageTree& Tree() { return m_tree; }
+    TreeHeadings& Headings() { return m_headings; }
     void Show(const Inventory& inventory);
     // As the tree's function of that name.
     void ShowSection(const std::string& strSection);
@@ -25,6 +27,7 @@ protected:
     afx_msg void OnSort();
     afx_msg void OnColumns(UINT nID);
     afx_msg void OnStyle(UINT nID);
+    afx_msg void OnFitColumns();
     afx_msg void OnVeto(UINT nID);
     afx_msg void OnUpdateSelection(CCmdUI* pCmdUI);
     afx_msg void OnUpdateColumns(CCmdUI* pCmdUI);
@@ -37,6 +40,7 @@ private:
 
     BrowserOwner& m_owner;
     PackageTree m_tree;
+    TreeHeadings m_headings{m_tree};
     HTREEITEM m_hTold = nullptr;  // the selection that the owner knows of
     bool m_bRefuseSelection = false;
     bool m_bRefuseCheck = false;

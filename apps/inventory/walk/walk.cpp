@@ -1,6 +1,7 @@
 #include "walk/walk.h"
 
 #include "resource.h"
+#include "walk/cut_texts.h"
 
 #include <cstring>
 #include <dlgs.h>
@@ -50,7 +51,11 @@ bool Walk::Run() {
     m_frame.SetForegroundWindow();
     Tree().SetFocus();
     const char* const pszOnly = std::getenv("QV_WALK_ONLY");
-    return pszOnly != nullptr && CString(pszOnly) == "comparisons" ? AllComparisons() : All();
+    const CString strOnly(pszOnly != nullptr ? pszOnly : "");
+    return strOnly == "comparisons" ? AllComparisons()
+           : strOnly == "keys"      ? AllKeys()
+           : strOnly == "look"      ? Look()
+                                    : All();
 }
 
 bool Walk::AllComparisons() {
@@ -69,7 +74,8 @@ bool Walk::All() {
            Paper() && NewReport() && FinishEarly() && CancelWizard() && RunFromBar() &&
            EditReport() && DeleteReport() && SaveReportAs() && AskAgain() && RenameReport() &&
            Logs() && FollowLog() && LogOnPaper() && DamagedDatabase() && LockedFile() &&
-           FullDisk() && ErrorsInLog() && OpenDatabase() && OpenMachine() && AllComparisons();
+           FullDisk() && ErrorsInLog() && OpenDatabase() && OpenMachine() && Look() && AllKeys() &&
+           AllComparisons();
 }
 
 bool Walk::Station(const char* pszName, CWnd* pWnd) {
@@ -79,6 +85,11 @@ bool Walk::Station(const char* pszName, CWnd* pWnd) {
     const CString strFile = m_strFolder + "\\" + pszName + ".bmp";
     const bool bSaved = SavePicture(wnd, strFile);
     std::printf("walk: %s%s\n", pszName, bSaved ? "" : ": the picture could not be written");
+    // The dialogs that are up, of the platform's own as well, are the user's to read.
+    CWnd* const pFront = CWnd::GetActiveWindow();
+    for (const std::string& strText : CutTexts(pFront != nullptr ? *pFront : wnd)) {
+        std::printf("walk: %s: no room for all of: %s\n", pszName, strText.c_str());
+    }
     std::fflush(stdout);
     return bSaved;
 }

@@ -15,12 +15,13 @@ class Walk {
 public:
     Walk(MainFrame& frame, const CString& strFolder) : m_frame(frame), m_strFolder(strFolder) {}
     // False, with the reason on standard output, as soon as something does not happen. With the
-    // environment's QV_WALK_ONLY=comparisons only the last part, for whoever works on that.
+    // environment's QV_WALK_ONLY=comparisons, =keys or =look only that part, for whoever works on it.
     bool Run();
 
 private:
     bool All();
     bool AllComparisons();
+    bool AllKeys();
     // The tree
     bool SectionsTree();
     bool OpenBranch();
@@ -121,12 +122,31 @@ private:
     bool CompareWithEarlier();
     bool ComparisonPages();
     bool ExportComparison();
+    bool FindInComparison(class ChangedGrid& grid);
     bool ComparisonCells(class ChangedGrid& grid);
     bool ComparisonPreview();
     bool ShowInInventory();
     bool CompareWithSame();
     bool CloseComparison();
     bool About();
+    // By keys alone, and menus at controls
+    bool EditByKeys();
+    bool CopyRows();
+    bool PanesByKeys();
+    bool TabsEverywhere();
+    bool ContextMenus();
+    bool LogByKeys();
+    bool InMenu(const char* pszWhat, const char* pszStation, const std::function<void()>& cause,
+                const std::function<bool()>& look);
+    // How it looks
+    bool Look();
+    bool Toolbar();
+    int PageTop();  // on the screen
+    bool TreeHeadings();
+    bool CutText();
+    bool SortArrow();
+    bool FilesOfAll();
+    bool Colors();
     // Long work
     bool CancelLoad();
     bool CancelExport();

@@ -23,16 +23,6 @@ void CALLBACK AnswerMenu(HWND hWnd, UINT, UINT_PTR nTimer, DWORD) {
     }
 }
 
-bool TipShows() {
-    for (HWND hTip = nullptr;
-         (hTip = ::FindWindowEx(nullptr, hTip, TOOLTIPS_CLASS, nullptr)) != nullptr;) {
-        if (::IsWindowVisible(hTip)) {
-            return true;
-        }
-    }
-    return false;
-}
-
 }  // namespace
 
 CPoint Walk::PointOfTool(UINT nID) {

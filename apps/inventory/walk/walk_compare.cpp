@@ -124,16 +124,6 @@ CPoint PointOfCell(ChangedGrid& grid, int nRow, int nCol) {
     return pt;
 }
 
-bool TipShows() {
-    for (HWND hTip = nullptr;
-         (hTip = ::FindWindowEx(nullptr, hTip, TOOLTIPS_CLASS, nullptr)) != nullptr;) {
-        if (::IsWindowVisible(hTip)) {
-            return true;
-        }
-    }
-    return false;
-}
-
 // A menu runs a loop of its own, so it is looked at and closed from a timer.
 CPoint s_ptMenu(-1, -1);
 void CALLBACK CloseMenu(HWND hWnd, UINT, UINT_PTR nTimer, DWORD) {
@@ -219,6 +209,14 @@ bool Walk::ComparisonPages() {
         !Station("compare-4-new", &Frame())) {
         return false;
     }
+    auto& list = static_cast<QVListCtrlEx&>(View()->Active()->Control());
+    Frame().SendMessage(WM_COMMAND, ID_COMPARE_SORT_FIRST);
+    const CString strFirst = list.GetItemText(0, 0);
+    Frame().SendMessage(WM_COMMAND, ID_COMPARE_SORT_FIRST);
+    if (!Happened("a command sorts the list, and turns its order the second time",
+                  list.GetItemCount() < 2 || list.GetItemText(0, 0) != strFirst)) {
+        return false;
+    }
     Press(VK_DOWN);
     if (!Expect("a key in the strip shows the next page",
                 [] { return IsActive(ComparisonView::kGone); }) ||
@@ -233,13 +231,63 @@ bool Walk::ComparisonPages() {
         return false;
     }
     auto& grid = static_cast<ChangedGrid&>(View()->Active()->Control());
-    Press(VK_F3);
+    Press(VK_F8);
     if (!Expect("the next difference is the second row", [&] { return grid.Row() == 1; })) {
         return false;
     }
     Frame().SendMessage(WM_COMMAND, ID_COMPARE_AGAIN);
     return Happened("which it stays as all is compared again", grid.Row() == 1) &&
-           Station("compare-6-changed", &Frame()) && ComparisonCells(grid) && ExportComparison();
+           Station("compare-6-changed", &Frame()) && FindInComparison(grid) &&
+           ComparisonCells(grid) && ExportComparison();
+}
+
+// The last row of all, by its name; and the way to the tabs and back.
+bool Walk::FindInComparison(ChangedGrid& grid) {
+    const int nLast = static_cast<int>(View()->Active()->Rows()) - 1;
+    const CString strName = grid.GetTextMatrix(nLast + 1, ChangedGrid::kName);
+    HWND hDialog = nullptr;
+    Press('F', VK_CONTROL);
+    if (!Expect("the platform's dialog for finding comes up", [&] {
+            hDialog = ::FindWindow("#32770", "Find");
+            return hDialog != nullptr && ::GetFocus() == ::GetDlgItem(hDialog, edt1);
+        })) {
+        return false;
+    }
+    ::SetDlgItemText(hDialog, edt1, strName);
+    Press('A', VK_CONTROL);
+    Press('C', VK_CONTROL);
+    if (!Expect("its edit keeps its keys", [&] { return ClipboardText() == strName; })) {
+        return false;
+    }
+    Press(VK_RETURN);
+    const bool bFound = Expect("the row is found", [&] {
+        return grid.GetTextMatrix(grid.Row() + 1, ChangedGrid::kName).Find(strName) >= 0;
+    });
+    const bool bGood = bFound && Station("compare-13-found", &Frame());
+    ::SetFocus(::GetDlgItem(hDialog, edt1));
+    Press(VK_ESCAPE);
+    if (!bGood || !Expect("Escape closes the dialog", [&] { return !::IsWindow(hDialog); })) {
+        return false;
+    }
+    CWnd& tabs = View()->GetTabCtrl();
+    grid.GoTo(0);
+    Press(VK_F3);
+    if (!Expect("F3 finds it again", [&] { return grid.Row() > 0; })) {
+        return false;
+    }
+    grid.GoTo(1);
+    grid.SetTopRow(1);
+    const auto there = [&](WORD nKey, const char* pszWhat) {
+        grid.SetFocus();
+        Press(nKey);
+        return Expect(pszWhat, [&] { return ::GetFocus() == tabs.m_hWnd; });
+    };
+    const auto back = [&](WORD nKey, const char* pszWhat) {
+        Press(nKey);
+        return Expect(pszWhat, [&] { return ::GetFocus() == grid.m_hWnd; });
+    };
+    return there(VK_TAB, "Tab leads to the tabs") && back(VK_TAB, "and back to the page") &&
+           there(VK_F6, "so does F6") && back(VK_F6, "and back");
 }
 
 bool Walk::ExportComparison() {

@@ -131,7 +131,12 @@ bool Walk::KeysAround() {
         Press(VK_TAB);
         HandleMessages();
     }
-    return Expect("the details let Tab go on to the bar", [this] {
+    if (!Expect("the details let Tab go on to the tabs",
+                [this] { return CWnd::GetFocus() == &m_frame.Pages().Tabs(); })) {
+        return false;
+    }
+    Press(VK_TAB);
+    return Expect("and these to the bar", [this] {
         const HWND hFocus = ::GetFocus();
         return hFocus != nullptr && ::IsChild(m_frame.Packages().Bar().m_hWnd, hFocus);
     });

@@ -64,6 +64,16 @@ void Press(WORD nKey, WORD nHeld) {
     ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
 }
 
+bool TipShows() {
+    for (HWND hTip = nullptr;
+         (hTip = ::FindWindowEx(nullptr, hTip, TOOLTIPS_CLASS, nullptr)) != nullptr;) {
+        if (::IsWindowVisible(hTip)) {
+            return true;
+        }
+    }
+    return false;
+}
+
 bool SavePicture(CWnd& wnd, const CString& strFile) {
     CRect rect;
     wnd.GetWindowRect(&rect);

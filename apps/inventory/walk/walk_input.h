@@ -16,6 +16,8 @@ void ClickOn(CWnd& wnd);
 // Two clicks in a short time would be a double click.
 void LetClickPass();
 void Press(WORD nKey, WORD nHeld = 0);
+// Some tooltip is up.
+bool TipShows();
 // The window as it stands on the screen, as a bitmap file of 24 bits a pixel.
 bool SavePicture(CWnd& wnd, const CString& strFile);
 // Dispatches what is in the queue, and does what is due at idle time.

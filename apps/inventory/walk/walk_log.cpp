@@ -88,7 +88,7 @@ bool Walk::FollowLog() {
         return false;
     }
     m_frame.PostMessage(WM_COMMAND, ID_LOG_FOLLOW);
-    Press('C', VK_CONTROL);
+    m_frame.PostMessage(WM_COMMAND, ID_LOG_COPY);
     return Expect("the log is on the clipboard", [&] {
         return m_frame.StatusText(0).Find("lines copied") >= 0 &&
                ::IsClipboardFormatAvailable(CF_TEXT);

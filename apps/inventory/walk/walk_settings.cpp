@@ -5,9 +5,7 @@
 namespace {
 
 constexpr int kPageSettings = 2;
-constexpr int kTextColumn = 1;
-constexpr int kChoiceColumn = 2;
-constexpr int kFolderColumn = 3;
+constexpr int kValueColumn = 1;
 constexpr int kInButton = 10;  // pixels from the end of the last column
 
 // The middle of a cell on the screen; rows of the grid are as high as its font and three pixels.
@@ -38,7 +36,7 @@ bool Walk::TypeSettings() {
     if (!ShowSettings()) {
         return false;
     }
-    Click(PointOfCell(grid, kSettingExportName, kTextColumn));
+    Click(PointOfCell(grid, kSettingExportName, kValueColumn));
     if (!Expect("a click opens the editor", [&] {
             CWnd* pFocus = CWnd::GetFocus();
             return pFocus != nullptr && pFocus->GetParent() == &grid;
@@ -51,7 +49,7 @@ bool Walk::TypeSettings() {
     return Expect("what is typed is in the cell",
                   [&] {
                       CString str;
-                      grid.GetCellText(kSettingExportName, kTextColumn, str);
+                      grid.GetCellText(kSettingExportName, kValueColumn, str);
                       return str == "all of it";
                   }) &&
            Station("settings-1-typing");
@@ -59,7 +57,7 @@ bool Walk::TypeSettings() {
 
 bool Walk::ChooseSetting() {
     QVGridCtrl& grid = m_frame.Settings().Grid();
-    Click(PointOfCell(grid, kSettingSeparator, kChoiceColumn));
+    Click(PointOfCell(grid, kSettingSeparator, kValueColumn));
     if (!Expect("a click in another cell opens its list", [&] {
             return grid.CurrentRow() == kSettingSeparator && ::FindWindow("ListBox", nullptr);
         })) {
@@ -70,7 +68,7 @@ bool Walk::ChooseSetting() {
         return false;
     }
     LetClickPass();
-    Click(PointOfCell(grid, kSettingSeparator, kChoiceColumn));
+    Click(PointOfCell(grid, kSettingSeparator, kValueColumn));
     return Expect("the choice is taken",
                   [&] { return m_frame.Settings().Values().Choice(kSettingSeparator) == 2; });
 }
@@ -80,8 +78,8 @@ bool Walk::ChooseSetting() {
 bool Walk::ChooseFolder() {
     SettingsPage& page = m_frame.Settings();
     QVGridCtrl& grid = page.Grid();
-    grid.SetCellText(kSettingExportFolder, kFolderColumn, m_strFolder);
-    CPoint pt = PointOfCell(grid, kSettingExportFolder, kFolderColumn);
+    grid.SetCellText(kSettingExportFolder, kValueColumn, m_strFolder);
+    CPoint pt = PointOfCell(grid, kSettingExportFolder, kValueColumn);
     Click(pt);
     if (!Expect("a click in the folder's cell opens it",
                 [&] { return grid.CurrentRow() == kSettingExportFolder; })) {
