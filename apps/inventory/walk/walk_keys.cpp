@@ -36,19 +36,18 @@ void CALLBACK LookAtMenu(HWND hWnd, UINT, UINT_PTR nTimer, DWORD) {
 }
 
 // Windows that the Tab key goes through are none themselves.
+BOOL CALLBACK TakeTabStop(HWND hChild, LPARAM lParam) {
+    if (::IsWindowVisible(hChild) && ::IsWindowEnabled(hChild) &&
+        (::GetWindowLong(hChild, GWL_STYLE) & WS_TABSTOP) != 0 &&
+        (::GetWindowLong(hChild, GWL_EXSTYLE) & WS_EX_CONTROLPARENT) == 0) {
+        reinterpret_cast<std::set<HWND>*>(lParam)->insert(hChild);
+    }
+    return TRUE;
+}
+
 std::set<HWND> TabStopsIn(HWND hWnd) {
     std::set<HWND> stops;
-    ::EnumChildWindows(
-        hWnd,
-        [](HWND hChild, LPARAM lParam) -> BOOL {
-            if (::IsWindowVisible(hChild) && ::IsWindowEnabled(hChild) &&
-                (::GetWindowLong(hChild, GWL_STYLE) & WS_TABSTOP) != 0 &&
-                (::GetWindowLong(hChild, GWL_EXSTYLE) & WS_EX_CONTROLPARENT) == 0) {
-                reinterpret_cast<std::set<HWND>*>(lParam)->insert(hChild);
-            }
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&stops));
+    ::EnumChildWindows(hWnd, TakeTabStop, reinterpret_cast<LPARAM>(&stops));
     return stops;
 }
 
