@@ -19,7 +19,8 @@ BEGIN_MESSAGE_MAP(QVWizardStepWnd, QVCustCtrl)
     ON_MESSAGE(WM_GETOBJECT, &QVWizardStepWnd::OnGetObject)
 END_MESSAGE_MAP()
 
-QVWizardStepWnd::QVWizardStepWnd() : QVAccessible(static_cast<CWnd&>(*this)) {}
+QVWizardStepWnd::QVWizardStepWnd()
+    : QVAccessible(static_cast<CWnd&>(*this)), m_nUnit(qv::kStepUnit) {}
 
 QVWizardStepWnd::~QVWizardStepWnd() = default;
 
@@ -58,6 +59,26 @@ void QVWizardStepWnd::MakeFonts() {
     }
     logFont.lfWeight = FW_BOLD;
     m_fontBold.CreateFontIndirect(&logFont);
+    MeasureUnit();
+}
+
+void QVWizardStepWnd::ScaleToFont(BOOL bScale) {
+    m_bScaleToFont = bScale != FALSE;
+    if (GetSafeHwnd() != nullptr) {
+        MeasureUnit();
+        Invalidate(FALSE);
+    }
+}
+
+void QVWizardStepWnd::MeasureUnit() {
+    m_nUnit = qv::kStepUnit;
+    if (m_bScaleToFont) {
+        CClientDC dc(this);
+        const qv::SelectGuard<CFont> font(dc, &m_fontBold);
+        TEXTMETRIC metrics;
+        dc.GetTextMetrics(&metrics);
+        m_nUnit = qv::StepUnitFor(static_cast<int>(metrics.tmHeight));
+    }
 }
 
 // --- Painting
@@ -92,7 +113,7 @@ void QVWizardStepWnd::Draw(CDC& dc, const CRect& rect) {
         return;
     }
     const bool bFirstTime = MarkVisited(*pData);
-    qv::StepRowReader reader(pData->m_Steps, m_dwStepID, rect.right);
+    qv::StepRowReader reader(pData->m_Steps, m_dwStepID, rect.right, m_nUnit);
     for (qv::StepRow row; reader.Next(row);) {
         if (row.eFill != qv::StepFill::None) {
             const CRect rcBox = qv::ToCRect(row.rcBox);
@@ -182,7 +203,7 @@ BOOL QVWizardStepWnd::GetAccessibleRect(long nPart, CRect& rect) {
     }
     CRect rcClient;
     GetClientRect(&rcClient);
-    qv::StepRowReader reader(Steps(), m_dwStepID, static_cast<int>(rcClient.right));
+    qv::StepRowReader reader(Steps(), m_dwStepID, static_cast<int>(rcClient.right), m_nUnit);
     reader.Skip(static_cast<std::size_t>(nPart) - 1);
     qv::StepRow row;
     reader.Next(row);
@@ -196,7 +217,7 @@ long QVWizardStepWnd::GetAccessibleCount() {
 }
 
 long QVWizardStepWnd::AccessibleHitTest(CPoint pt) {
-    const long nPart = qv::StepAtY(static_cast<int>(pt.y), Steps().size()) + 1;
+    const long nPart = qv::StepAtY(static_cast<int>(pt.y), Steps().size(), m_nUnit) + 1;
     CRect rect;
     return nPart != 0 && GetAccessibleRect(nPart, rect) && rect.PtInRect(pt) ? nPart : CHILDID_SELF;
 }

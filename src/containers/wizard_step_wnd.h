@@ -4,8 +4,9 @@
 // visited.
 //
 // It draws what QVWizardStepData::GetWizStepData gives at that moment, and without one is plain
-// black. Colours are fixed; all measures are pixels, whatever the font: boxes of 16 in rows of 32.
-// Titles end at the panel's right edge; an ampersand in them underlines what follows.
+// black. Colours are fixed; all measures are pixels, whatever the font: boxes of 16 in rows of 32,
+// unless ScaleToFont asks for larger ones. Titles end at the panel's right edge; an ampersand in
+// them underlines what follows.
 //
 // A QVWizardPage holds one and makes it of an item of its dialog; elsewhere Initialize attaches it
 // to an item, or Create makes it by code.
@@ -31,6 +32,11 @@ public:
     // Of a parent that is a QVWizardPage the panel takes the step, as it stands now. Makes the
     // fonts from that of the nearest ancestor that has one.
     int Initialize(UINT nID, CWnd* pParent) override;
+
+    // With bScale the diagram grows with a font whose titles are higher than 16 pixels, so that
+    // none of them is cut below; the boxes are as high as a title then. Off at first. At any time,
+    // before the window too; what is shown is painted anew.
+    void ScaleToFont(BOOL bScale);
 
     // --- What a screen reader is told: the steps in a list that nobody can choose from
 
@@ -63,5 +69,9 @@ private:
     const _QVWIZSTEP_INFO* PartStep(long nPart) const;
     void TakeStep(QVWizardPage& page);
     void MakeFonts();
+    void MeasureUnit();
     bool MarkVisited(QVWizardStepData& data);
+
+    bool m_bScaleToFont = false;
+    int m_nUnit;  // of the diagram, in pixels
 };

@@ -31,6 +31,7 @@ ReportStep::ReportStep(ReportStepOwner& wizard, UINT nTemplate, DWORD dwButtons,
 
 BOOL ReportStep::OnInitDialog() {
     QVWizardPage::OnInitDialog();
+    m_StepWnd.ScaleToFont(TRUE);
     Offer();
     return TRUE;
 }

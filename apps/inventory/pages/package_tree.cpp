@@ -44,6 +44,12 @@ void PackageTree::SetUp() {
     LoadStandardCheckStates();
     SetShowStatesAtRoot(TRUE);
     UseIndentedColumns(true);
+    CString strHeadings;
+    for (const Column& column : kColumns) {
+        strHeadings += strHeadings.IsEmpty() ? "" : "\t";
+        strHeadings += column.pszHeading;
+    }
+    SetAccessibleHeadings(strHeadings);
 }
 
 void PackageTree::UseIndentedColumns(bool bIndented) {

@@ -38,6 +38,8 @@ int SettingsPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     }
     m_grid.AddColumn(gctStatic, kLeastWidth);
     m_grid.AddColumn(gctEdit, kLeastWidth);
+    m_grid.SetWindowText(Title());
+    m_grid.SetAccessibleHeadings("Setting\tValue");
     m_grid.SetShowAddedRows(TRUE);
     m_grid.SetLockReadOnlyLists(TRUE);
     m_grid.SetMaxListLines(kListLines);

@@ -9,7 +9,8 @@
 //      |  [2]   title
 //     [3]---'    title
 //
-// All numbers are pixels of the device, whatever the font.
+// It is measured in units: a box is two of them wide and high, and so is the space below it. A unit
+// is eight pixels of the device, whatever the font, unless somebody asks for one that goes with it.
 
 #pragma once
 
@@ -31,6 +32,14 @@ inline constexpr COLORREF kStepTitle = 0xFFFFFF;
 // By StepFill, from Current on.
 inline constexpr std::array<COLORREF, 4> kStepFills = {0x00FF00, 0x0000FF, 0x808080, 0xC0C0C0};
 
+inline constexpr int kStepUnit = 8;
+
+// The pixels of a unit whose boxes are as high as a title of nTextHeight pixels; never less than
+// kStepUnit.
+constexpr int StepUnitFor(int nTextHeight) {
+    return nTextHeight > 2 * kStepUnit ? (nTextHeight + 1) / 2 : kStepUnit;
+}
+
 struct StepPolyline {
     std::array<Point, 3> points;
     std::size_t nPoints;
@@ -50,8 +59,9 @@ struct StepRow {
 class StepRowReader {
 public:
     // nPanelRight is the panel's right edge, which limits the titles.
-    StepRowReader(std::span<const _QVWIZSTEP_INFO> steps, unsigned nCurrentID, int nPanelRight)
-        : m_steps(steps), m_nCurrentID(nCurrentID), m_nPanelRight(nPanelRight) {}
+    StepRowReader(std::span<const _QVWIZSTEP_INFO> steps, unsigned nCurrentID, int nPanelRight,
+                  int nUnit = kStepUnit)
+        : m_steps(steps), m_nCurrentID(nCurrentID), m_nPanelRight(nPanelRight), m_nUnit(nUnit) {}
     bool Next(StepRow& row);
     // Goes on with step nStep, as if all before it had a state.
     void Skip(std::size_t nStep) { m_nNext = nStep; }
@@ -62,12 +72,13 @@ private:
     const std::span<const _QVWIZSTEP_INFO> m_steps;
     const unsigned m_nCurrentID;
     const int m_nPanelRight;
+    const int m_nUnit;
     std::size_t m_nNext = 0;
     StepFill m_eFill = StepFill::None;  // of the row before
 };
 
 // The step whose row has that y coordinate, with what lies between it and the next one; -1 for none
 // of nSteps.
-int StepAtY(int y, std::size_t nSteps);
+int StepAtY(int y, std::size_t nSteps, int nUnit = kStepUnit);
 
 }  // namespace qv

@@ -19,14 +19,14 @@ TEST(WizardSteps, TitlesAreCutBetweenCharactersAtThirtyBytes) {
 }
 
 // Of each step its state or C where it is current; of each row "fill:box title line line".
-std::vector<std::string> Rows(std::string_view states) {
+std::vector<std::string> Rows(std::string_view states, int nUnit = qv::kStepUnit) {
     qv::WizardSteps steps;
     for (const char c : states) {
         const int nStep = qv::AddStep(steps, c == 'C', "", {});
         qv::SetStepState(steps, nStep, static_cast<WizStepState>(c == 'C' ? 0 : c - '0'));
     }
     std::vector<std::string> rows;
-    qv::StepRowReader reader(steps, 1, 200);
+    qv::StepRowReader reader(steps, 1, 25 * nUnit, nUnit);
     for (qv::StepRow row; reader.Next(row);) {
         std::string& str = rows.emplace_back(1, "-CLVN"[static_cast<int>(row.eFill)]);
         str += row.bBold ? "b:" : ":";
@@ -59,7 +59,17 @@ TEST(WizardDiagram, RingAndTrunkJoinAnyNumberOfBoxes) {
 TEST(WizardDiagram, AStepIsFoundByItsHeight) {
     for (const auto& [y, nStep] : {std::pair{7, -1}, {8, 0}, {39, 0}, {40, 1}, {71, 1}, {72, -1}}) {
         EXPECT_EQ(qv::StepAtY(y, 2), nStep) << y;
+        EXPECT_EQ(qv::StepAtY(2 * y, 2, 16), nStep) << y;
     }
+}
+
+// Whatever the font, its titles are not cut below, and all measures grow alike.
+TEST(WizardDiagram, AUnitIsHalfATitleAndNeverLessThanEightPixels) {
+    for (const auto& [nHeight, nUnit] : {std::pair{0, 8}, {16, 8}, {17, 9}, {26, 13}, {27, 14}}) {
+        EXPECT_EQ(qv::StepUnitFor(nHeight), nUnit) << nHeight;
+    }
+    EXPECT_EQ(Rows("000000C", 16)[6],
+              "Cb:16 400 48 432 80 400 384 432 32,48 32,400 64,384 64,416 48,416 ");
 }
 
 TEST(WizardDiagram, AnOddStateGoesWithTheRowBefore) {

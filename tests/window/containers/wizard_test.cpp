@@ -17,6 +17,7 @@ namespace {
 class Page : public QVWizardPage {
 public:
     using QVWizardPage::m_dwWizStepID;
+    using QVWizardPage::m_StepWnd;
     using QVWizardPage::QVWizardPage;
     CString m_strText;
     std::function<bool()> m_check = [] { return true; };
@@ -209,6 +210,39 @@ TEST(WizardPanel, BoxesAndLinesAreOfFixedPixelsOnBlackInAnyFont) {
             }
             EXPECT_EQ(picture.Count(0, rc), nBlack);
             expectFull(0, CRect(picture.Width() - 8, 0, picture.Width(), rc.bottom));  // titles end
+        }
+    }
+}
+
+TEST(WizardPanel, BoxesAreAsHighAsTitlesOfALargeFontWhereThatIsAskedFor) {
+    constexpr COLORREF kCurrent = 0x00FF00;
+    RecordingParent parent;
+    QVWizardStepData data;
+    data.AddStep(0u, "");
+    data.AddStep(1u, "");
+    for (const bool bBeforeTheWindow : {true, false}) {
+        for (const auto& [nTemplate, bLarger] :
+             {std::pair{IDD_WIZ_FIRST, false}, {IDD_WIZ_LAST, true}}) {
+            Page page;
+            if (bBeforeTheWindow) {
+                page.m_StepWnd.ScaleToFont(TRUE);
+            }
+            page.Show(parent, nTemplate, 1);
+            const Picture asked = page.Panel();
+            page.m_StepWnd.ScaleToFont(TRUE);
+            const Picture scaled = page.Panel();
+            CRect rcStep;
+            page.m_StepWnd.GetAccessibleRect(2, rcStep);
+            const int nBox = rcStep.Height();
+            EXPECT_EQ(nBox > 16, bLarger) << nBox;
+            EXPECT_EQ(scaled.Count(kCurrent), nBox * nBox);
+            EXPECT_EQ(
+                scaled.Count(kCurrent, CRect(nBox / 2, nBox * 5 / 2, nBox * 3 / 2, nBox * 7 / 2)),
+                nBox * nBox);
+            EXPECT_EQ(page.m_StepWnd.AccessibleHitTest(CPoint(nBox, nBox * 3)), 2);
+            page.m_StepWnd.ScaleToFont(FALSE);
+            EXPECT_EQ(page.Panel().Count(kCurrent), 256);
+            EXPECT_EQ(asked == scaled, bBeforeTheWindow || !bLarger);
         }
     }
 }
