@@ -8,6 +8,13 @@
 
 namespace {
 
+struct ButtonKind {
+    DWORD dwDown;
+    DWORD dwUp;
+    UINT nDownMessage;
+    UINT nUpMessage;
+};
+
 /// Counts input messages by number as they leave the queue, in whichever loop that happens.
 class InputWatch {
 public:
@@ -24,6 +31,15 @@ public:
         const bool bCame = PumpUntil([&] {
             const bool bPressed = s_counts[WM_KEYDOWN] + s_counts[WM_SYSKEYDOWN] > 0;
             return s_counts[WM_KEYUP] >= nUps || (bPressed && ::GetFocus() == nullptr);
+        });
+        PumpPending();
+        return bCame;
+    }
+    /// The release goes nowhere where a press took away the window that had the mouse.
+    bool AwaitClicks(const ButtonKind& kind, int nCount, HWND hWnd) {
+        const bool bCame = PumpUntil([&] {
+            return s_counts[kind.nUpMessage] >= nCount ||
+                   (s_counts[kind.nDownMessage] > 0 && !::IsWindow(hWnd));
         });
         PumpPending();
         return bCame;
@@ -86,13 +102,6 @@ bool Send(std::vector<INPUT> inputs) {
     const UINT nCount = static_cast<UINT>(inputs.size());
     return ::SendInput(nCount, inputs.data(), sizeof(INPUT)) == nCount;
 }
-
-struct ButtonKind {
-    DWORD dwDown;
-    DWORD dwUp;
-    UINT nDownMessage;
-    UINT nUpMessage;
-};
 
 ButtonKind KindOf(MouseButton button) {
     if (button == MouseButton::Right) {
@@ -175,12 +184,12 @@ bool ClickAt(HWND hWnd, CPoint point, MouseButton button, bool bDouble) {
     {
         NoDoubleClicks single;
         if (!Send({MouseInput(kind.dwDown), MouseInput(kind.dwUp)}) ||
-            !watch.Await(kind.nUpMessage, 1)) {
+            !watch.AwaitClicks(kind, 1, hWnd)) {
             return false;
         }
     }
     return !bDouble || (Send({MouseInput(kind.dwDown), MouseInput(kind.dwUp)}) &&
-                        watch.Await(kind.nUpMessage, 2));
+                        watch.AwaitClicks(kind, 2, hWnd));
 }
 
 bool Wheel(HWND hWnd, int nDelta) {

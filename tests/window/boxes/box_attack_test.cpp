@@ -105,7 +105,6 @@ std::vector<Act<OpenListBox>> ActsOfTheList() {
             [](auto& s, int n, auto) { s.box->SortByImageIndex(n % 2); }};
 }
 
-// What the platform's boxes do, which end the program if they go meanwhile.
 // Letters reach a combo box that has no edit; one that has an edit passes them on, and in some
 // states the platform's own does not live through them.
 template <class Box>
@@ -116,6 +115,7 @@ void TypeLetter(CWnd& box, char ch, bool bControl) {
     }
 }
 
+// What the platform's boxes do, which end the program if they go meanwhile.
 template <class Box>
 std::vector<Act<Box>> ActsOfThePlatform() {
     return {[](auto& s, int n, auto) { s.box->DeleteString(static_cast<UINT>(n)); },
