@@ -25,15 +25,18 @@ struct Band {
 // Bands that are not fixed, from what the control tells in twips. bReachable: those alone that lie
 // between 0 and nExtent.
 template <class GetPos, class GetSize>
-std::vector<Band> Bands(long nFirst, long nEnd, int nTwips, LONG nOrigin, bool bReachable,
+std::vector<Band> Bands(long nFirst, long nEnd, int nPerInch, LONG nOrigin, bool bReachable,
                         LONG nExtent, GetPos getPos, GetSize getSize) {
     std::vector<Band> bands;
+    const auto pixels = [&](long nTwips) {
+        return static_cast<LONG>(qv::TwipsToPixels(nTwips, nPerInch));
+    };
     for (long n = nFirst; n < nEnd; ++n) {
-        const LONG nFrom = getPos(n) / nTwips + nOrigin;
+        const LONG nFrom = pixels(getPos(n)) + nOrigin;
         if (bReachable && nFrom > nExtent) {
             break;
         }
-        const LONG nTo = nFrom + getSize(n) / nTwips;
+        const LONG nTo = nFrom + pixels(getSize(n));
         if (!bReachable || nTo > 0) {
             bands.push_back({n, nFrom, nTo});
         }
@@ -83,8 +86,8 @@ void QVFlexGridCtrl::AddCellTools() {
     CRect rcClient;
     GetClientRect(&rcClient);
     CWindowDC dc(this);
-    const int nTwipsX = qv::TwipsPerPixel(dc.GetDeviceCaps(LOGPIXELSX));
-    const int nTwipsY = qv::TwipsPerPixel(dc.GetDeviceCaps(LOGPIXELSY));
+    const int nPerInchX = dc.GetDeviceCaps(LOGPIXELSX);
+    const int nPerInchY = dc.GetDeviceCaps(LOGPIXELSY);
     const long nRows = GetRows();
     const long nCols = GetCols();
     const long nFixedRows = GetFixedRows();
@@ -93,11 +96,11 @@ void QVFlexGridCtrl::AddCellTools() {
         static_cast<LONGLONG>(nRows - nFixedRows) * (nCols - nFixedCols) > kMaxToolTips;
 
     const auto cols = Bands(
-        nFixedCols, nCols, nTwipsX, rcClient.left, bReachable,
+        nFixedCols, nCols, nPerInchX, rcClient.left, bReachable,
         ::GetSystemMetrics(SM_CXVIRTUALSCREEN), [this](long n) { return GetColPos(n); },
         [this](long n) { return GetColWidth(n); });
     const auto rows = Bands(
-        nFixedRows, nRows, nTwipsY, rcClient.top, bReachable,
+        nFixedRows, nRows, nPerInchY, rcClient.top, bReachable,
         ::GetSystemMetrics(SM_CYVIRTUALSCREEN), [this](long n) { return GetRowPos(n); },
         [this](long n) { return GetRowHeight(n); });
 

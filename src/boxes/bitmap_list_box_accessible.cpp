@@ -185,6 +185,10 @@ BOOL QVBitmapListBox::SelectAccessible(long nPart, long nFlags) {
 // The parent is told where the selection may be another one; false once the list is gone.
 bool QVBitmapListBox::SelectAsUser(int nRow, long nFlags) {
     const qv::WindowWatch watch(m_alive, m_hWnd);
+    if ((GetStyle() & LBS_NOSEL) != 0) {
+        qv::GoToListRow(m_hWnd, nRow);
+        return static_cast<bool>(watch);
+    }
     if (!HasSeveralSelected()) {
         if (GetCurSel() != nRow) {
             SetCurSel(nRow);

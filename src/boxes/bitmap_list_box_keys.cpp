@@ -3,6 +3,7 @@
 #include "boxes/bitmap_list_box.h"
 
 #include "boxes/core/box_row.h"
+#include "boxes/list_rows.h"
 #include "frame/clipboard.h"
 #include "frame/core/sheet_text.h"
 #include "frame/core/styled_text.h"
@@ -49,7 +50,8 @@ bool QVBitmapListBox::TakeTypedChar(UINT nChar) {
     if (answer != qv::TypedSearch::Answer::Searches) {
         return answer != qv::TypedSearch::Answer::NotTyped;
     }
-    const int nCurrent = HasSeveralSelected() ? GetCaretIndex() : GetCurSel();
+    const bool bByCaret = HasSeveralSelected() || (GetStyle() & LBS_NOSEL) != 0;
+    const int nCurrent = bByCaret ? GetCaretIndex() : GetCurSel();
     CString strStored;
     const int nFound = Typed().Find(GetCount(), nCurrent, [&](int nRow) {
         strStored = Stored(nRow);
@@ -66,6 +68,10 @@ bool QVBitmapListBox::TakeTypedChar(UINT nChar) {
 // As an arrow key leads to a row.
 void QVBitmapListBox::GoToRow(int nRow) {
     const qv::WindowWatch watch(m_alive, m_hWnd);
+    if ((GetStyle() & LBS_NOSEL) != 0) {
+        qv::GoToListRow(m_hWnd, nRow);
+        return;
+    }
     if (!HasSeveralSelected()) {
         SetCurSel(nRow);
     } else if ((GetStyle() & LBS_EXTENDEDSEL) != 0) {

@@ -28,4 +28,12 @@ bool ListRowRect(HWND hList, int nRow, CRect& rect) {
            rcShown.IntersectRect(&rect, &rcClient);
 }
 
+void GoToListRow(HWND hList, int nRow) {
+    CRect rect;
+    ::SendMessage(hList, LB_SETCARETINDEX, static_cast<WPARAM>(nRow), FALSE);
+    if (!ListRowRect(hList, nRow, rect)) {
+        ::SendMessage(hList, LB_SETTOPINDEX, static_cast<WPARAM>(nRow), 0);
+    }
+}
+
 }  // namespace qv

@@ -11,4 +11,7 @@ int ListRowAt(HWND hList, CPoint pt);
 // False for a row that does not show. Costs no more for one that is far away.
 bool ListRowRect(HWND hList, int nRow, CRect& rect);
 
+// Brings a row into view where none can be selected; the caret goes there if the platform lets it.
+void GoToListRow(HWND hList, int nRow);
+
 }  // namespace qv

@@ -371,10 +371,15 @@ void QVTabView::LayOut(int cx, int cy) {
 // In pixels of the tab control.
 CRect QVTabView::PageArea() {
     const CClientDC dc(this);
-    const int nTwipsX = qv::TwipsPerPixel(dc.GetDeviceCaps(LOGPIXELSX));
-    const int nTwipsY = qv::TwipsPerPixel(dc.GetDeviceCaps(LOGPIXELSY));
-    const CPoint ptTopLeft(m_TabCtrl.GetClientLeft() / nTwipsX, m_TabCtrl.GetClientTop() / nTwipsY);
-    const CSize size(m_TabCtrl.GetClientWidth() / nTwipsX, m_TabCtrl.GetClientHeight() / nTwipsY);
+    const int nPerInchX = dc.GetDeviceCaps(LOGPIXELSX);
+    const int nPerInchY = dc.GetDeviceCaps(LOGPIXELSY);
+    const auto pixels = [](long nTwips, int nPerInch) {
+        return static_cast<int>(qv::TwipsToPixels(nTwips, nPerInch));
+    };
+    const CPoint ptTopLeft(pixels(m_TabCtrl.GetClientLeft(), nPerInchX),
+                           pixels(m_TabCtrl.GetClientTop(), nPerInchY));
+    const CSize size(pixels(m_TabCtrl.GetClientWidth(), nPerInchX),
+                     pixels(m_TabCtrl.GetClientHeight(), nPerInchY));
     return CRect(ptTopLeft, size);
 }
 

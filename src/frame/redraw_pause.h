@@ -2,8 +2,9 @@
 // the scope, unless the window has gone by then.
 //
 // A window that is hidden is left alone: it shows nothing, and turning redraw on would show it. So
-// is one whose redraw is off already, for which that is the same. A window that is told to hide
-// meanwhile comes back: the platform takes it for hidden already and tells nobody.
+// is one whose redraw is off already, for which that is the same; of a control that keeps that to
+// itself the caller has to know. A window that is told to hide meanwhile comes back: the platform
+// takes it for hidden already and tells nobody.
 
 #pragma once
 
@@ -13,8 +14,9 @@ namespace qv {
 
 class RedrawPause {
 public:
-    explicit RedrawPause(const CWnd& wnd)
-        : m_hWnd((wnd.GetStyle() & WS_VISIBLE) != 0 ? wnd.m_hWnd : nullptr) {
+    // bWanted false: the window is left alone.
+    explicit RedrawPause(const CWnd& wnd, bool bWanted = true)
+        : m_hWnd(bWanted && (wnd.GetStyle() & WS_VISIBLE) != 0 ? wnd.m_hWnd : nullptr) {
         Redraw(FALSE);
     }
     ~RedrawPause() { Redraw(TRUE); }

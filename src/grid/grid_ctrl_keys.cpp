@@ -22,8 +22,8 @@ bool QVGridCtrl::Core::HasTyped() const {
     bool bTyped = false;
     qv::MemorySuffices([&] {
         const char* const pszKept = model.Text(cell.nRow, cell.nCol);
-        bTyped = m_grid.AreExpectedKeysEnabled() && editing.IsTyping(cell) &&
-                 edit.Text() != (pszKept != nullptr ? pszKept : "");
+        bTyped = m_grid.AreExpectedKeysEnabled() && m_grid.IsValidRow(cell.nRow) &&
+                 editing.IsTyping(cell) && edit.Text() != (pszKept != nullptr ? pszKept : "");
     });
     return bTyped;
 }

@@ -241,7 +241,7 @@ void QVListCtrlEx::InvalidateData(BOOL bErase) {
 
 // Comes before all maps: a message that a derived class answers by itself changes rows as well.
 LRESULT QVListCtrlEx::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    const bool bContent = m_pCore->SeeMessage(message, lParam);
+    const bool bContent = m_pCore->SeeMessage(message, wParam, lParam);
     const qv::AliveWatch watch(m_alive);
     const LRESULT lResult = CListCtrl::WindowProc(message, wParam, lParam);
     if (!watch) {
@@ -254,7 +254,7 @@ LRESULT QVListCtrlEx::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     return lResult;
 }
 
-bool QVListCtrlEx::Core::SeeMessage(UINT nMessage, LPARAM lParam) {
+bool QVListCtrlEx::Core::SeeMessage(UINT nMessage, WPARAM wParam, LPARAM lParam) {
     const auto* pItem = reinterpret_cast<const LVITEM*>(lParam);
     switch (nMessage) {
         case LVM_INSERTITEMA:
@@ -279,6 +279,9 @@ bool QVListCtrlEx::Core::SeeMessage(UINT nMessage, LPARAM lParam) {
         case LVM_SORTITEMSEX:
             changes.CountOrder();
             return false;
+        case WM_SETREDRAW:
+            bRedraws = wParam != FALSE;
+            return false;
         case WM_STYLECHANGED:
             bSortsItself.reset();
             changes.CountData();
@@ -286,6 +289,14 @@ bool QVListCtrlEx::Core::SeeMessage(UINT nMessage, LPARAM lParam) {
         default:
             return false;
     }
+}
+
+bool QVListCtrlEx::Redraws() const {
+    return m_pCore->bRedraws;
+}
+
+bool QVListCtrlEx::PausesFor(int nRows) const {
+    return Redraws() && nRows > GetCountPerPage();
 }
 
 bool QVListCtrlEx::Core::SeeItem(const LVITEM* pItem, bool bNew) {

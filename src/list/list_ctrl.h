@@ -216,6 +216,7 @@ public:
     long GetNextAccessibleSelected(long nPart) override;
     BOOL SelectAccessible(long nPart, long nFlags) override;
     BOOL DoAccessibleAction(long nPart) override;
+    void DoPostedAccessible(long nPart) override;
 
 protected:
     // --- Steps that a derived class may replace, beside the public ones
@@ -239,6 +240,8 @@ protected:
     // widths is no longer known.
     void SetNumColumns(int nColumns);
     void InvalidateDataWidth() { m_nDataWidth = -1; }
+    // What WM_SETREDRAW said last.
+    bool Redraws() const;
     // From now on rows come from there instead of the control, for the library's own classes; null
     // undoes that. Not owned.
     void SetRowsOnDemand(qv::RowsOnDemand* pRows);
@@ -318,6 +321,8 @@ private:
     bool SortsItself();
     bool TakeTypedChar(UINT nChar);
     void SelectAllRows();
+    // Whether a change of so many rows is drawn at its end.
+    bool PausesFor(int nRows) const;
     void ClickHeading(int nPlace);
 
     int PartRow(long nPart) const;

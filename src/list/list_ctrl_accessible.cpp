@@ -6,6 +6,7 @@
 
 #include "frame/core/spoken_text.h"
 #include "frame/notify.h"
+#include "frame/redraw_pause.h"
 #include "list/list_ctrl_core.h"
 
 #include <algorithm>
@@ -20,6 +21,20 @@ constexpr UINT kCheckedImage = 2;  // of the platform's check boxes
 
 CString ToCString(const std::string& str) {
     return CString(str.data(), static_cast<int>(str.size()));
+}
+
+// The heading that is shown beside another, which users may have moved; -1 at the end.
+int HeadingBeside(HWND hHeadings, int nCol, bool bRight) {
+    HDITEM item{};
+    item.mask = HDI_ORDER;
+    ::SendMessage(hHeadings, HDM_GETITEM, static_cast<WPARAM>(nCol),
+                  reinterpret_cast<LPARAM>(&item));
+    const int nPlace = item.iOrder + (bRight ? 1 : -1);
+    if (nPlace < 0 || nPlace >= Header_GetItemCount(hHeadings)) {
+        return -1;
+    }
+    return static_cast<int>(
+        ::SendMessage(hHeadings, HDM_ORDERTOINDEX, static_cast<WPARAM>(nPlace), 0));
 }
 
 }  // namespace
@@ -217,12 +232,12 @@ long QVListCtrlEx::NavigateAccessible(long nPart, long nDirection) {
         return 0;
     }
     if (bSideways) {
-        nDirection = nDirection == NAVDIR_LEFT ? NAVDIR_PREVIOUS : NAVDIR_NEXT;
+        const int nCol = HeadingBeside(ListView_GetHeader(m_hWnd), PartHeading(nPart),
+                                       nDirection == NAVDIR_RIGHT);
+        return nCol >= 0 ? kFirstHeading + nCol : 0;
     }
     const long nTo = QVAccessible::NavigateAccessible(nPart, nDirection);
-    return nPart != CHILDID_SELF && (bSideways || bUpDown) && bHeading != (PartHeading(nTo) >= 0)
-               ? 0
-               : nTo;
+    return nPart != CHILDID_SELF && bUpDown && PartHeading(nTo) >= 0 ? 0 : nTo;
 }
 
 // --- Focus and selection
@@ -265,6 +280,8 @@ BOOL QVListCtrlEx::SelectAccessible(long nPart, long nFlags) {
         nLast = std::max(nItem, nAnchor);
     }
     constexpr long kOneByOne = SELFLAG_ADDSELECTION | SELFLAG_REMOVESELECTION;
+    const int nSelected = watch ? static_cast<int>(GetSelectedCount()) : 0;
+    const qv::RedrawPause pause(*this, watch && PausesFor(nSelected + nLast - nFirst));
     if (watch && (nFlags & (SELFLAG_TAKESELECTION | SELFLAG_EXTENDSELECTION)) != 0 &&
         (nFlags & kOneByOne) == 0) {
         DeselectAll(watch);
@@ -278,6 +295,9 @@ BOOL QVListCtrlEx::SelectAccessible(long nPart, long nFlags) {
     if (watch && (nFlags & (SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION)) != 0) {
         SetItemState(nItem, LVIS_FOCUSED, LVIS_FOCUSED);
     }
+    if (watch && (nFlags & SELFLAG_TAKESELECTION) != 0) {
+        SetSelectionMark(nItem);  // a selection by SHIFT begins here
+    }
     if (!watch || PartRow(nPart) < 0) {
         return FALSE;
     }
@@ -285,24 +305,34 @@ BOOL QVListCtrlEx::SelectAccessible(long nPart, long nFlags) {
     return TRUE;
 }
 
-// A click on a heading, a double click on a row.
+// A click on a heading, a double click on a row. The row is selected at once.
 BOOL QVListCtrlEx::DoAccessibleAction(long nPart) {
     if (!IsWindowEnabled() || GetAccessibleAction(nPart).IsEmpty()) {
         return FALSE;
+    }
+    const qv::WindowWatch watch(m_alive, m_hWnd);
+    if (PartHeading(nPart) < 0 &&
+        !SelectAccessible(nPart, SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION)) {
+        return FALSE;
+    }
+    return watch && PostAccessible(nPart);
+}
+
+void QVListCtrlEx::DoPostedAccessible(long nPart) {
+    if (!IsWindowEnabled()) {
+        return;
     }
     if (const int nCol = PartHeading(nPart); nCol >= 0) {
         NMLISTVIEW notification{};
         notification.iItem = -1;
         notification.iSubItem = nCol;
         qv::NotifyParent(*this, m_alive, static_cast<UINT>(LVN_COLUMNCLICK), notification.hdr);
-        return TRUE;
+        return;
     }
-    const qv::WindowWatch watch(m_alive, m_hWnd);
     CRect rect;
     CRect rcRows;
-    if (!SelectAccessible(nPart, SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION) || !watch ||
-        !GetAccessibleRect(nPart, rect)) {
-        return FALSE;
+    if (!GetAccessibleRect(nPart, rect)) {
+        return;
     }
     RowsRect(rcRows);
     rect.IntersectRect(&rect, &rcRows);
@@ -314,7 +344,6 @@ BOOL QVListCtrlEx::DoAccessibleAction(long nPart) {
     if (qv::NotifyParent(*this, m_alive, static_cast<UINT>(NM_DBLCLK), notification.hdr).bAlive) {
         qv::NotifyParent(*this, m_alive, static_cast<UINT>(LVN_ITEMACTIVATE), notification.hdr);
     }
-    return TRUE;
 }
 
 // --- Events
@@ -372,6 +401,15 @@ void QVListCtrlEx::TellChange(UINT nMessage, WPARAM wParam, LPARAM lParam) {
             const auto* pItem = reinterpret_cast<const LVITEM*>(lParam);
             if (pItem != nullptr && (pItem->mask & LVIF_TEXT) != 0) {
                 TellAccessible(EVENT_OBJECT_NAMECHANGE, pItem->iItem + 1);
+            }
+            break;
+        }
+        case LVM_SETCOLUMNA:
+        case LVM_SETCOLUMNW: {
+            const auto* pColumn = reinterpret_cast<const LVCOLUMN*>(lParam);
+            const long nPart = kFirstHeading + static_cast<long>(wParam);
+            if (pColumn != nullptr && (pColumn->mask & LVCF_TEXT) != 0 && PartHeading(nPart) >= 0) {
+                TellAccessible(EVENT_OBJECT_NAMECHANGE, nPart);
             }
             break;
         }

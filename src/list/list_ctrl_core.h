@@ -15,7 +15,7 @@ class QVListCtrlEx::Core {
 public:
     // The messages that change what is kept here; true if they change texts, item data, or which
     // rows and columns there are.
-    bool SeeMessage(UINT nMessage, LPARAM lParam);
+    bool SeeMessage(UINT nMessage, WPARAM wParam, LPARAM lParam);
 
     qv::ListColumns columns;
     qv::RowChanges changes;
@@ -29,6 +29,7 @@ public:
     HWND hTold = nullptr;
     qv::RowsOnDemand* pRows = nullptr;  // null: the control has them
     bool bPrintComplete = true;
+    bool bRedraws = true;  // what WM_SETREDRAW said last
 
 private:
     bool SeeItem(const LVITEM* pItem, bool bNew);

@@ -7,6 +7,7 @@
 #include "frame/core/typed_search.h"
 #include "frame/edit_command.h"
 #include "frame/out_of_memory.h"
+#include "frame/redraw_pause.h"
 
 // The control sees every key, and its parent is told of it. Characters are the control's own only
 // where they find no row.
@@ -45,8 +46,12 @@ bool QVListCtrlEx::TakeTypedChar(UINT nChar) {
     }
     const qv::WindowWatch watch(m_alive, m_hWnd);
     const int nCurrent = GetNextItem(-1, LVNI_FOCUSED);
+    int nFirstShown = FirstTextColumn();
+    while (nFirstShown + 1 < NumColumns() && GetColWidth(nFirstShown, nullptr) == 0) {
+        ++nFirstShown;
+    }
     const int nFound = typed.Find(GetItemCount(), nCurrent, [&](int nItem) {
-        LPCSTR pszText = CellText(nItem, FirstTextColumn());
+        LPCSTR pszText = CellText(nItem, nFirstShown);
         return watch ? ParseStyleText(pszText) : nullptr;  // a parent may be asked for the text
     });
     if (!watch || nFound == -1) {
@@ -54,9 +59,12 @@ bool QVListCtrlEx::TakeTypedChar(UINT nChar) {
     }
     // As an arrow key leads to a row.
     constexpr UINT kStates = LVIS_SELECTED | LVIS_FOCUSED;
-    for (int nOld = -1; watch && (nOld = GetNextItem(nOld, LVNI_SELECTED)) != -1;) {
-        if (nOld != nFound) {
-            SetItemState(nOld, 0, LVIS_SELECTED);
+    {
+        const qv::RedrawPause pause(*this, PausesFor(static_cast<int>(GetSelectedCount())));
+        for (int nOld = -1; watch && (nOld = GetNextItem(nOld, LVNI_SELECTED)) != -1;) {
+            if (nOld != nFound) {
+                SetItemState(nOld, 0, LVIS_SELECTED);
+            }
         }
     }
     if (watch) {
@@ -73,6 +81,7 @@ bool QVListCtrlEx::TakeTypedChar(UINT nChar) {
 // all at once, which one over an application's rows alone can do fast.
 void QVListCtrlEx::SelectAllRows() {
     const qv::WindowWatch watch(m_alive, m_hWnd);
+    const qv::RedrawPause pause(*this, PausesFor(GetItemCount()));
     if ((GetStyle() & LVS_OWNERDATA) != 0) {
         SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
         return;

@@ -14,7 +14,6 @@
 IMPLEMENT_DYNCREATE(QVSortingListCtrl, QVListCtrlEx)
 
 BEGIN_MESSAGE_MAP(QVSortingListCtrl, QVListCtrlEx)
-    ON_MESSAGE(WM_SETREDRAW, &QVSortingListCtrl::OnSetRedraw)
     ON_MESSAGE(LVM_SETCOLUMNA, &QVSortingListCtrl::OnSetColumn)
     ON_MESSAGE(LVM_SETCOLUMNW, &QVSortingListCtrl::OnSetColumn)
     ON_MESSAGE(LVM_GETITEMA, &QVSortingListCtrl::OnGetListItem)
@@ -194,7 +193,7 @@ bool QVSortingListCtrl::Sort::ReadKeys(int nCol) {
 
 bool QVSortingListCtrl::Sort::Park() {
     // The control would invalidate each row that it gets new data for, and then all of them.
-    m_bHoldsRedraw = m_list.m_bRedraw && (m_list.GetStyle() & WS_VISIBLE) != 0;
+    m_bHoldsRedraw = m_list.Redraws() && (m_list.GetStyle() & WS_VISIBLE) != 0;
     if (m_bHoldsRedraw) {
         m_list.SetRedraw(FALSE);
     }
@@ -267,11 +266,6 @@ LRESULT QVSortingListCtrl::OnGetListItem(WPARAM, LPARAM lParam) {
         }
     }
     return lResult;
-}
-
-LRESULT QVSortingListCtrl::OnSetRedraw(WPARAM wParam, LPARAM) {
-    m_bRedraw = wParam != FALSE;
-    return Default();
 }
 
 void QVSortingListCtrl::SortOnHeader(int nCol) {

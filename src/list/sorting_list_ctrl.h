@@ -44,8 +44,6 @@ protected:
     // memory the rows stay as they are, and so does the direction.
     void SortOnHeader(int nCol) override;
     int HeaderColumnCount(LPCSTR pszHeaders) const;
-    // What WM_SETREDRAW said last.
-    bool Redraws() const { return m_bRedraw; }
     static int CALLBACK SortFunc(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort);
 
     afx_msg LRESULT OnGetListItem(WPARAM wParam, LPARAM lParam);
@@ -53,7 +51,6 @@ protected:
     // m_bAscending from now on, or in none. The heading is told so.
     void SetSorted(bool bSorted);
 
-    afx_msg LRESULT OnSetRedraw(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSetColumn(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
@@ -68,7 +65,6 @@ private:
 
     Sort* m_pSort = nullptr;              // lives for one sort
     std::shared_ptr<const Kept> m_pKept;  // of the last sort
-    bool m_bRedraw = true;
     BOOL m_bSortArrow = FALSE;
     bool m_bSorted = false;
 

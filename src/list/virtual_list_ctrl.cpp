@@ -97,6 +97,7 @@ void QVVirtualListCtrl::RowsChanged() {
     if (m_hWnd != nullptr) {
         InvalidateData(FALSE);
     }
+    TellAccessibleReorder();
 }
 
 int QVVirtualListCtrl::DataRow(int nItem) const {
@@ -228,6 +229,7 @@ void QVVirtualListCtrl::MoveRows(Move move) {
     move();
     qv::MemorySuffices([&] { marks.Put(); });
     KeepOnTop(nTop);  // the control shows an item that gets the focus
+    TellAccessibleReorder();
 }
 
 BOOL QVVirtualListCtrl::SortByColumn(int nCol, BOOL bAscending) {

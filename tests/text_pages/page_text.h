@@ -39,6 +39,25 @@ inline std::wstring FromPage(const std::string& str) {
     return strWide;
 }
 
+/// Whether the keyboard has all of these characters; its code page need not be the process's.
+inline bool OnKeyboard(const std::wstring& str) {
+    const auto wLanguage = LOWORD(reinterpret_cast<DWORD_PTR>(::GetKeyboardLayout(0)));
+    wchar_t szPage[8] = L"";
+    ::GetLocaleInfoW(wLanguage, LOCALE_IDEFAULTANSICODEPAGE, szPage, 8);
+    BOOL bLost = FALSE;
+    char szKeys[100];
+    return ::WideCharToMultiByte(static_cast<UINT>(_wtoi(szPage)), WC_NO_BEST_FIT_CHARS,
+                                 str.c_str(), -1, szKeys, 100, nullptr, &bLost) > 0 &&
+           !bLost;
+}
+
+/// All at one time, as the system brings keys to a window that is not wide.
+inline void TypeWide(HWND hWnd, const std::wstring& str) {
+    for (const wchar_t c : str) {
+        ::SendMessageW(hWnd, WM_CHAR, c, 1);
+    }
+}
+
 /// What the wide call says of a window.
 inline std::wstring WideTextOf(HWND hWnd) {
     wchar_t szText[1000] = L"";

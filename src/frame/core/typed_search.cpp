@@ -9,6 +9,7 @@ constexpr std::size_t kMostBytes = 256;  // nobody's row is found by more
 }  // namespace
 
 void TypedSearch::Forget() {
+    m_strKeyed.clear();
     m_strTyped.clear();
     m_strSearched.clear();
     m_nWhole = 0;
@@ -19,14 +20,22 @@ TypedSearch::Answer TypedSearch::Type(unsigned char byte, unsigned nTime) {
     if (nTime - m_nLast > kPause) {
         Forget();
     }
-    if (byte < ' ' || byte == kDelete || (byte == ' ' && m_strTyped.empty())) {
+    const bool bBegins = m_strTyped.empty() && m_strKeyed.empty();
+    if (byte < ' ' || byte == kDelete || (byte == ' ' && bBegins)) {
         return Answer::NotTyped;
     }
     m_nLast = nTime;
     if (m_strTyped.size() >= kMostBytes) {
         return Answer::Waits;
     }
-    m_strTyped += static_cast<char>(byte);
+    m_strKeyed += static_cast<char>(byte);
+    const std::string strBytes =
+        m_pfnFromKeyboard != nullptr ? m_pfnFromKeyboard(m_strKeyed) : m_strKeyed;
+    if (strBytes.empty()) {
+        return Answer::Waits;
+    }
+    m_strKeyed.clear();
+    m_strTyped += strBytes;
     if (!IsWhole()) {
         return Answer::Waits;
     }

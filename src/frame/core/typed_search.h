@@ -3,13 +3,15 @@
 // through the rows that begin with it.
 //
 // Rows are compared by the text that they show, without regard to case, as the process's code page
-// has it. A character of several bytes comes byte by byte, and counts once it is whole.
+// has it. A character of several bytes comes byte by byte, and counts once it is whole. Keyboards
+// type in a code page of their own, which need not be the process's.
 
 #pragma once
 
 #include "base/multi_byte.h"
 
 #include <string>
+#include <string_view>
 
 namespace qv {
 
@@ -23,7 +25,12 @@ public:
         Searches,
     };
 
-    explicit TypedSearch(const MultiByte& text) : m_text(text) {}
+    // Bytes that were typed, as they are in the process's code page; empty if more have to come.
+    using FromKeyboard = std::string (*)(std::string_view bytes);
+
+    // Null: keyboards type as the process has it.
+    explicit TypedSearch(const MultiByte& text, FromKeyboard pfnFromKeyboard = nullptr)
+        : m_text(text), m_pfnFromKeyboard(pfnFromKeyboard) {}
 
     // nTime is in milliseconds, of any clock that wraps around.
     Answer Type(unsigned char byte, unsigned nTime);
@@ -46,6 +53,8 @@ private:
     bool RepeatsFirst() const;
 
     const MultiByte& m_text;
+    const FromKeyboard m_pfnFromKeyboard;
+    std::string m_strKeyed;  // the keyboard's bytes of a character that is not whole yet
     std::string m_strTyped;
     std::size_t m_nWhole = 0;   // bytes of it that are whole characters
     std::string m_strSearched;  // all of it, or its first character where that is repeated

@@ -56,4 +56,29 @@ TEST(TypedSearch, RowsAreFoundByWhatIsTypedInTime) {
     }
 }
 
+// A keyboard with characters of two bytes, the first of which is X: they double the second.
+std::string FromDoubleKeyboard(std::string_view bytes) {
+    if (bytes[0] != 'X') {
+        return std::string(bytes);
+    }
+    return bytes.size() < 2 ? std::string() : std::string(2, bytes[1]);
+}
+
+TEST(TypedSearch, KeyboardsTypeInACodePageOfTheirOwn) {
+    const MultiByte text;
+    TypedSearch search(text, FromDoubleKeyboard);
+    const char* const rows[] = {"Xoo", "aooc"};
+    const auto type = [&](char ch) {
+        return search.Type(static_cast<unsigned char>(ch), 0) == TypedSearch::Answer::Searches
+                   ? search.Find(2, -1, [&](int n) { return rows[n]; })
+                   : -2;
+    };
+    const std::pair<char, int> typed[] = {{'a', 1}, {'X', -2}, {'o', 1}, {'C', 1}, {'X', -2}};
+    for (const auto& [ch, nFound] : typed) {
+        EXPECT_EQ(type(ch), nFound) << ch;
+    }
+    search.Forget();
+    EXPECT_EQ(type('a'), 1) << "half a character is forgotten";
+}
+
 }  // namespace qv

@@ -2,6 +2,7 @@
 // anything in any order, from this one.
 #include "support/accessible_questions.h"
 #include "support/list_window.h"
+#include "support/real_input.h"
 
 #include <gtest/gtest.h>
 #include <oleacc.h>
@@ -237,6 +238,55 @@ TEST_F(AccessibleList, SaysRowsAndHeadings) {
             {"hit " + OnScreen(w.list, CPoint(5, 190)), "0"}});
 }
 
+TEST_F(AccessibleList, IsWalkedAsItIsShown) {
+    int order[] = {2, 0, 1};
+    w.list.SetColumnOrderArray(3, order);
+    Expect({{"go 1073741824 3", "1073741826"},
+            {"go 1073741824 4", "1073741825"},
+            {"go 1073741825 4", "none"},
+            {"go 1073741826 3", "none"},
+            {"go 1073741826 1", "none"}});
+}
+
+TEST_F(AccessibleList, TellsAHeadingThatIsAnother) {
+    Ask("heard");
+    LVCOLUMN column{};
+    column.mask = LVCF_TEXT;
+    column.pszText = const_cast<char*>("Weight");
+    w.list.SetColumn(1, &column);
+    Expect({{"heard", "name 1073741825"},
+            {"say 1073741825", "column header \"Weight\" [] action \"Click\""}});
+}
+
+TEST_F(AccessibleList, KeysGoOnFromTheRowThatWasSelected) {
+    BringToFront(w.parent.m_hWnd);
+    w.list.SetFocus();
+    ClickAt(w.list.m_hWnd, w.RectOf(2).CenterPoint());
+    Expect({{"select 1 3", kDone}});
+    TypeKey(VK_DOWN, true);
+    Expect({{"selection", "1 2"}});
+}
+
+TEST_F(Accessible, AListOverAProgramsRowsTellsNewOrders) {
+    class Rows : public QVRowSource {
+        void GetRow(int nRow, QVLISTROW& row) override { row.strText.Format("row %d", nRow); }
+    } rows;
+    ListWindow<QVVirtualListCtrl> w("a");
+    w.list.SetRowSource(&rows);
+    w.list.SetRowCount(100'000);
+    PumpPending();
+    Watch(w.list);
+    for (const bool bSorts : {true, false}) {
+        bSorts ? void(w.list.SortByColumn(0, FALSE)) : w.list.RestoreOrder();
+        EXPECT_EQ(Ask("heard"), "reorder 0");
+        EXPECT_EQ(Ask("say 1").find(bSorts ? "list item \"row 99999\"" : "list item \"row 0\""),
+                  0u);
+    }
+    w.list.RowsChanged();
+    Expect({{"heard", "reorder 0"}, {"count", "100001"}});
+    w.list.DestroyWindow();
+}
+
 TEST_F(AccessibleList, SelectsAndTells) {
     Ask("heard");
     Expect({{"select 1 3", kDone},
@@ -252,8 +302,31 @@ TEST_F(AccessibleList, SelectsAndTells) {
     w.Add("new\trow");
     Expect({{"heard", "name 2, reorder 0"}});
     w.parent.Forget();
-    Expect({{"do 2", kDone}, {"do 1073741824", kDone}, {"do 3", kDone}});
+    for (const char* pszDeed : {"do 2", "do 1073741824", "do 3"}) {
+        Expect({{pszDeed, kDone}});
+        PumpPending();
+    }
     EXPECT_EQ(w.parent.Count(static_cast<UINT>(NM_DBLCLK)), 2);
+    EXPECT_EQ(w.parent.Count(static_cast<UINT>(LVN_ITEMACTIVATE)), 2);
+}
+
+// As long as a dialog that the parent brings up, say.
+TEST_F(AccessibleList, WhoAsksForADeedDoesNotWaitForTheParent) {
+    IAccessible* pObject = nullptr;
+    ASSERT_EQ(
+        ::AccessibleObjectFromWindow(w.list.m_hWnd, static_cast<DWORD>(OBJID_CLIENT),
+                                     __uuidof(IAccessible), reinterpret_cast<void**>(&pObject)),
+        S_OK);
+    const auto told = [&] { return w.parent.Count(static_cast<UINT>(NM_DBLCLK)); };
+    VARIANT part{};
+    part.vt = VT_I4;
+    part.lVal = 2;
+    w.parent.Forget();
+    EXPECT_EQ(pObject->accDoDefaultAction(part), S_OK);
+    EXPECT_EQ(told(), 0);
+    PumpPending();
+    EXPECT_EQ(told(), 1);
+    pObject->Release();
 }
 
 // --- From this process, anything in any order

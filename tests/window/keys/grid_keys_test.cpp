@@ -106,7 +106,9 @@ TEST_F(GridKeys, EditsAreTakenBackAndMadeAgain) {
     w.grid.SetCellReadOnly(1, kEdit, TRUE);
     Control('Z');
     EXPECT_EQ(all() + w.Text(1, 2), "firstpabcabcdef") << "all but what cannot be edited";
+    TypeText("of no row");
     w.grid.DeleteAllRows();
+    EXPECT_FALSE(w.grid.CanUndoEdit());
     EXPECT_FALSE(w.grid.UndoEdit());
     EXPECT_FALSE(w.grid.CanUndoEdit());
 }

@@ -2,10 +2,12 @@
 #include "support/box_window.h"
 #include "support/clipboard_text.h"
 #include "support/held_keys.h"
+#include "support/picture.h"
 #include "support/pump.h"
 #include "support/real_input.h"
 
 #include <gtest/gtest.h>
+#include <oleacc.h>
 
 namespace {
 
@@ -135,6 +137,59 @@ TEST(ListKeys, SelectCopyAndSortOnlyIfTheyAreEnabled) {
     EXPECT_EQ(w.list.GetSelectedCount(), 0u);
 }
 
+TEST(ListKeys, AreAboutWhatShows) {
+    ListWindow<> w("key\tname");
+    w.list.ModifyStyle(LVS_SINGLESEL, 0);
+    for (const char* psz : {"n1\tmoon", "m2\tnight"}) {
+        w.Add(psz);
+    }
+    w.list.EnableExpectedKeys();
+    SendText(w.list.m_hWnd, "n");
+    EXPECT_EQ(w.list.GetSelectedItem(), 0);
+    w.list.SetColWidth(0, 0, nullptr);
+    w.list.EnableExpectedKeys();
+    SendText(w.list.m_hWnd, "n");
+    EXPECT_EQ(w.list.GetSelectedItem(), 1) << "a column without a width is not read";
+}
+
+// A list that draws row by row takes ten times as long.
+TEST(ListKeys, ChangeManyRowsInOnePiece) {
+    ListWindow<> w("a");
+    w.list.ModifyStyle(LVS_SINGLESEL, 0);
+    for (int i = 0; i < 100; ++i) {
+        w.Add("row");
+    }
+    w.list.EnableExpectedKeys();
+    Picture::Fresh(w.list);
+    int nTold = 0;
+    int nDue = 0;
+    w.parent.m_hook = [&](NMHDR* pHdr, LRESULT*) {
+        const bool bChanged = pHdr->code == LVN_ITEMCHANGED;
+        nTold += bChanged;
+        nDue += bChanged && w.list.GetUpdateRect(nullptr);
+        return false;
+    };
+    SendKey(w.list.m_hWnd, 'A', true);
+    EXPECT_EQ(w.list.GetSelectedCount(), 100u);
+    EXPECT_EQ(nTold, 100);
+    EXPECT_EQ(nDue, 0);
+    Picture shown = Picture::OfClient(w.list);
+    EXPECT_TRUE(shown == Picture::Fresh(w.list));
+    SendText(w.list.m_hWnd, "r");
+    EXPECT_EQ(w.list.GetSelectedCount(), 1u);
+    shown = Picture::OfClient(w.list);
+    EXPECT_TRUE(shown == Picture::Fresh(w.list));
+
+    w.list.SetRedraw(FALSE);
+    for (const auto& act : {std::function([&] { SendKey(w.list.m_hWnd, 'A', true); }),
+                            std::function([&] { SendText(w.list.m_hWnd, "r"); })}) {
+        act();
+        EXPECT_FALSE(w.list.GetUpdateRect(nullptr)) << "the program's own pause ended";
+    }
+    w.list.SetRedraw(TRUE);
+    w.parent.m_hook = nullptr;
+}
+
 // --- Boxes
 
 TEST(BoxKeys, ALettersRowIsSelectedAndTold) {
@@ -160,6 +215,25 @@ TEST(BoxKeys, ALettersRowIsSelectedAndTold) {
         EXPECT_EQ(Clipboard(),
                   dwStyle == 0 ? "Bent\r\n" : "alpha\tx\r\nbe\t\"\"\"y\"\"\"\r\nBent\r\n");
     }
+}
+
+TEST(BoxKeys, AListThatSelectsNothingShowsTheRow) {
+    constexpr int kFound = 40;
+    constexpr int kRows = 50;
+    BoxWindow<OpenListBox> w(LBS_NOSEL);
+    for (int i = 0; i < kRows; ++i) {
+        w.box->AddBitmapString(1, i == kFound ? "beta" : "alpha");
+    }
+    w.box->EnableExpectedKeys();
+    CRect rect;
+    for (const bool bByReader : {false, true}) {
+        w.box->SetTopIndex(0);
+        bByReader ? void(w.box->SelectAccessible(kFound + 1, SELFLAG_TAKEFOCUS))
+                  : SendText(w.box->m_hWnd, "b");
+        EXPECT_TRUE(w.box->GetAccessibleRect(kFound + 1, rect)) << bByReader;
+        EXPECT_EQ(w.box->GetCurSel(), LB_ERR);
+    }
+    EXPECT_EQ(w.parent.CountCommands(LBN_SELCHANGE), 0);
 }
 
 template <class Box>
