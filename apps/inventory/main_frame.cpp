@@ -1,6 +1,7 @@
 #include "main_frame.h"
 
 #include "errors.h"
+#include "frame_size.h"
 #include "inventory_app.h"
 #include "model/count_text.h"
 #include "opening.h"
@@ -15,6 +16,8 @@
 namespace {
 
 constexpr char kPackageDatabase[] = "Z:\\var\\lib\\dpkg\\status";
+const CSize kFirstSize(1120, 760);
+const CSize kLeastSize(480, 360);
 const UINT s_nFindMessage = FindDesk::Message();
 
 }  // namespace
@@ -23,6 +26,7 @@ BEGIN_MESSAGE_MAP(MainFrame, CFrameWnd)
     ON_WM_CREATE()
     ON_WM_SETFOCUS()
     ON_WM_CLOSE()
+    ON_WM_GETMINMAXINFO()
     ON_WM_QUERYENDSESSION()
     ON_COMMAND_EX(ID_VIEW_TOOLBAR, &MainFrame::OnBar)
     ON_COMMAND_EX(ID_VIEW_STATUS_BAR, &MainFrame::OnBar)
@@ -39,11 +43,9 @@ BEGIN_MESSAGE_MAP(MainFrame, CFrameWnd)
 END_MESSAGE_MAP()
 
 BOOL MainFrame::PreCreateWindow(CREATESTRUCT& cs) {
-    // As large for any size of the system's fonts, as far as the screen goes.
-    const CClientDC dc(nullptr);
-    const int nDpi = dc.GetDeviceCaps(LOGPIXELSX);
-    cs.cx = std::min(::MulDiv(1120, nDpi, 96), ::GetSystemMetrics(SM_CXSCREEN));
-    cs.cy = std::min(::MulDiv(760, nDpi, 96), ::GetSystemMetrics(SM_CYSCREEN));
+    const CSize size = OnScreen(kFirstSize);
+    cs.cx = size.cx;
+    cs.cy = size.cy;
     cs.style &= ~static_cast<LONG>(FWS_ADDTOTITLE);
     return CFrameWnd::PreCreateWindow(cs);
 }
@@ -107,6 +109,12 @@ BOOL MainFrame::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* 
 
 void MainFrame::OnSetFocus(CWnd*) {
     m_pages.SetFocus();
+}
+
+// No smaller than what shows something of each part.
+void MainFrame::OnGetMinMaxInfo(MINMAXINFO* pInfo) {
+    CFrameWnd::OnGetMinMaxInfo(pInfo);
+    pInfo->ptMinTrackSize = CPoint(OnScreen(kLeastSize));
 }
 
 void MainFrame::OnClose() {
@@ -281,9 +289,10 @@ void MainFrame::OnUpdateMessage(CCmdUI* pCmdUI) {
     if (IsTracking()) {
         return;  // it says what the command below the mouse does
     }
-    CString strText = m_strProblem;
+    // How a search or an export went is newer than what was wrong with the database.
+    CString strText = m_pages.Active().Message();
     if (strText.IsEmpty()) {
-        strText = m_pages.Active().Message();
+        strText = m_strProblem;
     }
     if (strText.IsEmpty()) {
         strText = (CountText(m_pInventory->CountPackages(), "package") + " in " +

@@ -59,6 +59,7 @@ protected:
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg void OnClose();
+    afx_msg void OnGetMinMaxInfo(MINMAXINFO* pInfo);
     afx_msg BOOL OnQueryEndSession();
     afx_msg BOOL OnBar(UINT nID);
     afx_msg void OnReload();

@@ -134,7 +134,6 @@ void ChangedGrid::Show(const std::vector<Difference>& differences) {
     Fill();
     ColorColumns();
     SetCol(kSectionColumns);
-    SetColSel(kSectionColumns);
     long nFront = kHeadingRows;
     long nTop = kHeadingRows;
     long nRow = kHeadingRows;
@@ -146,6 +145,7 @@ void ChangedGrid::Show(const std::vector<Difference>& differences) {
         ++nRow;
     }
     PickRow(*this, nFront, nFront);
+    SetColSel(differences.empty() ? kSectionColumns : kColumns - 1);
     SetTopRow(nTop);
     SetRedraw(TRUE);
 }
@@ -234,10 +234,12 @@ int ChangedGrid::Row() {
     return pDifference != nullptr ? static_cast<int>(pDifference - m_pDifferences->data()) : -1;
 }
 
+// All of the row, which shows while another window has the focus as well.
 void ChangedGrid::GoTo(int nRow) {
     const long nCell = kHeadingRows + nRow;
+    SetCol(kSectionColumns);
     PickRow(*this, nCell, nCell);
-    SetColSel(GetCol());
+    SetColSel(kColumns - 1);
     if (!GetRowIsVisible(nCell)) {
         SetTopRow(nCell);
     }

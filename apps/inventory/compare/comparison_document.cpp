@@ -47,7 +47,7 @@ BOOL ComparisonDocument::OnOpenDocument(LPCTSTR lpszPathName) {
         pFailure = Failed(kErrorCompare, ProblemReason(problem));
     }
     if (pFailure != nullptr) {
-        Tell(std::move(pFailure));
+        Tell(std::move(pFailure), ShownFrame());
         return FALSE;
     }
     // What views hold of the packages that were there goes before them.
@@ -58,6 +58,13 @@ BOOL ComparisonDocument::OnOpenDocument(LPCTSTR lpszPathName) {
     m_strNow = NameAndDay(frame.ShownFile());
     UpdateAllViews(nullptr);
     return TRUE;
+}
+
+// The window that shows it, which comes to the front again behind a dialog; null: none does so far.
+CFrameWnd* ComparisonDocument::ShownFrame() const {
+    POSITION pos = GetFirstViewPosition();
+    CFrameWnd* const pFrame = pos != nullptr ? GetNextView(pos)->GetParentFrame() : nullptr;
+    return pFrame != nullptr && pFrame->IsWindowVisible() ? pFrame : nullptr;
 }
 
 void ComparisonDocument::OnAgain() {

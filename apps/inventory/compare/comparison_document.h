@@ -29,6 +29,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    CFrameWnd* ShownFrame() const;
+
     std::shared_ptr<const Inventory> m_pBefore = std::make_shared<Inventory>();
     std::shared_ptr<const Inventory> m_pNow = m_pBefore;
     Comparison m_comparison;

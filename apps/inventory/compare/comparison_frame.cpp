@@ -1,10 +1,9 @@
 #include "compare/comparison_frame.h"
 
 #include "compare/comparison_view.h"
+#include "frame_size.h"
 #include "resource.h"
 #include "work.h"
-
-#include <algorithm>
 
 namespace {
 
@@ -21,10 +20,9 @@ BEGIN_MESSAGE_MAP(ComparisonFrame, CFrameWnd)
 END_MESSAGE_MAP()
 
 BOOL ComparisonFrame::PreCreateWindow(CREATESTRUCT& cs) {
-    const CClientDC dc(nullptr);
-    const int nDpi = dc.GetDeviceCaps(LOGPIXELSX);
-    cs.cx = std::min(::MulDiv(960, nDpi, 96), ::GetSystemMetrics(SM_CXSCREEN));
-    cs.cy = std::min(::MulDiv(600, nDpi, 96), ::GetSystemMetrics(SM_CYSCREEN));
+    const CSize size = OnScreen(CSize(960, 600));
+    cs.cx = size.cx;
+    cs.cy = size.cy;
     return CFrameWnd::PreCreateWindow(cs);
 }
 

@@ -1,6 +1,7 @@
 #include "dialogs/export_dialog.h"
 
 #include "QVControls.h"
+#include "sources/disk_file.h"
 
 #include <dlgs.h>
 
@@ -67,10 +68,35 @@ void ExportDialog::DoDataExchange(CDataExchange* pDX) {
     CDialog::DoDataExchange(pDX);
     DDX_Text(pDX, IDC_EXPORT_PATH, m_strPath);
     DDX_CBIndex(pDX, IDC_EXPORT_SEPARATOR, m_nSeparator);
-    if (pDX->m_bSaveAndValidate && m_strPath.IsEmpty()) {
+    if (!pDX->m_bSaveAndValidate) {
+        m_strFolder = QVPath(m_strPath).GetParent();
+        return;
+    }
+    if (m_strPath.IsEmpty()) {
         AfxMessageBox("Name the file that the list is to be written to.", MB_ICONINFORMATION);
         pDX->Fail();
     }
+    // A name alone is one in the folder that was offered.
+    if (!QVPath(m_strPath).IsAbsolute() && !m_strFolder.IsEmpty()) {
+        QVPath path(m_strFolder);
+        path.Append(m_strPath);
+        m_strPath = path.GetPath();
+    }
+    if (!MayReplace()) {
+        pDX->Fail();
+    }
+}
+
+// What is there is not lost without a question; the platform's dialog has asked already.
+bool ExportDialog::MayReplace() {
+    CFileStatus status;
+    if (m_strPath == m_strBrowsed || !CFile::GetStatus(m_strPath, status) ||
+        (status.m_attribute & CFile::directory) != 0 || IsDevice(m_strPath)) {
+        return true;
+    }
+    return AfxMessageBox(
+               "There is a file " + m_strPath + " already. Is the list to take its place?",
+               MB_YESNO | MB_ICONQUESTION | MB_DEFBUTTON2) == IDYES;
 }
 
 void ExportDialog::OnPathChanged() {
@@ -89,6 +115,7 @@ void ExportDialog::OnBrowse() {
     TableFileDialog dialog(strPath, this);
     dialog.SetDlgTitle(IDS_LIST_FILE);
     if (dialog.DoModal() == IDOK) {
-        SetDlgItemText(IDC_EXPORT_PATH, dialog.GetPathName());
+        m_strBrowsed = dialog.GetPathName();
+        SetDlgItemText(IDC_EXPORT_PATH, m_strBrowsed);
     }
 }

@@ -23,4 +23,10 @@ protected:
     afx_msg void OnBrowse();
     afx_msg void OnPathChanged();
     DECLARE_MESSAGE_MAP()
+
+private:
+    bool MayReplace();
+
+    CString m_strFolder;   // that was offered
+    CString m_strBrowsed;  // what the platform's dialog gave, empty until then
 };

@@ -417,6 +417,7 @@ ReadyStep::ReadyStep(ReportStepOwner& wizard)
 void ReadyStep::Offer() {
     m_summary.Initialize(IDC_READY_SUMMARY, this, TRUE);
     m_summary.SetExactLayout(TRUE);
+    m_summary.EnableExpectedKeys();
     m_summary.SetFont(GetFont());
     SetDlgItemText(IDC_READY_NAME, Edited().strName.c_str());
     static_cast<CEdit*>(GetDlgItem(IDC_READY_NAME))->LimitText(kLongestReportName);

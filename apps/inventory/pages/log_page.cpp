@@ -42,9 +42,9 @@ int LogPage::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     if (Page::OnCreate(lpCreateStruct) == -1 ||
         !m_left.Create(kStyle, rcNone, this, IDC_LOG_LEFT) ||
         !m_right.Create(kStyle, rcNone, this, IDC_LOG_RIGHT) ||
-        !m_btnOpen.Create("Open a log...", WS_CHILD | WS_VISIBLE | WS_TABSTOP, rcNone, this,
+        !m_btnOpen.Create("Open a lo&g...", WS_CHILD | WS_VISIBLE | WS_TABSTOP, rcNone, this,
                           ID_LOG_OPEN) ||
-        !m_btnApplication.Create("The application's own log", WS_CHILD | WS_VISIBLE | WS_TABSTOP,
+        !m_btnApplication.Create("The &application's own log", WS_CHILD | WS_VISIBLE | WS_TABSTOP,
                                  rcNone, this, ID_LOG_APPLICATION)) {
         return -1;
     }

@@ -34,7 +34,11 @@ BOOL PackageBrowser::Create(CWnd* pParent, CFont* pFont) {
     for (PaneSplit* pSplit : {&m_inner, &m_outer}) {
         pSplit->SetAutoDeletePanes(FALSE);
         pSplit->ModifyStyle(WS_TABSTOP, 0);
+        pSplit->EnableExpectedKeys();
     }
+    // As a screen reader names the bars.
+    m_outer.SetWindowText("Width of the tree");
+    m_inner.SetWindowText("Height of the list");
     m_inner.SetSplitRatio(layout.nListPercent);
     m_outer.SetSplitRatio(layout.nTreePercent);
     return m_inner.AddPane(&m_list) && m_inner.AddPane(&m_details) && m_outer.AddPane(&m_tree) &&

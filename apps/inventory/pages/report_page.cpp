@@ -1,5 +1,6 @@
 #include "pages/report_page.h"
 
+#include "model/flow_layout.h"
 #include "model/report_export.h"
 #include "model/report_settings.h"
 #include "model/report_values.h"
@@ -13,23 +14,26 @@ namespace {
 constexpr int kGap = 6;
 constexpr int kPanelWidth = 130;
 constexpr int kRowHeight = 22;
-constexpr int kListHeight = 300;  // of the reports to choose from, when open
+constexpr int kLeastRowHeight = 20;  // has room for the words
+constexpr int kListHeight = 300;     // of the reports to choose from, when open
 
 struct Choice {
     UINT nID;
     const char* pszText;
 };
-constexpr Choice kOptionTexts[] = {{ID_REPORT_INTRODUCTION, "Introduction"},
-                                   {ID_REPORT_SECTIONS, "Sections"},
-                                   {ID_REPORT_TOTALS, "Totals"},
-                                   {ID_REPORT_LIST, "List as sorted"}};
-constexpr Choice kButtonTexts[] = {{ID_REPORT_PREVIOUS, "Previous page"},
-                                   {ID_REPORT_NEXT, "Next page"},
-                                   {ID_REPORT_ZOOM_IN, "Zoom in"},
-                                   {ID_REPORT_ZOOM_OUT, "Zoom out"},
-                                   {ID_REPORT_WIDTH, "Page width"},
-                                   {ID_REPORT_FIT, "Fit"},
-                                   {ID_REPORT_NEW, "New report..."},
+constexpr Choice kOptionTexts[] = {{ID_REPORT_INTRODUCTION, "Introdu&ction"},
+                                   {ID_REPORT_SECTIONS, "&Sections"},
+                                   {ID_REPORT_TOTALS, "Tot&als"},
+                                   {ID_REPORT_LIST, "List as &you sort it"}};
+// Letters that the menus of the frame leave free, for what has no key of its own in a dialog or
+// menu.
+constexpr Choice kButtonTexts[] = {{ID_REPORT_PREVIOUS, "Previous pa&ge"},
+                                   {ID_REPORT_NEXT, "Ne&xt page"},
+                                   {ID_REPORT_ZOOM_IN, "&Zoom in"},
+                                   {ID_REPORT_ZOOM_OUT, "Zoo&m out"},
+                                   {ID_REPORT_WIDTH, "Page &width"},
+                                   {ID_REPORT_FIT, "&Fit"},
+                                   {ID_REPORT_NEW, "&New report..."},
                                    {ID_REPORT_EDIT, "Edit report..."},
                                    {ID_REPORT_SAVE_AS, "Save report as..."},
                                    {ID_REPORT_RENAME, "Rename report..."},
@@ -103,21 +107,26 @@ void ReportPage::OnSize(UINT nType, int cx, int cy) {
     // Room for the words in any size of the system's fonts.
     const int nDpi = CClientDC(this).GetDeviceCaps(LOGPIXELSX);
     const auto scaled = [&](int nPixels) { return ::MulDiv(nPixels, nDpi, 96); };
-    int y = kGap;
-    const auto place = [&](CWnd& wnd) {
-        wnd.MoveWindow(kGap, y, scaled(kPanelWidth) - 2 * kGap, scaled(kRowHeight));
-        y += scaled(kRowHeight) + kGap;
+    const int nColumn = scaled(kPanelWidth);
+    const RowsInColumns rows = FitRows(2 + kOptions + kButtons, cy - 2 * kGap, scaled(kRowHeight),
+                                       scaled(kLeastRowHeight), kGap);
+    int nRow = 0;
+    const auto place = [&](CWnd& wnd, int nHeight) {
+        wnd.MoveWindow(kGap + nRow / rows.nInColumn * nColumn,
+                       kGap + nRow % rows.nInColumn * (rows.nHeight + rows.nGap),
+                       nColumn - 2 * kGap, nHeight);
+        ++nRow;
     };
-    m_choice.MoveWindow(kGap, y, scaled(kPanelWidth) - 2 * kGap, scaled(kListHeight));
-    y += scaled(kRowHeight) + kGap;
+    place(m_choice, scaled(kListHeight));
     for (CButton& option : m_aOptions) {
-        place(option);
+        place(option, rows.nHeight);
     }
-    y += scaled(kRowHeight);
+    ++nRow;  // an empty one between what is ticked and what is done
     for (CButton& button : m_aButtons) {
-        place(button);
+        place(button, rows.nHeight);
     }
-    m_preview.MoveWindow(scaled(kPanelWidth), 0, std::max(cx - scaled(kPanelWidth), 0), cy);
+    const int nPanel = (nRow + rows.nInColumn - 1) / rows.nInColumn * nColumn;
+    m_preview.MoveWindow(nPanel, 0, std::max(cx - nPanel, 0), cy);
 }
 
 // --- Which report

@@ -15,7 +15,8 @@ class Walk {
 public:
     Walk(MainFrame& frame, const CString& strFolder) : m_frame(frame), m_strFolder(strFolder) {}
     // False, with the reason on standard output, as soon as something does not happen. With the
-    // environment's QV_WALK_ONLY=comparisons, =keys or =look only that part, for whoever works on it.
+    // environment's QV_WALK_ONLY=comparisons, =keys or =look only that part, for whoever works on
+    // it.
     bool Run();
 
 private:
@@ -36,6 +37,7 @@ private:
     bool FindPackage();
     // Writes the list in front to a file, through the dialog.
     bool ExportTo(const CString& strFile, const char* pszStation);
+    bool KeepOldExport(const CString& strFile);
     bool ImageColumn();
     bool Export();
     bool Refresh();
@@ -124,6 +126,7 @@ private:
     bool ExportComparison();
     bool FindInComparison(class ChangedGrid& grid);
     bool ComparisonCells(class ChangedGrid& grid);
+    bool CompareWithGone();
     bool ComparisonPreview();
     bool ShowInInventory();
     bool CompareWithSame();

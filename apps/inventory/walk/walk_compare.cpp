@@ -90,9 +90,9 @@ CWnd& PreviewButton(UINT nID) {
     return *Frame().GetDlgItem(AFX_IDW_PREVIEW_BAR)->GetDlgItem(static_cast<int>(nID));
 }
 
-int TwipsPerPixel(CWnd& wnd) {
+int PixelsOf(long nTwips) {
     constexpr int kTwipsPerInch = 1440;
-    return kTwipsPerInch / CClientDC(&wnd).GetDeviceCaps(LOGPIXELSX);
+    return ::MulDiv(nTwips, CClientDC(nullptr).GetDeviceCaps(LOGPIXELSX), kTwipsPerInch);
 }
 
 // Where the strip itself says that a tab is.
@@ -100,7 +100,7 @@ CPoint PointOfTab(short nTab) {
     CTab& tabs = View()->GetTabCtrl();
     CRect rc;
     tabs.GetWindowRect(&rc);
-    const int nRight = rc.left + tabs.GetClientLeft() / TwipsPerPixel(tabs);
+    const int nRight = rc.left + PixelsOf(tabs.GetClientLeft());
     CPoint pt((rc.left + nRight) / 2, rc.top);
     if (nRight - rc.left < 8) {  // at the other side
         pt.x = rc.right - 8;
@@ -118,8 +118,7 @@ CPoint PointOfTab(short nTab) {
 constexpr int kInCell = 8;  // pixels
 
 CPoint PointOfCell(ChangedGrid& grid, int nRow, int nCol) {
-    const int nTwips = TwipsPerPixel(grid);
-    CPoint pt(grid.GetColPos(nCol) / nTwips + kInCell, grid.GetRowPos(nRow) / nTwips + kInCell);
+    CPoint pt(PixelsOf(grid.GetColPos(nCol)) + kInCell, PixelsOf(grid.GetRowPos(nRow)) + kInCell);
     grid.ClientToScreen(&pt);
     return pt;
 }
@@ -158,8 +157,8 @@ bool Walk::Comparisons() {
         return true;
     }
     WriteEarlier(m_strFolder + "\\earlier-status", packages);
-    return CompareWithEarlier() && ComparisonPages() && ComparisonPreview() && ShowInInventory() &&
-           CompareWithSame() && CloseComparison();
+    return CompareWithEarlier() && ComparisonPages() && CompareWithGone() && ComparisonPreview() &&
+           ShowInInventory() && CompareWithSame() && CloseComparison();
 }
 
 bool Walk::SaveSnapshot() {
@@ -236,7 +235,14 @@ bool Walk::ComparisonPages() {
         return false;
     }
     Frame().SendMessage(WM_COMMAND, ID_COMPARE_AGAIN);
+    CRect rcGrid;
+    CRect rcView;
+    CRect rcBoth;
+    grid.GetWindowRect(&rcGrid);
+    View()->GetWindowRect(&rcView);
     return Happened("which it stays as all is compared again", grid.Row() == 1) &&
+           Happened("the page ends where its window does",
+                    rcBoth.IntersectRect(rcGrid, rcView) && rcBoth == rcGrid) &&
            Station("compare-6-changed", &Frame()) && FindInComparison(grid) &&
            ComparisonCells(grid) && ExportComparison();
 }
@@ -263,7 +269,11 @@ bool Walk::FindInComparison(ChangedGrid& grid) {
     const bool bFound = Expect("the row is found", [&] {
         return grid.GetTextMatrix(grid.Row() + 1, ChangedGrid::kName).Find(strName) >= 0;
     });
-    const bool bGood = bFound && Station("compare-13-found", &Frame());
+    const bool bGood =
+        bFound &&
+        Happened("and marked from its name to its end",
+                 grid.GetCol() == ChangedGrid::kName && grid.GetColSel() == ChangedGrid::kChange) &&
+        Station("compare-13-found", &Frame());
     ::SetFocus(::GetDlgItem(hDialog, edt1));
     Press(VK_ESCAPE);
     if (!bGood || !Expect("Escape closes the dialog", [&] { return !::IsWindow(hDialog); })) {
@@ -327,17 +337,39 @@ bool Walk::ComparisonCells(ChangedGrid& grid) {
     if (!Expect("a click picks the cell", [&] { return grid.GetRow() == nRow; })) {
         return false;
     }
-    const CPoint ptBelow(pt.x - kInCell,
-                         pt.y - kInCell + grid.GetRowHeight(nRow) / TwipsPerPixel(grid));
+    const CPoint ptBelow(pt.x - kInCell, pt.y - kInCell + PixelsOf(grid.GetRowHeight(nRow)));
     Frame().SetTimer(1, 50, CloseMenu);
     Press(VK_F10, VK_SHIFT);
-    if (!Expect("a key opens its menu below it", [&] { return s_ptMenu == ptBelow; })) {
+    // Further to the left where the screen ends before it does.
+    if (!Expect("a key opens its menu below it", [&] {
+            return s_ptMenu.y == ptBelow.y && s_ptMenu.x != -1 && s_ptMenu.x <= ptBelow.x;
+        })) {
         return false;
     }
     Press('C', VK_CONTROL);
     return Expect("a key copies it", [&] {
         return ClipboardText() == grid.GetTextMatrix(nRow, ChangedGrid::kNow) + "\r\n";
     });
+}
+
+// The earlier file is away for a while.
+bool Walk::CompareWithGone() {
+    const CString strFile = m_strFolder + "\\earlier-status";
+    const CString strAway = strFile + "-away";
+    if (!Happened("the file is moved", ::MoveFile(strFile, strAway) != FALSE)) {
+        return false;
+    }
+    const bool bTold = InDialog(
+        "Exception Message", [] { Press(VK_F5); },
+        [this](CWnd& dialog) {
+            const bool bGood = Station("compare-14-gone", &dialog);
+            Press(VK_ESCAPE);
+            return bGood;
+        });
+    return Happened("and moved back", ::MoveFile(strAway, strFile) != FALSE) && bTold &&
+           Expect("the comparison is in front again",
+                  [] { return ::GetForegroundWindow() == Frame().m_hWnd; }) &&
+           Happened("as it was", View()->Active()->Rows() > 0);
 }
 
 bool Walk::ComparisonPreview() {

@@ -291,6 +291,11 @@ bool Walk::ContextMenus() {
         }
     }
     ClickTab(0);
+    // Away from where the menu comes up: an item below the pointer would be the chosen one.
+    CRect rcFrame;
+    m_frame.GetWindowRect(&rcFrame);
+    SendMouse(rcFrame.CenterPoint(), {MOUSEEVENTF_MOVE});
+    HandleMessages();
     return InMenu(
         "a menu of the frame comes up", "keys-11-help", [] { Press('I', VK_MENU); },
         [this] {

@@ -35,6 +35,11 @@ bool Walk::Logs() {
     if (!Happened("a rotated log opens", log.Open(strFile) == nullptr) ||
         !Happened("with what was logged before beside it",
                   log.ShowsBoth() && right.IsWindowVisible() && right.NumLines() > 0) ||
+        !Expect("which the status bar says",
+                [&] {
+                    return m_frame.StatusText(0) ==
+                           "rotated.log, and on the right what was logged before";
+                }) ||
         !Station("log-2-two-parts")) {
         return false;
     }

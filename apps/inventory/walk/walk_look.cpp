@@ -44,8 +44,8 @@ public:
         for (const size_t n : {1u, 3u, 5u}) {
             dark[n] = RGB(255, 255, 0);
         }
-        dark[6] = RGB(0, 96, 96);  // what is selected
-        dark[7] = RGB(255, 255, 255);
+        dark[6] = RGB(26, 235, 255);  // what is selected, which takes the window's colour as text
+        dark[7] = RGB(0, 0, 0);
         dark[8] = RGB(0, 192, 0);   // what cannot be used
         dark[9] = RGB(96, 96, 96);  // edges
         dark[10] = RGB(160, 160, 160);

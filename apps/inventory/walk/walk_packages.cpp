@@ -125,7 +125,36 @@ bool Walk::Export() {
     return ExportTo(m_strFolder + "\\packages.html", "packages-4-export-page") &&
            ExportTo(strFile, "packages-5-export-csv") &&
            Happened("a line for each row, below the headings",
-                    CountLines(strFile) == List().GetItemCount() + 1);
+                    CountLines(strFile) == List().GetItemCount() + 1) &&
+           KeepOldExport(strFile);
+}
+
+// The file that there is, by its name alone: no is the answer, and the dialog goes.
+bool Walk::KeepOldExport(const CString& strFile) {
+    CFileStatus before;
+    CFileStatus after;
+    bool bAsked = false;
+    return Happened("the list was written", CFile::GetStatus(strFile, before)) &&
+           InDialog(
+               "Export the list", [] { Press('E', VK_CONTROL); },
+               [&](CWnd& dialog) {
+                   dialog.SetDlgItemText(IDC_EXPORT_PATH, QVPath(strFile).GetName());
+                   const bool bGood = InDialog(
+                       "Inventory", [] { Press(VK_RETURN); },
+                       [&](CWnd&) {
+                           const bool bStation = Station("packages-7-replace");
+                           Press(VK_RETURN);
+                           return bAsked = bStation;
+                       });
+                   return bGood &&
+                          Expect("the dialog is still there",
+                                 [&] { return ::IsChild(dialog.m_hWnd, ::GetFocus()) != FALSE; }) &&
+                          (Press(VK_ESCAPE), true);
+               }) &&
+           bAsked &&
+           Happened("and the file is as it was", CFile::GetStatus(strFile, after) &&
+                                                     after.m_size == before.m_size &&
+                                                     after.m_mtime == before.m_mtime);
 }
 
 // What is open and selected, and where it is scrolled to, stays so.

@@ -2,6 +2,25 @@
 
 #include "resource.h"
 
+namespace {
+
+bool HoldsItsChildren(CWnd& wnd) {
+    CRect rcWnd;
+    wnd.GetWindowRect(&rcWnd);
+    for (CWnd* pChild = wnd.GetWindow(GW_CHILD); pChild != nullptr;
+         pChild = pChild->GetWindow(GW_HWNDNEXT)) {
+        CRect rc;
+        pChild->GetWindowRect(&rc);
+        CRect rcInside;
+        if (pChild->IsWindowVisible() && (!rcInside.IntersectRect(rc, rcWnd) || rcInside != rc)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+}  // namespace
+
 bool Walk::ReportPages() {
     ClickTab(1);
     if (!Expect("the report has pages", [this] { return m_frame.Report().Pages() > 1; }) ||
@@ -46,6 +65,7 @@ bool Walk::Zoom() {
     const int nWhole = preview.Percent();
     m_frame.SetWindowPos(nullptr, 0, 0, rc.Width(), rc.Height() * 3 / 4, SWP_NOMOVE | SWP_NOZORDER);
     if (!Expect("and follows the window", [&] { return fits() && preview.Percent() < nWhole; }) ||
+        !Happened("all buttons are in a window that is low", HoldsItsChildren(report)) ||
         !Station("report-4-whole-page")) {
         return false;
     }

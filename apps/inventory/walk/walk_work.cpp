@@ -107,7 +107,14 @@ bool Walk::CancelExport() {
                "work-4-exporting", kSlow,
                [&] {
                    bAsked = InDialog(
-                       "Export the list", [] { Press('E', VK_CONTROL); }, Confirm);
+                       "Export the list", [] { Press('E', VK_CONTROL); },
+                       [this](CWnd& dialog) {
+                           WhileUp("Inventory", [](CWnd&) {
+                               Press('Y');  // it may take the old one's place
+                               return true;
+                           });
+                           return Confirm(dialog);
+                       });
                },
                [] { return true; }) &&
            bAsked &&

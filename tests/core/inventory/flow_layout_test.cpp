@@ -1,5 +1,6 @@
 #include "model/flow_layout.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <string>
 
@@ -26,6 +27,26 @@ TEST(FlowLayout, GroupsStayAsDrawnUntilTheyHaveNoRoom) {
     EXPECT_EQ(Flowed(170), "4 | 4 74 | 4 =3");
     EXPECT_EQ(Flowed(110), "4 | 4 | 4 | 4 =4");
     EXPECT_EQ(Flowed(20), "4 | 4 | 4 | 4 =4") << "too narrow for any";
+}
+
+// Ten rows of 20 pixels, 6 between: how many below each other, how high, how far apart.
+std::string Rows(int nRoom) {
+    const RowsInColumns rows = FitRows(10, nRoom, 20, 16, 6);
+    EXPECT_LE(rows.nInColumn * (rows.nHeight + rows.nGap) - rows.nGap, std::max(nRoom, 16));
+    return std::to_string(rows.nInColumn) + " of " + std::to_string(rows.nHeight) + "+" +
+           std::to_string(rows.nGap);
+}
+
+TEST(FlowLayout, RowsMoveTogetherThenBecomeLowerThenStandSideBySide) {
+    EXPECT_EQ(Rows(1000), "10 of 20+6");
+    EXPECT_EQ(Rows(259), "10 of 20+6") << "nothing stands below the last one";
+    EXPECT_EQ(Rows(240), "10 of 20+4");
+    EXPECT_EQ(Rows(190), "10 of 18+1");
+    EXPECT_EQ(Rows(169), "10 of 16+1");
+    EXPECT_EQ(Rows(168), "5 of 20+6") << "two columns have room again";
+    EXPECT_EQ(Rows(40), "2 of 19+1");
+    EXPECT_EQ(Rows(0), "1 of 16+1") << "no room at all";
+    EXPECT_EQ(Rows(-5), "1 of 16+1");
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 // What the inventory's resource scripts say of keys: letters in menus and dialogs, accelerators,
-// and the status bar's text of each command.
+// and the status bar's text of each command; and that controls have room in their dialogs.
 #include <algorithm>
 #include <cctype>
 #include <cstring>
@@ -141,6 +141,22 @@ std::string Number(const std::string& strId) {
     return it != s_numbers.end() ? it->second : strId;
 }
 
+// Those of the fields that are numbers.
+std::vector<int> Numbers(const std::vector<std::string>& fields) {
+    std::vector<int> numbers;
+    for (const std::string& strField : fields) {
+        std::istringstream stream(strField);
+        for (std::string str; std::getline(stream, str, ',');) {
+            const std::string strNumber = Trimmed(str);
+            if (!strNumber.empty() &&
+                strNumber.find_first_not_of("-0123456789") == std::string::npos) {
+                numbers.push_back(std::stoi(strNumber));
+            }
+        }
+    }
+    return numbers;
+}
+
 // 0: none.
 char LetterOf(const std::string& strText) {
     for (size_t i = 0; i + 1 < strText.size(); ++i) {
@@ -151,6 +167,16 @@ char LetterOf(const std::string& strText) {
     return 0;
 }
 
+// Of the main window's menus.
+std::string LettersOfFrame() {
+    std::string letters;
+    for (const Entry& entry : All()) {
+        const bool bOfFrame = entry.strResource == "IDR_MAINFRAME" && entry.groups.size() == 1;
+        letters += entry.IsItem() && bOfFrame ? std::string(1, LetterOf(entry.strText)) : "";
+    }
+    return letters;
+}
+
 // What is taken around a page: by the buttons of its sheet, or the menus of its frame.
 std::string LettersAround(const std::string& strDialog) {
     std::string letters;
@@ -159,12 +185,24 @@ std::string LettersAround(const std::string& strDialog) {
     } else if (strDialog.starts_with("IDD_PREFERENCES_")) {
         letters = "A";
     } else if (strDialog == "IDD_PACKAGE_BAR") {
-        for (const Entry& entry : All()) {
-            const bool bOfFrame = entry.strResource == "IDR_MAINFRAME" && entry.groups.size() == 1;
-            letters += entry.IsItem() && bOfFrame ? std::string(1, LetterOf(entry.strText)) : "";
-        }
+        letters = LettersOfFrame();
     }
     return letters;
+}
+
+// The texts of controls that a source makes, those with a letter.
+std::vector<std::string> LetteredTexts(const std::string& strSource) {
+    std::vector<std::string> texts;
+    for (const std::string& strLine : LinesOf(kApplication + strSource)) {
+        std::istringstream stream(strLine);
+        std::string strText;
+        for (bool bQuoted = false; std::getline(stream, strText, '"'); bQuoted = !bQuoted) {
+            if (bQuoted && LetterOf(strText) != 0) {
+                texts.push_back(strText);
+            }
+        }
+    }
+    return texts;
 }
 
 }  // namespace
@@ -220,6 +258,46 @@ TEST(Mnemonics, EachControlOfADialogIsReachedByALetterOfItsOwn) {
         chBefore = ch;  // a label is of the control behind it
     }
     EXPECT_GT(nControls, 50) << "the scripts were read";
+}
+
+// In units of a dialog, which rounds to pixels differently for each size of the system's fonts:
+// what ends where its page does loses its edge.
+TEST(Dialogs, ControlsEndBeforeTheRightEdge) {
+    std::map<std::string, int> widths;
+    for (const std::string& strLine : Script(kApplication + "inventory.rc")) {
+        const std::vector<std::string> words = WordsOf(strLine);
+        if (words[1] == "DIALOG") {
+            widths[words[0]] = Numbers({Trimmed(strLine.substr(strLine.find("DIALOG") + 6))})[2];
+        }
+    }
+    int nControls = 0;
+    for (const Entry& entry : All()) {
+        // The one control of these fills them.
+        const bool bFilled = entry.strResource.starts_with("IDD_DETAILS_") ||
+                             entry.strResource.starts_with("IDD_COMPARE_");
+        const std::vector<int> numbers = Numbers(entry.fields);
+        if (entry.strKind == "DIALOG" && !bFilled && numbers.size() >= 4) {
+            ++nControls;
+            EXPECT_LT(numbers[numbers.size() - 4] + numbers[numbers.size() - 2],
+                      widths[entry.strResource])
+                << entry.strResource << ": " << entry.strText << " " << entry.fields[0];
+        }
+    }
+    EXPECT_GT(nControls, 100) << "the scripts were read";
+}
+
+TEST(Mnemonics, ButtonsBesideAPageTakeNoLetterFromEachOtherOrFromTheMenus) {
+    const std::map<std::string, size_t> kLettered = {{"pages/report_page.cpp", 11},
+                                                     {"pages/log_page.cpp", 2}};
+    for (const auto& [strSource, nTexts] : kLettered) {
+        std::string letters = LettersOfFrame();
+        const std::vector<std::string> texts = LetteredTexts(strSource);
+        EXPECT_EQ(texts.size(), nTexts) << strSource;
+        for (const std::string& strText : texts) {
+            EXPECT_EQ(letters.find(LetterOf(strText)), std::string::npos) << strText;
+            letters += LetterOf(strText);
+        }
+    }
 }
 
 TEST(Mnemonics, MenusAndAcceleratorsSayTheSameOfKeys) {
