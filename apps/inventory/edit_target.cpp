@@ -24,6 +24,26 @@ bool HasSelection(HWND hEdit) {
     return dwStart != dwEnd;
 }
 
+// What is about the text of an edit.
+void DoInEdit(HWND hEdit, EditCommand command) {
+    switch (command) {
+        case EditCommand::SelectAll:
+            ::SendMessage(hEdit, EM_SETSEL, 0, -1);
+            break;
+        case EditCommand::Copy:
+            ::SendMessage(hEdit, WM_COPY, 0, 0);
+            break;
+        case EditCommand::Cut:
+            ::SendMessage(hEdit, WM_CUT, 0, 0);
+            break;
+        case EditCommand::Paste:
+            ::SendMessage(hEdit, WM_PASTE, 0, 0);
+            break;
+        default:
+            break;
+    }
+}
+
 // The platform's edit, in a combo box as well.
 class TextField : public EditTarget {
 public:
@@ -53,18 +73,6 @@ public:
 
     void Do(EditCommand command) override {
         switch (command) {
-            case EditCommand::SelectAll:
-                ::SendMessage(m_hEdit, EM_SETSEL, 0, -1);
-                break;
-            case EditCommand::Copy:
-                ::SendMessage(m_hEdit, WM_COPY, 0, 0);
-                break;
-            case EditCommand::Cut:
-                ::SendMessage(m_hEdit, WM_CUT, 0, 0);
-                break;
-            case EditCommand::Paste:
-                ::SendMessage(m_hEdit, WM_PASTE, 0, 0);
-                break;
             case EditCommand::Undo:
                 ::SendMessage(m_hEdit, EM_UNDO, 0, 0);
                 m_undone = {m_hEdit, Text()};
@@ -74,6 +82,7 @@ public:
                 m_undone = {};
                 break;
             default:
+                DoInEdit(m_hEdit, command);
                 break;
         }
     }
@@ -128,30 +137,19 @@ public:
 
     // As the keys do: in a cell that is being typed in, what is about its text is the edit's own.
     void Do(EditCommand command) override {
+        if (IsOfTheEdit(command)) {
+            DoInEdit(m_hEdit, command);
+            return;
+        }
         switch (command) {
-            case EditCommand::SelectAll:
-                ::SendMessage(m_hEdit, EM_SETSEL, 0, -1);
-                break;
             case EditCommand::Copy:
-                if (m_hEdit != nullptr && HasSelection(m_hEdit)) {
-                    ::SendMessage(m_hEdit, WM_COPY, 0, 0);
-                } else {
-                    m_grid.CopyCell();
-                }
+                m_grid.CopyCell();
                 break;
             case EditCommand::Cut:
-                if (m_hEdit != nullptr) {
-                    ::SendMessage(m_hEdit, WM_CUT, 0, 0);
-                } else {
-                    m_grid.CutCell();
-                }
+                m_grid.CutCell();
                 break;
             case EditCommand::Paste:
-                if (m_hEdit != nullptr && ClipboardText(m_grid).FindOneOf("\t\r\n") < 0) {
-                    ::SendMessage(m_hEdit, WM_PASTE, 0, 0);
-                } else {
-                    m_grid.PasteCells();
-                }
+                m_grid.PasteCells();
                 break;
             case EditCommand::Undo:
                 m_grid.UndoEdit();
@@ -167,6 +165,20 @@ public:
     bool HasKey(EditCommand command) const override { return command != EditCommand::SelectAll; }
 
 private:
+    bool IsOfTheEdit(EditCommand command) const {
+        switch (command) {
+            case EditCommand::SelectAll:
+            case EditCommand::Cut:
+                return m_hEdit != nullptr;
+            case EditCommand::Copy:
+                return m_hEdit != nullptr && HasSelection(m_hEdit);
+            case EditCommand::Paste:
+                return m_hEdit != nullptr && ClipboardText(m_grid).FindOneOf("\t\r\n") < 0;
+            default:
+                return false;
+        }
+    }
+
     QVGridCtrl& m_grid;
     HWND m_hEdit;  // null: none is open
 };
@@ -204,7 +216,7 @@ public:
         if (command == EditCommand::Copy) {
             m_list.CopySelection();
         } else {
-            m_list.SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
+            m_list.SelectAllRows();
         }
     }
 

@@ -160,6 +160,9 @@ public:
     // The selected rows as text that spreadsheets take, without headings and style codes. 0 if
     // there is none, or no memory, or the clipboard is another's.
     BOOL CopySelection();
+    // Nothing in a list that lets only one be selected. Many are drawn at once, at the end. The
+    // parent is told of each; where rows are the application's, of all at once.
+    void SelectAllRows();
     // Repaints the rows, not the headings.
     void InvalidateData(BOOL bErase);
 
@@ -320,7 +323,6 @@ private:
     bool ShowsSelAlways() const { return (GetStyle() & LVS_SHOWSELALWAYS) != 0; }
     bool SortsItself();
     bool TakeTypedChar(UINT nChar);
-    void SelectAllRows();
     // Whether a change of so many rows is drawn at its end.
     bool PausesFor(int nRows) const;
     void ClickHeading(int nPlace);

@@ -19,7 +19,7 @@ void QVListCtrlEx::OnKeyDown(UINT nChar, UINT, UINT) {
         return;
     }
     const qv::EditCommand command = qv::EditCommandOf(nChar, held);
-    if (command == qv::EditCommand::SelectAll && (GetStyle() & LVS_SINGLESEL) == 0) {
+    if (command == qv::EditCommand::SelectAll) {
         SelectAllRows();
     } else if (command == qv::EditCommand::Copy) {
         CopySelection();
@@ -80,6 +80,9 @@ bool QVListCtrlEx::TakeTypedChar(UINT nChar) {
 // One by one: not every platform's list lives through a parent that takes it away in the middle of
 // all at once, which one over an application's rows alone can do fast.
 void QVListCtrlEx::SelectAllRows() {
+    if ((GetStyle() & LVS_SINGLESEL) != 0) {
+        return;
+    }
     const qv::WindowWatch watch(m_alive, m_hWnd);
     const qv::RedrawPause pause(*this, PausesFor(GetItemCount()));
     if ((GetStyle() & LVS_OWNERDATA) != 0) {

@@ -23,7 +23,7 @@ protected:
     void Clear() override { m_list.DeleteAllItems(); }
     CString SelectedText() override;
     bool HasSelection() override { return m_list.GetSelectedCount() > 0; }
-    void SelectAll() override { m_list.SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED); }
+    void SelectAll() override { m_list.SelectAllRows(); }
     const Package* ShownPackage() override { return nullptr; }
     CRect FocusRect() override;
 
@@ -51,7 +51,7 @@ protected:
     void Clear() override;
     CString SelectedText() override;
     bool HasSelection() override { return m_list.GetSelectedCount() > 0; }
-    void SelectAll() override { m_list.SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED); }
+    void SelectAll() override { m_list.SelectAllRows(); }
     const Package* ShownPackage() override;
     void LayOut(CSize size) override;
     void UseColors() override;
